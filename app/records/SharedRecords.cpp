@@ -1,0 +1,6 @@
+#include "records/SharedRecords.h"
+
+SharedRecords& sharedRecords() {
+    static SharedRecords records;
+    return records;
+}

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "base/Color.h"
+#include "base/Geometry.h"
+#include "base/PictureData.h"
+#include "document/Document.h"
+#include "pdf/PageContent.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What the first stages make of one page on its own: lines of words, rules, figures. Positions are in page space (points).
+namespace orvane::layout {
+
+/// How characters look on the page.
+struct Look {
+    std::uint32_t font = 0;          ///< index into PageText::fonts
+    double size = 10;                ///< points; of superscripts the size of the text they belong to
+    Color color;
+    std::optional<Color> highlight;
+    document::UnderlineKind underline = document::UnderlineKind::None;
+    document::VerticalPosition verticalPosition = document::VerticalPosition::Baseline;
+    bool isBold = false;
+    bool isItalic = false;
+    bool isStruck = false;
+    bool isSmallCaps = false;
+    bool isOutlined = false;
+    bool isInvisible = false;        ///< recognised text behind a scanned picture
+    double horizontalScale = 1;
+    double characterSpacing = 0;     ///< points beyond the font's own advances, averaged over the span
+    int link = -1;                   ///< index into PageText::links
+
+    bool operator==(const Look&) const = default;
+};
+
+/// Characters of one look that follow each other without a gap.
+struct Span {
+    std::string text;                ///< UTF-8, logical order
+    Look look;
+    Rect box;
+    double baseline = 0;
+    int mark = -1;                   ///< index into PageText::marks
+};
+
+/// What lies between a word and the one before it on the line.
+enum class Gap : std::uint8_t {
+    None,                            ///< nothing: scripts written without blanks
+    Space,
+    Tab,                             ///< a jump wider than word spacing explains
+};
+
+struct Word {
+    std::vector<Span> spans;
+    Rect box;
+    Gap gapBefore = Gap::Space;
+    document::TabLeader leaderBefore = document::TabLeader::None; ///< what fills a Gap::Tab
+    bool isRightToLeft = false;
+};
+
+/// Words on one baseline that were written as one line; a wide gap between columns ends it.
+struct Line {
+    std::vector<Word> words;         ///< logical order
+    Rect box;                        ///< ascent to descent of the text, not of the ink
+    double baseline = 0;             ///< y; x of the baseline for angle 90 and 270
+    double fontSize = 0;             ///< of most of its characters
+    double angle = 0;                ///< degrees clockwise: 0, 90, 180, 270 or another
+    bool isRightToLeft = false;
+    bool isVertical = false;         ///< East Asian vertical writing
+    std::uint32_t firstPaintOrder = 0;
+};
+
+enum class RuleDirection : std::uint8_t { Horizontal, Vertical };
+
+/// A straight line, drawn as a stroke or as a thin filled rectangle.
+struct Rule {
+    RuleDirection direction = RuleDirection::Horizontal;
+    double position = 0;             ///< y of a horizontal rule's middle, x of a vertical one's
+    double from = 0;                 ///< along its direction
+    double to = 0;
+    double width = 0.5;              ///< points
+    Color color;
+    document::BorderKind kind = document::BorderKind::Single;
+    bool isUsed = false;             ///< taken by a stage: an underline, a strike, a table's border
+    std::uint32_t paintOrder = 0;
+};
+
+/// A filled upright rectangle that may be a ground behind text: shading, a highlight, a cell.
+struct Ground {
+    Rect box;
+    Color color;
+    double opacity = 1;
+    bool isUsed = false;
+    std::uint32_t paintOrder = 0;
+};
+
+/// A picture, or a group of drawn paths that belong together.
+struct Figure {
+    Rect box;                        ///< as seen, clipped
+    PictureId picture;               ///< 0 for a drawing that has not been painted
+    bool needsPainting = false;      ///< a drawing: the page's reader is to paint `box` and put the id into `picture`
+    Matrix matrix;                   ///< of a picture; see pdf::Picture
+    document::Crop crop;
+    double opacity = 1;
+    bool isBackground = false;       ///< covers (nearly) the whole page, or lies under text
+    std::string alternateText;
+    std::vector<std::size_t> paths;  ///< of a drawing: indices into pdf::PageContent::paths
+    std::uint32_t paintOrder = 0;
+};
+
+/// One page after the stages that need no other page.
+struct PageText {
+    int number = 0;
+    double width = 0;
+    double height = 0;
+    std::vector<pdf::Font> fonts;
+    std::vector<Line> lines;         ///< top to bottom, not yet in reading order
+    std::vector<Rule> rules;
+    std::vector<Ground> grounds;
+    std::vector<Figure> figures;
+    std::vector<pdf::Link> links;
+    std::vector<pdf::Annotation> annotations;
+    std::vector<pdf::FormField> fields;
+    std::vector<pdf::Mark> marks;
+    bool isScanned = false;          ///< one picture covers the page and all text behind it is invisible
+};
+
+} // namespace orvane::layout

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "base/PictureStore.h"
+#include "pdf/PageContent.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orvane::pdf {
+
+/// The passwords a user gave; empty for none.
+struct Passwords {
+    std::string user;
+    std::string owner;
+};
+
+/// Title, author and so on as UTF-8; dates as ISO 8601 ("2024-05-01T10:00:00Z"); empty where the file has none.
+struct Metadata {
+    std::string title;
+    std::string author;
+    std::string subject;
+    std::string keywords;
+    std::string creator;
+    std::string producer;
+    std::string created;
+    std::string modified;
+    std::string language; ///< BCP 47, from the catalog
+};
+
+/// One entry of the outline ("bookmarks"), with its children.
+struct OutlineEntry {
+    std::string title;
+    Destination destination;
+    std::vector<OutlineEntry> children;
+};
+
+/// One element of the structure tree. Source: ISO 32000-1, 14.7.
+struct StructureElement {
+    std::string type;          ///< standard type after the role map: "P", "H1", "Table", "L", ...
+    std::string title;
+    std::string alternateText;
+    std::string actualText;
+    std::string language;
+    int rowSpan = 1;
+    int columnSpan = 1;
+    bool isHeaderCell = false;
+    struct Content {
+        int page = 0;
+        int mcid = -1;
+    };
+    std::vector<Content> content;
+    std::vector<StructureElement> children;
+};
+
+/// What a page's own dictionary says.
+struct PageInfo {
+    double width = 0;          ///< points, as shown
+    double height = 0;
+    int rotation = 0;
+    std::string label;
+};
+
+struct PageReadOptions {
+    PictureStore* pictures = nullptr; ///< takes the page's pictures as they are read; null leaves them out
+};
+
+/// An open PDF.
+/// Errors: opening throws Failure(SourceUnreadable | NotAPdf | UserPasswordNeeded | OwnerPasswordNeeded).
+/// Thread: one object a thread; several objects may read the same file at once.
+class PdfDocument {
+public:
+    /// Opens `file`. With an encrypted file whose author forbids copying, the owner's password is needed.
+    static PdfDocument open(const std::filesystem::path& file, const Passwords& passwords);
+
+    PdfDocument(PdfDocument&&) noexcept;
+    PdfDocument& operator=(PdfDocument&&) noexcept;
+    ~PdfDocument();
+
+    int pageCount() const;
+    PageInfo pageInfo(int page) const;
+    Metadata metadata() const;
+    std::vector<OutlineEntry> outline() const;
+    /// The structure tree's top elements; empty for a file without tags.
+    std::vector<StructureElement> structureTree() const;
+    bool isEncrypted() const;
+    std::string pdfVersion() const; ///< "1.7"
+
+    /// Reads one page. Damage is told to `diagnostics`; what can be read is returned.
+    PageContent readPage(int page, const PageReadOptions& options, Diagnostics& diagnostics) const;
+
+    /// Paints part of a page (page space, points) as a PNG with a white ground. Used for drawings too rich to take apart.
+    PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch) const;
+
+private:
+    struct Impl;
+    explicit PdfDocument(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace orvane::pdf
