@@ -6,6 +6,17 @@ namespace orvane::layout {
 struct LayoutParameters {
     struct Words {
     } words;
+
+    /// DocumentAnalyser: what most of the document looks like.
+    struct Analysis {
+        double sizeStep = 0.5;           ///< points; font sizes are counted in classes of this width
+        double leadingStep = 0.25;       ///< points; distances between baselines are counted in classes of this width
+        double maximumLeading = 3.0;     ///< of the font size; lines farther apart say nothing about leading
+        double minimumLeading = 0.5;     ///< of the font size; lines closer together are one line, or scripts on it
+        double defaultLeading = 1.2;     ///< of the font size; where no two lines stand one below the other
+        double edgeShare = 0.1;          ///< the text area's edge is where this share of the pages (or lines) has passed it
+        int minimumWordLength = 3;       ///< bytes of UTF-8; shorter words say nothing about hyphens
+    } analysis;
 };
 
 } // namespace orvane::layout

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "base/Geometry.h"
+
+#include <string>
+#include <unordered_set>
+
+namespace orvane::layout {
+
+/// What the pages of a document have in common; the stages that work on one page compare against it. Units: points.
+struct DocumentContext {
+    int pageCount = 0;
+    double bodyFontSize = 11;   ///< the size in which most characters are set
+    double bodyLeading = 13.4;  ///< the most frequent distance from baseline to baseline at that size
+    Rect textArea;              ///< within which most pages set their text, running heads aside; page space
+    bool isRightToLeft = false; ///< most words are
+    std::unordered_set<std::string>
+        vocabulary; ///< words that stand whole within a line, lower case; to judge hyphens by
+};
+
+} // namespace orvane::layout

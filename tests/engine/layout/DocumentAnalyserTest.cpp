@@ -1,0 +1,74 @@
+#include "layout/DocumentAnalyser.h"
+
+#include "engine/layout/TextBuilder.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeLine;
+using tests::makePage;
+
+PageText pageOfText(int number, double size, double leading) {
+    PageText page = makePage(number);
+    page.lines.push_back(makeLine("A heading", 72, 72, {.size = 20}));
+    for (int i = 0; i < 20; ++i)
+        page.lines.push_back(makeLine("plain words that fill one line of text", 72, 110 + i * leading, {.size = size}));
+    return page;
+}
+
+TEST(DocumentAnalyser, FindsSizeAndLeadingOfMostText) {
+    const DocumentContext context = analyseDocument({pageOfText(1, 11, 14.5), pageOfText(2, 11, 14.5)}, {});
+    EXPECT_EQ(context.pageCount, 2);
+    EXPECT_NEAR(context.bodyFontSize, 11, 0.01);
+    EXPECT_NEAR(context.bodyLeading, 14.5, 0.01);
+}
+
+TEST(DocumentAnalyser, MeasuresLeadingWithinColumns) {
+    PageText page = makePage(1);
+    for (int i = 0; i < 20; ++i) {
+        page.lines.push_back(makeLine("left", 72, 100 + i * 12.0));
+        page.lines.push_back(makeLine("right", 320, 103 + i * 12.0));
+    }
+    EXPECT_NEAR(analyseDocument({page}, {}).bodyLeading, 12, 0.01);
+}
+
+TEST(DocumentAnalyser, FindsTheTextAreaOfMostPages) {
+    std::vector<PageText> pages;
+    for (int i = 1; i <= 12; ++i)
+        pages.push_back(pageOfText(i, 10, 12));
+    pages.push_back(makePage(13));
+    pages.back().lines.push_back(makeLine("out", 5, 20));
+    const Rect area = analyseDocument(pages, {}).textArea;
+    EXPECT_NEAR(area.left, 72, 0.01);
+    EXPECT_NEAR(area.top, 72 - 16, 0.01);
+    EXPECT_NEAR(area.bottom, 110 + 19 * 12 + 2, 0.01);
+}
+
+TEST(DocumentAnalyser, KeepsWordsThatStandWithinLines) {
+    PageText page = makePage(1);
+    page.lines.push_back(makeLine("hyphen (\xC3\x89tude) well-known of ation", 72, 72));
+    const auto words = analyseDocument({page}, {}).vocabulary;
+    EXPECT_TRUE(words.contains("\xC3\xA9tude")) << "without its brackets, in lower case";
+    EXPECT_FALSE(words.contains("hyphen")) << "may be half a word";
+    EXPECT_FALSE(words.contains("ation")) << "may be half a word";
+    EXPECT_FALSE(words.contains("of")) << "too short to tell anything";
+    EXPECT_FALSE(words.contains("wellknown"));
+}
+
+TEST(DocumentAnalyser, TellsRightToLeftDocuments) {
+    PageText page = makePage(1);
+    page.lines.push_back(makeLine("one two three", 72, 72));
+    EXPECT_FALSE(analyseDocument({page}, {}).isRightToLeft);
+    page.lines[0].words[0].isRightToLeft = page.lines[0].words[1].isRightToLeft = true;
+    EXPECT_TRUE(analyseDocument({page}, {}).isRightToLeft);
+}
+
+TEST(DocumentAnalyser, CopesWithPagesWithoutText) {
+    EXPECT_EQ(analyseDocument({}, {}).pageCount, 0);
+    EXPECT_EQ(analyseDocument({makePage(1)}, {}).textArea, (Rect{0, 0, 595, 842}));
+}
+
+} // namespace
+} // namespace orvane::layout
