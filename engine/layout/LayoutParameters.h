@@ -17,6 +17,46 @@ struct LayoutParameters {
         double edgeShare = 0.1;          ///< the text area's edge is where this share of the pages (or lines) has passed it
         int minimumWordLength = 3;       ///< bytes of UTF-8; shorter words say nothing about hyphens
     } analysis;
+
+    /// TableFinder and its stages: what is drawn as a grid, and what words set as one.
+    struct Tables {
+        // The drawn grid. Producers paint borders cell by cell, so ends and positions differ by about a border's width.
+        double joinGap = 3.0;           ///< points; rules that end this near to each other or to a crossing meet
+        double lineSnap = 3.0;          ///< points; parallel rules this near have no room for text between them: one line
+        double minimumLineLength = 4.0; ///< points; shorter ones are dots, ticks, corners
+        double minimumCellSide = 5.0;   ///< points; lines that overshoot the outermost crossing line by less end there
+        double missingShare = 0.1;      ///< of a cell's side that may be undrawn for the side to count as drawn
+        double doubledShare = 0.8;      ///< of its length that a line must have a second rule beside it to be a double line
+        double borderCover = 0.6;       ///< of a cell's side that rules must cover to be its border
+        int maximumPlaces = 20000;      ///< rows times columns; beyond it stand maps and charts
+
+        // Words and cells.
+        double straddle = 0.5;          ///< of the font size; how far a word may reach beyond its cell sideways
+        double straddleHeight = 0.35;   ///< of the text's height; how far it may reach beyond its cell up or down
+        double straddleShare = 0.3;     ///< of a word outside the grid that must lie within for it to be straddling
+        double straddlingShare = 0.03;  ///< of a table's words that may straddle
+
+        // What is no table.
+        double forcedShare = 0.15;      ///< of the cells that may come out of shapes that are no rectangles
+        double filledShare = 0.5;       ///< of the cells of some row or column that must hold text
+        double minimumRowHeight = 0.8;  ///< of the font size; a lower row has no room for its text
+        double flatShare = 0.3;         ///< of the filled cells that may be lower than their text
+        double figureShare = 0.9;       ///< of a drawing's part within the table that must lie in one cell
+        double frameCellShare = 0.4;    ///< of the page; a cell larger than this ...
+        double frameWordShare = 0.7;    ///< ... that holds this much of the table's words makes it a frame around the page
+
+        // The look of cells.
+        double shadingCover = 0.6;      ///< of a cell that a ground must cover to be its shading
+        double edgeTolerance = 0.15;    ///< of the font size; text edges that differ by less are aligned
+        double uprightRoom = 0.8;       ///< of the font size; with less room above and below, upright alignment shows nothing
+        double uprightTolerance = 0.35; ///< of the font size; room above and below that differs by less is equal
+        double baselineSnap = 0.2;      ///< of the font size; baselines in a cell this near are one line
+        double tabGap = 0.8;            ///< of the font size; a wider gap between words of one line is a tab
+        double paragraphPitch = 1.6;    ///< of the font size; lines of a cell farther apart are two paragraphs
+        double blankWidth = 0.25;       ///< of the font size; the blank before a word that did not fit
+        int maximumHeaderRows = 4;      ///< more rows that look alike are no head
+        double headerLikeShare = 0.25;  ///< of the other rows that may look like the head
+    } tables;
 };
 
 } // namespace orvane::layout

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "layout/BorderLines.h"
+#include "layout/CellText.h"
+#include "layout/LayoutParameters.h"
+#include "layout/PageLayout.h"
+#include "layout/TableGrid.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// Takes a table out of its page: the words of `text`, the pictures and the `nested` tables within its cells, its rules
+/// and grounds.
+TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, const std::vector<BorderLine>& lines,
+                      std::vector<TableDraft> nested, const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "layout/BorderLines.h"
+#include "layout/LayoutParameters.h"
+#include "layout/PageText.h"
+#include "layout/TableGrid.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// The grids on a page that its rules draw and that are tables, the smallest first.
+std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
+                                      const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout
