@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 /// Every threshold of the layout stages. A field says its unit, its meaning and what taught its value.
 namespace orvane::layout {
 
@@ -57,6 +59,47 @@ struct LayoutParameters {
         int maximumHeaderRows = 4;      ///< more rows that look alike are no head
         double headerLikeShare = 0.25;  ///< of the other rows that may look like the head
     } tables;
+
+    /// ListMarker: the labels of list items.
+    struct Markers {
+        double separation = 0.65; ///< of the font size; a wider gap behind the label is a tabulator's work, not a blank
+    } markers;
+
+    /// LineMeasures, ParagraphBreaks, ParagraphShape: lines of one column become paragraphs.
+    struct Paragraphs {
+        double edgeTolerance = 0.25;  ///< of the font size; edges closer than this are one edge
+        double flushTolerance = 0.08; ///< of the font size; a justified line ends this close to the column's edge
+        double fitSlack = 0.05;       ///< of the font size; what a word must leave free to have "fitted"
+        double minimumCenterIndent =
+            0.9; ///< of the font size; a line with less room beside it may be a full line by chance
+        double leadingTolerance = 1.15;     ///< of the usual leading; lines farther apart have space between paragraphs
+        double looseLeadingTolerance = 1.4; ///< likewise where the usual leading of this font size is only guessed
+        double sameRow = 0.3;               ///< of the font size; baselines closer than this stand on one row
+        double sizeChange = 1.1;            ///< ratio of font sizes from which lines look different
+        double maximumFirstLine = 8; ///< of the font size; a deeper step of the left edge is no first-line indent
+        int flushLines = 2;         ///< lines that must end at the edge before a shorter one ends a justified paragraph
+        double stretchedGap = 1.06; ///< of the natural blank; wider gaps between words tell a justified line
+        double fullLine = 2.5;      ///< of the font size; a column's last line with less room behind it may run on
+    } paragraphs;
+
+    /// GutterFinder, RegionFinder: where columns are.
+    struct Regions {
+        double narrowGutter = 0.7; ///< of the font size; narrower gaps never part columns
+        double wideGutter = 1.5;   ///< of the font size; from here on few rows are enough to believe in it
+        int minimumRows = 3;       ///< rows on each side of a wide gutter
+        int minimumRowsNarrow = 6; ///< rows on each side of a narrow one: blanks of justified lines meet by chance
+        double minimumColumn = 8;        ///< of the font size; narrower columns are labels, not prose
+        double minimumFill = 0.55;       ///< share of the column that its rows cover; less is labels and values, not prose
+        double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
+        int maximumDepth = 8;      ///< how often parts are parted again
+        std::size_t maximumStrips = 200; ///< empty strips followed at once
+    } regions;
+
+    /// ReadingOrder: where tables and figures come among the lines.
+    struct ReadingOrder {
+        double besideShare =
+            0.3; ///< of the lower of the two; a line that shares more height with a figure stands beside it
+    } readingOrder;
 };
 
 } // namespace orvane::layout

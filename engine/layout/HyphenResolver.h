@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
+namespace orvane::layout {
+
+/// What becomes of the end of a line when the next line's text is put behind it.
+enum class LineJoin : std::uint8_t {
+    Blank,      ///< a blank between the two
+    Nothing,    ///< put together as they are
+    DropHyphen, ///< the hyphen was only for the line's end
+};
+
+/// Decides how the last word of a line meets the first word of the next. `vocabulary` are words that stand whole
+/// somewhere in the document, lower case (DocumentContext::vocabulary).
+LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
+                        const std::unordered_set<std::string>& vocabulary);
+
+} // namespace orvane::layout

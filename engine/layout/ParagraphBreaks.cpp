@@ -1,0 +1,214 @@
+#include "layout/ParagraphBreaks.h"
+
+#include "layout/NaturalLeading.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+/// Walks down the lines of a column, with the paragraph that began at `m_first` growing until a line does not belong to
+/// it.
+class BreakFinder {
+public:
+    BreakFinder(std::span<const Line> lines, std::span<const LineMeasure> measures, const ParagraphContext& context,
+                const LayoutParameters::Paragraphs& parameters)
+        : m_lines(lines)
+        , m_measures(measures)
+        , m_parameters(parameters)
+        , m_leading(lines, measures, context, parameters) {}
+
+    std::vector<BreakReason> run() {
+        std::vector<BreakReason> reasons;
+        for (std::size_t next = 0; next < m_lines.size(); ++next) {
+            const BreakReason reason = next == 0 ? BreakReason::First : reasonAt(next);
+            if (reason != BreakReason::None)
+                m_first = next;
+            else
+                m_lastHang = m_measures[next].startGap - m_measures[m_first].startGap;
+            reasons.push_back(reason);
+        }
+        return reasons;
+    }
+
+private:
+    BreakReason reasonAt(std::size_t next) const {
+        if (standsElsewhere(next))
+            return BreakReason::Position;
+        if (isListItem(next))
+            return BreakReason::Marker;
+        if (hasSpaceAbove(next))
+            return BreakReason::Leading;
+        if (looksDifferent(next))
+            return BreakReason::Look;
+        if (isContentsRow(next))
+            return BreakReason::Leader;
+        if (isRowLikeTheOneAbove(next))
+            return BreakReason::Row;
+        if (isOtherwiseIndented(next))
+            return BreakReason::Indent;
+        if (wouldFitAbove(next))
+            return BreakReason::Fitted;
+        if (followsShortLine(next))
+            return BreakReason::ShortLine;
+        return BreakReason::None;
+    }
+
+    bool standsElsewhere(std::size_t next) const {
+        const Line& a = m_lines[next - 1];
+        const Line& b = m_lines[next];
+        return a.angle != b.angle || a.isVertical != b.isVertical || a.isRightToLeft != b.isRightToLeft ||
+               (!a.isVertical && a.angle == 0 && b.baseline - a.baseline < m_parameters.sameRow * a.fontSize);
+    }
+
+    bool isListItem(std::size_t next) const {
+        const LineMeasure& line = m_measures[next];
+        if (!line.marker)
+            return false;
+        if (line.marker->kind == MarkerKind::Bullet || (line.marker->isSeparated && !line.hasLeader))
+            return true;
+        const LineMeasure& first = m_measures[m_first];
+        if (first.marker && isSuccessor(*first.marker, *line.marker) && sameEdge(first.startGap, line.startGap, next))
+            return true;
+        // A number by chance at the start of a line stands at the edge of its paragraph, and the next line below it.
+        const bool hangs = next + 1 < m_lines.size() && line.textStart > line.startGap &&
+                           sameEdge(m_measures[next + 1].startGap, line.textStart, next) &&
+                           !sameEdge(m_measures[next + 1].startGap, line.startGap, next);
+        return hangs && !sameEdge(line.startGap, bodyStart(next), next);
+    }
+
+    bool hasSpaceAbove(std::size_t next) const {
+        const double size = std::max(m_lines[next].fontSize, m_lines[next - 1].fontSize);
+        const double distance = m_lines[next].baseline - m_lines[next - 1].baseline;
+        const NaturalLeading::Estimate usual = m_leading.forSize(size);
+        double expected = usual.leading;
+        double tolerance = usual.isLearnt ? m_parameters.leadingTolerance : m_parameters.looseLeadingTolerance;
+        // What the paragraph did so far is the best witness.
+        if (next - m_first >= 2) {
+            expected =
+                (m_lines[next - 1].baseline - m_lines[m_first].baseline) / static_cast<double>(next - 1 - m_first);
+            tolerance = m_parameters.leadingTolerance;
+        }
+        return distance > expected * tolerance;
+    }
+
+    bool looksDifferent(std::size_t next) const {
+        const double a = m_lines[next - 1].fontSize;
+        const double b = m_lines[next].fontSize;
+        if (std::max(a, b) > m_parameters.sizeChange * std::min(a, b))
+            return true;
+        return m_measures[next - 1].isBold != m_measures[next].isBold &&
+               isWholeParagraphBold(next) != m_measures[next].isBold;
+    }
+
+    bool isWholeParagraphBold(std::size_t next) const {
+        return std::all_of(m_measures.begin() + static_cast<std::ptrdiff_t>(m_first),
+                           m_measures.begin() + static_cast<std::ptrdiff_t>(next),
+                           [](const LineMeasure& line) { return line.isBold; });
+    }
+
+    bool isContentsRow(std::size_t next) const { return m_measures[next - 1].hasLeader; }
+
+    bool isRowLikeTheOneAbove(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        return above.tabStart && line.tabStart && sameEdge(*above.tabStart, *line.tabStart, next);
+    }
+
+    bool isOtherwiseIndented(std::size_t next) const {
+        if (pairAlignment(next) != PairAlignment::Start)
+            return false;
+        const LineMeasure& line = m_measures[next];
+        const LineMeasure& first = m_measures[m_first];
+        if (next - m_first >= 2)
+            return !sameEdge(line.startGap, m_measures[next - 1].startGap, next);
+        const double step = line.startGap - first.startGap;
+        if (std::abs(step) <= tolerance(next))
+            return false;
+        if (step < 0)
+            return -step > m_parameters.maximumFirstLine * m_lines[next].fontSize;
+        if (first.marker && sameEdge(line.startGap, first.textStart, next))
+            return false;
+        // A step to the right hangs below the first line when more lines follow at that edge; else it is a new first
+        // line.
+        if (step > m_parameters.maximumFirstLine * m_lines[next].fontSize)
+            return true;
+        const bool hangsOn = next + 1 < m_lines.size() && sameEdge(m_measures[next + 1].startGap, line.startGap, next);
+        return !hangsOn && !sameEdge(step, m_lastHang, next);
+    }
+
+    bool wouldFitAbove(std::size_t next) const {
+        const LineMeasure& before = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        if (before.endsWithHyphen && line.startsLowerCase)
+            return false;
+        double free = before.endGap;
+        switch (pairAlignment(next)) {
+        case PairAlignment::Start:
+            break;
+        case PairAlignment::Center:
+            free = before.startGap + before.endGap;
+            break;
+        case PairAlignment::End:
+            free = before.startGap;
+            break;
+        }
+        return wouldHaveFitted(before, line, free, m_parameters.fitSlack * m_lines[next].fontSize);
+    }
+
+    /// In justified text only a paragraph's last line ends before the edge.
+    bool followsShortLine(std::size_t next) const {
+        const double flush = m_parameters.flushTolerance * m_lines[next].fontSize;
+        if (static_cast<int>(next - 1 - m_first) < m_parameters.flushLines || m_measures[next - 1].endGap <= 2 * flush)
+            return false;
+        for (std::size_t i = m_first; i + 1 < next; ++i)
+            if (std::abs(m_measures[i].endGap) > flush)
+                return false;
+        return true;
+    }
+
+    double bodyStart(std::size_t next) const {
+        return next - m_first >= 2 ? m_measures[next - 1].startGap : m_measures[m_first].textStart;
+    }
+    PairAlignment pairAlignment(std::size_t next) const {
+        return alignmentOfPair(m_measures[next - 1], m_measures[next], m_lines[next].fontSize, m_parameters);
+    }
+    double tolerance(std::size_t next) const { return m_parameters.edgeTolerance * m_lines[next].fontSize; }
+    bool sameEdge(double a, double b, std::size_t next) const { return std::abs(a - b) <= tolerance(next); }
+
+    std::span<const Line> m_lines;
+    std::span<const LineMeasure> m_measures;
+    const LayoutParameters::Paragraphs& m_parameters;
+    NaturalLeading m_leading;
+    std::size_t m_first = 0;
+    double m_lastHang = 0; ///< how far the lines of the last paragraph with several stand behind its first
+};
+
+} // namespace
+
+PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next, double fontSize,
+                              const LayoutParameters::Paragraphs& parameters) {
+    const double tolerance = parameters.edgeTolerance * fontSize;
+    const double indent = parameters.minimumCenterIndent * fontSize;
+    if (std::abs(before.startGap - next.startGap) <= tolerance)
+        return PairAlignment::Start;
+    const auto isCentered = [&](const LineMeasure& line) {
+        return std::abs(line.startGap - line.endGap) <= 2 * tolerance;
+    };
+    if (isCentered(before) && isCentered(next))
+        return PairAlignment::Center;
+    const auto isAtEnd = [&](const LineMeasure& line) {
+        return std::abs(line.endGap) <= tolerance && line.startGap > indent;
+    };
+    if (isAtEnd(before) && isAtEnd(next))
+        return PairAlignment::End;
+    return PairAlignment::Start;
+}
+
+std::vector<BreakReason> findBreaks(std::span<const Line> lines, std::span<const LineMeasure> measures,
+                                    const ParagraphContext& context, const LayoutParameters& parameters) {
+    return BreakFinder(lines, measures, context, parameters.paragraphs).run();
+}
+
+} // namespace orvane::layout
