@@ -1,0 +1,131 @@
+#include "cli/CommandLine.h"
+
+#include "cli/ExitCode.h"
+
+#include <CLI/CLI.hpp>
+
+namespace orvane::cli {
+namespace {
+
+using protocol::Format;
+using protocol::Layout;
+
+constexpr int kMaxJobs = 64;
+
+constexpr const char* kPasswordHelp = "Read the password from the first line of FILE. Without it, the\n"
+                                      "variable ORVANE_PASSWORD is used if it is set. It is tried as\n"
+                                      "user and as owner password";
+
+/// Pictures have a command of their own, so they are no layout here.
+std::optional<Layout> textLayout(const std::string& name) {
+    const std::optional<Layout> layout = protocol::layoutFromString(name);
+    return layout == Layout::Images ? std::nullopt : layout;
+}
+
+/// Adds an option that takes one of a few names. Those that CLI11 offers for this write the names out twice in the
+/// help.
+template<typename Take>
+CLI::Option* addNameOption(CLI::App& command, const char* option, const char* help, Take take) {
+    return command.add_option_function<std::string>(
+        option,
+        [take, option](const std::string& name) {
+            if (!take(name))
+                throw CLI::ValidationError(option, "there is no \"" + name + "\"");
+        },
+        help);
+}
+
+void addWhereAndHow(CLI::App& command, ConvertOptions& options) {
+    command
+        .add_option("FILE", options.files,
+                    "The PDF, and the document to write; without the latter\n"
+                    "it stands beside the PDF. With --out-dir, all are PDFs")
+        ->required()
+        ->type_name("");
+    command.add_option("--out-dir", options.outputFolder, "Write the documents into DIR, which is made if need be")
+        ->type_name("DIR");
+    addNameOption(command, "--to",
+                  "Format to write: docx, doc or rtf. Default: by the name\n"
+                  "of the document, or docx",
+                  [&options](const std::string& name) {
+                      options.format = protocol::formatFromString(name);
+                      return options.format.has_value();
+                  })
+        ->type_name("FORMAT");
+    addNameOption(command, "--layout",
+                  "flowing: as its author would have typed it (default)\n"
+                  "true-page: every line where it stood\n"
+                  "continuous: formatted text as one flow\n"
+                  "plain-text: the words alone",
+                  [&options](const std::string& name) {
+                      const std::optional<Layout> layout = textLayout(name);
+                      options.layout = layout.value_or(Layout::Flowing);
+                      return layout.has_value();
+                  })
+        ->type_name("LAYOUT");
+}
+
+void addConvert(CLI::App& app, ConvertOptions& options) {
+    CLI::App& command = *app.add_subcommand("convert", "Convert PDF files to word processor documents:\n"
+                                                       "  orvane convert IN.pdf [OUT.docx]\n"
+                                                       "  orvane convert A.pdf B.pdf ... --out-dir DIR --to docx");
+    addWhereAndHow(command, options);
+    command.add_option("--pages", options.pages, "Pages to take, such as 1-3,7. Default: all")->type_name("RANGE");
+    command.add_option("--password-file", options.passwordFile, kPasswordHelp)->type_name("FILE");
+    command.add_flag("--no-images", options.removeImages, "Leave pictures out");
+    command.add_flag("--keep-spacing", options.keepSpacing,
+                     "Set the distances between characters exactly as in the\n"
+                     "PDF, instead of leaving them to the word processor");
+    command.add_option("--log", options.log, "Append a record of each conversion to FILE")->type_name("FILE");
+    command.add_flag("--json", options.json, "Print one JSON object a file instead of text");
+    command
+        .add_option("--jobs", options.jobs,
+                    "Files to convert at the same time. Default: one a\n"
+                    "processor, at most four")
+        ->check(CLI::Range(1, kMaxJobs))
+        ->type_name("N");
+}
+
+void addInfo(CLI::App& app, InfoOptions& options) {
+    CLI::App& command = *app.add_subcommand("info", "Tell what a PDF file is:\n  orvane info IN.pdf");
+    command.add_option("FILE", options.file, "The PDF")->required()->type_name("");
+    command.add_option("--password-file", options.passwordFile, kPasswordHelp)->type_name("FILE");
+    command.add_flag("--json", options.json, "Print a JSON object instead of text");
+}
+
+/// What the option types cannot say; empty when all is well.
+std::string findContradiction(const ConvertOptions& options) {
+    if (!options.outputFolder && options.files.size() > 2)
+        return "more than two files: say with --out-dir where the documents go";
+    return "";
+}
+
+} // namespace
+
+ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+    ConvertOptions convert;
+    InfoOptions info;
+    CLI::App app("Orvane converts PDF files to word processor documents.", "orvane");
+    app.set_version_flag("--version", "orvane " ORVANE_VERSION);
+    app.require_subcommand(1);
+    app.footer(exitCodeHelp());
+    addConvert(app, convert);
+    addInfo(app, info);
+    for (CLI::App* command : app.get_subcommands({}))
+        command->footer(exitCodeHelp());
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        const bool wasHelpAskedFor = app.exit(error, out, err) == 0;
+        return static_cast<int>(wasHelpAskedFor ? ExitCode::Done : ExitCode::Usage);
+    }
+    if (app.got_subcommand("info"))
+        return Command(info);
+    if (const std::string contradiction = findContradiction(convert); !contradiction.empty()) {
+        err << contradiction << "\nRun with --help for more information.\n";
+        return static_cast<int>(ExitCode::Usage);
+    }
+    return Command(convert);
+}
+
+} // namespace orvane::cli

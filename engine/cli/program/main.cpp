@@ -1,0 +1,22 @@
+// orvane: the conversion engine's command line. See docs/cli.md.
+
+#include "cli/CommandLine.h"
+#include "cli/Commands.h"
+#include "cli/Interrupt.h"
+
+#include <iostream>
+
+using namespace orvane;
+
+int main(int argc, char** argv) {
+    const cli::ParsedCommandLine parsed = cli::parseCommandLine(argc, argv, std::cout, std::cerr);
+    if (const int* exitCode = std::get_if<int>(&parsed))
+        return *exitCode;
+
+    cli::catchInterrupts();
+    const cli::Streams streams{std::cout, std::cerr};
+    const auto& command = std::get<cli::Command>(parsed);
+    if (const auto* convert = std::get_if<cli::ConvertOptions>(&command))
+        return static_cast<int>(cli::convert(*convert, streams));
+    return static_cast<int>(cli::info(std::get<cli::InfoOptions>(command), streams));
+}

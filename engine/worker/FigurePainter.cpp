@@ -1,0 +1,42 @@
+#include "worker/FigurePainter.h"
+
+#include "base/Failure.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <fmt/format.h>
+
+namespace orvane::worker {
+namespace {
+
+// Dots per inch: sharp on paper, and a drawing as large as a page stays below a megabyte.
+constexpr double kResolution = 200;
+
+// A drawing as large as a poster is painted coarser, so that one figure does not take hundreds of megabytes.
+constexpr double kMaxPixels = 16e6;
+
+double resolutionFor(const Rect& box) {
+    const double pixels = box.area() / (72 * 72) * kResolution * kResolution;
+    return pixels <= kMaxPixels ? kResolution : kResolution * std::sqrt(kMaxPixels / pixels);
+}
+
+} // namespace
+
+void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, PictureStore& pictures,
+                  Diagnostics& diagnostics) {
+    for (layout::Figure& figure : page.figures) {
+        if (!figure.needsPainting || figure.box.isEmpty())
+            continue;
+        try {
+            const PictureDataPtr painted = document.renderRegion(page.number, figure.box, resolutionFor(figure.box));
+            if (painted)
+                figure.picture = pictures.add(*painted);
+        } catch (const Failure& failure) {
+            diagnostics.add(DiagnosticKind::DrawingSimplified, page.number,
+                            fmt::format("a drawing could not be painted: {}", failure.what()), figure.box);
+        }
+    }
+}
+
+} // namespace orvane::worker

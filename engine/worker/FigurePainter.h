@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "base/PictureStore.h"
+#include "layout/PageText.h"
+#include "pdf/PdfDocument.h"
+
+namespace orvane::worker {
+
+/// Paints those figures of the page that layout cannot take apart, and gives them their pictures. One that cannot be
+/// painted stays without, with a diagnostic.
+void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, PictureStore& pictures,
+                  Diagnostics& diagnostics);
+
+} // namespace orvane::worker

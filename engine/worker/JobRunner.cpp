@@ -1,0 +1,193 @@
+#include "worker/JobRunner.h"
+
+#include "base/Failure.h"
+#include "base/PageRange.h"
+#include "base/PictureStore.h"
+#include "layout/Layout.h"
+#include "pdf/PdfDocument.h"
+#include "worker/Capabilities.h"
+#include "worker/ContentCounter.h"
+#include "worker/PageReader.h"
+#include "worker/ScratchFolder.h"
+#include "worker/SourceFile.h"
+#include "worker/TargetFile.h"
+#include "write/docx/DocxWriter.h"
+
+#include <new>
+
+#include <fmt/format.h>
+
+namespace orvane::worker {
+namespace {
+
+using namespace protocol;
+
+layout::LayoutMode layoutMode(Layout layout) {
+    switch (layout) {
+    case Layout::TruePage:
+        return layout::LayoutMode::TruePage;
+    case Layout::Continuous:
+        return layout::LayoutMode::Continuous;
+    case Layout::PlainText:
+        return layout::LayoutMode::PlainText;
+    case Layout::Flowing:
+    case Layout::Images:
+        break;
+    }
+    return layout::LayoutMode::Flowing;
+}
+
+layout::LayoutRequest layoutRequest(const Job& job) {
+    return {layoutMode(job.layout), job.pictures == Pictures::Remove, job.characterSpacing == CharacterSpacing::Exact};
+}
+
+void requireOtherFile(const Job& job) {
+    std::error_code error;
+    if (job.target.empty())
+        throw Failure(FailureCode::InvalidRequest, "no file to write is named");
+    if (std::filesystem::equivalent(job.source, job.target, error))
+        throw Failure(FailureCode::InvalidRequest, fmt::format("{} would overwrite itself", job.source));
+}
+
+void requireNotCancelled(const RunReporter& reporter) {
+    if (reporter.isCancelled())
+        throw Failure(FailureCode::Cancelled, "the conversion was cancelled");
+}
+
+SourceReport describe(const pdf::PdfDocument& document) {
+    const pdf::Metadata metadata = document.metadata();
+    return {document.pdfVersion(),
+            document.isEncrypted(),
+            !document.structureTree().empty(),
+            !document.outline().empty(),
+            metadata.title,
+            metadata.author,
+            metadata.subject,
+            metadata.keywords,
+            metadata.creator,
+            metadata.producer,
+            metadata.created,
+            metadata.modified,
+            metadata.language};
+}
+
+/// Lends `object` out through `place` for as long as it lives.
+template<typename T>
+class Lent {
+public:
+    Lent(std::mutex& mutex, T*& place, T& object)
+        : m_mutex(mutex)
+        , m_place(place) {
+        set(&object);
+    }
+    ~Lent() { set(nullptr); }
+    Lent(const Lent&) = delete;
+    Lent& operator=(const Lent&) = delete;
+
+private:
+    void set(T* object) {
+        const std::lock_guard lock(m_mutex);
+        m_place = object;
+    }
+
+    std::mutex& m_mutex;
+    T*& m_place;
+};
+
+} // namespace
+
+void JobRunner::run() {
+    try {
+        if (m_job.task == Task::Inspect)
+            inspect();
+        else
+            convert();
+    } catch (const Failure& failure) {
+        m_reporter.fail({failure.code(), failure.what(), failure.where()});
+    } catch (const std::bad_alloc&) {
+        m_reporter.fail({FailureCode::LimitExceeded,
+                         fmt::format("the document needs more than the {} MB of memory a conversion may use",
+                                     m_job.limits.memoryMegabytes),
+                         {}});
+    } catch (const std::exception& error) {
+        m_reporter.fail({FailureCode::Internal, fmt::format("a fault of the program: {}", error.what()), {}});
+    }
+}
+
+void JobRunner::convert() {
+    requireSupported(m_job.layout, m_job.format);
+    m_reporter.stageReached(JobStage::Opening, 0, 0);
+    checkSource(m_job.source);
+    requireOtherFile(m_job);
+    const pdf::Passwords passwords{m_job.userPassword, m_job.ownerPassword};
+    const pdf::PdfDocument source = pdf::PdfDocument::open(m_job.source, passwords);
+    const PageSelection selection = selectPages(m_job.pageRange, source.pageCount());
+
+    TargetFile target(m_job.target);
+    const Lent lentTarget(m_mutex, m_target, target);
+    ScratchFolder scratch(m_job.scratchFolder);
+    const Lent lentScratch(m_mutex, m_scratch, scratch);
+    m_reporter.accept({source.pageCount(), static_cast<int>(selection.pages.size())});
+
+    Diagnostics diagnostics;
+    if (selection.wasCut)
+        diagnostics.add(DiagnosticKind::PagesOutOfRange, 0,
+                        fmt::format("the page range {} was cut to the {} pages of the document", m_job.pageRange,
+                                    source.pageCount()));
+    m_reporter.stageReached(JobStage::Reading, 0, 0);
+    PictureStore pictures(scratch.path());
+    const layout::LayoutParameters parameters;
+    PagesRead read =
+        readPages(source,
+                  {m_job.source, passwords, selection.pages, m_job.pictures == Pictures::Keep ? &pictures : nullptr,
+                   parameters, m_job.limits.threads},
+                  m_reporter);
+
+    m_reporter.stageReached(JobStage::Generating, 0, 0);
+    const layout::DocumentFacts facts{source.metadata(), source.outline(), source.structureTree()};
+    const document::Document document =
+        layout::layoutDocument(std::move(read.pages), facts, layoutRequest(m_job), parameters, m_reporter, diagnostics);
+    requireNotCancelled(m_reporter);
+    write::writeDocx(document, pictures, target.part(), diagnostics);
+    requireNotCancelled(m_reporter);
+    m_reporter.report(diagnostics);
+    target.commit();
+
+    countWritten(document, read.counts);
+    m_reporter.stageReached(JobStage::DocumentComplete, 0, 0);
+    m_reporter.finish(read.counts);
+}
+
+void JobRunner::inspect() {
+    checkSource(m_job.source);
+    const pdf::PdfDocument source = pdf::PdfDocument::open(m_job.source, {m_job.userPassword, m_job.ownerPassword});
+    const PageSelection selection = selectPages(m_job.pageRange, source.pageCount());
+    m_reporter.accept({source.pageCount(), static_cast<int>(selection.pages.size())});
+    m_reporter.describe(describe(source));
+    for (const int page : selection.pages) {
+        requireNotCancelled(m_reporter);
+        const pdf::PageInfo info = source.pageInfo(page);
+        m_reporter.describe(PageReport{page, info.width, info.height, info.rotation, info.label});
+    }
+    m_reporter.finish({});
+}
+
+bool JobRunner::forceEnd(StarterChannel::ForcedEnd reason) {
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_target != nullptr && !m_target->abandon())
+            return false;
+        if (m_scratch != nullptr)
+            m_scratch->remove();
+    }
+    if (reason == StarterChannel::ForcedEnd::CancelIgnored)
+        m_reporter.fail({FailureCode::Cancelled, "the conversion was cancelled", {}});
+    else
+        m_reporter.fail(
+            {FailureCode::LimitExceeded,
+             fmt::format("the conversion took longer than the {} seconds it may take", m_job.limits.seconds),
+             {}});
+    return true;
+}
+
+} // namespace orvane::worker

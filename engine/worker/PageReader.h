@@ -1,0 +1,35 @@
+#pragma once
+
+#include "base/PictureStore.h"
+#include "layout/LayoutParameters.h"
+#include "layout/PageText.h"
+#include "pdf/PdfDocument.h"
+#include "protocol/Message.h"
+#include "worker/RunReporter.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace orvane::worker {
+
+/// What reading pages needs to know.
+struct PageReading {
+    std::filesystem::path source;
+    pdf::Passwords passwords;
+    std::vector<int> pages;
+    PictureStore* pictures = nullptr; ///< null when pictures are left out
+    layout::LayoutParameters parameters;
+    int threads = 0; ///< 0: as many as the machine has, at most four
+};
+
+struct PagesRead {
+    std::vector<layout::PageText> pages; ///< in the order asked for
+    protocol::Counts counts;
+};
+
+/// Reads the pages, on several threads where there are enough of them, each with a document of its own beside
+/// `document`. A page that cannot be read comes back empty, with a diagnostic; it does not stop the others. Errors:
+/// Failure(Cancelled); std::bad_alloc.
+PagesRead readPages(const pdf::PdfDocument& document, const PageReading& reading, RunReporter& reporter);
+
+} // namespace orvane::worker
