@@ -1,6 +1,6 @@
 #include "layout/ColumnSplitter.h"
 
-#include "layout/GutterFinder.h"
+#include "layout/ColumnGutter.h"
 #include "layout/LineText.h"
 #include "layout/RowJoiner.h"
 
@@ -31,7 +31,7 @@ std::optional<std::pair<Line, Line>> cutLine(const Line& line, double x) {
 
 /// Lines of one side that follow on the gutter's first or last row without a break belong to its columns, though
 /// nothing stands beside them: a column may start higher or end lower than its neighbour.
-void extendOverNeighbours(Gutter& gutter, std::span<const Line> lines, double columnStep) {
+void extendOverNeighbours(ColumnGutter& gutter, std::span<const Line> lines, double columnStep) {
     const auto isBesideGutter = [&](const Line& line) {
         return line.box.right <= gutter.left + 0.01 || line.box.left >= gutter.right - 0.01;
     };
@@ -65,9 +65,9 @@ public:
         , m_parameters(parameters) {}
 
     PagePart split(std::vector<Line> lines, int depth = 0) const {
-        std::optional<Gutter> gutter;
+        std::optional<ColumnGutter> gutter;
         if (depth < m_parameters.regions.maximumDepth)
-            gutter = findGutter(lines, m_walls, m_parameters.regions);
+            gutter = findColumnGutter(lines, m_walls, m_parameters.regions);
         if (!gutter)
             return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}};
         extendOverNeighbours(*gutter, lines, m_parameters.regions.columnStep);
@@ -91,7 +91,7 @@ private:
         std::vector<Line> above, left, right, below;
     };
 
-    static Pieces sortLines(std::vector<Line> lines, const Gutter& gutter) {
+    static Pieces sortLines(std::vector<Line> lines, const ColumnGutter& gutter) {
         Pieces pieces;
         const double middle = (gutter.left + gutter.right) / 2;
         for (Line& line : lines) {

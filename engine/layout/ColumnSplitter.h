@@ -15,9 +15,9 @@ struct PagePart {
     std::vector<PagePart> parts; ///< left to right, or top to bottom
 };
 
-/// Parts lines at the strongest gutter, and what comes out again, until there are no columns left. Lines that lead across a gutter are
-/// cut there; lines side by side that no gutter parts are joined with a tabulator.
-/// Requires: `lines` upright, from top to bottom.
+/// Parts lines at the strongest gutter, and what comes out again, until there are no columns left. Lines that lead
+/// across a gutter are cut there; lines side by side that no gutter parts are joined with a tabulator. Requires:
+/// `lines` upright, from top to bottom.
 PagePart splitIntoColumns(std::vector<Line> lines, std::span<const Rect> walls, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

@@ -82,7 +82,7 @@ struct LayoutParameters {
         double fullLine = 2.5;      ///< of the font size; a column's last line with less room behind it may run on
     } paragraphs;
 
-    /// GutterFinder, RegionFinder: where columns are.
+    /// ColumnGutter, RegionFinder: where columns are.
     struct Regions {
         double narrowGutter = 0.7; ///< of the font size; narrower gaps never part columns
         double wideGutter = 1.5;   ///< of the font size; from here on few rows are enough to believe in it

@@ -4,6 +4,7 @@
 #include "layout/ParagraphContinuation.h"
 #include "layout/ReadingOrder.h"
 #include "layout/RegionFinder.h"
+#include "layout/TableFinder.h"
 
 #include <algorithm>
 
@@ -18,7 +19,8 @@ public:
         , m_context(context)
         , m_parameters(parameters) {}
 
-    PageLayout run() {
+    PageLayout run(Diagnostics& diagnostics) {
+        takeTables(diagnostics);
         takePageFacts();
         placeBackgrounds();
         takeTurnedLines();
@@ -30,6 +32,14 @@ public:
     }
 
 private:
+    void takeTables(Diagnostics& diagnostics) {
+        for (TableDraft& table : findTables(m_page, m_parameters, diagnostics)) {
+            const Rect box = table.box;
+            m_walls.push_back(box);
+            addObject(box, 0, std::move(table));
+        }
+    }
+
     void takePageFacts() {
         m_layout.number = m_page.number;
         m_layout.width = m_page.width;
@@ -44,7 +54,7 @@ private:
     void placeBackgrounds() {
         for (Figure& figure : m_page.figures)
             if (figure.isBackground)
-                m_layout.blocks.push_back({FigureDraft{std::move(figure), false}, 0, 0});
+                m_layout.blocks.emplace_back().value = FigureDraft{std::move(figure), false};
         std::erase_if(m_page.figures, [](const Figure& figure) { return figure.isBackground; });
     }
 
@@ -82,7 +92,7 @@ private:
     template<typename Value>
     void addObject(const Rect& box, std::uint32_t paintOrder, Value value) {
         m_objects.push_back({box, m_objects.size(), paintOrder});
-        m_objectBlocks.push_back({std::move(value), 0, 0});
+        m_objectBlocks.emplace_back().value = std::move(value);
     }
 
     void findColumns() {
@@ -132,7 +142,14 @@ private:
         context.obstacles = obstacles;
         for (ParagraphDraft& paragraph :
              buildParagraphs(std::span(region.lines).subspan(from, to - from), region.span, context, m_parameters))
-            m_layout.blocks.push_back({std::move(paragraph), region.band, region.column});
+            addBlock(std::move(paragraph), region.band, region.column);
+    }
+
+    void addBlock(ParagraphDraft paragraph, int band, int column) {
+        PageBlock& block = m_layout.blocks.emplace_back();
+        block.value = std::move(paragraph);
+        block.band = band;
+        block.column = column;
     }
 
     /// A paragraph may go on in the next column, and behind the last column on the next page.
@@ -177,8 +194,8 @@ private:
 } // namespace
 
 PageLayout layoutPage(PageText page, const DocumentContext& context, const LayoutParameters& parameters,
-                      Diagnostics& /*diagnostics*/) {
-    return PageLayouter(std::move(page), context, parameters).run();
+                      Diagnostics& diagnostics) {
+    return PageLayouter(std::move(page), context, parameters).run(diagnostics);
 }
 
 } // namespace orvane::layout

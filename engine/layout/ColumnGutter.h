@@ -9,7 +9,7 @@
 namespace orvane::layout {
 
 /// An upright strip without ink between two columns of text.
-struct Gutter {
+struct ColumnGutter {
     double left = 0;
     double right = 0;
     double top = 0;    ///< where text on both sides begins
@@ -20,7 +20,7 @@ struct Gutter {
 /// The strip that parts the most lines, if there are columns at all. Lines may still lead across a gutter as long as no
 /// word of theirs touches it. `walls` are things that stop a gutter: tables and pictures. Requires: `lines` upright,
 /// from top to bottom.
-std::optional<Gutter> findGutter(std::span<const Line> lines, std::span<const Rect> walls,
-                                 const LayoutParameters::Regions& parameters);
+std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::span<const Rect> walls,
+                                             const LayoutParameters::Regions& parameters);
 
 } // namespace orvane::layout

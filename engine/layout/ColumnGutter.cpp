@@ -1,4 +1,4 @@
-#include "layout/GutterFinder.h"
+#include "layout/ColumnGutter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,7 +58,7 @@ public:
         : m_narrowest(narrowest)
         , m_limit(limit) {}
 
-    std::vector<Gutter> run(std::span<const Piece> pieces, const Rect& area) {
+    std::vector<ColumnGutter> run(std::span<const Piece> pieces, const Rect& area) {
         m_open.push_back({area.left, area.right, area.top});
         for (const Piece& piece : pieces)
             pass(piece, area);
@@ -103,7 +103,7 @@ private:
     double m_narrowest;
     std::size_t m_limit;
     std::vector<Strip> m_open;
-    std::vector<Gutter> m_closed;
+    std::vector<ColumnGutter> m_closed;
 };
 
 struct Side {
@@ -137,7 +137,7 @@ struct Side {
 };
 
 /// Cuts the strip to where both sides have text, and counts it. False when it parts no columns.
-bool weighGutter(Gutter& gutter, std::span<const Piece> pieces, double fontSize,
+bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fontSize,
                  const LayoutParameters::Regions& parameters) {
     Side left;
     Side right;
@@ -162,8 +162,8 @@ bool weighGutter(Gutter& gutter, std::span<const Piece> pieces, double fontSize,
 
 } // namespace
 
-std::optional<Gutter> findGutter(std::span<const Line> lines, std::span<const Rect> walls,
-                                 const LayoutParameters::Regions& parameters) {
+std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::span<const Rect> walls,
+                                             const LayoutParameters::Regions& parameters) {
     if (static_cast<int>(lines.size()) < 2)
         return std::nullopt;
     const double fontSize = medianFontSize(lines);
@@ -172,8 +172,8 @@ std::optional<Gutter> findGutter(std::span<const Line> lines, std::span<const Re
     Rect area;
     for (const Piece& piece : pieces)
         area = area.united(piece.box);
-    std::optional<Gutter> best;
-    for (Gutter& gutter : StripSweep(narrowest, parameters.maximumStrips).run(pieces, area)) {
+    std::optional<ColumnGutter> best;
+    for (ColumnGutter& gutter : StripSweep(narrowest, parameters.maximumStrips).run(pieces, area)) {
         if (gutter.left <= area.left || gutter.right >= area.right)
             continue;
         if (gutter.bottom - gutter.top < parameters.minimumRows * fontSize)
