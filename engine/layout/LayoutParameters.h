@@ -9,6 +9,38 @@ struct LayoutParameters {
     struct Words {
     } words;
 
+    /// TextAssembler: from spans to runs.
+    struct Text {
+        double naturalScale = 0.02;      ///< of the natural width; glyphs stretched by less are taken as natural
+    } text;
+
+    /// TabStopFinder.
+    struct Tabs {
+        double edgeTolerance = 2.0;      ///< points; text that ends this near the column's edge was set against it
+        double centerTolerance = 2.0;    ///< points; likewise for its middle
+        double sameStop = 2.0;           ///< points; stops nearer to each other are one
+    } tabs;
+
+    /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
+    struct Spacing {
+        double lowestMultiple = 0.7;     ///< line spacing below this is an exact height
+        double highestMultiple = 3.5;    ///< likewise above
+        double multipleTolerance = 0.012;///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
+        double smallestIndent = 1.0;     ///< points; less is noise
+        double smallestGap = 0.5;        ///< points; likewise between paragraphs
+        double largestGap = 200.0;       ///< points; what is more is an empty part of the page, not space after a paragraph
+    } spacing;
+
+    /// FigureAssembler.
+    struct Figures {
+        double alignmentTolerance = 3.0; ///< points; a picture this near to the middle or edge of its column was set there
+    } figures;
+
+    /// TableAssembler.
+    struct TableCells {
+        double usualMargin = 5.4;        ///< points; between a cell's edge and its text, unless less is seen
+    } tableCells;
+
     /// DocumentAnalyser: what most of the document looks like.
     struct Analysis {
         double sizeStep = 0.5;           ///< points; font sizes are counted in classes of this width

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "layout/PageLayout.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+/// The document between pages and document::Document: blocks in reading order over all pages, with what the stages
+/// found out about them. Positions stay in the page space of the page they came from.
+namespace orvane::layout {
+
+/// What a paragraph is to the reader.
+enum class ParagraphRole : std::uint8_t {
+    Body,
+    Title,
+    Heading, ///< DraftParagraph::level tells which
+    ListItem,
+    Caption,
+    ContentsHeading, ///< "Contents" over a table of contents
+    ContentsEntry,   ///< DraftParagraph::level tells which
+    NoteText,
+    RunningHead,
+};
+
+/// The part of a paragraph that stands in one column of one page.
+struct DraftPiece {
+    std::size_t page = 0; ///< index into DocumentDraft::pages
+    ColumnSpan column;    ///< in which it stands
+    ParagraphDraft text;
+};
+
+struct DraftParagraph {
+    std::vector<DraftPiece> pieces; ///< at least one, each with at least one line
+    ParagraphRole role = ParagraphRole::Body;
+    int level = 0; ///< 1 to 9 of headings and contents entries
+    std::optional<document::ListReference> list;
+    std::size_t labelWords = 0;         ///< words at its start that the list's numbering writes
+    std::vector<std::string> bookmarks; ///< that stand at its start
+    bool startsPage = false;            ///< its author let it start a page
+
+    const Line& firstLine() const { return pieces.front().text.lines.front(); }
+    const Line& lastLine() const { return pieces.back().text.lines.back(); }
+};
+
+struct DraftBlock;
+
+struct DraftCell {
+    CellDraft cell; ///< without its blocks
+    std::vector<DraftBlock> blocks;
+};
+
+struct DraftTable {
+    TableDraft table; ///< without its cells
+    std::vector<DraftCell> cells;
+};
+
+struct DraftBlock {
+    std::variant<DraftParagraph, DraftTable, FigureDraft> value;
+    std::size_t page = 0; ///< index into DocumentDraft::pages, where it starts
+    int band = 0;         ///< index into the page's bands
+    int column = 0;
+    Rect box; ///< on that page
+
+    DraftParagraph* paragraph() { return std::get_if<DraftParagraph>(&value); }
+    const DraftParagraph* paragraph() const { return std::get_if<DraftParagraph>(&value); }
+};
+
+struct DocumentDraft {
+    std::vector<PageLayout> pages; ///< without their blocks
+    std::vector<DraftBlock> blocks;
+};
+
+} // namespace orvane::layout

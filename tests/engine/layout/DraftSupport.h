@@ -1,0 +1,73 @@
+#pragma once
+
+#include "document/DocumentDump.h"
+#include "layout/DocumentAssembler.h"
+#include "layout/TextAssembler.h"
+
+#include "engine/layout/TextBuilder.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Drafts of documents as a test needs them: paragraphs of made lines on pages of A4 with a text area of 72 to 523
+/// points.
+namespace orvane::layout::tests {
+
+constexpr ColumnSpan kColumn{72, 523};
+
+inline PageLayout makeLayout(int number) {
+    PageText page = makePage(number);
+    PageLayout layout;
+    layout.number = number;
+    layout.width = page.width;
+    layout.height = page.height;
+    layout.fonts = page.fonts;
+    layout.bands.push_back({72, 770, {kColumn}, false});
+    return layout;
+}
+
+/// A paragraph of these lines, indents measured from the column.
+inline ParagraphDraft makeParagraph(std::vector<Line> lines) {
+    ParagraphDraft paragraph;
+    for (const Line& line : lines)
+        paragraph.box = paragraph.box.united(line.box);
+    const double first = lines.front().box.left - kColumn.left;
+    paragraph.indentStart = lines.size() > 1 ? lines[1].box.left - kColumn.left : first;
+    paragraph.firstLine = first - paragraph.indentStart;
+    paragraph.leading = lines.size() > 1 ? lines[1].baseline - lines[0].baseline : 1.2 * lines.front().fontSize;
+    paragraph.lines = std::move(lines);
+    return paragraph;
+}
+
+inline DraftBlock makeBlock(ParagraphDraft paragraph, std::size_t page = 0) {
+    DraftBlock block;
+    block.page = page;
+    block.box = paragraph.box;
+    DraftParagraph draft;
+    draft.pieces.push_back({page, kColumn, std::move(paragraph)});
+    block.value = std::move(draft);
+    return block;
+}
+
+/// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.
+inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index, const LayoutRequest& request = {}) {
+    DocumentDraft linked = draft;
+    Diagnostics diagnostics;
+    const LinkTargets links(linked, {}, diagnostics);
+    const FontCatalog fonts(linked);
+    const LayoutParameters parameters;
+    const DocumentContext context;
+    document::Document document;
+    document.styles.push_back(
+        {.id = "Normal", .name = "Normal", .basedOn = {}, .next = {}, .paragraph = {}, .run = {}});
+    document.styles[0].run.fontFamily = "Calibri";
+    document.styles[0].run.size = HalfPoints(20);
+    document::Paragraph paragraph;
+    paragraph.style = "Normal";
+    paragraph.inlines =
+        assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, {}, request, parameters});
+    return document::dump(paragraph, document);
+}
+
+} // namespace orvane::layout::tests
