@@ -1,0 +1,177 @@
+#include "pdf/FontReader.h"
+
+#include "pdf/FontName.h"
+#include "pdf/TextString.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+#include <GfxFont.h>
+#include <XRef.h>
+
+namespace orvane::pdf {
+namespace {
+
+constexpr double kGlyphSpace = 1000.0; ///< units of the em in a font dictionary. Source: ISO 32000-1, 9.2.4.
+
+// Measures outside these are mistakes of the file's writer; text of such fonts would overlap or fly apart.
+constexpr double kLeastAscent = 0.35;
+constexpr double kGreatestAscent = 1.5;
+constexpr double kGreatestDescent = 0.7;
+
+/// What the font descriptor gives; unset where it is silent.
+struct Descriptor {
+    std::string family;
+    std::optional<double> ascent;
+    std::optional<double> descent;
+    std::optional<int> weight;
+    double italicAngle = 0;
+    double stemV = 0;
+};
+
+std::optional<double> numberOf(const ::Object& dictionary, const char* key) {
+    const ::Object value = dictionary.dictLookup(key);
+    if (!value.isNum())
+        return std::nullopt;
+    return value.getNum();
+}
+
+/// Fonts written into the resources themselves get made-up numbers from the library.
+bool isIndirect(const GfxFont& font, const XRef& xref) {
+    return font.getID()->num > 0 && font.getID()->num < xref.getNumObjects();
+}
+
+::Object descriptorObject(const GfxFont& font, XRef& xref) {
+    if (!isIndirect(font, xref))
+        return ::Object(objNull);
+    ::Object dictionary = xref.fetch(*font.getID());
+    if (!dictionary.isDict())
+        return ::Object(objNull);
+    const ::Object descendants = dictionary.dictLookup("DescendantFonts");
+    if (descendants.isArray() && descendants.arrayGetLength() > 0) {
+        ::Object descendant = descendants.arrayGet(0);
+        if (descendant.isDict())
+            return descendant.dictLookup("FontDescriptor");
+    }
+    return dictionary.dictLookup("FontDescriptor");
+}
+
+Descriptor readDescriptor(const GfxFont& font, XRef& xref) {
+    Descriptor descriptor;
+    const ::Object object = descriptorObject(font, xref);
+    if (!object.isDict())
+        return descriptor;
+    descriptor.family = textFromPdf(object.dictLookup("FontFamily"));
+    descriptor.ascent = numberOf(object, "Ascent");
+    descriptor.descent = numberOf(object, "Descent");
+    if (const auto weight = numberOf(object, "FontWeight"); weight && *weight >= 100 && *weight <= 900)
+        descriptor.weight = static_cast<int>(*weight);
+    descriptor.italicAngle = numberOf(object, "ItalicAngle").value_or(0);
+    descriptor.stemV = numberOf(object, "StemV").value_or(0);
+    return descriptor;
+}
+
+/// Line measures of the fonts every reader has, which files may leave undescribed: those of the usual office fonts of
+/// the same widths (Arial, Times New Roman, Courier New), in em.
+struct StandardMeasures {
+    std::string_view nameStart;
+    double ascent;
+    double descent;
+};
+constexpr std::array kStandardMeasures{
+    StandardMeasures{"Helvetica", 0.905, 0.212}, StandardMeasures{"Arial", 0.905, 0.212},
+    StandardMeasures{"Times", 0.891, 0.216},     StandardMeasures{"Courier", 0.833, 0.300},
+    StandardMeasures{"Symbol", 0.891, 0.216},    StandardMeasures{"ZapfDingbats", 0.820, 0.143},
+};
+
+void setMeasures(Font& font, const Descriptor& descriptor) {
+    double ascent = descriptor.ascent.value_or(0) / kGlyphSpace;
+    double descent = std::abs(descriptor.descent.value_or(0)) / kGlyphSpace;
+    if (ascent == 0) {
+        const auto* entry = std::find_if(kStandardMeasures.begin(), kStandardMeasures.end(),
+                                         [&](const StandardMeasures& m) { return font.name.starts_with(m.nameStart); });
+        if (entry != kStandardMeasures.end()) {
+            ascent = entry->ascent;
+            descent = entry->descent;
+        }
+    }
+    if (ascent >= kLeastAscent && ascent <= kGreatestAscent)
+        font.ascent = ascent;
+    if (descent > 0 && descent <= kGreatestDescent)
+        font.descent = descent;
+}
+
+void setStyle(Font& font, const GfxFont& source, const Descriptor& descriptor) {
+    const FontNameStyle byName = styleFromFontName(font.name);
+    // The name outweighs the numbers: writers copy a descriptor from one face of a family to the next more often than a
+    // name.
+    if (byName.weight)
+        font.weight = *byName.weight;
+    else if (descriptor.weight)
+        font.weight = *descriptor.weight;
+    if (source.isBold() && font.weight < 600)
+        font.weight = 700;
+    font.isBold = font.weight >= 600;
+    font.isItalic = byName.isItalic || source.isItalic() || std::abs(descriptor.italicAngle) >= 4;
+    font.isFixedPitch = source.isFixedWidth() || byName.isFixedPitch;
+    font.isSerif = source.isSerif();
+    font.isSymbolic = source.isSymbolic();
+}
+
+/// Width of the code that stands for the blank; unset when the font has none.
+std::optional<double> spaceOf8BitFont(Gfx8BitFont& font) {
+    for (int code = 0; code < 256; ++code) {
+        const char* name = font.getCharName(code);
+        if (name && std::string_view(name) == "space")
+            if (const double width = font.getWidth(static_cast<unsigned char>(code)); width > 0)
+                return width;
+    }
+    return std::nullopt;
+}
+
+/// Half the mean width of what the font has is close to a blank in most alphabets.
+double guessSpaceWidth(const Gfx8BitFont& font) {
+    double sum = 0;
+    int count = 0;
+    for (int code = 'a'; code <= 'z'; ++code)
+        if (const double width = font.getWidth(static_cast<unsigned char>(code)); width > 0) {
+            sum += width;
+            ++count;
+        }
+    return count > 0 ? sum / count / 2 : 0.25;
+}
+
+void setSpaceWidth(Font& font, GfxFont& source) {
+    if (!source.isCIDFont()) {
+        auto& simple = static_cast<Gfx8BitFont&>(source);
+        const auto width = spaceOf8BitFont(simple);
+        font.spaceWidth = width ? *width : font.isFixedPitch ? guessSpaceWidth(simple) * 2 : guessSpaceWidth(simple);
+    }
+    // Widths of composite fonts are known by code, not by meaning; the page's own blanks correct this (see
+    // GlyphReader).
+    if (font.spaceWidth < 0.05 || font.spaceWidth > 1.5)
+        font.spaceWidth = 0.25;
+}
+
+} // namespace
+
+Font readFont(const GfxFont& source, XRef& xref) {
+    Font font;
+    font.name = withoutSubsetPrefix(source.getName().value_or(std::string()));
+    font.objectNumber = isIndirect(source, xref) ? source.getID()->num : 0;
+    font.isVertical = source.getWMode() != 0;
+    font.isType3 = source.getType() == fontType3;
+    Ref program;
+    font.isEmbedded = font.isType3 || source.getEmbeddedFontID(&program);
+    const Descriptor descriptor = readDescriptor(source, xref);
+    font.family = descriptor.family;
+    setStyle(font, source, descriptor);
+    setMeasures(font, descriptor);
+    // The library's accessors of widths and names are not const although they change nothing.
+    setSpaceWidth(font, const_cast<GfxFont&>(source));
+    return font;
+}
+
+} // namespace orvane::pdf

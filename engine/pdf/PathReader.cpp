@@ -1,0 +1,168 @@
+#include "pdf/PathReader.h"
+
+#include "pdf/PageSpace.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <GfxState.h>
+
+namespace orvane::pdf {
+namespace {
+
+std::vector<PathSegment> segmentsOf(const GfxState& state) {
+    const GfxPath& path = *state.getPath();
+    std::vector<PathSegment> segments;
+    for (int i = 0; i < path.getNumSubpaths(); ++i) {
+        const GfxSubpath& subpath = *path.getSubpath(i);
+        const auto pointAt = [&](int n) {
+            Point p;
+            state.transform(subpath.getX(n), subpath.getY(n), &p.x, &p.y);
+            return p;
+        };
+        int count = subpath.getNumPoints();
+        if (count < 1)
+            continue;
+        // The library ends a closed subpath with a line back to its start, which the Close segment says already.
+        const bool returns = subpath.isClosed() && count > 2 && !subpath.getCurve(count - 2) &&
+                             subpath.getX(count - 1) == subpath.getX(0) && subpath.getY(count - 1) == subpath.getY(0);
+        if (returns)
+            --count;
+        segments.push_back({PathVerb::Move, {}, {}, pointAt(0)});
+        for (int n = 1; n < count; ++n) {
+            if (subpath.getCurve(n) && n + 2 < count) {
+                segments.push_back({PathVerb::Curve, pointAt(n), pointAt(n + 1), pointAt(n + 2)});
+                n += 2;
+            } else {
+                segments.push_back({PathVerb::Line, {}, {}, pointAt(n)});
+            }
+        }
+        if (subpath.isClosed())
+            segments.push_back({PathVerb::Close, {}, {}, {}});
+    }
+    return segments;
+}
+
+Rect boxOf(const std::vector<PathSegment>& segments) {
+    Rect box;
+    bool isFirst = true;
+    const auto add = [&](Point p) {
+        if (isFirst)
+            box = {p.x, p.y, p.x, p.y};
+        isFirst = false;
+        box = {std::min(box.left, p.x), std::min(box.top, p.y), std::max(box.right, p.x), std::max(box.bottom, p.y)};
+    };
+    for (const PathSegment& segment : segments) {
+        if (segment.verb == PathVerb::Close)
+            continue;
+        if (segment.verb == PathVerb::Curve) {
+            add(segment.control1);
+            add(segment.control2);
+        }
+        add(segment.to);
+    }
+    return box;
+}
+
+bool isSameShape(const std::vector<PathSegment>& a, const std::vector<PathSegment>& b) {
+    const auto isEqual = [](const PathSegment& s, const PathSegment& t) {
+        return s.verb == t.verb && s.to == t.to && s.control1 == t.control1 && s.control2 == t.control2;
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), isEqual);
+}
+
+bool isFinite(const Rect& box) {
+    return std::isfinite(box.left + box.top + box.right + box.bottom);
+}
+
+StrokeStyle strokeStyleOf(GfxState& state) {
+    StrokeStyle style;
+    GfxRGB color;
+    state.getStrokeRGB(&color);
+    style.color = toColor(color);
+    style.width = state.getTransformedLineWidth();
+    style.opacity = state.getStrokeOpacity();
+    double start = 0;
+    const double scale = state.getLineWidth() > 0 ? style.width / state.getLineWidth() : state.transformWidth(1);
+    double sum = 0;
+    for (const double length : state.getLineDash(&start)) {
+        style.dash.push_back(length * scale);
+        sum += length;
+    }
+    // A dash without gaps, or of no length, is a solid line.
+    if (sum <= 0)
+        style.dash.clear();
+    return style;
+}
+
+} // namespace
+
+Path PathReader::makePath(const GfxState& state, std::vector<PathSegment> segments, std::int32_t mark,
+                          std::uint32_t paintOrder) const {
+    Path path;
+    path.segments = std::move(segments);
+    path.box = boxOf(path.segments);
+    path.clip = clipBox(state);
+    path.mark = mark;
+    path.paintOrder = paintOrder;
+    path.visibility = visibilityOf(path.box, path.clip, m_page);
+    return path;
+}
+
+void PathReader::fill(GfxState& state, FillRule rule, std::int32_t mark, std::uint32_t paintOrder) {
+    Path path = makePath(state, segmentsOf(state), mark, paintOrder);
+    if (path.segments.empty() || !isFinite(path.box))
+        return;
+    GfxRGB color;
+    state.getFillRGB(&color);
+    path.fill = FillStyle{toColor(color), rule == FillRule::EvenOdd, false, state.getFillOpacity()};
+    m_page.paths.push_back(std::move(path));
+}
+
+void PathReader::stroke(GfxState& state, std::int32_t mark, std::uint32_t paintOrder) {
+    std::vector<PathSegment> segments = segmentsOf(state);
+    if (!m_page.paths.empty()) {
+        Path& last = m_page.paths.back();
+        const bool isNext = last.paintOrder + 1 == paintOrder;
+        if (isNext && last.fill && !last.stroke && last.mark == mark && isSameShape(last.segments, segments)) {
+            last.stroke = strokeStyleOf(state);
+            return;
+        }
+    }
+    Path path = makePath(state, std::move(segments), mark, paintOrder);
+    if (path.segments.empty() || !isFinite(path.box))
+        return;
+    path.stroke = strokeStyleOf(state);
+    m_page.paths.push_back(std::move(path));
+}
+
+void PathReader::clip(const GfxState& state, FillRule rule) {
+    m_clip.segments = segmentsOf(state);
+    m_clip.isEvenOdd = rule == FillRule::EvenOdd;
+}
+
+void PathReader::restoreState() {
+    if (m_clipLevels.empty())
+        return;
+    m_clip = std::move(m_clipLevels.back());
+    m_clipLevels.pop_back();
+}
+
+void PathReader::fillClipWithPattern(GfxState& state, Color meanColor, std::int32_t mark, std::uint32_t paintOrder) {
+    std::vector<PathSegment> segments = m_clip.segments;
+    if (segments.empty()) {
+        const Rect box = clipBox(state);
+        segments = {{PathVerb::Move, {}, {}, {box.left, box.top}},
+                    {PathVerb::Line, {}, {}, {box.right, box.top}},
+                    {PathVerb::Line, {}, {}, {box.right, box.bottom}},
+                    {PathVerb::Line, {}, {}, {box.left, box.bottom}},
+                    {PathVerb::Close, {}, {}, {}}};
+    }
+    Path path = makePath(state, std::move(segments), mark, paintOrder);
+    if (!isFinite(path.box))
+        return;
+    path.fill = FillStyle{meanColor, m_clip.isEvenOdd, true, state.getFillOpacity()};
+    m_page.paths.push_back(std::move(path));
+}
+
+} // namespace orvane::pdf

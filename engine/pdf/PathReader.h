@@ -1,0 +1,49 @@
+#pragma once
+
+#include "pdf/PageContent.h"
+
+#include <vector>
+
+class GfxShading;
+class GfxState;
+
+namespace orvane::pdf {
+
+enum class FillRule : std::uint8_t { NonZero, EvenOdd };
+
+/// Turns painted paths into the page's paths.
+class PathReader {
+public:
+    explicit PathReader(PageContent& page)
+        : m_page(page) {}
+
+    void fill(GfxState& state, FillRule rule, std::int32_t mark, std::uint32_t paintOrder);
+    /// A stroke that follows a fill of the same path becomes part of it.
+    void stroke(GfxState& state, std::int32_t mark, std::uint32_t paintOrder);
+
+    /// The current path becomes (part of) the clip path; shadings and patterns are painted through it.
+    void clip(const GfxState& state, FillRule rule);
+    /// Paints the innermost clip path, as shadings and patterns do, in one colour that stands for theirs.
+    void fillClipWithPattern(GfxState& state, Color meanColor, std::int32_t mark, std::uint32_t paintOrder);
+
+    /// Follows q and Q, which bound the clip path.
+    void saveState() { m_clipLevels.push_back(m_clip); }
+    void restoreState();
+
+private:
+    struct ClipPath {
+        std::vector<PathSegment> segments;
+        bool isEvenOdd = false;
+    };
+    Path makePath(const GfxState& state, std::vector<PathSegment> segments, std::int32_t mark,
+                  std::uint32_t paintOrder) const;
+
+    PageContent& m_page;
+    ClipPath m_clip;
+    std::vector<ClipPath> m_clipLevels;
+};
+
+/// One colour for a whole shading: the mean of its samples.
+Color meanColorOf(GfxShading& shading);
+
+} // namespace orvane::pdf

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "base/Geometry.h"
+#include "base/PictureData.h"
+
+class PDFDoc;
+
+namespace orvane::pdf {
+
+/// Paints part of a page on white. A region beyond the page is cut to it; the resolution is lowered where the picture
+/// would be huge. Errors: Failure(InvalidRequest) when nothing of the page is in the region.
+PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, double dotsPerInch);
+
+} // namespace orvane::pdf
