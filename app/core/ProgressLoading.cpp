@@ -1,0 +1,47 @@
+#include "core/ProgressLoading.h"
+
+#include "core/ErrorTrap.h"
+#include "core/ProgressRun.h"
+#include "core/RunFollowUp.h"
+#include "core/StartConverting.h"
+
+namespace run {
+
+using Button = ProgressView::Button;
+
+void Form_Load(ProgressRun& run) {
+    const ErrorTrap trap("frmprogress", "Form_Load");
+    run.objEngine.reset();
+    run.blnFormUnloaded = false;
+    run.blnRunStarted = false;
+    run.blnMultiComplete = false;
+    run.blnAsyncRun = true;
+    run.blnPollEnabled = true;
+    trap([&] { run.view.stopTimer(); });
+    trap([&] { run.astrStatusText = run.statusTexts.lblProgressStatus(); });
+    trap([&] { run.view.showButton(Button::cmdCancel); });
+    run.intListRow = 0;
+    StartConverting(run);
+}
+
+void cmdViewLog_click(ProgressRun& run) {
+    const ErrorTrap trap("frmprogress", "cmdViewLog_click");
+    const AppSettings& settings = run.records.settings;
+    if (settings.intUseWiz == 0 || settings.intUseWiz == 1) {
+        run.blnAdvanceQueue = true;
+        run.records.flags.blnCloseRequested = false;
+        trap([&] { run.followUp.BatchConversion(run); });
+        run.blnAdvanceQueue = false;
+    }
+    trap([&] {
+        if (run.files.exists(settings.strLogPath))
+            run.view.showLog(run.files.readText(settings.strLogPath));
+        else
+            run.messageBox.tell(MessageBox::Icon::Exclamation,
+                                "Log file does not exists. Please check the Log file path.", kWindowTitle);
+    });
+    trap([&] { run.view.showButton(Button::cmdClose); });
+    trap([&] { run.view.hideButton(Button::cmdViewLog); });
+}
+
+} // namespace run

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The progress window as the run sees it. Everything is harmless on a window that was unloaded.
+class ProgressView {
+public:
+    virtual ~ProgressView() = default;
+
+    virtual void show() = 0;
+    /// Unloads the window by the program: its Form_QueryUnload and Form_Unload run before this returns.
+    virtual void unload() = 0;
+
+    virtual void setStatus(const QString& caption) = 0; ///< lblStatus
+    virtual void setBar(int value) = 0;                 ///< ProgressBar1, 0 to 10
+    virtual void startTimer() = 0;                      ///< Timer1
+    virtual void stopTimer() = 0;
+
+    /// The caption of one of the eight stage labels.
+    virtual QString stageCaption(const QString& label) const = 0;
+    virtual void hideStageLabels() = 0;
+
+    enum class Button { cmdCancel, cmdClose, cmdViewLog };
+    virtual void showButton(Button button) = 0; ///< shown and enabled
+    virtual void hideButton(Button button) = 0;
+
+    virtual void showLog(const QString& text) = 0; ///< RichTextBox1
+    virtual void setDefaultPointer() = 0;
+};
+
+/// The main window as the run sees it.
+class MainView {
+public:
+    virtual ~MainView() = default;
+
+    virtual void show() = 0; ///< loads it when needed
+    virtual void hide() = 0;
+    virtual bool isMinimised() const = 0;
+    virtual void setNormal() = 0;
+
+    virtual void awaitSource() = 0;   ///< cmdBrowse enabled, lblPlzBrowse shown, lblBatchInProcess hidden
+    virtual void emptyJobBoxes() = 0; ///< the boxes of source and output
+    /// Says where a finished document lies.
+    virtual void showFinishedDocument(const QString& path) = 0;
+};
+
+/// The system's message box.
+class MessageBox {
+public:
+    virtual ~MessageBox() = default;
+
+    enum class Icon { Critical, Information, Exclamation };
+    virtual void tell(Icon icon, const QString& text, const QString& title) = 0;
+
+    enum class Answer { Yes, No };
+    virtual Answer ask(const QString& question, const QString& title) = 0;
+};
+
+/// The window frmErrorYesNoOnly: a question chosen by the name of the control that holds it.
+class YesNoDialog {
+public:
+    virtual ~YesNoDialog() = default;
+
+    enum class Place { CentreOfProgress, BelowCentreOfProgress, CentreOfMain };
+    /// Shows the question and waits. The answer stands in intDialogAnswer: 1 yes, 0 no or closed.
+    virtual void ask(const QString& controlName, Place place) = 0;
+};
+
+/// The window frmPassword.
+class PasswordPrompt {
+public:
+    virtual ~PasswordPrompt() = default;
+
+    enum class Password { User, Owner };
+    /// Shows the prompt and waits. OK leaves the entered text in strPdfPassword and 1 in intDialogAnswer; Cancel gives
+    /// up this file: it unloads the progress window, sets blnCloseRequested and brings the main window in order.
+    virtual void ask(Password wanted) = 0;
+};
+
+/// The ten texts of lblProgressStatus in the current language, in index order.
+class StatusTexts {
+public:
+    virtual ~StatusTexts() = default;
+    virtual QStringList lblProgressStatus() const = 0;
+};

@@ -1,0 +1,119 @@
+#include "ui/application/Application.h"
+
+#include "platform/Environment.h"
+#include "settings/DefaultSettings.h"
+#include "ui/main/frmMain.h"
+#include "ui/progress/frmProgress.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <stdexcept>
+
+Application::Application()
+    : m_engines(platform::programFile().parent_path()) {}
+
+Application::~Application() = default;
+
+int Application::run() {
+    if (Main(m_records, SystemFolderSources(), *this) == AfterMain::EndProcess)
+        return 0;
+    listenForOtherCopies();
+    StartUp(m_records, *this);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [this] { m_forms.noteSystemShutdown(); });
+    const int exitCode = QCoreApplication::exec();
+    m_forms.dispose();
+    return exitCode;
+}
+
+void Application::listenForOtherCopies() {
+    if (m_runningCopy.listen() == platform::RunningCopy::Listening::No)
+        return;
+    auto* notifier = new QSocketNotifier(m_runningCopy.handle(), QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [this] {
+        m_runningCopy.answerKnock([this](const std::string& token) { m_forms.bringForward(token); });
+    });
+}
+
+OtherCopies::Search Application::bringForward(const QString&) {
+    const auto found = m_runningCopy.askToComeForward();
+    return found == platform::RunningCopy::Found::OtherCopy ? Search::BroughtForward : Search::NotFound;
+}
+
+void Application::activateApplication(const QString& title) {
+    if (bringForward(title) == Search::NotFound)
+        throw std::runtime_error("no application of that title is running");
+}
+
+void Application::LoadSettings() {
+    SetDefaultSettings(m_records);
+}
+
+int Application::IsMSWordInstalled() {
+    // Nothing looks for a word processor yet, and one that was not looked for counts as absent.
+    return 0;
+}
+
+void Application::runLater(std::chrono::milliseconds delay, std::function<void()> step) {
+    QTimer::singleShot(delay, qApp, std::move(step));
+}
+
+QString Application::programCommandLine() const {
+    return QCoreApplication::arguments().mid(1).join(' ');
+}
+
+void Application::showMainWindow() {
+    mainWindow()->showForm();
+}
+
+std::shared_ptr<frmMain> Application::mainWindow() {
+    return m_forms.obtain<frmMain>(
+        MainPorts{m_records, m_messageBox, m_yesNoDialog, m_eventLoop, [this] { startRun(); }});
+}
+
+void Application::startRun() {
+    const RunPorts ports{m_records,   *this,   m_messageBox, m_yesNoDialog, m_passwordPrompt, m_statusTexts,
+                         m_eventLoop, m_clock, m_files,      m_engines,     m_followUp,       m_forms};
+    m_forms.obtain<frmProgress>(ports)->load();
+}
+
+void Application::giveUpFile() {
+    if (const auto progress = m_forms.find<frmProgress>())
+        progress->unload();
+    m_records.flags.blnCloseRequested = true;
+    m_records.job.strSourcePDF = " ";
+    mainWindow()->emptyJobBoxes();
+    show();
+}
+
+void Application::show() {
+    if (!m_forms.hasProgramEnded())
+        mainWindow()->showForm();
+}
+
+void Application::hide() {
+    mainWindow()->hide();
+}
+
+bool Application::isMinimised() const {
+    const auto window = m_forms.find<frmMain>();
+    return window && window->isMinimized();
+}
+
+void Application::setNormal() {
+    if (!m_forms.hasProgramEnded())
+        mainWindow()->showNormal();
+}
+
+void Application::awaitSource() {
+    mainWindow()->awaitSource();
+}
+
+void Application::emptyJobBoxes() {
+    mainWindow()->emptyJobBoxes();
+}
+
+void Application::showFinishedDocument(const QString& path) {
+    mainWindow()->showFinishedDocument(path);
+}

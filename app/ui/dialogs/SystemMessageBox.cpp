@@ -1,0 +1,33 @@
+#include "ui/dialogs/SystemMessageBox.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon systemIcon(MessageBox::Icon icon) {
+    switch (icon) {
+    case MessageBox::Icon::Critical:
+        return QMessageBox::Critical;
+    case MessageBox::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageBox::Icon::Information:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+} // namespace
+
+void SystemMessageBox::tell(Icon icon, const QString& text, const QString& title) {
+    QMessageBox box(systemIcon(icon), title, text, QMessageBox::Ok, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+MessageBox::Answer SystemMessageBox::ask(const QString& question, const QString& title) {
+    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label that acts like a button: by a click, and by Enter or the space bar when it has the focus.
+class LinkLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit LinkLabel(QWidget* parent = nullptr);
+
+signals:
+    void clicked();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};

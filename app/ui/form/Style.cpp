@@ -1,0 +1,52 @@
+#include "ui/form/Style.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace {
+
+constexpr QRgb kProductColour = qRgb(0x00, 0x78, 0xD4);
+constexpr QRgb kPage = qRgb(0xF7, 0xF8, 0xFA);
+constexpr QRgb kCardBorder = qRgb(0xD9, 0xDE, 0xE4);
+constexpr int kLightDesktop = 128; ///< lightness, 0 to 255, from which a desktop counts as light
+
+// Frames carry their part in the window as the property "role": band, column, page, card or foot.
+constexpr char kStyleSheet[] = R"(
+QFrame[role="band"], QFrame[role="column"] { background: #0078D4; border: none; }
+QFrame[role="band"] QLabel, QFrame[role="column"] QLabel { color: #000000; }
+QFrame[role="band"] QLabel[role="title"] { font-size: 14pt; font-weight: 600; }
+QFrame[role="column"] QLabel[role="link"] { min-height: 30px; border: 2px solid transparent; padding: 0 8px; }
+QFrame[role="column"] QLabel[role="link"]:hover { color: #FFFFFF; }
+QFrame[role="column"] QLabel[role="link"]:focus { border-color: #FFFFFF; }
+QFrame[role="page"] { background: palette(window); border: none; }
+QFrame[role="card"] { background: palette(base); border: 1px solid palette(midlight); border-radius: 6px; }
+QFrame[role="foot"] { background: palette(base); border: none; border-top: 1px solid palette(midlight); }
+QLabel[role="status"] { font-size: 12pt; }
+QLabel[role="heading"] { font-weight: 600; }
+QLineEdit { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
+            background: palette(base); }
+QPushButton { min-height: 26px; min-width: 88px; padding: 0 12px; border: 2px solid palette(midlight); border-radius: 4px;
+              background: palette(button); color: palette(button-text); }
+QPushButton:default { background: #0078D4; border-color: #0078D4; color: #FFFFFF; }
+QPushButton:focus, QLineEdit:focus, QTextEdit:focus { border: 2px solid palette(text); }
+QPushButton:disabled { color: palette(mid); }
+QProgressBar { min-height: 16px; max-height: 16px; border: 1px solid palette(midlight); border-radius: 4px;
+               background: palette(base); text-align: center; }
+QProgressBar::chunk { background: #0078D4; border-radius: 3px; }
+)";
+
+} // namespace
+
+void applyStyle(QApplication& application) {
+    QPalette palette = application.palette();
+    if (palette.color(QPalette::Window).lightness() >= kLightDesktop) {
+        palette.setColor(QPalette::Window, QColor(kPage));
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::Button, Qt::white);
+        palette.setColor(QPalette::Midlight, QColor(kCardBorder));
+        palette.setColor(QPalette::Text, QColor(0x1B, 0x1B, 0x1B));
+    }
+    palette.setColor(QPalette::Highlight, QColor(kProductColour));
+    application.setPalette(palette);
+    application.setStyleSheet(kStyleSheet);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/ProgressRun.h"
+#include "ui/form/Form.h"
+
+#include <QTimer>
+
+#include <memory>
+
+namespace Ui {
+class frmProgress;
+}
+
+/// The window of a run: status line, bar, log view, and the ways out. It is made anew for each run, and the first
+/// attempt runs inside its loading.
+class frmProgress : public Form, public ProgressView {
+    Q_OBJECT
+
+public:
+    frmProgress(FormRegistry& registry, const RunPorts& ports);
+    ~frmProgress() override;
+
+    void show() override;
+    void unload() override;
+    void setStatus(const QString& caption) override;
+    void setBar(int value) override;
+    void startTimer() override;
+    void stopTimer() override;
+    QString stageCaption(const QString& label) const override;
+    void hideStageLabels() override;
+    void showButton(Button button) override;
+    void hideButton(Button button) override;
+    void showLog(const QString& text) override;
+    void setDefaultPointer() override;
+
+protected:
+    void Form_Load() override;
+    void Form_QueryUnload(bool& cancel, UnloadMode unloadMode) override;
+    void Form_Unload() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void connectHandlers();
+    void cmdViewLog_click();
+    void cmdClose_click();
+    void cmdCancel_click();
+    void Timer1_Timer();
+
+    QWidget& widgetOf(Button button) const;
+
+    std::unique_ptr<Ui::frmProgress> m_ui;
+    QTimer m_timer1;
+    ProgressRun m_run;
+};
