@@ -1,9 +1,10 @@
 #pragma once
 
+#include "protocol/ProtocolError.h"
+
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -11,12 +12,6 @@
 #include <nlohmann/json.hpp>
 
 namespace orvane::protocol {
-
-/// The other side sent what it must not send.
-class ProtocolError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// The closed list of values of an enumeration with the names they travel under.
 template<typename Enum, std::size_t size>

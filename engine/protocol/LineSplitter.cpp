@@ -1,6 +1,6 @@
 #include "protocol/LineSplitter.h"
 
-#include "protocol/JsonReader.h"
+#include "protocol/ProtocolError.h"
 
 namespace orvane::protocol {
 

@@ -1,6 +1,6 @@
 #include "protocol/PercentText.h"
 
-#include "protocol/JsonReader.h"
+#include "protocol/ProtocolError.h"
 
 #include <charconv>
 

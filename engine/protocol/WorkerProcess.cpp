@@ -1,7 +1,7 @@
 #include "protocol/WorkerProcess.h"
 
-#include "protocol/JsonReader.h"
 #include "protocol/PartFile.h"
+#include "protocol/ProtocolError.h"
 
 #include <algorithm>
 #include <type_traits>

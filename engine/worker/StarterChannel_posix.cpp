@@ -1,6 +1,6 @@
 #include "worker/StarterChannel.h"
 
-#include "protocol/JsonReader.h"
+#include "protocol/ProtocolError.h"
 
 #include <algorithm>
 #include <array>
