@@ -106,6 +106,8 @@ struct LayoutParameters {
             0.9; ///< of the font size; a line with less room beside it may be a full line by chance
         double leadingTolerance = 1.15;     ///< of the usual leading; lines farther apart have space between paragraphs
         double looseLeadingTolerance = 1.4; ///< likewise where the usual leading of this font size is only guessed
+        double maximumLeading = 3.0; ///< of the font size; lines farther apart are never of one paragraph
+        int leadingSamples = 3;      ///< line pairs that show a leading wider than the document's before it is believed
         double sameRow = 0.3;               ///< of the font size; baselines closer than this stand on one row
         double sizeChange = 1.1;            ///< ratio of font sizes from which lines look different
         double maximumFirstLine = 8; ///< of the font size; a deeper step of the left edge is no first-line indent

@@ -13,8 +13,8 @@ NaturalLeading::NaturalLeading(std::span<const Line> lines, std::span<const Line
         const double distance = lines[i + 1].baseline - lines[i].baseline;
         const double size = lines[i].fontSize;
         // A first word that had no room above tells that nobody pressed a key between the two lines.
-        if (distance > parameters.sameRow * size && std::abs(lines[i + 1].fontSize - size) < 0.5 &&
-            !measures[i + 1].marker &&
+        if (distance > parameters.sameRow * size && distance < parameters.maximumLeading * size &&
+            std::abs(lines[i + 1].fontSize - size) < 0.5 && !measures[i + 1].marker &&
             !wouldHaveFitted(measures[i], measures[i + 1], measures[i].endGap, parameters.fitSlack * size))
             samples.emplace_back(std::round(size * 2) / 2, distance);
     }
@@ -24,7 +24,12 @@ NaturalLeading::NaturalLeading(std::span<const Line> lines, std::span<const Line
         std::size_t to = from;
         while (to < samples.size() && samples[to].first == samples[from].first)
             ++to;
-        m_learnt.emplace_back(samples[from].first, samples[from + (to - from) / 4].second);
+        const double size = samples[from].first;
+        const double leading = samples[from + (to - from) / 4].second;
+        // Few samples that are wider than usual may all be space between paragraphs.
+        if (leading <= parameters.leadingTolerance * m_bodyRatio * size ||
+            static_cast<int>(to - from) >= parameters.leadingSamples)
+            m_learnt.emplace_back(size, leading);
         from = to;
     }
 }

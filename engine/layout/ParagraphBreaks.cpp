@@ -90,7 +90,7 @@ private:
                 (m_lines[next - 1].baseline - m_lines[m_first].baseline) / static_cast<double>(next - 1 - m_first);
             tolerance = m_parameters.leadingTolerance;
         }
-        return distance > expected * tolerance;
+        return distance > expected * tolerance || distance > m_parameters.maximumLeading * size;
     }
 
     bool looksDifferent(std::size_t next) const {
