@@ -68,6 +68,7 @@ struct Line {
     double angle = 0;                ///< degrees clockwise: 0, 90, 180, 270 or another
     bool isRightToLeft = false;
     bool isVertical = false;         ///< East Asian vertical writing
+    int dropCapLines = 0;            ///< how many lines its first letter, a drop cap, stands over; 0 for none
     std::uint32_t firstPaintOrder = 0;
 };
 

@@ -1,0 +1,179 @@
+#include "layout/ClusterBuilder.h"
+
+#include "layout/ActualText.h"
+#include "layout/Characters.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+constexpr char32_t kUnknownCharacter = 0xFFFD;
+
+const pdf::Font& fontOf(const pdf::PageContent& page, const pdf::Glyph& glyph) {
+    static const pdf::Font kNone;
+    return glyph.font < page.fonts.size() ? page.fonts[glyph.font] : kNone;
+}
+
+double roundedTo(double value, double step) {
+    return std::round(value / step) * step;
+}
+
+Look lookOf(const pdf::Font& font, const pdf::Glyph& glyph, const SelectedGlyph& selected,
+            const LayoutParameters::Clusters& limits) {
+    Look look;
+    look.font = glyph.font;
+    look.size = roundedTo(glyph.fontSize, limits.sizeStep);
+    look.color = glyph.color;
+    look.isBold = font.isBold || font.weight >= limits.boldWeight || selected.isBold;
+    look.isItalic = font.isItalic;
+    look.isOutlined = glyph.isOutlined;
+    look.isInvisible = selected.isRecognised;
+    look.horizontalScale = roundedTo(glyph.horizontalScale, limits.scaleStep);
+    return look;
+}
+
+/// Where a glyph stands in its frame. In vertical writing the line's middle takes the place of the baseline.
+void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& font, const pdf::Glyph& glyph) {
+    if (frame.isVertical) {
+        const Rect box = frame.boxFromPage(glyph.box);
+        cluster.start = box.left;
+        cluster.end = box.right;
+        cluster.baseline = (box.top + box.bottom) / 2;
+        cluster.ascent = cluster.descent = glyph.fontSize / 2;
+    } else {
+        const TextFrame::Position position = frame.fromPage(glyph.origin);
+        cluster.start = position.along;
+        cluster.end = position.along + glyph.advance;
+        cluster.baseline = position.across;
+        cluster.ascent = font.ascent * glyph.fontSize;
+        cluster.descent = font.descent * glyph.fontSize;
+    }
+    cluster.size = glyph.fontSize;
+    cluster.spaceWidth = font.spaceWidth * glyph.fontSize * glyph.horizontalScale;
+}
+
+Cluster makeCluster(const pdf::PageContent& page, const SelectedGlyph& selected, std::uint32_t frameIndex,
+                    const TextFrame& frame, const LayoutParameters::Clusters& limits) {
+    const pdf::Glyph& glyph = page.glyphs[selected.index];
+    const pdf::Font& font = fontOf(page, glyph);
+    Cluster cluster;
+    cluster.text = glyph.unicode.empty() ? std::u32string{kUnknownCharacter} : normalizeGlyphText(glyph.unicode);
+    cluster.frame = frameIndex;
+    cluster.glyph = selected.index;
+    cluster.mark = glyph.mark;
+    cluster.look = lookOf(font, glyph, selected, limits);
+    placeCluster(cluster, frame, font, glyph);
+    return cluster;
+}
+
+bool isMarkOnly(const std::u32string& text) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](char32_t c) { return isCombiningMark(c); });
+}
+
+/// How far inside `base` the mark stands, in points; negative outside it.
+double depthInside(const Cluster& base, const Cluster& mark) {
+    const double position = mark.width() > 0.1 * mark.size ? mark.center() : mark.start;
+    return std::min(position - base.start, base.end - position);
+}
+
+bool canCarry(const Cluster& base, const Cluster& mark, const LayoutParameters::Clusters& limits) {
+    return base.frame == mark.frame && !base.text.empty() && !isBlank(base.text) && !isMarkOnly(base.text) &&
+           std::abs(base.baseline - mark.baseline) <= limits.markRise * base.size &&
+           depthInside(base, mark) >= -limits.markReach * base.size;
+}
+
+/// Joins marks to the letter before or after them in paint order, whichever they stand on.
+class MarkJoiner {
+public:
+    MarkJoiner(std::vector<Cluster>& clusters, const LayoutParameters::Clusters& limits)
+        : m_clusters(clusters)
+        , m_limits(limits) {}
+
+    void join() {
+        for (std::size_t i = 0; i < m_clusters.size(); ++i) {
+            const Cluster& cluster = m_clusters[i];
+            if (isMarkOnly(cluster.text))
+                joinMark(i);
+            else if (cluster.text.size() == 1 && combiningAccent(cluster.text.front()) != 0)
+                joinAccent(i);
+        }
+        std::erase_if(m_clusters, [](const Cluster& cluster) { return cluster.text.empty(); });
+    }
+
+private:
+    /// The nearest cluster in paint order that still has a text; null at the ends.
+    Cluster* before(std::size_t i) {
+        while (i-- > 0)
+            if (!m_clusters[i].text.empty())
+                return &m_clusters[i];
+        return nullptr;
+    }
+    Cluster* after(std::size_t i) { return i + 1 < m_clusters.size() ? &m_clusters[i + 1] : nullptr; }
+
+    void joinMark(std::size_t i) {
+        Cluster& mark = m_clusters[i];
+        Cluster* left = before(i);
+        Cluster* right = after(i);
+        if (left && !canCarry(*left, mark, m_limits))
+            left = nullptr;
+        if (right && !canCarry(*right, mark, m_limits))
+            right = nullptr;
+        if (left && right) {
+            const bool isDeeperRight =
+                depthInside(*right, mark) > depthInside(*left, mark) + m_limits.markTie * mark.size;
+            (isDeeperRight ? left : right) = nullptr;
+        }
+        Cluster* base = left ? left : right;
+        if (!base)
+            return;
+        for (const char32_t c : mark.text)
+            base->text = compose(base->text, c);
+        mark.text.clear();
+    }
+
+    /// A spacing accent painted over a letter, the way some typesetters make accented letters.
+    void joinAccent(std::size_t i) {
+        Cluster& accent = m_clusters[i];
+        for (Cluster* base : {after(i), before(i)}) {
+            if (!base || base->text.size() != 1 || !isLetter(base->text.front()) || base->frame != accent.frame ||
+                std::abs(base->baseline - accent.baseline) > m_limits.markRise * base->size)
+                continue;
+            const double shared = overlap(base->start, base->end, accent.start, accent.end);
+            if (shared < m_limits.accentOverlap * std::min(base->width(), accent.width()))
+                continue;
+            // A dotless i with an accent is the accented i.
+            const char32_t letter = base->text.front() == 0x131   ? U'i'
+                                    : base->text.front() == 0x237 ? U'j'
+                                                                  : base->text.front();
+            const std::u32string composed = compose(std::u32string{letter}, combiningAccent(accent.text.front()));
+            if (composed.size() != 1)
+                continue;
+            base->text = composed;
+            accent.text.clear();
+            return;
+        }
+    }
+
+    std::vector<Cluster>& m_clusters;
+    const LayoutParameters::Clusters& m_limits;
+};
+
+} // namespace
+
+std::vector<Cluster> buildClusters(const pdf::PageContent& page, const GlyphSelection& selection,
+                                   const FrameSelection& frames, const LayoutParameters& parameters,
+                                   Diagnostics& diagnostics) {
+    std::vector<Cluster> clusters;
+    clusters.reserve(selection.glyphs.size());
+    for (std::size_t i = 0; i < selection.glyphs.size(); ++i) {
+        const std::uint32_t frame = frames.frameOfGlyph[i];
+        clusters.push_back(makeCluster(page, selection.glyphs[i], frame, frames.frames[frame], parameters.clusters));
+    }
+    applyActualTexts(clusters, page.marks, parameters, diagnostics);
+    MarkJoiner(clusters, parameters.clusters).join();
+    return clusters;
+}
+
+} // namespace orvane::layout

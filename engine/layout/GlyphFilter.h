@@ -1,0 +1,30 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "layout/LayoutParameters.h"
+#include "pdf/PageContent.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace orvane::layout {
+
+/// A glyph that takes part in the text.
+struct SelectedGlyph {
+    std::uint32_t index = 0;   ///< into pdf::PageContent::glyphs
+    bool isRecognised = false; ///< invisible text behind a scanned picture
+    bool isBold = false; ///< made bold by painting: stroked as well as filled, or painted twice with a small offset
+};
+
+/// The glyphs a reader sees, each once, in paint order.
+struct GlyphSelection {
+    std::vector<SelectedGlyph> glyphs;
+    bool isScanned = false; ///< pictures cover the page and no text is visible
+};
+
+/// Chooses what takes part in the text: visible glyphs, and invisible ones where a picture covers them and nothing
+/// visible was written in their place. Glyphs painted again at nearly the same place (shadows, bold by painting) count
+/// once.
+GlyphSelection filterGlyphs(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics);
+
+} // namespace orvane::layout

@@ -1,0 +1,44 @@
+#include "layout/ClusterBuilder.h"
+#include "layout/FigureFinder.h"
+#include "layout/FrameFinder.h"
+#include "layout/GlyphFilter.h"
+#include "layout/Layout.h"
+#include "layout/LineBuilder.h"
+#include "layout/RowBuilder.h"
+#include "layout/RuleFinder.h"
+#include "layout/SpanBuilder.h"
+#include "layout/TextDecoration.h"
+#include "layout/WordBuilder.h"
+
+namespace orvane::layout {
+
+PageText readPageText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    PageText text;
+    text.number = page.number;
+    text.width = page.width;
+    text.height = page.height;
+    text.fonts = page.fonts;
+    text.links = page.links;
+    text.annotations = page.annotations;
+    text.fields = page.fields;
+    text.marks = page.marks;
+
+    RuledPage ruled = findRules(page, parameters, diagnostics);
+    text.rules = std::move(ruled.rules);
+    text.grounds = std::move(ruled.grounds);
+
+    const GlyphSelection selection = filterGlyphs(page, parameters, diagnostics);
+    text.isScanned = selection.isScanned;
+    const FrameSelection frames = findFrames(page, selection, parameters, diagnostics);
+    std::vector<Cluster> clusters = buildClusters(page, selection, frames, parameters, diagnostics);
+    std::vector<TextRow> rows = buildRows(std::move(clusters), parameters, diagnostics);
+    rows = findWordGaps(std::move(rows), parameters, diagnostics);
+    std::vector<TextRow> lines = buildLines(std::move(rows), frames.frames, text.rules, parameters, diagnostics);
+    decorateText(lines, frames.frames, text.rules, text.grounds, text.links, parameters, diagnostics);
+    text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
+
+    text.figures = findFigures(page, ruled.isTaken, parameters, diagnostics);
+    return text;
+}
+
+} // namespace orvane::layout
