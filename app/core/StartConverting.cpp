@@ -132,11 +132,12 @@ void StartConverting(ProgressRun& run) {
     resetFile(run, trap);
     testForEngine(run, trap);
     takeImageFormat(run.records.job);
+    if (!isClosing(run))
+        trap([&] { run.eventLoop.yield(); });
     if (isClosing(run)) {
         trap([&] { run.view.unload(); });
         return;
     }
-    trap([&] { run.eventLoop.yield(); });
     if (run.records.flags.intRunKind == run_kind::kConvert)
         convert(run, trap);
     else if (run.records.flags.intRunKind == run_kind::kExtractImages)

@@ -47,9 +47,7 @@ void Form::unload(UnloadMode reason) {
 void Form::Form_QueryUnload(bool&, UnloadMode) {}
 
 void Form::closeEvent(QCloseEvent* event) {
-    // Unloading hides the window; what Qt would do about a closed window must not happen to one that refuses.
-    event->ignore();
     unload(m_registry.closeReason());
-    if (m_registry.closeReason() == UnloadMode::SystemShutdown)
-        event->accept();
+    // A form that refused must not be hidden; whoever asked for the close hears of it.
+    event->setAccepted(m_state == State::Unloaded);
 }

@@ -1,0 +1,239 @@
+#include "app/support/RunFixture.h"
+#include "ui/form/FormRegistry.h"
+#include "ui/form/LinkLabel.h"
+#include "ui/main/frmMain.h"
+#include "ui/progress/frmProgress.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTextEdit>
+
+namespace tavrelion::tests {
+namespace {
+
+using Status = EngineScript::Status;
+
+/// The real progress window over a fake engine and a main window that is only noted.
+class ProgressWindow : public RunFixture {
+protected:
+    ~ProgressWindow() override {
+        m_window.reset();
+        registry.dispose();
+    }
+
+    /// Loads the window, which runs the first attempt.
+    frmProgress& start() {
+        const RunPorts ports{records,   mainWindow, messageBox, yesNoDialog, passwordPrompt, statusTexts,
+                             eventLoop, clock,      files,      engines,     followUp,       registry};
+        m_window = registry.obtain<frmProgress>(ports);
+        m_window->load();
+        return *m_window;
+    }
+    template<typename Widget>
+    Widget& child(const char* name) const {
+        return *m_window->findChild<Widget*>(name);
+    }
+    QPushButton& button(const char* name) const { return child<QPushButton>(name); }
+    QString status() const { return child<QLabel>("lblStatus").text(); }
+
+    /// Waits for the window's own timer, which the tests do not speed up.
+    template<typename Condition>
+    static bool waitFor(Condition&& condition) {
+        return QTest::qWaitFor(std::forward<Condition>(condition), 5000);
+    }
+
+    FormRegistry registry;
+
+private:
+    std::shared_ptr<frmProgress> m_window;
+};
+
+TEST_F(ProgressWindow, StandsOpenWithItsButtonsWhileTheEngineWorks) {
+    script.statuses = {{5, 2, 9, 0}};
+    frmProgress& window = start();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.windowTitle(), "Tavrelion-PDF to Word Converter");
+    EXPECT_TRUE(button("cmdCancel").isVisible());
+    EXPECT_FALSE(button("cmdClose").isVisible());
+    EXPECT_FALSE(button("cmdViewLog").isVisible());
+    EXPECT_EQ(status(), "Scanning PDF...");
+    EXPECT_EQ(child<QProgressBar>("ProgressBar1").minimum(), 0);
+    EXPECT_EQ(child<QProgressBar>("ProgressBar1").maximum(), 10);
+    EXPECT_EQ(child<QProgressBar>("ProgressBar1").value(), 4);
+    EXPECT_FALSE(child<QLabel>("lblInitConversion").isVisible());
+    EXPECT_TRUE(waitFor([&] { return status() == "page 2 of 9"; })) << "the timer polls";
+}
+
+TEST_F(ProgressWindow, CancelAsksAndUnloads) {
+    frmProgress& window = start();
+    yesNoDialog.answer = 0;
+    QTest::mouseClick(&button("cmdCancel"), Qt::LeftButton);
+    EXPECT_TRUE(window.isVisible());
+    yesNoDialog.answer = 1;
+    QTest::mouseClick(&button("cmdCancel"), Qt::LeftButton);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(window.isLoaded());
+    EXPECT_EQ(script.cancels, 1);
+    EXPECT_TRUE(mainWindow.isShown);
+    EXPECT_EQ(registry.find<frmProgress>(), nullptr);
+}
+
+TEST_F(ProgressWindow, EscapeIsCancel) {
+    frmProgress& window = start();
+    yesNoDialog.answer = 1;
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_EQ(yesNoDialog.asked, QStringList{"lblCancelConversion"});
+    EXPECT_FALSE(window.isLoaded());
+}
+
+TEST_F(ProgressWindow, AFailureShowsTheLogButtonThenTheLogThenClose) {
+    files.files.insert(records.settings.strLogPath);
+    files.texts[records.settings.strLogPath] = "page 3: damaged";
+    script.results = {1};
+    frmProgress& window = start();
+    EXPECT_EQ(status(), "Failed to Convert File.");
+    EXPECT_FALSE(button("cmdCancel").isVisible());
+    EXPECT_TRUE(button("cmdViewLog").isVisible());
+    QTest::mouseClick(&button("cmdViewLog"), Qt::LeftButton);
+    EXPECT_EQ(child<QTextEdit>("RichTextBox1").toPlainText(), "page 3: damaged");
+    EXPECT_TRUE(child<QTextEdit>("RichTextBox1").isVisible());
+    EXPECT_FALSE(button("cmdViewLog").isVisible());
+    QTest::mouseClick(&button("cmdClose"), Qt::LeftButton);
+    EXPECT_FALSE(window.isLoaded());
+    EXPECT_TRUE(mainWindow.isShown);
+}
+
+TEST_F(ProgressWindow, AFinishCodeEndsThePolling) {
+    script.statuses = {{11, 0, 0, 1}};
+    start();
+    EXPECT_TRUE(waitFor([&] { return journal.contains("ShowCompleted"); }));
+    EXPECT_EQ(status(), "t8");
+    EXPECT_EQ(child<QProgressBar>("ProgressBar1").value(), 10);
+}
+
+TEST_F(ProgressWindow, TheCloseBoxAsksAndMayBeRefused) {
+    frmProgress& window = start();
+    window.close();
+    EXPECT_EQ(messageBox.questions, QStringList{"Do you want to close Tavrelion-PDF to Word Converter?"});
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(records.flags.blnCloseRequested);
+    messageBox.answer = MessageBox::Answer::Yes;
+    window.close();
+    EXPECT_FALSE(window.isLoaded());
+}
+
+TEST_F(ProgressWindow, AWindowThatUnloadsInsideItsOwnLoadingSurvivesIt) {
+    eventLoop.atYield[3] = [this] {
+        yesNoDialog.answer = 1;
+        const auto window = registry.find<frmProgress>();
+        QTest::mouseClick(window->findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    frmProgress& window = start();
+    EXPECT_FALSE(window.isLoaded());
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(mainWindow.isShown);
+    EXPECT_TRUE(script.requests.empty());
+}
+
+/// The real main window.
+class MainWindow : public RunFixture {
+protected:
+    MainWindow() {
+        records.job = ConversionJob();
+        m_window =
+            registry.obtain<frmMain>(MainPorts{records, messageBox, yesNoDialog, eventLoop, [this] { ++runsStarted; }});
+    }
+    ~MainWindow() override {
+        m_window.reset();
+        registry.dispose();
+    }
+    frmMain& window() const { return *m_window; }
+    LinkLabel& exitLabel() const { return *m_window->findChild<LinkLabel*>("lblExit"); }
+
+    FormRegistry registry;
+    int runsStarted = 0;
+
+private:
+    std::shared_ptr<frmMain> m_window;
+};
+
+TEST_F(MainWindow, StartsTheRunOfAFileFromTheCommandLineOnce) {
+    records.flags.strCommandLine = "/in/report.pdf";
+    window().showForm();
+    EXPECT_EQ(runsStarted, 1);
+    EXPECT_EQ(window().findChild<QLineEdit*>("txtFileBrowsePath")->text(), "/in/report.pdf");
+    EXPECT_EQ(window().findChild<QLineEdit*>("txtfilepathOutput")->text(), "/in/report.docx");
+    window().hide();
+    window().showForm();
+    EXPECT_EQ(runsStarted, 1);
+}
+
+TEST_F(MainWindow, RefusesOtherFilesAndEndsTheProgram) {
+    records.flags.strCommandLine = "/in/picture.png";
+    window().showForm();
+    EXPECT_EQ(runsStarted, 0);
+    ASSERT_EQ(messageBox.messages.size(), 1u);
+    EXPECT_EQ(messageBox.messages[0].text, "Sorry! Tavrelion does not support the requested file format.");
+    EXPECT_TRUE(registry.hasProgramEnded());
+}
+
+TEST_F(MainWindow, SaysWhereTheDocumentLies) {
+    window().showForm();
+    window().showFinishedDocument("/out/report.docx");
+    EXPECT_EQ(window().findChild<QLabel*>("lblFinishedDocument")->text(), "The document lies in /out/report.docx");
+}
+
+TEST_F(MainWindow, ClosingAsksAndNoKeepsIt) {
+    window().showForm();
+    records.flags.blnCloseRequested = true;
+    window().close();
+    EXPECT_EQ(messageBox.questions, QStringList{"Do you want to close Tavrelion-PDF to Word Converter?"});
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_FALSE(records.flags.blnCloseRequested);
+    EXPECT_FALSE(registry.hasProgramEnded());
+}
+
+TEST_F(MainWindow, ClosingAnsweredYesEndsTheProgram) {
+    window().showForm();
+    messageBox.answer = MessageBox::Answer::Yes;
+    window().close();
+    EXPECT_TRUE(records.flags.blnCloseRequested);
+    EXPECT_TRUE(registry.hasProgramEnded());
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(MainWindow, ASystemShutdownClosesItWithoutAQuestion) {
+    window().showForm();
+    registry.noteSystemShutdown();
+    window().close();
+    EXPECT_TRUE(messageBox.questions.isEmpty());
+    EXPECT_TRUE(registry.hasProgramEnded());
+}
+
+TEST_F(MainWindow, ExitAsksItsOwnQuestion) {
+    window().showForm();
+    QTest::mouseClick(&exitLabel(), Qt::LeftButton);
+    EXPECT_EQ(yesNoDialog.asked, QStringList{"msgWishToExit"});
+    EXPECT_EQ(yesNoDialog.places.front(), YesNoDialog::Place::CentreOfMain);
+    EXPECT_FALSE(registry.hasProgramEnded());
+    yesNoDialog.answer = 1;
+    QTest::keyClick(&exitLabel(), Qt::Key_Space);
+    EXPECT_TRUE(registry.hasProgramEnded());
+    EXPECT_TRUE(messageBox.questions.isEmpty());
+}
+
+TEST_F(MainWindow, AClickLetGoOutsideALabelIsTakenBack) {
+    window().showForm();
+    QTest::mousePress(&exitLabel(), Qt::LeftButton);
+    QTest::mouseRelease(&exitLabel(), Qt::LeftButton, {}, QPoint(-50, -50));
+    EXPECT_TRUE(yesNoDialog.asked.isEmpty());
+}
+
+} // namespace
+} // namespace tavrelion::tests
