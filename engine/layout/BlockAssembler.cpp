@@ -3,16 +3,17 @@
 #include "layout/FigureAssembler.h"
 #include "layout/LineMetrics.h"
 #include "layout/ParagraphFormat.h"
-#include "layout/SpacingFinder.h"
 #include "layout/TableAssembler.h"
+
+#include <utility>
 
 namespace orvane::layout {
 namespace {
 
 /// The look of the paragraph mark is that of the last word, as if it had been typed on.
 document::RunProperties markProperties(const DraftParagraph& paragraph, const AssemblyContext& context) {
-    document::RunProperties mark =
-        runProperties(paragraph.lastLine().words.back().spans.back(), paragraph.pieces.back().page, context);
+    const Line& line = paragraph.lastLine();
+    document::RunProperties mark = runProperties(line.words.back().spans.back(), paragraph.pieces.back().page, context);
     mark.underline = document::UnderlineKind::None;
     mark.verticalPosition = document::VerticalPosition::Baseline;
     mark.highlight.reset();
@@ -23,36 +24,34 @@ document::RunProperties markProperties(const DraftParagraph& paragraph, const As
 AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& source,
                                  const AssemblyContext& context) {
     document::Paragraph paragraph;
-    paragraph.properties = formatOf(source, context.fonts, context.usualSpacing, context.parameters);
+    paragraph.properties = formatOf(source, context.parameters);
+    const std::optional<document::LineSpacing> spacing = lineSpacingOf(source, context.fonts, context.parameters);
+    if (spacing)
+        paragraph.properties.lineSpacing = *spacing;
     paragraph.inlines = assembleText(source, context);
     paragraph.markProperties = markProperties(source, context);
     paragraph.list = source.list;
     paragraph.origin = {context.draft.pages[draft.page].number, draft.box};
 
-    const DraftPiece& lastPiece = source.pieces.back();
-    const document::LineSpacing& spacing = paragraph.properties.lineSpacing;
-    const LineExtent first = spacedExtent(extentOf(source.firstLine(), draft.page, context.fonts), spacing);
-    const LineExtent last = spacedExtent(extentOf(source.lastLine(), lastPiece.page, context.fonts), spacing);
     AssembledBlock assembled;
-    assembled.top = source.firstLine().baseline - first.ascent;
-    assembled.bottom = source.lastLine().baseline + last.descent;
-    assembled.lastPage = lastPiece.page;
+    assembled.hasOwnLineSpacing = spacing.has_value();
+    assembled.lastPage = source.pieces.back().page;
     assembled.block.value = std::move(paragraph);
     return assembled;
 }
 
 AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& context) {
     AssembledBlock assembled;
-    if (const DraftParagraph* paragraph = draft.paragraph()) {
+    if (const DraftParagraph* paragraph = draft.paragraph())
         assembled = assembleParagraph(draft, *paragraph, context);
-    } else {
+    else if (const auto* table = std::get_if<DraftTable>(&draft.value))
+        assembled = assembleTable(*table, draft, context);
+    else
+        assembled.block = assembleFigure(std::get<FigureDraft>(draft.value), draft, context);
+    if (!draft.paragraph()) {
         assembled.top = draft.box.top;
         assembled.bottom = draft.box.bottom;
         assembled.lastPage = draft.page;
-        if (const DraftTable* table = std::get_if<DraftTable>(&draft.value))
-            assembled.block.value = assembleTable(*table, draft, context);
-        else
-            assembled.block = assembleFigure(std::get<FigureDraft>(draft.value), draft, context);
     }
     assembled.draft = &draft;
     return assembled;
@@ -68,13 +67,15 @@ std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts
     return blocks;
 }
 
-std::vector<document::Block> assembleInside(const std::vector<DraftBlock>& drafts, const AssemblyContext& context) {
-    std::vector<AssembledBlock> assembled = assembleBlocks(drafts, context);
-    setSpacing(assembled, context.parameters);
-    std::vector<document::Block> blocks;
-    for (AssembledBlock& block : assembled)
-        blocks.push_back(std::move(block.block));
-    return blocks;
+std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, const AssemblyContext& context) {
+    std::vector<document::Block> finished;
+    finished.reserve(blocks.size());
+    for (AssembledBlock& block : blocks) {
+        if (std::holds_alternative<document::Table>(block.block.value))
+            fillCells(block, context);
+        finished.push_back(std::move(block.block));
+    }
+    return finished;
 }
 
 } // namespace orvane::layout

@@ -117,7 +117,8 @@ bool isMostlyRightToLeft(const std::vector<PageText>& pages) {
     return 2 * rightToLeft > all;
 }
 
-/// The letters of a word in lower case, without what surrounds them; empty when something else stands between letters.
+/// The letters of a word in lower case, without what surrounds them; empty when something other than hyphens stands
+/// between letters.
 std::string plainWord(const Word& word) {
     std::u32string text;
     for (const Span& span : word.spans)
@@ -127,7 +128,7 @@ std::string plainWord(const Word& word) {
     const auto last = std::find_if(text.rbegin(), std::make_reverse_iterator(first), isLetter).base();
     std::u32string plain;
     for (auto c = first; c < last; ++c) {
-        if (!isLetter(*c) && u_charType(static_cast<UChar32>(*c)) != U_NON_SPACING_MARK)
+        if (!isLetter(*c) && *c != U'-' && u_charType(static_cast<UChar32>(*c)) != U_NON_SPACING_MARK)
             return {};
         plain += static_cast<char32_t>(u_tolower(static_cast<UChar32>(*c)));
     }

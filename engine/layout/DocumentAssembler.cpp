@@ -32,17 +32,6 @@ document::Section sectionOf(const DocumentDraft& draft, const DocumentContext& c
     return section;
 }
 
-document::Style normalStyle(const FontCatalog& fonts, const DocumentContext& context) {
-    document::Style style;
-    style.id = "Normal";
-    style.name = "Normal";
-    style.run.fontFamily = fonts.mainFamily(ScriptClass::Simple);
-    style.run.eastAsianFontFamily = fonts.mainFamily(ScriptClass::EastAsian);
-    style.run.complexFontFamily = fonts.mainFamily(ScriptClass::Complex);
-    style.run.size = halfPointsFromPoints(context.bodyFontSize);
-    return style;
-}
-
 } // namespace
 
 document::Document assembleDocument(DocumentDraft draft, const DocumentContext& context, const DocumentFacts& facts,
@@ -50,19 +39,16 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
                                     Diagnostics& diagnostics) {
     const LinkTargets links(draft, facts.outline, diagnostics);
     const FontCatalog fonts(draft);
-    const AssemblyContext assembly{draft, context, fonts, links, {}, request, parameters};
-    std::vector<AssembledBlock> blocks = assembleBlocks(draft.blocks, assembly);
-    setSpacing(blocks, parameters);
+    const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
+    std::vector<BlockFlow> flows;
+    flows.push_back({FlowKind::Body, assembleBlocks(draft.blocks, assembly)});
 
     document::Document document;
     document.metadata = metadataOf(facts.metadata);
-    document.styles.push_back(normalStyle(fonts, context));
+    document.styles = makeStyles(flows, assembly);
+    findSpacing(flows, document.styles, assembly);
     document.sections.push_back(sectionOf(draft, context));
-    for (AssembledBlock& block : blocks) {
-        if (auto* paragraph = std::get_if<document::Paragraph>(&block.block.value))
-            paragraph->style = "Normal";
-        document.sections.back().blocks.push_back(std::move(block.block));
-    }
+    document.sections.back().blocks = finishBlocks(std::move(flows.front().blocks), assembly);
     return document;
 }
 

@@ -22,7 +22,6 @@ enum class ParagraphRole : std::uint8_t {
     ContentsHeading, ///< "Contents" over a table of contents
     ContentsEntry,   ///< DraftParagraph::level tells which
     NoteText,
-    RunningHead,
 };
 
 /// The part of a paragraph that stands in one column of one page.

@@ -104,9 +104,17 @@ struct LayoutParameters {
         double highestMultiple = 3.5;    ///< likewise above
         double multipleTolerance = 0.012;///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
         double smallestIndent = 1.0;     ///< points; less is noise
-        double smallestGap = 0.5;        ///< points; likewise between paragraphs
-        double largestGap = 200.0;       ///< points; what is more is an empty part of the page, not space after a paragraph
+        double sameGap = 0.6;            ///< points; gaps between paragraphs that differ by less are one
+        double largestGap = 250.0;       ///< points; what is more is an empty part of the page, not space after a paragraph
+        double usualShare = 0.25;        ///< of the gaps behind a style's paragraphs that must agree to be the style's
     } spacing;
+
+    /// StyleMaker: what differs by less than this has the style's value.
+    struct Styles {
+        double sameIndent = 1.0;         ///< points
+        double sameMultiple = 0.016;     ///< of single spacing
+        double sameHeight = 0.3;         ///< points; of lines of an exact height
+    } styles;
 
     /// FigureAssembler.
     struct Figures {

@@ -84,11 +84,11 @@ LineExtent spacedExtent(const LineExtent& natural, const LineSpacing& spacing) {
     return {natural.ascent, natural.descent + (spacing.multiple - 1) * natural.height(), natural.isKnown};
 }
 
-LineSpacing lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts, const LineSpacing& usual,
-                          const LayoutParameters& parameters) {
+std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
+                                         const LayoutParameters& parameters) {
     const Pitch pitch = pitchOf(paragraph, fonts);
     if (pitch.distance <= 0 || pitch.natural <= 0)
-        return usual;
+        return std::nullopt;
     const double multiple = pitch.distance / pitch.natural;
     const auto& limits = parameters.spacing;
     const bool isBelievable = multiple >= limits.lowestMultiple && multiple <= limits.highestMultiple;
@@ -96,8 +96,8 @@ LineSpacing lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fo
     // Another multiple than the usual ones tells that the font's lines are not as high as thought, or that the height
     // was set.
     if (isBelievable && (pitch.isKnown || tidy != multiple))
-        return {LineSpacingRule::Multiple, tidy, {}};
-    return {LineSpacingRule::Exact, 1.0, twipsFromPoints(pitch.distance)};
+        return LineSpacing{LineSpacingRule::Multiple, tidy, {}};
+    return LineSpacing{LineSpacingRule::Exact, 1.0, twipsFromPoints(pitch.distance)};
 }
 
 } // namespace orvane::layout

@@ -5,6 +5,8 @@
 #include "layout/FontCatalog.h"
 #include "layout/LayoutParameters.h"
 
+#include <optional>
+
 namespace orvane::layout {
 
 /// How far a line in single spacing reaches above and below its baseline. Units: points.
@@ -22,9 +24,9 @@ LineExtent extentOf(const Line& line, std::size_t page, const FontCatalog& fonts
 /// text; an exact height, and a multiple below one, are parted four to one.
 LineExtent spacedExtent(const LineExtent& natural, const document::LineSpacing& spacing);
 
-/// The line spacing that its author set, read from the paragraph's leading. `usual` is what single lines are taken to
-/// have.
-document::LineSpacing lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
-                                    const document::LineSpacing& usual, const LayoutParameters& parameters);
+/// The line spacing that its author set, read from the distances between the paragraph's lines; nullopt for a single
+/// line.
+std::optional<document::LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
+                                                   const LayoutParameters& parameters);
 
 } // namespace orvane::layout

@@ -1,6 +1,5 @@
 #include "layout/ParagraphFormat.h"
 
-#include "layout/LineMetrics.h"
 #include "layout/TabStopFinder.h"
 
 #include <cmath>
@@ -15,14 +14,12 @@ Twips indent(double points, double smallest) {
 
 } // namespace
 
-document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
-                                       const document::LineSpacing& usualSpacing, const LayoutParameters& parameters) {
+document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const LayoutParameters& parameters) {
     const ParagraphDraft& first = paragraph.pieces.front().text;
     const double smallest = parameters.spacing.smallestIndent;
     document::ParagraphProperties format;
     format.alignment = first.alignment;
     format.isRightToLeft = paragraph.firstLine().isRightToLeft;
-    format.lineSpacing = lineSpacingOf(paragraph, fonts, usualSpacing, parameters);
     // The edges of centred lines follow from their lengths.
     if (first.alignment != document::Alignment::Center) {
         format.indentStart = indent(first.indentStart, smallest);

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "layout/BlockAssembler.h"
+#include "layout/StyleMaker.h"
 
 #include <vector>
 
 namespace orvane::layout {
 
-/// Sets the space between blocks that stand one below the other from the gaps on their pages, as space after the upper
-/// paragraph; before a paragraph that follows a table or a picture, as space before it.
-void setSpacing(std::vector<AssembledBlock>& blocks, const LayoutParameters& parameters);
+/// Reads the space between blocks from the pages. What repeats between paragraphs of two styles becomes the styles'
+/// space before and after; what differs from that is set on the paragraph. Between two paragraphs the greater of both
+/// holds. Requires: line spacing is set, and every paragraph has one of `styles`.
+void findSpacing(std::vector<BlockFlow>& flows, std::vector<document::Style>& styles, const AssemblyContext& context);
 
 } // namespace orvane::layout

@@ -17,8 +17,10 @@ double cellMargin(const DraftTable& draft, double usual) {
     return std::max(0.0, margin);
 }
 
+/// What a cell holds that has nothing in it.
 document::Block emptyParagraph(const AssemblyContext& context) {
     document::Paragraph paragraph;
+    paragraph.style = "Normal";
     paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
     paragraph.markProperties.size = halfPointsFromPoints(context.document.bodyFontSize);
     return {std::move(paragraph)};
@@ -35,29 +37,39 @@ void takeMargin(document::Paragraph& paragraph, Twips margin) {
         tab.position = std::max(Twips(0), tab.position - margin);
 }
 
-document::TableCell assembleCell(const DraftCell& draft, Twips margin, const AssemblyContext& context) {
-    document::TableCell cell;
-    cell.column = draft.cell.column;
-    cell.columnSpan = draft.cell.columnSpan;
-    cell.rowSpan = draft.cell.rowSpan;
-    cell.borders = draft.cell.borders;
-    cell.shading = draft.cell.shading;
-    cell.alignment = draft.cell.alignment;
-    cell.direction = draft.cell.direction;
-    cell.marginLeft = cell.marginRight = margin;
-    cell.blocks = assembleInside(draft.blocks, context);
-    for (document::Block& block : cell.blocks)
-        if (auto* paragraph = std::get_if<document::Paragraph>(&block.value))
+std::vector<AssembledBlock> assembleCellBlocks(const DraftCell& cell, Twips margin, const AssemblyContext& context) {
+    std::vector<AssembledBlock> blocks = assembleBlocks(cell.blocks, context);
+    for (AssembledBlock& block : blocks)
+        if (document::Paragraph* paragraph = block.paragraph())
             takeMargin(*paragraph, margin);
-    // A cell ends with a paragraph, whatever else stands in it.
-    if (cell.blocks.empty() || !std::holds_alternative<document::Paragraph>(cell.blocks.back().value))
-        cell.blocks.push_back(emptyParagraph(context));
+    return blocks;
+}
+
+document::TableCell cellOf(const CellDraft& draft, Twips margin) {
+    document::TableCell cell;
+    cell.column = draft.column;
+    cell.columnSpan = draft.columnSpan;
+    cell.rowSpan = draft.rowSpan;
+    cell.borders = draft.borders;
+    cell.shading = draft.shading;
+    cell.alignment = draft.alignment;
+    cell.direction = draft.direction;
+    cell.marginLeft = cell.marginRight = margin;
     return cell;
+}
+
+/// How far the table's left edge stands from that of its column.
+double indentOf(const DraftBlock& place, const std::vector<double>& columnEdges, const DocumentDraft& draft) {
+    const std::vector<Band>& bands = draft.pages[place.page].bands;
+    const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
+    if (columnEdges.empty() || band >= bands.size() || column >= bands[band].columns.size())
+        return 0;
+    return columnEdges.front() - bands[band].columns[column].left;
 }
 
 } // namespace
 
-document::Table assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context) {
+AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context) {
     document::Table table;
     table.origin = {context.draft.pages[place.page].number, place.box};
     const std::vector<double>& columns = draft.table.columnEdges;
@@ -70,15 +82,28 @@ document::Table assembleTable(const DraftTable& draft, const DraftBlock& place, 
         row.isHeader = static_cast<int>(i) < draft.table.headerRows;
         table.rows.push_back(row);
     }
-    const std::vector<Band>& bands = context.draft.pages[place.page].bands;
-    const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
-    if (!columns.empty() && band < bands.size() && column < bands[band].columns.size())
-        table.indent = twipsFromPoints(columns.front() - bands[band].columns[column].left);
+    table.indent = twipsFromPoints(indentOf(place, columns, context.draft));
+
+    AssembledBlock assembled;
     const Twips margin = twipsFromPoints(cellMargin(draft, context.parameters.tableCells.usualMargin));
-    for (const DraftCell& cell : draft.cells)
-        if (static_cast<std::size_t>(cell.cell.row) < table.rows.size())
-            table.rows[static_cast<std::size_t>(cell.cell.row)].cells.push_back(assembleCell(cell, margin, context));
-    return table;
+    for (const DraftCell& cell : draft.cells) {
+        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margin));
+        assembled.cells.push_back(assembleCellBlocks(cell, margin, context));
+    }
+    assembled.block.value = std::move(table);
+    return assembled;
+}
+
+void fillCells(AssembledBlock& table, const AssemblyContext& context) {
+    auto inside = table.cells.begin();
+    for (document::TableRow& row : std::get<document::Table>(table.block.value).rows) {
+        for (document::TableCell& cell : row.cells) {
+            cell.blocks = finishBlocks(std::move(*inside++), context);
+            // A cell ends with a paragraph, whatever else stands in it.
+            if (cell.blocks.empty() || !std::holds_alternative<document::Paragraph>(cell.blocks.back().value))
+                cell.blocks.push_back(emptyParagraph(context));
+        }
+    }
 }
 
 } // namespace orvane::layout

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "layout/AssembledBlock.h"
 #include "layout/TextAssembler.h"
 
 namespace orvane::layout {
 
-/// A table with its grid, borders, shading, and what stands in its cells.
-document::Table assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context);
+/// A table with its grid, borders and shading; what stands in its cells is in AssembledBlock::cells.
+AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context);
+
+/// Puts the blocks of AssembledBlock::cells into the table's cells.
+/// Requires: `table` was made by assembleTable().
+void fillCells(AssembledBlock& table, const AssemblyContext& context);
 
 } // namespace orvane::layout

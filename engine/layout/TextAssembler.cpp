@@ -1,8 +1,7 @@
 #include "layout/TextAssembler.h"
 
-#include "base/Utf8.h"
-
-#include <unicode/uchar.h>
+#include "layout/HyphenResolver.h"
+#include "layout/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -83,24 +82,6 @@ RunProperties blankBetween(const RunProperties& before, const RunProperties& aft
     return blank;
 }
 
-enum class LineJoin { Nothing, Blank, DropHyphen };
-
-/// What stands between a line that ends in `before` and the next one, which starts with `after`.
-LineJoin joinOf(std::string_view before, std::string_view after) {
-    const std::u32string end = utf32FromUtf8(before), start = utf32FromUtf8(after);
-    if (end.empty() || start.empty())
-        return LineJoin::Blank;
-    constexpr char32_t kSoftHyphen = 0xAD;
-    if (end.back() == kSoftHyphen)
-        return LineJoin::DropHyphen;
-    const bool isHyphen = end.back() == U'-' || end.back() == U'\u2010';
-    if (isHyphen && end.size() > 1 && u_isalpha(static_cast<UChar32>(end[end.size() - 2])))
-        return u_islower(static_cast<UChar32>(start.front())) ? LineJoin::DropHyphen : LineJoin::Nothing;
-    const bool isEastAsian =
-        scriptClassOf(end.back()) == ScriptClass::EastAsian && scriptClassOf(start.front()) == ScriptClass::EastAsian;
-    return isEastAsian ? LineJoin::Nothing : LineJoin::Blank;
-}
-
 bool sameTarget(const std::optional<LinkTarget>& a, const std::optional<LinkTarget>& b) {
     return a && b && a->uri == b->uri && a->bookmark == b->bookmark;
 }
@@ -142,6 +123,8 @@ private:
     enum class Position { StartsLine, WithinLine };
 
     void readWord(std::size_t page, const Word& word, Position position) {
+        if (word.spans.empty())
+            return;
         for (std::size_t i = 0; i < word.spans.size(); ++i) {
             const Span& span = word.spans[i];
             const RunProperties properties = runProperties(span, page, m_context);
@@ -149,8 +132,9 @@ private:
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
             m_builder.addText(span.text, properties, link);
-            m_before = Before{properties, link, span.text};
+            m_before = Before{properties, link, {}};
         }
+        m_before->text = textOf(word);
     }
 
     void separate(const Word& word, Position position, const RunProperties& properties,
@@ -162,7 +146,7 @@ private:
         }
         LineJoin join = LineJoin::Blank;
         if (position == Position::StartsLine)
-            join = joinOf(m_before->text, word.spans.front().text);
+            join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary);
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
         if (position == Position::WithinLine && word.gapBefore == Gap::Tab)

@@ -16,7 +16,6 @@ struct AssemblyContext {
     const DocumentContext& document;
     const FontCatalog& fonts;
     const LinkTargets& links;
-    document::LineSpacing usualSpacing; ///< of paragraphs of one line
     const LayoutRequest& request;
     const LayoutParameters& parameters;
 };

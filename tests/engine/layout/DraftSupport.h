@@ -6,6 +6,8 @@
 
 #include "engine/layout/TextBuilder.h"
 
+#include <iterator>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,10 +34,10 @@ inline ParagraphDraft makeParagraph(std::vector<Line> lines) {
     ParagraphDraft paragraph;
     for (const Line& line : lines)
         paragraph.box = paragraph.box.united(line.box);
-    const double first = lines.front().box.left - kColumn.left;
-    paragraph.indentStart = lines.size() > 1 ? lines[1].box.left - kColumn.left : first;
-    paragraph.firstLine = first - paragraph.indentStart;
-    paragraph.leading = lines.size() > 1 ? lines[1].baseline - lines[0].baseline : 1.2 * lines.front().fontSize;
+    const Line& second = *std::next(lines.begin(), lines.size() > 1 ? 1 : 0);
+    paragraph.indentStart = second.box.left - kColumn.left;
+    paragraph.firstLine = lines.front().box.left - second.box.left;
+    paragraph.leading = lines.size() > 1 ? second.baseline - lines.front().baseline : 1.2 * second.fontSize;
     paragraph.lines = std::move(lines);
     return paragraph;
 }
@@ -66,8 +68,39 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
     document::Paragraph paragraph;
     paragraph.style = "Normal";
     paragraph.inlines =
-        assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, {}, request, parameters});
+        assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters});
     return document::dump(paragraph, document);
+}
+
+/// The whole document of a draft.
+inline document::Document documentOf(DocumentDraft draft) {
+    Diagnostics diagnostics;
+    return assembleDocument(std::move(draft), {}, {}, {}, {}, diagnostics);
+}
+
+/// A draft of one page whose paragraphs hold one line each, at these baselines.
+struct TextAt {
+    const char* text;
+    double baseline;
+    LineLook look = {};
+};
+inline DocumentDraft draftOfLines(const std::vector<TextAt>& lines) {
+    DocumentDraft draft;
+    draft.pages.push_back(makeLayout(1));
+    for (const TextAt& line : lines)
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine(line.text, 72, line.baseline, line.look)})));
+    return draft;
+}
+
+inline const document::Paragraph& paragraphAt(const document::Document& document, std::size_t index) {
+    return std::get<document::Paragraph>(document.sections.at(0).blocks.at(index).value);
+}
+
+inline const document::Style& styleOf(const document::Document& document, const document::StyleId& id) {
+    for (const document::Style& style : document.styles)
+        if (style.id == id)
+            return style;
+    throw std::out_of_range(id);
 }
 
 } // namespace orvane::layout::tests

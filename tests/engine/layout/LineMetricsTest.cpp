@@ -18,7 +18,7 @@ LineSpacing spacingAt(double leading, const char* font = "Carlito") {
     draft.blocks.push_back(tests::makeBlock(
         tests::makeParagraph({tests::makeLine("one", 72, 100), tests::makeLine("two", 72, 100 + leading),
                               tests::makeLine("three", 72, 100 + 2 * leading)})));
-    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft), {}, {});
+    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft), {}).value();
 }
 
 TEST(LineMetrics, ReadsTheMultipleThatTheAuthorChose) {

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace orvane::layout {
+
+/// Counts equal values by weight. Meant for few different values: each is compared with all before it.
+template<typename T>
+class Tally {
+public:
+    void add(const T& value, double weight = 1) {
+        const auto found =
+            std::find_if(m_counts.begin(), m_counts.end(), [&](const auto& count) { return count.first == value; });
+        if (found == m_counts.end())
+            m_counts.emplace_back(value, weight);
+        else
+            found->second += weight;
+    }
+    /// The value with the greatest weight, the first of equals; null when nothing was counted.
+    const T* heaviest() const {
+        const auto found = std::max_element(m_counts.begin(), m_counts.end(),
+                                            [](const auto& a, const auto& b) { return a.second < b.second; });
+        return found == m_counts.end() ? nullptr : &found->first;
+    }
+    double weightOf(const T& value) const {
+        for (const auto& [counted, weight] : m_counts)
+            if (counted == value)
+                return weight;
+        return 0;
+    }
+
+private:
+    std::vector<std::pair<T, double>> m_counts;
+};
+
+/// The centre of the `width` wide range in which most of the values lie, as their mean; nullopt without values.
+inline std::optional<double> mostFrequent(std::vector<double> values, double width) {
+    std::sort(values.begin(), values.end());
+    std::size_t bestFrom = 0, bestTo = 0, from = 0;
+    for (std::size_t to = 1; to <= values.size(); ++to) {
+        while (values[to - 1] - values[from] > width)
+            ++from;
+        if (to - from > bestTo - bestFrom) {
+            bestFrom = from;
+            bestTo = to;
+        }
+    }
+    if (bestTo == bestFrom)
+        return std::nullopt;
+    double sum = 0;
+    for (std::size_t i = bestFrom; i < bestTo; ++i)
+        sum += values[i];
+    return sum / static_cast<double>(bestTo - bestFrom);
+}
+
+} // namespace orvane::layout
