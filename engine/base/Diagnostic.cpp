@@ -15,6 +15,7 @@ const char* toString(DiagnosticKind kind) {
     case DiagnosticKind::LinkUnresolved: return "LinkUnresolved";
     case DiagnosticKind::StructureIgnored: return "StructureIgnored";
     case DiagnosticKind::PagesOutOfRange: return "PagesOutOfRange";
+    case DiagnosticKind::FormatLimitReached: return "FormatLimitReached";
     case DiagnosticKind::TimeBudgetExceeded: return "TimeBudgetExceeded";
     }
     return "ContentDamaged";

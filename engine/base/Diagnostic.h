@@ -20,6 +20,7 @@ enum class DiagnosticKind {
     LinkUnresolved,       ///< a link whose target does not exist
     StructureIgnored,     ///< tags that contradict the page
     PagesOutOfRange,      ///< the page range was cut to the document
+    FormatLimitReached,   ///< more than the target format can hold: page size, columns, tables in tables
     TimeBudgetExceeded,   ///< a stage was cut short and a simpler method was used
 };
 

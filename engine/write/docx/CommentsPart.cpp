@@ -1,0 +1,74 @@
+#include "write/docx/CommentsPart.h"
+
+#include "write/docx/BlockXml.h"
+#include "write/docx/IsoDate.h"
+#include "write/docx/NotesPart.h"
+#include "write/docx/XmlPart.h"
+
+#include "base/Utf8.h"
+
+#include <algorithm>
+
+namespace orvane::write::docx {
+namespace {
+
+using namespace document;
+
+/// The first letters of an author's names.
+std::string initialsOf(const std::string& author) {
+    std::u32string initials;
+    bool isNameStart = true;
+    for (const char32_t c : utf32FromUtf8(author)) {
+        if (isNameStart && c > ' ')
+            initials += c;
+        isNameStart = c <= ' ';
+    }
+    return utf8FromUtf32(initials.substr(0, 3));
+}
+
+void writeComment(Story& story, const Comment& comment, std::size_t index) {
+    const XmlElement element(story.xml, "w:comment", {{"w:id", index}, {"w:author", comment.author}});
+    if (isIsoDateTime(comment.date))
+        story.xml.attribute({"w:date", comment.date});
+    if (const std::string initials = initialsOf(comment.author); !initials.empty())
+        story.xml.attribute({"w:initials", initials});
+    writeBlocks(story, comment.blocks);
+    writeDisplacedNotes(story);
+}
+
+} // namespace
+
+void writeCommentReference(Story& story, const CommentReference& reference) {
+    DocumentState& state = story.state;
+    if (reference.comment >= state.isCommentWritten.size() || state.isCommentWritten[reference.comment])
+        return;
+    if (story.frameDepth > 0) {
+        story.displacedComments.push_back(reference.comment);
+        return;
+    }
+    if (story.kind != StoryKind::Body) {
+        state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
+                              "a comment in a header, a footer, a note or a comment was left out");
+        return;
+    }
+    state.isCommentWritten[reference.comment] = true;
+    const XmlElement run(story.xml, "w:r");
+    story.xml.leaf("w:commentReference", {{"w:id", reference.comment}});
+}
+
+void addCommentsPart(DocumentState& state, Relationships& relationships) {
+    const auto& isWritten = state.isCommentWritten;
+    if (std::find(isWritten.begin(), isWritten.end(), true) == isWritten.end())
+        return;
+    XmlPart part("word/comments.xml", "comments");
+    Story story{state, part.xml(), part.relationships(), StoryKind::Comment};
+    startRoot(part.xml(), "w:comments");
+    for (std::size_t i = 0; i < isWritten.size(); ++i)
+        if (isWritten[i])
+            writeComment(story, state.document.comments[i], i);
+    part.xml().end();
+    part.addTo(state.package);
+    relationships.add("comments", "comments.xml");
+}
+
+} // namespace orvane::write::docx

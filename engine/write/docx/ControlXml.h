@@ -1,0 +1,15 @@
+#pragma once
+
+#include "document/Document.h"
+#include "write/docx/DocumentState.h"
+
+#include <functional>
+
+namespace orvane::write::docx {
+
+/// Writes a form field as a content control around what `writeContent` writes.
+/// Source: ECMA-376 part 1, 17.5.2; [MS-DOCX] 2.6.1.20 (check boxes).
+void writeControl(Story& story, const document::ContentControl& control, const document::RunProperties& base,
+                  const std::function<void()>& writeContent);
+
+} // namespace orvane::write::docx

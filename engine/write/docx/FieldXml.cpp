@@ -1,0 +1,51 @@
+#include "write/docx/FieldXml.h"
+
+#include "write/docx/LinkNames.h"
+#include "write/docx/RunXml.h"
+
+namespace orvane::write::docx {
+namespace {
+
+using namespace document;
+
+std::string instructionOf(const Field& field) {
+    switch (field.code) {
+    case FieldCode::Page:
+        return " PAGE ";
+    case FieldCode::PageCount:
+        return " NUMPAGES ";
+    case FieldCode::TableOfContents:
+        return " TOC \\o \"1-9\" \\h \\z \\u ";
+    case FieldCode::PageReference:
+        return " PAGEREF " + bookmarkName(field.argument) + " \\h ";
+    }
+    return {};
+}
+
+template<typename Content>
+void writeRun(XmlWriter& xml, const RunProperties& look, const RunProperties& base, const Content& content) {
+    const XmlElement run(xml, "w:r");
+    writeRunProperties(xml, look, &base, ScriptUse::Simple);
+    content();
+}
+
+void writeMark(XmlWriter& xml, const char* type, const RunProperties& look, const RunProperties& base) {
+    writeRun(xml, look, base, [&] { xml.leaf("w:fldChar", {{"w:fldCharType", type}}); });
+}
+
+} // namespace
+
+void writeFieldStart(XmlWriter& xml, const Field& field, const RunProperties& look, const RunProperties& base) {
+    writeMark(xml, "begin", look, base);
+    writeRun(xml, look, base, [&] {
+        const XmlElement instruction(xml, "w:instrText", {{"xml:space", "preserve"}});
+        xml.text(instructionOf(field));
+    });
+    writeMark(xml, "separate", look, base);
+}
+
+void writeFieldEnd(XmlWriter& xml, const RunProperties& look, const RunProperties& base) {
+    writeMark(xml, "end", look, base);
+}
+
+} // namespace orvane::write::docx

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "document/Document.h"
+#include "write/docx/DocumentState.h"
+#include "write/docx/ParagraphPropertiesXml.h"
+
+#include <optional>
+
+namespace orvane::write::docx {
+
+/// The level that a paragraph of a list stands on.
+struct ListLevel {
+    const document::NumberingLevel* properties = nullptr; ///< null: the paragraph is in no list of the document
+    ListPlace place;
+};
+
+ListLevel findLevel(const document::Document& document, const std::optional<document::ListReference>& list);
+
+/// The format's word for how numbers are written. Source: ECMA-376 part 1, 17.18.59.
+const char* numberFormatName(document::NumberFormat format);
+
+/// Adds the part with the document's lists, when it has some. Lists of equal levels share a definition and start anew
+/// by themselves. Source: ECMA-376 part 1, 17.9.
+void addNumberingPart(DocumentState& state, Relationships& relationships);
+
+} // namespace orvane::write::docx

@@ -1,0 +1,54 @@
+#include "write/docx/SettingsPart.h"
+
+#include "write/docx/NotesPart.h"
+#include "write/docx/XmlPart.h"
+
+namespace orvane::write::docx {
+namespace {
+
+/// The edition whose layout rules hold. Later rules place tables and lines as a new document has them.
+constexpr const char* kCompatibilityMode = "15";
+
+void writeSeparators(XmlWriter& xml, std::string_view properties, std::string_view note) {
+    const XmlElement element(xml, properties);
+    xml.leaf(note, {{"w:id", -1}});
+    xml.leaf(note, {{"w:id", 0}});
+}
+
+void writeCompatibility(XmlWriter& xml) {
+    const XmlElement compat(xml, "w:compat");
+    const auto set = [&xml](const char* name, const char* value) {
+        xml.leaf("w:compatSetting",
+                 {{"w:name", name}, {"w:uri", "http://schemas.microsoft.com/office/word"}, {"w:val", value}});
+    };
+    set("compatibilityMode", kCompatibilityMode);
+    set("overrideTableStyleFontSizeAndJustification", "1");
+    set("enableOpenTypeFeatures", "1");
+    set("doNotFlipMirrorIndents", "1");
+    set("differentiateMultirowTableHeaders", "1");
+}
+
+} // namespace
+
+void addSettingsPart(DocumentState& state, Relationships& relationships) {
+    XmlPart part("word/settings.xml", "settings");
+    XmlWriter& xml = part.xml();
+    startRoot(xml, "w:settings");
+    xml.leaf("w:zoom", {{"w:percent", 100}});
+    xml.leaf("w:defaultTabStop", {{"w:val", 720}});
+    if (state.runningTexts.hasEvenPages())
+        xml.leaf("w:evenAndOddHeaders");
+    xml.leaf("w:characterSpacingControl", {{"w:val", "doNotCompress"}});
+    if (hasNotes(state.document, document::NoteKind::Footnote))
+        writeSeparators(xml, "w:footnotePr", "w:footnote");
+    if (hasNotes(state.document, document::NoteKind::Endnote))
+        writeSeparators(xml, "w:endnotePr", "w:endnote");
+    writeCompatibility(xml);
+    xml.leaf("w:decimalSymbol", {{"w:val", "."}});
+    xml.leaf("w:listSeparator", {{"w:val", ","}});
+    xml.end();
+    part.addTo(state.package);
+    relationships.add("settings", "settings.xml");
+}
+
+} // namespace orvane::write::docx
