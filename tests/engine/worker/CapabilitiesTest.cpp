@@ -1,0 +1,38 @@
+#include "worker/Capabilities.h"
+#include "base/Failure.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::worker {
+namespace {
+
+using protocol::Format;
+using protocol::Layout;
+
+TEST(Capabilities, HasTheFlowingLayoutInDocx) {
+    EXPECT_NO_THROW(requireSupported(Layout::Flowing, Format::Docx));
+}
+
+TEST(Capabilities, NamesWhatIsMissing) {
+    struct Row {
+        Layout layout;
+        Format format;
+        const char* named;
+    };
+    const Row rows[] = {
+        {Layout::Images, Format::Docx, "\"images\""},
+        {Layout::Flowing, Format::Rtf, "\"rtf\""},
+    };
+    for (const Row& row : rows) {
+        try {
+            requireSupported(row.layout, row.format);
+            ADD_FAILURE() << row.named << " was accepted";
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.code(), FailureCode::NotSupported);
+            EXPECT_THAT(failure.what(), testing::HasSubstr(row.named));
+        }
+    }
+}
+
+} // namespace
+} // namespace orvane::worker
