@@ -13,6 +13,8 @@ namespace orvane::worker {
 ScratchFolder::ScratchFolder(const std::filesystem::path& parent) {
     std::error_code error;
     const std::filesystem::path place = parent.empty() ? std::filesystem::temp_directory_path(error) : parent;
+    if (!parent.empty())
+        std::filesystem::create_directories(parent, error);
     std::string pattern = (place / "orvane-XXXXXX").string();
     if (error || mkdtemp(pattern.data()) == nullptr)
         throw Failure(FailureCode::TargetUnwritable,
