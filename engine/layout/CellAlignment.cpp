@@ -56,11 +56,12 @@ std::optional<Alignment> keptEdge(const Edges& edges, double tolerance) {
 }
 
 /// What a cell's own gaps say: text in the middle, or at the right.
-Alignment alignmentByGaps(const Edges& edges, double tolerance) {
+Alignment alignmentByGaps(const Edges& edges, double tolerance, const LayoutParameters::Tables& parameters) {
     const double left = edges.left.low;
     const double right = edges.right.low;
-    if (std::abs(left - right) <= 2 * tolerance && left > tolerance)
-        return left > 2 * tolerance ? Alignment::Center : Alignment::Start;
+    const double difference = std::max(2 * tolerance, parameters.centerShare * (left + right));
+    if (std::abs(left - right) <= difference && left > 2 * tolerance)
+        return Alignment::Center;
     return right < left ? Alignment::End : Alignment::Start;
 }
 
@@ -89,13 +90,11 @@ double fontSizeOf(const TableDraft& table) {
 }
 
 /// What a cell's own lines say about it, and failing that its column, and failing that its gaps.
-Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofColumn, double tolerance) {
+Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofColumn, double tolerance,
+                          const LayoutParameters::Tables& parameters) {
     if (const auto kept = keptEdge(own, tolerance))
         return *kept;
-    const Alignment byGaps = alignmentByGaps(own, tolerance);
-    if (ofColumn)
-        return *ofColumn;
-    return byGaps;
+    return ofColumn ? *ofColumn : alignmentByGaps(own, tolerance, parameters);
 }
 
 } // namespace
@@ -116,7 +115,8 @@ void alignAcross(TableDraft& table, const LayoutParameters::Tables& parameters) 
         if (isOfColumn(cell))
             ofColumn = keptEdge(columns[static_cast<std::size_t>(cell.column)], tolerance);
         const Edges own = edgesOf(cell);
-        const Alignment alignment = own.lines > 0 ? chooseAlignment(own, ofColumn, tolerance) : Alignment::Start;
+        const Alignment alignment =
+            own.lines > 0 ? chooseAlignment(own, ofColumn, tolerance, parameters) : Alignment::Start;
         forParagraphs(cell, [&](ParagraphDraft& paragraph) { paragraph.alignment = alignment; });
     }
 }

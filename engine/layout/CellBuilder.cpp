@@ -63,15 +63,43 @@ void takeFigures(TableDraft& table, std::vector<Figure>& figures) {
     });
 }
 
+std::vector<ColumnSpan> roomBetweenEdges(const TableGrid& grid) {
+    std::vector<ColumnSpan> columns;
+    for (std::size_t i = 0; i + 1 < grid.columnEdges.size(); ++i)
+        columns.push_back({grid.columnEdges[i], grid.columnEdges[i + 1]});
+    return columns;
+}
+
+/// From the leftmost to the rightmost text of each column.
+std::vector<ColumnSpan> roomOfTexts(const TableGrid& grid, const std::vector<std::vector<Line>>& linesOfCell) {
+    std::vector<ColumnSpan> columns;
+    for (std::size_t i = 0; i + 1 < grid.columnEdges.size(); ++i)
+        columns.push_back({grid.columnEdges[i + 1], grid.columnEdges[i]});
+    for (std::size_t i = 0; i < grid.cells.size(); ++i) {
+        if (grid.cells[i].columnSpan > 1)
+            continue;
+        ColumnSpan& column = columns[static_cast<std::size_t>(grid.cells[i].column)];
+        for (const Line& line : linesOfCell[i]) {
+            column.left = std::min(column.left, line.box.left);
+            column.right = std::max(column.right, line.box.right);
+        }
+    }
+    return columns;
+}
+
 } // namespace
 
-TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, const std::vector<BorderLine>& lines,
-                      std::vector<TableDraft> nested, const LayoutParameters::Tables& parameters) {
+TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, TableEdges edges,
+                      const std::vector<BorderLine>& lines, std::vector<TableDraft> nested,
+                      const LayoutParameters::Tables& parameters) {
     TableDraft table;
     table.box = grid.box();
     table.columnEdges = grid.columnEdges;
     table.rowEdges = grid.rowEdges;
+    table.isRuled = edges != TableEdges::Aligned;
     std::vector<std::vector<Line>> linesOfCell = takeWords(page.lines, text);
+    const std::vector<ColumnSpan> columns =
+        edges == TableEdges::Ruled ? roomBetweenEdges(grid) : roomOfTexts(grid, linesOfCell);
     for (std::size_t i = 0; i < grid.cells.size(); ++i) {
         const GridCell& place = grid.cells[i];
         CellDraft cell;
@@ -81,7 +109,9 @@ TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& tex
         cell.columnSpan = place.columnSpan;
         cell.box = grid.boxOf(place);
         cell.direction = directionOf(linesOfCell[i]);
-        for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(linesOfCell[i]), cell.box, parameters))
+        const ColumnSpan room{columns[static_cast<std::size_t>(place.column)].left,
+                              columns[static_cast<std::size_t>(place.column + place.columnSpan - 1)].right};
+        for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(linesOfCell[i]), room, parameters))
             cell.blocks.emplace_back().value = std::move(paragraph);
         table.cells.push_back(std::move(cell));
     }

@@ -34,22 +34,22 @@ std::vector<Line> joinLinesOfOneBaseline(std::vector<Line> lines, const LayoutPa
 }
 
 /// Whether `next` goes on with the paragraph that `line` belongs to: close below it, with `line` so full that the first
-/// word of `next` did not fit into the cell any more.
-bool goesOn(const Line& line, const Line& next, const Rect& cell, const LayoutParameters::Tables& parameters) {
+/// word of `next` did not fit into the column any more.
+bool goesOn(const Line& line, const Line& next, ColumnSpan column, const LayoutParameters::Tables& parameters) {
     if (next.baseline - line.baseline > parameters.paragraphPitch * line.fontSize || line.angle != 0)
         return false;
-    const double margin = std::max(0.0, line.box.left - cell.left);
-    const double room = line.isRightToLeft ? line.box.left - cell.left : cell.right - margin - line.box.right;
+    const double margin = std::max(0.0, line.box.left - column.left);
+    const double room = line.isRightToLeft ? line.box.left - column.left : column.right - margin - line.box.right;
     return next.words.front().box.width() + parameters.blankWidth * line.fontSize > room;
 }
 
 } // namespace
 
-std::vector<ParagraphDraft> buildCellParagraphs(std::vector<Line> lines, const Rect& cell,
+std::vector<ParagraphDraft> buildCellParagraphs(std::vector<Line> lines, ColumnSpan column,
                                                 const LayoutParameters::Tables& parameters) {
     std::vector<ParagraphDraft> paragraphs;
     for (Line& line : joinLinesOfOneBaseline(std::move(lines), parameters)) {
-        if (paragraphs.empty() || !goesOn(paragraphs.back().lines.back(), line, cell, parameters))
+        if (paragraphs.empty() || !goesOn(paragraphs.back().lines.back(), line, column, parameters))
             paragraphs.emplace_back();
         ParagraphDraft& paragraph = paragraphs.back();
         paragraph.box = paragraph.box.united(line.box);

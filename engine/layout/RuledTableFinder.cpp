@@ -1,9 +1,7 @@
 #include "layout/RuledTableFinder.h"
 
 #include "layout/RuleLattice.h"
-#include "layout/TableAdmission.h"
-
-#include <algorithm>
+#include "layout/RuledAdmission.h"
 
 namespace orvane::layout {
 
@@ -19,8 +17,6 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
         if (judgeRuledTable(page, found.grid, text, {found.forcedCells}, parameters) == TableVerdict::Table)
             grids.push_back(std::move(found.grid));
     }
-    std::sort(grids.begin(), grids.end(),
-              [](const TableGrid& a, const TableGrid& b) { return a.box().area() < b.box().area(); });
     return grids;
 }
 

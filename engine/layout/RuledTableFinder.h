@@ -9,7 +9,7 @@
 
 namespace orvane::layout {
 
-/// The grids on a page that its rules draw and that are tables, the smallest first.
+/// The grids on a page that its rules draw and that are tables.
 std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
                                       const LayoutParameters::Tables& parameters);
 

@@ -1,6 +1,8 @@
 #include "layout/TableFinder.h"
 
+#include "layout/BorderlessTableFinder.h"
 #include "layout/CellBuilder.h"
+#include "layout/HalfRuledTableFinder.h"
 #include "layout/RuledTableFinder.h"
 
 #include <algorithm>
@@ -25,15 +27,22 @@ std::vector<TableDraft> takeNested(std::vector<TableDraft>& found, const TableGr
 
 std::vector<TableDraft> findTables(PageText& page, const LayoutParameters& parameters, Diagnostics&) {
     const LayoutParameters::Tables& limits = parameters.tables;
-    const std::vector<BorderLine> lines = collectBorderLines(page.rules, limits);
     std::vector<TableDraft> tables;
-    // The smallest first: a table within a cell is found before the one around it.
-    for (const TableGrid& grid : findRuledGrids(page, lines, limits)) {
-        const CellText text = assignWords(page.lines, grid, limits);
-        std::vector<TableDraft> nested = takeNested(tables, grid);
-        tables.push_back(buildTable(page, grid, text, lines, std::move(nested), limits));
-        tables.back().isRuled = true;
-    }
+    const auto take = [&](std::vector<TableGrid> grids, const std::vector<BorderLine>& lines, TableEdges edges) {
+        // The smallest first: a table within a cell is found before the one around it.
+        std::sort(grids.begin(), grids.end(),
+                  [](const TableGrid& a, const TableGrid& b) { return a.box().area() < b.box().area(); });
+        for (const TableGrid& grid : grids) {
+            const CellText text = assignWords(page.lines, grid, limits);
+            std::vector<TableDraft> nested = takeNested(tables, grid);
+            tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), limits));
+        }
+    };
+    const std::vector<BorderLine> lines = collectBorderLines(page.rules, limits);
+    take(findRuledGrids(page, lines, limits), lines, TableEdges::Ruled);
+    const std::vector<BorderLine> others = collectBorderLines(page.rules, limits);
+    take(findHalfRuledGrids(page, others, limits), others, TableEdges::HalfRuled);
+    take(findBorderlessGrids(page, limits), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;
     });

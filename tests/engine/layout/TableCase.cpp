@@ -38,6 +38,8 @@ private:
             return m_isExpecting = true;
         if (word == "look")
             return readLook(in);
+        if (word == "font")
+            return readFont(in);
         if (word == "row" || word == "line")
             return readRow(in, word == "line");
         if (word == "text")
@@ -67,6 +69,16 @@ private:
                 m_look.size = std::stod(word);
         }
         return true;
+    }
+
+    bool readFont(std::istream& in) {
+        pdf::Font font;
+        std::string pitch;
+        in >> font.name >> pitch;
+        font.isFixedPitch = pitch == "fixed";
+        m_look.font = static_cast<std::uint32_t>(m_case.page.fonts.size());
+        m_case.page.fonts.push_back(font);
+        return !font.name.empty();
     }
 
     void addLine(Line line) {

@@ -1,4 +1,4 @@
-#include "layout/TableAdmission.h"
+#include "layout/RuledAdmission.h"
 
 #include <algorithm>
 
@@ -72,28 +72,6 @@ bool isPageFrame(const PageText& page, const TableGrid& grid, const CellText& te
 }
 
 } // namespace
-
-const char* toString(TableVerdict verdict) {
-    switch (verdict) {
-    case TableVerdict::Table:
-        return "Table";
-    case TableVerdict::SinglePlace:
-        return "SinglePlace";
-    case TableVerdict::BrokenGrid:
-        return "BrokenGrid";
-    case TableVerdict::StraddlingWords:
-        return "StraddlingWords";
-    case TableVerdict::Empty:
-        return "Empty";
-    case TableVerdict::TooFlat:
-        return "TooFlat";
-    case TableVerdict::Drawing:
-        return "Drawing";
-    case TableVerdict::PageFrame:
-        return "PageFrame";
-    }
-    return "";
-}
 
 TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const CellText& text,
                              const GridEvidence& evidence, const LayoutParameters::Tables& parameters) {

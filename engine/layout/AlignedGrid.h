@@ -1,0 +1,22 @@
+#pragma once
+
+#include "layout/ColumnGaps.h"
+#include "layout/RowGrouper.h"
+#include "layout/TableGrid.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// Rows of text that the words' own columns make into a table.
+struct AlignedRows {
+    std::vector<PieceRow> rows;
+    std::vector<ColumnGap> gaps;
+    std::vector<RowGroup> groups;
+};
+
+/// The grid of aligned rows: a piece that reaches over a gap is a cell over several columns. The outer edges lie
+/// `margin` beyond the text, the inner ones in the middle between what they part.
+TableGrid gridOf(const AlignedRows& aligned, double margin);
+
+} // namespace orvane::layout
