@@ -136,24 +136,35 @@ private:
                }) > m_parameters.keyShare;
     }
 
-    /// Whether a column runs on from line to line: long lines that mostly fill it.
-    bool isProseColumn(const ColumnPieces& column) const {
-        if (static_cast<int>(column.pieces.size()) < m_parameters.proseLines)
-            return false;
+    double wordsPerPiece(const ColumnPieces& column) const {
         double words = 0;
         for (const TextPiece* piece : column.pieces)
             words += static_cast<double>(piece->wordCount());
-        const double full = shareOfPieces(column, [&](const TextPiece* piece) {
-            return piece->box.width() > m_parameters.proseFill * (column.right - column.left);
-        });
-        return words > m_parameters.proseWords * static_cast<double>(column.pieces.size()) &&
-               full > m_parameters.proseFullShare;
+        return column.pieces.empty() ? 0 : words / static_cast<double>(column.pieces.size());
     }
 
+    /// Whether most of the lines are as long as the column has room for.
+    bool isFull(const ColumnPieces& column) const {
+        return shareOfPieces(column, [&](const TextPiece* piece) {
+                   return piece->box.width() > m_parameters.proseFill * (column.right - column.left);
+               }) > m_parameters.proseFullShare;
+    }
+
+    /// Whether a column runs on from line to line: many long lines that fill it.
+    bool isProseColumn(const ColumnPieces& column) const {
+        return static_cast<int>(column.pieces.size()) >= m_parameters.proseLines &&
+               wordsPerPiece(column) > m_parameters.proseWords && isFull(column);
+    }
+
+    /// Running text in at least two columns, or in narrow columns of which none looks like something else.
     bool isProse() const {
         const auto count = std::count_if(m_columns.begin(), m_columns.end(),
                                          [&](const ColumnPieces& column) { return isProseColumn(column); });
-        return count >= 2 || (count == 1 && m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment);
+        if (count >= 2 || (count == 1 && m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment))
+            return true;
+        return std::all_of(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
+            return wordsPerPiece(column) > m_parameters.narrowProseWords && isFull(column);
+        });
     }
 
     bool isCode() const {

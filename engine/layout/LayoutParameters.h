@@ -266,6 +266,7 @@ struct LayoutParameters {
         double keyShare = 0.6;            ///< of the first column that ends in a colon: keys and values
         int proseLines = 4;               ///< lines; fewer are no running text
         double proseWords = 4.0;          ///< words a line, on average
+        double narrowProseWords = 2.5;    ///< words a line where every column is full of words
         double proseFill = 0.8;           ///< of the column's width; a longer line is full
         double proseFullShare = 0.6;      ///< of the lines that must be full in running text
         double proseLeading = 1.8;        ///< of the font size; lines of running text stand no farther apart
