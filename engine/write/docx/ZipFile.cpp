@@ -1,6 +1,7 @@
 #include "write/docx/ZipFile.h"
 
 #include "base/Failure.h"
+#include "write/docx/ZipTarget.h"
 
 #include <algorithm>
 #include <cstring>
@@ -77,14 +78,15 @@ struct DeflatedReader {
 
 ZipFile::ZipFile(const std::filesystem::path& target)
     : m_target(target) {
-    int code = 0;
-    m_archive = zip_open(utf8(target).c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code);
-    if (m_archive)
-        return;
     zip_error_t error;
-    zip_error_init_with_code(&error, code);
+    zip_error_init(&error);
+    zip_source* source = makeZipTarget(target, &error);
+    m_archive = source ? zip_open_from_source(source, ZIP_CREATE | ZIP_TRUNCATE, &error) : nullptr;
     const std::string reason = zip_error_strerror(&error);
     zip_error_fini(&error);
+    if (m_archive)
+        return;
+    zip_source_free(source);
     fail(reason);
 }
 
