@@ -27,6 +27,7 @@ struct Descriptor {
     std::optional<double> ascent;
     std::optional<double> descent;
     std::optional<int> weight;
+    bool isThere = false;
     double italicAngle = 0;
     double stemV = 0;
 };
@@ -63,6 +64,7 @@ Descriptor readDescriptor(const GfxFont& font, XRef& xref) {
     const ::Object object = descriptorObject(font, xref);
     if (!object.isDict())
         return descriptor;
+    descriptor.isThere = true;
     descriptor.family = textFromPdf(object.dictLookup("FontFamily"));
     descriptor.ascent = numberOf(object, "Ascent");
     descriptor.descent = numberOf(object, "Descent");
@@ -103,6 +105,26 @@ void setMeasures(Font& font, const Descriptor& descriptor) {
         font.descent = descent;
 }
 
+/// The flag for a fixed pitch is set wrongly at times; the letters' widths tell.
+bool hasSeveralWidths(const GfxFont& font) {
+    if (font.isCIDFont())
+        return false;
+    const auto& simple = static_cast<const Gfx8BitFont&>(font);
+    double first = 0;
+    for (int code = '!'; code < 0x7F; ++code) {
+        const double width = simple.getWidth(static_cast<unsigned char>(code));
+        if (width > 0 && first > 0 && std::abs(width - first) > 0.01)
+            return true;
+        first = first > 0 ? first : width;
+    }
+    return false;
+}
+
+bool isSansSerifName(const std::string& name) {
+    return name.starts_with("Helvetica") || name.starts_with("Arial") || name.starts_with("Verdana") ||
+           name.starts_with("Tahoma") || name.starts_with("Calibri");
+}
+
 void setStyle(Font& font, const GfxFont& source, const Descriptor& descriptor) {
     const FontNameStyle byName = styleFromFontName(font.name);
     // The name outweighs the numbers: writers copy a descriptor from one face of a family to the next more often than a
@@ -115,8 +137,8 @@ void setStyle(Font& font, const GfxFont& source, const Descriptor& descriptor) {
         font.weight = 700;
     font.isBold = font.weight >= 600;
     font.isItalic = byName.isItalic || source.isItalic() || std::abs(descriptor.italicAngle) >= 4;
-    font.isFixedPitch = source.isFixedWidth() || byName.isFixedPitch;
-    font.isSerif = source.isSerif();
+    font.isFixedPitch = byName.isFixedPitch || (source.isFixedWidth() && !hasSeveralWidths(source));
+    font.isSerif = descriptor.isThere ? source.isSerif() : !isSansSerifName(font.name);
     font.isSymbolic = source.isSymbolic();
 }
 

@@ -23,9 +23,8 @@ struct TextFrame {
     double slant = 0;   ///< tangent of the letters' lean to the right
 };
 
-TextFrame textFrameOf(const GfxState& state, double glyphSpaceScale) {
+TextFrame textFrameOf(const GfxState& state, const Matrix& c, double glyphSpaceScale) {
     const double* t = state.getTextMat();
-    const Matrix c = currentMatrix(state);
     const double size = state.getFontSize() * glyphSpaceScale;
     const Point along{(c.a * t[0] + c.c * t[1]) * size * state.getHorizScaling(),
                       (c.b * t[0] + c.d * t[1]) * size * state.getHorizScaling()};
@@ -81,10 +80,13 @@ Point ownAdvance(const GfxState& state, const ShownCharacter& character, bool is
         state.textTransformDelta(0, spacing, &spacingX, &spacingY);
     else
         state.textTransformDelta(spacing * state.getHorizScaling(), 0, &spacingX, &spacingY);
-    Point advance;
-    state.transformDelta(character.dx - spacingX, character.dy - spacingY, &advance.x, &advance.y);
-    return advance;
+    const Matrix& m = character.toPage;
+    const double dx = character.dx - spacingX;
+    const double dy = character.dy - spacingY;
+    return {m.a * dx + m.c * dy, m.b * dx + m.d * dy};
 }
+
+constexpr double kLeastSeen = 0.01; ///< opacity below which nothing is seen
 
 /// Fill and stroke as the text rendering mode tells. Source: ISO 32000-1, 9.3.6.
 void setPaint(Glyph& glyph, const GfxState& state) {
@@ -95,8 +97,9 @@ void setPaint(Glyph& glyph, const GfxState& state) {
     state.getStrokeRGB(&stroke);
     glyph.isOutlined = mode == 1;
     glyph.isFakeBold = mode == 2 && fill == stroke;
-    glyph.color = toColor(glyph.isOutlined ? stroke : fill);
-    if (mode == 3)
+    const double opacity = glyph.isOutlined ? state.getStrokeOpacity() : state.getFillOpacity();
+    glyph.color = onWhite(toColor(glyph.isOutlined ? stroke : fill), opacity);
+    if (mode == 3 || opacity < kLeastSeen)
         glyph.visibility = Visibility::Invisible;
 }
 
@@ -106,7 +109,7 @@ std::uint32_t GlyphReader::fontIndex(const std::shared_ptr<GfxFont>& font, bool 
     const FontKey key{font.get(), isSlanted};
     const auto [entry, isNew] = m_fontIndices.try_emplace(key, static_cast<std::uint32_t>(m_page.fonts.size()));
     if (isNew) {
-        m_heldFonts.push_back(font);
+        m_sources.push_back(font);
         Font facts = readFont(*font, m_xref);
         facts.isItalic |= isSlanted;
         m_page.fonts.push_back(std::move(facts));
@@ -126,14 +129,15 @@ void GlyphReader::noteSpaceWidth(const Glyph& glyph) {
     m_hasSpaceWidth[glyph.font] = true;
 }
 
-void GlyphReader::read(GfxState& state, const ShownCharacter& character, std::int32_t mark, std::uint32_t paintOrder) {
+void GlyphReader::read(const GfxState& state, const ShownCharacter& character, std::int32_t mark,
+                       std::uint32_t paintOrder) {
     const std::shared_ptr<GfxFont>& font = state.getFont();
     if (!font)
         return;
     // Tangent of a lean that makes a slanted face of an upright one; writers use 12 to 20 degrees.
     constexpr double kLeastSlant = 0.1;
     const double glyphSpaceScale = font->getType() == fontType3 ? std::abs(font->getFontMatrix()[3]) * 1000 : 1;
-    const TextFrame frame = textFrameOf(state, glyphSpaceScale);
+    const TextFrame frame = textFrameOf(state, character.toPage, glyphSpaceScale);
     const bool isSlanted = frame.slant > kLeastSlant;
     if (!m_isFontKnown || isSlanted != m_wasSlanted) {
         m_font = fontIndex(font, isSlanted);
@@ -151,7 +155,7 @@ void GlyphReader::read(GfxState& state, const ShownCharacter& character, std::in
     glyph.fontSize = frame.size;
     glyph.horizontalScale = frame.stretch;
     glyph.angle = angleOf(frame.along);
-    state.transform(character.x, character.y, &glyph.origin.x, &glyph.origin.y);
+    glyph.origin = character.toPage.apply({character.x, character.y});
     const Point advance = ownAdvance(state, character, facts.isVertical);
     glyph.advance = std::hypot(advance.x, advance.y);
     if (facts.isVertical) {

@@ -19,12 +19,11 @@ struct ShownCharacter {
     double y = 0;
     double dx = 0;
     double dy = 0;
-    double originX = 0;
-    double originY = 0;
     std::uint32_t code = 0;
     int byteCount = 1;
     const unsigned* unicode = nullptr;
     int unicodeLength = 0;
+    Matrix toPage; ///< from user space
 };
 
 /// Turns shown characters into the page's glyphs and fonts.
@@ -37,7 +36,10 @@ public:
     /// The text state's font or matrix may have changed.
     void forgetFont() { m_isFontKnown = false; }
 
-    void read(GfxState& state, const ShownCharacter& character, std::int32_t mark, std::uint32_t paintOrder);
+    void read(const GfxState& state, const ShownCharacter& character, std::int32_t mark, std::uint32_t paintOrder);
+
+    /// The library's fonts of the page's fonts, by the same index.
+    const std::vector<std::shared_ptr<GfxFont>>& sources() const { return m_sources; }
 
 private:
     struct FontKey {
@@ -56,8 +58,8 @@ private:
     PageContent& m_page;
     XRef& m_xref;
     std::unordered_map<FontKey, std::uint32_t, FontKeyHash> m_fontIndices;
-    std::vector<std::shared_ptr<GfxFont>> m_heldFonts; ///< keeps the keys' addresses from being used again
-    std::vector<bool> m_hasSpaceWidth;                 ///< a font of the page, its blank's width seen
+    std::vector<std::shared_ptr<GfxFont>> m_sources; ///< held, so that the keys' addresses are not used again
+    std::vector<bool> m_hasSpaceWidth;               ///< a font of the page, its blank's width seen
     bool m_isFontKnown = false;
     bool m_wasSlanted = false;
     std::uint32_t m_font = 0;

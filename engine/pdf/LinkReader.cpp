@@ -3,6 +3,10 @@
 #include "pdf/PageSpace.h"
 #include "pdf/TextString.h"
 
+#include <algorithm>
+
+#include <fmt/format.h>
+
 #include <Annot.h>
 #include <Link.h>
 #include <PDFDoc.h>
@@ -114,6 +118,7 @@ std::vector<Link> readLinks(::Page& page, ::PDFDoc& document, Diagnostics& diagn
     if (!source)
         return links;
     const Matrix matrix = defaultMatrix(page);
+    std::vector<Rect> unresolved;
     for (::AnnotLink* annotation : source->getLinks()) {
         Link link;
         link.boxes = boxesOf(*annotation, matrix);
@@ -123,12 +128,17 @@ std::vector<Link> readLinks(::Page& page, ::PDFDoc& document, Diagnostics& diagn
         if (link.boxes.empty() || (link.uri.empty() && !link.destination))
             continue;
         if (link.destination && link.destination->page == 0) {
-            diagnostics.add(DiagnosticKind::LinkUnresolved, page.getNum(),
-                            "a link leads to a place that does not exist", link.boxes.front());
+            unresolved.push_back(link.boxes.front());
             continue;
         }
         links.push_back(std::move(link));
     }
+    if (!unresolved.empty())
+        diagnostics.add(DiagnosticKind::LinkUnresolved, page.getNum(),
+                        unresolved.size() == 1
+                            ? std::string("a link leads to a place that does not exist")
+                            : fmt::format("{} links lead to places that do not exist", unresolved.size()),
+                        unresolved.front());
     return links;
 }
 

@@ -1,12 +1,16 @@
 #include "pdf/MarkReader.h"
 
+#include "pdf/NamedMarks.h"
 #include "pdf/TextString.h"
+
+#include <algorithm>
+#include <string_view>
 
 #include <Object.h>
 
 namespace orvane::pdf {
 
-void MarkReader::begin(const char* tag, ::Dict* properties) {
+void MarkReader::begin(const char* tag, const ::Dict* properties) {
     Mark mark;
     mark.tag = tag;
     mark.parent = current();
@@ -24,9 +28,25 @@ void MarkReader::begin(const char* tag, ::Dict* properties) {
     m_marks.push_back(std::move(mark));
 }
 
+void MarkReader::markPoint(const char* tag, const ::Dict* properties) {
+    if (!properties || std::string_view(tag) != kNamedMarkPoint)
+        return;
+    const ::Object name = properties->lookup(kNamedMarkTag);
+    if (name.isName())
+        begin(name.getName(), properties);
+}
+
 void MarkReader::end() {
-    if (!m_open.empty())
+    const std::size_t base = m_formBases.empty() ? 0 : m_formBases.back();
+    if (m_open.size() > base)
         m_open.pop_back();
+}
+
+void MarkReader::endForm() {
+    if (m_formBases.empty())
+        return;
+    m_open.resize(std::min(m_open.size(), m_formBases.back()));
+    m_formBases.pop_back();
 }
 
 } // namespace orvane::pdf

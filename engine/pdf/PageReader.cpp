@@ -2,125 +2,100 @@
 
 #include "pdf/PageSpace.h"
 
+#include <GfxFont.h>
 #include <GfxState.h>
 #include <Object.h>
+#include <PDFDoc.h>
 
 namespace orvane::pdf {
 namespace {
 
-int objectNumberOf(const ::Object* reference) {
-    return reference && reference->isRef() ? reference->getRefNum() : 0;
-}
-
-PictureSource sourceOf(::Stream* stream, int width, int height, GfxImageColorMap* colors) {
-    PictureSource source;
-    source.stream = stream;
-    source.width = width;
-    source.height = height;
-    source.colors = colors;
-    return source;
+Rect boxOnPage(const GfxState& state, const double* box) {
+    return currentMatrix(state).applyToBox({box[0], box[1], box[2], box[3]});
 }
 
 } // namespace
 
+PageReader::PageReader(const PageReading& reading)
+    : m_reading(reading)
+    , m_marks(reading.page.marks)
+    , m_glyphs(reading.page, *reading.document.getXRef())
+    , m_paths(reading.page)
+    , m_pictures(reading.page, reading.pictures, reading.diagnostics)
+    , m_textClip(reading.page)
+    , m_transparency(reading.page) {}
+
+void PageReader::saveState(GfxState*) {
+    m_paths.saveState();
+    m_textClip.saveState();
+    m_transparency.saveState();
+}
+
 void PageReader::restoreState(GfxState*) {
     m_paths.restoreState();
+    m_textClip.restoreState();
+    m_transparency.restoreState();
     m_glyphs.forgetFont();
 }
 
-void PageReader::drawChar(GfxState* state, double x, double y, double dx, double dy, double originX, double originY,
-                          CharCode code, int byteCount, const Unicode* unicode, int unicodeLength) {
-    m_glyphs.read(*state, {x, y, dx, dy, originX, originY, code, byteCount, unicode, unicodeLength}, m_marks.current(),
+void PageReader::beginString(GfxState* state, const GooString*) {
+    m_stringMatrix = currentMatrix(*state);
+}
+
+void PageReader::drawChar(GfxState* state, double x, double y, double dx, double dy, double, double, CharCode code,
+                          int byteCount, const Unicode* unicode, int unicodeLength) {
+    const std::size_t before = m_reading.page.glyphs.size();
+    m_glyphs.read(*state, {x, y, dx, dy, code, byteCount, unicode, unicodeLength, m_stringMatrix}, m_marks.current(),
                   m_paintOrder++);
+    const bool clips = (state->getRender() & 4) != 0;
+    if (clips && m_reading.page.glyphs.size() > before)
+        m_textClip.addLastGlyph();
+}
+
+bool PageReader::beginType3Char(GfxState* state, double x, double y, double dx, double dy, CharCode code,
+                                const Unicode* unicode, int unicodeLength) {
+    // A glyph that says nothing and is larger than letters are is a drawing: it is painted by its procedure.
+    constexpr double kLargestLetter = 36;
+    const double* box = state->getFont()->getFontBBox();
+    const Rect onPage = boxOnPage(*state, box);
+    if (unicodeLength == 0 && onPage.height() > kLargestLetter && onPage.width() > kLargestLetter)
+        return false;
+    drawChar(state, x, y, dx, dy, 0, 0, code, 1, unicode, unicodeLength);
+    return true;
 }
 
 void PageReader::stroke(GfxState* state) {
-    if (!isIgnored())
-        m_paths.stroke(*state, m_marks.current(), m_paintOrder++);
+    if (m_textClip.isActive()) {
+        m_textClip.paint();
+        return;
+    }
+    m_paths.stroke(*state, m_marks.current(), m_paintOrder++);
+    m_transparency.coverLastPath();
 }
 
-void PageReader::fill(GfxState* state) {
-    if (!isIgnored())
-        m_paths.fill(*state, FillRule::NonZero, m_marks.current(), m_paintOrder++);
+void PageReader::fill(GfxState& state, FillRule rule) {
+    if (m_textClip.isActive()) {
+        GfxRGB color;
+        state.getFillRGB(&color);
+        m_textClip.paint(toColor(color));
+        return;
+    }
+    m_paths.fill(state, rule, m_marks.current(), m_paintOrder++);
+    m_transparency.coverLastPath();
 }
 
-void PageReader::eoFill(GfxState* state) {
-    if (!isIgnored())
-        m_paths.fill(*state, FillRule::EvenOdd, m_marks.current(), m_paintOrder++);
+void PageReader::beginTransparencyGroup(GfxState*, const double*, GfxColorSpace*, bool, bool, bool isForSoftMask) {
+    m_transparency.beginGroup(isForSoftMask ? TransparencyReader::GroupKind::SoftMask
+                                            : TransparencyReader::GroupKind::Painted);
 }
 
-bool PageReader::tilingPatternFill(GfxState* state, Gfx*, Catalog*, GfxTilingPattern*, const double*, int x0, int y0,
-                                   int x1, int y1, double, double) {
-    // A single cell is a way to paint a picture or a drawing inside an outline: it is read like any other content.
-    const bool isSingleCell = x1 - x0 <= 1 && y1 - y0 <= 1;
-    if (isSingleCell && !isIgnored())
-        return false;
-    if (!isIgnored())
-        m_paths.fillClipWithPattern(*state, {128, 128, 128}, m_marks.current(), m_paintOrder++);
-    return true;
+void PageReader::paintTransparencyGroup(GfxState* state, const double*) {
+    m_transparency.paintGroup(state->getFillOpacity());
 }
 
-void PageReader::shade(GfxState& state, GfxShading& shading) {
-    if (!isIgnored())
-        m_paths.fillClipWithPattern(state, meanColorOf(shading), m_marks.current(), m_paintOrder++);
-}
-
-bool PageReader::functionShadedFill(GfxState* state, GfxFunctionShading* shading) {
-    shade(*state, *shading);
-    return true;
-}
-
-bool PageReader::axialShadedFill(GfxState* state, GfxAxialShading* shading, double, double) {
-    shade(*state, *shading);
-    return true;
-}
-
-bool PageReader::radialShadedFill(GfxState* state, GfxRadialShading* shading, double, double) {
-    shade(*state, *shading);
-    return true;
-}
-
-bool PageReader::gouraudTriangleShadedFill(GfxState* state, GfxGouraudTriangleShading* shading) {
-    shade(*state, *shading);
-    return true;
-}
-
-bool PageReader::patchMeshShadedFill(GfxState* state, GfxPatchMeshShading* shading) {
-    shade(*state, *shading);
-    return true;
-}
-
-void PageReader::drawImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                               bool isInverted, bool, bool) {
-    PictureSource source = sourceOf(stream, width, height, nullptr);
-    source.isInverted = isInverted;
-    GfxRGB color;
-    state->getFillRGB(&color);
-    source.stencilColor = toColor(color);
-    m_pictures.read(*state, source, objectNumberOf(reference), m_marks.current(), m_paintOrder++);
-}
-
-void PageReader::drawImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                           GfxImageColorMap* colors, bool, const int* colorKey, bool) {
-    PictureSource source = sourceOf(stream, width, height, colors);
-    source.colorKey = colorKey;
-    m_pictures.read(*state, source, objectNumberOf(reference), m_marks.current(), m_paintOrder++);
-}
-
-void PageReader::drawMaskedImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                                 GfxImageColorMap* colors, bool, ::Stream* maskStream, int maskWidth, int maskHeight,
-                                 bool isMaskInverted, bool) {
-    PictureSource source = sourceOf(stream, width, height, colors);
-    source.mask = PictureMask{maskStream, maskWidth, maskHeight, nullptr, isMaskInverted};
-    m_pictures.read(*state, source, objectNumberOf(reference), m_marks.current(), m_paintOrder++);
-}
-
-void PageReader::drawSoftMaskedImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                                     GfxImageColorMap* colors, bool, ::Stream* maskStream, int maskWidth,
-                                     int maskHeight, GfxImageColorMap* maskColors, bool) {
-    PictureSource source = sourceOf(stream, width, height, colors);
-    source.mask = PictureMask{maskStream, maskWidth, maskHeight, maskColors, false};
-    m_pictures.read(*state, source, objectNumberOf(reference), m_marks.current(), m_paintOrder++);
+void PageReader::setSoftMask(GfxState* state, const double* box, bool useAlpha, Function*, GfxColor*) {
+    m_transparency.setMask(useAlpha ? TransparencyReader::MaskKind::Alpha : TransparencyReader::MaskKind::Luminosity,
+                           boxOnPage(*state, box));
 }
 
 } // namespace orvane::pdf

@@ -1,5 +1,6 @@
 #include "pdf/PageSpace.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <GfxState.h>
@@ -39,6 +40,14 @@ Visibility visibilityOf(const Rect& box, const Rect& clip, const PageContent& pa
 
 Color toColor(const GfxRGB& color) {
     return {colToByte(color.r), colToByte(color.g), colToByte(color.b)};
+}
+
+Color onWhite(Color color, double opacity) {
+    const double share = std::clamp(opacity, 0.0, 1.0);
+    const auto mixed = [&](std::uint8_t channel) {
+        return static_cast<std::uint8_t>(std::lround(channel * share + 255 * (1 - share)));
+    };
+    return {mixed(color.red), mixed(color.green), mixed(color.blue)};
 }
 
 double userUnitOf(::Page& page) {

@@ -20,6 +20,8 @@ Rect clipBox(const GfxState& state);
 Visibility visibilityOf(const Rect& box, const Rect& clip, const PageContent& page);
 
 Color toColor(const GfxRGB& color);
+/// How a colour of this opacity looks on paper.
+Color onWhite(Color color, double opacity);
 
 /// The size of a user space unit against a point. Source: ISO 32000-1, 7.7.3.3 (UserUnit).
 double userUnitOf(::Page& page);

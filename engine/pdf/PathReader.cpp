@@ -137,8 +137,11 @@ void PathReader::stroke(GfxState& state, std::int32_t mark, std::uint32_t paintO
 }
 
 void PathReader::clip(const GfxState& state, FillRule rule) {
-    m_clip.segments = segmentsOf(state);
-    m_clip.isEvenOdd = rule == FillRule::EvenOdd;
+    m_clip = {segmentsOf(state), rule == FillRule::EvenOdd, std::nullopt};
+}
+
+void PathReader::clipToStroke(GfxState& state) {
+    m_clip = {segmentsOf(state), false, strokeStyleOf(state)};
 }
 
 void PathReader::restoreState() {
@@ -161,7 +164,12 @@ void PathReader::fillClipWithPattern(GfxState& state, Color meanColor, std::int3
     Path path = makePath(state, std::move(segments), mark, paintOrder);
     if (!isFinite(path.box))
         return;
-    path.fill = FillStyle{meanColor, m_clip.isEvenOdd, true, state.getFillOpacity()};
+    if (m_clip.stroke) {
+        path.stroke = m_clip.stroke;
+        path.stroke->color = meanColor;
+    } else {
+        path.fill = FillStyle{meanColor, m_clip.isEvenOdd, true, state.getFillOpacity()};
+    }
     m_page.paths.push_back(std::move(path));
 }
 

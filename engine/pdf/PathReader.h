@@ -23,6 +23,8 @@ public:
 
     /// The current path becomes (part of) the clip path; shadings and patterns are painted through it.
     void clip(const GfxState& state, FillRule rule);
+    /// Likewise with what a stroke of the current path would cover.
+    void clipToStroke(GfxState& state);
     /// Paints the innermost clip path, as shadings and patterns do, in one colour that stands for theirs.
     void fillClipWithPattern(GfxState& state, Color meanColor, std::int32_t mark, std::uint32_t paintOrder);
 
@@ -34,6 +36,7 @@ private:
     struct ClipPath {
         std::vector<PathSegment> segments;
         bool isEvenOdd = false;
+        std::optional<StrokeStyle> stroke; ///< where the outline is meant, not what it encloses
     };
     Path makePath(const GfxState& state, std::vector<PathSegment> segments, std::int32_t mark,
                   std::uint32_t paintOrder) const;

@@ -5,18 +5,17 @@
 #include "pdf/DocumentOpener.h"
 #include "pdf/LinkReader.h"
 #include "pdf/OutlineReader.h"
+#include "pdf/PagePlayer.h"
 #include "pdf/PageReader.h"
 #include "pdf/PageSpace.h"
 #include "pdf/PopplerRuntime.h"
 #include "pdf/RegionPainter.h"
 #include "pdf/StructureReader.h"
 #include "pdf/TextString.h"
-
-#include <chrono>
+#include "pdf/UnicodeRepair.h"
 
 #include <fmt/format.h>
 
-#include <Annot.h>
 #include <Catalog.h>
 #include <PDFDoc.h>
 #include <Page.h>
@@ -24,30 +23,8 @@
 namespace orvane::pdf {
 namespace {
 
-/// A page that takes longer than this never ends: content that calls itself in endless variations, or millions of
-/// operators.
+/// No page that a person made takes this long.
 constexpr std::chrono::seconds kPageTimeBudget{30};
-
-/// Stops the library when the page's time is up.
-class PageTimer {
-public:
-    /// Signature of the library's abort callback.
-    static bool isOver(void* timer) {
-        auto* self = static_cast<PageTimer*>(timer);
-        self->m_isOver = self->m_isOver || std::chrono::steady_clock::now() - self->m_start > kPageTimeBudget;
-        return self->m_isOver;
-    }
-    bool isOver() const { return m_isOver; }
-
-private:
-    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-    bool m_isOver = false;
-};
-
-/// Filled form fields are part of what a reader sees; other annotations are told apart from the page's content.
-bool isPaintedAnnotation(::Annot* annotation, void*) {
-    return annotation->getType() == ::Annot::typeWidget;
-}
 
 void tellComplaints(const ComplaintCollector& complaints, int page, Diagnostics& diagnostics) {
     if (complaints.count() == 1)
@@ -63,6 +40,11 @@ void tellComplaints(const ComplaintCollector& complaints, int page, Diagnostics&
 struct PdfDocument::Impl {
     std::unique_ptr<::PDFDoc> document;
     PictureCache pictures;
+    UnicodeRepair unicode;
+
+    explicit Impl(std::unique_ptr<::PDFDoc> opened)
+        : document(std::move(opened))
+        , unicode(*document->getXRef()) {}
 
     ::Page* page(int number) {
         return number >= 1 && number <= document->getNumPages() ? document->getPage(number) : nullptr;
@@ -72,9 +54,7 @@ struct PdfDocument::Impl {
 PdfDocument PdfDocument::open(const std::filesystem::path& file, const Passwords& passwords) {
     preparePoppler();
     const ComplaintCollector silence;
-    auto impl = std::make_unique<Impl>();
-    impl->document = openDocument(file, passwords);
-    return PdfDocument(std::move(impl));
+    return PdfDocument(std::make_unique<Impl>(openDocument(file, passwords)));
 }
 
 PdfDocument::PdfDocument(std::unique_ptr<Impl> impl)
@@ -140,13 +120,13 @@ PageContent PdfDocument::readPage(int number, const PageReadOptions& options, Di
     content.height = box.height();
     content.rotation = page->getRotate();
 
-    PageTimer timer;
-    PageReader reader(content, *m_impl->document->getXRef(), m_impl->pictures, options.pictures, diagnostics);
-    const double dpi = 72.0 * userUnitOf(*page);
-    page->display(&reader, dpi, dpi, 0, false, true, false, &PageTimer::isOver, &timer, isPaintedAnnotation, nullptr);
+    TimeBudget budget(kPageTimeBudget);
+    PageReader reader({*m_impl->document, content, m_impl->pictures, options.pictures, diagnostics, budget});
+    playPage(*page, *m_impl->document, reader, budget);
+    m_impl->unicode.repair(content, reader.glyphs().sources(), diagnostics);
     content.links = readLinks(*page, *m_impl->document, diagnostics);
 
-    if (timer.isOver())
+    if (budget.isSpent())
         diagnostics.add(DiagnosticKind::TimeBudgetExceeded, number,
                         "the page's content takes too long; the rest of it is left out");
     tellComplaints(complaints, number, diagnostics);

@@ -3,9 +3,9 @@
 #include "base/PngEncoder.h"
 #include "pdf/JpegPassThrough.h"
 #include "pdf/PageSpace.h"
+#include "pdf/SampleRows.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 #include <fmt/format.h>
@@ -24,52 +24,6 @@ bool isSizeSane(int width, int height) {
     return width > 0 && height > 0 && width <= kMaxSide && height <= kMaxSide &&
            std::int64_t{width} * height <= kMaxPixels;
 }
-
-/// The rows of samples of one stream, top to bottom, stretched to another height by repeating and skipping.
-class SampleRows {
-public:
-    SampleRows(::Stream& stream, int width, int height, int components, int bits)
-        : m_stream(stream)
-        , m_rows(&stream, width, components, bits)
-        , m_height(height)
-        , m_row(static_cast<std::size_t>(width) * static_cast<std::size_t>(components)) {
-        m_rows.reset();
-        m_isEmpty = m_stream.lookChar() == EOF;
-    }
-    ~SampleRows() { m_rows.close(); }
-    SampleRows(const SampleRows&) = delete;
-    SampleRows& operator=(const SampleRows&) = delete;
-
-    /// No byte can be read at all.
-    bool isEmpty() const { return m_isEmpty; }
-    bool isCutShort() const { return m_isCutShort; }
-
-    /// The samples for row `y` of `height`; null below the end of the data. Requires: y does not go back.
-    const std::uint8_t* at(int y, int height) {
-        const int wanted = static_cast<int>((std::int64_t{y} * 2 + 1) * m_height / (std::int64_t{height} * 2));
-        while (m_next <= wanted && !m_isCutShort)
-            readRow();
-        return m_isCutShort ? nullptr : m_row.data();
-    }
-
-private:
-    void readRow() {
-        const unsigned char* line = m_stream.lookChar() == EOF ? nullptr : m_rows.getLine();
-        if (line)
-            std::memcpy(m_row.data(), line, m_row.size());
-        else
-            m_isCutShort = true;
-        ++m_next;
-    }
-
-    ::Stream& m_stream;
-    ImageStream m_rows;
-    int m_height;
-    int m_next = 0;
-    std::vector<std::uint8_t> m_row;
-    bool m_isEmpty = false;
-    bool m_isCutShort = false;
-};
 
 /// The colours of all values of a picture with one component of up to 8 bits.
 std::vector<Color> colorTable(GfxImageColorMap& colors) {
@@ -289,6 +243,10 @@ PictureData decodeSamples(const PictureSource& source, SampleRows& samples) {
     return table.size() == 2 ? decodeTwoColors(source, table, samples) : decodeIndexed(source, table, samples);
 }
 
+bool isDepthSane(int bits) {
+    return bits == 1 || bits == 2 || bits == 4 || bits == 8 || bits == 16;
+}
+
 } // namespace
 
 std::optional<PictureData> decodePicture(const PictureSource& source, std::string& trouble) {
@@ -301,8 +259,12 @@ std::optional<PictureData> decodePicture(const PictureSource& source, std::strin
             return jpeg;
 
     const int components = source.colors ? source.colors->getNumPixelComps() : 1;
-    SampleRows samples(*source.stream, source.width, source.height, components,
-                       source.colors ? source.colors->getBits() : 1);
+    const int bits = source.colors ? source.colors->getBits() : 1;
+    if (!isDepthSane(bits) || (source.mask && source.mask->colors && !isDepthSane(source.mask->colors->getBits()))) {
+        trouble = "a picture's samples have an unknown size";
+        return std::nullopt;
+    }
+    SampleRows samples(*source.stream, source.width, source.height, components, bits);
     if (samples.isEmpty()) {
         trouble = "a picture's data cannot be read";
         return std::nullopt;

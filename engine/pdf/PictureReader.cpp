@@ -25,8 +25,8 @@ PictureCache::Entry PictureCache::read(const PictureSource& source, int objectNu
     return entry;
 }
 
-void PictureReader::read(GfxState& state, const PictureSource& source, int objectNumber, std::int32_t mark,
-                         std::uint32_t paintOrder) {
+void PictureReader::read(const GfxState& state, const PictureSource& source, int objectNumber, PictureStore* store,
+                         std::int32_t mark, std::uint32_t paintOrder) {
     Picture picture;
     const Matrix m = currentMatrix(state);
     // The image's rows run downwards from the top of the unit square of user space.
@@ -43,8 +43,8 @@ void PictureReader::read(GfxState& state, const PictureSource& source, int objec
     picture.paintOrder = paintOrder;
     picture.pixelWidth = source.width;
     picture.pixelHeight = source.height;
-    if (m_store && picture.visibility == Visibility::Visible) {
-        const PictureCache::Entry entry = m_cache.read(source, objectNumber, *m_store);
+    if (store && picture.visibility == Visibility::Visible) {
+        const PictureCache::Entry entry = m_cache.read(source, objectNumber, *store);
         picture.id = entry.id;
         picture.pixelWidth = entry.pixelWidth;
         picture.pixelHeight = entry.pixelHeight;

@@ -33,19 +33,18 @@ private:
 /// Turns painted pictures into the page's pictures.
 class PictureReader {
 public:
-    PictureReader(PageContent& page, PictureCache& cache, PictureStore* store, Diagnostics& diagnostics)
+    PictureReader(PageContent& page, PictureCache& cache, Diagnostics& diagnostics)
         : m_page(page)
         , m_cache(cache)
-        , m_store(store)
         , m_diagnostics(diagnostics) {}
 
-    void read(GfxState& state, const PictureSource& source, int objectNumber, std::int32_t mark,
-              std::uint32_t paintOrder);
+    /// Without a store the picture's place is read, and its samples are not.
+    void read(const GfxState& state, const PictureSource& source, int objectNumber, PictureStore* store,
+              std::int32_t mark, std::uint32_t paintOrder);
 
 private:
     PageContent& m_page;
     PictureCache& m_cache;
-    PictureStore* m_store;
     Diagnostics& m_diagnostics;
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/PngEncoder.h"
+#include "pdf/PagePlayer.h"
 #include "pdf/PageSpace.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72.0;
 constexpr double kMaxPixels = 64e6;
+constexpr std::chrono::seconds kTimeBudget{30};
 
 struct PixelSlice {
     double dpi = 0;
@@ -59,6 +61,7 @@ PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, dou
     SplashColor paper = {255, 255, 255};
     SplashOutputDev device(splashModeRGB8, 1, false, paper);
     device.startDoc(&document);
+    TimeBudget budget(kTimeBudget);
     const double dpi = slice.dpi * userUnitOf(*source);
     document.displayPageSlice(&device, page, dpi, dpi, 0, false, true, false, slice.x, slice.y, slice.width,
                               slice.height);

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvane::pdf {
+
+/// What a glyph's name says: "A", "ffi", "uni0041", "u1F600", "f_f_i", "a.sc"; empty for names that number glyphs
+/// ("g32", "cid7"). Source: Adobe Glyph List Specification, 2. Requires: preparePoppler() has been called.
+std::u32string textOfGlyphName(std::string_view name);
+
+/// The letters of a Latin ligature ("ffi" for U+FB03); the character itself otherwise.
+std::u32string withoutLigature(char32_t character);
+
+} // namespace orvane::pdf

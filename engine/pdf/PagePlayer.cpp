@@ -1,0 +1,83 @@
+#include "pdf/PagePlayer.h"
+
+#include "pdf/NamedMarks.h"
+#include "pdf/PageSpace.h"
+
+#include <memory>
+#include <string>
+
+#include <Annot.h>
+#include <Gfx.h>
+#include <Object.h>
+#include <OutputDev.h>
+#include <PDFDoc.h>
+#include <Page.h>
+
+namespace orvane::pdf {
+namespace {
+
+/// The page's content in one piece; its parts may be cut anywhere between tokens. Source: ISO 32000-1, 7.8.2.
+std::string joinedContent(const ::Object& contents) {
+    std::string joined;
+    if (contents.isStream()) {
+        contents.getStream()->fillString(joined);
+    } else if (contents.isArray()) {
+        for (int i = 0; i < contents.arrayGetLength(); ++i) {
+            const ::Object part = contents.arrayGet(i);
+            if (part.isStream())
+                part.getStream()->fillString(joined);
+            joined += '\n';
+        }
+    }
+    return joined;
+}
+
+void playContent(::Page& page, ::Gfx& gfx) {
+    ::Object contents = page.getContents();
+    if (contents.isNull())
+        return;
+    std::string rewritten; // lives as long as the stream that reads it
+    const ::Object named = page.getResourceDict() ? page.getResourceDict()->lookup("Properties") : ::Object(objNull);
+    if (named.isDict()) {
+        rewritten = withNamedMarks(joinedContent(contents), *named.getDict());
+        ::Stream* stream = new MemStream(rewritten.data(), 0, static_cast<Goffset>(rewritten.size()),
+                                         ::Object(new ::Dict(gfx.getXRef())));
+        contents = ::Object(stream);
+    }
+    gfx.saveState();
+    gfx.display(&contents);
+    gfx.restoreState();
+}
+
+} // namespace
+
+bool isPartOfPage(::Annot* annotation, void*) {
+    switch (annotation->getType()) {
+    case ::Annot::typeWidget:
+    case ::Annot::typeFreeText:
+    case ::Annot::typeStamp:
+    case ::Annot::typeInk:
+    case ::Annot::typeLine:
+    case ::Annot::typeSquare:
+    case ::Annot::typeCircle:
+    case ::Annot::typePolygon:
+    case ::Annot::typePolyLine:
+    case ::Annot::typeWatermark:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget) {
+    const double dpi = 72.0 * userUnitOf(page);
+    const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, -1, -1, -1, -1, false,
+                                                    &TimeBudget::isSpent, &budget, document.getXRef()));
+    playContent(page, *gfx);
+    if (::Annots* annotations = page.getAnnots())
+        for (::Annot* annotation : annotations->getAnnots())
+            if (isPartOfPage(annotation, nullptr) && !budget.isSpent())
+                annotation->draw(gfx.get(), false);
+}
+
+} // namespace orvane::pdf

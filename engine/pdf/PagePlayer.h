@@ -1,0 +1,37 @@
+#pragma once
+
+#include <chrono>
+
+class Annot;
+class OutputDev;
+class PDFDoc;
+class Page;
+
+namespace orvane::pdf {
+
+/// Ends content that would go on for ever: forms that call each other in endless variations, millions of operators.
+class TimeBudget {
+public:
+    explicit TimeBudget(std::chrono::milliseconds budget)
+        : m_end(std::chrono::steady_clock::now() + budget) {}
+
+    bool isSpent() {
+        m_isSpent = m_isSpent || std::chrono::steady_clock::now() > m_end;
+        return m_isSpent;
+    }
+    /// The library's abort callback; `budget` is a TimeBudget.
+    static bool isSpent(void* budget) { return static_cast<TimeBudget*>(budget)->isSpent(); }
+
+private:
+    std::chrono::steady_clock::time_point m_end;
+    bool m_isSpent = false;
+};
+
+/// Whether an annotation is part of what stands on the page: filled form fields, typed text, stamps and drawings are;
+/// marks on the text, notes and links are told apart from the content. Signature of the library's callback.
+bool isPartOfPage(::Annot* annotation, void* unused);
+
+/// Interprets a page's content and the annotations that are part of it on a device whose space is page space.
+void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget);
+
+} // namespace orvane::pdf
