@@ -21,7 +21,7 @@ const char* adviceFor(FailureCode code) {
     case FailureCode::UserPasswordNeeded:
         return " (give the password with --password-file or ORVANE_PASSWORD)";
     case FailureCode::OwnerPasswordNeeded:
-        return " (the file forbids copying: give the owner's password with --password-file or ORVANE_PASSWORD)";
+        return " (give the owner's password with --password-file or ORVANE_PASSWORD)";
     default:
         return "";
     }
@@ -63,7 +63,9 @@ std::string successLine(const Outcome& outcome) {
 
 std::string failureLine(const Outcome& outcome) {
     const Failed& failure = *outcome.failure;
-    return fmt::format("orvane: {}: {}{}", outcome.job.source, failure.message, adviceFor(failure.code));
+    const bool namesTheFile = failure.message.find(outcome.job.source) != std::string::npos;
+    return fmt::format("orvane: {}{}{}", namesTheFile ? "" : outcome.job.source + ": ", failure.message,
+                       adviceFor(failure.code));
 }
 
 std::string infoText(const Outcome& outcome) {

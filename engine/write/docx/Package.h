@@ -24,8 +24,9 @@ public:
     /// What the package itself leads to.
     Relationships& relationships() { return m_relationships; }
 
-    /// Writes the package; the same parts give the same bytes. A file that stood at `target` stays whole when this
-    /// fails, and no new one is left there. Errors: Failure(TargetUnwritable).
+    /// Writes the package; the same parts give the same bytes. `target` is written where it stands, and only there: whoever
+    /// wants to keep an older file until the new one is whole names another place.
+    /// Errors: Failure(TargetUnwritable).
     void save(const std::filesystem::path& target);
 
 private:

@@ -65,9 +65,15 @@ TEST(Report, TellsOfADocumentInALine) {
 }
 
 TEST(Report, SaysWhatCanBeDoneAboutAPassword) {
-    EXPECT_EQ(failureLine(failedOutcome(FailureCode::NotAPdf)), "orvane: a.pdf: why");
     EXPECT_THAT(failureLine(failedOutcome(FailureCode::UserPasswordNeeded)), HasSubstr("--password-file"));
     EXPECT_THAT(failureLine(failedOutcome(FailureCode::OwnerPasswordNeeded)), HasSubstr("owner's password"));
+}
+
+TEST(Report, NamesAFileOnce) {
+    Outcome outcome = failedOutcome(FailureCode::NotAPdf);
+    EXPECT_EQ(failureLine(outcome), "orvane: a.pdf: why");
+    outcome.failure->message = "a.pdf is empty";
+    EXPECT_EQ(failureLine(outcome), "orvane: a.pdf is empty");
 }
 
 TEST(Report, TellsOfADocumentAsJson) {
