@@ -41,8 +41,9 @@ void refuseMissingSource(ProgressRun& run, const ErrorTrap& trap) {
     trap([&] { run.view.unload(); });
     trap([&] { run.eventLoop.yield(); });
     trap([&] { run.mainWindow.show(); });
-    trap(
-        [&] { run.messageBox.tell(MessageBox::Icon::Critical, "The selected PDF file doesn't exist.", kWindowTitle); });
+    trap([&] {
+        run.messageBox.tell(UserMessages::Icon::Critical, "The selected PDF file doesn't exist.", kWindowTitle);
+    });
 }
 
 void showStage(ProgressRun& run, const ErrorTrap& trap, const QString& stageLabel, int barValue) {
@@ -84,7 +85,7 @@ Step stageOrRefuse(ProgressRun& run, const ErrorTrap& trap, const QString& sourc
         return Step::GoOn;
     if (!isClosing(run))
         trap([&] {
-            run.messageBox.tell(MessageBox::Icon::Critical,
+            run.messageBox.tell(UserMessages::Icon::Critical,
                                 "Failed to clear temporary setup. Sorry for inconvenience.\n\nPlease try again.",
                                 kWindowTitle);
         });

@@ -57,7 +57,7 @@ void tellFailure(ProgressRun& run, const ErrorTrap& trap) {
 
 void tellSharingViolation(ProgressRun& run, const ErrorTrap& trap) {
     run.records.flags.blnCloseRequested = true;
-    trap([&] { run.messageBox.tell(MessageBox::Icon::Critical, kSharingViolation, kWindowTitle); });
+    trap([&] { run.messageBox.tell(UserMessages::Icon::Critical, kSharingViolation, kWindowTitle); });
     run.intParseState = parse_state::kFailed;
 }
 

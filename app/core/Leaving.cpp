@@ -69,9 +69,9 @@ void Form_QueryUnload(ProgressRun& run, bool& cancel, UnloadMode unloadMode) {
     trap([&] { run.view.stopTimer(); });
     if (unloadMode != UnloadMode::ControlMenu)
         return;
-    auto answer = MessageBox::Answer::No;
+    auto answer = UserMessages::Answer::No;
     trap([&] { answer = run.messageBox.ask(kCloseQuestion, kWindowTitle); });
-    if (answer == MessageBox::Answer::No) {
+    if (answer == UserMessages::Answer::No) {
         cancel = true;
         if (run.blnAsyncRun) {
             trap([&] { run.view.startTimer(); });

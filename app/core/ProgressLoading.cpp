@@ -37,7 +37,7 @@ void cmdViewLog_click(ProgressRun& run) {
         if (run.files.exists(settings.strLogPath))
             run.view.showLog(run.files.readText(settings.strLogPath));
         else
-            run.messageBox.tell(MessageBox::Icon::Exclamation,
+            run.messageBox.tell(UserMessages::Icon::Exclamation,
                                 "Log file does not exists. Please check the Log file path.", kWindowTitle);
     });
     trap([&] { run.view.showButton(Button::cmdClose); });

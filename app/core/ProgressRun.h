@@ -13,7 +13,7 @@ class RunFollowUp;
 struct RunPorts {
     SharedRecords& records;
     MainView& mainWindow;
-    MessageBox& messageBox;
+    UserMessages& messageBox;
     YesNoDialog& yesNoDialog;
     PasswordPrompt& passwordPrompt;
     const StatusTexts& statusTexts;

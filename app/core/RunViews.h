@@ -45,10 +45,10 @@ public:
     virtual void showFinishedDocument(const QString& path) = 0;
 };
 
-/// The system's message box.
-class MessageBox {
+/// Messages and questions to the user in the system's message box.
+class UserMessages {
 public:
-    virtual ~MessageBox() = default;
+    virtual ~UserMessages() = default;
 
     enum class Icon { Critical, Information, Exclamation };
     virtual void tell(Icon icon, const QString& text, const QString& title) = 0;

@@ -42,7 +42,7 @@ void testForEngine(ProgressRun& run, const ErrorTrap& trap) {
     if (found || isClosing(run))
         return;
     trap([&] {
-        run.messageBox.tell(MessageBox::Icon::Information,
+        run.messageBox.tell(UserMessages::Icon::Information,
                             message + "\nPlease make sure that the file exists and registered.", kWindowTitle);
     });
     run.records.flags.blnCloseRequested = true;

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QInputDialog>
 
-EnglishYesNoDialog::EnglishYesNoDialog(SharedRecords& records, MessageBox& messageBox)
+EnglishYesNoDialog::EnglishYesNoDialog(SharedRecords& records, UserMessages& messageBox)
     : m_records(records)
     , m_messageBox(messageBox) {}
 
@@ -19,7 +19,7 @@ QString EnglishYesNoDialog::question(const QString& controlName) const {
 
 void EnglishYesNoDialog::ask(const QString& controlName, Place) {
     const auto answer = m_messageBox.ask(question(controlName), kWindowTitle);
-    m_records.flags.intDialogAnswer = answer == MessageBox::Answer::Yes ? 1 : 0;
+    m_records.flags.intDialogAnswer = answer == UserMessages::Answer::Yes ? 1 : 0;
 }
 
 EnglishPasswordPrompt::EnglishPasswordPrompt(SharedRecords& records, std::function<void()> giveUpFile)

@@ -8,7 +8,7 @@
 /// The questions of frmErrorYesNoOnly in English, asked through a message box.
 class EnglishYesNoDialog : public YesNoDialog {
 public:
-    EnglishYesNoDialog(SharedRecords& records, MessageBox& messageBox);
+    EnglishYesNoDialog(SharedRecords& records, UserMessages& messageBox);
 
     void ask(const QString& controlName, Place place) override;
 
@@ -16,7 +16,7 @@ private:
     QString question(const QString& controlName) const;
 
     SharedRecords& m_records;
-    MessageBox& m_messageBox;
+    UserMessages& m_messageBox;
 };
 
 /// The password prompt in English, asked through the desktop's input dialog.

@@ -5,13 +5,13 @@
 
 namespace {
 
-QMessageBox::Icon systemIcon(MessageBox::Icon icon) {
+QMessageBox::Icon systemIcon(UserMessages::Icon icon) {
     switch (icon) {
-    case MessageBox::Icon::Critical:
+    case UserMessages::Icon::Critical:
         return QMessageBox::Critical;
-    case MessageBox::Icon::Exclamation:
+    case UserMessages::Icon::Exclamation:
         return QMessageBox::Warning;
-    case MessageBox::Icon::Information:
+    case UserMessages::Icon::Information:
         break;
     }
     return QMessageBox::Information;
@@ -25,7 +25,7 @@ void SystemMessageBox::tell(Icon icon, const QString& text, const QString& title
     box.exec();
 }
 
-MessageBox::Answer SystemMessageBox::ask(const QString& question, const QString& title) {
+UserMessages::Answer SystemMessageBox::ask(const QString& question, const QString& title) {
     QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);

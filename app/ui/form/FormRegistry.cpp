@@ -33,6 +33,7 @@ void FormRegistry::bringForward(const std::string& activationToken) {
     QWidget& front = modal ? *modal : window;
     front.raise();
     front.activateWindow();
+    qunsetenv("XDG_ACTIVATION_TOKEN"); // it was for this once, and no program started later may inherit it
 }
 
 void FormRegistry::endProgram() {

@@ -39,7 +39,7 @@ void frmMain::actOnCommandLine() {
     case CommandLineJob::Ready:
         return m_ports.startRun();
     case CommandLineJob::NotAPdf:
-        m_ports.messageBox.tell(MessageBox::Icon::Information,
+        m_ports.messageBox.tell(UserMessages::Icon::Information,
                                 "Sorry! Tavrelion does not support the requested file format.", kWindowTitle);
         registry().endProgram();
     }
@@ -58,7 +58,7 @@ void frmMain::Form_QueryUnload(bool& cancel, UnloadMode unloadMode) {
     if (unloadMode == UnloadMode::ControlMenu) {
         const auto answer =
             m_ports.messageBox.ask("Do you want to close Tavrelion-PDF to Word Converter?", kWindowTitle);
-        cancel = answer == MessageBox::Answer::No;
+        cancel = answer == UserMessages::Answer::No;
         m_ports.records.flags.blnCloseRequested = !cancel;
         if (cancel)
             return;

@@ -15,7 +15,7 @@ class frmMain;
 /// What the main window reaches.
 struct MainPorts {
     SharedRecords& records;
-    MessageBox& messageBox;
+    UserMessages& messageBox;
     YesNoDialog& yesNoDialog;
     EventLoop& eventLoop;
     std::function<void()> startRun; ///< makes the progress window, which carries the job of the records out

@@ -33,7 +33,7 @@ TEST_F(Attempt, AMissingSourceEndsTheRunWithAMessage) {
     ASSERT_EQ(messageBox.messages.size(), 1u);
     EXPECT_EQ(messageBox.messages[0].text, "The selected PDF file doesn't exist.");
     EXPECT_EQ(messageBox.messages[0].title, "Tavrelion-PDF to Word Converter");
-    EXPECT_EQ(messageBox.messages[0].icon, MessageBox::Icon::Critical);
+    EXPECT_EQ(messageBox.messages[0].icon, UserMessages::Icon::Critical);
     EXPECT_EQ(journal.last(), "message") << "the main window stands before the message";
     EXPECT_TRUE(script.requests.empty());
 }
@@ -84,7 +84,7 @@ TEST_F(Attempt, Result15TellsOfTheSharingViolation) {
     EXPECT_EQ(messageBox.messages[0].text,
               "Cannot convert with the specified file name.\nThere has been a sharing violation.\n"
               "The source or destination file may be in use.\nTry saving with a different file name.");
-    EXPECT_EQ(messageBox.messages[0].icon, MessageBox::Icon::Critical);
+    EXPECT_EQ(messageBox.messages[0].icon, UserMessages::Icon::Critical);
     EXPECT_EQ(run().intParseState, parse_state::kFailed);
     EXPECT_TRUE(records.flags.blnCloseRequested);
     EXPECT_EQ(view.status, "Failed to Convert File.");

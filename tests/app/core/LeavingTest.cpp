@@ -89,7 +89,7 @@ TEST_F(Leaving, NoOnARunThatIsNotAsynchronousLeavesTheStopFlag) {
 }
 
 TEST_F(Leaving, YesAtTheCloseBoxUnloadsTheWholeApplicationAndLeavesTheEngineRunning) {
-    messageBox.answer = MessageBox::Answer::Yes;
+    messageBox.answer = UserMessages::Answer::Yes;
     bool cancel = false;
     run::Form_QueryUnload(run(), cancel, UnloadMode::ControlMenu);
     EXPECT_FALSE(cancel);
@@ -140,7 +140,7 @@ TEST_F(ViewLog, AMissingLogFileGivesAMessageAndTheWindowCanBeClosed) {
     run::cmdViewLog_click(run());
     ASSERT_EQ(messageBox.messages.size(), 1u);
     EXPECT_EQ(messageBox.messages[0].text, "Log file does not exists. Please check the Log file path.");
-    EXPECT_EQ(messageBox.messages[0].icon, MessageBox::Icon::Exclamation);
+    EXPECT_EQ(messageBox.messages[0].icon, UserMessages::Icon::Exclamation);
     EXPECT_TRUE(view.buttons[Button::cmdClose]);
 }
 

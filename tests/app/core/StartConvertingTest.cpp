@@ -27,7 +27,7 @@ TEST_F(StartConverting, TestsForTheEngineFirst) {
     ASSERT_EQ(messageBox.messages.size(), 1u);
     EXPECT_EQ(messageBox.messages[0].text,
               "<Orvane.dll> not found.\nPlease make sure that the file exists and registered.");
-    EXPECT_EQ(messageBox.messages[0].icon, MessageBox::Icon::Information);
+    EXPECT_EQ(messageBox.messages[0].icon, UserMessages::Icon::Information);
     EXPECT_TRUE(records.flags.blnCloseRequested);
     EXPECT_TRUE(view.isUnloaded);
     EXPECT_TRUE(mainWindow.isShown);

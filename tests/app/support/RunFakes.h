@@ -191,7 +191,7 @@ private:
     Journal& m_journal;
 };
 
-class FakeMessageBox : public MessageBox {
+class FakeMessageBox : public UserMessages {
 public:
     explicit FakeMessageBox(Journal& journal)
         : m_journal(journal) {}

@@ -122,7 +122,7 @@ TEST_F(ProgressWindow, TheCloseBoxAsksAndMayBeRefused) {
     EXPECT_EQ(messageBox.questions, QStringList{"Do you want to close Tavrelion-PDF to Word Converter?"});
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(records.flags.blnCloseRequested);
-    messageBox.answer = MessageBox::Answer::Yes;
+    messageBox.answer = UserMessages::Answer::Yes;
     window.close();
     EXPECT_FALSE(window.isLoaded());
 }
@@ -201,7 +201,7 @@ TEST_F(MainWindow, ClosingAsksAndNoKeepsIt) {
 
 TEST_F(MainWindow, ClosingAnsweredYesEndsTheProgram) {
     window().showForm();
-    messageBox.answer = MessageBox::Answer::Yes;
+    messageBox.answer = UserMessages::Answer::Yes;
     window().close();
     EXPECT_TRUE(records.flags.blnCloseRequested);
     EXPECT_TRUE(registry.hasProgramEnded());
