@@ -133,6 +133,24 @@ TEST_F(FormBase, IsRestoredAndRaisedWhenAnotherCopyKnocks) {
     EXPECT_TRUE(form()->isVisible());
 }
 
+/// A second kind of form, as the progress window is beside the main window.
+class OtherForm : public Form {
+public:
+    using Form::Form;
+};
+
+TEST_F(FormBase, ThatIsHiddenIsPassedOverForTheOneThatIsShown) {
+    form()->showForm();
+    form()->hide();
+    const auto other = registry.obtain<OtherForm>();
+    other->showForm();
+    other->showMinimized();
+    registry.bringForward("token");
+    EXPECT_FALSE(other->isMinimized());
+    EXPECT_FALSE(form()->isVisible());
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN")) << "no program started later may inherit it";
+}
+
 TEST_F(FormBase, IsNotShownOnceTheProgramHasEnded) {
     registry.endProgram();
     form()->showForm();
