@@ -1,10 +1,12 @@
 // orvane-worker: does one conversion and ends. It is started by liborvane and by the program orvane, never by hand.
 
 #include "protocol/JsonReader.h"
+#include "worker/JobPlaces.h"
 #include "worker/JobRunner.h"
 #include "worker/ProcessLimits.h"
 #include "worker/Sandbox.h"
 #include "worker/StandardStreams.h"
+#include "worker/WriteFence.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -29,9 +31,12 @@ int main() {
     }
 
     worker::applyLimits(job.limits);
+    const worker::Sandbox fence = worker::fenceWrites(worker::placesOf(job));
     const worker::Sandbox sandbox = worker::enterSandbox();
 
     worker::RunReporter reporter(channel, job);
+    if (fence == worker::Sandbox::Unavailable)
+        reporter.remark("this system does not let the conversion keep itself from writing to other places");
     if (sandbox == worker::Sandbox::Unavailable)
         reporter.remark("this system does not let the conversion shut itself off from network and programs");
     worker::JobRunner runner(job, reporter);

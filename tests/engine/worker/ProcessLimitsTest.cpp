@@ -1,4 +1,5 @@
 #include "worker/ProcessLimits.h"
+#include "support/ForkedProcess.h"
 #include "worker/BuildKind.h"
 
 #include <gtest/gtest.h>
@@ -6,29 +7,22 @@
 #include <new>
 
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace orvane::worker {
 namespace {
 
-/// Limits hold for the rest of a process, so they are set in one of its own.
 template<typename Action>
 int exitCodeUnder(const protocol::Limits& limits, Action action) {
-    const pid_t process = fork();
-    if (process == 0) {
+    return tests::inForkedProcess([&] {
         applyLimits(limits);
-        _exit(action());
-    }
-    int status = 0;
-    waitpid(process, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+        return action();
+    });
 }
 
 TEST(ProcessLimits, EndTheMemoryWithAnExceptionNotACrash) {
     const auto allocate = [] {
         try {
-            ::operator delete(::operator new(std::size_t{1} << 30));
+            ::operator delete(::operator new (std::size_t{1} << 30));
             return 1;
         } catch (const std::bad_alloc&) {
             return 0;

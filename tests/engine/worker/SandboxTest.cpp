@@ -1,4 +1,5 @@
 #include "worker/Sandbox.h"
+#include "support/ForkedProcess.h"
 #include "worker/BuildKind.h"
 
 #include <gtest/gtest.h>
@@ -10,26 +11,14 @@
 #include <thread>
 
 #include <sys/socket.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace orvane::worker {
 namespace {
 
-/// What runs inside cannot be undone, so it runs in a process of its own; `action` returns whether all is as it should
-/// be.
 template<typename Action>
 void expectInSandbox(Action action) {
-    const pid_t process = fork();
-    ASSERT_GE(process, 0);
-    if (process == 0) {
-        const bool isClosed = enterSandbox() == Sandbox::Closed;
-        _exit(isClosed && action() ? 0 : 1);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(process, &status, 0), process);
-    EXPECT_TRUE(WIFEXITED(status)) << "ended with signal " << WTERMSIG(status);
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_EQ(tests::inForkedProcess([&] { return enterSandbox() == Sandbox::Closed && action() ? 0 : 1; }), 0);
 }
 
 TEST(Sandbox, RefusesTheNetwork) {
