@@ -141,7 +141,7 @@ struct Crop {
 /// A picture with the size it is shown at.
 struct Picture {
     PictureId id;
-    Emu width;
+    Emu width;           ///< before it is turned; it turns about its middle
     Emu height;
     Crop crop;
     double rotation = 0; ///< degrees clockwise
@@ -173,7 +173,7 @@ struct CommentReference {
     std::size_t comment = 0; ///< index into Document::comments
 };
 
-enum class FieldCode : std::uint8_t { Page, PageCount, TableOfContents, PageReference };
+enum class FieldCode : std::uint8_t { Page, PageCount, PageReference };
 
 struct Inline;
 
@@ -235,7 +235,7 @@ struct TableCell {
     int columnSpan = 1;
     int rowSpan = 1;           ///< the cells it covers in later rows are not listed there
     int column = 0;            ///< first grid column
-    Borders borders;
+    Borders borders;           ///< left and right as seen, in right-to-left tables too; so are the margins
     std::optional<Color> shading;
     CellAlignment alignment = CellAlignment::Top;
     TextDirection direction = TextDirection::Horizontal;
@@ -324,8 +324,15 @@ struct Frame {
     Origin origin;
 };
 
+/// A list of headings with the pages they stand on, which a word processor can renew.
+struct TableOfContents {
+    int firstLevel = 1;        ///< outline levels of the headings
+    int lastLevel = 3;
+    std::vector<Paragraph> entries; ///< as they stand until then: text, tabulator, page, mostly in a Link to the heading
+};
+
 struct Block {
-    std::variant<Paragraph, Table, Figure, Frame> value;
+    std::variant<Paragraph, Table, Figure, Frame, TableOfContents> value;
 };
 
 // ---- Sections ------------------------------------------------------------------------------------------------------------
@@ -338,7 +345,8 @@ struct Column {
     Twips spaceAfter;
 };
 
-/// The text at the head or foot of pages; empty optional: none of that kind.
+/// The text at the head or foot of pages. Where `firstPage` or `evenPages` is empty the standard text stands on such pages too;
+/// a list without blocks keeps them blank.
 struct RunningText {
     std::optional<std::vector<Block>> standard;
     std::optional<std::vector<Block>> firstPage;
@@ -386,14 +394,14 @@ struct NumberingLevel {
     std::optional<RunProperties> run; ///< of the label
 };
 
-/// One list, with its up to nine levels. Two lists of one kind that count on their own are two numberings.
+/// One list, with its up to nine levels. A tabulator follows the label where the indent hangs, else a blank. Two lists of one kind that count on their own are two numberings.
 struct Numbering {
     std::vector<NumberingLevel> levels;
 };
 
 struct Note {
     NoteKind kind = NoteKind::Footnote;
-    std::vector<Block> blocks;
+    std::vector<Block> blocks; ///< without the mark, which a writer puts before the first paragraph
     Origin origin;
 };
 

@@ -236,6 +236,13 @@ private:
         line("frame");
         dumpBlocks(frame.blocks);
     }
+    void dumpBlock(const TableOfContents& contents) {
+        line(fmt::format("contents of levels {} to {}", contents.firstLevel, contents.lastLevel));
+        ++m_depth;
+        for (const Paragraph& entry : contents.entries)
+            dumpBlock(entry);
+        --m_depth;
+    }
 
     std::string inlines(const std::vector<Inline>& items, const RunProperties& usual) {
         std::string text;
@@ -270,7 +277,7 @@ private:
         return fmt::format("comment({})", reference.comment);
     }
     std::string describe(const Field& field, const RunProperties& usual) {
-        constexpr const char* kNames[] = {"page", "pages", "contents", "pageof"};
+        constexpr const char* kNames[] = {"page", "pages", "pageof"};
         return fmt::format("{}[{} ]", kNames[static_cast<int>(field.code)], inlines(field.result, usual));
     }
     std::string describe(const ContentControl& control, const RunProperties& usual) {

@@ -1,5 +1,6 @@
 #include "write/docx/BlockXml.h"
 
+#include "write/docx/FieldXml.h"
 #include "write/docx/ParagraphXml.h"
 #include "write/docx/TableXml.h"
 
@@ -31,6 +32,8 @@ public:
                 m_load.floats.push_back(&m_blocks[i]);
             else if (const auto* table = std::get_if<Table>(&m_blocks[i].value))
                 writeOne(*table);
+            else if (const auto* contents = std::get_if<TableOfContents>(&m_blocks[i].value))
+                writeOne(*contents, i + 1 == m_solidCount);
             else
                 writeOne(std::get<Paragraph>(m_blocks[i].value), i + 1 == m_solidCount);
         }
@@ -45,6 +48,23 @@ private:
             writeThinParagraph(m_story, takeLoad());
         writeTable(m_story, table);
         m_isAfterTable = true;
+    }
+
+    /// A field that begins in the first entry and ends in the last.
+    void writeOne(const TableOfContents& contents, bool isLast) {
+        const RunProperties& look = m_story.state.styles.defaultStyle().run;
+        for (std::size_t i = 0; i < contents.entries.size(); ++i) {
+            const bool isLastEntry = i + 1 == contents.entries.size();
+            if (i == 0)
+                m_load.writeLead = [&, before = m_load.writeLead] {
+                    if (before)
+                        before();
+                    writeFieldStart(m_story.xml, fieldInstruction(contents), look, look);
+                };
+            if (isLastEntry)
+                m_load.writeTail = [&] { writeFieldEnd(m_story.xml, look, look); };
+            writeOne(contents.entries[i], isLast && isLastEntry);
+        }
     }
 
     void writeOne(const Paragraph& paragraph, bool isLast) {

@@ -5,15 +5,18 @@
 #include "write/docx/ParagraphXml.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane::write::docx {
 namespace {
 
 using namespace document;
 
-void writeBorders(XmlWriter& xml, const Borders& borders) {
+void writeBorders(XmlWriter& xml, Borders borders, CellSides sides) {
     if (borders == Borders{})
         return;
+    if (sides == CellSides::Mirrored)
+        std::swap(borders.left, borders.right);
     const XmlElement tcBorders(xml, "w:tcBorders");
     writeBorder(xml, "w:top", borders.top);
     writeBorder(xml, "w:left", borders.left);
@@ -45,26 +48,31 @@ void writeProperties(XmlWriter& xml, const PlacedCell& placed, Twips width, cons
     if (!placed.cell)
         return;
     const TableCell& cell = *placed.cell;
-    writeBorders(xml, cell.borders);
+    writeBorders(xml, cell.borders, defaults.sides);
     if (cell.shading)
         writeShading(xml, cell.shading);
-    const CellDefaults margins{cell.marginLeft, cell.marginRight, cell.marginTop, cell.marginBottom};
-    if (margins != defaults)
-        writeCellMargins(xml, "w:tcMar", margins);
+    if (const CellMargins margins = marginsOf(cell); margins != defaults.margins)
+        writeCellMargins(xml, "w:tcMar", margins, defaults.sides);
     writeAlignment(xml, cell);
 }
 
 } // namespace
 
-void writeCellMargins(XmlWriter& xml, std::string_view element, const CellDefaults& margins) {
+CellMargins marginsOf(const TableCell& cell) {
+    return {cell.marginTop, cell.marginLeft, cell.marginBottom, cell.marginRight};
+}
+
+void writeCellMargins(XmlWriter& xml, std::string_view element, CellMargins margins, CellSides sides) {
+    if (sides == CellSides::Mirrored)
+        std::swap(margins.left, margins.right);
     const XmlElement item(xml, element);
     const auto write = [&](std::string_view side, Twips value) {
         xml.leaf(side, {{"w:w", std::max(0, value.value)}, {"w:type", "dxa"}});
     };
-    write("w:top", margins.marginTop);
-    write("w:left", margins.marginLeft);
-    write("w:bottom", margins.marginBottom);
-    write("w:right", margins.marginRight);
+    write("w:top", margins.top);
+    write("w:left", margins.left);
+    write("w:bottom", margins.bottom);
+    write("w:right", margins.right);
 }
 
 void writeCell(Story& story, const PlacedCell& placed, Twips width, const CellDefaults& defaults) {

@@ -3,24 +3,14 @@
 #include "write/docx/LinkNames.h"
 #include "write/docx/RunXml.h"
 
+#include <algorithm>
+
+#include <fmt/format.h>
+
 namespace orvane::write::docx {
 namespace {
 
 using namespace document;
-
-std::string instructionOf(const Field& field) {
-    switch (field.code) {
-    case FieldCode::Page:
-        return " PAGE ";
-    case FieldCode::PageCount:
-        return " NUMPAGES ";
-    case FieldCode::TableOfContents:
-        return " TOC \\o \"1-9\" \\h \\z \\u ";
-    case FieldCode::PageReference:
-        return " PAGEREF " + bookmarkName(field.argument) + " \\h ";
-    }
-    return {};
-}
 
 template<typename Content>
 void writeRun(XmlWriter& xml, const RunProperties& look, const RunProperties& base, const Content& content) {
@@ -35,11 +25,29 @@ void writeMark(XmlWriter& xml, const char* type, const RunProperties& look, cons
 
 } // namespace
 
-void writeFieldStart(XmlWriter& xml, const Field& field, const RunProperties& look, const RunProperties& base) {
+std::string fieldInstruction(const Field& field) {
+    switch (field.code) {
+    case FieldCode::Page:
+        return " PAGE ";
+    case FieldCode::PageCount:
+        return " NUMPAGES ";
+    case FieldCode::PageReference:
+        return " PAGEREF " + bookmarkName(field.argument) + " \\h ";
+    }
+    return {};
+}
+
+std::string fieldInstruction(const TableOfContents& contents) {
+    return fmt::format(" TOC \\o \"{}-{}\" \\h \\z \\u ", std::clamp(contents.firstLevel, 1, 9),
+                       std::clamp(contents.lastLevel, 1, 9));
+}
+
+void writeFieldStart(XmlWriter& xml, const std::string& instruction, const RunProperties& look,
+                     const RunProperties& base) {
     writeMark(xml, "begin", look, base);
     writeRun(xml, look, base, [&] {
-        const XmlElement instruction(xml, "w:instrText", {{"xml:space", "preserve"}});
-        xml.text(instructionOf(field));
+        const XmlElement code(xml, "w:instrText", {{"xml:space", "preserve"}});
+        xml.text(instruction);
     });
     writeMark(xml, "separate", look, base);
 }

@@ -97,7 +97,7 @@ private:
     void writeOne(const Field& field) {
         closeRun();
         const RunProperties* look = firstLook(field.result);
-        writeFieldStart(m_xml, field, look ? *look : m_base, m_base);
+        writeFieldStart(m_xml, fieldInstruction(field), look ? *look : m_base, m_base);
         write(field.result);
         writeFieldEnd(m_xml, look ? *look : m_base, m_base);
     }

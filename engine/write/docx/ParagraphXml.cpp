@@ -72,6 +72,8 @@ void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoa
     writeInlines(story, inlines.first(breaks), style.run);
     writeLoad(story, load);
     writeInlines(story, inlines.subspan(breaks), style.run);
+    if (load.writeTail)
+        load.writeTail();
 }
 
 void writeThinParagraph(Story& story, const ParagraphLoad& load) {

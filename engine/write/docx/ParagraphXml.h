@@ -13,6 +13,7 @@ struct ParagraphLoad {
     std::vector<const document::Block*> floats;      ///< anchored in it
     const document::Section* endedSection = nullptr; ///< that it is the last of
     std::function<void()> writeLead;                 ///< runs before its own: a note's mark
+    std::function<void()> writeTail;                 ///< runs after its own: the end of a field
 };
 
 /// Writes w:p.

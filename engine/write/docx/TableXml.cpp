@@ -15,12 +15,15 @@ using namespace document;
 constexpr int kDeepestTable = 40;
 constexpr int kTallestRow = 31680;
 
-/// What most cells look like stands in the table's properties, so that only the others repeat it.
+/// The first cell's margins stand in the table's properties, so that only cells with others repeat them.
 CellDefaults defaultsOf(const Table& table) {
+    CellDefaults defaults{table.isRightToLeft ? CellSides::Mirrored : CellSides::AsSeen, {}};
     for (const TableRow& row : table.rows)
-        for (const TableCell& cell : row.cells)
-            return {cell.marginLeft, cell.marginRight, cell.marginTop, cell.marginBottom};
-    return {};
+        if (!row.cells.empty()) {
+            defaults.margins = marginsOf(row.cells.front());
+            break;
+        }
+    return defaults;
 }
 
 void writeTableProperties(XmlWriter& xml, const Table& table, const TableGrid& grid, const CellDefaults& defaults) {
@@ -34,7 +37,7 @@ void writeTableProperties(XmlWriter& xml, const Table& table, const TableGrid& g
     else
         xml.leaf("w:tblInd", {{"w:w", table.indent.value}, {"w:type", "dxa"}});
     xml.leaf("w:tblLayout", {{"w:type", "fixed"}});
-    writeCellMargins(xml, "w:tblCellMar", defaults);
+    writeCellMargins(xml, "w:tblCellMar", defaults.margins, defaults.sides);
 }
 
 void writeGrid(XmlWriter& xml, const TableGrid& grid) {

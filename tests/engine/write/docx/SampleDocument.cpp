@@ -141,7 +141,7 @@ private:
         add(styled("Heading1", {{Bookmark{"top"}}, words("Characters")}));
         add(characterParagraph());
         add(linkParagraph());
-        add(styled("TOC1", {words("Paragraphs"), {Tab{m_run}}, {pageReference("paragraphs")}}));
+        add(contents());
         add(styled("Heading2", {{Bookmark{"paragraphs"}}, words("Paragraphs")}));
         addParagraphs(blocks);
         add(styled("Heading2", {words("Lists")}));
@@ -219,6 +219,13 @@ private:
                       words("; again "),
                       {Link{{"https://example.org/a b?q=\u00FC#x", ""}, {outside}}},
                       words(".")});
+    }
+
+    TableOfContents contents() const {
+        const auto entry = [this](const std::string& heading, const std::string& bookmark) {
+            return styled("TOC1", {{Link{{"", bookmark}, {words(heading), {Tab{m_run}}, {pageReference(bookmark)}}}}});
+        };
+        return {1, 2, {entry("Characters", "top"), entry("Paragraphs", "paragraphs")}};
     }
 
     Field pageReference(const std::string& bookmark) const {
@@ -515,6 +522,8 @@ private:
         item.properties.isRightToLeft = true;
         Table table = smallTable();
         table.isRightToLeft = true;
+        for (TableRow& row : table.rows)
+            row.cells[0].borders.right = {BorderKind::Thick, EighthPoints(36), {0xC0, 0, 0}, 0};
         result.blocks = {{item}, {table}, {item}};
         return result;
     }
