@@ -23,7 +23,7 @@ public:
     void addDeflated(const std::string& name, const DeflatedBytes& bytes);
     /// Adds a file without compressing it: pictures are compressed already.
     void addStored(const std::string& name, const std::filesystem::path& file);
-    /// Writes everything and puts the file in its place.
+    /// Writes everything.
     void close();
 
 private:

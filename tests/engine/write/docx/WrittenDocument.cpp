@@ -2,27 +2,13 @@
 
 #include "write/docx/DocxWriter.h"
 
-#include <memory>
 #include <sstream>
 #include <stdexcept>
 
 #include <pugixml.hpp>
-#include <zip.h>
 
 namespace orvane::tests {
 namespace {
-
-std::string readEntry(zip_t* archive, const zip_stat_t& stat) {
-    const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> entry(zip_fopen_index(archive, stat.index, 0), zip_fclose);
-    std::string bytes(stat.size, '\0');
-    if (!entry || zip_fread(entry.get(), bytes.data(), bytes.size()) != static_cast<zip_int64_t>(bytes.size()))
-        throw std::runtime_error(std::string("cannot read ") + stat.name);
-    char rest = 0;
-    // The checksum is compared at the end of the data only.
-    if (zip_fread(entry.get(), &rest, 1) != 0)
-        throw std::runtime_error(std::string("damaged: ") + stat.name);
-    return bytes;
-}
 
 std::string printed(const pugi::xml_node& node) {
     std::ostringstream out;
@@ -31,20 +17,6 @@ std::string printed(const pugi::xml_node& node) {
 }
 
 } // namespace
-
-std::vector<ZipEntry> readZip(const std::filesystem::path& file) {
-    const std::unique_ptr<zip_t, void (*)(zip_t*)> archive(zip_open(file.c_str(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr),
-                                                           zip_discard);
-    if (!archive)
-        throw std::runtime_error("no zip file: " + file.string());
-    std::vector<ZipEntry> entries;
-    for (zip_int64_t i = 0; i < zip_get_num_entries(archive.get(), 0); ++i) {
-        zip_stat_t stat;
-        zip_stat_index(archive.get(), static_cast<zip_uint64_t>(i), 0, &stat);
-        entries.push_back({stat.name, readEntry(archive.get(), stat), stat.comp_method != ZIP_CM_STORE});
-    }
-    return entries;
-}
 
 WrittenDocument::WrittenDocument(const document::Document& document) {
     const PictureStore noPictures(m_folder.path());

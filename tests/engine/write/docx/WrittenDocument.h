@@ -4,22 +4,12 @@
 #include "base/PictureStore.h"
 #include "document/Document.h"
 #include "support/TemporaryFolder.h"
+#include "support/docx/ZipEntries.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
 namespace orvane::tests {
-
-/// One entry of a zip file.
-struct ZipEntry {
-    std::string name;
-    std::string bytes;
-    bool isCompressed = false;
-};
-
-/// The entries of a zip file, in order. Throws std::runtime_error for a file that is none.
-std::vector<ZipEntry> readZip(const std::filesystem::path& file);
 
 /// A document as writeDocx() wrote it, unpacked.
 class WrittenDocument {
