@@ -61,6 +61,10 @@ private:
         m_counts.picturesWritten += std::holds_alternative<Picture>(figure.content) ? 1 : 0;
     }
     void add(const Frame& frame) { add(frame.blocks); }
+    void add(const TableOfContents& contents) {
+        for (const Paragraph& entry : contents.entries)
+            add(entry);
+    }
 
     void add(const std::vector<Inline>& inlines) {
         for (const Inline& item : inlines)
