@@ -1,8 +1,10 @@
 #include "pdf/DocumentOpener.h"
 
 #include "base/Failure.h"
+#include "pdf/LostCatalog.h"
 
 #include <fstream>
+#include <iterator>
 #include <optional>
 
 #include <fmt/format.h>
@@ -78,9 +80,30 @@ bool isLockedOtherwise(const ::PDFDoc& document) {
     return encrypt.isDict() && !encrypt.dictLookup("Filter").isName("Standard");
 }
 
+bool hasPages(::PDFDoc& document) {
+    return document.isOk() && document.getNumPages() >= 1;
+}
+
+/// A second try at a damaged file, in memory. Nothing when that does not help either.
+std::optional<OpenDocument> repaired(const std::filesystem::path& file) {
+    constexpr std::uintmax_t kLargestRepaired = 512u << 20;
+    std::error_code error;
+    if (std::filesystem::file_size(file, error) > kLargestRepaired || error)
+        return std::nullopt;
+    std::ifstream stream(file, std::ios::binary);
+    auto rebuilt = withRebuiltCatalog(std::string(std::istreambuf_iterator<char>(stream), {}));
+    if (!rebuilt)
+        return std::nullopt;
+    OpenDocument open;
+    open.bytes = std::make_unique<std::string>(std::move(*rebuilt));
+    open.document = std::make_unique<::PDFDoc>(
+        new MemStream(open.bytes->data(), 0, static_cast<Goffset>(open.bytes->size()), ::Object(objNull)));
+    return hasPages(*open.document) ? std::optional(std::move(open)) : std::nullopt;
+}
+
 } // namespace
 
-std::unique_ptr<::PDFDoc> openDocument(const std::filesystem::path& file, const Passwords& passwords) {
+OpenDocument openDocument(const std::filesystem::path& file, const Passwords& passwords) {
     requireReadableFile(file);
     std::unique_ptr<::PDFDoc> document = tryOpen(file, std::nullopt);
     for (const std::string& password : candidates(passwords)) {
@@ -96,13 +119,16 @@ std::unique_ptr<::PDFDoc> openDocument(const std::filesystem::path& file, const 
                       fmt::format("{} is locked by other means than a password", file.string()));
     if (needsPassword(*document))
         throw Failure(FailureCode::UserPasswordNeeded, fmt::format("{} opens with a password", file.string()));
-    if (!document->isOk() || document->getNumPages() < 1)
+    if (!hasPages(*document)) {
+        if (auto open = repaired(file))
+            return std::move(*open);
         throw Failure(FailureCode::NotAPdf, fmt::format("{} is not a PDF, or damaged beyond repair", file.string()));
+    }
     if (!document->okToCopy())
         throw Failure(
             FailureCode::OwnerPasswordNeeded,
             fmt::format("the author of {} forbids taking its content out without the owner's password", file.string()));
-    return document;
+    return {nullptr, std::move(document)};
 }
 
 } // namespace orvane::pdf

@@ -171,13 +171,59 @@ void setSpaceWidth(Font& font, GfxFont& source) {
         const auto width = spaceOf8BitFont(simple);
         font.spaceWidth = width ? *width : font.isFixedPitch ? guessSpaceWidth(simple) * 2 : guessSpaceWidth(simple);
     }
+    if (font.isType3)
+        font.spaceWidth /= emOf(source);
     // Widths of composite fonts are known by code, not by meaning; the page's own blanks correct this (see
     // GlyphReader).
     if (font.spaceWidth < 0.05 || font.spaceWidth > 1.5)
         font.spaceWidth = 0.25;
 }
 
+/// Widths of a text face in thousandths of the em: letters of most faces are within a fifth of these. Source: the
+/// metrics of Times.
+constexpr std::array<int, 26> kSmallWidths{444, 500, 444, 500, 444, 333, 500, 500, 278, 278, 500, 278, 778,
+                                           500, 500, 500, 500, 333, 389, 278, 500, 500, 722, 500, 500, 444};
+constexpr std::array<int, 26> kCapitalWidths{722, 667, 667, 722, 611, 556, 722, 722, 333, 389, 722, 611, 889,
+                                             722, 722, 556, 722, 667, 556, 611, 722, 722, 944, 722, 722, 611};
+constexpr int kDigitWidth = 500;
+
+int usualWidthOf(unsigned character) {
+    if (character >= 'a' && character <= 'z')
+        return kSmallWidths[character - 'a'];
+    if (character >= 'A' && character <= 'Z')
+        return kCapitalWidths[character - 'A'];
+    return character >= '0' && character <= '9' ? kDigitWidth : 0;
+}
+
 } // namespace
+
+double emOf(const GfxFont& font) {
+    if (font.getType() != fontType3)
+        return 1;
+    const double byMatrix = std::abs(font.getFontMatrix()[3]) * kGlyphSpace;
+    if (byMatrix > 0.7 && byMatrix < 1.5)
+        return byMatrix;
+    double sum = 0;
+    double usualSum = 0;
+    for (int code = 0; code < 256; ++code) {
+        const char byte = static_cast<char>(code);
+        CharCode read = 0;
+        const Unicode* text = nullptr;
+        int length = 0;
+        double width = 0, dy = 0, originX = 0, originY = 0;
+        font.getNextChar(&byte, 1, &read, &text, &length, &width, &dy, &originX, &originY);
+        const int usual = length == 1 ? usualWidthOf(text[0]) : 0;
+        if (usual > 0 && width > 0) {
+            sum += width;
+            usualSum += usual / kGlyphSpace;
+        }
+    }
+    if (usualSum > 0)
+        return sum / usualSum;
+    // A font of signs only: its box is about as high as an em.
+    const double height = std::abs((font.getFontBBox()[3] - font.getFontBBox()[1]) * font.getFontMatrix()[3]);
+    return height > 0 ? height : byMatrix;
+}
 
 Font readFont(const GfxFont& source, XRef& xref) {
     Font font;

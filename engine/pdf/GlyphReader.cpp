@@ -23,9 +23,9 @@ struct TextFrame {
     double slant = 0;   ///< tangent of the letters' lean to the right
 };
 
-TextFrame textFrameOf(const GfxState& state, const Matrix& c, double glyphSpaceScale) {
+TextFrame textFrameOf(const GfxState& state, const Matrix& c) {
     const double* t = state.getTextMat();
-    const double size = state.getFontSize() * glyphSpaceScale;
+    const double size = state.getFontSize();
     const Point along{(c.a * t[0] + c.c * t[1]) * size * state.getHorizScaling(),
                       (c.b * t[0] + c.d * t[1]) * size * state.getHorizScaling()};
     const Point up{(c.a * t[2] + c.c * t[3]) * size, (c.b * t[2] + c.d * t[3]) * size};
@@ -105,6 +105,10 @@ void setPaint(Glyph& glyph, const GfxState& state) {
 
 } // namespace
 
+// Letters outside these sizes (points) are a slip of the writer's: no page is as large, no eye as sharp.
+constexpr double kLeastSize = 0.01;
+constexpr double kGreatestSize = 20000;
+
 std::uint32_t GlyphReader::fontIndex(const std::shared_ptr<GfxFont>& font, bool isSlanted) {
     const FontKey key{font.get(), isSlanted};
     const auto [entry, isNew] = m_fontIndices.try_emplace(key, static_cast<std::uint32_t>(m_page.fonts.size()));
@@ -113,6 +117,7 @@ std::uint32_t GlyphReader::fontIndex(const std::shared_ptr<GfxFont>& font, bool 
         Font facts = readFont(*font, m_xref);
         facts.isItalic |= isSlanted;
         m_page.fonts.push_back(std::move(facts));
+        m_ems.push_back(emOf(*font));
         m_hasSpaceWidth.push_back(false);
     }
     return entry->second;
@@ -136,14 +141,16 @@ void GlyphReader::read(const GfxState& state, const ShownCharacter& character, s
         return;
     // Tangent of a lean that makes a slanted face of an upright one; writers use 12 to 20 degrees.
     constexpr double kLeastSlant = 0.1;
-    const double glyphSpaceScale = font->getType() == fontType3 ? std::abs(font->getFontMatrix()[3]) * 1000 : 1;
-    const TextFrame frame = textFrameOf(state, character.toPage, glyphSpaceScale);
+    TextFrame frame = textFrameOf(state, character.toPage);
     const bool isSlanted = frame.slant > kLeastSlant;
     if (!m_isFontKnown || isSlanted != m_wasSlanted) {
         m_font = fontIndex(font, isSlanted);
         m_isFontKnown = true;
         m_wasSlanted = isSlanted;
     }
+    frame.size *= m_ems[m_font];
+    if (!(frame.size > kLeastSize && frame.size < kGreatestSize))
+        return;
     const Font& facts = m_page.fonts[m_font];
 
     Glyph glyph;

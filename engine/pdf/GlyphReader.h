@@ -59,6 +59,7 @@ private:
     XRef& m_xref;
     std::unordered_map<FontKey, std::uint32_t, FontKeyHash> m_fontIndices;
     std::vector<std::shared_ptr<GfxFont>> m_sources; ///< held, so that the keys' addresses are not used again
+    std::vector<double> m_ems;                       ///< of the page's fonts, see emOf()
     std::vector<bool> m_hasSpaceWidth;               ///< a font of the page, its blank's width seen
     bool m_isFontKnown = false;
     bool m_wasSlanted = false;

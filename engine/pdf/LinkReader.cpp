@@ -1,6 +1,7 @@
 #include "pdf/LinkReader.h"
 
 #include "pdf/PageSpace.h"
+#include "pdf/QuadReader.h"
 #include "pdf/TextString.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include <fmt/format.h>
 
 #include <Annot.h>
+#include <Catalog.h>
 #include <Link.h>
 #include <PDFDoc.h>
 #include <Page.h>
@@ -45,8 +47,27 @@ Destination resolve(const ::LinkDest& source, ::PDFDoc& document) {
     return destination;
 }
 
+/// The value of a name in the catalog's name tree, which the library does not look into when the file has the older
+/// dictionary of names as well.
+::Object lookUpInNameTree(const GooString& name, ::PDFDoc& document) {
+    const ::Object catalog = document.getXRef()->getCatalog();
+    const ::Object names = catalog.isDict() ? catalog.dictLookup("Names") : ::Object(objNull);
+    ::Object root = names.isDict() ? names.dictLookup("Dests") : ::Object(objNull);
+    if (!root.isDict())
+        return ::Object(objNull);
+    ::NameTree tree;
+    tree.init(document.getXRef(), &root);
+    ::Object value = tree.lookup(&name);
+    return value.isDict() ? value.dictLookup("D") : std::move(value);
+}
+
 Destination resolveName(const GooString& name, ::PDFDoc& document) {
-    const std::unique_ptr<::LinkDest> destination = document.findDest(&name);
+    std::unique_ptr<::LinkDest> destination = document.findDest(&name);
+    if (!destination) {
+        const ::Object value = lookUpInNameTree(name, document);
+        if (value.isArray())
+            destination = std::make_unique<::LinkDest>(value.getArray());
+    }
     return destination && destination->isOk() ? resolve(*destination, document) : Destination{};
 }
 
@@ -59,23 +80,13 @@ std::optional<Destination> resolveNamedAction(const std::string& name, ::PDFDoc&
     return std::nullopt;
 }
 
-std::vector<Rect> boxesOf(::AnnotLink& link, const Matrix& matrix) {
-    std::vector<Rect> boxes;
-    const auto addBox = [&](double x1, double y1, double x2, double y2) {
-        const Rect box = matrix.applyToBox({std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)});
-        if (!box.isEmpty())
-            boxes.push_back(box);
-    };
-    if (AnnotQuadrilaterals* quads = link.getQuadrilaterals())
-        for (int i = 0; i < quads->getQuadrilateralsLength(); ++i)
-            addBox(std::min({quads->getX1(i), quads->getX2(i), quads->getX3(i), quads->getX4(i)}),
-                   std::min({quads->getY1(i), quads->getY2(i), quads->getY3(i), quads->getY4(i)}),
-                   std::max({quads->getX1(i), quads->getX2(i), quads->getX3(i), quads->getX4(i)}),
-                   std::max({quads->getY1(i), quads->getY2(i), quads->getY3(i), quads->getY4(i)}));
-    if (boxes.empty()) {
-        const PDFRectangle& rect = link.getRect();
-        addBox(rect.x1, rect.y1, rect.x2, rect.y2);
-    }
+/// One box a line where the file tells, else the annotation's own.
+std::vector<Rect> boxesOf(const ::AnnotLink& link, const Matrix& toPage) {
+    std::vector<Rect> boxes = quadBoxes(link.getQuadrilaterals(), toPage);
+    const PDFRectangle& rect = link.getRect();
+    const Rect box = toPage.applyToBox({rect.x1, rect.y1, rect.x2, rect.y2});
+    if (boxes.empty() && !box.isEmpty())
+        boxes.push_back(box);
     return boxes;
 }
 

@@ -2,6 +2,7 @@
 
 #include "pdf/NamedMarks.h"
 #include "pdf/PageSpace.h"
+#include "pdf/SurplusRestores.h"
 
 #include <memory>
 #include <string>
@@ -32,14 +33,18 @@ std::string joinedContent(const ::Object& contents) {
     return joined;
 }
 
-void playContent(::Page& page, ::Gfx& gfx) {
+void playContent(::Page& page, ::Gfx& gfx, ContentRepair repair) {
     ::Object contents = page.getContents();
     if (contents.isNull())
         return;
     std::string rewritten; // lives as long as the stream that reads it
     const ::Object named = page.getResourceDict() ? page.getResourceDict()->lookup("Properties") : ::Object(objNull);
-    if (named.isDict()) {
-        rewritten = withNamedMarks(joinedContent(contents), *named.getDict());
+    if (named.isDict() || repair != ContentRepair::None) {
+        rewritten = joinedContent(contents);
+        if (repair == ContentRepair::SurplusRestores)
+            rewritten = withoutSurplusRestores(rewritten);
+        if (named.isDict())
+            rewritten = withNamedMarks(rewritten, *named.getDict());
         ::Stream* stream = new MemStream(rewritten.data(), 0, static_cast<Goffset>(rewritten.size()),
                                          ::Object(new ::Dict(gfx.getXRef())));
         contents = ::Object(stream);
@@ -69,11 +74,11 @@ bool isPartOfPage(::Annot* annotation, void*) {
     }
 }
 
-void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget) {
+void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair) {
     const double dpi = 72.0 * userUnitOf(page);
     const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, -1, -1, -1, -1, false,
                                                     &TimeBudget::isSpent, &budget, document.getXRef()));
-    playContent(page, *gfx);
+    playContent(page, *gfx, repair);
     if (::Annots* annotations = page.getAnnots())
         for (::Annot* annotation : annotations->getAnnots())
             if (isPartOfPage(annotation, nullptr) && !budget.isSpent())

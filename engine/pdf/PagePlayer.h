@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 
 class Annot;
 class OutputDev;
@@ -31,7 +32,10 @@ private:
 /// marks on the text, notes and links are told apart from the content. Signature of the library's callback.
 bool isPartOfPage(::Annot* annotation, void* unused);
 
+/// How a page's content is taken: as it stands, or without restores of states that were never saved.
+enum class ContentRepair : std::uint8_t { None, SurplusRestores };
+
 /// Interprets a page's content and the annotations that are part of it on a device whose space is page space.
-void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget);
+void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair);
 
 } // namespace orvane::pdf

@@ -1,8 +1,11 @@
 #include "pdf/PdfDocument.h"
 
-#include "base/Failure.h"
+#include "pdf/AccentComposer.h"
+#include "pdf/AnnotationReader.h"
 #include "pdf/DocumentMetadata.h"
 #include "pdf/DocumentOpener.h"
+#include "pdf/DoublePainting.h"
+#include "pdf/FormReader.h"
 #include "pdf/LinkReader.h"
 #include "pdf/OutlineReader.h"
 #include "pdf/PagePlayer.h"
@@ -38,13 +41,32 @@ void tellComplaints(const ComplaintCollector& complaints, int page, Diagnostics&
 } // namespace
 
 struct PdfDocument::Impl {
+    std::unique_ptr<std::string> bytes;
     std::unique_ptr<::PDFDoc> document;
     PictureCache pictures;
     UnicodeRepair unicode;
 
-    explicit Impl(std::unique_ptr<::PDFDoc> opened)
-        : document(std::move(opened))
+    explicit Impl(OpenDocument open)
+        : bytes(std::move(open.bytes))
+        , document(std::move(open.document))
         , unicode(*document->getXRef()) {}
+
+    /// What the page's content paints, in its final form.
+    PageContent play(::Page& page, const PageReadOptions& options, Diagnostics& diagnostics, TimeBudget& budget,
+                     ContentRepair repair) {
+        PageContent content;
+        const Rect box = pageBox(page);
+        content.number = page.getNum();
+        content.width = box.width();
+        content.height = box.height();
+        content.rotation = page.getRotate();
+        PageReader reader({*document, content, pictures, options.pictures, diagnostics, budget});
+        playPage(page, *document, reader, budget, repair);
+        unicode.repair(content, reader.glyphs().sources(), diagnostics);
+        dropDoublePaintedGlyphs(content);
+        composeAccents(content);
+        return content;
+    }
 
     ::Page* page(int number) {
         return number >= 1 && number <= document->getNumPages() ? document->getPage(number) : nullptr;
@@ -107,23 +129,24 @@ PageInfo PdfDocument::pageInfo(int number) const {
 }
 
 PageContent PdfDocument::readPage(int number, const PageReadOptions& options, Diagnostics& diagnostics) const {
-    const ComplaintCollector complaints;
-    PageContent content;
-    content.number = number;
     ::Page* page = m_impl->page(number);
     if (!page || !page->isOk()) {
         diagnostics.add(DiagnosticKind::PageUnreadable, number, "the page cannot be read");
+        PageContent content;
+        content.number = number;
         return content;
     }
-    const Rect box = pageBox(*page);
-    content.width = box.width();
-    content.height = box.height();
-    content.rotation = page->getRotate();
-
+    const ComplaintCollector complaints;
     TimeBudget budget(kPageTimeBudget);
-    PageReader reader({*m_impl->document, content, m_impl->pictures, options.pictures, diagnostics, budget});
-    playPage(*page, *m_impl->document, reader, budget);
-    m_impl->unicode.repair(content, reader.glyphs().sources(), diagnostics);
+    Diagnostics own;
+    PageContent content = m_impl->play(*page, options, own, budget, ContentRepair::None);
+    if (complaints.hasSurplusRestore()) {
+        own = Diagnostics();
+        content = m_impl->play(*page, options, own, budget, ContentRepair::SurplusRestores);
+    }
+    diagnostics.append(own);
+    content.annotations = readAnnotations(*page);
+    content.fields = readFormFields(*page);
     content.links = readLinks(*page, *m_impl->document, diagnostics);
 
     if (budget.isSpent())

@@ -1,5 +1,7 @@
 #include "pdf/PopplerRuntime.h"
 
+#include "pdf/SurplusRestores.h"
+
 #include <memory>
 #include <mutex>
 
@@ -39,6 +41,7 @@ ComplaintCollector::~ComplaintCollector() {
 void ComplaintCollector::add(const char* message) {
     if (m_count++ == 0)
         m_first = message;
+    m_hasSurplusRestore = m_hasSurplusRestore || isSurplusRestore(message);
 }
 
 } // namespace orvane::pdf

@@ -18,6 +18,8 @@ public:
     /// How many faults were met that may change the result; warnings are not counted.
     int count() const { return m_count; }
     const std::string& first() const { return m_first; }
+    /// A Q without a q was among them; see SurplusRestores.h.
+    bool hasSurplusRestore() const { return m_hasSurplusRestore; }
 
     /// Called by the library's error callback.
     void add(const char* message);
@@ -25,6 +27,7 @@ public:
 private:
     int m_count = 0;
     std::string m_first;
+    bool m_hasSurplusRestore = false;
     ComplaintCollector* m_outer;
 };
 

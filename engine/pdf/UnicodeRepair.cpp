@@ -70,29 +70,6 @@ bool isUnmapped(const GfxFont& font) {
     return !collection || collection->toStr().ends_with("-Identity") || collection->toStr().ends_with("-UCS");
 }
 
-/// A map that gives all codes the same character is a placeholder.
-bool saysOneThing(const GfxFont& font, const EmbeddedCharacters& program) {
-    constexpr std::size_t kLeastCodes = 4;
-    std::u32string first;
-    std::size_t count = 0;
-    const auto isOther = [&](std::uint32_t code) {
-        const std::u32string given = givenMeaning(font, code);
-        if (given.empty())
-            return false;
-        if (count++ == 0)
-            first = given;
-        return given != first;
-    };
-    if (!font.isCIDFont()) {
-        for (std::uint32_t code = 0; code < 256; ++code)
-            if (isOther(code))
-                return false;
-    } else if (std::any_of(program.codes().begin(), program.codes().end(), isOther)) {
-        return false;
-    }
-    return count >= kLeastCodes;
-}
-
 /// A map that is off by one number against the embedded program gives glyph numbers for characters.
 bool isShifted(const GfxFont& font, const EmbeddedCharacters& program) {
     constexpr std::size_t kLeastCodes = 8;
@@ -138,7 +115,8 @@ public:
     void findOut() {
         const bool isMapped = !isUnmapped(m_font) && !repeatsCodes();
         m_hasUsualOrder = !isMapped && isUsualOrderLikelier();
-        const bool doubtGiven = !isMapped || (m_font.hasToUnicodeCMap() && looksDoubtful() && isLying());
+        const bool doubtGiven =
+            !isMapped || (m_font.hasToUnicodeCMap() && (saysOneThing() || (hasFewSmallLetters() && isLying())));
         for (auto& [code, meaning] : m_meanings)
             findOut(code, meaning, doubtGiven);
     }
@@ -252,23 +230,29 @@ private:
         return plainAsOrder > plainAsGiven || (plainAsOrder == plainAsGiven && !isGivenSayable);
     }
 
-    /// A cheap look before the program is opened: a placeholder repeats itself, and text that is off by a number has
-    /// hardly a small letter.
-    bool looksDoubtful() const {
-        std::size_t small = 0;
-        std::size_t asFirst = 0;
-        for (const auto& entry : m_meanings) {
-            const std::u32string& given = entry.second.given;
-            small += given.size() == 1 && given[0] >= 'a' && given[0] <= 'z' ? 1 : 0;
-            asFirst += given == m_meanings.begin()->second.given ? 1 : 0;
-        }
-        return small * 4 < m_meanings.size() || (asFirst > 1 && asFirst == m_meanings.size());
+    /// A map that gives all codes the same character is a placeholder.
+    bool saysOneThing() const {
+        constexpr std::size_t kLeastCodes = 4;
+        if (m_meanings.size() < kLeastCodes)
+            return false;
+        const std::u32string& first = m_meanings.begin()->second.given;
+        return std::all_of(m_meanings.begin(), m_meanings.end(),
+                           [&](const auto& entry) { return entry.second.given == first; });
+    }
+
+    /// A cheap look before the program is opened: text that is off by a number has hardly a small letter.
+    bool hasFewSmallLetters() const {
+        const auto isSmall = [](const auto& entry) {
+            return entry.second.given.size() == 1 && entry.second.given[0] >= 'a' && entry.second.given[0] <= 'z';
+        };
+        return static_cast<std::size_t>(std::count_if(m_meanings.begin(), m_meanings.end(), isSmall)) * 4 <
+               m_meanings.size();
     }
 
     bool isLying() {
         std::optional<bool>& known = knowledge().isLying;
         if (!known)
-            known = saysOneThing(m_font, program()) || isShifted(m_font, program());
+            known = isShifted(m_font, program());
         return *known;
     }
 

@@ -1,0 +1,226 @@
+#include "ReadPages.h"
+
+#include "pdf/GlyphName.h"
+#include "pdf/PopplerRuntime.h"
+#include "pdf/SymbolFont.h"
+#include "pdf/TextString.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::pdf {
+namespace {
+
+using tests::PdfBuilder;
+using tests::PdfPage;
+using tests::pdfRef;
+
+/// A ToUnicode map of single codes of `digits` hexadecimal digits.
+std::string toUnicode(const std::string& lines, int count, const std::string& range) {
+    return "/CIDInit /ProcSet findresource begin 12 dict begin begincmap /CMapName /Test def 1 begincodespacerange " +
+           range + " endcodespacerange " + std::to_string(count) + " beginbfchar\n" + lines +
+           "endbfchar endcmap end end";
+}
+
+/// A page that shows `shown` in a font of its own.
+std::string textIn(PdfBuilder& builder, const std::string& font, const std::string& shown) {
+    const int number = builder.add(font);
+    OpenedPdf pdf(
+        builder.page(PdfPage{"BT /E1 20 Tf 50 500 Td " + shown + " Tj ET", 612, 792, {}, {}, "/E1 " + pdfRef(number)}));
+    return textOf(pdf.page());
+}
+
+TEST(Unicode, FollowsTheFilesOwnMap) {
+    PdfBuilder builder;
+    const int map = builder.addStream("", toUnicode("<41> <00660069> <42> <D83DDE00> <43> <FB03>\n", 3, "<00> <FF>"));
+    EXPECT_EQ(textIn(builder, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /ToUnicode " + pdfRef(map) + " >>",
+                     "(ABC)"),
+              "fi😀ffi")
+        << "several characters, one beyond the basic plane, and a ligature in full";
+}
+
+TEST(Unicode, IsFoundByTheNamesOfGlyphsWhereTheMapIsSilent) {
+    PdfBuilder builder;
+    const int map =
+        builder.addStream("", toUnicode("<41> <FFFD> <42> <E001> <43> <0003> <44> <0041>\n", 4, "<00> <FF>"));
+    const std::string font =
+        "<< /Type /Font /Subtype /Type1 /BaseFont /Unknown /ToUnicode " + pdfRef(map) +
+        " /Encoding << /Type /Encoding /Differences [65 /eacute /uni0416 /f_f_i /B] >> /FirstChar 65 /LastChar 68 "
+        "/Widths [500 500 500 500] >>";
+    const int number = builder.add(font);
+    OpenedPdf pdf(
+        builder.page(PdfPage{"BT /E1 20 Tf 50 500 Td (ABCD) Tj ET", 612, 792, {}, {}, "/E1 " + pdfRef(number)}));
+    const PageContent page = pdf.page();
+    EXPECT_EQ(textOf(page), "éЖffiA") << "the map is believed where it says something";
+    ASSERT_EQ(page.glyphs.size(), 4u);
+    EXPECT_TRUE(page.glyphs[0].isUnicodeGuessed);
+    EXPECT_FALSE(page.glyphs[3].isUnicodeGuessed);
+    EXPECT_EQ(pdf.count(DiagnosticKind::TextRepaired), 1) << "one for the font";
+}
+
+TEST(Unicode, OfAMapThatSaysOneThingForAllIsNotBelieved) {
+    PdfBuilder builder;
+    const int map = builder.addStream(
+        "", toUnicode("<41> <0020> <42> <0020> <43> <0020> <44> <0020> <45> <0020>\n", 5, "<00> <FF>"));
+    EXPECT_EQ(textIn(builder,
+                     "<< /Type /Font /Subtype /Type1 /BaseFont /Unknown /ToUnicode " + pdfRef(map) +
+                         " /Encoding /WinAnsiEncoding /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
+                     "(ABCDE)"),
+              "ABCDE");
+}
+
+TEST(Unicode, OfGlyphNumbersFollowsTheUsualOrder) {
+    PdfBuilder builder;
+    const std::string descendant =
+        "<< /Type /Font /Subtype /CIDFontType2 /BaseFont /Arial /CIDSystemInfo << /Registry (Adobe) /Ordering "
+        "(Identity) /Supplement 0 >> /DW 500 >>";
+    const int child = builder.add(descendant);
+    // Glyphs 43, 72, 79, 79, 82: "Hello" in the order of most TrueType fonts.
+    EXPECT_EQ(textIn(builder,
+                     "<< /Type /Font /Subtype /Type0 /BaseFont /Arial /Encoding /Identity-H /DescendantFonts [" +
+                         pdfRef(child) + "] >>",
+                     "<002B0048004F004F0052>"),
+              "Hello");
+}
+
+TEST(Unicode, OfSignFontsIsWhatIsSeen) {
+    struct Row {
+        const char* font;
+        const char* code;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"Wingdings", "(l)", "●"},        {"Wingdings", "(\\247)", "▪"},
+        {"Wingdings", "(\\330)", "➢"},    {"Wingdings-Regular", "(\\374)", "✓"},
+        {"ABCDEF+Wingdings", "(n)", "■"}, {"Symbol", "(a)", "α"},
+        {"Symbol", "(\\267)", "•"},       {"SymbolMT", "(\\256)", "→"},
+        {"ZapfDingbats", "(4)", "✔"},     {"ZapfDingbats", "(n)", "■"},
+    };
+    for (const Row& row : rows) {
+        PdfBuilder builder;
+        EXPECT_EQ(textIn(
+                      builder,
+                      std::string("<< /Type /Font /Subtype /TrueType /BaseFont /") + row.font +
+                          " /FirstChar 32 /LastChar 255 /Widths [" +
+                          [] {
+                              std::string w;
+                              for (int i = 32; i < 256; ++i)
+                                  w += "600 ";
+                              return w;
+                          }() +
+                          "] >>",
+                      row.code),
+                  row.expected)
+            << row.font << row.code;
+    }
+}
+
+TEST(Unicode, OfPrivateBulletsIsABullet) {
+    PdfBuilder builder;
+    const int map = builder.addStream("", toUnicode("<41> <F0B7> <42> <F0A7> <43> <F041>\n", 3, "<00> <FF>"));
+    EXPECT_EQ(textIn(builder,
+                     "<< /Type /Font /Subtype /TrueType /BaseFont /Unknown /ToUnicode " + pdfRef(map) +
+                         " /FirstChar 65 /LastChar 67 /Widths [500 500 500] >>",
+                     "(ABC)"),
+              "•▪A");
+}
+
+TEST(Unicode, ThatStaysUnknownIsEmptyAndTold) {
+    PdfBuilder builder;
+    const int glyph = builder.addStream("", "500 0 0 0 500 700 d1 0 0 500 700 re f");
+    const int map = builder.addStream("", toUnicode("<41> <FFFD>\n", 1, "<00> <FF>"));
+    const int number = builder.add(
+        "<< /Type /Font /Subtype /Type3 /ToUnicode " + pdfRef(map) +
+        " /FontBBox [0 0 500 700] /FontMatrix [0.001 0 0 0.001 0 0] /CharProcs << /zzsign " + pdfRef(glyph) +
+        " >> /Encoding << /Differences [65 /zzsign] >> /FirstChar 65 /LastChar 65 /Widths [500] >>");
+    OpenedPdf pdf(
+        builder.page(PdfPage{"BT /E1 20 Tf 50 500 Td (AA) Tj ET", 612, 792, {}, {}, "/E1 " + pdfRef(number)}));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.glyphs.size(), 2u);
+    EXPECT_TRUE(page.glyphs[0].unicode.empty());
+    EXPECT_EQ(pdf.count(DiagnosticKind::TextUnmapped), 1);
+}
+
+TEST(Unicode, OfAccentsPaintedAloneJoinsTheirLetters) {
+    // In TeX's way: the accent, back by its width and half the difference, then the letter.
+    PdfBuilder builder;
+    const int number = builder.add(
+        "<< /Type /Font /Subtype /Type1 /BaseFont /CMR10 /Encoding << /Differences [1 /acute /dieresis /dotlessi] >> "
+        "/FirstChar 1 /LastChar 101 /Widths [" +
+        [] {
+            std::string w;
+            for (int i = 1; i < 102; ++i)
+                w += "500 ";
+            return w;
+        }() +
+        "] >>");
+    OpenedPdf pdf(builder.page(PdfPage{"BT /E1 10 Tf 50 500 Td [<01> 500 (e) <02> 500 <03> (a) 500 <02>] TJ ET "
+                                       "BT /E1 10 Tf 50 400 Td [(e) <01> (a)] TJ ET",
+                                       612,
+                                       792,
+                                       {},
+                                       {},
+                                       "/E1 " + pdfRef(number)}));
+    EXPECT_EQ(textOf(pdf.page()), "éïäe´a") << "an accent between letters is left alone";
+}
+
+TEST(Unicode, OfGlyphNamesFollowsTheirRules) {
+    preparePoppler();
+    struct Row {
+        const char* name;
+        const char32_t* expected;
+    };
+    const Row rows[] = {
+        {"A", U"A"},
+        {"eacute", U"é"},
+        {"uni20AC", U"€"},
+        {"uni00410042", U"AB"},
+        {"u1F600", U"😀"},
+        {"a.sc", U"a"},
+        {"f_f_i", U"ffi"},
+        {"ffl", U"ffl"},
+        {".notdef", U""},
+        {"g32", U""},
+        {"uniD800", U""},
+        {"braceleftBigg", U"{"},
+        {"summationdisplay", U"∑"},
+        {"parenleftbig", U"("},
+        {"copyrightserif", U"©"},
+        {"sevenoldstyle", U"7"},
+        {"", U""},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(textOfGlyphName(row.name), row.expected) << row.name;
+}
+
+TEST(Unicode, OfSignFontsIsFoundByTheWholeName) {
+    EXPECT_EQ(symbolFontOf("Symbol"), SymbolFont::Symbol);
+    EXPECT_EQ(symbolFontOf("Symbol,Bold"), SymbolFont::Symbol);
+    EXPECT_EQ(symbolFontOf("ITC Zapf Dingbats"), SymbolFont::ZapfDingbats);
+    EXPECT_EQ(symbolFontOf("Wingdings-Regular"), SymbolFont::Wingdings);
+    EXPECT_EQ(symbolFontOf("Wingdings3"), SymbolFont::Wingdings3);
+    EXPECT_EQ(symbolFontOf("SegoeUISymbol"), std::nullopt);
+    EXPECT_EQ(symbolFontOf("Arial"), std::nullopt);
+}
+
+TEST(TextString, BecomesUtf8) {
+    EXPECT_EQ(textFromPdf(std::string("plain")), "plain");
+    EXPECT_EQ(textFromPdf(std::string("\x92\xE9\xA0")), "™é€") << "PDFDocEncoding";
+    EXPECT_EQ(textFromPdf(std::string("\xFE\xFF\xD8\x3D\xDE\x00", 6)), "😀");
+    EXPECT_EQ(textFromPdf(std::string("\xFF\xFE\x41\x00", 4)), "A");
+    EXPECT_EQ(textFromPdf(std::string("\xEF\xBB\xBFé")), "é");
+    EXPECT_EQ(textFromPdf(std::string("a\rb\x01")), "a\nb") << "control characters but line breaks are dropped";
+    EXPECT_EQ(textFromPdf(std::string("\xFE\xFF\x00\x1B\x00\x65\x00\x6E\x00\x1B\x00\x41", 12)), "A")
+        << "a language code is no text";
+}
+
+TEST(TextString, ReadsDates) {
+    EXPECT_EQ(isoDateFromPdf("D:20240229235958Z"), "2024-02-29T23:59:58Z");
+    EXPECT_EQ(isoDateFromPdf("D:20240229235958-05'30'"), "2024-02-29T23:59:58-05:30");
+    EXPECT_EQ(isoDateFromPdf("D:202402"), "2024-02-01T00:00:00Z");
+    EXPECT_EQ(isoDateFromPdf("20240229"), "2024-02-29T00:00:00Z");
+    EXPECT_EQ(isoDateFromPdf("yesterday"), "");
+    EXPECT_EQ(isoDateFromPdf("D:20241399"), "");
+}
+
+} // namespace
+} // namespace orvane::pdf
