@@ -1,5 +1,7 @@
 #include "settings/DefaultSettings.h"
 
+#include "services/SystemProbes.h"
+
 #include <QDir>
 
 void SetDefaultSettings(SharedRecords& records) {
@@ -7,8 +9,7 @@ void SetDefaultSettings(SharedRecords& records) {
     settings.intLanguageID = 0;
     settings.intLauchMs = 2;
     settings.intOutputPath = 0;
-    // DOCX is the one format that the engine writes so far, whatever word processor there is.
-    settings.intOutputFormat = 2;
+    settings.intOutputFormat = IsMSWordInstalled() == 1 ? 0 : 1;
     settings.intProgressWind = 1;
     settings.intUseWiz = 1;
     settings.intReconstMode = 3;

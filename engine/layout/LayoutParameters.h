@@ -8,199 +8,201 @@ namespace orvane::layout {
 struct LayoutParameters {
     /// GlyphFilter: what takes part in the text.
     struct Glyphs {
-        double minimumSize = 0.5;            ///< points; smaller text is no text for readers
-        double duplicateDistance = 0.15;     ///< of the font size; equal glyphs this close are one, painted again (shadows)
+        double minimumSize = 0.5;        ///< points; smaller text is no text for readers
+        double duplicateDistance = 0.15; ///< of the font size; equal glyphs this close are one, painted again (shadows)
         double duplicateAdvanceShare = 0.45; ///< of the advance; narrow letters may stand close ("ll")
         double duplicateMarkDistance = 0.02; ///< of the font size; the same for marks without advance
-        double samePlaceDistance = 0.003;    ///< of the font size; closer than this is the same place, which makes nothing bold
-        double fakeBoldDistance = 0.07;      ///< of the font size; an offset up to this thickens the strokes
-        double coverCell = 4;                ///< points; grain at which pictures and visible text are told to cover others
-        double scannedPageShare = 0.8;       ///< of the page; pictures that cover as much are a scan
+        double samePlaceDistance =
+            0.003; ///< of the font size; closer than this is the same place, which makes nothing bold
+        double fakeBoldDistance = 0.07; ///< of the font size; an offset up to this thickens the strokes
+        double coverCell = 4;           ///< points; grain at which pictures and visible text are told to cover others
+        double scannedPageShare = 0.8;  ///< of the page; pictures that cover as much are a scan
     } glyphs;
 
     /// FrameFinder: directions of writing.
     struct Frames {
-        double skewTolerance = 3;            ///< degrees; text this close to level or plumb is meant to be so
-        double smallestSkew = 0.05;          ///< degrees; less than this is not worth turning by
+        double skewTolerance = 3;   ///< degrees; text this close to level or plumb is meant to be so
+        double smallestSkew = 0.05; ///< degrees; less than this is not worth turning by
     } frames;
 
     /// ClusterBuilder: glyphs that cannot be parted.
     struct Clusters {
-        double sizeStep = 0.1;               ///< points; font sizes are rounded to this, as the file's arithmetic blurs them
-        double scaleStep = 0.01;             ///< of the natural width
-        int boldWeight = 600;                ///< font weight from which on text is bold
-        double markRise = 0.5;               ///< of the font size; how far a mark's baseline may be off its letter's
-        double markReach = 0.3;              ///< of the font size; how far beside its letter a mark may be placed
-        double markTie = 0.05;               ///< of the font size; below this difference a mark goes with the letter before it
-        double accentOverlap = 0.5;          ///< of the narrower one; a spacing accent over this much of a letter belongs to it
+        double sizeStep = 0.1;      ///< points; font sizes are rounded to this, as the file's arithmetic blurs them
+        double scaleStep = 0.01;    ///< of the natural width
+        int boldWeight = 600;       ///< font weight from which on text is bold
+        double markRise = 0.5;      ///< of the font size; how far a mark's baseline may be off its letter's
+        double markReach = 0.3;     ///< of the font size; how far beside its letter a mark may be placed
+        double markTie = 0.05;      ///< of the font size; below this difference a mark goes with the letter before it
+        double accentOverlap = 0.5; ///< of the narrower one; a spacing accent over this much of a letter belongs to it
     } clusters;
 
     /// TextStrip and RowBuilder: clusters on one baseline.
     struct Rows {
-        double stripRise = 0.05;             ///< of the font size; clusters of a strip share a baseline within this
-        double stripSizeChange = 0.05;       ///< of the font size
-        double stripBackstep = 0.5;          ///< of the font size; how far a cluster may begin before the end of the last one
-        double stripGap = 1.0;               ///< of the font size; a wider jump begins a new strip
-        double baselineTolerance = 0.2;      ///< of the font size; strips this close in height stand on one row
-        double overprint = 0.3;              ///< of the narrower one; more overlap than this is text on top of text
-        double overprintSize = 0.3;          ///< of the font size; less overlap than this is kerning
+        double stripRise = 0.05;       ///< of the font size; clusters of a strip share a baseline within this
+        double stripSizeChange = 0.05; ///< of the font size
+        double stripBackstep = 0.5;    ///< of the font size; how far a cluster may begin before the end of the last one
+        double stripGap = 1.0;         ///< of the font size; a wider jump begins a new strip
+        double baselineTolerance = 0.2; ///< of the font size; strips this close in height stand on one row
+        double overprint = 0.3;         ///< of the narrower one; more overlap than this is text on top of text
+        double overprintSize = 0.3;     ///< of the font size; less overlap than this is kerning
     } rows;
 
     /// ScriptFinder: superscripts, subscripts and drop caps. Shares are of the host's font size unless said otherwise.
     struct Scripts {
-        double smallestRatio = 0.4;          ///< font size of the script against the host's; scripts of scripts are about 0.5
+        double smallestRatio = 0.4; ///< font size of the script against the host's; scripts of scripts are about 0.5
         double largestRatio = 0.92;
-        double leastRise = 0.12;             ///< of a superscript's baseline
+        double leastRise = 0.12; ///< of a superscript's baseline
         double greatestRise = 0.75;
-        double leastDrop = 0.05;             ///< of a subscript's baseline
+        double leastDrop = 0.05; ///< of a subscript's baseline
         double greatestDrop = 0.45;
-        double reachAfter = 0.45;            ///< gap between the host's end and a script after it; two scripts may follow each other
-        double reachBefore = 0.6;            ///< gap between a script and the host after it, as in "1 note"
-        double overlap = 0.25;               ///< how far they may overlap (slanted letters)
-        unsigned longestScript = 40;         ///< characters
-        std::size_t mostNeighbours = 400;    ///< strips looked at on each side
-        double dropCapRatio = 1.8;           ///< font size of a drop cap against its line's
-        double dropCapDepth = 0.9;           ///< how far its baseline lies below that of its first line
-        double dropCapGap = 1.2;             ///< between cap and line
-        double dropCapTop = 0.6;             ///< how far the tops of cap and first line may differ
-        double dropCapLeading = 1.2;         ///< baseline to baseline; to count the lines a cap stands over
-        unsigned dropCapLetters = 2;         ///< a quotation mark may stand before the letter
-        double capitalHeight = 0.7;          ///< of a font's own size
+        double reachAfter =
+            0.45; ///< gap between the host's end and a script after it; two scripts may follow each other
+        double reachBefore = 0.6;         ///< gap between a script and the host after it, as in "1 note"
+        double overlap = 0.25;            ///< how far they may overlap (slanted letters)
+        unsigned longestScript = 40;      ///< characters
+        std::size_t mostNeighbours = 400; ///< strips looked at on each side
+        double dropCapRatio = 1.8;        ///< font size of a drop cap against its line's
+        double dropCapDepth = 0.9;        ///< how far its baseline lies below that of its first line
+        double dropCapGap = 1.2;          ///< between cap and line
+        double dropCapTop = 0.6;          ///< how far the tops of cap and first line may differ
+        double dropCapLeading = 1.2;      ///< baseline to baseline; to count the lines a cap stands over
+        unsigned dropCapLetters = 2;      ///< a quotation mark may stand before the letter
+        double capitalHeight = 0.7;       ///< of a font's own size
     } scripts;
 
     /// WordBuilder: where words end. Shares "of the blank" are of the font's own blank.
     struct Words {
-        double stretchGap = 1.5;             ///< of the font size; letters across a wider gap need not be spaced alike
-        unsigned fewestLetterGaps = 3;       ///< gaps it takes to measure letter spacing
-        unsigned fewestSpacedLetters = 4;    ///< gaps it takes to believe in letters spaced as wide as blanks
-        double tightestSpacing = 0.5;        ///< of the blank; letter spacing up to this needs no further proof
-        double greatestCondensing = 0.3;     ///< of the font size; letters are not set tighter than this
-        double greatestBorrowedGap = 0.15;   ///< of the font size; letter spacing taken over from the rest of the row
-        double evenShare = 0.75;             ///< the middle half of letter-spaced gaps are alike...
-        double evenness = 0.35;              ///< ...within this share of their width
-        double blankShare = 0.2;             ///< of the blank; a painted blank that leaves less room than this is none
-        double gapAmongBlanks = 0.6;         ///< of the blank; ends a word where blanks are painted
-        double gapWithoutBlanks = 0.45;      ///< of the blank; ends a word where they are not
-        double scriptGap = 0.9;              ///< of the blank; between a script and its host
-        double eastAsianGap = 0.7;           ///< of the font size; between characters written without blanks
-        double overprint = 0.6;              ///< of the font size; a jump back this far begins another word
+        double stretchGap = 1.5;           ///< of the font size; letters across a wider gap need not be spaced alike
+        unsigned fewestLetterGaps = 3;     ///< gaps it takes to measure letter spacing
+        unsigned fewestSpacedLetters = 4;  ///< gaps it takes to believe in letters spaced as wide as blanks
+        double tightestSpacing = 0.5;      ///< of the blank; letter spacing up to this needs no further proof
+        double greatestCondensing = 0.3;   ///< of the font size; letters are not set tighter than this
+        double greatestBorrowedGap = 0.15; ///< of the font size; letter spacing taken over from the rest of the row
+        double evenShare = 0.75;           ///< the middle half of letter-spaced gaps are alike...
+        double evenness = 0.35;            ///< ...within this share of their width
+        double blankShare = 0.2;           ///< of the blank; a painted blank that leaves less room than this is none
+        double gapAmongBlanks = 0.6;       ///< of the blank; ends a word where blanks are painted
+        double gapWithoutBlanks = 0.45;    ///< of the blank; ends a word where they are not
+        double scriptGap = 0.9;            ///< of the blank; between a script and its host
+        double eastAsianGap = 0.7;         ///< of the font size; between characters written without blanks
+        double overprint = 0.6;            ///< of the font size; a jump back this far begins another word
     } words;
 
     /// TextAssembler: from spans to runs.
     struct Text {
-        double naturalScale = 0.02;      ///< of the natural width; glyphs stretched by less are taken as natural
+        double naturalScale = 0.02; ///< of the natural width; glyphs stretched by less are taken as natural
     } text;
 
     /// TabStopFinder.
     struct Tabs {
-        double edgeTolerance = 2.0;      ///< points; text that ends this near the column's edge was set against it
-        double centerTolerance = 2.0;    ///< points; likewise for its middle
-        double sameStop = 2.0;           ///< points; stops nearer to each other are one
+        double edgeTolerance = 2.0;   ///< points; text that ends this near the column's edge was set against it
+        double centerTolerance = 2.0; ///< points; likewise for its middle
+        double sameStop = 2.0;        ///< points; stops nearer to each other are one
     } tabs;
 
     /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
     struct Spacing {
-        double lowestMultiple = 0.7;     ///< line spacing below this is an exact height
-        double highestMultiple = 3.5;    ///< likewise above
-        double multipleTolerance = 0.012;///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
-        double smallestIndent = 1.0;     ///< points; less is noise
-        double sameGap = 0.6;            ///< points; gaps between paragraphs that differ by less are one
-        double largestGap = 250.0;       ///< points; what is more is an empty part of the page, not space after a paragraph
-        double usualShare = 0.25;        ///< of the gaps behind a style's paragraphs that must agree to be the style's
+        double lowestMultiple = 0.7;      ///< line spacing below this is an exact height
+        double highestMultiple = 3.5;     ///< likewise above
+        double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
+        double smallestIndent = 1.0;      ///< points; less is noise
+        double sameGap = 0.6;             ///< points; gaps between paragraphs that differ by less are one
+        double largestGap = 250.0; ///< points; what is more is an empty part of the page, not space after a paragraph
+        double usualShare = 0.25;  ///< of the gaps behind a style's paragraphs that must agree to be the style's
     } spacing;
 
     /// StyleMaker: what differs by less than this has the style's value.
     struct Styles {
-        double sameIndent = 1.0;         ///< points
-        double sameMultiple = 0.016;     ///< of single spacing
-        double sameHeight = 0.3;         ///< points; of lines of an exact height
+        double sameIndent = 1.0;     ///< points
+        double sameMultiple = 0.016; ///< of single spacing
+        double sameHeight = 0.3;     ///< points; of lines of an exact height
     } styles;
 
     /// FigureAssembler.
     struct Figures {
-        double alignmentTolerance = 3.0; ///< points; a picture this near to the middle or edge of its column was set there
+        double alignmentTolerance =
+            3.0; ///< points; a picture this near to the middle or edge of its column was set there
     } figures;
 
     /// TableAssembler.
     struct TableCells {
-        double usualMargin = 5.4;        ///< points; between a cell's edge and its text, unless less is seen
+        double usualMargin = 5.4; ///< points; between a cell's edge and its text, unless less is seen
     } tableCells;
-
 
     /// LeaderFinder: dots before page numbers.
     struct Leaders {
         unsigned fewestDots = 4;
-        double shortest = 1.5;               ///< of the font size; length of a leader
-        double widestGap = 1.5;              ///< of the font size; between two of its dots
-        double nextColumn = 3;               ///< of the font size; a gap that ends what the leader leads to
-        unsigned longestTarget = 16;         ///< characters of what it leads to
+        double shortest = 1.5;       ///< of the font size; length of a leader
+        double widestGap = 1.5;      ///< of the font size; between two of its dots
+        double nextColumn = 3;       ///< of the font size; a gap that ends what the leader leads to
+        unsigned longestTarget = 16; ///< characters of what it leads to
     } leaders;
 
     /// GutterFinder: where rows are cut into lines. Shares are of the row's font size.
     struct Gutters {
-        double wideGap = 0.7;                ///< two to three blanks; narrower gaps are never looked at
-        double wideAgainstUsual = 1.7;       ///< of the row's usual blank; justified text has wide blanks all along
-        unsigned fewestGaps = 3;             ///< gaps it takes to know the usual blank
-        double narrowest = 0.5;              ///< what neighbours must leave empty of the same gap
-        double alignment = 0.35;             ///< how far edges may be off to be aligned
-        double farthest = 2.6;               ///< distance of baselines between neighbours that bear witness
-        int neighbours = 4;                  ///< rows asked in each direction
-        int fewestWitnesses = 2;             ///< rows beside this one that leave the gap empty
-        double labelGap = 4;                 ///< between a list label and its text
-        unsigned longestLabel = 8;           ///< characters of a list label
-        double ruleSlack = 1;                ///< points; how far a rule between columns may touch the text
-        double ruleHeight = 0.4;             ///< how far above the baseline a rule must reach to stand in the row
+        double wideGap = 0.7;          ///< two to three blanks; narrower gaps are never looked at
+        double wideAgainstUsual = 1.7; ///< of the row's usual blank; justified text has wide blanks all along
+        unsigned fewestGaps = 3;       ///< gaps it takes to know the usual blank
+        double narrowest = 0.5;        ///< what neighbours must leave empty of the same gap
+        double alignment = 0.35;       ///< how far edges may be off to be aligned
+        double farthest = 2.6;         ///< distance of baselines between neighbours that bear witness
+        int neighbours = 4;            ///< rows asked in each direction
+        int fewestWitnesses = 2;       ///< rows beside this one that leave the gap empty
+        double labelGap = 4;           ///< between a list label and its text
+        unsigned longestLabel = 8;     ///< characters of a list label
+        double ruleSlack = 1;          ///< points; how far a rule between columns may touch the text
+        double ruleHeight = 0.4;       ///< how far above the baseline a rule must reach to stand in the row
     } gutters;
 
     /// RuleFinder and RuleMerger: lines drawn on the page.
     struct Rules {
-        double straightness = 0.5;           ///< points; how far the ends of a line may be off level
-        double thickest = 3.2;               ///< points; broader bars are grounds
-        double thinnest = 0.1;               ///< points; width given to hairlines
-        double slenderness = 2;              ///< length against width of a filled rectangle that is a rule
-        double sameLine = 0.4;               ///< points; pieces this close in position are on one line
-        double joinGap = 1.0;                ///< points; pieces this close continue each other
-        double widthChange = 0.3;            ///< points; pieces of one rule differ no more in width
-        double longestDash = 12;             ///< points; of a dash and of the gap between dashes
-        double dashEvenness = 0.25;          ///< how much dashes may differ
-        unsigned fewestDashes = 4;           ///< pieces in a row that are one dashed rule
-        double dotLength = 1.6;              ///< of the width; shorter dashes are dots
-        double doubleDistance = 3;           ///< points; between the middles of a double rule's lines
-        double doubleAgainstWidth = 1.2;     ///< of the width; closer lines are one broad one
-        double shortestDouble = 6;           ///< points
-        std::size_t pairReach = 64;          ///< rules looked at for the second one of a pair
-        double coverCell = 2;                ///< points; grain at which a white rectangle is told to lie on a ground
+        double straightness = 0.5;       ///< points; how far the ends of a line may be off level
+        double thickest = 3.2;           ///< points; broader bars are grounds
+        double thinnest = 0.1;           ///< points; width given to hairlines
+        double slenderness = 2;          ///< length against width of a filled rectangle that is a rule
+        double sameLine = 0.4;           ///< points; pieces this close in position are on one line
+        double joinGap = 1.0;            ///< points; pieces this close continue each other
+        double widthChange = 0.3;        ///< points; pieces of one rule differ no more in width
+        double longestDash = 12;         ///< points; of a dash and of the gap between dashes
+        double dashEvenness = 0.25;      ///< how much dashes may differ
+        unsigned fewestDashes = 4;       ///< pieces in a row that are one dashed rule
+        double dotLength = 1.6;          ///< of the width; shorter dashes are dots
+        double doubleDistance = 3;       ///< points; between the middles of a double rule's lines
+        double doubleAgainstWidth = 1.2; ///< of the width; closer lines are one broad one
+        double shortestDouble = 6;       ///< points
+        std::size_t pairReach = 64;      ///< rules looked at for the second one of a pair
+        double coverCell = 2;            ///< points; grain at which a white rectangle is told to lie on a ground
     } rules;
 
     /// TextDecoration: rules and grounds that belong to words. Shares are of the line's font size.
     struct Decoration {
-        double underlineTop = 0.02;          ///< an underline lies no higher above the baseline
-        double underlineReach = 0.28;        ///< nor farther below it
-        double strikeBottom = 0.15;          ///< a strike lies at least this far above the baseline
-        double strikeTop = 0.45;             ///< and no farther than this
-        double thickest = 0.16;              ///< width of an underline
-        double thickUnderline = 0.1;         ///< width from which on it is a thick one
-        double slack = 0.35;                 ///< how far it may begin or end off the words, a blank for instance
-        double borderReach = 1;              ///< points; a rule whose end meets a rule of the other direction is a border
-        double lowestHighlight = 0.8;        ///< height of a ground that highlights one line
+        double underlineTop = 0.02;   ///< an underline lies no higher above the baseline
+        double underlineReach = 0.28; ///< nor farther below it
+        double strikeBottom = 0.15;   ///< a strike lies at least this far above the baseline
+        double strikeTop = 0.45;      ///< and no farther than this
+        double thickest = 0.16;       ///< width of an underline
+        double thickUnderline = 0.1;  ///< width from which on it is a thick one
+        double slack = 0.35;          ///< how far it may begin or end off the words, a blank for instance
+        double borderReach = 1;       ///< points; a rule whose end meets a rule of the other direction is a border
+        double lowestHighlight = 0.8; ///< height of a ground that highlights one line
         double highestHighlight = 1.7;
-        double middleOfText = 0.3;           ///< height of the middle of letters above the baseline
-        double indexStep = 12;               ///< points; slices of the page in which things are looked for
+        double middleOfText = 0.3; ///< height of the middle of letters above the baseline
+        double indexStep = 12;     ///< points; slices of the page in which things are looked for
     } decoration;
 
     /// SpanBuilder: characters of one look.
     struct Spans {
-        double scaleChange = 0.02;           ///< of the natural width; less does not end a span
-        double leastSpacing = 0.015;         ///< of the font size; less is the rounding of positions
-        double spacingStep = 0.05;           ///< points; word processors' grain
+        double scaleChange = 0.02;   ///< of the natural width; less does not end a span
+        double leastSpacing = 0.015; ///< of the font size; less is the rounding of positions
+        double spacingStep = 0.05;   ///< points; word processors' grain
     } spans;
 
     /// FigureFinder: pictures and drawings.
     struct Pictures {
-        double smallest = 3;                 ///< points; the longer side of a picture that is no spacer
-        double leastCrop = 0.005;            ///< of a side; less is rounding
-        double tileGap = 0.75;               ///< points; strips and tiles of one picture lie this close
-        double backgroundShare = 0.85;       ///< of the page
+        double smallest = 3;           ///< points; the longer side of a picture that is no spacer
+        double leastCrop = 0.005;      ///< of a side; less is rounding
+        double tileGap = 0.75;         ///< points; strips and tiles of one picture lie this close
+        double backgroundShare = 0.85; ///< of the page
     } pictures;
 
     /// DocumentAnalyser: what most of the document looks like.
@@ -307,10 +309,10 @@ struct LayoutParameters {
             0.9; ///< of the font size; a line with less room beside it may be a full line by chance
         double leadingTolerance = 1.15;     ///< of the usual leading; lines farther apart have space between paragraphs
         double looseLeadingTolerance = 1.4; ///< likewise where the usual leading of this font size is only guessed
-        double maximumLeading = 3.0; ///< of the font size; lines farther apart are never of one paragraph
+        double maximumLeading = 3.0;        ///< of the font size; lines farther apart are never of one paragraph
         int leadingSamples = 3;      ///< line pairs that show a leading wider than the document's before it is believed
-        double sameRow = 0.3;               ///< of the font size; baselines closer than this stand on one row
-        double sizeChange = 1.1;            ///< ratio of font sizes from which lines look different
+        double sameRow = 0.3;        ///< of the font size; baselines closer than this stand on one row
+        double sizeChange = 1.1;     ///< ratio of font sizes from which lines look different
         double maximumFirstLine = 8; ///< of the font size; a deeper step of the left edge is no first-line indent
         int flushLines = 2;         ///< lines that must end at the edge before a shorter one ends a justified paragraph
         double stretchedGap = 1.06; ///< of the natural blank; wider gaps between words tell a justified line
@@ -323,12 +325,9 @@ struct LayoutParameters {
         double wideGutter = 1.5;   ///< of the font size; from here on few rows are enough to believe in it
         int minimumRows = 3;       ///< rows on each side of a wide gutter
         int minimumRowsNarrow = 6; ///< rows on each side of a narrow one: blanks of justified lines meet by chance
-        double minimumColumn = 8;        ///< of the font size; narrower columns are labels, not prose
-        double minimumFill = 0.55;       ///< share of the column that its rows cover; less is labels and values, not prose
+        double minimumColumn = 8;  ///< of the font size; narrower columns are labels, not prose
+        double minimumFill = 0.55; ///< share of the column that its rows cover; less is labels and values, not prose
         double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
-        double edgeShare = 0.04;   ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...
-        std::size_t edgeLines = 3; ///< ... but never more than so many
-        double edgeReach = 1.0;    ///< of the font size; lines that end this near to each other end at one edge
         int maximumDepth = 8;      ///< how often parts are parted again
         std::size_t maximumStrips = 200; ///< empty strips followed at once
     } regions;

@@ -1,6 +1,5 @@
 #include "layout/RegionFinder.h"
 
-#include "layout/ColumnEdges.h"
 #include "layout/ColumnSplitter.h"
 
 #include <algorithm>
@@ -11,9 +10,8 @@ namespace {
 /// Turns the tree of parts into the flat list of regions.
 class Flattener {
 public:
-    Flattener(const DocumentContext& context, const LayoutParameters::Regions& parameters)
-        : m_context(context)
-        , m_parameters(parameters) {}
+    explicit Flattener(const DocumentContext& context)
+        : m_context(context) {}
 
     PageRegions run(PagePart page) {
         if (page.kind == PagePart::Kind::Slices)
@@ -39,14 +37,14 @@ private:
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const std::size_t firstOfColumn = m_result.regions.size();
             addRegions(std::move(columns[i]), static_cast<int>(i));
-            std::vector<Line> lines;
+            ColumnSpan span{1e9, -1e9};
             for (std::size_t r = firstOfColumn; r < m_result.regions.size(); ++r) {
-                const Region& region = m_result.regions[r];
-                lines.insert(lines.end(), region.lines.begin(), region.lines.end());
-                band.top = std::min(band.top, region.box.top);
-                band.bottom = std::max(band.bottom, region.box.bottom);
+                const Rect& box = m_result.regions[r].box;
+                span = {std::min(span.left, box.left), std::max(span.right, box.right)};
+                band.top = std::min(band.top, box.top);
+                band.bottom = std::max(band.bottom, box.bottom);
             }
-            band.columns.push_back(findColumnEdges(lines, m_parameters));
+            band.columns.push_back(span);
         }
         if (band.columns.size() == 1)
             widenToTextArea(band.columns[0]);
@@ -65,7 +63,7 @@ private:
                 addRegions(std::move(child), column);
             // Columns within a column keep their own edges; slices share those of the column.
             for (std::size_t r = first; part.kind == PagePart::Kind::Columns && r < m_result.regions.size(); ++r)
-                m_result.regions[r].span = findColumnEdges(m_result.regions[r].lines, m_parameters);
+                m_result.regions[r].span = {m_result.regions[r].box.left, m_result.regions[r].box.right};
             return;
         }
         Region region;
@@ -98,7 +96,6 @@ private:
     }
 
     const DocumentContext& m_context;
-    const LayoutParameters::Regions& m_parameters;
     PageRegions m_result;
 };
 
@@ -110,7 +107,7 @@ PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, co
         return {};
     std::stable_sort(lines.begin(), lines.end(),
                      [](const Line& a, const Line& b) { return a.box.centerY() < b.box.centerY(); });
-    return Flattener(context, parameters.regions).run(splitIntoColumns(std::move(lines), walls, parameters));
+    return Flattener(context).run(splitIntoColumns(std::move(lines), walls, parameters));
 }
 
 } // namespace orvane::layout

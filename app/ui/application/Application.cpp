@@ -1,7 +1,9 @@
 #include "ui/application/Application.h"
 
 #include "platform/Environment.h"
-#include "settings/DefaultSettings.h"
+#include "services/SystemProbes.h"
+#include "services/WordProcessorSearch.h"
+#include "settings/SettingsFile.h"
 #include "ui/main/frmMain.h"
 #include "ui/progress/frmProgress.h"
 
@@ -9,7 +11,15 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <cstdio>
 #include <stdexcept>
+
+namespace {
+
+constexpr int kSettingsUnreadable = 1;
+constexpr std::int16_t kFormatDocx = 2;
+
+} // namespace
 
 Application::Application()
     : m_engines(platform::programFile().parent_path()) {}
@@ -20,11 +30,24 @@ int Application::run() {
     if (Main(m_records, SystemFolderSources(), *this) == AfterMain::EndProcess)
         return 0;
     listenForOtherCopies();
-    StartUp(m_records, *this);
+    lookForWordProcessor();
+    try {
+        StartUp(m_records, *this);
+    } catch (const SettingsUnreadable& error) {
+        reportUnreadableSettings(QString::fromStdString(error.what()));
+        return kSettingsUnreadable;
+    }
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [this] { m_forms.noteSystemShutdown(); });
     const int exitCode = QCoreApplication::exec();
     m_forms.dispose();
     return exitCode;
+}
+
+void Application::reportUnreadableSettings(const QString& reason) {
+    const QString text = "The settings file cannot be read:\n" + settingsFile(m_records) + "\n" + reason +
+                         "\n\nMend or remove the file, then start the program again.";
+    std::fputs((text + '\n').toLocal8Bit().constData(), stderr);
+    m_messageBox.tell(UserMessages::Icon::Critical, text, kWindowTitle);
 }
 
 void Application::listenForOtherCopies() {
@@ -47,12 +70,11 @@ void Application::activateApplication(const QString& title) {
 }
 
 void Application::LoadSettings() {
-    SetDefaultSettings(m_records);
+    ::LoadSettings(m_records);
 }
 
 int Application::IsMSWordInstalled() {
-    // Nothing looks for a word processor yet, and one that was not looked for counts as absent.
-    return 0;
+    return ::IsMSWordInstalled();
 }
 
 void Application::runLater(std::chrono::milliseconds delay, std::function<void()> step) {
@@ -64,6 +86,8 @@ QString Application::programCommandLine() const {
 }
 
 void Application::showMainWindow() {
+    // The engine writes DOCX only so far, so that is what this window makes, whatever is stored; it saves no settings.
+    m_records.settings.intOutputFormat = kFormatDocx;
     mainWindow()->showForm();
 }
 

@@ -45,6 +45,7 @@ public:
     void showFinishedDocument(const QString& path) override;
 
 private:
+    void reportUnreadableSettings(const QString& reason);
     void listenForOtherCopies();
     void startRun();
     void giveUpFile();

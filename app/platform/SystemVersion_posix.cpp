@@ -1,0 +1,9 @@
+#include "platform/SystemVersion.h"
+
+namespace platform {
+
+SystemVersion systemVersion() {
+    return {};
+}
+
+} // namespace platform

@@ -1,0 +1,131 @@
+#include "platform/Registry.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+
+/// What holds for every system's registry.
+namespace platform::registry {
+namespace {
+
+// Under the user's own hive, where every user may write on every system.
+constexpr Hive kHive = Hive::CurrentUser;
+const std::string kKey = "Software\\TavrelionTest";
+
+class Registry : public testing::Test {
+protected:
+    Registry() { setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1); }
+    ~Registry() override { unsetenv("XDG_CONFIG_HOME"); }
+
+    orvane::tests::TemporaryFolder folder;
+};
+
+Key made(const std::string& path) {
+    Key key = 0;
+    EXPECT_EQ(createKey(kHive, path, kAllAccess, key), kSuccess);
+    EXPECT_NE(key, 0u);
+    return key;
+}
+
+std::string readBack(const std::string& path, const std::string& name) {
+    Key key = 0;
+    EXPECT_EQ(openKey(kHive, path, kQueryValue, key), kSuccess);
+    Value value;
+    EXPECT_EQ(queryValue(key, name, value), kSuccess);
+    closeKey(key);
+    return value.bytes;
+}
+
+TEST_F(Registry, KeepsTheThreeTypes) {
+    const Key key = made(kKey);
+    const Value values[] = {
+        {kString, "text"}, {kExpandString, std::string("%PATH%\0", 7)}, {kDword, std::string("\x01\0\0\x80", 4)}};
+    for (const Value& value : values) {
+        EXPECT_EQ(setValue(key, "value", value), kSuccess);
+        Value stored;
+        EXPECT_EQ(queryValue(key, "value", stored), kSuccess);
+        EXPECT_EQ(stored.type, value.type);
+        EXPECT_EQ(stored.bytes, value.bytes);
+    }
+    closeKey(key);
+}
+
+TEST_F(Registry, KeepsEveryCharacterOfATextAndItsName) {
+    const Key key = made(kKey);
+    const std::string text = "C:\\a \"b\"\t\x7f[x]=\n";
+    EXPECT_EQ(setValue(key, "a \"name\"\\", {kString, text}), kSuccess);
+    closeKey(key);
+    EXPECT_EQ(readBack(kKey, "a \"name\"\\"), text);
+}
+
+TEST_F(Registry, NamesAreEqualWhateverTheirCase) {
+    const Key key = made(kKey + "\\Mixed\\Case");
+    EXPECT_EQ(setValue(key, "Name", {kString, "1"}), kSuccess);
+    closeKey(key);
+    EXPECT_EQ(readBack("software\\TAVRELIONTEST\\mixed\\cASE", "nAME"), "1");
+}
+
+TEST_F(Registry, MakingAKeyMakesItsParents) {
+    closeKey(made(kKey + "\\Parent\\Child\\Grandchild"));
+    Key key = 0;
+    EXPECT_EQ(openKey(kHive, kKey + "\\Parent\\Child", kQueryValue, key), kSuccess);
+    closeKey(key);
+}
+
+TEST_F(Registry, MakingAnExistingKeyKeepsItsValues) {
+    Key key = made(kKey + "\\Kept");
+    EXPECT_EQ(setValue(key, "a", {kString, "1"}), kSuccess);
+    closeKey(key);
+    closeKey(made(kKey + "\\Kept"));
+    EXPECT_EQ(readBack(kKey + "\\Kept", "a"), "1");
+}
+
+TEST_F(Registry, AMissingKeyOrValueIsNotFoundAndTouchesNothing) {
+    Key key = 77;
+    EXPECT_EQ(openKey(kHive, kKey + "\\NoSuchKey", kQueryValue, key), kFileNotFound);
+    EXPECT_EQ(key, 77u);
+    key = made(kKey);
+    Value value{kString, "untouched"};
+    EXPECT_EQ(queryValue(key, "no such value", value), kFileNotFound);
+    EXPECT_EQ(value.bytes, "untouched");
+    closeKey(key);
+}
+
+TEST_F(Registry, AHandleThatIsNoneIsRefused) {
+    Value value;
+    EXPECT_EQ(queryValue(0, "a", value), kInvalidHandle);
+    EXPECT_EQ(setValue(0, "a", {kString, "1"}), kInvalidHandle);
+}
+
+TEST_F(Registry, AKeyOpenedForReadingIsNotWritten) {
+    closeKey(made(kKey));
+    Key key = 0;
+    ASSERT_EQ(openKey(kHive, kKey, kQueryValue, key), kSuccess);
+    EXPECT_EQ(setValue(key, "a", {kString, "1"}), kAccessDenied);
+    closeKey(key);
+}
+
+TEST_F(Registry, ADeletedValueIsGone) {
+    const Key key = made(kKey);
+    EXPECT_EQ(setValue(key, "gone", {kString, "1"}), kSuccess);
+    EXPECT_EQ(deleteValue(key, "gone"), kSuccess);
+    Value value;
+    EXPECT_EQ(queryValue(key, "gone", value), kFileNotFound);
+    EXPECT_EQ(deleteValue(key, "gone"), kFileNotFound);
+    closeKey(key);
+}
+
+TEST_F(Registry, ExpandsNamesOfTheEnvironmentThatExist) {
+    const char* path = std::getenv("PATH");
+    ASSERT_NE(path, nullptr);
+    EXPECT_EQ(expandEnvironment("a %PATH% b", 100000), std::string("a ") + path + " b" + '\0');
+    EXPECT_EQ(expandEnvironment("%NO_SUCH_NAME%", 100), std::string("%NO_SUCH_NAME%") + '\0');
+    EXPECT_EQ(expandEnvironment("50 % of it", 100), std::string("50 % of it") + '\0');
+    EXPECT_EQ(expandEnvironment("too long", 8), "") << "the terminator has no room";
+}
+
+} // namespace
+} // namespace platform::registry
