@@ -40,6 +40,18 @@ AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& 
     return assembled;
 }
 
+/// Lets the block start its page or column. Of a table that is what its first paragraph does.
+void setBreaks(const DraftBlock& draft, AssembledBlock& assembled) {
+    if (document::Paragraph* paragraph = assembled.paragraph()) {
+        paragraph->properties.pageBreakBefore = draft.startsPage;
+        if (draft.startsColumn)
+            paragraph->inlines.insert(paragraph->inlines.begin(), {document::Break{document::BreakKind::Column}});
+    } else if (draft.startsPage && !assembled.cells.empty() && !assembled.cells.front().empty()) {
+        if (document::Paragraph* first = assembled.cells.front().front().paragraph())
+            first->properties.pageBreakBefore = true;
+    }
+}
+
 AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& context) {
     AssembledBlock assembled;
     if (const DraftParagraph* paragraph = draft.paragraph())
@@ -53,6 +65,7 @@ AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& con
         assembled.bottom = draft.box.bottom;
         assembled.lastPage = draft.page;
     }
+    setBreaks(draft, assembled);
     assembled.draft = &draft;
     return assembled;
 }

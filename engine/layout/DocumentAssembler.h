@@ -6,7 +6,7 @@
 
 namespace orvane::layout {
 
-/// Makes the document of a draft whose paragraphs are known by their roles: styles, sections, blocks.
+/// Makes the document of a draft whose paragraphs are known by their roles and whose sections are made.
 document::Document assembleDocument(DocumentDraft draft, const DocumentContext& context, const DocumentFacts& facts,
                                     const LayoutRequest& request, const LayoutParameters& parameters,
                                     Diagnostics& diagnostics);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layout/PageLayout.h"
+#include "layout/PageNumbers.h"
 
 #include <cstddef>
 #include <optional>
@@ -27,6 +28,8 @@ enum class ParagraphRole : std::uint8_t {
 /// The part of a paragraph that stands in one column of one page.
 struct DraftPiece {
     std::size_t page = 0; ///< index into DocumentDraft::pages
+    int band = 0;         ///< index into the page's bands
+    int columnIndex = 0;  ///< within the band
     ColumnSpan column;    ///< in which it stands
     ParagraphDraft text;
 };
@@ -38,7 +41,6 @@ struct DraftParagraph {
     std::optional<document::ListReference> list;
     std::size_t labelWords = 0;         ///< words at its start that the list's numbering writes
     std::vector<std::string> bookmarks; ///< that stand at its start
-    bool startsPage = false;            ///< its author let it start a page
 
     const Line& firstLine() const { return pieces.front().text.lines.front(); }
     const Line& lastLine() const { return pieces.back().text.lines.back(); }
@@ -61,15 +63,34 @@ struct DraftBlock {
     std::size_t page = 0; ///< index into DocumentDraft::pages, where it starts
     int band = 0;         ///< index into the page's bands
     int column = 0;
-    Rect box; ///< on that page
+    Rect box;                  ///< on that page
+    bool startsPage = false;   ///< its author let it start a page
+    bool startsColumn = false; ///< likewise a column
 
     DraftParagraph* paragraph() { return std::get_if<DraftParagraph>(&value); }
     const DraftParagraph* paragraph() const { return std::get_if<DraftParagraph>(&value); }
 };
 
+/// What stands at the head or foot of a section's pages.
+struct DraftRunningText {
+    std::optional<std::vector<DraftBlock>> standard;
+    std::optional<std::vector<DraftBlock>> firstPage;
+    std::optional<std::vector<DraftBlock>> evenPages;
+};
+
+/// Blocks on pages of one setup.
+struct DraftSection {
+    std::size_t firstBlock = 0; ///< index into DocumentDraft::blocks; it ends where the next one starts
+    document::Section setup;    ///< without blocks and running text
+    DraftRunningText header;
+    DraftRunningText footer;
+};
+
 struct DocumentDraft {
-    std::vector<PageLayout> pages; ///< without their blocks
+    std::vector<PageLayout> pages; ///< without their blocks; behind the document's own those made of running heads
     std::vector<DraftBlock> blocks;
+    std::vector<DraftSection> sections;            ///< at least one once SectionMaker has run
+    std::vector<std::vector<RunningField>> fields; ///< for each page; only those made of running heads have any
 };
 
 } // namespace orvane::layout

@@ -33,7 +33,7 @@ DraftBlock draftBlock(PageBlock block, const Place& place) {
     if (auto* paragraph = std::get_if<ParagraphDraft>(&block.value)) {
         draft.box = paragraph->box;
         DraftParagraph made;
-        made.pieces.push_back({place.page, column, std::move(*paragraph)});
+        made.pieces.push_back({place.page, block.band, block.column, column, std::move(*paragraph)});
         draft.value = std::move(made);
     } else if (auto* table = std::get_if<TableDraft>(&block.value)) {
         draft.box = table->box;
@@ -67,14 +67,19 @@ std::vector<DraftBlock> draftBlocks(std::vector<PageBlock> blocks, const Place& 
 
 } // namespace
 
+std::vector<DraftBlock> addPage(DocumentDraft& draft, PageLayout page) {
+    const Place place{draft.pages.size(), &page.bands, {0, page.width}};
+    std::vector<DraftBlock> blocks = draftBlocks(std::exchange(page.blocks, {}), place);
+    draft.pages.push_back(std::move(page));
+    draft.fields.emplace_back();
+    return blocks;
+}
+
 DocumentDraft buildDraft(std::vector<PageLayout> pages) {
     DocumentDraft draft;
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        const Place place{i, &pages[i].bands, {0, pages[i].width}};
-        for (DraftBlock& block : draftBlocks(std::exchange(pages[i].blocks, {}), place))
+    for (PageLayout& page : pages)
+        for (DraftBlock& block : addPage(draft, std::move(page)))
             draft.blocks.push_back(std::move(block));
-    }
-    draft.pages = std::move(pages);
     return draft;
 }
 

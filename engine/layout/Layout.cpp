@@ -5,6 +5,9 @@
 #include "layout/DocumentAssembler.h"
 #include "layout/DraftBuilder.h"
 #include "layout/PageLayouter.h"
+#include "layout/ParagraphJoiner.h"
+#include "layout/RunningHeads.h"
+#include "layout/SectionMaker.h"
 
 namespace orvane::layout {
 namespace {
@@ -44,8 +47,11 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     if (request.removeImages)
         for (PageText& page : pages)
             page.figures.clear();
+    const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
+    joinParagraphs(draft, context, parameters);
+    makeSections(draft, heads, context, parameters, diagnostics);
     return assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics);
 }
 

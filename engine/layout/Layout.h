@@ -9,8 +9,8 @@
 
 #include <vector>
 
-/// From pages to a document. The road: readPageText() for each page on its own (so on several threads), then layoutDocument() for
-/// all of them, which finds what repeats, puts each page in order and assembles the document.
+/// From pages to a document. The road: readPageText() for each page on its own (so on several threads), then
+/// layoutDocument() for all of them, which finds what repeats, puts each page in order and assembles the document.
 namespace orvane::layout {
 
 enum class LayoutMode { Flowing, TruePage, Continuous, PlainText };
@@ -34,6 +34,7 @@ PageText readPageText(const pdf::PageContent& page, const LayoutParameters& para
 /// The rest: running heads, tables, regions, paragraphs, lists, headings, styles, sections.
 /// Errors: Failure(Cancelled) when the observer says so.
 document::Document layoutDocument(std::vector<PageText> pages, const DocumentFacts& facts, const LayoutRequest& request,
-                                  const LayoutParameters& parameters, const JobObserver& observer, Diagnostics& diagnostics);
+                                  const LayoutParameters& parameters, const JobObserver& observer,
+                                  Diagnostics& diagnostics);
 
 } // namespace orvane::layout

@@ -205,6 +205,38 @@ struct LayoutParameters {
         double backgroundShare = 0.85; ///< of the page
     } pictures;
 
+    /// RunningHeads: what repeats at the head and foot of pages.
+    struct RunningHeads {
+        double reach = 0.34;             ///< of the page's height; nothing farther from the edge is a running head
+        double firstReach = 0.2;         ///< of the page's height; within which the outermost row stands
+        int maximumRows = 12;            ///< from one edge
+        double sameRow = 0.3;            ///< of the font size; baselines this near are one row
+        double samePosition = 2.0;       ///< points; rows of two pages this near stand in one place
+        double sameSize = 0.6;           ///< points; of their fonts
+        double chainGap = 30.0;          ///< points; rows of one head are not farther apart
+        double bodyGap = 0.35;           ///< of the font size; between a head and the text, where few pages repeat it
+        int surePages = 3;               ///< a head that so many pages repeat may touch the text
+        double headingSize = 1.3;        ///< of the document's usual size; larger rows that count are headings
+        double sameSide = 12.0;          ///< points; distances to both sides of the page that differ by less: a centred row
+        double sidePart = 5.0;           ///< points; a rule this far within a row crosses it
+    } runningHeads;
+
+    /// TextEdges, PageSetup, SectionMaker: paper, margins, columns, page breaks.
+    struct PageSetup {
+        double sameSize = 1.5;           ///< points; paper sizes that differ by less are one
+        double sameEdge = 1.5;           ///< points; lines that start this near start at one edge
+        double edgeShare = 0.03;         ///< of the lines that must start at an edge for it to be the margin
+        int flushLines = 5;              ///< so many justified lines show the end edge
+        double blank = 0.25;             ///< of the font size; the blank before a word that had no room
+        double roomSlack = 0.5;          ///< points; a line may be this much longer than measured
+        double breakSlack = 1.0;         ///< points; likewise for pages
+        double tidyTolerance = 0.4;      ///< points; a margin this near to a round number is meant to be it
+        double usualMargin = 72.0;       ///< points; of pages that show none
+        double sameColumn = 12.0;        ///< points; columns of bands that differ by less are those of one section
+        double smallestColumnGap = 6.0;  ///< points; between columns
+        double startRoom = 6.0;          ///< points; with so much room left on the page before, a page was started by hand
+    } pageSetup;
+
     /// DocumentAnalyser: what most of the document looks like.
     struct Analysis {
         double sizeStep = 0.5;       ///< points; font sizes are counted in classes of this width

@@ -2,30 +2,45 @@
 
 #include "layout/TabStopFinder.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace orvane::layout {
 namespace {
+
+using document::Alignment;
 
 /// Indents below this are noise of the positions.
 Twips indent(double points, double smallest) {
     return std::abs(points) < smallest ? Twips(0) : twipsFromPoints(points);
 }
 
+/// Measures the indents from the section's column, whose edges the page alone did not show.
+void setIndents(const DraftPiece& piece, double smallest, document::ParagraphProperties& format) {
+    const Line& line = piece.text.lines.front();
+    const double first = line.isRightToLeft ? piece.column.right - line.box.right : line.box.left - piece.column.left;
+    format.indentStart = indent(first - piece.text.firstLine, smallest);
+    format.firstLine = indent(piece.text.firstLine, smallest);
+    if (piece.text.alignment != Alignment::Justified)
+        return;
+    // The fullest line ends where the indent is.
+    double end = std::numeric_limits<double>::infinity();
+    for (const Line& l : piece.text.lines)
+        end = std::min(end, l.isRightToLeft ? l.box.left - piece.column.left : piece.column.right - l.box.right);
+    format.indentEnd = indent(std::max(0.0, end), smallest);
+}
+
 } // namespace
 
 document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const LayoutParameters& parameters) {
-    const ParagraphDraft& first = paragraph.pieces.front().text;
-    const double smallest = parameters.spacing.smallestIndent;
+    const DraftPiece& first = paragraph.pieces.front();
     document::ParagraphProperties format;
-    format.alignment = first.alignment;
+    format.alignment = first.text.alignment;
     format.isRightToLeft = paragraph.firstLine().isRightToLeft;
-    // The edges of centred lines follow from their lengths.
-    if (first.alignment != document::Alignment::Center) {
-        format.indentStart = indent(first.indentStart, smallest);
-        format.indentEnd = indent(first.indentEnd, smallest);
-        format.firstLine = indent(first.firstLine, smallest);
-    }
+    // The edges of centred lines, and the start of those set against the end, follow from their lengths.
+    if (format.alignment != Alignment::Center && format.alignment != Alignment::End)
+        setIndents(first, parameters.spacing.smallestIndent, format);
     format.tabs = findTabStops(paragraph, parameters);
     return format;
 }

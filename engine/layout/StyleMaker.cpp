@@ -31,6 +31,8 @@ void countRuns(const std::vector<document::Inline>& inlines, Tally<RunProperties
             tally.add(text->properties, static_cast<double>(text->text.size()));
         else if (const auto* link = std::get_if<document::Link>(&item.value))
             countRuns(link->inlines, tally);
+        else if (const auto* field = std::get_if<document::Field>(&item.value))
+            countRuns(field->result, tally);
     }
 }
 

@@ -131,7 +131,10 @@ private:
             const auto link = m_context.links.target(page, span.look.link);
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
-            m_builder.addText(span.text, properties, link);
+            if (const auto field = fieldAt(page, span.box))
+                m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
+            else
+                m_builder.addText(span.text, properties, link);
             m_before = Before{properties, link, {}};
         }
         m_before->text = textOf(word);
@@ -155,6 +158,14 @@ private:
             m_builder.addText(" ", blankBetween(m_before->properties, properties), gapLink);
         else if (join == LineJoin::DropHyphen)
             m_builder.dropLastCharacter();
+    }
+
+    /// What counts there by itself, in a running head.
+    std::optional<document::FieldCode> fieldAt(std::size_t page, const Rect& box) const {
+        for (const RunningField& field : m_context.draft.fields[page])
+            if (field.box == box)
+                return field.code;
+        return std::nullopt;
     }
 
     const DraftParagraph& m_paragraph;

@@ -29,6 +29,15 @@ inline PageLayout makeLayout(int number) {
     return layout;
 }
 
+/// A draft of that many empty pages.
+inline DocumentDraft makeDraft(int pageCount) {
+    DocumentDraft draft;
+    for (int number = 1; number <= pageCount; ++number)
+        draft.pages.push_back(makeLayout(number));
+    draft.fields.resize(draft.pages.size());
+    return draft;
+}
+
 /// A paragraph of these lines, indents measured from the column.
 inline ParagraphDraft makeParagraph(std::vector<Line> lines) {
     ParagraphDraft paragraph;
@@ -47,7 +56,7 @@ inline DraftBlock makeBlock(ParagraphDraft paragraph, std::size_t page = 0) {
     block.page = page;
     block.box = paragraph.box;
     DraftParagraph draft;
-    draft.pieces.push_back({page, kColumn, std::move(paragraph)});
+    draft.pieces.push_back({page, 0, 0, kColumn, std::move(paragraph)});
     block.value = std::move(draft);
     return block;
 }
@@ -75,6 +84,8 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
 /// The whole document of a draft.
 inline document::Document documentOf(DocumentDraft draft) {
     Diagnostics diagnostics;
+    if (draft.sections.empty())
+        draft.sections.emplace_back();
     return assembleDocument(std::move(draft), {}, {}, {}, {}, diagnostics);
 }
 
@@ -85,8 +96,7 @@ struct TextAt {
     LineLook look = {};
 };
 inline DocumentDraft draftOfLines(const std::vector<TextAt>& lines) {
-    DocumentDraft draft;
-    draft.pages.push_back(makeLayout(1));
+    DocumentDraft draft = makeDraft(1);
     for (const TextAt& line : lines)
         draft.blocks.push_back(makeBlock(makeParagraph({makeLine(line.text, 72, line.baseline, line.look)})));
     return draft;

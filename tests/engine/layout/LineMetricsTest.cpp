@@ -12,8 +12,7 @@ using document::LineSpacingRule;
 
 /// Three lines of Carlito at 10 points, whose single spacing is 12.21 points.
 LineSpacing spacingAt(double leading, const char* font = "Carlito") {
-    DocumentDraft draft;
-    draft.pages.push_back(tests::makeLayout(1));
+    DocumentDraft draft = tests::makeDraft(1);
     draft.pages[0].fonts[0].name = draft.pages[0].fonts[0].family = font;
     draft.blocks.push_back(tests::makeBlock(
         tests::makeParagraph({tests::makeLine("one", 72, 100), tests::makeLine("two", 72, 100 + leading),

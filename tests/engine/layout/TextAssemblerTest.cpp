@@ -8,13 +8,11 @@ namespace orvane::layout {
 namespace {
 
 using tests::makeBlock;
-using tests::makeLayout;
 using tests::makeLine;
 using tests::makeParagraph;
 
 DocumentDraft draftOf(std::vector<Line> lines) {
-    DocumentDraft draft;
-    draft.pages.push_back(makeLayout(1));
+    DocumentDraft draft = tests::makeDraft(1);
     draft.blocks.push_back(makeBlock(makeParagraph(std::move(lines))));
     return draft;
 }
