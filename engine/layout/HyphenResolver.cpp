@@ -64,7 +64,7 @@ LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
     const std::u32string next = utf32FromUtf8(nextWord);
     if (last.empty() || next.empty())
         return LineJoin::Nothing;
-    if (isEastAsian(last.back()) && isEastAsian(next[0]))
+    if (isWithoutBlanks(last.back()) && isWithoutBlanks(next[0]))
         return LineJoin::Nothing;
     if (last.size() < 2)
         return LineJoin::Blank;

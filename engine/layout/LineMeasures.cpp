@@ -51,12 +51,12 @@ bool clingsToWordBefore(char32_t character) {
 /// How many characters of the word have to move together to the line above.
 std::size_t firstUnitLength(const std::u32string& word) {
     std::size_t length = 1;
-    if (isEastAsian(word[0])) {
+    if (isWithoutBlanks(word[0])) {
         while (length < word.size() && clingsToWordBefore(word[length]))
             ++length;
         return length;
     }
-    while (length < word.size() && !isEastAsian(word[length])) {
+    while (length < word.size() && !isWithoutBlanks(word[length])) {
         const bool mayBreak =
             isBreakingHyphen(word[length - 1]) && length > 1 && u_isalpha(static_cast<UChar32>(word[length]));
         if (mayBreak)
@@ -101,8 +101,8 @@ void readEnds(const Line& line, std::span<const pdf::Font> fonts, LineMeasure& m
     measure.firstUnit = line.words.front().box.width() * static_cast<double>(firstUnitLength(first)) /
                         static_cast<double>(first.size());
     measure.endsWithHyphen = isBreakingHyphen(last.back()) && last.size() > 1;
-    measure.endsEastAsian = isEastAsian(last.back());
-    measure.startsEastAsian = isEastAsian(first[0]);
+    measure.endsWithoutBlanks = isWithoutBlanks(last.back());
+    measure.startsWithoutBlanks = isWithoutBlanks(first[0]);
     measure.startsLowerCase = u_islower(static_cast<UChar32>(first[0]));
 }
 
@@ -142,7 +142,7 @@ std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan co
 }
 
 bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double free, double slack) {
-    const bool needsNoBlank = before.endsEastAsian && next.startsEastAsian;
+    const bool needsNoBlank = before.endsWithoutBlanks && next.startsWithoutBlanks;
     return (needsNoBlank ? 0 : before.blank) + next.firstUnit <= free - slack;
 }
 

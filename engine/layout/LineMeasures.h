@@ -32,8 +32,8 @@ struct LineMeasure {
     bool hasLeader = false;         ///< dots between words, as in a table of contents
     std::optional<double> tabStart; ///< start gap of the text behind its last tabulator
     bool endsWithHyphen = false;
-    bool endsEastAsian = false; ///< its last character needs no blank behind it
-    bool startsEastAsian = false;
+    bool endsWithoutBlanks = false; ///< its last character needs no blank behind it
+    bool startsWithoutBlanks = false;
     bool startsLowerCase = false;
 };
 

@@ -42,9 +42,11 @@ void measureAnew(Line& line) {
         }
 }
 
-bool isEastAsian(char32_t character) {
-    const auto width = u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_EAST_ASIAN_WIDTH);
-    return width == U_EA_WIDE || width == U_EA_FULLWIDTH;
+bool isWithoutBlanks(char32_t character) {
+    const auto code = static_cast<UChar32>(character);
+    const auto width = u_getIntPropertyValue(code, UCHAR_EAST_ASIAN_WIDTH);
+    const bool isHangul = u_getIntPropertyValue(code, UCHAR_HANGUL_SYLLABLE_TYPE) != U_HST_NOT_APPLICABLE;
+    return (width == U_EA_WIDE || width == U_EA_FULLWIDTH) && !isHangul;
 }
 
 } // namespace orvane::layout

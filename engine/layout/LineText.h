@@ -16,7 +16,8 @@ std::string textOf(const Line& line);
 /// stay. Requires: at least one word.
 void measureAnew(Line& line);
 
-/// True for scripts that are written without blanks and may break after nearly every character (Han, kana, Hangul).
-bool isEastAsian(char32_t character);
+/// True for scripts that are written without blanks and may break after nearly every character: Han and kana with their
+/// punctuation. Hangul has blanks between words, and lines that end at them.
+bool isWithoutBlanks(char32_t character);
 
 } // namespace orvane::layout

@@ -10,9 +10,11 @@
 namespace orvane::layout {
 namespace {
 
-constexpr std::u32string_view kBullets = U"•◦▪■●○‣⁃∙·➢➤➔✓✔❖◆◇□☐☑☒►▶▸▹→⇒★☆✦✗✘※▫◘◙◾◽⚫⚪❑❒❏❍➣➥";
+constexpr std::u32string_view kBullets = U"•◦▪■●○‣⁃∙·➢➤➔✓✔❖◆◇□☐☑☒►▶▸▹→⇒★☆✦✗✘※▫◘◙◾◽⚫⚪❑❒❏❍➣➥・";
 constexpr std::u32string_view kDashes = U"-–—−*+o~";
 constexpr std::u32string_view kHanNumerals = U"一二三四五六七八九十";
+constexpr std::u32string_view kKanaLetters = U"アイウエオカキクケコサシスセソ";
+constexpr std::u32string_view kClosers = U".)]:）．、";
 
 bool isIn(std::u32string_view set, char32_t character) {
     return set.find(character) != std::u32string_view::npos;
@@ -102,7 +104,7 @@ std::optional<ListMarker> readOrdinal(std::u32string_view word) {
     const bool isOpened = !body.empty() && isIn(U"([（", body.front());
     if (isOpened)
         body.remove_prefix(1);
-    if (!body.empty() && isIn(U".)]:）．", body.back())) {
+    if (!body.empty() && isIn(kClosers, body.back())) {
         marker.hasPunctuation = true;
         body.remove_suffix(1);
         if (!body.empty() && body.back() == U'.')
@@ -118,7 +120,19 @@ std::optional<ListMarker> readOrdinal(std::u32string_view word) {
     return marker.hasPunctuation ? readLetters(body, marker) : std::nullopt;
 }
 
-/// Signs that need no gap behind them: circled numbers, and numerals of Han with their comma.
+/// The label that text without blanks follows at once: "1." of "1.概要".
+std::u32string_view gluedLabel(std::u32string_view word) {
+    std::size_t length = 0;
+    while (length < word.size() && (u_charDigitValue(static_cast<UChar32>(word[length])) >= 0 ||
+                                    isIn(U"(（", word[length]) || isIn(kClosers, word[length])))
+        ++length;
+    const bool isLabel =
+        length > 1 && length < word.size() && isWithoutBlanks(word[length]) && isIn(kClosers, word[length - 1]);
+    return isLabel ? word.substr(0, length) : std::u32string_view();
+}
+
+/// Labels of East Asian texts: circled numbers, numerals of Han with their comma, letters of kana, numbers without a
+/// gap.
 std::optional<ListMarker> readEastAsian(std::u32string_view word) {
     ListMarker marker;
     marker.kind = MarkerKind::EastAsian;
@@ -132,6 +146,17 @@ std::optional<ListMarker> readEastAsian(std::u32string_view word) {
         marker.ordinal = static_cast<int>(kHanNumerals.find(word[0])) + 1;
         return marker;
     }
+    if (word.size() == 1 && isIn(kKanaLetters, word[0])) {
+        marker.ordinal = static_cast<int>(kKanaLetters.find(word[0])) + 1;
+        marker.isWholeWord = true;
+        return marker;
+    }
+    if (const auto label = gluedLabel(word); !label.empty()) {
+        if (auto ordinal = readOrdinal(label)) {
+            ordinal->isWholeWord = false;
+            return ordinal;
+        }
+    }
     return std::nullopt;
 }
 
@@ -140,7 +165,7 @@ std::optional<ListMarker> readSign(std::u32string_view word) {
     if (isIn(kBullets, word[0]) || isPrivateUse(word[0])) {
         marker.isWholeWord = word.size() == 1;
         // Some signs are also punctuation within words; glued to letters only the plain bullets are markers.
-        if (word.size() > 1 && !isIn(U"•▪■●○◦‣", word[0]) && !isPrivateUse(word[0]))
+        if (word.size() > 1 && !isIn(U"•▪■●○◦‣・", word[0]) && !isPrivateUse(word[0]))
             return std::nullopt;
         return marker;
     }

@@ -1,5 +1,6 @@
 #include "layout/ParagraphBreaks.h"
 
+#include "layout/JustifiedLines.h"
 #include "layout/NaturalLeading.h"
 
 #include <algorithm>
@@ -17,7 +18,8 @@ public:
         : m_lines(lines)
         , m_measures(measures)
         , m_parameters(parameters)
-        , m_leading(lines, measures, context, parameters) {}
+        , m_leading(lines, measures, context, parameters)
+        , m_justified(lines, measures, parameters) {}
 
     std::vector<BreakReason> run() {
         std::vector<BreakReason> reasons;
@@ -66,7 +68,9 @@ private:
         const LineMeasure& line = m_measures[next];
         if (!line.marker)
             return false;
-        if (line.marker->kind == MarkerKind::Bullet || (line.marker->isSeparated && !line.hasLeader))
+        const bool standsOut =
+            line.marker->kind == MarkerKind::Bullet || line.marker->isSeparated || !line.marker->isWholeWord;
+        if (standsOut && !line.hasLeader)
             return true;
         const LineMeasure& first = m_measures[m_first];
         if (first.marker && isSuccessor(*first.marker, *line.marker) && sameEdge(first.startGap, line.startGap, next))
@@ -80,17 +84,27 @@ private:
 
     bool hasSpaceAbove(std::size_t next) const {
         const double size = std::max(m_lines[next].fontSize, m_lines[next - 1].fontSize);
-        const double distance = m_lines[next].baseline - m_lines[next - 1].baseline;
-        const NaturalLeading::Estimate usual = m_leading.forSize(size);
-        double expected = usual.leading;
-        double tolerance = usual.isLearnt ? m_parameters.leadingTolerance : m_parameters.looseLeadingTolerance;
-        // What the paragraph did so far is the best witness.
+        const double distance = distanceAbove(next);
+        if (distance > m_parameters.maximumLeading * size)
+            return true;
+        // What the paragraph did so far is the best witness, then the line below, then the rest of the column.
         if (next - m_first >= 2) {
-            expected =
+            const double usual =
                 (m_lines[next - 1].baseline - m_lines[m_first].baseline) / static_cast<double>(next - 1 - m_first);
-            tolerance = m_parameters.leadingTolerance;
+            return distance > m_parameters.leadingTolerance * usual;
         }
-        return distance > expected * tolerance || distance > m_parameters.maximumLeading * size;
+        return !runsOnAtSameDistance(next, distance) && !m_leading.allows(size, distance);
+    }
+
+    /// The line below runs on of itself, and is as far from `next` as this is from the line above.
+    bool runsOnAtSameDistance(std::size_t next, double distance) const {
+        const std::size_t below = next + 1;
+        if (below >= m_lines.size() || m_measures[below].marker || standsElsewhere(below) || looksDifferent(below))
+            return false;
+        const double other = distanceAbove(below);
+        return std::max(distance, other) <= m_parameters.equalLeading * std::min(distance, other) &&
+               !wouldHaveFitted(m_measures[next], m_measures[below], m_measures[next].endGap,
+                                m_parameters.fitSlack * m_lines[next].fontSize);
     }
 
     bool looksDifferent(std::size_t next) const {
@@ -159,9 +173,12 @@ private:
 
     /// In justified text only a paragraph's last line ends before the edge.
     bool followsShortLine(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
         const double flush = m_parameters.flushTolerance * m_lines[next].fontSize;
-        if (static_cast<int>(next - 1 - m_first) < m_parameters.flushLines || m_measures[next - 1].endGap <= 2 * flush)
+        if (above.endGap <= 2 * flush || above.meanGap > m_parameters.stretchedGap * above.blank)
             return false;
+        if (static_cast<int>(next - 1 - m_first) < m_parameters.flushLines)
+            return m_justified.isJustified(above.startGap, m_lines[next - 1].fontSize);
         for (std::size_t i = m_first; i + 1 < next; ++i)
             if (std::abs(m_measures[i].endGap) > flush)
                 return false;
@@ -172,8 +189,15 @@ private:
         return next - m_first >= 2 ? m_measures[next - 1].startGap : m_measures[m_first].textStart;
     }
     PairAlignment pairAlignment(std::size_t next) const {
-        return alignmentOfPair(m_measures[next - 1], m_measures[next], m_lines[next].fontSize, m_parameters);
+        const PairAlignment alignment =
+            alignmentOfPair(m_measures[next - 1], m_measures[next], m_lines[next].fontSize, m_parameters);
+        // A full line with its first line's indent, and the line below it: the third line shows that their starts
+        // count.
+        const bool startsCount =
+            next + 1 < m_lines.size() && sameEdge(m_measures[next].startGap, m_measures[next + 1].startGap, next);
+        return alignment == PairAlignment::End && startsCount ? PairAlignment::Start : alignment;
     }
+    double distanceAbove(std::size_t next) const { return m_lines[next].baseline - m_lines[next - 1].baseline; }
     double tolerance(std::size_t next) const { return m_parameters.edgeTolerance * m_lines[next].fontSize; }
     bool sameEdge(double a, double b, std::size_t next) const { return std::abs(a - b) <= tolerance(next); }
 
@@ -181,6 +205,7 @@ private:
     std::span<const LineMeasure> m_measures;
     const LayoutParameters::Paragraphs& m_parameters;
     NaturalLeading m_leading;
+    JustifiedLines m_justified;
     std::size_t m_first = 0;
     double m_lastHang = 0; ///< how far the lines of the last paragraph with several stand behind its first
 };
@@ -199,7 +224,8 @@ PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next
     if (isCentered(before) && isCentered(next))
         return PairAlignment::Center;
     const auto isAtEnd = [&](const LineMeasure& line) {
-        return std::abs(line.endGap) <= tolerance && line.startGap > indent;
+        return std::abs(line.endGap) <= tolerance &&
+               line.startGap > std::max(indent, parameters.endAligned * line.width);
     };
     if (isAtEnd(before) && isAtEnd(next))
         return PairAlignment::End;

@@ -93,7 +93,7 @@ TEST(ParagraphBuilder, ReadsAlignment) {
         {{"       A centred title"}, Alignment::Center, "one line in the middle"},
         {{"  A centred title that is so", "      long that it wraps"}, Alignment::Center, "two lines in the middle"},
         {{"             14 September 2021"}, Alignment::End, "a date at the right edge"},
-        {{"  The quick brown fox jumps to", "         the lazy dog and then"},
+        {{"          Republic of Whatever", "                   Chancellery"},
          Alignment::End,
          "two lines at the right"},
     };
