@@ -9,6 +9,14 @@ namespace {
 
 using namespace protocol;
 
+Format readFormat(std::int32_t flags) {
+    if ((flags & flag::kWordFormat) == 0)
+        return Format::Rtf;
+    return (flags & flag::kDocx) != 0 ? Format::Docx : Format::Doc;
+}
+
+} // namespace
+
 Layout readLayout(std::int16_t code) {
     switch (code) {
     case layout_code::kFlowing:
@@ -25,14 +33,6 @@ Layout readLayout(std::int16_t code) {
         throw Failure(FailureCode::InvalidRequest, fmt::format("there is no layout with the code {}", code));
     }
 }
-
-Format readFormat(std::int32_t flags) {
-    if ((flags & flag::kWordFormat) == 0)
-        return Format::Rtf;
-    return (flags & flag::kDocx) != 0 ? Format::Docx : Format::Doc;
-}
-
-} // namespace
 
 PasswordPair readPasswords(const std::string& text, std::int32_t flags) {
     constexpr std::int32_t kBothAsked = flag::kUserPasswordAsked | flag::kOwnerPasswordAsked;
@@ -64,7 +64,6 @@ Job readRequest(const ConversionRequest& request) {
         (request.flags & flag::kKeepCharacterSpacing) != 0 ? CharacterSpacing::Exact : CharacterSpacing::Automatic;
     // An application that is closed while it converts leaves the run to end by itself; only DoCancel() stops it.
     job.whenStarterEnds = WhenStarterEnds::Finish;
-    job.layout = readLayout(request.layoutCode);
     return job;
 }
 

@@ -19,8 +19,11 @@ struct PasswordPair {
 /// password that stands alone is good for both uses, whatever it was asked for.
 PasswordPair readPasswords(const std::string& text, std::int32_t flags);
 
-/// The job that a request asks for.
-/// Errors: Failure(InvalidRequest) for a layout code that is none.
+/// The layout that a request's code stands for.
+/// Errors: Failure(InvalidRequest) for a code that is none.
+protocol::Layout readLayout(std::int16_t code);
+
+/// The job that a request asks for, but for its layout: what makes no sense there is to be told in the job's own log.
 protocol::Job readRequest(const ConversionRequest& request);
 
 } // namespace orvane::component

@@ -35,27 +35,21 @@ std::int32_t resultFor(FailureCode code) {
 }
 
 std::int32_t WorkerEngine::DoConvert(const ConversionRequest& request) {
-    if (m_worker)
-        return result::kFailed; // one object, one job
-    Job job;
     try {
-        try {
-            job.source = request.sourcePath;
-            job.target = request.targetPath;
-            job.logPath = request.logPath;
-            job.applicationName = request.applicationName;
-            job = readRequest(request);
-            return start(job);
-        } catch (const Failure& failure) {
-            return resultFor(refuseUnstarted(job, failure).code);
-        }
+        return m_worker ? result::kFailed : convert(request); // one object, one job
     } catch (const std::exception&) {
         return result::kFailed; // nothing may be thrown into an application of another language
     }
 }
 
-std::int32_t WorkerEngine::start(const Job& job) {
-    m_worker = std::make_unique<WorkerProcess>(m_workerProgram, job);
+std::int32_t WorkerEngine::convert(const ConversionRequest& request) {
+    Job job = readRequest(request);
+    try {
+        job.layout = readLayout(request.layoutCode);
+        m_worker = std::make_unique<WorkerProcess>(m_workerProgram, job);
+    } catch (const Failure& failure) {
+        return resultFor(refuseUnstarted(job, failure).code);
+    }
     const std::int32_t answer = waitForAnswer();
     if (answer != result::kAccepted)
         m_finishCode = finish::kFailed;

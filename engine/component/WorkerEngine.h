@@ -22,7 +22,7 @@ public:
     void DoCancel() override;
 
 private:
-    std::int32_t start(const protocol::Job& job);
+    std::int32_t convert(const ConversionRequest& request);
     std::int32_t waitForAnswer();
     void take(const protocol::Message& message);
 

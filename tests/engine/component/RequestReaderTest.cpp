@@ -10,19 +10,13 @@ using namespace protocol;
 
 TEST(RequestReader, ReadsEveryLayoutCode) {
     const Layout layouts[] = {Layout::Flowing, Layout::TruePage, Layout::Continuous, Layout::PlainText, Layout::Images};
-    for (std::int16_t code = 0; code < 5; ++code) {
-        ConversionRequest request;
-        request.layoutCode = code;
-        EXPECT_EQ(readRequest(request).layout, layouts[code]) << code;
-    }
+    for (std::int16_t code = 0; code < 5; ++code)
+        EXPECT_EQ(readLayout(code), layouts[code]) << code;
 }
 
 TEST(RequestReader, RefusesALayoutCodeThatIsNone) {
-    for (const std::int16_t code : {-1, 5}) {
-        ConversionRequest request;
-        request.layoutCode = code;
-        EXPECT_THROW(readRequest(request), Failure) << code;
-    }
+    for (const std::int16_t code : {-1, 5})
+        EXPECT_THROW(readLayout(code), Failure) << code;
 }
 
 TEST(RequestReader, ReadsTheOptionBits) {
