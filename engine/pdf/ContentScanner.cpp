@@ -26,8 +26,11 @@ std::string_view ContentScanner::next() {
         const char c = m_content[m_at];
         if (c == '(') {
             skipString();
-        } else if (c == '<' || c == '>') {
-            skipAngles();
+        } else if (const std::string_view two = m_content.substr(m_at, 2); two == "<<" || two == ">>") {
+            m_at += 2;
+            return two;
+        } else if (c == '<') {
+            skipUntil(">");
         } else if (c == '%') {
             skipUntil("\r\n");
         } else if (c == '/') {
@@ -68,15 +71,6 @@ void ContentScanner::skipString() {
             break;
     }
     m_at = std::min(m_at + 1, m_content.size());
-}
-
-void ContentScanner::skipAngles() {
-    if (m_content.substr(m_at, 2) == "<<")
-        m_at += 2;
-    else if (m_content[m_at] == '>')
-        ++m_at;
-    else
-        skipUntil(">");
 }
 
 void ContentScanner::skipInlinePicture() {

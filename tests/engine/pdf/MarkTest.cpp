@@ -38,6 +38,23 @@ TEST(Marks, SurroundWhatIsPaintedInThem) {
     EXPECT_EQ(page.marks.at(static_cast<std::size_t>(page.paths[0].mark)).alternateText, "A cat");
 }
 
+TEST(Marks, TakeNoDictionaryThatEndsInANameForANamedPropertyList) {
+    PdfBuilder builder;
+    const int properties = builder.add("<< /MCID 7 >>");
+    OpenedPdf pdf(builder.page({"/P /MC0 BDC BT /F1 10 Tf 50 500 Td (a) Tj ET EMC "
+                                "/Artifact << /Subtype /Header /Type /Pagination >> BDC EMC "
+                                "/Span << /ActualText <0041> /O /Layout >> BDC EMC BT /F1 10 Tf 70 500 Td (b) Tj ET",
+                                612,
+                                792,
+                                {},
+                                "/Properties << /MC0 " + pdfRef(properties) + " >>",
+                                {}}));
+    const PageContent page = pdf.page();
+    EXPECT_EQ(markOf(page, U"a").mcid, 7);
+    EXPECT_EQ(markOf(page, U"b").tag, "") << "every sequence was closed";
+    EXPECT_EQ(page.marks.size(), 3u);
+}
+
 TEST(Marks, KnowNamedPropertyLists) {
     PdfBuilder builder;
     const int properties = builder.add("<< /MCID 7 /ActualText (EMC BDC) >>");
