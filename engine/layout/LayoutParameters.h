@@ -219,6 +219,7 @@ struct LayoutParameters {
         double headingSize = 1.3;        ///< of the document's usual size; larger rows that count are headings
         double sameSide = 12.0;          ///< points; distances to both sides of the page that differ by less: a centred row
         double sidePart = 5.0;           ///< points; a rule this far within a row crosses it
+        double bodilessShare = 0.5;      ///< of the pages; where more would be left empty, what repeats is the text
     } runningHeads;
 
     /// TextEdges, PageSetup, SectionMaker: paper, margins, columns, page breaks.

@@ -153,6 +153,23 @@ void takeHeads(PageText& page, const PageEdges& edges, const LayoutParameters::R
             page, [&](double top, double) { return top >= edges.footerStart; }, heads.footer->content);
 }
 
+/// Whether most pages would hold nothing any more: a document of one numbered line a page, or of forms that are all
+/// alike.
+bool wouldEatTheText(const std::vector<PageText>& pages, const std::vector<PageEdges>& edges,
+                     const LayoutParameters::RunningHeads& limits) {
+    std::size_t written = 0, emptied = 0;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const std::vector<bool> isHeader = linesTaken(pages[i], edges[i].top),
+                                isFooter = linesTaken(pages[i], edges[i].bottom);
+        std::size_t left = pages[i].figures.size();
+        for (std::size_t line = 0; line < pages[i].lines.size(); ++line)
+            left += !isHeader[line] && !isFooter[line];
+        written += !pages[i].lines.empty();
+        emptied += !pages[i].lines.empty() && left == 0;
+    }
+    return static_cast<double>(emptied) > limits.bodilessShare * static_cast<double>(written);
+}
+
 int greatest(const std::vector<std::optional<PageNumber>>& numbers) {
     int last = 0;
     for (const auto& number : numbers)
@@ -177,6 +194,8 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         edges.push_back(measureEdges(pages[i], tops[i], bottoms[i]));
         bodies.push_back(edges.back().body);
     }
+    if (wouldEatTheText(pages, edges, limits))
+        return heads;
     const auto figures = findRepeatedFigures(pages, bodies, limits);
     for (std::size_t i = 0; i < pages.size(); ++i) {
         const PageEdges& edge = edges[i];

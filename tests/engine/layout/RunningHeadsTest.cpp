@@ -55,6 +55,18 @@ TEST(RunningHeads, TakesRepeatedLinesOffAllPages) {
     }
 }
 
+TEST(RunningHeads, LeavesTheOnlyTextOfThePages) {
+    std::vector<PageText> pages;
+    for (int number = 1; number <= 6; ++number) {
+        pages.push_back(makePage(number));
+        pages.back().lines.push_back(makeLine(fmt::format("Potato {}", number), 72, 60));
+    }
+    for (const PageRunningHeads& heads : takeRunningHeads(pages, {}))
+        EXPECT_FALSE(heads.header || heads.footer);
+    for (const PageText& page : pages)
+        EXPECT_EQ(page.lines.size(), 1u);
+}
+
 TEST(RunningHeads, KnowsPageNumbers) {
     auto pages = pagesWith(12, [](PageText& page, int number) {
         page.lines.push_back(makeLine(fmt::format("Page {} of 12", number), 280, 800));
