@@ -21,17 +21,15 @@ const document::Style* StyleIndex::parentOf(const document::Style& style) const 
     const auto found = m_byId.find(style.basedOn);
     if (found == m_byId.end() || &style == m_default)
         return nullptr;
-    // Styles that are based on each other in a ring would hang a reader: one that comes round to itself is a root.
+    // Styles that are based on each other in a ring would hang a reader: those on the ring are roots.
     const document::Style* ancestor = found->second;
-    for (std::size_t steps = 0; steps <= m_byId.size(); ++steps) {
-        if (ancestor == &style)
-            return nullptr;
+    for (std::size_t steps = 0; steps <= m_byId.size() && ancestor != &style; ++steps) {
         const auto next = m_byId.find(ancestor->basedOn);
         if (next == m_byId.end())
-            return found->second;
+            break;
         ancestor = next->second;
     }
-    return nullptr;
+    return ancestor == &style ? nullptr : found->second;
 }
 
 } // namespace orvane::write::docx

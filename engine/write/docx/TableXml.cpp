@@ -85,11 +85,14 @@ void writeRows(Story& story, const Table& table, TableGrid& grid, const CellDefa
 }
 
 void writeAsParagraphs(Story& story, const Table& table) {
-    story.state.diagnostics.add(DiagnosticKind::FormatLimitReached, table.origin.page,
-                                "a table stands within too many others and became paragraphs", table.origin.box);
+    if (story.tableDepth == kDeepestTable)
+        story.state.diagnostics.add(DiagnosticKind::FormatLimitReached, table.origin.page,
+                                    "a table stands within too many others and became paragraphs", table.origin.box);
+    ++story.tableDepth;
     for (const TableRow& row : table.rows)
         for (const TableCell& cell : row.cells)
             writeBlocks(story, cell.blocks);
+    --story.tableDepth;
 }
 
 } // namespace
