@@ -54,7 +54,8 @@ public:
     void leaf(std::string_view name, std::initializer_list<XmlAttribute> attributes = {});
     /// What another writer wrote: whole elements.
     void raw(std::string_view xml);
-    /// Gives the rest to the sink. Requires: all elements have ended.
+    /// Gives the rest to the sink.
+    /// Requires: all elements have ended.
     void finish();
 
 private:

@@ -6,6 +6,26 @@
 
 #include <filesystem>
 
+/// What of the document model this writer puts into the file: [x] whole, [-] in part, [ ] not.
+///
+///   [x] characters: fonts by script, size, weight, slant, colour, ground, underline, spacing, width, raise, language
+///   [x] paragraphs: alignment, indents, spacing, tabs, borders, ground, outline level, keeping together, direction
+///   [x] styles, each as its difference against the one below
+///   [x] lists of nine levels, equal ones with a shared definition, each started anew
+///   [x] tables: grid, spans, borders a side, ground, margins, heights, repeated head, direction, tables within tables
+///   [-] tables of more than 63 columns: the last column takes in the rest; tables more than ten deep: paragraphs
+///   [x] sections: page, margins, columns of any widths, page numbers, headers and footers for first and even pages
+///   [-] pages of more than 22 inches are cut to that
+///   [x] pictures in the line and floating: cut, turned, mirrored, alternate text; each file once and untouched
+///   [x] drawings: lines, boxes, paths with curves, groups, opacity
+///   [-] wavy and thick lines of drawings are plain ones
+///   [x] text boxes with text, tables and pictures in the line; floating objects in them stand beside them
+///   [-] notes in text boxes, headers and notes become paragraphs there; the format has them in the body only
+///   [-] comments in headers, footers and notes are left out
+///   [x] links, bookmarks, page fields, table of contents
+///   [x] footnotes, endnotes, with marks of their own or counted; comments
+///   [x] form fields as content controls: text, check box, choice, date
+///   [ ] origins (pages and rectangles of the source)
 namespace orvane::write {
 
 /// Writes `document` as an Office Open XML text document.

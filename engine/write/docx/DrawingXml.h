@@ -38,7 +38,8 @@ std::int64_t drawingLength(Emu length);
 /// Degrees clockwise as drawings take them: 60,000ths from 0 to below a full turn.
 std::int64_t drawingAngle(double degrees);
 
-/// Writes a:xfrm. Source: ECMA-376 part 1, 20.1.7.6.
+/// Writes a:xfrm.
+/// Source: ECMA-376 part 1, 20.1.7.6.
 struct Transform {
     Emu x, y, width, height;
     double rotation = 0;

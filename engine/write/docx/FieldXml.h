@@ -7,12 +7,14 @@
 
 namespace orvane::write::docx {
 
-/// What makes a field's result anew, in the words of the format. Source: ECMA-376 part 1, 17.16.5.
+/// What makes a field's result anew, in the words of the format.
+/// Source: ECMA-376 part 1, 17.16.5.
 std::string fieldInstruction(const document::Field& field);
 std::string fieldInstruction(const document::TableOfContents& contents);
 
 /// Writes what stands before a field's result: its start, its instruction, the separator. `look` is how a word
-/// processor sets the result when it renews it. Source: ECMA-376 part 1, 17.16.2, 17.16.18.
+/// processor sets the result when it renews it.
+/// Source: ECMA-376 part 1, 17.16.2, 17.16.18.
 void writeFieldStart(XmlWriter& xml, const std::string& instruction, const document::RunProperties& look,
                      const document::RunProperties& base);
 

@@ -58,6 +58,9 @@ private:
         closeRun();
         const std::string anchor = bookmarkName(link.target.bookmark);
         const std::string uri = anchor.empty() ? linkAddress(link.target.uri) : std::string();
+        if (anchor.empty() && uri.empty() && !link.target.uri.empty())
+            m_story.state.diagnostics.add(DiagnosticKind::LinkUnresolved, 0,
+                                          "an address is longer than word processors take; its text has no link");
         // Links within links do not exist; the outer one holds.
         if (m_isInLink || (anchor.empty() && uri.empty())) {
             write(link.inlines);

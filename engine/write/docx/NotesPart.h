@@ -6,7 +6,8 @@
 namespace orvane::write::docx {
 
 /// Writes the mark of a note in the text. Where the format has no notes (text boxes, running texts, notes themselves)
-/// the mark is plain text, and the note follows by writeDisplacedNotes(). Source: ECMA-376 part 1, 17.11.
+/// the mark is plain text, and the note follows by writeDisplacedNotes().
+/// Source: ECMA-376 part 1, 17.11.
 void writeNoteReference(Story& story, const document::NoteReference& reference, const document::RunProperties& base);
 
 /// Writes the notes that could not be notes where their marks stand, as paragraphs.

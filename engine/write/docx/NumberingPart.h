@@ -16,11 +16,13 @@ struct ListLevel {
 
 ListLevel findLevel(const document::Document& document, const std::optional<document::ListReference>& list);
 
-/// The format's word for how numbers are written. Source: ECMA-376 part 1, 17.18.59.
+/// The format's word for how numbers are written.
+/// Source: ECMA-376 part 1, 17.18.59.
 const char* numberFormatName(document::NumberFormat format);
 
 /// Adds the part with the document's lists, when it has some. Lists of equal levels share a definition and start anew
-/// by themselves. Source: ECMA-376 part 1, 17.9.
+/// by themselves.
+/// Source: ECMA-376 part 1, 17.9.
 void addNumberingPart(DocumentState& state, Relationships& relationships);
 
 } // namespace orvane::write::docx

@@ -24,8 +24,8 @@ public:
     /// What the package itself leads to.
     Relationships& relationships() { return m_relationships; }
 
-    /// Writes the package; the same parts give the same bytes. `target` is written where it stands, and only there: whoever
-    /// wants to keep an older file until the new one is whole names another place.
+    /// Writes the package; the same parts give the same bytes. `target` is written where it stands, and only there:
+    /// whoever wants to keep an older file until the new one is whole names another place.
     /// Errors: Failure(TargetUnwritable).
     void save(const std::filesystem::path& target);
 

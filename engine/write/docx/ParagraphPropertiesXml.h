@@ -21,8 +21,8 @@ struct ParagraphIdentity {
 };
 
 /// Writes the children of w:pPr that tell how a paragraph stands, where that differs from `base`. What follows them in
-/// w:pPr (the mark's properties, the section) is the caller's. Source: ECMA-376 part 1, 17.3.1.26 (order and meaning of
-/// the children).
+/// w:pPr (the mark's properties, the section) is the caller's.
+/// Source: ECMA-376 part 1, 17.3.1.26 (order and meaning of the children).
 void writeParagraphProperties(XmlWriter& xml, const document::ParagraphProperties& properties,
                               const document::ParagraphProperties& base, const ParagraphIdentity& identity);
 

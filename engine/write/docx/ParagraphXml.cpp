@@ -79,9 +79,12 @@ void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoa
 void writeThinParagraph(Story& story, const ParagraphLoad& load) {
     const Style& style = story.state.styles.defaultStyle();
     Paragraph paragraph;
-    paragraph.properties.lineSpacing = {LineSpacingRule::Exact, 1.0, kThinLine};
     paragraph.markProperties = style.run;
-    paragraph.markProperties.size = HalfPoints(2);
+    // A mark is text, which wants to be seen.
+    if (!load.writeLead) {
+        paragraph.properties.lineSpacing = {LineSpacingRule::Exact, 1.0, kThinLine};
+        paragraph.markProperties.size = HalfPoints(2);
+    }
     writeParagraph(story, paragraph, load);
 }
 

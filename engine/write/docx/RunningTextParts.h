@@ -16,12 +16,14 @@ struct DocumentState;
 class Relationships;
 
 /// The headers and footers of a package. Equal ones share a part, and a section that has the same as the one before
-/// takes it over, as word processors do. Source: ECMA-376 part 1, 17.10.
+/// takes it over, as word processors do.
+/// Source: ECMA-376 part 1, 17.10.
 class RunningTextParts {
 public:
     explicit RunningTextParts(const document::Document& document);
 
-    /// Writes the references of a section to its headers and footers. Requires: called once for each section, in order.
+    /// Writes the references of a section to its headers and footers.
+    /// Requires: called once for each section, in order.
     void writeReferences(DocumentState& state, XmlWriter& xml, Relationships& relationships,
                          const document::Section& section);
 

@@ -9,8 +9,9 @@ namespace {
 
 using namespace document;
 
-/// The largest page that word processors have: 22 inches.
+/// The largest and smallest pages that word processors have: 22 inches and a tenth of one.
 constexpr int kLargestPage = 31680;
+constexpr int kSmallestPage = 144;
 
 const char* nameOf(SectionStart start) {
     switch (start) {
@@ -34,8 +35,8 @@ void writePage(DocumentState& state, XmlWriter& xml, const Section& section) {
             DiagnosticKind::FormatLimitReached, 0,
             "a page is larger than 22 inches, the most that word processors take, and was cut to that");
     const XmlElement pgSz(xml, "w:pgSz",
-                          {{"w:w", std::clamp(section.pageWidth.value, 1, kLargestPage)},
-                           {"w:h", std::clamp(section.pageHeight.value, 1, kLargestPage)}});
+                          {{"w:w", std::clamp(section.pageWidth.value, kSmallestPage, kLargestPage)},
+                           {"w:h", std::clamp(section.pageHeight.value, kSmallestPage, kLargestPage)}});
     if (section.pageWidth > section.pageHeight)
         xml.attribute({"w:orient", "landscape"});
 }

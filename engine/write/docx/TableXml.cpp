@@ -11,8 +11,9 @@ namespace {
 
 using namespace document;
 
-/// Readers give up on XML that is 256 elements deep; a table in a table takes three.
-constexpr int kDeepestTable = 40;
+/// Word processors need several times as long for each table within a table that goes over a page's end, and XML
+/// readers give up at 256 elements, of which a table takes three.
+constexpr int kDeepestTable = 10;
 constexpr int kTallestRow = 31680;
 
 /// The first cell's margins stand in the table's properties, so that only cells with others repeat them.

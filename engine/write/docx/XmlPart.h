@@ -16,7 +16,8 @@ public:
     XmlWriter& xml() { return m_xml; }
     Relationships& relationships() { return m_relationships; }
 
-    /// Adds the part and its relationships to the package. Requires: all elements have ended.
+    /// Adds the part and its relationships to the package.
+    /// Requires: all elements have ended.
     void addTo(Package& package);
 
 private:

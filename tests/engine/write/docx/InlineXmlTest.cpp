@@ -61,6 +61,8 @@ TEST(InlineXml, LeavesOutAnAddressThatIsTooLong) {
     const WrittenDocument written(documentOf(paragraph({link("https://a/" + std::string(3000, 'x'), "", "a")})));
     EXPECT_EQ(written.count("//w:hyperlink"), 0u);
     EXPECT_EQ(written.body("//w:t/text()"), "a");
+    ASSERT_EQ(written.diagnostics().entries().size(), 1u);
+    EXPECT_EQ(written.diagnostics().entries()[0].kind, DiagnosticKind::LinkUnresolved);
 }
 
 TEST(InlineXml, KeepsBookmarksOfOneNameApart) {
