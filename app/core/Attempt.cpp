@@ -2,11 +2,11 @@
 
 #include "core/AttemptResult.h"
 #include "core/EngineRequest.h"
-#include "core/ErrorTrap.h"
 #include "core/PasswordStep.h"
 #include "core/ProgressRun.h"
 #include "core/StageCaptions.h"
 #include "core/Staging.h"
+#include "services/ErrorTrap.h"
 
 #include <QDir>
 

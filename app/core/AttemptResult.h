@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ErrorTrap.h"
+#include "services/ErrorTrap.h"
 
 #include <cstdint>
 

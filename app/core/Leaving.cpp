@@ -1,9 +1,9 @@
 #include "core/Leaving.h"
 
 #include "core/BoundedList.h"
-#include "core/ErrorTrap.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
+#include "services/ErrorTrap.h"
 #include "services/UnloadAllForms.h"
 
 namespace run {

@@ -1,10 +1,10 @@
 #include "core/Polling.h"
 
 #include "core/BoundedList.h"
-#include "core/ErrorTrap.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
 #include "core/StageCaptions.h"
+#include "services/ErrorTrap.h"
 
 namespace run {
 namespace {

@@ -1,9 +1,9 @@
 #include "core/ProgressLoading.h"
 
-#include "core/ErrorTrap.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
 #include "core/StartConverting.h"
+#include "services/ErrorTrap.h"
 
 namespace run {
 

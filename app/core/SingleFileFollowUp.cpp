@@ -1,9 +1,9 @@
 #include "core/SingleFileFollowUp.h"
 
 #include "core/BoundedList.h"
-#include "core/ErrorTrap.h"
 #include "core/Leaving.h"
 #include "core/ProgressRun.h"
+#include "services/ErrorTrap.h"
 
 namespace {
 

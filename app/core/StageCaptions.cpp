@@ -1,7 +1,7 @@
 #include "core/StageCaptions.h"
 
-#include "core/ErrorTrap.h"
 #include "core/ProgressRun.h"
+#include "services/ErrorTrap.h"
 
 namespace run {
 namespace {

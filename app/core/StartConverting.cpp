@@ -3,11 +3,11 @@
 #include "core/Attempt.h"
 #include "core/EngineComponent.h"
 #include "core/EngineRequest.h"
-#include "core/ErrorTrap.h"
 #include "core/Leaving.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
 #include "core/StageCaptions.h"
+#include "services/ErrorTrap.h"
 
 namespace run {
 namespace {

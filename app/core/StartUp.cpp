@@ -1,6 +1,6 @@
 #include "core/StartUp.h"
 
-#include "core/ErrorTrap.h"
+#include "services/ErrorTrap.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "core/ErrorTrap.h"
+#include "services/ErrorTrap.h"
 
 #include "services/ErrorLog.h"
 
