@@ -8,6 +8,8 @@
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QIcon>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -22,13 +24,16 @@ constexpr std::int16_t kFormatDocx = 2;
 } // namespace
 
 Application::Application()
-    : m_engines(platform::programFile().parent_path()) {}
+    : m_languages(languagePorts())
+    , m_messageWindows(m_forms, {m_records, m_languages}, [this](YesNoDialog::Place place) { return anchorOf(place); })
+    , m_engines(platform::programFile().parent_path()) {}
 
 Application::~Application() = default;
 
 int Application::run() {
     if (Main(m_records, SystemFolderSources(), *this) == AfterMain::EndProcess)
         return 0;
+    QApplication::setWindowIcon(QIcon(m_languages.applicationFolder + "/images/tavrelion.svg"));
     listenForOtherCopies();
     lookForWordProcessor();
     try {
@@ -48,6 +53,18 @@ void Application::reportUnreadableSettings(const QString& reason) {
                          "\n\nMend or remove the file, then start the program again.";
     std::fputs((text + '\n').toLocal8Bit().constData(), stderr);
     m_messageBox.tell(UserMessages::Icon::Critical, text, kWindowTitle);
+}
+
+LanguagePorts Application::languagePorts() {
+    const QString folder = QFile::decodeName(platform::programFile().parent_path().c_str());
+    return {m_records.settings, folder,
+            [this](const QString& text) { m_messageBox.tell(UserMessages::Icon::Information, text, kWindowTitle); }};
+}
+
+const QWidget* Application::anchorOf(YesNoDialog::Place place) const {
+    if (place == YesNoDialog::Place::CentreOfMain)
+        return m_forms.find<frmMain>().get();
+    return m_forms.find<frmProgress>().get();
 }
 
 void Application::listenForOtherCopies() {
@@ -93,13 +110,13 @@ void Application::showMainWindow() {
 
 std::shared_ptr<frmMain> Application::mainWindow() {
     return m_forms.obtain<frmMain>(
-        MainPorts{m_records, m_messageBox, m_yesNoDialog, m_eventLoop, [this] { startRun(); }});
+        MainPorts{m_records, m_languages, m_messageBox, m_messageWindows, m_eventLoop, [this] { startRun(); }});
 }
 
 void Application::startRun() {
-    const RunPorts ports{m_records,   *this,   m_messageBox, m_yesNoDialog, m_passwordPrompt, m_statusTexts,
-                         m_eventLoop, m_clock, m_files,      m_engines,     m_followUp,       m_forms};
-    m_forms.obtain<frmProgress>(ports)->load();
+    const RunPorts ports{m_records,   *this,   m_messageBox, m_messageWindows, m_passwordPrompt, m_statusTexts,
+                         m_eventLoop, m_clock, m_files,      m_engines,        m_followUp,       m_forms};
+    m_forms.obtain<frmProgress>(ports, m_languages)->load();
 }
 
 void Application::giveUpFile() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/DiskFileOperations.h"
-#include "core/EnglishStatusTexts.h"
 #include "core/LibraryEngineFactory.h"
 #include "core/Main.h"
 #include "core/ProgressRun.h"
@@ -9,7 +8,9 @@
 #include "core/StartUp.h"
 #include "core/SystemClock.h"
 #include "platform/RunningCopy.h"
-#include "ui/dialogs/EnglishDialogs.h"
+#include "ui/application/LanguageStatusTexts.h"
+#include "ui/dialogs/EnglishPasswordPrompt.h"
+#include "ui/dialogs/MessageWindows.h"
 #include "ui/dialogs/SystemMessageBox.h"
 #include "ui/form/FormRegistry.h"
 
@@ -50,14 +51,17 @@ private:
     void startRun();
     void giveUpFile();
     std::shared_ptr<frmMain> mainWindow();
+    LanguagePorts languagePorts();
+    const QWidget* anchorOf(YesNoDialog::Place place) const;
 
     SharedRecords& m_records = sharedRecords();
     platform::RunningCopy m_runningCopy{kWindowTitle};
     FormRegistry m_forms;
     SystemMessageBox m_messageBox;
-    EnglishYesNoDialog m_yesNoDialog{m_records, m_messageBox};
+    LanguageTable m_languages;
+    MessageWindows m_messageWindows;
     EnglishPasswordPrompt m_passwordPrompt{m_records, [this] { giveUpFile(); }};
-    EnglishStatusTexts m_statusTexts;
+    LanguageStatusTexts m_statusTexts{m_languages};
     QtEventLoop m_eventLoop;
     SystemClock m_clock;
     DiskFileOperations m_files;

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class FormRegistry;
+class QEventLoop;
 
 /// What makes a window a window here. It is loaded once, activated at each showing, asked before it is unloaded, and
 /// may refuse. A form lives in a FormRegistry, which makes and holds it; after unloading, the next use makes a new one.
@@ -21,6 +22,9 @@ public:
 
     /// Loads the form when needed and shows it; a form that was hidden is activated.
     void showForm();
+
+    /// Shows the form over all others and waits until it is unloaded or hidden. Modal forms nest.
+    void showModal();
 
     /// Unloads the form by the program, unless it refuses.
     void unload() override { unload(UnloadMode::Code); }
@@ -43,10 +47,14 @@ protected:
     std::shared_ptr<Form> held() { return shared_from_this(); }
 
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    /// Enter presses the default button; Escape presses the button with the property "escape" set.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     enum class State { NotLoaded, Loaded, QueryingUnload, Unloaded };
 
     FormRegistry& m_registry;
     State m_state = State::NotLoaded;
+    QEventLoop* m_modalLoop = nullptr; ///< runs while the form is shown modally
 };

@@ -8,6 +8,7 @@ namespace {
 constexpr QRgb kProductColour = qRgb(0x00, 0x78, 0xD4);
 constexpr QRgb kPage = qRgb(0xF7, 0xF8, 0xFA);
 constexpr QRgb kCardBorder = qRgb(0xD9, 0xDE, 0xE4);
+constexpr QRgb kHelpText = qRgb(0x5B, 0x65, 0x70);
 constexpr int kLightDesktop = 128; ///< lightness, 0 to 255, from which a desktop counts as light
 
 // Frames carry their part in the window as the property "role": band, column, page, card or foot.
@@ -21,6 +22,12 @@ QFrame[role="column"] QLabel[role="link"]:focus { border-color: #FFFFFF; }
 QFrame[role="page"] { background: palette(window); border: none; }
 QFrame[role="card"] { background: palette(base); border: 1px solid palette(midlight); border-radius: 6px; }
 QFrame[role="foot"] { background: palette(base); border: none; border-top: 1px solid palette(midlight); }
+QFrame[role="foot"] QPushButton { min-width: 104px; }
+QFrame[role="band"] QLabel[role="link"] { border: 2px solid transparent; padding: 0 4px; }
+QFrame[role="band"] QLabel[role="link"]:hover { color: #FFFFFF; }
+QFrame[role="band"] QLabel[role="link"]:focus { border-color: #FFFFFF; }
+QLabel[role="title"] { font-size: 14pt; font-weight: 600; }
+QLabel[role="help"] { font-size: 9pt; color: palette(dark); }
 QLabel[role="status"] { font-size: 12pt; }
 QLabel[role="heading"] { font-weight: 600; }
 QLineEdit { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
@@ -28,7 +35,12 @@ QLineEdit { min-height: 28px; border: 1px solid palette(midlight); border-radius
 QPushButton { min-height: 26px; min-width: 88px; padding: 0 12px; border: 2px solid palette(midlight); border-radius: 4px;
               background: palette(button); color: palette(button-text); }
 QPushButton:default { background: #0078D4; border-color: #0078D4; color: #FFFFFF; }
-QPushButton:focus, QLineEdit:focus, QTextEdit:focus { border: 2px solid palette(text); }
+QPushButton:default:focus { border-color: palette(text); }
+QComboBox { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
+            background: palette(base); }
+QCheckBox, QRadioButton { min-height: 24px; spacing: 8px; }
+QCheckBox:focus, QRadioButton:focus { border: 2px solid palette(text); border-radius: 4px; }
+QPushButton:focus, QLineEdit:focus, QTextEdit:focus, QComboBox:focus, QListView:focus { border: 2px solid palette(text); }
 QPushButton:disabled { color: palette(mid); }
 QProgressBar { min-height: 16px; max-height: 16px; border: 1px solid palette(midlight); border-radius: 4px;
                background: palette(base); text-align: center; }
@@ -45,6 +57,7 @@ void applyStyle(QApplication& application) {
         palette.setColor(QPalette::Button, Qt::white);
         palette.setColor(QPalette::Midlight, QColor(kCardBorder));
         palette.setColor(QPalette::Text, QColor(0x1B, 0x1B, 0x1B));
+        palette.setColor(QPalette::Dark, QColor(kHelpText));
     }
     palette.setColor(QPalette::Highlight, QColor(kProductColour));
     application.setPalette(palette);

@@ -1,6 +1,7 @@
 #include "ui/main/frmMain.h"
 
 #include "core/CommandLineJob.h"
+#include "i18n/Captions.h"
 #include "services/UnloadAllForms.h"
 #include "ui/form/FormRegistry.h"
 #include "ui_frmMain.h"
@@ -23,10 +24,18 @@ void frmMain::connectHandlers() {
 
 void frmMain::Form_Load() {
     m_ports.records.flags.blnCloseRequested = false;
+    applyLanguage();
+}
+
+void frmMain::applyLanguage() {
+    SelectLanguage(m_ports.languages, m_ports.records.settings.intLanguageID);
+    GetControlCaptions(m_ports.languages, *this);
 }
 
 void frmMain::Form_Activate() {
     const ConversionJob& job = m_ports.records.job;
+    applyLanguage();
+    showFinishedDocument();
     actOnCommandLine();
     m_ui->txtFileBrowsePath->setText(QDir::toNativeSeparators(job.strSourcePDF));
     m_ui->txtfilepathOutput->setText(QDir::toNativeSeparators(job.strOutputFile));
@@ -82,5 +91,12 @@ void frmMain::emptyJobBoxes() {
 }
 
 void frmMain::showFinishedDocument(const QString& path) {
-    m_ui->lblFinishedDocument->setText("The document lies in " + QDir::toNativeSeparators(path));
+    m_finishedDocument = path;
+    showFinishedDocument();
+}
+
+void frmMain::showFinishedDocument() {
+    const QString caption = GetCaption(m_ports.languages, m_ui->lblFinishedDocument->objectName());
+    const QString path = QDir::toNativeSeparators(m_finishedDocument);
+    m_ui->lblFinishedDocument->setText(path.isEmpty() ? QString() : QString(caption + ' ' + path).trimmed());
 }

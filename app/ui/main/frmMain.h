@@ -2,6 +2,7 @@
 
 #include "core/RunViews.h"
 #include "core/System.h"
+#include "i18n/LanguageTable.h"
 #include "records/SharedRecords.h"
 #include "ui/form/Form.h"
 
@@ -15,6 +16,7 @@ class frmMain;
 /// What the main window reaches.
 struct MainPorts {
     SharedRecords& records;
+    LanguageTable& languages;
     UserMessages& messageBox;
     YesNoDialog& yesNoDialog;
     EventLoop& eventLoop;
@@ -43,7 +45,10 @@ private:
     void connectHandlers();
     void lblExit_Click();
     void actOnCommandLine();
+    void applyLanguage();
+    void showFinishedDocument();
 
     std::unique_ptr<Ui::frmMain> m_ui;
     MainPorts m_ports;
+    QString m_finishedDocument; ///< path of the last document of this program run
 };

@@ -3,10 +3,10 @@
 #include "core/Leaving.h"
 #include "core/Polling.h"
 #include "core/ProgressLoading.h"
+#include "i18n/CaptionWidths.h"
+#include "i18n/Captions.h"
 #include "ui/form/FormRegistry.h"
 #include "ui_frmProgress.h"
-
-#include <QKeyEvent>
 
 #include <chrono>
 
@@ -16,10 +16,11 @@ constexpr std::chrono::milliseconds kPollInterval{500};
 
 } // namespace
 
-frmProgress::frmProgress(FormRegistry& registry, const RunPorts& ports)
+frmProgress::frmProgress(FormRegistry& registry, const RunPorts& ports, LanguageTable& languages)
     : Form(registry)
     , m_ui(std::make_unique<Ui::frmProgress>())
-    , m_run(ports, *this) {
+    , m_run(ports, *this)
+    , m_languages(languages) {
     m_ui->setupUi(this);
     m_timer1.setInterval(kPollInterval);
     connectHandlers();
@@ -37,6 +38,9 @@ void frmProgress::connectHandlers() {
 // The handlers hold the window, since what they do can unload it while they run.
 
 void frmProgress::Form_Load() {
+    SelectLanguage(m_languages, m_run.records.settings.intLanguageID);
+    GetControlCaptions(m_languages, *this);
+    WrapButtonCaptions(*this);
     run::Form_Load(m_run);
 }
 
@@ -66,15 +70,6 @@ void frmProgress::cmdCancel_click() {
 void frmProgress::Timer1_Timer() {
     const auto alive = held();
     run::Timer1_Timer(m_run);
-}
-
-void frmProgress::keyPressEvent(QKeyEvent* event) {
-    // Escape is whichever way out the window shows.
-    if (event->key() != Qt::Key_Escape)
-        return Form::keyPressEvent(event);
-    for (QPushButton* button : {m_ui->cmdCancel, m_ui->cmdClose})
-        if (button->isVisible() && button->isEnabled())
-            return button->click();
 }
 
 void frmProgress::show() {

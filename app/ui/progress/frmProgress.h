@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/ProgressRun.h"
+#include "i18n/LanguageTable.h"
 #include "ui/form/Form.h"
 
 #include <QTimer>
@@ -17,7 +18,7 @@ class frmProgress : public Form, public ProgressView {
     Q_OBJECT
 
 public:
-    frmProgress(FormRegistry& registry, const RunPorts& ports);
+    frmProgress(FormRegistry& registry, const RunPorts& ports, LanguageTable& languages);
     ~frmProgress() override;
 
     void show() override;
@@ -37,7 +38,6 @@ protected:
     void Form_Load() override;
     void Form_QueryUnload(bool& cancel, UnloadMode unloadMode) override;
     void Form_Unload() override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void connectHandlers();
@@ -51,4 +51,5 @@ private:
     std::unique_ptr<Ui::frmProgress> m_ui;
     QTimer m_timer1;
     ProgressRun m_run;
+    LanguageTable& m_languages;
 };

@@ -1,6 +1,5 @@
 #include "core/Polling.h"
 #include "app/support/RunFixture.h"
-#include "core/EnglishStatusTexts.h"
 #include "core/StageCaptions.h"
 
 namespace tavrelion::tests {
@@ -121,15 +120,6 @@ TEST_F(Polling, EveryNumberMarkOfATextIsReplaced) {
     run().astrStatusText[3] = "%ld: page %ld";
     run().astrStatusText[4] = "/%ld (%ld)";
     EXPECT_EQ(run::GetStatusText(run(), 5, 2, 9), "2: page 2/9 (9)") << "and the two texts join without a separator";
-}
-
-TEST_F(Polling, TheEnglishTextsAreTenAndSayWhatTheCodesMean) {
-    run().astrStatusText = EnglishStatusTexts().lblProgressStatus();
-    EXPECT_EQ(run().astrStatusText.size(), 10);
-    EXPECT_EQ(run::GetStatusText(run(), 1, 0, 0), "Opening the document...");
-    EXPECT_EQ(run::GetStatusText(run(), 5, 3, 8), "Converting page 3 of 8");
-    EXPECT_EQ(run::GetStatusText(run(), 11, 0, 0), "Document complete");
-    EXPECT_EQ(run::GetStatusText(run(), 12, 0, 0), "Image extraction complete");
 }
 
 using StageCaptions = RunFixture;

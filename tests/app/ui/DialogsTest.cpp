@@ -1,5 +1,4 @@
-#include "app/support/RunFixture.h"
-#include "ui/dialogs/EnglishDialogs.h"
+#include "ui/dialogs/EnglishPasswordPrompt.h"
 #include "ui/form/Style.h"
 
 #include <QApplication>
@@ -8,12 +7,14 @@
 #include <QPalette>
 #include <QTimer>
 
+#include <gmock/gmock.h>
+
 namespace tavrelion::tests {
 namespace {
 
-class Dialogs : public testing::Test {
+class PasswordDialog : public testing::Test {
 protected:
-    ~Dialogs() override { records = SharedRecords(); }
+    ~PasswordDialog() override { records = SharedRecords(); }
 
     /// Does something with the dialog that the next call opens.
     template<typename Action>
@@ -23,30 +24,11 @@ protected:
     }
 
     SharedRecords records;
-    Journal journal;
-    FakeMessageBox messageBox{journal};
-    EnglishYesNoDialog yesNo{records, messageBox};
     int filesGivenUp = 0;
     EnglishPasswordPrompt prompt{records, [this] { ++filesGivenUp; }};
 };
 
-TEST_F(Dialogs, AQuestionIsChosenByItsControlAndItsAnswerStandsInTheRecords) {
-    records.job.strOutputFile = "/out/report.docx";
-    messageBox.answer = UserMessages::Answer::Yes;
-    yesNo.ask("lblAlreadyExists", YesNoDialog::Place::BelowCentreOfProgress);
-    EXPECT_EQ(records.flags.intDialogAnswer, 1);
-    messageBox.answer = UserMessages::Answer::No;
-    yesNo.ask("lblCancelConversion", YesNoDialog::Place::BelowCentreOfProgress);
-    EXPECT_EQ(records.flags.intDialogAnswer, 0);
-    yesNo.ask("msgDocumentGenerationComplete", YesNoDialog::Place::CentreOfProgress);
-    yesNo.ask("msgWishToExit", YesNoDialog::Place::CentreOfMain);
-    EXPECT_EQ(messageBox.questions, (QStringList{"/out/report.docx already exists.\nDo you want to replace it?",
-                                                 "Do you want to cancel conversion process?",
-                                                 "Document Generation complete.Do you want to view the document?",
-                                                 "Do you really wish to Exit Tavrelion ?"}));
-}
-
-TEST_F(Dialogs, ThePromptLeavesThePasswordInTheRecords) {
+TEST_F(PasswordDialog, ThePromptLeavesThePasswordInTheRecords) {
     whenOpen([](QInputDialog& dialog) {
         EXPECT_EQ(dialog.labelText(), "Owner Password");
         EXPECT_EQ(dialog.textEchoMode(), QLineEdit::Password);
@@ -59,7 +41,7 @@ TEST_F(Dialogs, ThePromptLeavesThePasswordInTheRecords) {
     EXPECT_EQ(filesGivenUp, 0);
 }
 
-TEST_F(Dialogs, ThePromptCancelledGivesTheFileUp) {
+TEST_F(PasswordDialog, ThePromptCancelledGivesTheFileUp) {
     records.job.strPdfPassword = "before";
     records.flags.intDialogAnswer = 1;
     whenOpen([](QInputDialog& dialog) {

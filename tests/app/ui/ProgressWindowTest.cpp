@@ -1,4 +1,5 @@
 #include "app/support/RunFixture.h"
+#include "app/support/ShippedLanguages.h"
 #include "ui/form/FormRegistry.h"
 #include "ui/form/LinkLabel.h"
 #include "ui/main/frmMain.h"
@@ -30,7 +31,7 @@ protected:
     frmProgress& start() {
         const RunPorts ports{records,   mainWindow, messageBox, yesNoDialog, passwordPrompt, statusTexts,
                              eventLoop, clock,      files,      engines,     followUp,       registry};
-        m_window = registry.obtain<frmProgress>(ports);
+        m_window = registry.obtain<frmProgress>(ports, languages);
         m_window->load();
         return *m_window;
     }
@@ -40,6 +41,8 @@ protected:
     }
     QPushButton& button(const char* name) const { return child<QPushButton>(name); }
     QString status() const { return child<QLabel>("lblStatus").text(); }
+
+    LanguageTable languages{shippedLanguages(records)};
 
     /// Waits for the window's own timer, which the tests do not speed up.
     template<typename Condition>
@@ -61,7 +64,7 @@ TEST_F(ProgressWindow, StandsOpenWithItsButtonsWhileTheEngineWorks) {
     EXPECT_TRUE(button("cmdCancel").isVisible());
     EXPECT_FALSE(button("cmdClose").isVisible());
     EXPECT_FALSE(button("cmdViewLog").isVisible());
-    EXPECT_EQ(status(), "Scanning PDF...");
+    EXPECT_EQ(status(), "Scanning the PDF...");
     EXPECT_EQ(child<QProgressBar>("ProgressBar1").minimum(), 0);
     EXPECT_EQ(child<QProgressBar>("ProgressBar1").maximum(), 10);
     EXPECT_EQ(child<QProgressBar>("ProgressBar1").value(), 4);
@@ -146,8 +149,8 @@ class MainWindow : public RunFixture {
 protected:
     MainWindow() {
         records.job = ConversionJob();
-        m_window =
-            registry.obtain<frmMain>(MainPorts{records, messageBox, yesNoDialog, eventLoop, [this] { ++runsStarted; }});
+        m_window = registry.obtain<frmMain>(
+            MainPorts{records, languages, messageBox, yesNoDialog, eventLoop, [this] { ++runsStarted; }});
     }
     ~MainWindow() override {
         m_window.reset();
@@ -157,6 +160,7 @@ protected:
     LinkLabel& exitLabel() const { return *m_window->findChild<LinkLabel*>("lblExit"); }
 
     FormRegistry registry;
+    LanguageTable languages{shippedLanguages(records)};
     int runsStarted = 0;
 
 private:

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QIcon>
+#include <QWidget>
+
+/// A picture from a file, drawn as sharp as the screen is. It is no label: a caption pass leaves it alone.
+class Picture : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Picture(QWidget* parent = nullptr);
+
+    /// Shows the picture of that file; one that cannot be read leaves what was shown.
+    void load(const QString& path);
+    bool isEmpty() const { return m_picture.isNull(); }
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QIcon m_picture;
+};
