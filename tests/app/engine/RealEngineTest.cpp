@@ -56,9 +56,9 @@ protected:
 
     /// What the pass over the window's captions records whenever a window is loaded.
     QString errorLogButForCaptions() const {
-        QStringList records = errorLog().split(QString(83, '-') + "\r\n", Qt::SkipEmptyParts);
-        records.removeIf([](const QString& record) { return record.contains("Module Name: WrapButtonCaptions\r\n"); });
-        return records.join("");
+        QStringList failures = errorLog().split(QString(83, '-') + "\r\n", Qt::SkipEmptyParts);
+        failures.removeIf([](const QString& record) { return record.contains("Module Name: WrapButtonCaptions\r\n"); });
+        return failures.join("");
     }
 
     LanguageTable languages{

@@ -22,8 +22,8 @@ using namespace tavrelion::tests;
 /// The real windows over a faked run, each shown as a user meets it and saved as a picture.
 class Gallery : public RunFixture {
 public:
-    Gallery(std::int16_t language, QString folder)
-        : m_folder(std::move(folder))
+    Gallery(std::int16_t language, QString target)
+        : m_folder(std::move(target))
         , m_language(QString(languageFileNames(language).main).section('.', 0, 0).toLower()) {
         records.settings.intLanguageID = language;
         records.job.strOutputFile = "/home/ada/Documents/Annual report.docx";
