@@ -19,7 +19,7 @@ enum class Visibility : std::uint8_t {
     Invisible,   ///< text rendering mode 3 (7 for clips): the words behind a scanned page, for instance
     OffPage,     ///< wholly outside the crop box
     ClippedAway, ///< wholly outside the clip path
-    HiddenLayer, ///< optional content that is switched off
+    HiddenLayer, ///< optional content that is switched off; PdfDocument leaves it out
 };
 
 /// A font as the page's text uses it.
@@ -130,7 +130,8 @@ struct Link {
 
 enum class AnnotationKind { Text, FreeText, Highlight, Underline, StrikeOut, Squiggly, Stamp, Ink, Shape, FileAttachment, Other };
 
-/// An annotation that is neither a link nor a form field.
+/// An annotation that is neither a link nor a form field. FreeText, Stamp, Ink and Shape stand among the page's glyphs, paths and
+/// pictures as well; the others are not painted.
 struct Annotation {
     AnnotationKind kind = AnnotationKind::Other;
     Rect box;
@@ -143,7 +144,7 @@ struct Annotation {
 
 enum class FieldKind { Text, CheckBox, RadioButton, ComboBox, ListBox, PushButton, Signature };
 
-/// A form field's widget on this page.
+/// A form field's widget on this page. What it shows stands among the page's glyphs, paths and pictures as well.
 struct FormField {
     FieldKind kind = FieldKind::Text;
     Rect box;

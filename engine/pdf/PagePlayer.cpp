@@ -4,6 +4,8 @@
 #include "pdf/PageSpace.h"
 #include "pdf/SurplusRestores.h"
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string>
 
@@ -74,10 +76,22 @@ bool isPartOfPage(::Annot* annotation, void*) {
     }
 }
 
-void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair) {
-    const double dpi = 72.0 * userUnitOf(page);
-    const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, -1, -1, -1, -1, false,
-                                                    &TimeBudget::isSpent, &budget, document.getXRef()));
+PageSlice sliceOf(const Rect& region, double scale) {
+    PageSlice slice;
+    slice.scale = scale;
+    slice.x = static_cast<int>(std::floor(region.left * scale));
+    slice.y = static_cast<int>(std::floor(region.top * scale));
+    slice.width = std::max(1, static_cast<int>(std::ceil(region.right * scale)) - slice.x);
+    slice.height = std::max(1, static_cast<int>(std::ceil(region.bottom * scale)) - slice.y);
+    return slice;
+}
+
+void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
+              const PageSlice& slice) {
+    const double dpi = 72.0 * userUnitOf(page) * slice.scale;
+    const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, slice.x, slice.y, slice.width,
+                                                    slice.height, false, &TimeBudget::isSpent, &budget,
+                                                    document.getXRef()));
     playContent(page, *gfx, repair);
     if (::Annots* annotations = page.getAnnots())
         for (::Annot* annotation : annotations->getAnnots())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Geometry.h"
+
 #include <chrono>
 #include <cstdint>
 
@@ -35,7 +37,21 @@ bool isPartOfPage(::Annot* annotation, void* unused);
 /// How a page's content is taken: as it stands, or without restores of states that were never saved.
 enum class ContentRepair : std::uint8_t { None, SurplusRestores };
 
-/// Interprets a page's content and the annotations that are part of it on a device whose space is page space.
-void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair);
+/// The part of a page that a painting device gets, in its pixels.
+struct PageSlice {
+    double scale = 1; ///< pixels a point
+    int x = -1;       ///< -1 for the whole page
+    int y = -1;
+    int width = -1;
+    int height = -1;
+};
+
+/// The pixels that cover a part of the page at `scale` pixels a point.
+PageSlice sliceOf(const Rect& region, double scale);
+
+/// Interprets a page's content and the annotations that are part of it on a device. Without a slice the device's space
+/// is page space.
+void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
+              const PageSlice& slice = {});
 
 } // namespace orvane::pdf

@@ -33,6 +33,7 @@ public:
     explicit PageReader(const PageReading& reading);
 
     const GlyphReader& glyphs() const { return m_glyphs; }
+    const TransparencyReader& transparency() const { return m_transparency; }
 
     bool upsideDown() override { return true; }
     bool useDrawChar() override { return true; }

@@ -37,10 +37,7 @@ void PageReader::addPicture(GfxState& state, const PictureSource& source, const 
     // The pictures of masks and patterns' cells are weighed only, not shown.
     PictureStore* store = m_transparency.isInMask() ? nullptr : m_reading.store;
     m_pictures.read(state, source, object, store, m_marks.current(), m_paintOrder++);
-    if (m_transparency.isMasked() && store)
-        m_reading.diagnostics.add(DiagnosticKind::PictureSimplified, m_reading.page.number,
-                                  "a picture is shown without the soft mask that lies over it",
-                                  m_reading.page.pictures.back().box);
+    m_transparency.coverLastPicture();
 }
 
 void PageReader::drawImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,

@@ -7,6 +7,7 @@
 #include "pdf/DoublePainting.h"
 #include "pdf/FormReader.h"
 #include "pdf/LinkReader.h"
+#include "pdf/MaskedPictures.h"
 #include "pdf/OutlineReader.h"
 #include "pdf/PagePlayer.h"
 #include "pdf/PageReader.h"
@@ -25,9 +26,6 @@
 
 namespace orvane::pdf {
 namespace {
-
-/// No page that a person made takes this long.
-constexpr std::chrono::seconds kPageTimeBudget{30};
 
 void tellComplaints(const ComplaintCollector& complaints, int page, Diagnostics& diagnostics) {
     if (complaints.count() == 1)
@@ -65,6 +63,9 @@ struct PdfDocument::Impl {
         unicode.repair(content, reader.glyphs().sources(), diagnostics);
         dropDoublePaintedGlyphs(content);
         composeAccents(content);
+        if (options.pictures)
+            paintMaskedPictures(content, reader.transparency().maskedPictures(), page, *document, repair,
+                                *options.pictures, diagnostics);
         return content;
     }
 
@@ -137,7 +138,7 @@ PageContent PdfDocument::readPage(int number, const PageReadOptions& options, Di
         return content;
     }
     const ComplaintCollector complaints;
-    TimeBudget budget(kPageTimeBudget);
+    TimeBudget budget(options.timeBudget);
     Diagnostics own;
     PageContent content = m_impl->play(*page, options, own, budget, ContentRepair::None);
     if (complaints.hasSurplusRestore()) {
@@ -157,8 +158,11 @@ PageContent PdfDocument::readPage(int number, const PageReadOptions& options, Di
 }
 
 PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch) const {
-    const ComplaintCollector silence;
-    return paintRegion(*m_impl->document, page, region, dotsPerInch);
+    const ComplaintCollector complaints;
+    PictureDataPtr picture = paintRegion(*m_impl->document, page, region, dotsPerInch, ContentRepair::None);
+    if (complaints.hasSurplusRestore())
+        picture = paintRegion(*m_impl->document, page, region, dotsPerInch, ContentRepair::SurplusRestores);
+    return picture;
 }
 
 } // namespace orvane::pdf

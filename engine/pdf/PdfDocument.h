@@ -4,6 +4,7 @@
 #include "base/PictureStore.h"
 #include "pdf/PageContent.h"
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -64,7 +65,8 @@ struct PageInfo {
 };
 
 struct PageReadOptions {
-    PictureStore* pictures = nullptr; ///< takes the page's pictures as they are read; null leaves them out
+    PictureStore* pictures = nullptr; ///< takes the page's pictures as they are read; null leaves them out. One for all pages.
+    std::chrono::milliseconds timeBudget{30'000}; ///< no page that a person made takes this long; the rest of it is left out
 };
 
 /// An open PDF.

@@ -1,6 +1,7 @@
 #include "pdf/PictureDecoder.h"
 
 #include "base/PngEncoder.h"
+#include "pdf/CodedSize.h"
 #include "pdf/JpegPassThrough.h"
 #include "pdf/PageSpace.h"
 #include "pdf/SampleRows.h"
@@ -20,9 +21,8 @@ namespace {
 constexpr std::int64_t kMaxPixels = 300'000'000;
 constexpr int kMaxSide = 1 << 20;
 
-bool isSizeSane(int width, int height) {
-    return width > 0 && height > 0 && width <= kMaxSide && height <= kMaxSide &&
-           std::int64_t{width} * height <= kMaxPixels;
+bool isSizeSane(std::int64_t width, std::int64_t height) {
+    return width > 0 && height > 0 && width <= kMaxSide && height <= kMaxSide && width * height <= kMaxPixels;
 }
 
 /// The colours of all values of a picture with one component of up to 8 bits.
@@ -224,7 +224,8 @@ private:
 PictureData decodeMasked(const PictureSource& source, SampleRows& samples) {
     MaskedPictureDecoder decoder(source);
     const auto& mask = source.mask;
-    if (!mask || !isSizeSane(mask->width, mask->height))
+    const auto coded = mask ? codedSize(*mask->stream) : std::nullopt;
+    if (!mask || !isSizeSane(mask->width, mask->height) || (coded && !isSizeSane(coded->width, coded->height)))
         return decoder.decode(samples, nullptr);
     const int components = mask->colors ? mask->colors->getNumPixelComps() : 1;
     SampleRows maskSamples(*mask->stream, mask->width, mask->height, components,
@@ -257,6 +258,11 @@ std::optional<PictureData> decodePicture(const PictureSource& source, std::strin
     if (source.colors && !source.mask && !source.colorKey)
         if (auto jpeg = jpegAsItStands(*source.stream, *source.colors))
             return jpeg;
+
+    if (const auto coded = codedSize(*source.stream); coded && !isSizeSane(coded->width, coded->height)) {
+        trouble = fmt::format("a picture coded as {} by {} pixels is not decoded", coded->width, coded->height);
+        return std::nullopt;
+    }
 
     const int components = source.colors ? source.colors->getNumPixelComps() : 1;
     const int bits = source.colors ? source.colors->getBits() : 1;

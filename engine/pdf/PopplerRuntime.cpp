@@ -6,7 +6,9 @@
 #include <mutex>
 
 #include <Error.h>
+#include <GfxState.h>
 #include <GlobalParams.h>
+#include <Page.h>
 
 namespace orvane::pdf {
 namespace {
@@ -26,6 +28,10 @@ void preparePoppler() {
     std::call_once(once, [] {
         setErrorCallback(onPopplerError);
         globalParams = std::make_unique<GlobalParams>();
+        // The first graphics state makes the colour profiles that all share, and is not guarded against a second one
+        // beside it.
+        const PDFRectangle box(0, 0, 1, 1);
+        const GfxState state(72, 72, &box, 0, false);
     });
 }
 

@@ -25,6 +25,9 @@ void TransparencyReader::endGroup() {
 }
 
 void TransparencyReader::paintGroup(double opacity) {
+    if (m_mask)
+        for (std::size_t i = m_ended.firstPicture; i < m_page.pictures.size(); ++i)
+            noteMasked(i);
     const double share = opacity * m_mask.value_or(1);
     if (share >= 1)
         return;
@@ -58,6 +61,7 @@ void TransparencyReader::setMask(MaskKind kind, const Rect& area) {
     m_mask = (0.30 * mean.red + 0.59 * mean.green + 0.11 * mean.blue) / 255;
     m_page.paths.resize(m_ended.firstPath);
     m_page.pictures.resize(m_ended.firstPicture);
+    std::erase_if(m_maskedPictures, [this](std::size_t index) { return index >= m_page.pictures.size(); });
     m_page.glyphs.resize(m_ended.firstGlyph);
 }
 
@@ -71,6 +75,16 @@ void TransparencyReader::coverLastPath() {
     }
     if (path.stroke)
         path.stroke->opacity *= *m_mask;
+}
+
+void TransparencyReader::noteMasked(std::size_t picture) {
+    if (!isInMask() && (m_maskedPictures.empty() || m_maskedPictures.back() < picture))
+        m_maskedPictures.push_back(picture);
+}
+
+void TransparencyReader::coverLastPicture() {
+    if (m_mask && !m_page.pictures.empty())
+        noteMasked(m_page.pictures.size() - 1);
 }
 
 } // namespace orvane::pdf

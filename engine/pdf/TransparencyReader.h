@@ -30,12 +30,16 @@ public:
 
     /// What is painted now belongs to a mask, not to the page.
     bool isInMask() const { return m_maskDepth > 0; }
-    /// A mask lies over what is painted now.
-    bool isMasked() const { return m_mask.has_value(); }
     /// Gives the path that was added last what the mask leaves of it.
     void coverLastPath();
+    /// Notes that the mask lies over the picture that was added last.
+    void coverLastPicture();
+    /// The pictures that a mask lies over, by index into the page's.
+    const std::vector<std::size_t>& maskedPictures() const { return m_maskedPictures; }
 
 private:
+    void noteMasked(std::size_t picture);
+
     struct Extent {
         std::size_t firstPath = 0;
         std::size_t firstPicture = 0;
@@ -49,6 +53,7 @@ private:
     int m_maskDepth = 0;
     std::optional<double> m_mask; ///< mean opacity that it leaves
     std::vector<std::optional<double>> m_maskLevels;
+    std::vector<std::size_t> m_maskedPictures;
 };
 
 } // namespace orvane::pdf

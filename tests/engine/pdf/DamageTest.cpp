@@ -74,6 +74,30 @@ TEST(Damage, OfFormsThatCallThemselvesEnds) {
     EXPECT_EQ(textOf(pdf.page()), "a");
 }
 
+TEST(Damage, OfContentWithoutEndStopsAtItsTime) {
+    // Each form calls the next twice: 2^40 calls.
+    PdfBuilder builder;
+    std::vector<int> forms;
+    for (int i = 0; i < 40; ++i)
+        forms.push_back(builder.reserve());
+    for (std::size_t i = 0; i < forms.size(); ++i) {
+        const std::string next = pdfRef(forms[std::min(i + 1, forms.size() - 1)]);
+        const std::string content = "/Next Do /Next Do";
+        builder.set(forms[i], "<< /Type /XObject /Subtype /Form /BBox [0 0 600 700] /Resources << /XObject << /Next " +
+                                  next + " >> >> /Length " + std::to_string(content.size()) + " >>\nstream\n" +
+                                  content + "\nendstream");
+    }
+    OpenedPdf pdf(builder.page(PdfPage{
+        "BT /F1 10 Tf 50 500 Td (a) Tj ET /Fm1 Do", 612, 792, {}, "/XObject << /Fm1 " + pdfRef(forms[0]) + " >>", {}}));
+    PageReadOptions options;
+    options.timeBudget = std::chrono::milliseconds(200);
+    const auto start = std::chrono::steady_clock::now();
+    const PageContent page = pdf.document().readPage(1, options, pdf.diagnostics());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    EXPECT_EQ(textOf(page), "a");
+    EXPECT_EQ(pdf.count(DiagnosticKind::TimeBudgetExceeded), 1);
+}
+
 TEST(Damage, ThatLosesTheEndOfTheFileLosesNoPageBeforeIt) {
     PdfBuilder builder;
     builder.page("BT /F1 10 Tf 50 500 Td (one) Tj ET").page("BT /F1 10 Tf 50 500 Td (two) Tj ET");

@@ -246,5 +246,57 @@ TEST(Pictures, PaintedThroughAPatternOfOneCellAreRead) {
     EXPECT_NEAR(content.pictures[0].box.top, 150, 1e-6);
 }
 
+TEST(Pictures, UnderASoftMaskOfTheStateAreFadedByIt) {
+    PdfBuilder builder;
+    const int image = builder.addStream(pdfImage(1, 1, "/DeviceRGB", 8), std::string("\xFF\x00\x00", 3));
+    const int mask = builder.addStream(
+        "/Type /XObject /Subtype /Form /BBox [0 0 300 300] /Group << /S /Transparency /CS /DeviceGray >> "
+        "/Resources << >>",
+        "1 g 0 0 150 300 re f");
+    PdfPage page{"0 0 1 rg 0 0 300 300 re f q /Masked gs q 100 0 0 100 100 100 cm /Im1 Do Q Q BT /F1 20 Tf 110 150 Td "
+                 "(over) Tj ET",
+                 300,
+                 300,
+                 {},
+                 "/XObject << /Im1 " + pdfRef(image) + " >> /ExtGState << /Masked << /SMask << /S /Luminosity /G " +
+                     pdfRef(mask) + " >> >> >>",
+                 {}};
+    OpenedPdf pdf(builder.page(page));
+    const PageContent content = pdf.page();
+    ASSERT_EQ(content.pictures.size(), 1u);
+    const Picture& picture = content.pictures[0];
+    EXPECT_NEAR(picture.box.left, 100, 1);
+    EXPECT_NEAR(picture.box.bottom, 200, 1);
+    const Pixels pixels = readPng(pdf.pictures(), picture.id);
+    const int middle = pixels.height / 2;
+    EXPECT_EQ(pixels.at(pixels.width / 4, middle), "FF0000FF") << "neither the ground nor the text over it is in it";
+    EXPECT_EQ(pixels.at(pixels.width * 3 / 4, middle).substr(6), "00");
+    EXPECT_EQ(pdf.count(DiagnosticKind::PictureSimplified), 0);
+}
+
+TEST(Pictures, CodedLargerThanTheyMayBeAreNotDecoded) {
+    // The dictionary speaks of 8 by 8 pixels, the coded data of 65000 by 65000.
+    std::string huge = kGrayJpeg;
+    const std::size_t frame = huge.find("\xFF\xC0");
+    huge.replace(frame + 5, 4, std::string("\xFD\xE8\xFD\xE8", 4));
+    const std::string jpeg2000 =
+        std::string("\xFF\x4F\xFF\x51\x00\x29\x00\x00\x7F\xFF\xFF\xFF\x7F\xFF\xFF\xFF", 16) + std::string(64, '\0');
+    const std::string jbig2 =
+        std::string("\x00\x00\x00\x00\x30\x00\x01\x00\x00\x00\x13\x00\x0F\x00\x00\x00\x0F\x00\x00", 19) +
+        std::string(32, '\0');
+    const std::pair<std::string, std::string> rows[] = {
+        {"/DCTDecode /Decode [1 0]", huge}, {"/JPXDecode", jpeg2000}, {"/JBIG2Decode", jbig2}};
+    for (const auto& [filter, data] : rows) {
+        PdfBuilder builder;
+        const int bits = filter == "/JBIG2Decode" ? 1 : 8;
+        const int image = builder.addStream(pdfImage(8, 8, "/DeviceGray", bits) + " /Filter " + filter, data);
+        OpenedPdf pdf(builder.page(pageWith(image)));
+        const PageContent page = pdf.page();
+        ASSERT_EQ(page.pictures.size(), 1u) << filter;
+        EXPECT_EQ(page.pictures[0].id.value, 0u) << filter;
+        EXPECT_EQ(pdf.count(DiagnosticKind::PictureUnreadable), 1) << filter;
+    }
+}
+
 } // namespace
 } // namespace orvane::pdf
