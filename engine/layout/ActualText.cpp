@@ -80,11 +80,15 @@ void applyActualTexts(std::vector<Cluster>& clusters, const std::vector<pdf::Mar
         if (const int mark = speakingMark(marks, cluster.mark); mark >= 0)
             membersOfMark[mark].push_back(&cluster);
 
-    for (const auto& [mark, members] : membersOfMark) {
+    for (auto& [mark, members] : membersOfMark) {
         const std::u32string text = normalizeGlyphText(utf32FromUtf8(marks[static_cast<std::size_t>(mark)].actualText));
         std::u32string painted;
-        for (const Cluster* member : members)
+        for (Cluster* member : members) {
             painted += member->text;
+            // A mark that only carries the text has done its work; what is left is the structure around it.
+            if (marks[static_cast<std::size_t>(mark)].mcid < 0)
+                member->mark = marks[static_cast<std::size_t>(mark)].parent;
+        }
         // A single character is always worth it: a hyphen that says it is a soft one.
         if (text.size() != 1 && saySame(essenceOf(painted), essenceOf(text)))
             continue;

@@ -39,6 +39,11 @@ bool isPresentationForm(char32_t c) {
            (c >= 0xFE70 && c <= 0xFEFC);
 }
 
+/// They speak of the logical order; glyphs come in the order of the page.
+bool isDirectionMark(char32_t c) {
+    return c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069);
+}
+
 std::u32string baseLettersOf(char32_t c) {
     UErrorCode status = U_ZERO_ERROR;
     const icu::Normalizer2* normalizer = icu::Normalizer2::getNFKCInstance(status);
@@ -84,6 +89,15 @@ bool isSetWithoutBlanks(char32_t c) {
     default:
         return false;
     }
+}
+
+bool isHangul(char32_t c) {
+    UErrorCode status = U_ZERO_ERROR;
+    return c >= 0x1100 && uscript_getScript(toIcu(c), &status) == USCRIPT_HANGUL;
+}
+
+bool isShapeless(char32_t c) {
+    return u_charType(toIcu(c)) == U_FORMAT_CHAR && c != 0xAD;
 }
 
 bool isLetter(char32_t c) {
@@ -149,7 +163,7 @@ std::u32string normalizeGlyphText(std::u32string_view text) {
             result += baseLettersOf(c);
         else if (c == U'\t' || c == U'\n' || c == U'\r')
             result += U' ';
-        else if (u_charType(toIcu(c)) != U_CONTROL_CHAR && c != 0xFEFF && c <= 0x10FFFF)
+        else if (u_charType(toIcu(c)) != U_CONTROL_CHAR && c != 0xFEFF && c <= 0x10FFFF && !isDirectionMark(c))
             result += c;
     }
     return result;

@@ -14,6 +14,9 @@ bool isBlank(std::u32string_view text);
 bool isCombiningMark(char32_t c);
 /// Scripts written without blanks and with characters of one width: ideographs, kana, bopomofo, their punctuation.
 bool isSetWithoutBlanks(char32_t c);
+bool isHangul(char32_t c);
+/// Joiners and the like, which have no shape of their own.
+bool isShapeless(char32_t c);
 bool isLetter(char32_t c);
 bool isUpperCase(char32_t c);
 bool isDigit(char32_t c);
@@ -28,8 +31,8 @@ char32_t combiningAccent(char32_t c);
 /// `base` with `mark` as one character where there is one, else as base and mark.
 std::u32string compose(std::u32string_view base, char32_t mark);
 
-/// The text with presentation forms and Latin ligatures in their base letters, surrogate pairs joined and control
-/// characters left out.
+/// The text with presentation forms and Latin ligatures in their base letters, surrogate pairs joined, control
+/// characters and marks of direction left out.
 std::u32string normalizeGlyphText(std::u32string_view text);
 
 } // namespace orvane::layout

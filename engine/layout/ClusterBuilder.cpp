@@ -105,12 +105,18 @@ public:
 private:
     /// The nearest cluster in paint order that still has a text; null at the ends.
     Cluster* before(std::size_t i) {
-        while (i-- > 0)
-            if (!m_clusters[i].text.empty())
-                return &m_clusters[i];
+        for (std::size_t steps = 1; steps <= m_limits.mostMarks && steps <= i; ++steps)
+            if (!m_clusters[i - steps].text.empty())
+                return &m_clusters[i - steps];
         return nullptr;
     }
-    Cluster* after(std::size_t i) { return i + 1 < m_clusters.size() ? &m_clusters[i + 1] : nullptr; }
+    /// The nearest one that is no mark itself.
+    Cluster* after(std::size_t i) {
+        for (std::size_t steps = 1; steps <= m_limits.mostMarks && i + steps < m_clusters.size(); ++steps)
+            if (!isMarkOnly(m_clusters[i + steps].text))
+                return &m_clusters[i + steps];
+        return nullptr;
+    }
 
     void joinMark(std::size_t i) {
         Cluster& mark = m_clusters[i];
@@ -120,6 +126,9 @@ private:
             left = nullptr;
         if (right && !canCarry(*right, mark, m_limits))
             right = nullptr;
+        // Right-to-left text is painted from its end, so that a mark comes before its letter.
+        if (left && right && isRightToLeftLetter(right->text.front()))
+            left = nullptr;
         if (left && right) {
             const bool isDeeperRight =
                 depthInside(*right, mark) > depthInside(*left, mark) + m_limits.markTie * mark.size;
@@ -160,6 +169,41 @@ private:
     const LayoutParameters::Clusters& m_limits;
 };
 
+bool isUnknown(const Cluster& cluster) {
+    return cluster.text.size() == 1 && cluster.text.front() == kUnknownCharacter;
+}
+
+/// Unknown glyphs between Arabic letters that touch them are the strokes by which a line was stretched: they say
+/// nothing.
+void dropStretching(std::vector<Cluster>& clusters, const LayoutParameters::Clusters& limits) {
+    const auto isJoined = [&](const Cluster& left, const Cluster& right) {
+        return left.frame == right.frame && std::abs(left.baseline - right.baseline) <= limits.touch * left.size &&
+               right.start - left.end <= limits.touch * left.size && right.end > left.start;
+    };
+    for (std::size_t i = 1; i + 1 < clusters.size(); ++i) {
+        std::size_t last = i;
+        while (last < clusters.size() && isUnknown(clusters[last]) && isJoined(clusters[last - 1], clusters[last]))
+            ++last;
+        if (last == i)
+            continue;
+        if (last < clusters.size() && isRightToLeftLetter(clusters[i - 1].text.back()) &&
+            isRightToLeftLetter(clusters[last].text.front()) && isJoined(clusters[last - 1], clusters[last])) {
+            clusters[i - 1].end = std::max(clusters[i - 1].end, clusters[last - 1].end);
+            for (std::size_t gone = i; gone < last; ++gone)
+                clusters[gone].text.clear();
+        }
+        i = last;
+    }
+    std::erase_if(clusters, [](const Cluster& cluster) { return cluster.text.empty(); });
+}
+
+/// Joiners and other characters without a shape take no room, whatever glyph stands in for them.
+void flattenShapeless(std::vector<Cluster>& clusters) {
+    for (Cluster& cluster : clusters)
+        if (std::all_of(cluster.text.begin(), cluster.text.end(), [](char32_t c) { return isShapeless(c); }))
+            cluster.end = cluster.start;
+}
+
 } // namespace
 
 std::vector<Cluster> buildClusters(const pdf::PageContent& page, const GlyphSelection& selection,
@@ -173,6 +217,8 @@ std::vector<Cluster> buildClusters(const pdf::PageContent& page, const GlyphSele
     }
     applyActualTexts(clusters, page.marks, parameters, diagnostics);
     MarkJoiner(clusters, parameters.clusters).join();
+    dropStretching(clusters, parameters.clusters);
+    flattenShapeless(clusters);
     return clusters;
 }
 

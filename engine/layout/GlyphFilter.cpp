@@ -43,8 +43,10 @@ public:
 private:
     /// How far apart two glyphs may stand to be one; less for narrow ones, of which two may stand side by side ("ll").
     double reachOf(const pdf::Glyph& glyph) const {
-        const double byAdvance = glyph.advance > 0 ? m_limits.duplicateAdvanceShare * glyph.advance
-                                                   : m_limits.duplicateMarkDistance * glyph.fontSize;
+        // Glyphs that say nothing may be strokes that are put together with much overlap.
+        const double byAdvance = glyph.advance > 0 && !glyph.unicode.empty()
+                                     ? m_limits.duplicateAdvanceShare * glyph.advance
+                                     : m_limits.duplicateMarkDistance * glyph.fontSize;
         return std::min({m_limits.duplicateDistance * glyph.fontSize, byAdvance, kCell});
     }
     static bool repeats(const pdf::Glyph& earlier, const pdf::Glyph& later, double reach) {

@@ -13,10 +13,10 @@ double usualGap(const std::vector<Cluster>& clusters, std::size_t fewest) {
     std::vector<double> gaps;
     for (std::size_t i = 1; i < clusters.size(); ++i)
         if (clusters[i].gapBefore.endsWord)
-            gaps.push_back(clusters[i].gapBefore.width);
+            gaps.push_back(clusters[i].gapBefore.ownWidth());
     if (gaps.size() < fewest)
         return 0;
-    const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
+    const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>((gaps.size() - 1) / 2);
     std::nth_element(gaps.begin(), middle, gaps.end());
     return *middle;
 }
@@ -73,8 +73,8 @@ std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
     for (std::size_t i = 0; i < clusters.size(); ++i) {
         const Cluster& cluster = clusters[i];
         const ClusterGap& gap = cluster.gapBefore;
-        const bool isWide = i > 0 && gap.endsWord && gap.width >= m_limits.wideGap * row.fontSize &&
-                            gap.width >= m_limits.wideAgainstUsual * usual;
+        const bool isWide = i > 0 && gap.endsWord && gap.ownWidth() >= m_limits.wideGap * row.fontSize &&
+                            gap.ownWidth() >= m_limits.wideAgainstUsual * usual;
         if (i == 0 || isWide || gap.leader != document::TabLeader::None) {
             runs.push_back({i, i, cluster.start, cluster.end, false, gap.leader != document::TabLeader::None});
         }

@@ -33,6 +33,8 @@ struct LayoutParameters {
         double markRise = 0.5;      ///< of the font size; how far a mark's baseline may be off its letter's
         double markReach = 0.3;     ///< of the font size; how far beside its letter a mark may be placed
         double markTie = 0.05;      ///< of the font size; below this difference a mark goes with the letter before it
+        std::size_t mostMarks = 8;  ///< marks on one letter
+        double touch = 0.05;        ///< of the font size; glyphs this close touch
         double accentOverlap = 0.5; ///< of the narrower one; a spacing accent over this much of a letter belongs to it
     } clusters;
 
@@ -76,12 +78,13 @@ struct LayoutParameters {
         unsigned fewestLetterGaps = 3;     ///< gaps it takes to measure letter spacing
         unsigned fewestSpacedLetters = 4;  ///< gaps it takes to believe in letters spaced as wide as blanks
         double tightestSpacing = 0.5;      ///< of the blank; letter spacing up to this needs no further proof
+        double widestSpacing = 0.6;        ///< of the font size; letters wider apart than this are words of their own
         double greatestCondensing = 0.3;   ///< of the font size; letters are not set tighter than this
         double greatestBorrowedGap = 0.15; ///< of the font size; letter spacing taken over from the rest of the row
         double evenShare = 0.75;           ///< the middle half of letter-spaced gaps are alike...
         double evenness = 0.35;            ///< ...within this share of their width
         double blankShare = 0.2;           ///< of the blank; a painted blank that leaves less room than this is none
-        double gapAmongBlanks = 0.6;       ///< of the blank; ends a word where blanks are painted
+        double gapAmongBlanks = 0.45;      ///< of the blank; ends a word where blanks are painted
         double gapWithoutBlanks = 0.45;    ///< of the blank; ends a word where they are not
         double scriptGap = 0.9;            ///< of the blank; between a script and its host
         double eastAsianGap = 0.7;         ///< of the font size; between characters written without blanks
@@ -134,7 +137,7 @@ struct LayoutParameters {
         unsigned fewestDots = 4;
         double shortest = 1.5;       ///< of the font size; length of a leader
         double widestGap = 1.5;      ///< of the font size; between two of its dots
-        double nextColumn = 3;       ///< of the font size; a gap that ends what the leader leads to
+        double nextColumn = 1;       ///< of the font size; a gap that ends what the leader leads to
         unsigned longestTarget = 16; ///< characters of what it leads to
     } leaders;
 
@@ -207,35 +210,35 @@ struct LayoutParameters {
 
     /// RunningHeads: what repeats at the head and foot of pages.
     struct RunningHeads {
-        double reach = 0.34;             ///< of the page's height; nothing farther from the edge is a running head
-        double firstReach = 0.2;         ///< of the page's height; within which the outermost row stands
-        int maximumRows = 12;            ///< from one edge
-        double sameRow = 0.3;            ///< of the font size; baselines this near are one row
-        double samePosition = 2.0;       ///< points; rows of two pages this near stand in one place
-        double sameSize = 0.6;           ///< points; of their fonts
-        double chainGap = 30.0;          ///< points; rows of one head are not farther apart
-        double bodyGap = 0.35;           ///< of the font size; between a head and the text, where few pages repeat it
-        int surePages = 3;               ///< a head that so many pages repeat may touch the text
-        double headingSize = 1.3;        ///< of the document's usual size; larger rows that count are headings
-        double sameSide = 12.0;          ///< points; distances to both sides of the page that differ by less: a centred row
-        double sidePart = 5.0;           ///< points; a rule this far within a row crosses it
-        double bodilessShare = 0.5;      ///< of the pages; where more would be left empty, what repeats is the text
+        double reach = 0.34;        ///< of the page's height; nothing farther from the edge is a running head
+        double firstReach = 0.2;    ///< of the page's height; within which the outermost row stands
+        int maximumRows = 12;       ///< from one edge
+        double sameRow = 0.3;       ///< of the font size; baselines this near are one row
+        double samePosition = 2.0;  ///< points; rows of two pages this near stand in one place
+        double sameSize = 0.6;      ///< points; of their fonts
+        double chainGap = 30.0;     ///< points; rows of one head are not farther apart
+        double bodyGap = 0.35;      ///< of the font size; between a head and the text, where few pages repeat it
+        int surePages = 3;          ///< a head that so many pages repeat may touch the text
+        double headingSize = 1.3;   ///< of the document's usual size; larger rows that count are headings
+        double sameSide = 12.0;     ///< points; distances to both sides of the page that differ by less: a centred row
+        double sidePart = 5.0;      ///< points; a rule this far within a row crosses it
+        double bodilessShare = 0.5; ///< of the pages; where more would be left empty, what repeats is the text
     } runningHeads;
 
     /// TextEdges, PageSetup, SectionMaker: paper, margins, columns, page breaks.
     struct PageSetup {
-        double sameSize = 1.5;           ///< points; paper sizes that differ by less are one
-        double sameEdge = 1.5;           ///< points; lines that start this near start at one edge
-        double edgeShare = 0.03;         ///< of the lines that must start at an edge for it to be the margin
-        int flushLines = 5;              ///< so many justified lines show the end edge
-        double blank = 0.25;             ///< of the font size; the blank before a word that had no room
-        double roomSlack = 0.5;          ///< points; a line may be this much longer than measured
-        double breakSlack = 1.0;         ///< points; likewise for pages
-        double tidyTolerance = 0.4;      ///< points; a margin this near to a round number is meant to be it
-        double usualMargin = 72.0;       ///< points; of pages that show none
-        double sameColumn = 12.0;        ///< points; columns of bands that differ by less are those of one section
-        double smallestColumnGap = 6.0;  ///< points; between columns
-        double startRoom = 6.0;          ///< points; with so much room left on the page before, a page was started by hand
+        double sameSize = 1.5;          ///< points; paper sizes that differ by less are one
+        double sameEdge = 1.5;          ///< points; lines that start this near start at one edge
+        double edgeShare = 0.03;        ///< of the lines that must start at an edge for it to be the margin
+        int flushLines = 5;             ///< so many justified lines show the end edge
+        double blank = 0.25;            ///< of the font size; the blank before a word that had no room
+        double roomSlack = 0.5;         ///< points; a line may be this much longer than measured
+        double breakSlack = 1.0;        ///< points; likewise for pages
+        double tidyTolerance = 0.4;     ///< points; a margin this near to a round number is meant to be it
+        double usualMargin = 72.0;      ///< points; of pages that show none
+        double sameColumn = 12.0;       ///< points; columns of bands that differ by less are those of one section
+        double smallestColumnGap = 6.0; ///< points; between columns
+        double startRoom = 6.0; ///< points; with so much room left on the page before, a page was started by hand
     } pageSetup;
 
     /// DocumentAnalyser: what most of the document looks like.
@@ -347,14 +350,14 @@ struct LayoutParameters {
         int leadingSamples = 3;      ///< line pairs that show a leading wider than the document's before it is believed
         double leadingShare = 0.25;  ///< of the line pairs of one font size that must show a leading for it to count
         double equalLeading = 1.03;  ///< ratio of distances up to which they are one leading
-        double sameRow = 0.3;               ///< of the font size; baselines closer than this stand on one row
-        double sizeChange = 1.1;            ///< ratio of font sizes from which lines look different
+        double sameRow = 0.3;        ///< of the font size; baselines closer than this stand on one row
+        double sizeChange = 1.1;     ///< ratio of font sizes from which lines look different
         double maximumFirstLine = 8; ///< of the font size; a deeper step of the left edge is no first-line indent
-        int flushLines = 2;         ///< lines that must end at the edge before a shorter one ends a justified paragraph
-        int justifiedLines = 3;     ///< lines flush with the edge that show a column to be justified, if they are ...
+        int flushLines = 2;     ///< lines that must end at the edge before a shorter one ends a justified paragraph
+        int justifiedLines = 3; ///< lines flush with the edge that show a column to be justified, if they are ...
         double justifiedShare = 0.6; ///< ... this share of those that run on of themselves
-        double stretchedGap = 1.06; ///< of the natural blank; wider gaps between words tell a justified line
-        double fullLine = 2.5;      ///< of the font size; a column's last line with less room behind it may run on
+        double stretchedGap = 1.06;  ///< of the natural blank; wider gaps between words tell a justified line
+        double fullLine = 2.5;       ///< of the font size; a column's last line with less room behind it may run on
     } paragraphs;
 
     /// ColumnGutter, RegionFinder: where columns are.

@@ -1,6 +1,9 @@
 #include "layout/LeaderFinder.h"
 
+#include "layout/Characters.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace orvane::layout {
 namespace {
@@ -54,18 +57,35 @@ Run runAt(const std::vector<Cluster>& clusters, std::size_t first, const LayoutP
     return run;
 }
 
-/// A run is a leader when little follows it, and that ends the row or stands well apart from what comes next.
-bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, const LayoutParameters::Leaders& limits) {
+/// Characters from `begin` on, up to a wide gap. With a second run of the same character in between, more than any
+/// target has.
+template<typename Iterator>
+std::size_t charactersUpToGap(Iterator begin, Iterator end, char32_t leader, const LayoutParameters::Leaders& limits) {
     std::size_t characters = 0;
-    for (std::size_t i = run.last; i < clusters.size(); ++i) {
-        if (i > run.last && clusters[i].gapBefore.width > limits.nextColumn * clusters[i].size)
+    for (auto cluster = begin; cluster != end; ++cluster) {
+        if (cluster != begin && std::max(cluster->start - std::prev(cluster)->end,
+                                         std::prev(cluster)->start - cluster->end) > limits.nextColumn * cluster->size)
             break;
-        if (leaderOf(clusters[i]) != TabLeader::None && clusters[i].text.front() == clusters[run.first].text.front() &&
-            i > run.last)
-            return false;
-        characters += clusters[i].text.size();
+        if (cluster != begin && std::next(cluster) != end && cluster->text.front() == leader &&
+            std::next(cluster)->text.front() == leader)
+            return limits.longestTarget + 1;
+        characters += cluster->text.size();
     }
-    return characters > 0 && characters <= limits.longestTarget;
+    return characters;
+}
+
+/// A run is a leader when little follows it, and that ends the row or stands well apart from what comes next. In a
+/// right-to-left row what follows stands to the left.
+bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, const LayoutParameters::Leaders& limits) {
+    const bool isRightToLeft = std::any_of(clusters.begin(), clusters.end(), [](const Cluster& cluster) {
+        return isRightToLeftLetter(cluster.text.front());
+    });
+    const char32_t leader = clusters[run.first].text.front();
+    const auto after = clusters.begin() + static_cast<std::ptrdiff_t>(run.last);
+    const auto before = std::make_reverse_iterator(clusters.begin() + static_cast<std::ptrdiff_t>(run.first));
+    const std::size_t target = isRightToLeft ? charactersUpToGap(before, clusters.rend(), leader, limits)
+                                             : charactersUpToGap(after, clusters.end(), leader, limits);
+    return run.last < clusters.size() && target > 0 && target <= limits.longestTarget;
 }
 
 } // namespace
@@ -73,26 +93,25 @@ bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, cons
 void findLeaders(TextRow& row, const LayoutParameters& parameters) {
     const LayoutParameters::Leaders& limits = parameters.leaders;
     std::vector<Cluster>& clusters = row.clusters;
-    std::vector<Cluster> kept;
-    kept.reserve(clusters.size());
+    std::vector<bool> isGone(clusters.size(), false);
     for (std::size_t i = 0; i < clusters.size();) {
         const TabLeader leader = leaderOf(clusters[i]);
         const Run run = leader == TabLeader::None ? Run{i, i + 1, 0} : runAt(clusters, i, limits);
-        const bool isLeader = run.dots >= limits.fewestDots && leadsToSomething(clusters, run, limits) &&
-                              clusters[run.last].start - clusters[run.first].start >= limits.shortest * row.fontSize;
-        if (isLeader) {
-            ClusterGap& gap = clusters[run.last].gapBefore;
-            gap.width = clusters[run.last].start - (kept.empty() ? clusters[run.first].start : kept.back().end);
-            gap.endsWord = true;
-            gap.kind = Gap::Tab;
-            gap.leader = leader;
-        } else {
-            std::move(clusters.begin() + static_cast<std::ptrdiff_t>(run.first),
-                      clusters.begin() + static_cast<std::ptrdiff_t>(run.last), std::back_inserter(kept));
-        }
         i = run.last;
+        if (run.dots < limits.fewestDots || !leadsToSomething(clusters, run, limits) ||
+            clusters[run.last].start - clusters[run.first].start < limits.shortest * row.fontSize)
+            continue;
+        std::fill(isGone.begin() + static_cast<std::ptrdiff_t>(run.first),
+                  isGone.begin() + static_cast<std::ptrdiff_t>(run.last), true);
+        ClusterGap& gap = clusters[run.last].gapBefore;
+        gap.width =
+            clusters[run.last].start - (run.first > 0 ? clusters[run.first - 1].end : clusters[run.first].start);
+        gap.endsWord = true;
+        gap.kind = Gap::Tab;
+        gap.leader = leader;
     }
-    clusters = std::move(kept);
+    std::size_t index = 0;
+    std::erase_if(clusters, [&](const Cluster&) { return isGone[index++]; });
 }
 
 } // namespace orvane::layout

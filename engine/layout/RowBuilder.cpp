@@ -5,7 +5,8 @@
 #include "layout/TextStrip.h"
 
 #include <algorithm>
-#include <cmath>
+#include <iterator>
+#include <limits>
 #include <map>
 #include <tuple>
 
@@ -18,14 +19,36 @@ void sortByBaseline(std::vector<TextStrip>& strips) {
     });
 }
 
-/// Whether two strips of one baseline lie on top of each other rather than side by side.
-bool isOverprinted(const TextStrip& left, const TextStrip& right, const LayoutParameters::Rows& limits) {
-    const double shared = std::min(left.end, right.end) - right.start;
-    return shared > limits.overprint * std::min(left.end - left.start, right.end - right.start) &&
-           shared > limits.overprintSize * std::min(left.size, right.size);
-}
+/// Which stretches of a row are taken by ink.
+class InkedStretches {
+public:
+    /// The length of `cluster` that lies on ink.
+    double sharedWith(const Cluster& cluster) const {
+        double shared = 0;
+        auto next = m_endOfStart.lower_bound(cluster.start);
+        if (next != m_endOfStart.begin())
+            shared += overlap(cluster.start, cluster.end, std::prev(next)->first, std::prev(next)->second);
+        for (; next != m_endOfStart.end() && next->first < cluster.end; ++next)
+            shared += overlap(cluster.start, cluster.end, next->first, next->second);
+        return shared;
+    }
+    void add(const Cluster& cluster) {
+        double& end = m_endOfStart.try_emplace(cluster.start, cluster.end).first->second;
+        end = std::max(end, cluster.end);
+    }
 
-/// Strips of one baseline, side by side; what lies on top of others goes into `layers` behind.
+private:
+    std::map<double, double> m_endOfStart;
+};
+
+/// A cluster with what it is sorted by.
+struct PlacedCluster {
+    double key = 0;
+    Cluster cluster;
+};
+
+/// Makes rows of the strips of one baseline. Strips that lie on top of others, rather than in their gaps, make a row of
+/// their own.
 class RowAssembler {
 public:
     RowAssembler(const LayoutParameters::Rows& limits, std::vector<TextRow>& rows)
@@ -33,6 +56,8 @@ public:
         , m_rows(rows) {}
 
     void assemble(std::vector<TextStrip> strips) {
+        std::stable_sort(strips.begin(), strips.end(),
+                         [](const TextStrip& a, const TextStrip& b) { return a.start < b.start; });
         while (!strips.empty())
             strips = assembleLayer(std::move(strips));
     }
@@ -40,80 +65,81 @@ public:
 private:
     /// Makes one row of the strips that stand side by side and returns those that lie on top of them.
     std::vector<TextStrip> assembleLayer(std::vector<TextStrip> strips) {
-        std::stable_sort(strips.begin(), strips.end(),
-                         [](const TextStrip& a, const TextStrip& b) { return a.start < b.start; });
+        InkedStretches inked;
         std::vector<TextStrip> layer, rest;
         for (TextStrip& strip : strips) {
-            if (layer.empty() || strip.isBlank() || layer.back().isBlank() || strip.isScript || layer.back().isScript ||
-                strip.start >= layer.back().end) {
-                layer.push_back(std::move(strip));
-                continue;
-            }
-            TextStrip tail = splitStrip(layer.back(), strip.start);
-            if (layer.back().clusters.empty() || isOverprinted(layer.back(), strip, m_limits) ||
-                (!tail.clusters.empty() && isOverprinted(strip, tail, m_limits))) {
-                rejoin(layer.back(), std::move(tail));
+            if (!strip.isBlank() && !strip.isScript && liesOn(strip, inked)) {
                 rest.push_back(std::move(strip));
                 continue;
             }
+            for (const Cluster& cluster : strip.clusters)
+                if (!strip.isScript && !isBlank(cluster.text))
+                    inked.add(cluster);
             layer.push_back(std::move(strip));
-            if (!tail.clusters.empty())
-                layer.push_back(std::move(tail));
         }
-        addRow(layer);
+        addRow(std::move(layer));
         return rest;
     }
 
-    static void rejoin(TextStrip& strip, TextStrip tail) {
-        if (tail.clusters.empty())
-            return;
-        if (strip.clusters.empty()) {
-            strip = std::move(tail);
-            return;
+    bool liesOn(const TextStrip& strip, const InkedStretches& inked) const {
+        double shared = 0, width = 0;
+        for (const Cluster& cluster : strip.clusters) {
+            if (isBlank(cluster.text))
+                continue;
+            shared += inked.sharedWith(cluster);
+            width += cluster.width();
         }
-        strip.end = std::max(strip.end, tail.end);
-        strip.inkCount += tail.inkCount;
-        std::move(tail.clusters.begin(), tail.clusters.end(), std::back_inserter(strip.clusters));
+        return shared > m_limits.overprint * width && shared > m_limits.overprintSize * strip.size;
     }
 
-    void addRow(std::vector<TextStrip>& layer) {
-        if (std::all_of(layer.begin(), layer.end(), [](const TextStrip& strip) { return strip.isBlank(); }))
-            return;
+    void addRow(std::vector<TextStrip> layer) {
         TextRow row;
         row.frame = layer.front().frame;
         std::map<double, std::size_t> sizes;
         std::map<double, std::size_t> baselines;
-        for (TextStrip& strip : layer) {
-            if (!strip.isScript) {
-                sizes[strip.size] += strip.inkCount;
-                baselines[strip.baseline] += strip.inkCount;
-            }
+        for (const TextStrip& strip : layer) {
+            sizes[strip.size] += strip.isScript ? 0 : strip.inkCount;
+            baselines[strip.baseline] += strip.isScript ? 0 : strip.inkCount;
             row.dropCapLines = std::max(row.dropCapLines, strip.dropCapLines);
-            std::move(strip.clusters.begin(), strip.clusters.end(), std::back_inserter(row.clusters));
         }
         const auto isLighter = [](const auto& a, const auto& b) { return a.second < b.second; };
         row.fontSize = std::max_element(sizes.begin(), sizes.end(), isLighter)->first;
         row.baseline = std::max_element(baselines.begin(), baselines.end(), isLighter)->first;
-        placeBlanks(row.clusters);
-        m_rows.push_back(std::move(row));
+        row.clusters = inOrder(std::move(layer));
+        if (std::any_of(row.clusters.begin(), row.clusters.end(), [](const Cluster& c) { return !isBlank(c.text); }))
+            m_rows.push_back(std::move(row));
     }
 
-    /// Blanks that were painted on their own find their place between the words.
-    static void placeBlanks(std::vector<Cluster>& clusters) {
-        std::vector<Cluster> ink, blanks;
-        for (Cluster& cluster : clusters)
-            (isBlank(cluster.text) ? blanks : ink).push_back(std::move(cluster));
-        std::stable_sort(blanks.begin(), blanks.end(),
-                         [](const Cluster& a, const Cluster& b) { return a.center() < b.center(); });
-        clusters.clear();
-        auto blank = blanks.begin();
-        for (Cluster& cluster : ink) {
-            for (; blank != blanks.end() && blank->center() < cluster.center(); ++blank)
-                clusters.push_back(std::move(*blank));
-            clusters.push_back(std::move(cluster));
+    /// The clusters from start to end of the row, with blanks that were painted apart from the words between these.
+    static std::vector<Cluster> inOrder(std::vector<TextStrip> layer) {
+        std::vector<PlacedCluster> placed;
+        double scriptEnd = -std::numeric_limits<double>::infinity(), scriptKey = scriptEnd;
+        for (TextStrip& strip : layer) {
+            // A subscript below a superscript is read after it, not letter by letter in turn.
+            double key =
+                strip.isScript && strip.start < scriptEnd ? scriptKey : -std::numeric_limits<double>::infinity();
+            for (Cluster& cluster : strip.clusters) {
+                const bool isBlankCluster = isBlank(cluster.text);
+                if (!isBlankCluster)
+                    key = std::max(key, cluster.start);
+                placed.push_back({isBlankCluster ? cluster.start + kBlankPlace * cluster.width() : key, std::move(cluster)});
+            }
+            if (strip.isScript) {
+                scriptEnd = strip.end - kScriptTouch * strip.size;
+                scriptKey = key;
+            }
         }
-        std::move(blank, blanks.end(), std::back_inserter(clusters));
+        std::stable_sort(placed.begin(), placed.end(),
+                         [](const PlacedCluster& a, const PlacedCluster& b) { return a.key < b.key; });
+        std::vector<Cluster> clusters;
+        clusters.reserve(placed.size());
+        for (PlacedCluster& item : placed)
+            clusters.push_back(std::move(item.cluster));
+        return clusters;
     }
+
+    static constexpr double kBlankPlace = 0.2;  ///< of its width; the word after a blank may begin before the blank's end
+    static constexpr double kScriptTouch = 0.1; ///< of the font size; scripts that only touch follow each other
 
     const LayoutParameters::Rows& m_limits;
     std::vector<TextRow>& m_rows;

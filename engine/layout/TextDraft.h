@@ -4,6 +4,7 @@
 #include "document/Document.h"
 #include "layout/PageText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -61,11 +62,15 @@ private:
 
 /// What lies between a cluster and the one before it.
 struct ClusterGap {
-    double width = 0;      ///< points along the row; negative where they overlap
-    bool hasBlank = false; ///< a blank was painted in between
+    double width = 0;         ///< points along the row; negative where they overlap
+    double letterSpacing = 0; ///< points; what the letters around it are apart
+    bool hasBlank = false;    ///< a blank was painted in between
     bool endsWord = false;
     Gap kind = Gap::None;
     document::TabLeader leader = document::TabLeader::None;
+
+    /// Its width without what letter spacing adds on both sides of a blank.
+    double ownWidth() const { return width - 2 * std::max(letterSpacing, 0.0); }
 };
 
 /// One or more glyphs that cannot be parted: a letter with its marks, a ligature.

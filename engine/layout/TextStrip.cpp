@@ -54,17 +54,4 @@ std::vector<TextStrip> cutStrips(std::vector<Cluster> clusters, const LayoutPara
     return strips;
 }
 
-TextStrip splitStrip(TextStrip& strip, double position) {
-    const auto cut = std::find_if(strip.clusters.begin(), strip.clusters.end(),
-                                  [position](const Cluster& cluster) { return cluster.center() >= position; });
-    TextStrip rest = strip;
-    rest.clusters.assign(std::make_move_iterator(cut), std::make_move_iterator(strip.clusters.end()));
-    strip.clusters.erase(cut, strip.clusters.end());
-    if (!rest.clusters.empty())
-        measure(rest);
-    if (!strip.clusters.empty())
-        measure(strip);
-    return rest;
-}
-
 } // namespace orvane::layout

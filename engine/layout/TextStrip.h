@@ -23,8 +23,4 @@ struct TextStrip {
 /// Cuts the clusters, which come in paint order, into strips.
 std::vector<TextStrip> cutStrips(std::vector<Cluster> clusters, const LayoutParameters& parameters);
 
-/// Parts a strip where another text begins inside one of its gaps.
-/// Returns the part after `position`, empty when there is no gap to part it at.
-TextStrip splitStrip(TextStrip& strip, double position);
-
 } // namespace orvane::layout

@@ -44,6 +44,11 @@ struct GapView {
         return isSetWithoutBlanks(left.text.back()) || isSetWithoutBlanks(right.text.front());
     }
     bool isBetweenLetters() const { return isLetter(left.text.back()) && isLetter(right.text.front()); }
+    /// Dots of a leader, strokes of a line to write on: how far they are apart says nothing about letters.
+    bool isBetweenFillers() const {
+        return left.text == right.text && !isLetter(left.text.front()) && !isDigit(left.text.front());
+    }
+    bool touchesHangul() const { return isHangul(left.text.back()) != isHangul(right.text.front()); }
     bool touchesScript() const { return left.look.verticalPosition != right.look.verticalPosition; }
 };
 
@@ -66,19 +71,41 @@ public:
     }
 
     void decide(double rowLetterGap) {
-        const double letterGap = findLetterGap().value_or(rowLetterGap);
-        for (std::size_t i = m_first + 1; i < m_last; ++i)
-            m_clusters[i].gapBefore.endsWord = endsWord(viewAt(i), letterGap);
+        const double letterGap = findLetterGap(m_first, m_last).value_or(rowLetterGap);
+        std::size_t pieceStart = m_first;
+        for (std::size_t i = m_first + 1; i <= m_last; ++i) {
+            if (i < m_last && !m_clusters[i].gapBefore.hasBlank)
+                continue;
+            // What stands between two painted blanks is mostly one word and may be spaced out on its own.
+            decidePiece(pieceStart, i, findLetterGap(pieceStart, i).value_or(letterGap));
+            if (i < m_last)
+                decideGap(i, letterGap);
+            pieceStart = i;
+        }
     }
 
-    /// What the letters of one word are apart here, in em; nothing when there are too few of them to tell.
-    std::optional<double> findLetterGap() const {
+    std::optional<double> findLetterGap() const { return findLetterGap(m_first, m_last); }
+
+private:
+    void decidePiece(std::size_t first, std::size_t last, double letterGap) {
+        for (std::size_t i = first + 1; i < last; ++i)
+            decideGap(i, letterGap);
+    }
+
+    void decideGap(std::size_t i, double letterGap) {
+        const GapView view = viewAt(i);
+        m_clusters[i].gapBefore.endsWord = endsWord(view, letterGap);
+        m_clusters[i].gapBefore.letterSpacing = letterGap * view.size();
+    }
+
+    /// What the letters of one word are apart, in em; nothing when there are too few of them to tell.
+    std::optional<double> findLetterGap(std::size_t first, std::size_t last) const {
         std::vector<double> gaps;
         bool isAllLetters = true;
         double spaceWidth = 0;
-        for (std::size_t i = m_first + 1; i < m_last; ++i) {
+        for (std::size_t i = first + 1; i < last; ++i) {
             const GapView view = viewAt(i);
-            if (view.gap().hasBlank || view.touchesEastAsian() || view.touchesScript())
+            if (view.gap().hasBlank || view.touchesEastAsian() || view.touchesScript() || view.isBetweenFillers())
                 continue;
             gaps.push_back(view.gap().width / view.size());
             isAllLetters &= view.isBetweenLetters();
@@ -92,12 +119,11 @@ public:
         // Gaps as wide as blanks: either a letter-spaced word, or single characters that are words of their own.
         const bool isEven =
             quantile(gaps, m_limits.evenShare) - quantile(gaps, 1 - m_limits.evenShare) <= m_limits.evenness * middle;
-        if (isAllLetters && isEven && gaps.size() >= m_limits.fewestSpacedLetters)
-            return middle;
-        return m_hasBlanks ? middle : m_limits.tightestSpacing * spaceWidth;
+        const bool isSpacedOut = isEven && middle <= m_limits.widestSpacing &&
+                                 (m_hasBlanks || (isAllLetters && gaps.size() >= m_limits.fewestSpacedLetters));
+        return isSpacedOut ? middle : m_limits.tightestSpacing * spaceWidth;
     }
 
-private:
     GapView viewAt(std::size_t i) const { return {m_clusters[i - 1], m_clusters[i]}; }
 
     bool endsWord(const GapView& view, double letterGap) const {
@@ -108,7 +134,8 @@ private:
             return beyond >= m_limits.blankShare * view.spaceWidth();
         if (view.gap().width < -m_limits.overprint * view.size())
             return true;
-        if (view.touchesEastAsian())
+        // Word processors set Latin letters a little apart from East Asian ones.
+        if (view.touchesEastAsian() || (m_hasBlanks && view.touchesHangul()))
             return beyond >= m_limits.eastAsianGap * view.size();
         return beyond >= (m_hasBlanks ? m_limits.gapAmongBlanks : m_limits.gapWithoutBlanks) * view.spaceWidth();
     }

@@ -1,40 +1,20 @@
-#include "layout/Layout.h"
-#include "layout/LineText.h"
-
-#include "engine/layout/PageContentBuilder.h"
+#include "engine/layout/PageReading.h"
 
 #include <gmock/gmock.h>
 
 namespace orvane::layout {
 namespace {
 
-using pdf::tests::Blanks;
 using pdf::tests::PageContentBuilder;
 using testing::ElementsAre;
-
-PageText read(const PageContentBuilder& page) {
-    Diagnostics diagnostics;
-    return readPageText(page.content(), {}, diagnostics);
-}
-
-std::vector<std::string> linesOf(const PageContentBuilder& page) {
-    std::vector<std::string> texts;
-    for (const Line& line : read(page).lines)
-        texts.push_back(textOf(line));
-    return texts;
-}
+using tests::linesOf;
+using tests::read;
 
 TEST(ReadPageText, MakesLinesOfWords) {
     PageContentBuilder page;
     page.text(72, 100, "Hello world", 12);
     page.text(72, 115, "and good bye.", 12);
     EXPECT_THAT(linesOf(page), ElementsAre("Hello world", "and good bye."));
-}
-
-TEST(ReadPageText, FindsWordsWithoutPaintedBlanks) {
-    PageContentBuilder page;
-    page.text(72, 100, "Blanks are only gaps here", 10, {.blanks = Blanks::Skipped});
-    EXPECT_THAT(linesOf(page), ElementsAre("Blanks are only gaps here"));
 }
 
 TEST(ReadPageText, MeasuresLinesInPageSpace) {

@@ -1,0 +1,157 @@
+#include "engine/layout/PageReading.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::TabLeader;
+using document::VerticalPosition;
+using pdf::tests::PageContentBuilder;
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+using tests::linesOf;
+using tests::read;
+
+TEST(LineBuilder, JoinsRunsOnOneBaseline) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, "Plain, ", 12);
+    const std::uint32_t bold = page.font([] {
+        pdf::Font font;
+        font.isBold = true;
+        return font;
+    }());
+    x = page.text(x, 100, "bold", 12, {.font = bold});
+    page.text(x, 100, " and plain", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("Plain, bold and plain"));
+}
+
+TEST(LineBuilder, ReadsTextInTheOrderOfThePageWhateverItsPaintOrder) {
+    PageContentBuilder page;
+    page.text(125, 100, "second", 12);
+    page.text(72, 115, "third", 12);
+    page.text(72, 100, "The", 12);
+    page.text(94, 100, "first", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("The first second", "third"));
+}
+
+TEST(LineBuilder, CutsColumnsAtTheirGutter) {
+    PageContentBuilder page;
+    for (int i = 0; i < 5; ++i) {
+        page.text(72, 100 + i * 14, "left hand column of text", 10);
+        page.text(220, 100 + i * 14, "right hand column of text", 10);
+    }
+    const std::vector<std::string> lines = linesOf(page);
+    EXPECT_EQ(lines.size(), 10u);
+    EXPECT_THAT(lines, testing::Contains("left hand column of text").Times(5));
+}
+
+TEST(LineBuilder, CutsAtARuleBetweenCells) {
+    PageContentBuilder page;
+    page.text(72, 100, "left cell", 10);
+    page.text(150, 100, "right cell", 10);
+    page.verticalRule(140, 85, 110);
+    EXPECT_THAT(linesOf(page), UnorderedElementsAre("left cell", "right cell"));
+}
+
+TEST(LineBuilder, KeepsASingleWideGapAsATab) {
+    PageContentBuilder page;
+    page.text(72, 60, "Annual report", 10);
+    page.text(420, 60, "Page 3", 10);
+    page.text(72, 100, "A line of text that runs over the whole width of the page as text lines do, or nearly.", 10);
+    EXPECT_THAT(linesOf(page), testing::Contains("Annual report\tPage 3"));
+}
+
+TEST(LineBuilder, DoesNotCutJustifiedTextAtItsBlanks) {
+    PageContentBuilder page;
+    for (int i = 0; i < 4; ++i)
+        page.text(72, 100 + i * 14, "some text that has wide blanks", 10, {.wordSpacing = 6});
+    EXPECT_THAT(linesOf(page), testing::Each("some text that has wide blanks"));
+}
+
+TEST(LineBuilder, KeepsListLabelsWithTheirText) {
+    PageContentBuilder page;
+    for (int i = 0; i < 4; ++i) {
+        page.text(72, 100 + i * 14, std::to_string(i + 1) + ".", 10);
+        page.text(100, 100 + i * 14, "an item of the list", 10);
+    }
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 4u);
+    EXPECT_EQ(textOf(text.lines[2]), "3.\tan item of the list");
+}
+
+TEST(LineBuilder, MakesLeadersTabs) {
+    struct Row {
+        const char* filler;
+        TabLeader leader;
+    };
+    for (const Row& row : {Row{".", TabLeader::Dots}, Row{"_", TabLeader::Underscore}, Row{"-", TabLeader::Hyphens},
+                           Row{"\xC2\xB7", TabLeader::MiddleDots}}) {
+        PageContentBuilder page;
+        double x = page.text(72, 100, "Contents", 10);
+        for (int i = 0; i < 40; ++i)
+            x = page.text(x, 100, row.filler, 10);
+        page.text(x, 100, "7", 10);
+        const PageText text = read(page);
+        ASSERT_EQ(text.lines.size(), 1u) << row.filler;
+        ASSERT_EQ(text.lines[0].words.size(), 2u) << row.filler;
+        EXPECT_EQ(text.lines[0].words[1].gapBefore, Gap::Tab) << row.filler;
+        EXPECT_EQ(text.lines[0].words[1].leaderBefore, row.leader) << row.filler;
+        EXPECT_EQ(textOf(text.lines[0]), "Contents\t7") << row.filler;
+    }
+}
+
+TEST(LineBuilder, KeepsLinesToWriteOn) {
+    PageContentBuilder page;
+    page.text(72, 100, "Name ____________ and the place of birth, with the country", 10);
+    page.text(72, 120, "Date ____________", 10);
+    EXPECT_THAT(linesOf(page),
+                ElementsAre("Name ____________ and the place of birth, with the country", "Date ____________"));
+}
+
+TEST(LineBuilder, KeepsRowsOfContentsTogether) {
+    PageContentBuilder page;
+    for (int i = 0; i < 5; ++i) {
+        page.text(72, 100 + i * 14, "1." + std::to_string(i), 10);
+        const double end = page.text(100, 100 + i * 14, "A chapter's name", 10);
+        page.text(end, 100 + i * 14, "..............................", 10);
+        page.text(300, 100 + i * 14, std::to_string(i), 10);
+    }
+    EXPECT_THAT(linesOf(page), testing::Contains("1.3\tA chapter's name\t3"));
+    EXPECT_EQ(linesOf(page).size(), 5u);
+}
+
+TEST(LineBuilder, GivesTurnedTextLinesOfItsOwn) {
+    PageContentBuilder page;
+    page.text(72, 100, "upright text", 10);
+    page.text(300, 100, "reads downwards", 10, {.angle = 90});
+    page.text(400, 300, "reads upwards", 10, {.angle = 270});
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 3u);
+    for (const Line& line : text.lines) {
+        if (textOf(line) == "reads downwards") {
+            EXPECT_EQ(line.angle, 90);
+            EXPECT_NEAR(line.baseline, 300, 0.01);
+            EXPECT_NEAR(line.box.top, 100, 0.01);
+            EXPECT_NEAR(line.box.left, 298, 0.01) << "the descent lies to the left";
+        } else if (textOf(line) == "reads upwards") {
+            EXPECT_EQ(line.angle, 270);
+            EXPECT_NEAR(line.box.bottom, 300, 0.01);
+        } else {
+            EXPECT_EQ(textOf(line), "upright text");
+            EXPECT_EQ(line.angle, 0);
+        }
+    }
+}
+
+TEST(LineBuilder, ReadsAPageThatWasScannedAskew) {
+    PageContentBuilder page;
+    for (int i = 0; i < 3; ++i)
+        page.text(72, 100 + i * 12, "a line of some length that drifts down over the page", 10, {.angle = 1.5});
+    EXPECT_THAT(linesOf(page), testing::Each("a line of some length that drifts down over the page"));
+    EXPECT_EQ(linesOf(page).size(), 3u);
+    EXPECT_EQ(read(page).lines[0].angle, 0);
+}
+
+} // namespace
+} // namespace orvane::layout

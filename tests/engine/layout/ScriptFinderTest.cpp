@@ -1,0 +1,74 @@
+#include "engine/layout/PageReading.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::VerticalPosition;
+using pdf::tests::PageContentBuilder;
+using testing::ElementsAre;
+using tests::linesOf;
+using tests::read;
+
+TEST(ScriptFinder, KeepsScriptsInTheirWords) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, "H", 10);
+    x = page.text(x, 101.5, "2", 6);
+    x = page.text(x, 100, "O and m", 10);
+    x = page.text(x, 96, "2", 6);
+    page.text(x, 100, " each", 10);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    const Line& line = text.lines[0];
+    EXPECT_EQ(textOf(line), "H2O and m2 each");
+    ASSERT_EQ(line.words[0].spans.size(), 3u);
+    EXPECT_EQ(line.words[0].spans[1].look.verticalPosition, VerticalPosition::Subscript);
+    EXPECT_EQ(line.words[0].spans[1].look.size, 10) << "the size of the text it belongs to";
+    EXPECT_EQ(line.words[2].spans[1].look.verticalPosition, VerticalPosition::Superscript);
+    EXPECT_EQ(line.baseline, 100);
+    EXPECT_EQ(line.fontSize, 10);
+}
+
+TEST(ScriptFinder, JoinsANoteMarkBeforeItsNote) {
+    PageContentBuilder page;
+    const double x = page.text(72, 696, "1", 5);
+    page.text(x + 1, 700, "The text of a note", 8);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_EQ(text.lines[0].words[0].spans[0].look.verticalPosition, VerticalPosition::Superscript);
+}
+
+TEST(ScriptFinder, ReadsASubscriptBelowASuperscriptAfterIt) {
+    PageContentBuilder page;
+    const double x = page.text(72, 100, "x", 10);
+    page.text(x, 96, "12", 6);
+    page.text(x, 102, "ab", 6);
+    EXPECT_THAT(linesOf(page), ElementsAre("x12ab"));
+}
+
+TEST(ScriptFinder, LeavesSmallTextOfItsOwnLineAlone) {
+    PageContentBuilder page;
+    page.text(72, 100, "Large heading", 20);
+    page.text(72, 112, "small print below it", 8);
+    EXPECT_THAT(linesOf(page), ElementsAre("Large heading", "small print below it"));
+}
+
+TEST(ScriptFinder, PutsADropCapAtItsFirstLine) {
+    PageContentBuilder page;
+    const double x = page.text(72, 128, "O", 42);
+    page.text(x + 2, 104, "nce upon a time there was", 10);
+    page.text(x + 2, 116, "a letter that stood over", 10);
+    page.text(x + 2, 128, "three lines of its text,", 10);
+    page.text(72, 140, "and the fourth went on below it.", 10);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 4u);
+    EXPECT_EQ(textOf(text.lines[0]), "Once upon a time there was");
+    EXPECT_EQ(text.lines[0].dropCapLines, 3);
+    EXPECT_EQ(text.lines[0].fontSize, 10);
+    EXPECT_NEAR(text.lines[0].baseline, 104, 0.01);
+    EXPECT_EQ(textOf(text.lines[2]), "three lines of its text,");
+}
+
+} // namespace
+} // namespace orvane::layout

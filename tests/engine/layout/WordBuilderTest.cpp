@@ -1,0 +1,92 @@
+#include "engine/layout/PageContentBuilder.h"
+#include "engine/layout/PageReading.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using pdf::tests::Blanks;
+using pdf::tests::PageContentBuilder;
+using testing::ElementsAre;
+using tests::linesOf;
+
+TEST(WordBuilder, EndsWordsAtPaintedBlanks) {
+    PageContentBuilder page;
+    page.text(72, 100, "Painted blanks part words", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("Painted blanks part words"));
+}
+
+TEST(WordBuilder, EndsWordsAtGapsWhereBlanksAreNotPainted) {
+    PageContentBuilder page;
+    page.text(72, 100, "Gaps part words as well", 12, {.blanks = Blanks::Skipped});
+    EXPECT_THAT(linesOf(page), ElementsAre("Gaps part words as well"));
+}
+
+TEST(WordBuilder, TakesBlanksThatWerePaintedApartFromTheWords) {
+    PageContentBuilder page;
+    const double second = 72 + PageContentBuilder::widthOf("One ", 12);
+    page.text(72, 100, "One", 12);
+    page.text(second, 100, "two", 12);
+    page.text(72 + PageContentBuilder::widthOf("One", 12), 100, " ", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("One two"));
+}
+
+TEST(WordBuilder, IgnoresBlanksThatLeaveNoRoom) {
+    PageContentBuilder page;
+    const double end = page.text(72, 100, "to", 12);
+    page.text(end, 100, " ", 12);
+    page.text(end, 100, "gether", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("together"));
+}
+
+TEST(WordBuilder, KeepsLetterSpacedWordsWhole) {
+    PageContentBuilder page;
+    page.text(72, 100, "SPACED HEADING", 12, {.characterSpacing = 3});
+    page.text(72, 130, "SPACED HEADING", 12, {.characterSpacing = 3, .blanks = Blanks::Skipped});
+    EXPECT_THAT(linesOf(page), ElementsAre("SPACED HEADING", "SPACED HEADING"));
+}
+
+TEST(WordBuilder, KeepsALetterSpacedWordBesideNumbersWhole) {
+    PageContentBuilder page;
+    const double end = page.text(72, 100, "Seite", 12, {.characterSpacing = 3});
+    page.text(end, 100, " 12 | 54", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("Seite 12 | 54"));
+}
+
+TEST(WordBuilder, PartsSingleCharactersThatStandApart) {
+    PageContentBuilder page;
+    page.text(72, 100, "x = a + b", 12, {.blanks = Blanks::Skipped});
+    EXPECT_THAT(linesOf(page), ElementsAre("x = a + b"));
+}
+
+TEST(WordBuilder, FindsWordsInTightlySetText) {
+    PageContentBuilder page;
+    page.text(72, 100, "condensed text has narrow blanks", 12, {.characterSpacing = -1.2});
+    page.text(72, 130, "condensed text has narrow blanks", 12, {.characterSpacing = -1.2, .blanks = Blanks::Skipped});
+    EXPECT_THAT(linesOf(page), ElementsAre("condensed text has narrow blanks", "condensed text has narrow blanks"));
+}
+
+TEST(WordBuilder, FindsWordsInJustifiedText) {
+    PageContentBuilder page;
+    page.text(72, 100, "wide blanks all along the line", 12, {.wordSpacing = 9});
+    EXPECT_THAT(linesOf(page), ElementsAre("wide blanks all along the line"));
+}
+
+TEST(WordBuilder, PutsNoBlanksBetweenEastAsianCharacters) {
+    PageContentBuilder page;
+    page.text(72, 100, "\u65E5\u672C\u8A9E\u306E\u6587\u7AE0", 12, {.characterSpacing = 3});
+    EXPECT_THAT(linesOf(page), ElementsAre("\u65E5\u672C\u8A9E\u306E\u6587\u7AE0"));
+}
+
+TEST(WordBuilder, DoesNotMeasureLettersByTheDotsOfALeader) {
+    PageContentBuilder page;
+    page.text(72, 100, "Alimony received", 8);
+    for (int i = 0; i < 12; ++i)
+        page.text(200 + i * 12, 100, ".", 8);
+    page.text(350, 100, "11", 8);
+    EXPECT_THAT(linesOf(page), ElementsAre("Alimony received\t11"));
+}
+
+} // namespace
+} // namespace orvane::layout
