@@ -1,9 +1,10 @@
 #include "layout/FigureFinder.h"
 
 #include "layout/BoxGroups.h"
+#include "layout/DrawingFinder.h"
 
 #include <algorithm>
-#include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace orvane::layout {
@@ -110,12 +111,16 @@ std::vector<Figure> findPictures(const pdf::PageContent& page, const LayoutParam
 
 } // namespace
 
-std::vector<Figure> findFigures(const pdf::PageContent& page, const std::vector<bool>&,
-                                const LayoutParameters& parameters, Diagnostics&) {
-    std::vector<Figure> figures = findPictures(page, parameters.pictures);
-    std::stable_sort(figures.begin(), figures.end(),
+void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
+                 const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    text.figures = findPictures(page, parameters.pictures);
+    for (Figure& figure : text.figures)
+        figure.isBackground |= liesUnderText(figure.box, text.lines, parameters.drawings);
+    std::vector<Figure> drawings = findDrawings(page, isRuling, text, parameters, diagnostics);
+    std::move(drawings.begin(), drawings.end(), std::back_inserter(text.figures));
+    std::stable_sort(text.figures.begin(), text.figures.end(),
                      [](const Figure& a, const Figure& b) { return a.paintOrder < b.paintOrder; });
-    return figures;
+    labelDrawings(text);
 }
 
 } // namespace orvane::layout

@@ -200,7 +200,21 @@ struct LayoutParameters {
         double spacingStep = 0.05;   ///< points; word processors' grain
     } spans;
 
-    /// FigureFinder: pictures and drawings.
+    /// DrawingFinder: groups of paths that are drawings.
+    struct Drawings {
+        double gap = 5;                      ///< points; shapes of one drawing lie this close
+        double smallest = 8;                 ///< points; the longer side of what is worth a figure
+        double backgroundShare = 0.5;        ///< of the page; larger shapes are decoration
+        double reach = 2;                    ///< points; how far rules and grounds of a drawing may stick out of it
+        double growth = 12;                  ///< points; axes stand this close to the curve that they measure
+        double insideShare = 0.5;            ///< of a rule's or ground's sides that must lie within
+        int growthPasses = 3;                ///< times that axes and bars are looked for around a drawing
+        double overlapShare = 0.5;           ///< of the smaller drawing; with more in common two are one
+        unsigned wordsOfProse = 8;           ///< words of a line that is no label
+        double proseShare = 0.4;             ///< of the drawing's width; shorter lines may be notes at a shape
+    } drawings;
+
+    /// FigureFinder: pictures.
     struct Pictures {
         double smallest = 3;           ///< points; the longer side of a picture that is no spacer
         double leastCrop = 0.005;      ///< of a side; less is rounding
@@ -210,35 +224,35 @@ struct LayoutParameters {
 
     /// RunningHeads: what repeats at the head and foot of pages.
     struct RunningHeads {
-        double reach = 0.34;        ///< of the page's height; nothing farther from the edge is a running head
-        double firstReach = 0.2;    ///< of the page's height; within which the outermost row stands
-        int maximumRows = 12;       ///< from one edge
-        double sameRow = 0.3;       ///< of the font size; baselines this near are one row
-        double samePosition = 2.0;  ///< points; rows of two pages this near stand in one place
-        double sameSize = 0.6;      ///< points; of their fonts
-        double chainGap = 30.0;     ///< points; rows of one head are not farther apart
-        double bodyGap = 0.35;      ///< of the font size; between a head and the text, where few pages repeat it
-        int surePages = 3;          ///< a head that so many pages repeat may touch the text
-        double headingSize = 1.3;   ///< of the document's usual size; larger rows that count are headings
-        double sameSide = 12.0;     ///< points; distances to both sides of the page that differ by less: a centred row
-        double sidePart = 5.0;      ///< points; a rule this far within a row crosses it
-        double bodilessShare = 0.5; ///< of the pages; where more would be left empty, what repeats is the text
+        double reach = 0.34;             ///< of the page's height; nothing farther from the edge is a running head
+        double firstReach = 0.2;         ///< of the page's height; within which the outermost row stands
+        int maximumRows = 12;            ///< from one edge
+        double sameRow = 0.3;            ///< of the font size; baselines this near are one row
+        double samePosition = 2.0;       ///< points; rows of two pages this near stand in one place
+        double sameSize = 0.6;           ///< points; of their fonts
+        double chainGap = 30.0;          ///< points; rows of one head are not farther apart
+        double bodyGap = 0.35;           ///< of the font size; between a head and the text, where few pages repeat it
+        int surePages = 3;               ///< a head that so many pages repeat may touch the text
+        double headingSize = 1.3;        ///< of the document's usual size; larger rows that count are headings
+        double sameSide = 12.0;          ///< points; distances to both sides of the page that differ by less: a centred row
+        double sidePart = 5.0;           ///< points; a rule this far within a row crosses it
+        double bodilessShare = 0.5;      ///< of the pages; where more would be left empty, what repeats is the text
     } runningHeads;
 
     /// TextEdges, PageSetup, SectionMaker: paper, margins, columns, page breaks.
     struct PageSetup {
-        double sameSize = 1.5;          ///< points; paper sizes that differ by less are one
-        double sameEdge = 1.5;          ///< points; lines that start this near start at one edge
-        double edgeShare = 0.03;        ///< of the lines that must start at an edge for it to be the margin
-        int flushLines = 5;             ///< so many justified lines show the end edge
-        double blank = 0.25;            ///< of the font size; the blank before a word that had no room
-        double roomSlack = 0.5;         ///< points; a line may be this much longer than measured
-        double breakSlack = 1.0;        ///< points; likewise for pages
-        double tidyTolerance = 0.4;     ///< points; a margin this near to a round number is meant to be it
-        double usualMargin = 72.0;      ///< points; of pages that show none
-        double sameColumn = 12.0;       ///< points; columns of bands that differ by less are those of one section
-        double smallestColumnGap = 6.0; ///< points; between columns
-        double startRoom = 6.0; ///< points; with so much room left on the page before, a page was started by hand
+        double sameSize = 1.5;           ///< points; paper sizes that differ by less are one
+        double sameEdge = 1.5;           ///< points; lines that start this near start at one edge
+        double edgeShare = 0.03;         ///< of the lines that must start at an edge for it to be the margin
+        int flushLines = 5;              ///< so many justified lines show the end edge
+        double blank = 0.25;             ///< of the font size; the blank before a word that had no room
+        double roomSlack = 0.5;          ///< points; a line may be this much longer than measured
+        double breakSlack = 1.0;         ///< points; likewise for pages
+        double tidyTolerance = 0.4;      ///< points; a margin this near to a round number is meant to be it
+        double usualMargin = 72.0;       ///< points; of pages that show none
+        double sameColumn = 12.0;        ///< points; columns of bands that differ by less are those of one section
+        double smallestColumnGap = 6.0;  ///< points; between columns
+        double startRoom = 6.0;          ///< points; with so much room left on the page before, a page was started by hand
     } pageSetup;
 
     /// DocumentAnalyser: what most of the document looks like.
@@ -350,14 +364,14 @@ struct LayoutParameters {
         int leadingSamples = 3;      ///< line pairs that show a leading wider than the document's before it is believed
         double leadingShare = 0.25;  ///< of the line pairs of one font size that must show a leading for it to count
         double equalLeading = 1.03;  ///< ratio of distances up to which they are one leading
-        double sameRow = 0.3;        ///< of the font size; baselines closer than this stand on one row
-        double sizeChange = 1.1;     ///< ratio of font sizes from which lines look different
+        double sameRow = 0.3;               ///< of the font size; baselines closer than this stand on one row
+        double sizeChange = 1.1;            ///< ratio of font sizes from which lines look different
         double maximumFirstLine = 8; ///< of the font size; a deeper step of the left edge is no first-line indent
-        int flushLines = 2;     ///< lines that must end at the edge before a shorter one ends a justified paragraph
-        int justifiedLines = 3; ///< lines flush with the edge that show a column to be justified, if they are ...
+        int flushLines = 2;         ///< lines that must end at the edge before a shorter one ends a justified paragraph
+        int justifiedLines = 3;     ///< lines flush with the edge that show a column to be justified, if they are ...
         double justifiedShare = 0.6; ///< ... this share of those that run on of themselves
-        double stretchedGap = 1.06;  ///< of the natural blank; wider gaps between words tell a justified line
-        double fullLine = 2.5;       ///< of the font size; a column's last line with less room behind it may run on
+        double stretchedGap = 1.06; ///< of the natural blank; wider gaps between words tell a justified line
+        double fullLine = 2.5;      ///< of the font size; a column's last line with less room behind it may run on
     } paragraphs;
 
     /// ColumnGutter, RegionFinder: where columns are.

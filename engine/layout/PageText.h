@@ -69,6 +69,7 @@ struct Line {
     bool isRightToLeft = false;
     bool isVertical = false;         ///< East Asian vertical writing
     int dropCapLines = 0;            ///< how many lines its first letter, a drop cap, stands over; 0 for none
+    int figure = -1;                 ///< index into PageText::figures of the drawing that it labels; -1 for none
     std::uint32_t firstPaintOrder = 0;
 };
 

@@ -88,26 +88,52 @@ std::string gapText(const Word& word) {
     return fmt::format(" \u2192{} ", leaderText(word.leaderBefore));
 }
 
-void appendWord(std::string& text, const Word& word, double lineSize) {
-    for (const Span& span : word.spans) {
+/// Writes text and notes where its look changes.
+class LookWriter {
+public:
+    void gap(const Word& word) { m_pending += gapText(word); }
+    void span(const Span& span, double lineSize) {
         const std::string look = lookText(span.look, lineSize);
-        if (look.empty())
-            text += span.text;
-        else
-            fmt::format_to(std::back_inserter(text), "{{{}:{}}}", look, span.text);
+        if (look != m_look) {
+            close();
+            m_text += m_pending;
+            m_look = look;
+            if (!look.empty())
+                fmt::format_to(std::back_inserter(m_text), "{{{}:", look);
+        } else {
+            m_text += m_pending;
+        }
+        m_pending.clear();
+        m_text += span.text;
     }
-}
+    std::string finish() {
+        close();
+        return m_text;
+    }
+
+private:
+    void close() {
+        if (!m_look.empty())
+            m_text += '}';
+        m_look.clear();
+    }
+
+    std::string m_text;
+    std::string m_pending; ///< a gap is not part of the look before it
+    std::string m_look;
+};
 
 } // namespace
 
 std::string dump(const Line& line) {
-    std::string text;
+    LookWriter writer;
     for (const Word& word : line.words) {
         if (&word != &line.words.front() || word.leaderBefore != TabLeader::None)
-            text += gapText(word);
-        appendWord(text, word, line.fontSize);
+            writer.gap(word);
+        for (const Span& span : word.spans)
+            writer.span(span, line.fontSize);
     }
-    return text;
+    return writer.finish();
 }
 
 std::string dump(const PageText& page) {
@@ -122,6 +148,8 @@ std::string dump(const PageText& page) {
         text += line.isVertical ? " vertical" : "";
         if (line.dropCapLines > 0)
             fmt::format_to(out, " dropcap {}", line.dropCapLines);
+        if (line.figure >= 0)
+            fmt::format_to(out, " in figure {}", line.figure);
         fmt::format_to(out, ": {}\n", dump(line));
     }
     for (const Rule& rule : page.rules)

@@ -23,17 +23,42 @@ Rect boxOf(const std::vector<PathLine>& lines) {
     return box;
 }
 
-/// The upright rectangle that four lines go around, each turning a corner.
-std::optional<Rect> rectangleOf(const Subpath& subpath, double straightness) {
-    if (subpath.hasCurves || subpath.lines.size() != 4)
-        return std::nullopt;
-    const bool startsLevel = isLevel(subpath.lines[0], straightness) && !isPlumb(subpath.lines[0], straightness);
-    for (std::size_t i = 0; i < 4; ++i) {
-        const bool mustBeLevel = startsLevel == (i % 2 == 0);
-        if (mustBeLevel ? !isLevel(subpath.lines[i], straightness) : !isPlumb(subpath.lines[i], straightness))
-            return std::nullopt;
+/// Level and plumb lines in turn, beginning with a level one or not.
+bool turnsCorners(const std::vector<PathLine>& lines, bool beginsLevel, double straightness) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const bool mustBeLevel = beginsLevel == (i % 2 == 0);
+        if (mustBeLevel ? !isLevel(lines[i], straightness) : !isPlumb(lines[i], straightness))
+            return false;
     }
-    return subpath.box;
+    return true;
+}
+
+/// The upright rectangle that four lines go around.
+std::optional<Rect> rectangleOf(const Subpath& subpath, double straightness) {
+    // The short sides of a thin one count as level and plumb at once, so both beginnings are tried.
+    const bool isRectangle = subpath.lines.size() == 4 && (turnsCorners(subpath.lines, true, straightness) ||
+                                                           turnsCorners(subpath.lines, false, straightness));
+    return isRectangle ? std::optional(subpath.box) : std::nullopt;
+}
+
+/// The upright rectangle whose corners the curves round; at least half of its outline is straight.
+std::optional<Rect> roundedRectangleOf(const Subpath& subpath, const std::vector<Rect>& curves, double straightness) {
+    const Rect& box = subpath.box;
+    double straight = 0;
+    for (const PathLine& line : subpath.lines) {
+        if (!isLevel(line, straightness) && !isPlumb(line, straightness))
+            return std::nullopt;
+        straight += std::abs(line.from.x - line.to.x) + std::abs(line.from.y - line.to.y);
+    }
+    const bool areAllCorners = std::all_of(curves.begin(), curves.end(), [&](const Rect& curve) {
+        const bool isAtSide = curve.left <= box.left + straightness || curve.right >= box.right - straightness;
+        const bool isAtEnd = curve.top <= box.top + straightness || curve.bottom >= box.bottom - straightness;
+        return isAtSide && isAtEnd;
+    });
+    const bool isClosed = subpath.isClosed || subpath.lines.size() >= 4;
+    if (!areAllCorners || !isClosed || straight < box.width() + box.height())
+        return std::nullopt;
+    return box;
 }
 
 /// Collects the segments of one subpath.
@@ -55,7 +80,8 @@ public:
     }
     void curveTo(const pdf::PathSegment& segment) {
         m_subpath.hasCurves = true;
-        m_curvePoints.insert(m_curvePoints.end(), {m_current, segment.control1, segment.control2, segment.to});
+        const std::vector<PathLine> polygon{{m_current, segment.control1}, {segment.control2, segment.to}};
+        m_curves.push_back(boxOf(polygon));
         m_current = segment.to;
     }
     void close() {
@@ -68,16 +94,17 @@ public:
         if (!m_subpath.lines.empty() || m_subpath.hasCurves)
             keep();
         m_subpath = {};
-        m_curvePoints.clear();
+        m_curves.clear();
     }
 
 private:
     void keep() {
         std::vector<PathLine> extent = m_subpath.lines;
-        for (const Point p : m_curvePoints)
-            extent.push_back({p, p});
+        for (const Rect& curve : m_curves)
+            extent.push_back({{curve.left, curve.top}, {curve.right, curve.bottom}});
         m_subpath.box = boxOf(extent);
-        m_subpath.rectangle = rectangleOf(m_subpath, m_straightness);
+        m_subpath.rectangle = m_curves.empty() ? rectangleOf(m_subpath, m_straightness)
+                                               : roundedRectangleOf(m_subpath, m_curves, m_straightness);
         m_subpaths.push_back(std::move(m_subpath));
     }
 
@@ -85,7 +112,7 @@ private:
     double m_straightness;
     std::vector<Subpath>& m_subpaths;
     Subpath m_subpath;
-    std::vector<Point> m_curvePoints;
+    std::vector<Rect> m_curves; ///< boxes of their control points
     Point m_start;
     Point m_current;
 };

@@ -19,7 +19,7 @@ struct Subpath {
     bool hasCurves = false;
     bool isClosed = false;
     Rect box;
-    std::optional<Rect> rectangle; ///< when it is an upright rectangle and nothing else
+    std::optional<Rect> rectangle; ///< when it is an upright rectangle, its corners perhaps rounded, and nothing else
 };
 
 /// Takes a path apart. `straightness` says how far, in points, the ends of a line may be off to count as level or

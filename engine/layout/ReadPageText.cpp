@@ -37,7 +37,7 @@ PageText readPageText(const pdf::PageContent& page, const LayoutParameters& para
     decorateText(lines, frames.frames, text.rules, text.grounds, text.links, parameters, diagnostics);
     text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
 
-    text.figures = findFigures(page, ruled.isTaken, parameters, diagnostics);
+    findFigures(page, ruled.isTaken, text, parameters, diagnostics);
     return text;
 }
 

@@ -60,15 +60,15 @@ private:
             addRule(box, thickness, path.fill->color, document::BorderKind::Single, path.paintOrder);
         else
             m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder});
-        return !path.fill->isPattern;
+        return true;
     }
 
     bool readStroke(const Subpath& subpath, const pdf::Path& path) {
-        if (subpath.hasCurves)
+        if (subpath.hasCurves && !subpath.rectangle)
             return false;
         const document::BorderKind kind = kindOf(*path.stroke, m_limits);
         const double width = std::max(path.stroke->width, m_limits.thinnest);
-        for (const PathLine& line : subpath.lines) {
+        for (const PathLine& line : subpath.hasCurves ? sidesOf(*subpath.rectangle) : subpath.lines) {
             const Rect box{std::min(line.from.x, line.to.x), std::min(line.from.y, line.to.y),
                            std::max(line.from.x, line.to.x), std::max(line.from.y, line.to.y)};
             if (std::min(box.width(), box.height()) > m_limits.straightness)
@@ -83,6 +83,13 @@ private:
                     {inked(seen, width), path.stroke->color, path.stroke->opacity, false, path.paintOrder});
         }
         return true;
+    }
+
+    static std::vector<PathLine> sidesOf(const Rect& box) {
+        return {{{box.left, box.top}, {box.right, box.top}},
+                {{box.right, box.top}, {box.right, box.bottom}},
+                {{box.left, box.bottom}, {box.right, box.bottom}},
+                {{box.left, box.top}, {box.left, box.bottom}}};
     }
 
     /// What the stroke of a broad pen covers.

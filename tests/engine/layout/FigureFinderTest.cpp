@@ -1,0 +1,107 @@
+#include "engine/layout/PageReading.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using pdf::tests::PageContentBuilder;
+using testing::IsEmpty;
+using testing::SizeIs;
+using tests::read;
+
+TEST(FigureFinder, ShowsAPictureAsItStands) {
+    PageContentBuilder page;
+    page.picture({100, 100, 300, 250});
+    const std::vector<Figure> figures = read(page).figures;
+    ASSERT_THAT(figures, SizeIs(1));
+    EXPECT_EQ(figures[0].box, (Rect{100, 100, 300, 250}));
+    EXPECT_EQ(figures[0].picture.value, 1u);
+    EXPECT_FALSE(figures[0].needsPainting);
+    EXPECT_FALSE(figures[0].isBackground);
+    EXPECT_EQ(figures[0].crop, document::Crop{});
+}
+
+TEST(FigureFinder, CropsAPictureToItsClip) {
+    PageContentBuilder page;
+    page.picture({100, 100, 300, 300}).clip = {150, 100, 300, 200};
+    const std::vector<Figure> figures = read(page).figures;
+    ASSERT_THAT(figures, SizeIs(1));
+    EXPECT_EQ(figures[0].box, (Rect{150, 100, 300, 200}));
+    EXPECT_EQ(figures[0].crop, (document::Crop{0.25, 0, 0, 0.5}));
+}
+
+TEST(FigureFinder, JoinsTheStripsOfAPicture) {
+    PageContentBuilder page;
+    for (int i = 0; i < 6; ++i)
+        page.picture({100, 100.0 + i * 20, 300, 120.0 + i * 20});
+    page.picture({400, 100, 500, 200});
+    const std::vector<Figure> figures = read(page).figures;
+    ASSERT_THAT(figures, SizeIs(2));
+    EXPECT_EQ(figures[0].box, (Rect{100, 100, 300, 220}));
+    EXPECT_TRUE(figures[0].needsPainting);
+    EXPECT_FALSE(figures[1].needsPainting);
+}
+
+TEST(FigureFinder, LeavesSpacersOut) {
+    PageContentBuilder page;
+    page.picture({100, 100, 101, 101});
+    pdf::Picture& pixel = page.picture({100, 200, 300, 201});
+    pixel.pixelWidth = pixel.pixelHeight = 1;
+    EXPECT_THAT(read(page).figures, IsEmpty());
+}
+
+TEST(FigureFinder, MarksWhatLiesBehindThePageOrItsText) {
+    PageContentBuilder page;
+    page.picture({0, 0, 595, 842});
+    EXPECT_TRUE(read(page).figures.at(0).isBackground);
+
+    PageContentBuilder poster;
+    poster.picture({60, 60, 400, 300});
+    poster.text(72, 100, "Running text that was set on top of a picture says more than labels do", 10);
+    EXPECT_TRUE(read(poster).figures.at(0).isBackground);
+}
+
+TEST(FigureFinder, MakesOneDrawingOfShapesThatStandTogether) {
+    PageContentBuilder page;
+    page.disk({120, 120}, 20);
+    page.disk({150, 130}, 20);
+    page.line({110, 150}, {180, 90});
+    page.disk({400, 500}, 10);
+    const std::vector<Figure> figures = read(page).figures;
+    ASSERT_THAT(figures, SizeIs(2));
+    EXPECT_TRUE(figures[0].needsPainting);
+    EXPECT_THAT(figures[0].paths, SizeIs(3));
+    EXPECT_NEAR(figures[0].box.left, 100, 0.5);
+    EXPECT_NEAR(figures[0].box.right, 180, 0.5);
+}
+
+TEST(FigureFinder, TakesTheAxesOfAChartIntoItsDrawing) {
+    PageContentBuilder page;
+    for (int i = 0; i < 8; ++i)
+        page.line({110.0 + i * 20, 200.0 - i * i}, {130.0 + i * 20, 200.0 - (i + 1) * (i + 1)});
+    page.horizontalRule(105, 290, 210);
+    page.verticalRule(105, 120, 210);
+    page.text(150, 180, "growth", 8);
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_NEAR(text.figures[0].box.left, 105, 0.5);
+    EXPECT_NEAR(text.figures[0].box.bottom, 210, 0.5);
+    EXPECT_EQ(text.figures[0].alternateText, "growth");
+    for (const Rule& rule : text.rules)
+        EXPECT_TRUE(rule.isUsed) << "an axis is no border of a table";
+    EXPECT_EQ(text.lines.at(0).figure, 0);
+}
+
+TEST(FigureFinder, TakesTablesAndSeparatorsForNoDrawings) {
+    PageContentBuilder page;
+    page.strokedRectangle({72, 100, 300, 200});
+    page.horizontalRule(72, 300, 150);
+    page.verticalRule(180, 100, 200);
+    page.horizontalRule(72, 500, 400, 1);
+    page.filledRectangle({72, 450, 300, 480}, {220, 220, 220});
+    EXPECT_THAT(read(page).figures, IsEmpty());
+}
+
+} // namespace
+} // namespace orvane::layout

@@ -1,0 +1,79 @@
+#include "engine/layout/PageReading.h"
+
+#include "base/Utf8.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+using pdf::tests::PageContentBuilder;
+using tests::linesOf;
+using tests::read;
+
+/// The only line of a page on which `visual` stands from left to right, after two lines that make the page a Hebrew
+/// one.
+Line lineOf(const std::string& visual) {
+    PageContentBuilder page;
+    page.text(72, 700, "\u05D0\u05D1\u05D2\u05D3\u05D4\u05D5\u05D6\u05D7\u05D8\u05D9\u05DB\u05DC\u05DE\u05E0", 12);
+    page.text(72, 720, "\u05D0\u05D1\u05D2\u05D3\u05D4\u05D5\u05D6\u05D7\u05D8\u05D9\u05DB\u05DC\u05DE\u05E0", 12);
+    page.text(72, 100, visual, 12);
+    return read(page).lines.at(0);
+}
+
+TEST(LogicalOrder, ReadsRightToLeftTextFromItsRight) {
+    struct Row {
+        const char* visual; ///< from left to right on the page
+        const char* logical;
+        const char* why;
+    };
+    const Row rows[] = {
+        {"\u05D3\u05D2 \u05D1\u05D0", "\u05D0\u05D1 \u05D2\u05D3", "words and letters turn"},
+        {".\u05D1\u05D0", "\u05D0\u05D1.", "a full stop stands on the left"},
+        {"\u05D3\u05D2 2024 \u05D1\u05D0", "\u05D0\u05D1 2024 \u05D2\u05D3", "numbers keep their order"},
+        {"\u05D3\u05D2 10-12 \u05D1\u05D0", "\u05D0\u05D1 10-12 \u05D2\u05D3", "and so do ranges"},
+        {"\u05D3\u05D2 WRC-12 \u05D1\u05D0", "\u05D0\u05D1 WRC-12 \u05D2\u05D3", "and names with numbers"},
+        {"\u05D3\u05D2 Hello world \u05D1\u05D0", "\u05D0\u05D1 Hello world \u05D2\u05D3", "Latin words keep theirs"},
+        {"\u05D3\u05D2 50% \u05D1\u05D0", "\u05D0\u05D1 50% \u05D2\u05D3", "a percent sign belongs to its number"},
+        {"\u05D1\u05D0 .1", "1. \u05D0\u05D1", "a label has its full stop on the left"},
+        {".12", "12.", "also alone on its line"},
+    };
+    for (const Row& row : rows) {
+        const Line line = lineOf(row.visual);
+        EXPECT_EQ(textOf(line), row.logical) << row.why;
+        EXPECT_TRUE(line.isRightToLeft) << row.why;
+    }
+}
+
+TEST(LogicalOrder, TurnsBracketsByTheirShapeOrAsTyped) {
+    // The same brackets on the page: one file says their shapes, the other what was typed.
+    EXPECT_EQ(textOf(lineOf("\u05D3\u05D2 (\u05D1\u05D0)")), "(\u05D0\u05D1) \u05D2\u05D3");
+    EXPECT_EQ(textOf(lineOf("\u05D3\u05D2 )\u05D1\u05D0(")), "(\u05D0\u05D1) \u05D2\u05D3");
+}
+
+TEST(LogicalOrder, TellsTheDirectionOfEachWord) {
+    const Line line = lineOf("\u05D3\u05D2 Hello \u05D1\u05D0");
+    ASSERT_EQ(line.words.size(), 3u);
+    EXPECT_TRUE(line.words[0].isRightToLeft);
+    EXPECT_FALSE(line.words[1].isRightToLeft);
+    EXPECT_GT(line.words[0].box.left, line.words[2].box.left);
+}
+
+TEST(LogicalOrder, KeepsRightToLeftWordsWithinLatinText) {
+    PageContentBuilder page;
+    page.text(72, 100, "The word \u05D1\u05D0 in English text", 12);
+    const Line line = read(page).lines.at(0);
+    EXPECT_EQ(textOf(line), "The word \u05D0\u05D1 in English text");
+    EXPECT_FALSE(line.isRightToLeft);
+}
+
+TEST(LogicalOrder, FindsTheLeaderOfARightToLeftRow) {
+    const Line line = lineOf("12.............\u05D1\u05D0");
+    EXPECT_EQ(textOf(line), "\u05D0\u05D1\t12");
+    EXPECT_EQ(line.words.at(1).leaderBefore, document::TabLeader::Dots);
+}
+
+} // namespace
+} // namespace orvane::layout
