@@ -1,13 +1,16 @@
 #include "platform/Registry.h"
 
-#include "support/TemporaryFolder.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <string>
 
-/// What holds for every system's registry.
+#ifndef _WIN32
+#include "support/TemporaryFolder.h"
+#endif
+
+/// What holds for every system's registry: the suite is built for this system, and where there is a compiler and a runner for Windows
+/// programs (see CMakeLists.txt) once more for that one.
 namespace platform::registry {
 namespace {
 
@@ -15,6 +18,9 @@ namespace {
 constexpr Hive kHive = Hive::CurrentUser;
 const std::string kKey = "Software\\TavrelionTest";
 
+#ifdef _WIN32
+using Registry = testing::Test; // the system's own, below a key of the suite's
+#else
 class Registry : public testing::Test {
 protected:
     Registry() { setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1); }
@@ -22,6 +28,7 @@ protected:
 
     orvane::tests::TemporaryFolder folder;
 };
+#endif
 
 Key made(const std::string& path) {
     Key key = 0;
