@@ -69,9 +69,12 @@ public:
         if (depth < m_parameters.regions.maximumDepth)
             gutter = findColumnGutter(lines, m_walls, m_parameters.regions);
         if (!gutter)
-            return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}};
+            return leaf(std::move(lines));
         extendOverNeighbours(*gutter, lines, m_parameters.regions.columnStep);
-        Pieces pieces = sortLines(std::move(lines), *gutter);
+        Pieces pieces = sortLines(lines, *gutter);
+        // Words of uneven height may weigh for a gutter that their lines lie beside.
+        if (pieces.left.empty() || pieces.right.empty())
+            return leaf(std::move(lines));
         PagePart columns{Kind::Columns, {}, {}};
         addPart(columns, split(std::move(pieces.left), depth + 1));
         addPart(columns, split(std::move(pieces.right), depth + 1));
@@ -91,19 +94,23 @@ private:
         std::vector<Line> above, left, right, below;
     };
 
-    static Pieces sortLines(std::vector<Line> lines, const ColumnGutter& gutter) {
+    PagePart leaf(std::vector<Line> lines) const {
+        return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}};
+    }
+
+    static Pieces sortLines(const std::vector<Line>& lines, const ColumnGutter& gutter) {
         Pieces pieces;
         const double middle = (gutter.left + gutter.right) / 2;
-        for (Line& line : lines) {
+        for (const Line& line : lines) {
             if (line.box.centerY() < gutter.top) {
-                pieces.above.push_back(std::move(line));
+                pieces.above.push_back(line);
             } else if (line.box.centerY() > gutter.bottom) {
-                pieces.below.push_back(std::move(line));
+                pieces.below.push_back(line);
             } else if (auto halves = cutLine(line, middle)) {
                 pieces.left.push_back(std::move(halves->first));
                 pieces.right.push_back(std::move(halves->second));
             } else {
-                (line.box.centerX() < middle ? pieces.left : pieces.right).push_back(std::move(line));
+                (line.box.centerX() < middle ? pieces.left : pieces.right).push_back(line);
             }
         }
         return pieces;

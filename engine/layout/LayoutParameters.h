@@ -383,6 +383,9 @@ struct LayoutParameters {
         double minimumColumn = 8;  ///< of the font size; narrower columns are labels, not prose
         double minimumFill = 0.55; ///< share of the column that its rows cover; less is labels and values, not prose
         double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
+        double edgeShare = 0.04;   ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...
+        std::size_t edgeLines = 3; ///< ... but never more than so many
+        double edgeReach = 1.0;    ///< of the font size; lines that end this near to each other end at one edge
         int maximumDepth = 8;      ///< how often parts are parted again
         std::size_t maximumStrips = 200; ///< empty strips followed at once
     } regions;

@@ -82,9 +82,15 @@ double meanGap(const Line& line) {
 
 void readWords(const Line& line, LineMeasure& measure) {
     measure.isBold = true;
+    measure.smallestSize = measure.largestSize = line.fontSize;
+    measure.startsBold = line.words.front().spans.front().look.isBold;
+    measure.endsBold = line.words.back().spans.back().look.isBold;
     for (const Word& word : line.words) {
-        for (const Span& span : word.spans)
+        for (const Span& span : word.spans) {
             measure.isBold = measure.isBold && span.look.isBold;
+            measure.smallestSize = std::min(measure.smallestSize, span.look.size);
+            measure.largestSize = std::max(measure.largestSize, span.look.size);
+        }
         measure.hasLeader = measure.hasLeader || word.leaderBefore != document::TabLeader::None;
         if (word.gapBefore == Gap::Tab && &word != &line.words.front())
             measure.tabStart = measure.startGap +

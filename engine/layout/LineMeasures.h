@@ -28,6 +28,10 @@ struct LineMeasure {
     double meanGap = 0;   ///< mean width of the blanks between its words; 0 without any
     double textStart = 0; ///< start gap of the text behind the marker; startGap without one
     std::optional<ListMarker> marker;
+    bool startsBold = false; ///< its first word is bold
+    bool endsBold = false;   ///< its last word is bold
+    double smallestSize = 0; ///< font sizes on the line
+    double largestSize = 0;
     bool isBold = false;            ///< every word is
     bool hasLeader = false;         ///< dots between words, as in a table of contents
     std::optional<double> tabStart; ///< start gap of the text behind its last tabulator

@@ -110,6 +110,12 @@ std::optional<ListMarker> readOrdinal(std::u32string_view word) {
         if (!body.empty() && body.back() == U'.')
             body.remove_suffix(1);
     }
+    // "1-" and "a-" are labels in many languages; "X-" before a word of its own is not common enough to count.
+    else if (!isOpened && body.size() > 1 && body.size() < 4 && isIn(U"-–", body.back()) &&
+             u_charDigitValue(static_cast<UChar32>(body[body.size() - 2])) >= 0) {
+        marker.hasPunctuation = true;
+        body.remove_suffix(1);
+    }
     if (body.empty() || body.size() > 12 || (isOpened && !marker.hasPunctuation))
         return std::nullopt;
     int groups = 0;

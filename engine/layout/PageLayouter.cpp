@@ -1,5 +1,6 @@
 #include "layout/PageLayouter.h"
 
+#include "layout/CellRegrouper.h"
 #include "layout/ParagraphBuilder.h"
 #include "layout/ParagraphContinuation.h"
 #include "layout/ReadingOrder.h"
@@ -20,8 +21,8 @@ public:
         , m_parameters(parameters) {}
 
     PageLayout run(Diagnostics& diagnostics) {
-        takeTables(diagnostics);
         takePageFacts();
+        takeTables(diagnostics);
         placeBackgrounds();
         takeTurnedLines();
         takeFigures();
@@ -35,6 +36,7 @@ private:
     void takeTables(Diagnostics& diagnostics) {
         for (TableDraft& table : findTables(m_page, m_parameters, diagnostics)) {
             const Rect box = table.box;
+            regroupCells(table, paragraphContext(), m_parameters);
             m_walls.push_back(box);
             addObject(box, 0, std::move(table));
         }
@@ -44,7 +46,7 @@ private:
         m_layout.number = m_page.number;
         m_layout.width = m_page.width;
         m_layout.height = m_page.height;
-        m_layout.fonts = std::move(m_page.fonts);
+        m_layout.fonts = m_page.fonts;
         m_layout.links = std::move(m_page.links);
         m_layout.annotations = std::move(m_page.annotations);
         m_layout.fields = std::move(m_page.fields);

@@ -107,16 +107,17 @@ private:
                                 m_parameters.fitSlack * m_lines[next].fontSize);
     }
 
+    /// Whole lines of another size or weight. A line of both looks, or a bold passage that goes on, is no change.
     bool looksDifferent(std::size_t next) const {
-        const double a = m_lines[next - 1].fontSize;
-        const double b = m_lines[next].fontSize;
-        if (std::max(a, b) > m_parameters.sizeChange * std::min(a, b))
+        const LineMeasure& above = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        if (above.smallestSize > m_parameters.sizeChange * line.largestSize ||
+            line.smallestSize > m_parameters.sizeChange * above.largestSize)
             return true;
-        return m_measures[next - 1].isBold != m_measures[next].isBold &&
-               isWholeParagraphBold(next) != m_measures[next].isBold;
+        return above.endsBold != line.startsBold && (isBoldSoFar(next) || line.isBold);
     }
 
-    bool isWholeParagraphBold(std::size_t next) const {
+    bool isBoldSoFar(std::size_t next) const {
         return std::all_of(m_measures.begin() + static_cast<std::ptrdiff_t>(m_first),
                            m_measures.begin() + static_cast<std::ptrdiff_t>(next),
                            [](const LineMeasure& line) { return line.isBold; });

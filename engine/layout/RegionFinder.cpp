@@ -1,5 +1,6 @@
 #include "layout/RegionFinder.h"
 
+#include "layout/ColumnEdges.h"
 #include "layout/ColumnSplitter.h"
 
 #include <algorithm>
@@ -10,8 +11,9 @@ namespace {
 /// Turns the tree of parts into the flat list of regions.
 class Flattener {
 public:
-    explicit Flattener(const DocumentContext& context)
-        : m_context(context) {}
+    Flattener(const DocumentContext& context, const LayoutParameters::Regions& parameters)
+        : m_context(context)
+        , m_parameters(parameters) {}
 
     PageRegions run(PagePart page) {
         if (page.kind == PagePart::Kind::Slices)
@@ -37,14 +39,14 @@ private:
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const std::size_t firstOfColumn = m_result.regions.size();
             addRegions(std::move(columns[i]), static_cast<int>(i));
-            ColumnSpan span{1e9, -1e9};
+            std::vector<Line> lines;
             for (std::size_t r = firstOfColumn; r < m_result.regions.size(); ++r) {
-                const Rect& box = m_result.regions[r].box;
-                span = {std::min(span.left, box.left), std::max(span.right, box.right)};
-                band.top = std::min(band.top, box.top);
-                band.bottom = std::max(band.bottom, box.bottom);
+                const Region& region = m_result.regions[r];
+                lines.insert(lines.end(), region.lines.begin(), region.lines.end());
+                band.top = std::min(band.top, region.box.top);
+                band.bottom = std::max(band.bottom, region.box.bottom);
             }
-            band.columns.push_back(span);
+            band.columns.push_back(findColumnEdges(lines, m_parameters));
         }
         if (band.columns.size() == 1)
             widenToTextArea(band.columns[0]);
@@ -63,7 +65,7 @@ private:
                 addRegions(std::move(child), column);
             // Columns within a column keep their own edges; slices share those of the column.
             for (std::size_t r = first; part.kind == PagePart::Kind::Columns && r < m_result.regions.size(); ++r)
-                m_result.regions[r].span = {m_result.regions[r].box.left, m_result.regions[r].box.right};
+                m_result.regions[r].span = findColumnEdges(m_result.regions[r].lines, m_parameters);
             return;
         }
         Region region;
@@ -96,6 +98,7 @@ private:
     }
 
     const DocumentContext& m_context;
+    const LayoutParameters::Regions& m_parameters;
     PageRegions m_result;
 };
 
@@ -107,7 +110,7 @@ PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, co
         return {};
     std::stable_sort(lines.begin(), lines.end(),
                      [](const Line& a, const Line& b) { return a.box.centerY() < b.box.centerY(); });
-    return Flattener(context).run(splitIntoColumns(std::move(lines), walls, parameters));
+    return Flattener(context, parameters.regions).run(splitIntoColumns(std::move(lines), walls, parameters));
 }
 
 } // namespace orvane::layout

@@ -33,6 +33,8 @@ void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, Pict
             if (painted)
                 figure.picture = pictures.add(*painted);
         } catch (const Failure& failure) {
+            if (failure.code() == FailureCode::TargetUnwritable)
+                throw; // the disk is full, and not only for this drawing
             diagnostics.add(DiagnosticKind::DrawingSimplified, page.number,
                             fmt::format("a drawing could not be painted: {}", failure.what()), figure.box);
         }

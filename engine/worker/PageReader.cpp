@@ -1,14 +1,16 @@
 #include "worker/PageReader.h"
 
+#include "base/Failure.h"
 #include "layout/Layout.h"
 #include "worker/ContentCounter.h"
 #include "worker/FigurePainter.h"
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <exception>
 #include <mutex>
-#include <optional>
 #include <thread>
 
 #include <fmt/format.h>
@@ -18,8 +20,8 @@ namespace {
 
 constexpr int kMaxThreads = 4;
 
-// Opening a document once more takes about as long as reading a few pages.
-constexpr int kPagesWorthAThread = 4;
+// A further thread opens the document once more, which is worth while only when the pages take longer than that.
+constexpr std::chrono::milliseconds kHelpersPatience{100};
 
 layout::PageText emptyPage(const pdf::PdfDocument& document, int number) {
     layout::PageText page;
@@ -34,6 +36,12 @@ layout::PageText emptyPage(const pdf::PdfDocument& document, int number) {
     return page;
 }
 
+/// A full disk or a cancelled job is not healed by leaving out a page.
+bool isFaultOfThePage(FailureCode code) {
+    return code != FailureCode::Cancelled && code != FailureCode::TargetUnwritable &&
+           code != FailureCode::LimitExceeded;
+}
+
 /// The threads' common work: takes page after page until none is left.
 class PageWork {
 public:
@@ -45,13 +53,29 @@ public:
 
     void takePages(const pdf::PdfDocument& document) {
         try {
-            for (std::size_t index = m_next++; index < m_reading.pages.size() && !m_hasFailed; index = m_next++)
+            for (std::size_t index = m_next++; index < m_reading.pages.size(); index = m_next++)
                 takePage(document, index);
         } catch (...) {
             const std::lock_guard lock(m_mutex);
             if (!m_error)
                 m_error = std::current_exception();
-            m_hasFailed = true;
+            m_next = m_reading.pages.size();
+        }
+        const std::lock_guard lock(m_mutex); // a helper is either still before its look at m_next, or waits already
+        m_noMorePages.notify_all();
+    }
+
+    /// Takes pages too if there are some left after a while, from a document of its own.
+    void help() {
+        {
+            std::unique_lock lock(m_mutex);
+            if (m_noMorePages.wait_for(lock, kHelpersPatience, [this] { return m_next >= m_reading.pages.size(); }))
+                return;
+        }
+        try {
+            takePages(pdf::PdfDocument::open(m_reading.source, m_reading.passwords));
+        } catch (const std::exception&) {
+            // The source opened a moment ago. Whatever keeps it from opening again, the other threads take the pages.
         }
     }
 
@@ -81,15 +105,16 @@ private:
                                    protocol::Counts& counts) {
         try {
             return read(document, number, diagnostics, counts);
+        } catch (const Failure& failure) {
+            if (!isFaultOfThePage(failure.code()))
+                throw;
+            diagnostics.add(DiagnosticKind::PageUnreadable, number, failure.what());
         } catch (const std::bad_alloc&) {
             throw;
         } catch (const std::exception& error) {
-            const auto* failure = dynamic_cast<const Failure*>(&error);
-            if (failure != nullptr && failure->code() == FailureCode::Cancelled)
-                throw;
             diagnostics.add(DiagnosticKind::PageUnreadable, number, error.what());
-            return emptyPage(document, number);
         }
+        return emptyPage(document, number);
     }
 
     layout::PageText read(const pdf::PdfDocument& document, int number, Diagnostics& diagnostics,
@@ -106,8 +131,8 @@ private:
     RunReporter& m_reporter;
     PagesRead m_result;
     std::atomic<std::size_t> m_next = 0;
-    std::atomic<bool> m_hasFailed = false;
     std::mutex m_mutex;
+    std::condition_variable m_noMorePages;
     int m_done = 0;
     std::exception_ptr m_error;
 };
@@ -116,7 +141,7 @@ int threadsFor(const PageReading& reading) {
     const int most = reading.threads > 0
                          ? reading.threads
                          : std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, kMaxThreads);
-    return std::clamp(static_cast<int>(reading.pages.size()) / kPagesWorthAThread, 1, most);
+    return std::clamp(static_cast<int>(reading.pages.size()), 1, most);
 }
 
 } // namespace
@@ -126,14 +151,7 @@ PagesRead readPages(const pdf::PdfDocument& document, const PageReading& reading
     {
         std::vector<std::jthread> helpers;
         for (int helper = 1; helper < threadsFor(reading); ++helper)
-            helpers.emplace_back([&work, &reading] {
-                try {
-                    work.takePages(pdf::PdfDocument::open(reading.source, reading.passwords));
-                } catch (const std::exception&) {
-                    // The source opened a moment ago. Whatever keeps it from opening again, the other threads take the
-                    // pages.
-                }
-            });
+            helpers.emplace_back([&work] { work.help(); });
         work.takePages(document);
     }
     return work.result();

@@ -84,6 +84,14 @@ TEST_F(BadInput, KeepsTheOldFileWhenTheDiskIsFull) {
     EXPECT_EQ(read("a.docx"), "old");
 }
 
+TEST_F(BadInput, EndsWhenTheDiskIsFullOfPictures) {
+    makePdfWithPicture("a.pdf");
+    tests::ProgramOptions options;
+    options.maxFileSize = 8000;
+    expectRefused({"convert", path("a.pdf")}, 5, "cannot write pictures", options);
+    EXPECT_FALSE(exists("a.docx"));
+}
+
 TEST_F(BadInput, RefusesWhatDoesNotExistYetOrMakesNoSense) {
     const std::string source = makePdf("a.pdf", 3);
     expectRefused({"convert", source, "--to", "rtf"}, 2, "\"rtf\" is not available");

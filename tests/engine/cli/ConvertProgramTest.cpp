@@ -92,6 +92,30 @@ TEST_F(ConvertProgram, PrintsAJsonObjectForEachFile) {
     EXPECT_EQ(exitCodes, (std::map<std::string, int>{{"a.pdf", 0}, {"bad.pdf", 4}}));
 }
 
+TEST_F(ConvertProgram, KeepsThePlaceOfAPageThatCannotBeRead) {
+    std::string bytes = tests::readFile(makePdf("a.pdf", 2));
+    const std::size_t count = bytes.find("/Count 2");
+    ASSERT_NE(count, std::string::npos);
+    write("a.pdf", bytes.replace(count, 8, "/Count 3"));
+    const auto result = orvane({"convert", path("a.pdf"), path("b.docx"), "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.errorOutput;
+    const json object = json::parse(result.output);
+    EXPECT_EQ(object["selectedPages"], 3);
+    EXPECT_EQ(object["counts"]["charactersWritten"], 2 * 29);
+    EXPECT_EQ(object["notes"][0]["kind"], "PageUnreadable") << result.output;
+    EXPECT_EQ(object["notes"][0]["pages"], json({3}));
+}
+
+TEST_F(ConvertProgram, LeavesPicturesOutWhenAskedTo) {
+    makePdfWithPicture("a.pdf");
+    const auto with = orvane({"convert", path("a.pdf"), path("with.docx"), "--json"});
+    const auto without = orvane({"convert", path("a.pdf"), path("without.docx"), "--json", "--no-images"});
+    EXPECT_EQ(json::parse(with.output)["counts"]["picturesWritten"], 1) << with.output;
+    EXPECT_EQ(json::parse(without.output)["counts"]["picturesWritten"], 0) << without.output;
+    EXPECT_GT(read("with.docx").size(), 30000u);
+    EXPECT_LT(read("without.docx").size(), 30000u);
+}
+
 TEST_F(ConvertProgram, DoesNotHoldThePdfLibrary) {
     // The library parses what strangers wrote, and does so in the worker alone.
     EXPECT_THAT(tests::readFile(binaries() / "orvane-worker"), HasSubstr("libpoppler"));

@@ -33,6 +33,18 @@ protected:
         return path(name);
     }
 
+    /// Makes a PDF with one picture of noise, which no compression makes smaller than 30,000 bytes.
+    void makePdfWithPicture(const std::string& name) const {
+        std::string pixels;
+        for (unsigned i = 0, value = 1; i < 100 * 100 * 3; ++i, value = value * 1103515245 + 12345)
+            pixels += static_cast<char>(value >> 16);
+        tests::PdfBuilder pdf;
+        const int image = pdf.addStream(tests::pdfImage(100, 100, "/DeviceRGB", 8), pixels);
+        const std::string resources = "/XObject << /Im1 " + tests::pdfRef(image) + " >>";
+        pdf.page({"q 99 0 0 99 72 600 cm /Im1 Do Q", 612, 792, {}, resources, {}});
+        pdf.write(path(name));
+    }
+
     static tests::ProgramResult orvane(const std::vector<std::string>& arguments,
                                        const tests::ProgramOptions& options = {}) {
         return tests::runProgram(binaries() / "orvane", arguments, options);
