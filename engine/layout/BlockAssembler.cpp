@@ -24,7 +24,7 @@ document::RunProperties markProperties(const DraftParagraph& paragraph, const As
 AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& source,
                                  const AssemblyContext& context) {
     document::Paragraph paragraph;
-    paragraph.properties = formatOf(source, context.parameters);
+    paragraph.properties = formatOf(source, context.draft.numberings, context.parameters);
     const std::optional<document::LineSpacing> spacing = lineSpacingOf(source, context.fonts, context.parameters);
     if (spacing)
         paragraph.properties.lineSpacing = *spacing;

@@ -1,6 +1,7 @@
 #include "layout/DocumentAssembler.h"
 
 #include "layout/BlockAssembler.h"
+#include "layout/NumberingAssembler.h"
 #include "layout/SpacingFinder.h"
 
 #include <iterator>
@@ -96,6 +97,8 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     FlowSet flows(draft, assembly);
     document::Document document;
     document.metadata = metadataOf(facts.metadata);
+    for (const DraftNumbering& numbering : draft.numberings)
+        document.numberings.push_back(assembleNumbering(numbering, assembly));
     document.styles = makeStyles(flows.flows(), assembly);
     findSpacing(flows.flows(), document.styles, assembly);
     document.sections = flows.takeSections();

@@ -86,9 +86,21 @@ struct DraftSection {
     DraftRunningText footer;
 };
 
+/// How the label of a list's level looks.
+struct LabelLook {
+    std::size_t page = 0; ///< index into DocumentDraft::pages
+    Span span;
+};
+
+struct DraftNumbering {
+    document::Numbering numbering;
+    std::vector<std::optional<LabelLook>> labels; ///< for each level
+};
+
 struct DocumentDraft {
     std::vector<PageLayout> pages; ///< without their blocks; behind the document's own those made of running heads
     std::vector<DraftBlock> blocks;
+    std::vector<DraftNumbering> numberings;
     std::vector<DraftSection> sections;            ///< at least one once SectionMaker has run
     std::vector<std::vector<RunningField>> fields; ///< for each page; only those made of running heads have any
 };

@@ -4,6 +4,8 @@
 #include "layout/DocumentAnalyser.h"
 #include "layout/DocumentAssembler.h"
 #include "layout/DraftBuilder.h"
+#include "layout/HeadingFinder.h"
+#include "layout/ListFinder.h"
 #include "layout/PageLayouter.h"
 #include "layout/ParagraphJoiner.h"
 #include "layout/RunningHeads.h"
@@ -51,7 +53,9 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     const DocumentContext context = analyseDocument(pages, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
     joinParagraphs(draft, context, parameters);
+    findHeadings(draft, facts, context, parameters, diagnostics);
     makeSections(draft, heads, context, parameters, diagnostics);
+    findLists(draft, parameters);
     return assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics);
 }
 

@@ -129,8 +129,26 @@ struct LayoutParameters {
 
     /// TableAssembler.
     struct TableCells {
-        double usualMargin = 5.4; ///< points; between a cell's edge and its text, unless less is seen
+        double usualMargin = 5.4;   ///< points; between a cell's side and its text, unless less is seen
+        double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
     } tableCells;
+
+    /// ListLabel, ListGroups, ListFinder.
+    struct Lists {
+        double sameIndent = 3.0; ///< points; labels or texts that start this near to each other are of one level
+    } lists;
+
+    /// HeadingFinder, HeadingStyles: headings where only their looks tell them.
+    struct Headings {
+        int maximumLines = 3;
+        int maximumLength = 160;    ///< characters
+        double lookShare = 0.85;    ///< of the characters that one look must have to be the paragraph's
+        double largerSize = 1.12;   ///< of the body text's size; from there on letters are larger
+        double wordShare = 0.12;    ///< of the document's words; a look with more is not that of headings
+        double crowdedShare = 0.34; ///< of a look's paragraphs that may be followed by another of the same look
+        double titleSize = 1.35;    ///< of the body text's size
+        int titleParagraphs = 3;    ///< more in the largest letters are no title
+    } headings;
 
     /// LeaderFinder: dots before page numbers.
     struct Leaders {

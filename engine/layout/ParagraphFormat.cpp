@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace orvane::layout {
@@ -31,9 +32,25 @@ void setIndents(const DraftPiece& piece, double smallest, document::ParagraphPro
     format.indentEnd = indent(std::max(0.0, end), smallest);
 }
 
+/// An item has the indents of its list's level unless it clearly stands elsewhere.
+void takeListIndents(const document::NumberingLevel& level, std::size_t lines, double tolerance,
+                     document::ParagraphProperties& format) {
+    const auto isNear = [tolerance](Twips a, Twips b) {
+        return std::abs(a.value - b.value) <= twipsFromPoints(tolerance).value;
+    };
+    const bool startsAlike = isNear(format.indentStart + format.firstLine, level.indentStart + level.firstLine);
+    const bool goesOnAlike = lines == 1 || isNear(format.indentStart, level.indentStart);
+    // Numbers may be set against their right edge; their texts stand in line then.
+    if ((startsAlike && goesOnAlike) || (goesOnAlike && isNear(format.indentStart, level.indentStart))) {
+        format.indentStart = level.indentStart;
+        format.firstLine = level.firstLine;
+    }
+}
+
 } // namespace
 
-document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const LayoutParameters& parameters) {
+document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
+                                       const LayoutParameters& parameters) {
     const DraftPiece& first = paragraph.pieces.front();
     document::ParagraphProperties format;
     format.alignment = first.text.alignment;
@@ -41,6 +58,10 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const La
     // The edges of centred lines, and the start of those set against the end, follow from their lengths.
     if (format.alignment != Alignment::Center && format.alignment != Alignment::End)
         setIndents(first, parameters.spacing.smallestIndent, format);
+    if (paragraph.list)
+        takeListIndents(
+            numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],
+            first.text.lines.size(), parameters.lists.sameIndent, format);
     format.tabs = findTabStops(paragraph, parameters);
     return format;
 }

@@ -7,6 +7,7 @@
 namespace orvane::layout {
 
 /// How the paragraph stands by itself: direction, alignment, indents, tab stops.
-document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const LayoutParameters& parameters);
+document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
+                                       const LayoutParameters& parameters);
 
 } // namespace orvane::layout

@@ -179,6 +179,27 @@ void trimCells(AssembledBlock& block) {
     }
 }
 
+/// What starts a page by hand, or with its section, stands as far below the margin as on its page.
+void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& context) {
+    const auto& sections = context.draft.sections;
+    auto section = sections.begin();
+    double margin = 0;
+    for (std::size_t i = 0; i < body.size(); ++i) {
+        bool startsSection = false;
+        for (; section != sections.end() && section->firstBlock <= i; ++section) {
+            margin = pointsFromTwips(section->setup.marginTop);
+            startsSection = section->setup.start != document::SectionStart::Continuous;
+        }
+        Paragraph* paragraph = body[i].paragraph();
+        if (!paragraph || !body[i].draft || !(startsSection || body[i].draft->startsPage))
+            continue;
+        const double offset = body[i].top - margin;
+        const double given = pointsFromTwips(paragraph->properties.spaceBefore);
+        if (std::abs(offset - given) > context.parameters.spacing.sameGap)
+            paragraph->properties.spaceBefore = twipsFromPoints(std::max(0.0, offset));
+    }
+}
+
 } // namespace
 
 void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, const AssemblyContext& context) {
@@ -194,6 +215,9 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
         forEachBlock(flow.blocks, flow.kind, [](AssembledBlock& block, FlowKind) { trimCells(block); });
     for (const BlockGap& gap : gaps)
         setGap(gap, limits);
+    for (BlockFlow& flow : flows)
+        if (flow.kind == FlowKind::Body)
+            setPageTops(flow.blocks, context);
 }
 
 } // namespace orvane::layout

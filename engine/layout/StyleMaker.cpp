@@ -161,7 +161,8 @@ void snapToStyle(AssembledBlock& block, const Style& style, const LayoutParamete
     const bool mayBeJustified = isSingleLine && format.alignment == Alignment::Start;
     if (mayBeJustified && usual.alignment == Alignment::Justified)
         format.alignment = usual.alignment;
-    if (format.alignment != usual.alignment)
+    // The indents of a list's items are those of its levels.
+    if (format.alignment != usual.alignment || block.paragraph()->list)
         return;
     const bool startsAlike =
         isNear(format.indentStart + format.firstLine, usual.indentStart + usual.firstLine, limits.sameIndent);
@@ -176,9 +177,11 @@ void snapToStyle(AssembledBlock& block, const Style& style, const LayoutParamete
 
 void chooseFormat(StyleGroup& group, const LayoutParameters::Styles& limits) {
     chooseAlignment(group);
-    chooseLength(group, &ParagraphProperties::indentStart, limits);
-    chooseLength(group, &ParagraphProperties::indentEnd, limits);
-    chooseLength(group, &ParagraphProperties::firstLine, limits);
+    if (group.style.id != "ListParagraph") {
+        chooseLength(group, &ParagraphProperties::indentStart, limits);
+        chooseLength(group, &ParagraphProperties::indentEnd, limits);
+        chooseLength(group, &ParagraphProperties::firstLine, limits);
+    }
     chooseField(group, &ParagraphProperties::isRightToLeft);
     if (group.style.id != "Normal")
         chooseField(group, &ParagraphProperties::tabs);

@@ -1,20 +1,34 @@
 #include "layout/TableAssembler.h"
 
 #include "layout/BlockAssembler.h"
+#include "layout/BlockExtent.h"
 
 #include <algorithm>
 
 namespace orvane::layout {
 namespace {
 
-/// Space between the cells' edges and their text, the same for all cells: the smallest that is seen.
-double cellMargin(const DraftTable& draft, double usual) {
-    double margin = usual;
-    for (const DraftCell& cell : draft.cells)
+/// Space between the cells' edges and their text, the same for all cells of a table.
+struct CellMargins {
+    double side = 0;
+    double top = 0;
+    double bottom = 0;
+};
+
+/// The smallest spaces that are seen, as far as they are usual.
+CellMargins cellMargins(const DraftTable& draft, const FontCatalog& fonts, const LayoutParameters::TableCells& limits) {
+    CellMargins margins{limits.usualMargin, limits.largestMargin, limits.largestMargin};
+    for (const DraftCell& cell : draft.cells) {
+        const Rect& box = cell.cell.box;
         for (const DraftBlock& block : cell.blocks)
             if (block.paragraph())
-                margin = std::min({margin, block.box.left - cell.cell.box.left, cell.cell.box.right - block.box.right});
-    return std::max(0.0, margin);
+                margins.side = std::min({margins.side, block.box.left - box.left, box.right - block.box.right});
+        if (cell.blocks.empty())
+            continue;
+        margins.top = std::min(margins.top, extentOf(cell.blocks.front(), fonts).top - box.top);
+        margins.bottom = std::min(margins.bottom, box.bottom - extentOf(cell.blocks.back(), fonts).bottom);
+    }
+    return {std::max(0.0, margins.side), std::max(0.0, margins.top), std::max(0.0, margins.bottom)};
 }
 
 /// What a cell holds that has nothing in it.
@@ -45,7 +59,7 @@ std::vector<AssembledBlock> assembleCellBlocks(const DraftCell& cell, Twips marg
     return blocks;
 }
 
-document::TableCell cellOf(const CellDraft& draft, Twips margin) {
+document::TableCell cellOf(const CellDraft& draft, const CellMargins& margins) {
     document::TableCell cell;
     cell.column = draft.column;
     cell.columnSpan = draft.columnSpan;
@@ -54,7 +68,9 @@ document::TableCell cellOf(const CellDraft& draft, Twips margin) {
     cell.shading = draft.shading;
     cell.alignment = draft.alignment;
     cell.direction = draft.direction;
-    cell.marginLeft = cell.marginRight = margin;
+    cell.marginLeft = cell.marginRight = twipsFromPoints(margins.side);
+    cell.marginTop = twipsFromPoints(margins.top);
+    cell.marginBottom = twipsFromPoints(margins.bottom);
     return cell;
 }
 
@@ -85,10 +101,10 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     table.indent = twipsFromPoints(indentOf(place, columns, context.draft));
 
     AssembledBlock assembled;
-    const Twips margin = twipsFromPoints(cellMargin(draft, context.parameters.tableCells.usualMargin));
+    const CellMargins margins = cellMargins(draft, context.fonts, context.parameters.tableCells);
     for (const DraftCell& cell : draft.cells) {
-        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margin));
-        assembled.cells.push_back(assembleCellBlocks(cell, margin, context));
+        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margins));
+        assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margins.side), context));
     }
     assembled.block.value = std::move(table);
     return assembled;
