@@ -90,12 +90,12 @@ private:
 };
 
 AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, std::size_t end,
-                        const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+                        const std::vector<Line>& lines, const LayoutParameters& parameters) {
     AlignedRows aligned;
     aligned.rows.assign(rows.begin() + static_cast<std::ptrdiff_t>(first),
                         rows.begin() + static_cast<std::ptrdiff_t>(end));
-    aligned.gaps = findColumnGaps(aligned.rows, parameters);
-    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, parameters);
+    aligned.gaps = findTableColumns(aligned.rows, lines, parameters);
+    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, parameters.tables);
     // What follows the last full row and is no part of it is other text.
     while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&
            aligned.rows.back().pieces.size() == 1) {
@@ -107,9 +107,9 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
 
 } // namespace
 
-std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters::Tables& parameters) {
-    const std::vector<PieceRow> rows = candidateRows(page, parameters);
-    RegionGrower grower(rows, parameters);
+std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters& parameters) {
+    const std::vector<PieceRow> rows = candidateRows(page, parameters.tables);
+    RegionGrower grower(rows, parameters.tables);
     std::vector<TableGrid> grids;
     for (std::size_t first = 0; first < rows.size();) {
         const std::size_t end = grower.grow(first);
@@ -118,9 +118,10 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
         if (end > first) {
             const AlignedRows aligned = alignRegion(rows, first, end, page.lines, parameters);
             rowCount = aligned.rows.size();
-            isTable = judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters) == TableVerdict::Table;
+            isTable =
+                judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) == TableVerdict::Table;
             if (isTable)
-                grids.push_back(gridOf(aligned, 0));
+                grids.push_back(gridOf(aligned, parameters.tables.textMargin));
         }
         first = isTable ? first + rowCount : first + 1;
     }

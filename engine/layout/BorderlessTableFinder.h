@@ -9,6 +9,6 @@
 namespace orvane::layout {
 
 /// The grids of tables without rules: rows of short texts whose columns stay clear of each other and keep their edges.
-std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters::Tables& parameters);
+std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

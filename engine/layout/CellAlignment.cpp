@@ -29,9 +29,19 @@ struct Edges {
     Range middle; ///< left distance less right distance
     int lines = 0;
 
-    void add(const Rect& line, const Rect& cell) {
-        const double leftGap = line.left - cell.left;
-        const double rightGap = cell.right - line.right;
+    void add(const Edges& other) {
+        if (other.lines == 0)
+            return;
+        for (const auto& [range, added] :
+             {std::pair{&left, &other.left}, {&right, &other.right}, {&middle, &other.middle}}) {
+            range->add(added->low);
+            range->add(added->high);
+        }
+        lines += other.lines;
+    }
+    void add(const Rect& line, ColumnSpan room) {
+        const double leftGap = line.left - room.left;
+        const double rightGap = room.right - line.right;
         left.add(leftGap);
         right.add(rightGap);
         middle.add(leftGap - rightGap);
@@ -72,11 +82,11 @@ void forParagraphs(CellDraft& cell, const Function& function) {
             function(*paragraph);
 }
 
-Edges edgesOf(CellDraft& cell) {
+Edges edgesOf(CellDraft& cell, ColumnSpan room) {
     Edges edges;
     forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
         for (const Line& line : paragraph.lines)
-            edges.add(line.box, cell.box);
+            edges.add(line.box, room);
     });
     return edges;
 }
@@ -97,27 +107,36 @@ Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofCo
     return ofColumn ? *ofColumn : alignmentByGaps(own, tolerance, parameters);
 }
 
+/// Sets an alignment against the cell's sides. Justified text, and text of right-to-left lines, knows better by itself.
+void setAlignment(ParagraphDraft& paragraph, Alignment alignment, const Rect& cell) {
+    if (paragraph.alignment == Alignment::Justified || paragraph.alignment == alignment ||
+        paragraph.lines.front().isRightToLeft)
+        return;
+    paragraph.alignment = alignment;
+    paragraph.indentEnd = 0;
+    paragraph.firstLine = 0;
+    paragraph.indentStart = alignment == Alignment::Start ? paragraph.box.left - cell.left : 0;
+}
+
 } // namespace
 
-void alignAcross(TableDraft& table, const LayoutParameters::Tables& parameters) {
+void alignAcross(TableDraft& table, const ColumnRooms& rooms, const LayoutParameters::Tables& parameters) {
     const double tolerance = parameters.edgeTolerance * fontSizeOf(table);
     std::vector<Edges> columns(table.columnEdges.size());
     const auto isOfColumn = [&](const CellDraft& cell) { return cell.columnSpan == 1 && cell.row >= table.headerRows; };
+    for (CellDraft& cell : table.cells)
+        if (isOfColumn(cell))
+            columns[static_cast<std::size_t>(cell.column)].add(edgesOf(cell, rooms.roomOf(cell.column, 1)));
     for (CellDraft& cell : table.cells) {
-        forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
-            for (const Line& line : paragraph.lines)
-                if (isOfColumn(cell))
-                    columns[static_cast<std::size_t>(cell.column)].add(line.box, cell.box);
-        });
-    }
-    for (CellDraft& cell : table.cells) {
+        const ColumnSpan room = rooms.roomOf(cell.column, cell.columnSpan);
+        const Edges own = edgesOf(cell, room);
+        if (own.lines == 0)
+            continue;
         std::optional<Alignment> ofColumn;
         if (isOfColumn(cell))
             ofColumn = keptEdge(columns[static_cast<std::size_t>(cell.column)], tolerance);
-        const Edges own = edgesOf(cell);
-        const Alignment alignment =
-            own.lines > 0 ? chooseAlignment(own, ofColumn, tolerance, parameters) : Alignment::Start;
-        forParagraphs(cell, [&](ParagraphDraft& paragraph) { paragraph.alignment = alignment; });
+        const Alignment alignment = chooseAlignment(own, ofColumn, tolerance, parameters);
+        forParagraphs(cell, [&](ParagraphDraft& paragraph) { setAlignment(paragraph, alignment, cell.box); });
     }
 }
 

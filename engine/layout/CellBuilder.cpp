@@ -63,63 +63,55 @@ void takeFigures(TableDraft& table, std::vector<Figure>& figures) {
     });
 }
 
-std::vector<ColumnSpan> roomBetweenEdges(const TableGrid& grid) {
-    std::vector<ColumnSpan> columns;
-    for (std::size_t i = 0; i + 1 < grid.columnEdges.size(); ++i)
-        columns.push_back({grid.columnEdges[i], grid.columnEdges[i + 1]});
-    return columns;
-}
-
-/// From the leftmost to the rightmost text of each column.
-std::vector<ColumnSpan> roomOfTexts(const TableGrid& grid, const std::vector<std::vector<Line>>& linesOfCell) {
-    std::vector<ColumnSpan> columns;
-    for (std::size_t i = 0; i + 1 < grid.columnEdges.size(); ++i)
-        columns.push_back({grid.columnEdges[i + 1], grid.columnEdges[i]});
-    for (std::size_t i = 0; i < grid.cells.size(); ++i) {
-        if (grid.cells[i].columnSpan > 1)
-            continue;
-        ColumnSpan& column = columns[static_cast<std::size_t>(grid.cells[i].column)];
-        for (const Line& line : linesOfCell[i]) {
-            column.left = std::min(column.left, line.box.left);
-            column.right = std::max(column.right, line.box.right);
+bool isMostlyRightToLeft(const std::vector<std::vector<Line>>& linesOfCell) {
+    std::size_t words = 0;
+    std::size_t rightToLeft = 0;
+    for (const std::vector<Line>& lines : linesOfCell) {
+        for (const Line& line : lines) {
+            words += line.words.size();
+            rightToLeft += line.isRightToLeft ? line.words.size() : 0;
         }
     }
-    return columns;
+    return 2 * rightToLeft > words;
+}
+
+CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> lines, const ColumnRooms& rooms,
+                    const ParagraphContext& context, const LayoutParameters& parameters) {
+    CellDraft cell;
+    cell.row = place.row;
+    cell.column = place.column;
+    cell.rowSpan = place.rowSpan;
+    cell.columnSpan = place.columnSpan;
+    cell.box = box;
+    cell.direction = directionOf(lines);
+    const ColumnSpan room = rooms.roomOf(place.column, place.columnSpan);
+    for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(lines), box, room, context, parameters))
+        cell.blocks.emplace_back().value = std::move(paragraph);
+    return cell;
 }
 
 } // namespace
 
 TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, TableEdges edges,
                       const std::vector<BorderLine>& lines, std::vector<TableDraft> nested,
-                      const LayoutParameters::Tables& parameters) {
+                      const ParagraphContext& context, const LayoutParameters& parameters) {
+    const LayoutParameters::Tables& limits = parameters.tables;
     TableDraft table;
     table.box = grid.box();
     table.columnEdges = grid.columnEdges;
     table.rowEdges = grid.rowEdges;
     table.isRuled = edges != TableEdges::Aligned;
     std::vector<std::vector<Line>> linesOfCell = takeWords(page.lines, text);
-    const std::vector<ColumnSpan> columns =
-        edges == TableEdges::Ruled ? roomBetweenEdges(grid) : roomOfTexts(grid, linesOfCell);
-    for (std::size_t i = 0; i < grid.cells.size(); ++i) {
-        const GridCell& place = grid.cells[i];
-        CellDraft cell;
-        cell.row = place.row;
-        cell.column = place.column;
-        cell.rowSpan = place.rowSpan;
-        cell.columnSpan = place.columnSpan;
-        cell.box = grid.boxOf(place);
-        cell.direction = directionOf(linesOfCell[i]);
-        const ColumnSpan room{columns[static_cast<std::size_t>(place.column)].left,
-                              columns[static_cast<std::size_t>(place.column + place.columnSpan - 1)].right};
-        for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(linesOfCell[i]), room, parameters))
-            cell.blocks.emplace_back().value = std::move(paragraph);
-        table.cells.push_back(std::move(cell));
-    }
-    drawBorders(table, page.rules, lines, parameters);
-    shadeCells(table, page.grounds, parameters);
-    table.headerRows = countHeaderRows(table, parameters);
-    alignAcross(table, parameters);
-    alignUpright(table, parameters);
+    table.isRightToLeft = isMostlyRightToLeft(linesOfCell);
+    const ColumnRooms rooms(grid, linesOfCell, edges);
+    for (std::size_t i = 0; i < grid.cells.size(); ++i)
+        table.cells.push_back(
+            buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms, context, parameters));
+    drawBorders(table, page.rules, lines, limits);
+    shadeCells(table, page.grounds, limits);
+    table.headerRows = countHeaderRows(table, limits);
+    alignAcross(table, rooms, limits);
+    alignUpright(table, limits);
     takeFigures(table, page.figures);
     for (TableDraft& inner : nested) {
         const Rect box = inner.box;

@@ -1,62 +1,72 @@
 #include "layout/CellParagraphs.h"
 
+#include "layout/Line.h"
+#include "layout/ParagraphBuilder.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace orvane::layout {
 namespace {
 
-/// Appends `right` to `left`, both on one baseline.
-void joinLines(Line& left, Line right, const LayoutParameters::Tables& parameters) {
-    const double gap = right.box.left - left.box.right;
-    right.words.front().gapBefore = gap > parameters.tabGap * left.fontSize ? Gap::Tab : Gap::Space;
-    left.box = left.box.united(right.box);
-    left.words.insert(left.words.end(), right.words.begin(), right.words.end());
+bool isUpright(const Line& line) {
+    return line.angle == 0 && !line.isVertical;
+}
+
+/// Joins two lines of one baseline in the order they are read.
+Line joinInOrder(Line a, Line b, const LayoutParameters::Tables& parameters) {
+    const bool aIsFirst = (a.box.left <= b.box.left) != a.isRightToLeft;
+    Line& first = aIsFirst ? a : b;
+    Line& second = aIsFirst ? b : a;
+    const double gap = std::max(second.box.left - first.box.right, first.box.left - second.box.right);
+    joinLines(first, std::move(second), gap > parameters.tabGap * first.fontSize ? Gap::Tab : Gap::Space);
+    return std::move(first);
 }
 
 std::vector<Line> joinLinesOfOneBaseline(std::vector<Line> lines, const LayoutParameters::Tables& parameters) {
-    std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) { return a.box.top < b.box.top; });
+    std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
     std::vector<Line> joined;
     for (Line& line : lines) {
-        const bool continues =
-            !joined.empty() && line.angle == 0 && joined.back().angle == 0 &&
-            std::abs(joined.back().baseline - line.baseline) <= parameters.baselineSnap * line.fontSize;
-        if (!continues)
+        const bool continues = !joined.empty() && std::abs(joined.back().baseline - line.baseline) <=
+                                                      parameters.baselineSnap * line.fontSize;
+        if (continues)
+            joined.back() = joinInOrder(std::move(joined.back()), std::move(line), parameters);
+        else
             joined.push_back(std::move(line));
-        else if (joined.back().box.left <= line.box.left)
-            joinLines(joined.back(), std::move(line), parameters);
-        else {
-            joinLines(line, std::move(joined.back()), parameters);
-            joined.back() = std::move(line);
-        }
     }
     return joined;
 }
 
-/// Whether `next` goes on with the paragraph that `line` belongs to: close below it, with `line` so full that the first
-/// word of `next` did not fit into the column any more.
-bool goesOn(const Line& line, const Line& next, ColumnSpan column, const LayoutParameters::Tables& parameters) {
-    if (next.baseline - line.baseline > parameters.paragraphPitch * line.fontSize || line.angle != 0)
-        return false;
-    const double margin = std::max(0.0, line.box.left - column.left);
-    const double room = line.isRightToLeft ? line.box.left - column.left : column.right - margin - line.box.right;
-    return next.words.front().box.width() + parameters.blankWidth * line.fontSize > room;
+/// Turned lines as one paragraph, in the order they are read: of text that reads upwards the leftmost line first.
+ParagraphDraft turnedParagraph(std::vector<Line> lines) {
+    std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) {
+        return a.angle > 180 ? a.box.left < b.box.left : a.box.left > b.box.left;
+    });
+    ParagraphDraft paragraph;
+    for (const Line& line : lines)
+        paragraph.box = paragraph.box.united(line.box);
+    paragraph.leading = paragraph.box.width() / static_cast<double>(lines.size());
+    paragraph.lines = std::move(lines);
+    return paragraph;
 }
 
 } // namespace
 
-std::vector<ParagraphDraft> buildCellParagraphs(std::vector<Line> lines, ColumnSpan column,
-                                                const LayoutParameters::Tables& parameters) {
-    std::vector<ParagraphDraft> paragraphs;
-    for (Line& line : joinLinesOfOneBaseline(std::move(lines), parameters)) {
-        if (paragraphs.empty() || !goesOn(paragraphs.back().lines.back(), line, column, parameters))
-            paragraphs.emplace_back();
-        ParagraphDraft& paragraph = paragraphs.back();
-        paragraph.box = paragraph.box.united(line.box);
-        paragraph.leading =
-            paragraph.lines.empty() ? line.box.height() : line.baseline - paragraph.lines.back().baseline;
-        paragraph.lines.push_back(std::move(line));
+std::vector<ParagraphDraft> buildCellParagraphs(std::vector<Line> lines, const Rect& cell, ColumnSpan room,
+                                                const ParagraphContext& context, const LayoutParameters& parameters) {
+    const auto firstTurned = std::stable_partition(lines.begin(), lines.end(), isUpright);
+    std::vector<Line> turned(std::make_move_iterator(firstTurned), std::make_move_iterator(lines.end()));
+    lines.erase(firstTurned, lines.end());
+    const std::vector<Line> upright = joinLinesOfOneBaseline(std::move(lines), parameters.tables);
+    std::vector<ParagraphDraft> paragraphs = buildParagraphs(upright, room, context, parameters);
+    for (ParagraphDraft& paragraph : paragraphs) {
+        const bool isRightToLeft = paragraph.lines.front().isRightToLeft;
+        paragraph.indentStart += isRightToLeft ? cell.right - room.right : room.left - cell.left;
+        if (paragraph.alignment == document::Alignment::Justified)
+            paragraph.indentEnd += isRightToLeft ? room.left - cell.left : cell.right - room.right;
     }
+    if (!turned.empty())
+        paragraphs.push_back(turnedParagraph(std::move(turned)));
     return paragraphs;
 }
 

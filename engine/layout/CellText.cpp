@@ -1,5 +1,7 @@
 #include "layout/CellText.h"
 
+#include "layout/LineText.h"
+
 namespace orvane::layout {
 namespace {
 
@@ -7,13 +9,11 @@ namespace {
 Line partOf(const Line& line, const std::vector<std::size_t>& words) {
     Line part = line;
     part.words.clear();
-    part.box = {};
-    for (const std::size_t index : words) {
+    for (const std::size_t index : words)
         part.words.push_back(line.words[index]);
-        part.box = part.box.united(line.words[index].box);
-    }
     part.words.front().gapBefore = Gap::None;
     part.words.front().leaderBefore = document::TabLeader::None;
+    measureAnew(part);
     return part;
 }
 

@@ -63,17 +63,31 @@ BandRun growRun(const std::vector<Band>& bands, std::size_t first, const LayoutP
     return run;
 }
 
-void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines,
-              const LayoutParameters::Tables& parameters, BandRun& run) {
+void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, const LayoutParameters& parameters,
+              BandRun& run) {
     for (std::size_t i = run.first; i < run.end; ++i)
         run.aligned.rows.insert(run.aligned.rows.end(), bands[i].rows.begin(), bands[i].rows.end());
-    run.aligned.gaps = findColumnGaps(run.aligned.rows, parameters);
+    run.aligned.gaps = findTableColumns(run.aligned.rows, lines, parameters);
     std::size_t start = 0;
     for (std::size_t i = run.first; i < run.end; ++i) {
-        for (RowGroup group : groupRows(bands[i].rows, run.aligned.gaps, lines, parameters))
+        const std::span rows = std::span(run.aligned.rows).subspan(start, bands[i].rows.size());
+        for (RowGroup group : groupRows(rows, run.aligned.gaps, lines, parameters.tables))
             run.aligned.groups.push_back({group.first + start, group.end + start});
         start += bands[i].rows.size();
     }
+}
+
+Rect boxOf(const AlignedRows& aligned) {
+    Rect box;
+    for (const PieceRow& row : aligned.rows)
+        box = box.united(row.box);
+    return box;
+}
+
+/// Whether the texts take up most of the rules' length: those of a page's head and foot are longer than the table
+/// between them.
+bool fillsRules(const BandRun& run, const RuleLevel& level, const LayoutParameters::Tables& parameters) {
+    return boxOf(run.aligned).width() >= parameters.ruleFill * (level.right - level.left);
 }
 
 /// The edges that rules draw lie on them, the outer ones too.
@@ -88,30 +102,32 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
         start += bands[i].rows.size();
     }
     grid.rowEdges.back() = bands[run.end - 1].bottom;
-    grid.columnEdges.front() = std::min(grid.columnEdges.front(), stack[run.first].left);
-    grid.columnEdges.back() = std::max(grid.columnEdges.back(), stack[run.first].right);
+    const Rect text = boxOf(run.aligned);
+    grid.columnEdges.front() = std::min(text.left, stack[run.first].left);
+    grid.columnEdges.back() = std::max(text.right, stack[run.first].right);
 }
 
 } // namespace
 
 std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
-                                          const LayoutParameters::Tables& parameters) {
-    const std::vector<TextPiece> pieces = cutIntoPieces(page.lines, parameters);
+                                          const LayoutParameters& parameters) {
+    const LayoutParameters::Tables& limits = parameters.tables;
+    const std::vector<TextPiece> pieces = cutIntoPieces(page.lines, limits);
     std::vector<TableGrid> grids;
-    for (const RuleStack& stack : findRuleStacks(lines, parameters)) {
-        const std::vector<Band> bands = bandsOf(stack, pieces, parameters);
+    for (const RuleStack& stack : findRuleStacks(lines, limits)) {
+        const std::vector<Band> bands = bandsOf(stack, pieces, limits);
         for (std::size_t first = 0; first < bands.size();) {
             BandRun run{first, first, {}};
             if (!bands[first].rows.empty() && !isHeadingOnly(bands[first]))
-                run = growRun(bands, first, parameters);
+                run = growRun(bands, first, limits);
             bool isTable = false;
             if (run.end > run.first) {
                 alignRun(bands, page.lines, parameters, run);
-                isTable =
-                    judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, parameters) == TableVerdict::Table;
+                isTable = fillsRules(run, stack[first], limits) &&
+                          judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) == TableVerdict::Table;
             }
             if (isTable) {
-                grids.push_back(gridOf(run.aligned, 0));
+                grids.push_back(gridOf(run.aligned, limits.textMargin));
                 snapToRules(grids.back(), stack, bands, run);
             }
             first = isTable ? run.end : first + 1;

@@ -11,6 +11,6 @@ namespace orvane::layout {
 
 /// The grids of tables that have rules between their rows only: the words' own columns complete them.
 std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
-                                          const LayoutParameters::Tables& parameters);
+                                          const LayoutParameters& parameters);
 
 } // namespace orvane::layout

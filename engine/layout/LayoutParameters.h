@@ -312,7 +312,11 @@ struct LayoutParameters {
         double frameWordShare = 0.7; ///< ... that holds this much of the table's words makes it a frame around the page
 
         // Words in columns.
-        double pieceGap = 0.6;         ///< of the font size; a wider gap in a line may part two cells
+        double pieceGap = 0.6;         ///< of the font size; a wider gap in a line may part two cells ...
+        double blankStretch = 2.0;     ///< ... unless the line's narrowest blank is stretched: not less than this times it
+        double widestStretch = 1.0;    ///< of the font size; blanks are stretched no further
+        double textMargin = 5.4;       ///< points; what a column without rules begins before its text
+        double bulletShare = 0.8;      ///< of a column that are bullets for it to be part of the next column
         double rowSnap = 0.3;          ///< of the font size; baselines this near stand side by side
         double minimumColumnGap = 0.4; ///< of the font size; narrower strips between words are word spaces in line
         int minimumRowsParted = 2;     ///< rows with words on both sides of a gap; fewer say nothing about columns
@@ -326,6 +330,7 @@ struct LayoutParameters {
         double rowSpaceGrowth = 1.6;  ///< ... or no farther than this times the smallest space in the table
 
         // Rules between rows only.
+        double ruleFill = 0.75; ///< of the rules' length that the texts between them must take up
         double levelGap = 20.0; ///< points; rules of one height with a larger gap belong to two tables
         double endSnap = 6.0;   ///< points; rules above each other whose ends differ by less belong together
 

@@ -45,6 +45,7 @@ struct TableDraft {
     std::vector<CellDraft> cells;    ///< by row, then column
     int headerRows = 0;
     bool isRuled = false;            ///< found by its rules, not by aligned words
+    bool isRightToLeft = false;      ///< its rows are read from the right; columns are counted from the left all the same
 };
 
 /// A picture or drawing in its place in the reading order.

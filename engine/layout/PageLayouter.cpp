@@ -34,7 +34,7 @@ public:
 
 private:
     void takeTables(Diagnostics& diagnostics) {
-        for (TableDraft& table : findTables(m_page, m_parameters, diagnostics)) {
+        for (TableDraft& table : findTables(m_page, m_context, m_parameters, diagnostics)) {
             const Rect box = table.box;
             regroupCells(table, paragraphContext(), m_parameters);
             m_walls.push_back(box);

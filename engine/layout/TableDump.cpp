@@ -1,5 +1,7 @@
 #include "layout/TableDump.h"
 
+#include "layout/LineText.h"
+
 #include <fmt/format.h>
 
 #include <iterator>
@@ -7,19 +9,8 @@
 namespace orvane::layout {
 namespace {
 
-std::string textOf(const Line& line) {
-    std::string text;
-    for (const Word& word : line.words) {
-        if (!text.empty() && word.gapBefore != Gap::None)
-            text += word.gapBefore == Gap::Tab ? "\t" : " ";
-        for (const Span& span : word.spans)
-            text += span.text;
-    }
-    return text;
-}
-
 /// Lines of a paragraph are parted by a blank, as reading joins them.
-std::string textOf(const ParagraphDraft& paragraph) {
+std::string joinedText(const ParagraphDraft& paragraph) {
     std::string text;
     for (const Line& line : paragraph.lines)
         text += fmt::format("{}{}", text.empty() ? "" : " ", textOf(line));
@@ -79,7 +70,7 @@ std::string dumpCell(const CellDraft& cell) {
     document::Alignment alignment = document::Alignment::Start;
     for (const PageBlock& block : cell.blocks) {
         if (const auto* paragraph = std::get_if<ParagraphDraft>(&block.value)) {
-            out += fmt::format(" \"{}\"", textOf(*paragraph));
+            out += fmt::format(" \"{}\"", joinedText(*paragraph));
             alignment = paragraph->alignment;
         } else if (const auto* table = std::get_if<TableDraft>(&block.value)) {
             nested += indented(dumpTable(*table), 4);

@@ -25,8 +25,10 @@ std::vector<TableDraft> takeNested(std::vector<TableDraft>& found, const TableGr
 
 } // namespace
 
-std::vector<TableDraft> findTables(PageText& page, const LayoutParameters& parameters, Diagnostics&) {
+std::vector<TableDraft> findTables(PageText& page, const DocumentContext& context, const LayoutParameters& parameters,
+                                   Diagnostics&) {
     const LayoutParameters::Tables& limits = parameters.tables;
+    const ParagraphContext around{context.bodyFontSize, context.bodyLeading, page.fonts};
     std::vector<TableDraft> tables;
     const auto take = [&](std::vector<TableGrid> grids, const std::vector<BorderLine>& lines, TableEdges edges) {
         // The smallest first: a table within a cell is found before the one around it.
@@ -35,14 +37,14 @@ std::vector<TableDraft> findTables(PageText& page, const LayoutParameters& param
         for (const TableGrid& grid : grids) {
             const CellText text = assignWords(page.lines, grid, limits);
             std::vector<TableDraft> nested = takeNested(tables, grid);
-            tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), limits));
+            tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), around, parameters));
         }
     };
     const std::vector<BorderLine> lines = collectBorderLines(page.rules, limits);
     take(findRuledGrids(page, lines, limits), lines, TableEdges::Ruled);
     const std::vector<BorderLine> others = collectBorderLines(page.rules, limits);
-    take(findHalfRuledGrids(page, others, limits), others, TableEdges::HalfRuled);
-    take(findBorderlessGrids(page, limits), collectBorderLines(page.rules, limits), TableEdges::Aligned);
+    take(findHalfRuledGrids(page, others, parameters), others, TableEdges::HalfRuled);
+    take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;
     });

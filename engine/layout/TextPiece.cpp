@@ -11,11 +11,17 @@ double gapBetween(const Rect& word, const Rect& next) {
     return std::max(next.left - word.right, word.left - next.right);
 }
 
-TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end) {
-    TextPiece piece{lineIndex, first, end, {}, line.baseline, line.fontSize};
-    for (std::size_t i = first; i < end; ++i)
-        piece.box = piece.box.united(line.words[i].box);
-    return piece;
+/// The widest gap that may be a blank. The narrowest one of the line tells how far its blanks were stretched to fill
+/// it.
+double widestBlank(const Line& line, const LayoutParameters::Tables& parameters) {
+    double narrowest = 1e9;
+    for (std::size_t i = 1; i < line.words.size(); ++i)
+        if (line.words[i].gapBefore == Gap::Space)
+            narrowest = std::min(narrowest, gapBetween(line.words[i - 1].box, line.words[i].box));
+    const double usual = parameters.pieceGap * line.fontSize;
+    if (narrowest > parameters.widestStretch * line.fontSize)
+        return usual;
+    return std::max(usual, parameters.blankStretch * narrowest);
 }
 
 void addTo(PieceRow& row, TextPiece piece) {
@@ -45,22 +51,28 @@ bool standsBeside(const PieceRow& row, const TextPiece& piece, const LayoutParam
 
 } // namespace
 
+TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end) {
+    TextPiece piece{lineIndex, first, end, {}, line.baseline, line.fontSize};
+    for (std::size_t i = first; i < end; ++i)
+        piece.box = piece.box.united(line.words[i].box);
+    return piece;
+}
+
 std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
     std::vector<TextPiece> pieces;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const Line& line = lines[i];
         if (line.angle != 0 || line.isVertical || line.words.empty())
             continue;
+        const double widest = widestBlank(line, parameters);
         std::size_t first = 0;
-        for (std::size_t j = 1; j <= line.words.size(); ++j) {
-            const bool ends =
-                j == line.words.size() || line.words[j].gapBefore == Gap::Tab ||
-                gapBetween(line.words[j - 1].box, line.words[j].box) > parameters.pieceGap * line.fontSize;
-            if (!ends)
+        for (std::size_t j = 1; j < line.words.size(); ++j) {
+            if (line.words[j].gapBefore != Gap::Tab && gapBetween(line.words[j - 1].box, line.words[j].box) <= widest)
                 continue;
             pieces.push_back(pieceOf(line, i, first, j));
             first = j;
         }
+        pieces.push_back(pieceOf(line, i, first, line.words.size()));
     }
     return pieces;
 }

@@ -36,6 +36,9 @@ std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const Layou
 /// of two others; the rows come top to bottom.
 std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const LayoutParameters::Tables& parameters);
 
+/// Words [first, end) of a line as a piece.
+TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end);
+
 /// Whether every word of the piece is a number, an amount, a date or stands for none (a dash).
 bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines);
 

@@ -11,6 +11,13 @@
 namespace orvane::layout::tests {
 namespace {
 
+TableCase emptyCase() {
+    TableCase made{makePage(1), {}};
+    // As wide as makeLine() makes blanks: otherwise its lines look justified.
+    made.page.fonts.front().spaceWidth = 0.5;
+    return made;
+}
+
 /// Reads one file line by line.
 class CaseReader {
 public:
@@ -238,7 +245,7 @@ private:
         return true;
     }
 
-    TableCase m_case{makePage(1), {}};
+    TableCase m_case = emptyCase();
     LineLook m_look;
     double m_angle = 0;
     std::uint32_t m_paintOrder = 1;
@@ -257,7 +264,7 @@ TableCase readTableCase(const std::filesystem::path& file) {
 std::string dumpTables(PageText page) {
     Diagnostics diagnostics;
     std::string out;
-    for (const TableDraft& table : findTables(page, LayoutParameters{}, diagnostics))
+    for (const TableDraft& table : findTables(page, {}, LayoutParameters{}, diagnostics))
         out += dumpTable(table);
     for (const Line& line : page.lines) {
         std::string text;

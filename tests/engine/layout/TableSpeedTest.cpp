@@ -11,7 +11,7 @@ namespace {
 double secondsToFindTables(PageText page) {
     Diagnostics diagnostics;
     const auto start = std::chrono::steady_clock::now();
-    findTables(page, LayoutParameters{}, diagnostics);
+    findTables(page, {}, LayoutParameters{}, diagnostics);
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
