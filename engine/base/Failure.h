@@ -9,7 +9,7 @@ namespace orvane {
 enum class FailureCode {
     InvalidRequest,      ///< the job's own words are off: an unknown layout, a bad page range
     NotSupported,        ///< understood, but this build does not do it
-    SourceUnreadable,    ///< the file is missing or the system refuses to read it
+    SourceUnreadable,    ///< the file is missing, the system refuses to read it, or it is locked by other means than a password
     NotAPdf,             ///< the file is empty, or damaged beyond what can be repaired, or of another kind
     UserPasswordNeeded,  ///< the file opens with a password, and none or a wrong one was given
     OwnerPasswordNeeded, ///< the file opens, but its author forbids taking the content out without the owner's password

@@ -115,7 +115,7 @@ OpenDocument openDocument(const std::filesystem::path& file, const Passwords& pa
             document = std::move(other);
     }
     if (needsPassword(*document) && isLockedOtherwise(*document))
-        throw Failure(FailureCode::NotSupported,
+        throw Failure(FailureCode::SourceUnreadable,
                       fmt::format("{} is locked by other means than a password", file.string()));
     if (needsPassword(*document))
         throw Failure(FailureCode::UserPasswordNeeded, fmt::format("{} opens with a password", file.string()));

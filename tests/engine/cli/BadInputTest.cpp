@@ -43,6 +43,14 @@ TEST_F(BadInput, RefusesSourcesThatCannotBeRead) {
     expectRefused({"info", path("missing.pdf")}, 4, "does not exist");
 }
 
+TEST_F(BadInput, RefusesAFileThatNoPasswordOpens) {
+    std::string bytes = tests::readFile(makePdf("a.pdf"));
+    const std::size_t root = bytes.rfind("/Root");
+    ASSERT_NE(root, std::string::npos);
+    write("a.pdf", bytes.insert(root, "/Encrypt << /Filter /Adobe.PubSec /V 4 >> "));
+    expectRefused({"convert", path("a.pdf")}, 4, "locked by other means than a password");
+}
+
 TEST_F(BadInput, SavesWhatIsLeftOfATruncatedFile) {
     std::string bytes = tests::readFile(makePdf("a.pdf", 2));
     write("cut.pdf", bytes.substr(0, bytes.rfind("xref\n")));
