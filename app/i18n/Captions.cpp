@@ -2,6 +2,7 @@
 
 #include "i18n/Controls.h"
 #include "services/ErrorTrap.h"
+#include "services/SkippingErrors.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -9,16 +10,6 @@
 #include <QPlainTextEdit>
 
 namespace {
-
-/// Runs a statement whose failure nobody hears of.
-template<typename Statement>
-void skippingErrors(Statement&& statement) {
-    try {
-        statement();
-    } catch (...) {
-        // Skipped: the next statement runs.
-    }
-}
 
 void clearItems(QWidget& listControl) {
     if (auto* combo = qobject_cast<QComboBox*>(&listControl))

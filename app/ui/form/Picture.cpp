@@ -1,6 +1,7 @@
 #include "ui/form/Picture.h"
 
 #include <QFileInfo>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace {
@@ -14,8 +15,8 @@ Picture::Picture(QWidget* parent)
 
 void Picture::load(const QString& path) {
     const QIcon picture(path);
-    // An icon of a missing file has no sizes.
-    if (!QFileInfo::exists(path) || picture.availableSizes().isEmpty())
+    // An icon of a file that holds no picture comes to light when it is drawn.
+    if (!QFileInfo::exists(path) || picture.pixmap(kIconSize).isNull())
         return;
     m_picture = picture;
     update();
@@ -23,6 +24,12 @@ void Picture::load(const QString& path) {
 
 QSize Picture::sizeHint() const {
     return {kIconSize, kIconSize};
+}
+
+void Picture::mouseReleaseEvent(QMouseEvent* event) {
+    // Letting go outside the picture takes the click back.
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit clicked();
 }
 
 void Picture::paintEvent(QPaintEvent*) {

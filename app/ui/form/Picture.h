@@ -16,7 +16,11 @@ public:
 
     QSize sizeHint() const override;
 
+signals:
+    void clicked();
+
 protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -14,7 +14,7 @@ constexpr int kLightDesktop = 128; ///< lightness, 0 to 255, from which a deskto
 // Frames carry their part in the window as the property "role": band, column, page, card or foot.
 constexpr char kStyleSheet[] = R"(
 QFrame[role="band"], QFrame[role="column"] { background: #0078D4; border: none; }
-QFrame[role="band"] QLabel, QFrame[role="column"] QLabel { color: #000000; }
+QFrame[role="column"] QLabel { color: #000000; }
 QFrame[role="band"] QLabel[role="title"] { font-size: 14pt; font-weight: 600; }
 QFrame[role="column"] QLabel[role="link"] { min-height: 30px; border: 2px solid transparent; padding: 0 8px; }
 QFrame[role="column"] QLabel[role="link"]:hover { color: #FFFFFF; }
@@ -24,7 +24,6 @@ QFrame[role="card"] { background: palette(base); border: 1px solid palette(midli
 QFrame[role="foot"] { background: palette(base); border: none; border-top: 1px solid palette(midlight); }
 QFrame[role="foot"] QPushButton { min-width: 104px; }
 QFrame[role="band"] QLabel[role="link"] { border: 2px solid transparent; padding: 0 4px; }
-QFrame[role="band"] QLabel[role="link"]:hover { color: #FFFFFF; }
 QFrame[role="band"] QLabel[role="link"]:focus { border-color: #FFFFFF; }
 QLabel[role="title"] { font-size: 14pt; font-weight: 600; }
 QLabel[role="help"] { font-size: 9pt; color: palette(dark); }
