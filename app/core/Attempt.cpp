@@ -1,6 +1,7 @@
 #include "core/Attempt.h"
 
 #include "core/AttemptResult.h"
+#include "core/EngineCall.h"
 #include "core/EngineRequest.h"
 #include "core/PasswordStep.h"
 #include "core/ProgressRun.h"
@@ -93,7 +94,7 @@ Step stageOrRefuse(ProgressRun& run, const ErrorTrap& trap, const QString& sourc
     return Step::End;
 }
 
-std::int32_t callEngine(ProgressRun& run, const ErrorTrap& trap, const QString& password) {
+std::int32_t askEngine(ProgressRun& run, const ErrorTrap& trap, const QString& password) {
     run.objEngine.reset();
     trap([&] { run.objEngine = run.engines.create(); });
     const std::int16_t layout = layoutCode(run);
@@ -105,17 +106,14 @@ std::int32_t callEngine(ProgressRun& run, const ErrorTrap& trap, const QString& 
     run.lngConvFlags = GetConversionFlags(run);
     // A call that gives no answer counts as a failure, so that nothing waits for an engine that does not work.
     std::int32_t result = orvane::result::kFailed;
-    trap([&] {
-        if (!run.objEngine)
-            throw std::runtime_error("there is no conversion engine to call");
-        result = run.objEngine->DoConvert(engineRequest(run, password, layout));
-    });
+    const orvane::ConversionRequest request = engineRequest(run, password, layout);
+    trap([&] { callEngine(run, [&](orvane::ConversionEngine& engine) { result = engine.DoConvert(request); }); });
     trap([&] { run.eventLoop.yield(); });
     return result;
 }
 
 void tryFile(ProgressRun& run, const ErrorTrap& trap, const QString& password) {
-    const std::int32_t result = callEngine(run, trap, password);
+    const std::int32_t result = askEngine(run, trap, password);
     judgeResult(run, trap, result);
     showStage(run, trap, "lblScanPDF", 3);
     if (run.intParseState == parse_state::kPasswordWanted)

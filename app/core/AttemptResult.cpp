@@ -65,6 +65,8 @@ void tellSharingViolation(ProgressRun& run, const ErrorTrap& trap) {
 
 void judgeResult(ProgressRun& run, const ErrorTrap& trap, std::int32_t engineResult) {
     if (isPasswordRequest(engineResult)) {
+        // An image run polls while the prompt is open, and this engine has nothing more to tell.
+        run.objEngine.reset();
         run.intParseState = parse_state::kPasswordWanted;
         return;
     }

@@ -40,6 +40,10 @@ void DiskFileOperations::copy(const QString& source, const QString& target) {
     fs::copy_file(nativePath(source), nativePath(target), fs::copy_options::overwrite_existing);
 }
 
+std::int64_t DiskFileOperations::size(const QString& path) const {
+    return static_cast<std::int64_t>(fs::file_size(nativePath(path)));
+}
+
 void DiskFileOperations::makeReachableAs(const QString& file, const QString& alias) {
     std::error_code ignored;
     if (!fs::exists(nativePath(file), ignored) || fs::equivalent(nativePath(file), nativePath(alias), ignored))

@@ -10,6 +10,7 @@ public:
     void createFolder(const QString& path) override;
     Deletion deleteFolder(const QString& path) override;
     void copy(const QString& source, const QString& target) override;
+    std::int64_t size(const QString& path) const override;
     void makeReachableAs(const QString& file, const QString& alias) override;
     QString readText(const QString& path) const override;
 };

@@ -1,5 +1,6 @@
 #include "core/Leaving.h"
 
+#include "core/Banner.h"
 #include "core/BoundedList.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
@@ -37,7 +38,7 @@ void cancelRun(ProgressRun& run, const ErrorTrap& trap) {
     recordCancelledFile(run, trap);
     run.records.flags.blnCloseRequested = true;
     trap([&] { run.mainWindow.show(); });
-    trap([&] { run.mainWindow.awaitSource(); });
+    awaitSource(run.mainWindow, trap);
     trap([&] { run.followUp.GetNextFile(run); });
     trap([&] { run.view.unload(); });
     trap([&] { run.eventLoop.yield(); });

@@ -1,6 +1,7 @@
 #include "core/Polling.h"
 
 #include "core/BoundedList.h"
+#include "core/EngineCall.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
 #include "core/StageCaptions.h"
@@ -54,12 +55,16 @@ void poll(ProgressRun& run) {
         run.view.stopTimer();
         return;
     }
-    if (!run.objEngine)
+    // An engine that is still at work on a call will be asked at the next tick.
+    if (!run.objEngine || run.isEngineBusy)
         return;
+    std::int32_t status = 0;
     std::int32_t first = 0;
     std::int32_t second = 0;
     std::int16_t finishCode = 0;
-    const std::int32_t status = run.objEngine->GetStatus(first, second, finishCode);
+    callEngine(run, [&](orvane::ConversionEngine& engine) { status = engine.GetStatus(first, second, finishCode); });
+    if (run.blnFormUnloaded)
+        return;
     // Released before anything else happens, so that a tick in between has nothing to ask.
     if (finishCode > 0)
         run.objEngine.reset();

@@ -9,6 +9,22 @@ namespace run {
 
 using Button = ProgressView::Button;
 
+namespace {
+
+constexpr std::chrono::milliseconds kBusyTimeout{5000};
+
+/// What the status line says once a call into the engine takes long.
+void prepareBusyNotice(ProgressRun& run) {
+    const bool isImageRun = run.records.flags.intRunKind == run_kind::kExtractImages;
+    const QString text = run.statusTexts.caption(isImageRun ? "msgExtractImages" : "msgConvertingPDFToDOC");
+    run.engineNotice = {kBusyTimeout, [&run, text] {
+                            if (!run.blnFormUnloaded)
+                                run.view.setStatus(text);
+                        }};
+}
+
+} // namespace
+
 void Form_Load(ProgressRun& run) {
     const ErrorTrap trap("frmprogress", "Form_Load");
     run.objEngine.reset();
@@ -20,6 +36,7 @@ void Form_Load(ProgressRun& run) {
     trap([&] { run.view.stopTimer(); });
     trap([&] { run.astrStatusText = run.statusTexts.lblProgressStatus(); });
     trap([&] { run.view.showButton(Button::cmdCancel); });
+    trap([&] { prepareBusyNotice(run); });
     run.intListRow = 0;
     StartConverting(run);
 }

@@ -35,7 +35,9 @@ struct ProgressRun : RunPorts {
 
     ProgressView& view;
 
-    std::unique_ptr<orvane::ConversionEngine> objEngine; ///< empty before a run and once the engine has finished
+    std::shared_ptr<orvane::ConversionEngine> objEngine; ///< empty before a run and once the engine has finished
+    bool isEngineBusy = false;                           ///< a call into the engine is under way
+    BusyNotice engineNotice;                             ///< what is said when a call takes long
     QString strStagedPath;                               ///< first the source, then its staged copy
     QString strStagedStem;                               ///< strStagedPath without its ".pdf"
     QString strStagedName;                               ///< file name of the source
@@ -57,6 +59,7 @@ struct ProgressRun : RunPorts {
     QString strFromText;              ///< page numbers as text
     QString strToText;
     QStringList astrStatusText; ///< the ten status texts
+    QString strListFilled;      ///< date and time when the whole selection was entered in lvwGeneral
 };
 
 /// Values of ProgressRun::intParseState.

@@ -9,6 +9,7 @@ public:
     virtual ~ProgressView() = default;
 
     virtual void show() = 0;
+    virtual void minimise() = 0;
     /// Unloads the window by the program: its Form_QueryUnload and Form_Unload run before this returns.
     virtual void unload() = 0;
 
@@ -25,9 +26,29 @@ public:
     virtual void showButton(Button button) = 0; ///< shown and enabled
     virtual void hideButton(Button button) = 0;
 
+    /// One row of lvwGeneral but for its icon; the file name is its key too.
+    struct ListRow {
+        QString flName;
+        QString source;
+        QString detination;
+        QString status;
+    };
+    /// Puts a row in at `index`, counted from 1. `icon`: one of list_icon. Errors: throws for an index beyond the end
+    /// and for a key that the list has already.
+    virtual void addListRow(int index, const ListRow& row, int icon) = 0;
+    /// Sets status word and icon of a row. Errors: throws when there is no such row.
+    virtual void setListRow(int index, const QString& status, int icon) = 0;
+
     virtual void showLog(const QString& text) = 0; ///< RichTextBox1
     virtual void setDefaultPointer() = 0;
 };
+
+/// Icons of imlGeneral, counted from 1.
+namespace list_icon {
+inline constexpr int kWorking = 1;
+inline constexpr int kCompleted = 2;
+inline constexpr int kCancelled = 3;
+} // namespace list_icon
 
 /// The main window as the run sees it.
 class MainView {
@@ -38,9 +59,23 @@ public:
     virtual void hide() = 0;
     virtual bool isMinimised() const = 0;
     virtual void setNormal() = 0;
+    virtual void minimise() = 0; ///< a hidden window stays hidden and is minimised once it is shown
+    virtual void enable() = 0;   ///< takes input again
 
-    virtual void awaitSource() = 0;   ///< cmdBrowse enabled, lblPlzBrowse shown, lblBatchInProcess hidden
-    virtual void emptyJobBoxes() = 0; ///< the boxes of source and output
+    /// The controls that the run writes to.
+    enum class Text { txtfilepath, txtFileBrowsePath, txtFileSize, txtfilepathOutput, lblOutputFormatDoc };
+    virtual void setText(Text control, const QString& text) = 0;
+    virtual QString text(Text control) const = 0;
+    virtual void setSourceToolTip(const QString& text) = 0; ///< of txtFileBrowsePath
+
+    enum class Button { cmdBrowse, cmdBrowseOutput };
+    virtual void enableButton(Button button) = 0;
+    virtual void disableButton(Button button) = 0;
+
+    /// Two texts in one place: what to do next, or that a batch is in hand.
+    enum class Banner { lblPlzBrowse, lblBatchInProcess };
+    virtual void showBanner(Banner banner) = 0; ///< and hides the other
+
     /// Says where a finished document lies.
     virtual void showFinishedDocument(const QString& path) = 0;
 };
@@ -78,9 +113,12 @@ public:
     virtual void ask(Password wanted) = 0;
 };
 
-/// The ten texts of lblProgressStatus in the current language, in index order.
+/// Texts of a run in the current language.
 class StatusTexts {
 public:
     virtual ~StatusTexts() = default;
+    /// The ten status texts, in index order.
     virtual QStringList lblProgressStatus() const = 0;
+    /// The text under that key.
+    virtual QString caption(const QString& key) const = 0;
 };

@@ -42,7 +42,9 @@ Staging WaitOnDeleteFolder(ProgressRun& run, const QString& path) {
         if (run.records.flags.blnCloseRequested)
             return Staging::NotReady;
         run.view.setStatus("Please wait...");
-        if (run.files.deleteFolder(path) == FileOperations::Deletion::Done)
+        auto deletion = FileOperations::Deletion::Failed;
+        run.eventLoop.runAside([&] { deletion = run.files.deleteFolder(path); });
+        if (deletion == FileOperations::Deletion::Done)
             break;
         run.clock.sleep(kBetweenDeletions);
         run.eventLoop.yield();
@@ -63,7 +65,7 @@ Staging stageSource(ProgressRun& run, const ErrorTrap& trap, const QString& sour
         return state;
     run.strStagedName = QFileInfo(run.strStagedPath).fileName();
     const QString copy = stagingFolder(run) + QDir::separator() + run.strStagedName;
-    trap([&] { run.files.copy(run.strStagedPath, copy); });
+    trap([&] { run.eventLoop.runAside([&] { run.files.copy(source, copy); }); });
     run.strStagedPath = copy;
     takeStagedStem(run, trap);
     return state;

@@ -14,10 +14,6 @@ namespace {
 
 using Button = ProgressView::Button;
 
-// Icons of lvwGeneral.
-constexpr int kIconWorking = 1;
-constexpr int kIconCancelled = 3;
-
 constexpr std::int16_t kModeOfImageRun = 1;
 
 bool isClosing(const ProgressRun& run) {
@@ -60,7 +56,7 @@ bool mayWriteTarget(ProgressRun& run, const ErrorTrap& trap) {
     trap([&] { run.yesNoDialog.ask("lblAlreadyExists", YesNoDialog::Place::BelowCentreOfProgress); });
     if (run.records.flags.intDialogAnswer != 0)
         return true;
-    nameListRow(run, trap, "Cancelled", kIconCancelled);
+    nameListRow(run, trap, "Cancelled", list_icon::kCancelled);
     run.blnAdvanceQueue = true;
     trap([&] { run.followUp.BatchConversion(run); });
     run.blnAdvanceQueue = false;
@@ -81,7 +77,7 @@ void attemptUntilThrough(ProgressRun& run) {
 void convert(ProgressRun& run, const ErrorTrap& trap) {
     const ConversionJob& job = run.records.job;
     ++run.intListRow;
-    nameListRow(run, trap, "Converting", kIconWorking);
+    nameListRow(run, trap, "Converting", list_icon::kWorking);
     if (!mayWriteTarget(run, trap))
         return;
     run.strTargetPath = job.strOutputFile;
@@ -107,7 +103,7 @@ void leaveImageRun(ProgressRun& run, const ErrorTrap& trap) {
 void extractImages(ProgressRun& run, const ErrorTrap& trap) {
     const ConversionJob& job = run.records.job;
     ++run.intListRow;
-    nameListRow(run, trap, "Extracting", kIconWorking);
+    nameListRow(run, trap, "Extracting", list_icon::kWorking);
     run.strTargetPath = job.strOutputFile;
     run.strFromText = QString::number(job.intImagePageFrom);
     run.strToText = QString::number(job.intImagePageTo);

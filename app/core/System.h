@@ -5,13 +5,27 @@
 #include <orvane/ConversionEngine.h>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
-/// Lets pending events of the user interface run: the only place where a run can be interrupted.
+/// What is said when a task takes long.
+struct BusyNotice {
+    std::chrono::milliseconds after{0};
+    std::function<void()> tell;
+};
+
+/// The user interface's events.
 class EventLoop {
 public:
     virtual ~EventLoop() = default;
+
+    /// Lets pending events run: the only place where a run can be interrupted.
     virtual void yield() = 0;
+
+    /// Runs a task that may take long on a thread of its own and returns when it is through. Windows go on being drawn
+    /// and timers go on ticking; what the user does meanwhile waits for the next yield.
+    /// Errors: those of the task.
+    virtual void runAside(const std::function<void()>& task, const BusyNotice& notice = {}) = 0;
 };
 
 /// Time as the run sees it.
@@ -38,6 +52,8 @@ public:
     virtual Deletion deleteFolder(const QString& path) = 0;
     /// Copies a file over whatever is there. Errors: throws.
     virtual void copy(const QString& source, const QString& target) = 0;
+    /// Length of a file in bytes. Errors: throws.
+    virtual std::int64_t size(const QString& path) const = 0;
     /// Makes `alias` another name of `file`, unless it is one already or there is no such file. Errors: throws.
     virtual void makeReachableAs(const QString& file, const QString& alias) = 0;
     /// The text of a file. Errors: throws.

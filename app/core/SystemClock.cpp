@@ -1,7 +1,5 @@
 #include "core/SystemClock.h"
 
-#include <QCoreApplication>
-
 #include <thread>
 
 std::chrono::milliseconds SystemClock::now() const {
@@ -10,8 +8,4 @@ std::chrono::milliseconds SystemClock::now() const {
 
 void SystemClock::sleep(std::chrono::milliseconds duration) {
     std::this_thread::sleep_for(duration);
-}
-
-void QtEventLoop::yield() {
-    QCoreApplication::processEvents();
 }

@@ -8,9 +8,3 @@ public:
     std::chrono::milliseconds now() const override;
     void sleep(std::chrono::milliseconds duration) override;
 };
-
-/// The event loop of the user interface.
-class QtEventLoop : public EventLoop {
-public:
-    void yield() override;
-};

@@ -114,47 +114,12 @@ std::shared_ptr<frmMain> Application::mainWindow() {
 }
 
 void Application::startRun() {
-    const RunPorts ports{m_records,   *this,   m_messageBox, m_messageWindows, m_passwordPrompt, m_statusTexts,
-                         m_eventLoop, m_clock, m_files,      m_engines,        m_followUp,       m_forms};
+    const RunPorts ports{m_records,   m_mainWindowView, m_messageBox, m_messageWindows, m_passwordWindow, m_statusTexts,
+                         m_eventLoop, m_clock,          m_files,      m_engines,        m_followUp,       m_forms};
     m_forms.obtain<frmProgress>(ports, m_languages)->load();
 }
 
-void Application::giveUpFile() {
+void Application::unloadProgress() {
     if (const auto progress = m_forms.find<frmProgress>())
         progress->unload();
-    m_records.flags.blnCloseRequested = true;
-    m_records.job.strSourcePDF = " ";
-    mainWindow()->emptyJobBoxes();
-    show();
-}
-
-void Application::show() {
-    if (!m_forms.hasProgramEnded())
-        mainWindow()->showForm();
-}
-
-void Application::hide() {
-    mainWindow()->hide();
-}
-
-bool Application::isMinimised() const {
-    const auto window = m_forms.find<frmMain>();
-    return window && window->isMinimized();
-}
-
-void Application::setNormal() {
-    if (!m_forms.hasProgramEnded())
-        mainWindow()->showNormal();
-}
-
-void Application::awaitSource() {
-    mainWindow()->awaitSource();
-}
-
-void Application::emptyJobBoxes() {
-    mainWindow()->emptyJobBoxes();
-}
-
-void Application::showFinishedDocument(const QString& path) {
-    mainWindow()->showFinishedDocument(path);
 }

@@ -1,23 +1,26 @@
 #pragma once
 
+#include "core/BatchFollowUp.h"
 #include "core/DiskFileOperations.h"
 #include "core/LibraryEngineFactory.h"
 #include "core/Main.h"
+#include "core/OpenDocument.h"
 #include "core/ProgressRun.h"
-#include "core/SingleFileFollowUp.h"
+#include "core/QtEventLoop.h"
 #include "core/StartUp.h"
 #include "core/SystemClock.h"
 #include "platform/RunningCopy.h"
 #include "ui/application/LanguageStatusTexts.h"
-#include "ui/dialogs/EnglishPasswordPrompt.h"
+#include "ui/application/MainWindowView.h"
 #include "ui/dialogs/MessageWindows.h"
 #include "ui/dialogs/SystemMessageBox.h"
 #include "ui/form/FormRegistry.h"
+#include "ui/password/PasswordWindow.h"
 
 class frmMain;
 
 /// The program put together: the shared records, the windows, and what stands behind the interfaces of the run.
-class Application : public OtherCopies, public StartUpSteps, public MainView {
+class Application : public OtherCopies, public StartUpSteps {
 public:
     Application();
     ~Application() override;
@@ -36,20 +39,11 @@ public:
     QString programCommandLine() const override;
     void showMainWindow() override;
 
-    // The main window as the run sees it
-    void show() override;
-    void hide() override;
-    bool isMinimised() const override;
-    void setNormal() override;
-    void awaitSource() override;
-    void emptyJobBoxes() override;
-    void showFinishedDocument(const QString& path) override;
-
 private:
     void reportUnreadableSettings(const QString& reason);
     void listenForOtherCopies();
     void startRun();
-    void giveUpFile();
+    void unloadProgress();
     std::shared_ptr<frmMain> mainWindow();
     LanguagePorts languagePorts();
     const QWidget* anchorOf(YesNoDialog::Place place) const;
@@ -60,11 +54,13 @@ private:
     SystemMessageBox m_messageBox;
     LanguageTable m_languages;
     MessageWindows m_messageWindows;
-    EnglishPasswordPrompt m_passwordPrompt{m_records, [this] { giveUpFile(); }};
+    MainWindowView m_mainWindowView{m_forms, [this] { return mainWindow(); }};
+    PasswordWindow m_passwordWindow{m_forms, {m_records, m_languages, m_mainWindowView, [this] { unloadProgress(); }}};
     LanguageStatusTexts m_statusTexts{m_languages};
     QtEventLoop m_eventLoop;
     SystemClock m_clock;
     DiskFileOperations m_files;
     LibraryEngineFactory m_engines;
-    SingleFileFollowUp m_followUp;
+    SystemDocumentShell m_documentShell;
+    BatchFollowUp m_followUp{m_documentShell};
 };

@@ -7,3 +7,7 @@ QStringList LanguageStatusTexts::lblProgressStatus() const {
         texts.removeLast();
     return texts;
 }
+
+QString LanguageStatusTexts::caption(const QString& key) const {
+    return GetCaption(m_languages, key);
+}

@@ -81,15 +81,6 @@ void frmMain::Form_Unload() {
     registry().endProgram();
 }
 
-void frmMain::awaitSource() {
-    m_ui->lblPlzBrowse->show();
-}
-
-void frmMain::emptyJobBoxes() {
-    m_ui->txtFileBrowsePath->clear();
-    m_ui->txtfilepathOutput->clear();
-}
-
 void frmMain::showFinishedDocument(const QString& path) {
     m_finishedDocument = path;
     showFinishedDocument();

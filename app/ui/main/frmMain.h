@@ -31,8 +31,6 @@ public:
     frmMain(FormRegistry& registry, MainPorts ports);
     ~frmMain() override;
 
-    void awaitSource();
-    void emptyJobBoxes();
     void showFinishedDocument(const QString& path);
 
 protected:

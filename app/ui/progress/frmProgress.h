@@ -4,15 +4,17 @@
 #include "i18n/LanguageTable.h"
 #include "ui/form/Form.h"
 
+#include <QIcon>
 #include <QTimer>
 
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class frmProgress;
 }
 
-/// The window of a run: status line, bar, log view, and the ways out. It is made anew for each run, and the first
+/// The window of a run: status line, bar, tabs, log view, and the ways out. It is made anew for each run, and the first
 /// attempt runs inside its loading.
 class frmProgress : public Form, public ProgressView {
     Q_OBJECT
@@ -22,6 +24,7 @@ public:
     ~frmProgress() override;
 
     void show() override;
+    void minimise() override;
     void unload() override;
     void setStatus(const QString& caption) override;
     void setBar(int value) override;
@@ -31,6 +34,8 @@ public:
     void hideStageLabels() override;
     void showButton(Button button) override;
     void hideButton(Button button) override;
+    void addListRow(int index, const ListRow& row, int icon) override;
+    void setListRow(int index, const QString& status, int icon) override;
     void showLog(const QString& text) override;
     void setDefaultPointer() override;
 
@@ -41,6 +46,9 @@ protected:
 
 private:
     void connectHandlers();
+    void captionTabsAndList();
+    void showJob();
+    void tabProgress_Click(int tab);
     void cmdViewLog_click();
     void cmdClose_click();
     void cmdCancel_click();
@@ -49,6 +57,7 @@ private:
     QWidget& widgetOf(Button button) const;
 
     std::unique_ptr<Ui::frmProgress> m_ui;
+    std::vector<QIcon> m_imlGeneral; ///< icons of the list, in the order of list_icon
     QTimer m_timer1;
     ProgressRun m_run;
     LanguageTable& m_languages;

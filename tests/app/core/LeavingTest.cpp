@@ -33,7 +33,8 @@ TEST_F(Leaving, CancelAnsweredYesStopsTheEngineAndBringsTheMainWindowBack) {
     EXPECT_EQ(script.cancels, 1);
     EXPECT_EQ(script.enginesAlive, 0);
     EXPECT_TRUE(records.flags.blnCloseRequested);
-    EXPECT_TRUE(mainWindow.awaitsSource);
+    EXPECT_TRUE(mainWindow.buttons[MainView::Button::cmdBrowse]);
+    EXPECT_EQ(mainWindow.banner, MainView::Banner::lblPlzBrowse);
     EXPECT_TRUE(mainWindow.isShown);
     EXPECT_TRUE(view.isUnloaded);
     EXPECT_LT(journal.indexOf("GetNextFile"), journal.indexOf("progress.unload"));

@@ -1,4 +1,5 @@
 #include "app/support/RunFixture.h"
+#include "core/Polling.h"
 #include "core/StartConverting.h"
 
 namespace tavrelion::tests {
@@ -75,6 +76,16 @@ TEST_F(PasswordStep, BlanksInsideAPasswordAreRemoved) {
 TEST_F(PasswordStep, AnEmptyPasswordIsTheEnginesToJudge) {
     runWith({17, 17, 0}, {"", "right"});
     EXPECT_THAT(passedPasswords(), ElementsAre("", "", "right"));
+}
+
+TEST_F(PasswordStep, AnImageRunIsNotDisturbedByTheTicksWhileThePromptIsOpen) {
+    records.flags.intRunKind = run_kind::kExtractImages;
+    script.statuses = {{0, 0, 0, 2}}; // what an engine that refused its file tells
+    passwordPrompt.whileOpen = [this] { run::Timer1_Timer(run()); };
+    runWith({17, 0}, {"open"});
+    EXPECT_THAT(passedPasswords(), ElementsAre("", "open"));
+    EXPECT_EQ(script.statusCalls, 0);
+    EXPECT_FALSE(journal.contains("BatchConversion"));
 }
 
 TEST_F(PasswordStep, CancelEndsTheRunAfterThisAttempt) {

@@ -1,59 +1,10 @@
 #include "app/support/RunFixture.h"
 #include "core/CommandLineJob.h"
-#include "core/SingleFileFollowUp.h"
 
 #include <QDir>
 
 namespace tavrelion::tests {
 namespace {
-
-class SingleFile : public RunFixture {
-protected:
-    SingleFile() {
-        records.flags.strCommandLine = "/in/report.pdf";
-        takeCommandLineJob(records);
-        mainWindow.isShown = false;
-    }
-    SingleFileFollowUp single;
-};
-
-TEST_F(SingleFile, ACompletedRunGoesBackToTheMainWindowAndSaysWhereTheDocumentLies) {
-    records.job.strPdfPassword = "secret";
-    single.ShowCompleted(run(), RunFollowUp::Offer::Allowed);
-    EXPECT_TRUE(view.isUnloaded);
-    EXPECT_TRUE(mainWindow.isShown);
-    EXPECT_EQ(mainWindow.finishedDocument, "/in/report.docx");
-    EXPECT_EQ(records.job.strWordTarget, "/in/report.docx");
-    EXPECT_EQ(records.queue.strOutputFiles, QStringList{"/in/report.docx"});
-    EXPECT_EQ(records.queue.intCurrentIndex, 0);
-    EXPECT_EQ(records.job.strPdfPassword, "");
-    EXPECT_TRUE(records.flags.blnCloseRequested) << "the main window clears it before the next run";
-    EXPECT_EQ(errorLog(), "");
-}
-
-TEST_F(SingleFile, AClearedSourceReadsAsEmptyAfterBatchConversion) {
-    run().blnAdvanceQueue = true;
-    single.BatchConversion(run());
-    EXPECT_EQ(records.job.strSourcePDF, "");
-    EXPECT_EQ(records.job.strOutputFile, "");
-    EXPECT_EQ(records.queue.lngSelectedBound, -1);
-    EXPECT_TRUE(mainWindow.awaitsSource);
-    EXPECT_TRUE(mainWindow.areBoxesEmpty);
-}
-
-TEST_F(SingleFile, AClearedSourceReadsAsOneBlankAfterGetNextFile) {
-    single.GetNextFile(run());
-    EXPECT_EQ(records.job.strSourcePDF, " ");
-    EXPECT_EQ(records.queue.lngSelectedBound, -1);
-}
-
-TEST_F(SingleFile, ACompletionOfARunThatIsToStopOnlyUnloads) {
-    records.flags.blnCloseRequested = true;
-    single.ShowCompleted(run(), RunFollowUp::Offer::Allowed);
-    EXPECT_TRUE(view.isUnloaded);
-    EXPECT_EQ(mainWindow.finishedDocument, "");
-    EXPECT_EQ(records.queue.intCurrentIndex, -1);
-}
 
 class CommandLine : public testing::Test {
 protected:

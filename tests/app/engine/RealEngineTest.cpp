@@ -1,7 +1,8 @@
 #include "app/support/RunFixture.h"
+#include "core/BatchFollowUp.h"
 #include "core/DiskFileOperations.h"
 #include "core/LibraryEngineFactory.h"
-#include "core/SingleFileFollowUp.h"
+#include "core/QtEventLoop.h"
 #include "core/SystemClock.h"
 #include "support/PdfBuilder.h"
 #include "support/TestData.h"
@@ -40,7 +41,7 @@ protected:
         records.queue.intCurrentIndex = -1;
         records.settings.intConvertFrom = 0;
         const RunPorts ports{records,     mainWindow,  messageBox, yesNoDialog,    passwordPrompt, languageTexts,
-                             qtEventLoop, systemClock, diskFiles,  libraryEngines, singleFile,     registry};
+                             qtEventLoop, systemClock, diskFiles,  libraryEngines, batch,          registry};
         const auto window = registry.obtain<frmProgress>(ports, languages);
         window->load();
         const auto& viewLog = *window->findChild<QPushButton*>("cmdViewLog");
@@ -68,7 +69,8 @@ protected:
     SystemClock systemClock;
     DiskFileOperations diskFiles;
     LibraryEngineFactory libraryEngines{TAVRELION_PROGRAM_FOLDER};
-    SingleFileFollowUp singleFile;
+    FakeDocumentShell shell;
+    BatchFollowUp batch{shell};
     FormRegistry registry;
     bool isOver = false;
     bool hasFailed = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Leaving.h"
+#include "core/OpenDocument.h"
 #include "core/ProgressRun.h"
 #include "core/RunFollowUp.h"
 
@@ -27,13 +28,14 @@ struct EngineScript {
         std::int16_t finishCode = 0;
     };
 
-    std::deque<std::int32_t> results{0};   ///< of DoConvert, one a call; the last one stays
-    std::deque<Status> statuses{Status{}}; ///< of GetStatus, likewise
-    bool isMissing = false;                ///< no engine can be made
-    bool failsToConvert = false;           ///< DoConvert throws
-    bool failsToTellStatus = false;        ///< GetStatus throws
-    bool failsToCancel = false;            ///< DoCancel throws
-    std::function<void()> whileConverting; ///< runs inside DoConvert
+    std::deque<std::int32_t> results{0};       ///< of DoConvert, one a call; the last one stays
+    std::deque<Status> statuses{Status{}};     ///< of GetStatus, likewise
+    bool isMissing = false;                    ///< no engine can be made
+    bool failsToConvert = false;               ///< DoConvert throws
+    bool failsToTellStatus = false;            ///< GetStatus throws
+    bool failsToCancel = false;                ///< DoCancel throws
+    std::function<void()> whileConverting;     ///< runs inside DoConvert
+    std::function<void()> whileAskedForStatus; ///< runs inside GetStatus
 
     std::vector<orvane::ConversionRequest> requests;
     int enginesMade = 0;
@@ -70,6 +72,8 @@ public:
 
     std::int32_t GetStatus(std::int32_t& first, std::int32_t& second, std::int16_t& finishCode) override {
         ++m_script.statusCalls;
+        if (m_script.whileAskedForStatus)
+            m_script.whileAskedForStatus();
         if (m_script.failsToTellStatus)
             throw std::runtime_error("the engine does not answer");
         const EngineScript::Status status = nextOf(m_script.statuses);
@@ -112,15 +116,25 @@ public:
     int bar = 0;
     bool isTimerOn = false;
     bool isShown = false;
+    bool isMinimised = false;
     bool isUnloaded = false;
     bool areStageLabelsHidden = false;
     bool failsToSetBar = false;
     std::map<Button, bool> buttons;
     QString log;
+    struct Row {
+        ListRow cells;
+        int icon;
+    };
+    std::vector<Row> rows; ///< of lvwGeneral
 
     void show() override {
         isShown = true;
         m_journal << "progress.show";
+    }
+    void minimise() override {
+        isMinimised = true;
+        m_journal << "progress.minimise";
     }
     void unload() override {
         if (isUnloaded)
@@ -155,6 +169,16 @@ public:
     void hideStageLabels() override { areStageLabelsHidden = true; }
     void showButton(Button button) override { buttons[button] = true; }
     void hideButton(Button button) override { buttons[button] = false; }
+    void addListRow(int index, const ListRow& row, int icon) override {
+        if (index < 1 || index > static_cast<int>(rows.size()) + 1)
+            throw std::out_of_range("Index out of bounds");
+        rows.insert(rows.begin() + index - 1, {row, icon});
+    }
+    void setListRow(int index, const QString& text, int icon) override {
+        Row& row = rows.at(static_cast<std::size_t>(index - 1));
+        row.cells.status = text;
+        row.icon = icon;
+    }
     void showLog(const QString& text) override { log = text; }
     void setDefaultPointer() override { m_journal << "default pointer"; }
 
@@ -169,8 +193,12 @@ public:
 
     bool isShown = true;
     bool isMinimisedNow = false;
-    bool awaitsSource = false;
-    bool areBoxesEmpty = false;
+    bool isEnabled = true;
+    bool failsToSetTexts = false;
+    std::map<Text, QString> texts;
+    QString sourceToolTip = "design";
+    std::map<Button, bool> buttons;
+    Banner banner = Banner::lblPlzBrowse;
     QString finishedDocument;
 
     void show() override {
@@ -183,8 +211,24 @@ public:
     }
     bool isMinimised() const override { return isMinimisedNow; }
     void setNormal() override { m_journal << "main.normal"; }
-    void awaitSource() override { awaitsSource = true; }
-    void emptyJobBoxes() override { areBoxesEmpty = true; }
+    void minimise() override {
+        isMinimisedNow = true;
+        m_journal << "main.minimise";
+    }
+    void enable() override { isEnabled = true; }
+    void setText(Text control, const QString& value) override {
+        if (failsToSetTexts)
+            throw std::runtime_error("the box is broken");
+        texts[control] = value;
+    }
+    QString text(Text control) const override {
+        const auto found = texts.find(control);
+        return found == texts.end() ? QString() : found->second;
+    }
+    void setSourceToolTip(const QString& value) override { sourceToolTip = value; }
+    void enableButton(Button button) override { buttons[button] = true; }
+    void disableButton(Button button) override { buttons[button] = false; }
+    void showBanner(Banner shown) override { banner = shown; }
     void showFinishedDocument(const QString& path) override { finishedDocument = path; }
 
 private:
@@ -249,9 +293,12 @@ public:
     std::deque<QString> passwords;
     std::vector<Password> asked;
     std::function<void()> giveUp;
+    std::function<void()> whileOpen;
 
     void ask(Password wanted) override {
         asked.push_back(wanted);
+        if (whileOpen)
+            whileOpen();
         m_records.flags.intDialogAnswer = passwords.empty() ? 0 : 1;
         if (passwords.empty())
             return giveUp();
@@ -274,6 +321,15 @@ public:
         if (action != atYield.end())
             action->second();
     }
+    void runAside(const std::function<void()>& task, const BusyNotice& notice) override {
+        if (tasksTakeLong && notice.tell)
+            notice.tell();
+        if (whileAside)
+            whileAside();
+        task();
+    }
+    bool tasksTakeLong = false;       ///< what is to be said about them is said
+    std::function<void()> whileAside; ///< what happens before a task is through
 };
 
 /// Time passes only while something sleeps.
@@ -300,6 +356,7 @@ public:
     bool failsToCopy = false;
     bool failsToCreateFolder = false;
     std::map<QString, QString> texts;
+    std::map<QString, std::int64_t> sizes; ///< of the files whose length can be had
 
     bool exists(const QString& path) const override { return files.count(path) > 0; }
     bool folderExists(const QString& path) const override { return folders.count(path) > 0; }
@@ -322,6 +379,7 @@ public:
             throw std::runtime_error("the file is locked");
         files.insert(target);
     }
+    std::int64_t size(const QString& path) const override { return sizes.at(path); }
     void makeReachableAs(const QString& file, const QString& alias) override {
         if (file != alias)
             m_journal << "reach " + file + " as " + alias;
@@ -349,6 +407,25 @@ public:
 
 private:
     Journal& m_journal;
+};
+
+/// Notes what is opened, and with what.
+class FakeDocumentShell : public DocumentShell {
+public:
+    int installed = 1;
+    bool failsToOpen = false;
+    QStringList opened; ///< "winword PATH in FOLDER" or "association PATH in FOLDER"
+
+    int IsMSWordInstalled() override { return installed; }
+    void openInWordProcessor(const QString& path, const QString& folder) override { open("winword", path, folder); }
+    void openByAssociation(const QString& path, const QString& folder) override { open("association", path, folder); }
+
+private:
+    void open(const QString& how, const QString& path, const QString& folder) {
+        if (failsToOpen)
+            throw std::runtime_error("the shell is gone");
+        opened << how + ' ' + path + " in " + folder;
+    }
 };
 
 /// Loaded windows of a test: counts how often each is unloaded.

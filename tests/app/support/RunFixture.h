@@ -49,6 +49,7 @@ protected:
     struct Texts : StatusTexts {
         QStringList texts{"t0", "t1", "t2", "page %ld", " of %ld", "picture %ld", "writing %ld", "t7", "t8", "t9"};
         QStringList lblProgressStatus() const override { return texts; }
+        QString caption(const QString& key) const override { return '<' + key + '>'; }
     } statusTexts;
     std::unique_ptr<ProgressRun> progressRun;
     ProgressRun& run() { return *progressRun; }

@@ -9,13 +9,17 @@
 #include "ui/form/FormRegistry.h"
 #include "ui/form/Style.h"
 #include "ui/main/frmMain.h"
+#include "ui/password/frmPassword.h"
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTreeWidget>
 
 #include <iostream>
 #include <limits>
@@ -139,6 +143,14 @@ TEST_F(LanguageFit, TheProgressWindowKeepsItsSizeWithEveryStatus) {
         note(640 - form->minimumSizeHint().width(), language + " frmProgress (width)");
         note(360 - form->minimumSizeHint().height(), language + " frmProgress (height)");
         const auto& status = *form->findChild<QLabel*>("lblStatus");
+        const auto& tabs = *form->findChild<QTabBar*>("tabProgress");
+        for (int tab = 0; tab < tabs.count(); ++tab)
+            note(tabs.tabRect(tab).width() - tabs.fontMetrics().horizontalAdvance(tabs.tabText(tab)),
+                 language + " tab " + tabs.tabText(tab));
+        const auto& list = *form->findChild<QTreeWidget*>("lvwGeneral");
+        for (int column = 0; column < list.columnCount(); ++column)
+            note(list.columnWidth(column) - list.header()->sectionSizeHint(column),
+                 language + " column " + list.headerItem()->text(column));
         for (const QString& line : statusLines(*form))
             note(status.width() - status.fontMetrics().horizontalAdvance(line), language + " status: " + line);
         measure(*form, language);
@@ -151,6 +163,20 @@ TEST_F(LanguageFit, EveryMessageShowsItsWholeText) {
         measureMessages(*registry.obtain<frmErrorOkOnly>(ports), language);
         measureMessages(*registry.obtain<frmErrorYesNoOnly>(ports), language);
         measureMessages(*registry.obtain<frmmsgbox>(ports), language);
+    });
+}
+
+TEST_F(LanguageFit, ThePasswordWindowShowsItsWholeText) {
+    inEveryLanguage([this](const QString& language) {
+        const auto form = registry.obtain<frmPassword>(PasswordPorts{records, languages, mainWindow, [] {}});
+        form->load();
+        for (const auto wanted : {PasswordPrompt::Password::User, PasswordPrompt::Password::Owner}) {
+            form->showWanted(wanted);
+            form->show();
+            measure(*form, language);
+            note(kWidestMessage - form->width(), language + " frmPassword (width)");
+        }
+        form->unload();
     });
 }
 
@@ -198,6 +224,11 @@ TEST_F(ControlList, HasEveryControlOfTheMessageWindowsAndNoOther) {
                                                    registry.obtain<frmmsgbox>(ports)};
     for (const auto& form : forms)
         EXPECT_EQ(controlsWithText(*form), listedFor(form->objectName()));
+}
+
+TEST_F(ControlList, HasEveryControlOfThePasswordWindowAndNoOther) {
+    const auto form = registry.obtain<frmPassword>(PasswordPorts{records, languages, mainWindow, [] {}});
+    EXPECT_EQ(controlsWithText(*form), listedFor("frmPassword"));
 }
 
 TEST_F(ControlList, HasEveryControlOfTheMainAndTheProgressWindow) {

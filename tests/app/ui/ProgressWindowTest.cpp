@@ -1,18 +1,25 @@
 #include "app/support/RunFixture.h"
 #include "app/support/ShippedLanguages.h"
+#include "core/QtEventLoop.h"
 #include "ui/form/FormRegistry.h"
 #include "ui/form/LinkLabel.h"
 #include "ui/main/frmMain.h"
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
+#include <QThread>
+#include <QTimer>
+#include <QTreeWidget>
 
 namespace tavrelion::tests {
 namespace {
@@ -142,6 +149,118 @@ TEST_F(ProgressWindow, AWindowThatUnloadsInsideItsOwnLoadingSurvivesIt) {
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(mainWindow.isShown);
     EXPECT_TRUE(script.requests.empty());
+}
+
+TEST_F(ProgressWindow, ShowsTheListOrTheDetailsByTheTab) {
+    start();
+    auto& tabs = child<QTabBar>("tabProgress");
+    EXPECT_EQ(tabs.tabText(0) + '|' + tabs.tabText(1), "General|Details");
+    EXPECT_TRUE(child<QGroupBox>("fraGeneral").isVisible());
+    EXPECT_FALSE(child<QGroupBox>("fraDetails").isVisible());
+    EXPECT_EQ(child<QGroupBox>("fraGeneral").title() + child<QGroupBox>("fraDetails").title(), "");
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    EXPECT_FALSE(child<QGroupBox>("fraGeneral").isVisible());
+    EXPECT_TRUE(child<QGroupBox>("fraDetails").isVisible());
+    QTest::keyClick(&tabs, Qt::Key_Left);
+    EXPECT_TRUE(child<QGroupBox>("fraGeneral").isVisible());
+}
+
+TEST_F(ProgressWindow, ListsOnlyHeadersDuringARun) {
+    script.statuses = {{11, 0, 0, 1}};
+    start();
+    const auto& list = child<QTreeWidget>("lvwGeneral");
+    QStringList headers;
+    for (int column = 0; column < list.columnCount(); ++column)
+        headers << list.headerItem()->text(column);
+    EXPECT_EQ(headers, (QStringList{"File Name", "Source", "Destination", "Status"}));
+    EXPECT_EQ(list.topLevelItemCount(), 0);
+    EXPECT_TRUE(waitFor([&] { return journal.contains("ShowCompleted"); }));
+    EXPECT_EQ(list.topLevelItemCount(), 0);
+}
+
+TEST_F(ProgressWindow, TakesRowsAndTheirStatus) {
+    frmProgress& window = start();
+    window.addListRow(1, {"b.pdf", "/in/b.pdf", "/out/b.docx", ""}, 1);
+    window.addListRow(1, {"a.pdf", "/in/a.pdf", "/out/a.docx", "Converting"}, 1);
+    window.setListRow(2, "Completed", 2);
+    const auto& list = child<QTreeWidget>("lvwGeneral");
+    EXPECT_EQ(list.topLevelItem(0)->text(0), "a.pdf");
+    EXPECT_EQ(list.topLevelItem(1)->text(3), "Completed");
+    EXPECT_FALSE(list.topLevelItem(1)->icon(0).pixmap(16).isNull()) << "the pictures are there";
+    EXPECT_THROW(window.addListRow(3, {"a.pdf", "", "", ""}, 1), std::invalid_argument) << "the name is the key";
+    EXPECT_THROW(window.addListRow(4, {"c.pdf", "", "", ""}, 1), std::out_of_range);
+    EXPECT_THROW(window.setListRow(3, "Completed", 2), std::out_of_range);
+    EXPECT_EQ(list.topLevelItemCount(), 2);
+}
+
+TEST_F(ProgressWindow, TellsInItsDetailsWhatBecomesWhat) {
+    records.flags.intRunKind = run_kind::kExtractImages;
+    records.job.strImageFolder = "/pictures";
+    start();
+    EXPECT_EQ(child<QLineEdit>("txtSourcePath").text(), "/in/report.pdf");
+    EXPECT_EQ(child<QLineEdit>("txtOutputPath").text(), "/pictures");
+}
+
+TEST_F(ProgressWindow, IsWorkedByTheKeyboardAlone) {
+    files.files.insert(records.settings.strLogPath);
+    files.texts[records.settings.strLogPath] = "log";
+    script.results = {1};
+    frmProgress& window = start();
+    EXPECT_EQ(window.focusWidget(), &button("cmdViewLog")) << "the focus goes where the work goes on";
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(child<QTextEdit>("RichTextBox1").isVisible());
+    EXPECT_EQ(window.focusWidget(), &button("cmdClose"));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window.focusWidget(), &child<QTextEdit>("RichTextBox1")) << "so that the log can be scrolled";
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(window.isLoaded());
+}
+
+TEST_F(ProgressWindow, StaysMinimisedUntilItIsUnloaded) {
+    frmProgress& window = start();
+    window.minimise();
+    EXPECT_TRUE(window.isMinimized());
+    window.Form::unload();
+    EXPECT_FALSE(window.isVisible());
+}
+
+/// The real event loop and an engine that is slow in everything.
+class SlowEngine : public ProgressWindow {
+protected:
+    /// The longest time in which no event was handled, while `step` runs. Units: milliseconds.
+    template<typename Step>
+    static qint64 longestStandstill(Step step) {
+        QElapsedTimer since;
+        qint64 longest = 0;
+        QTimer heart;
+        QObject::connect(&heart, &QTimer::timeout, [&] { longest = std::max(longest, since.restart()); });
+        heart.start(5);
+        since.start();
+        step();
+        return std::max(longest, since.elapsed());
+    }
+    frmProgress& start() {
+        const RunPorts ports{records,     mainWindow, messageBox, yesNoDialog, passwordPrompt, statusTexts,
+                             qtEventLoop, clock,      files,      engines,     followUp,       registry};
+        const auto window = registry.obtain<frmProgress>(ports, languages);
+        window->load();
+        return *window;
+    }
+    QtEventLoop qtEventLoop;
+};
+
+TEST_F(SlowEngine, NeverHoldsTheWindowsUp) {
+    constexpr int kSlowness = 600; // milliseconds
+    script.whileConverting = [] { QThread::msleep(kSlowness); };
+    script.whileAskedForStatus = [] { QThread::msleep(kSlowness); };
+    script.statuses = {{4, 1, 0, 0}, {11, 0, 0, 1}};
+    const qint64 standstill = longestStandstill([this] {
+        start();
+        EXPECT_TRUE(waitFor([this] { return journal.contains("ShowCompleted"); }));
+    });
+    EXPECT_GE(script.statusCalls, 2);
+    EXPECT_LT(standstill, 100);
 }
 
 /// The real main window.
