@@ -1,5 +1,6 @@
 #include "pdf/CodedSize.h"
 
+#include "pdf/Jbig2Size.h"
 #include "pdf/JpegHeader.h"
 
 #include <string>
@@ -35,33 +36,6 @@ std::optional<PixelSize> ofJpeg2000(std::string_view bytes) {
                      number(bytes, size + 4, 4) - number(bytes, size + 12, 4)};
 }
 
-/// The page information segment. Source: ITU-T T.88, 7.2 and 7.4.8.
-std::optional<PixelSize> ofJbig2(std::string_view bytes) {
-    constexpr int kPageInformation = 48;
-    std::size_t at = 0;
-    while (at + 11 <= bytes.size()) {
-        const std::int64_t segment = number(bytes, at, 4);
-        const auto flags = static_cast<int>(number(bytes, at + 4, 1));
-        std::int64_t references = number(bytes, at + 5, 1) >> 5;
-        std::size_t header = at + 6;
-        if (references == 7) {
-            if (at + 9 > bytes.size())
-                return std::nullopt;
-            references = number(bytes, at + 5, 4) & 0x1FFFFFFF;
-            header = at + 9 + static_cast<std::size_t>((references + 8) / 8);
-        }
-        const std::size_t referenceBytes = segment <= 256 ? 1 : segment <= 65536 ? 2 : 4;
-        header += static_cast<std::size_t>(references) * referenceBytes + ((flags & 0x40) != 0 ? 4 : 1);
-        if (header + 12 > bytes.size())
-            return std::nullopt;
-        const std::size_t data = header + 4;
-        if ((flags & 0x3F) == kPageInformation)
-            return PixelSize{number(bytes, data, 4), number(bytes, data + 4, 4)};
-        at = data + static_cast<std::size_t>(number(bytes, header, 4));
-    }
-    return std::nullopt;
-}
-
 std::string startOf(::Stream& stream) {
     std::string bytes(kHeaderReach, '\0');
     stream.reset();
@@ -69,6 +43,23 @@ std::string startOf(::Stream& stream) {
     stream.close();
     bytes.resize(static_cast<std::size_t>(got > 0 ? got : 0));
     return bytes;
+}
+
+/// The symbols that several pictures share stand in a stream of their own.
+::Object sharedSymbols(::Stream& stream) {
+    ::Object parameters = stream.getDict() ? stream.getDict()->lookup("DecodeParms") : ::Object(objNull);
+    if (parameters.isArray() && parameters.arrayGetLength() > 0)
+        parameters = parameters.arrayGet(parameters.arrayGetLength() - 1);
+    return parameters.isDict() ? parameters.dictLookup("JBIG2Globals") : ::Object(objNull);
+}
+
+std::optional<PixelSize> ofJbig2(::Stream& stream, ::Stream& coded) {
+    const auto own = largestJbig2Size(startOf(coded));
+    const ::Object shared = sharedSymbols(stream);
+    const auto ofShared = shared.isStream() ? largestJbig2Size(startOf(*shared.getStream())) : std::nullopt;
+    if (!own || (ofShared && ofShared->width * ofShared->height > own->width * own->height))
+        return ofShared;
+    return own;
 }
 
 } // namespace
@@ -82,13 +73,8 @@ std::optional<PixelSize> codedSize(::Stream& stream) {
         return ofJpeg(startOf(*coded));
     case strJPX:
         return ofJpeg2000(startOf(*coded));
-    case strJBIG2: {
-        auto size = ofJbig2(startOf(*coded));
-        // A page whose height is told at its end grows with its data.
-        if (size && size->height == 0xFFFFFFFF)
-            size->height = 1;
-        return size;
-    }
+    case strJBIG2:
+        return ofJbig2(stream, *coded);
     default:
         return std::nullopt;
     }

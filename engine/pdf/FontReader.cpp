@@ -195,6 +195,17 @@ int usualWidthOf(unsigned character) {
     return character >= '0' && character <= '9' ? kDigitWidth : 0;
 }
 
+/// The PostScript name; of a composite font without the encoding that some writers append. Source: ISO
+/// 32000-1, 9.7.6.2.
+std::string nameOf(const GfxFont& font) {
+    std::string name = withoutSubsetPrefix(font.getName().value_or(std::string()));
+    const std::string& encoding = font.getEncodingName();
+    const std::size_t tail = encoding.size() + 1;
+    if (font.isCIDFont() && !encoding.empty() && name.size() > tail && name.ends_with("-" + encoding))
+        name.resize(name.size() - tail);
+    return name;
+}
+
 } // namespace
 
 double emOf(const GfxFont& font) {
@@ -227,7 +238,7 @@ double emOf(const GfxFont& font) {
 
 Font readFont(const GfxFont& source, XRef& xref) {
     Font font;
-    font.name = withoutSubsetPrefix(source.getName().value_or(std::string()));
+    font.name = nameOf(source);
     font.objectNumber = isIndirect(source, xref) ? source.getID()->num : 0;
     font.isVertical = source.getWMode() != 0;
     font.isType3 = source.getType() == fontType3;

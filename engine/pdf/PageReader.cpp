@@ -52,14 +52,20 @@ void PageReader::drawChar(GfxState* state, double x, double y, double dx, double
         m_textClip.addLastGlyph();
 }
 
-bool PageReader::beginType3Char(GfxState* state, double x, double y, double dx, double dy, CharCode code,
+bool PageReader::beginType3Char(GfxState* state, double x, double y, double, double, CharCode code,
                                 const Unicode* unicode, int unicodeLength) {
     // A glyph that says nothing and is larger than letters are is a drawing: it is painted by its procedure.
     constexpr double kLargestLetter = 36;
-    const double* box = state->getFont()->getFontBBox();
-    const Rect onPage = boxOnPage(*state, box);
+    const Rect onPage = boxOnPage(*state, state->getFont()->getFontBBox());
     if (unicodeLength == 0 && onPage.height() > kLargestLetter && onPage.width() > kLargestLetter)
         return false;
+    // The displacement that comes with the call is in the glyph's own space; the one that drawChar() gets is made here.
+    const auto& font = static_cast<const Gfx8BitFont&>(*state->getFont());
+    const double spacing = state->getCharSpace() + (code == ' ' ? state->getWordSpace() : 0);
+    const double width = font.getWidth(static_cast<unsigned char>(code)) * state->getFontSize() + spacing;
+    double dx = 0;
+    double dy = 0;
+    state->textTransformDelta(width * state->getHorizScaling(), 0, &dx, &dy);
     drawChar(state, x, y, dx, dy, 0, 0, code, 1, unicode, unicodeLength);
     return true;
 }

@@ -91,5 +91,56 @@ TEST(Glyphs, ShareTheirFont) {
     EXPECT_NEAR(page.fonts[page.glyphs[0].font].spaceWidth, 0.278, 1e-6);
 }
 
+TEST(Glyphs, OfVerticalWritingFollowEachOtherDownwards) {
+    PdfBuilder builder;
+    const int map = builder.addStream(
+        "", "begincmap 1 begincodespacerange <0000> <FFFF> endcodespacerange 2 beginbfchar <0001> <7E26> "
+            "<0002> <66F8> endbfchar endcmap");
+    const int child = builder.add(
+        "<< /Type /Font /Subtype /CIDFontType0 /BaseFont /Mincho /CIDSystemInfo << /Registry (Adobe) /Ordering "
+        "(Identity) /Supplement 0 >> /DW 1000 >>");
+    const int font = builder.add(
+        "<< /Type /Font /Subtype /Type0 /BaseFont /Mincho-Identity-V /Encoding /Identity-V /DescendantFonts [" +
+        tests::pdfRef(child) + "] /ToUnicode " + tests::pdfRef(map) + " >>");
+    OpenedPdf pdf(builder.page(tests::PdfPage{
+        "BT /E1 20 Tf -3 Tc 300 700 Td <00010002> Tj ET", 612, 792, {}, {}, "/E1 " + tests::pdfRef(font)}));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.glyphs.size(), 2u);
+    EXPECT_TRUE(page.fonts.at(page.glyphs[0].font).isVertical);
+    EXPECT_EQ(page.fonts.at(page.glyphs[0].font).name, "Mincho") << "the encoding is no part of a font's name";
+    EXPECT_EQ(page.glyphs[0].unicode, U"縦");
+    EXPECT_EQ(page.glyphs[0].angle, 0);
+    EXPECT_NEAR(page.glyphs[0].origin.x, 300, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].origin.y, 92, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].advance, 20, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].box.left, 290, 1e-6) << "centred below its origin";
+    EXPECT_NEAR(page.glyphs[0].box.right, 310, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].box.top, 92, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].box.bottom, 112, 1e-6);
+    EXPECT_NEAR(page.glyphs[1].origin.y, 115, 1e-6) << "downwards, negative spacing widens";
+}
+
+TEST(Glyphs, OfType3FontsHaveTheSizeTheirLettersShow) {
+    // A glyph space of pixels: letters 50 units wide at a font size of 1 and a matrix of 0.24.
+    PdfBuilder builder;
+    const int glyph = builder.addStream("", "50 0 0 0 45 70 d1 0 0 45 70 re f");
+    const int font = builder.add(
+        "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 50 70] /FontMatrix [0.24 0 0 0.24 0 0] /CharProcs << /a " +
+        tests::pdfRef(glyph) + " /n " + tests::pdfRef(glyph) +
+        " >> /Encoding << /Differences [97 /a 110 /n] >> /FirstChar 97 /LastChar 110 /Widths "
+        "[44.4 0 0 0 0 0 0 0 0 0 0 0 0 50] >>");
+    OpenedPdf pdf(builder.page(
+        tests::PdfPage{"BT /E1 1 Tf 100 700 Td (an) Tj ET", 612, 792, {}, {}, "/E1 " + tests::pdfRef(font)}));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.glyphs.size(), 2u);
+    EXPECT_EQ(textOf(page), "an");
+    EXPECT_NEAR(page.glyphs[0].fontSize, 24, 0.1);
+    EXPECT_NEAR(page.glyphs[0].advance, 44.4 * 0.24, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].origin.x, 100, 1e-6);
+    EXPECT_NEAR(page.glyphs[0].origin.y, 92, 1e-6);
+    EXPECT_NEAR(page.glyphs[1].origin.x, 100 + 44.4 * 0.24, 1e-6);
+    EXPECT_TRUE(page.paths.empty()) << "letters are text, not drawings";
+}
+
 } // namespace
 } // namespace orvane::pdf
