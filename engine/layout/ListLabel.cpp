@@ -91,6 +91,9 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const Layo
     // Glued to the text it cannot be told from it; only where a gap parts them does a list have written it.
     if (!marker || !marker->isWholeWord || line.words.size() < 2 || line.angle != 0)
         return {};
+    // Circled numbers and numerals of Han have no counterpart that all word processors write alike; nor have they digits.
+    if (marker->kind == MarkerKind::EastAsian)
+        return {};
     ListLabel label;
     label.format = formatOf(marker->kind);
     label.labelStart = startOf(line.words[0].box, line, piece.column);
@@ -103,8 +106,6 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const Layo
         readNumbers(marker->text, label);
     else
         readLetters(marker->text, marker->ordinal, label);
-    if (label.format == NumberFormat::Decimal && marker->kind == MarkerKind::EastAsian)
-        return {}; // circled numbers and numerals of Han have no counterpart that all word processors write alike
     std::vector<ListLabel> readings{label};
     if (marker->kind == MarkerKind::LowerRoman || marker->kind == MarkerKind::UpperRoman)
         if (const auto letter = asLetter(label, marker->text))
