@@ -108,6 +108,10 @@ bool isUpperCase(char32_t c) {
     return u_isupper(toIcu(c));
 }
 
+bool isLowerCase(char32_t c) {
+    return u_islower(toIcu(c));
+}
+
 bool isDigit(char32_t c) {
     return u_isdigit(toIcu(c));
 }

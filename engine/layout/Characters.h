@@ -19,6 +19,7 @@ bool isHangul(char32_t c);
 bool isShapeless(char32_t c);
 bool isLetter(char32_t c);
 bool isUpperCase(char32_t c);
+bool isLowerCase(char32_t c);
 bool isDigit(char32_t c);
 char32_t toLowerCase(char32_t c);
 /// A letter of a script that is written from right to left.

@@ -8,15 +8,15 @@
 namespace orvane::layout {
 namespace {
 
-/// The blank that is usual between the words of a row; 0 when it has too few words.
-double usualGap(const std::vector<Cluster>& clusters, std::size_t fewest) {
+/// The blank that is usual between the words of a row; 0 when it has too few that may be blanks.
+double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t fewest) {
     std::vector<double> gaps;
     for (std::size_t i = 1; i < clusters.size(); ++i)
-        if (clusters[i].gapBefore.endsWord)
+        if (clusters[i].gapBefore.endsWord && clusters[i].gapBefore.ownWidth() <= widest)
             gaps.push_back(clusters[i].gapBefore.ownWidth());
     if (gaps.size() < fewest)
         return 0;
-    const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>((gaps.size() - 1) / 2);
+    const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
     std::nth_element(gaps.begin(), middle, gaps.end());
     return *middle;
 }
@@ -47,36 +47,48 @@ bool isLabelText(const std::u32string& text, std::size_t longest) {
 } // namespace
 
 GutterFinder::GutterFinder(const std::vector<TextRow>& rows, const std::vector<TextFrame>& frames,
-                           const std::vector<Rule>& rules, const LayoutParameters& parameters)
+                           const std::vector<Rule>& rules, const std::vector<Ground>& grounds,
+                           const LayoutParameters& parameters)
     : m_rows(rows)
     , m_limits(parameters.gutters)
-    , m_rulesOfFrame(frames.size()) {
-    for (const TextRow& row : rows)
-        m_runs.push_back(cutRuns(row));
+    , m_wallsOfFrame(frames.size()) {
     for (std::size_t i = 0; i < frames.size(); ++i) {
+        std::vector<Wall>& walls = m_wallsOfFrame[i];
         for (const Rule& rule : rules) {
             const bool isUpright = rule.direction == RuleDirection::Vertical;
             const Rect box = frames[i].boxFromPage(isUpright ? Rect{rule.position, rule.from, rule.position, rule.to}
                                                              : Rect{rule.from, rule.position, rule.to, rule.position});
             if (box.height() > box.width())
-                m_rulesOfFrame[i].push_back({box.centerX(), box.top, box.bottom});
+                walls.push_back({box.centerX(), box.top, box.bottom, WallKind::Rule});
         }
-        std::sort(m_rulesOfFrame[i].begin(), m_rulesOfFrame[i].end(),
-                  [](const RuleInFrame& a, const RuleInFrame& b) { return a.position < b.position; });
+        for (const Ground& ground : grounds) {
+            const Rect box = frames[i].boxFromPage(ground.box);
+            walls.push_back({box.left, box.top, box.bottom, WallKind::EdgeOfGround});
+            walls.push_back({box.right, box.top, box.bottom, WallKind::EdgeOfGround});
+        }
+        std::sort(walls.begin(), walls.end(), [](const Wall& a, const Wall& b) { return a.position < b.position; });
     }
+    for (const TextRow& row : rows)
+        m_runs.push_back(cutRuns(row));
 }
 
 std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
     const std::vector<Cluster>& clusters = row.clusters;
-    const double usual = usualGap(clusters, m_limits.fewestGaps);
+    const double justified = m_limits.widestJustified * row.fontSize;
+    const double usual = m_limits.wideAgainstUsual * usualGap(clusters, justified, m_limits.fewestGaps);
     std::vector<RowRun> runs;
     for (std::size_t i = 0; i < clusters.size(); ++i) {
         const Cluster& cluster = clusters[i];
         const ClusterGap& gap = cluster.gapBefore;
-        const bool isWide = i > 0 && gap.endsWord && gap.ownWidth() >= m_limits.wideGap * row.fontSize &&
-                            gap.ownWidth() >= m_limits.wideAgainstUsual * usual;
-        if (i == 0 || isWide || gap.leader != document::TabLeader::None) {
-            runs.push_back({i, i, cluster.start, cluster.end, false, gap.leader != document::TabLeader::None});
+        const double width = gap.ownWidth();
+        const bool isWide = i > 0 && gap.endsWord && width >= m_limits.wideGap * row.fontSize;
+        const bool isWalled = i > 0 && hasWallBetween(row, clusters[i - 1].end, cluster.start);
+        const bool followsLeader = gap.leader != document::TabLeader::None;
+        if (i == 0 || isWalled || followsLeader || (isWide && width >= std::min(usual, justified))) {
+            runs.push_back({i, i, cluster.start, cluster.end});
+            runs.back().followsLeader = followsLeader;
+            runs.back().isWalled = isWalled;
+            runs.back().isTabbed = followsLeader || (isWide && width >= usual);
         }
         runs.back().last = i + 1;
         runs.back().end = std::max(runs.back().end, cluster.end);
@@ -90,14 +102,22 @@ std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
     return runs;
 }
 
-bool GutterFinder::hasRuleBetween(const TextRow& row, const RowRun& left, const RowRun& right) const {
-    const std::vector<RuleInFrame>& rules = m_rulesOfFrame[row.frame];
-    const double slack = m_limits.ruleSlack;
-    auto rule = std::lower_bound(rules.begin(), rules.end(), left.end - slack,
-                                 [](const RuleInFrame& a, double position) { return a.position < position; });
-    for (; rule != rules.end() && rule->position <= right.start + slack; ++rule)
-        if (rule->from <= row.baseline - m_limits.ruleHeight * row.fontSize && rule->to >= row.baseline)
+bool GutterFinder::hasWallBetween(const TextRow& row, double left, double right) const {
+    if (right - left < m_limits.narrowestWalled * row.fontSize)
+        return false;
+    const std::vector<Wall>& walls = m_wallsOfFrame[row.frame];
+    auto wall = std::lower_bound(walls.begin(), walls.end(), left - m_limits.wallSlack,
+                                 [](const Wall& a, double position) { return a.position < position; });
+    for (; wall != walls.end() && wall->position <= right + m_limits.wallSlack; ++wall) {
+        const bool standsInRow =
+            wall->from <= row.baseline - m_limits.wallHeight * row.fontSize && wall->to >= row.baseline;
+        // A ground no higher than a line may highlight words.
+        const bool isEdge =
+            wall->kind == WallKind::Rule || (right - left >= m_limits.narrowest * row.fontSize &&
+                                             wall->to - wall->from >= m_limits.groundHeight * row.fontSize);
+        if (standsInRow && isEdge)
             return true;
+    }
     return false;
 }
 
@@ -108,7 +128,8 @@ GutterFinder::Testimony GutterFinder::ask(std::size_t witness, const TextRow& ro
     if (runs.back().end <= right.start - m_limits.narrowest * row.fontSize)
         return runs.back().end > left.start ? Testimony::LeftOnly : Testimony::Silent;
     if (runs.front().start >= left.end + m_limits.narrowest * row.fontSize)
-        return std::abs(runs.front().start - right.start) <= slack ? Testimony::RightOnly : Testimony::Silent;
+        return std::abs(runs.front().start - right.start) <= m_limits.indent * row.fontSize ? Testimony::RightOnly
+                                                                                            : Testimony::Silent;
     for (std::size_t i = 1; i < runs.size(); ++i) {
         const double from = std::max(runs[i - 1].end, left.end);
         const double to = std::min(runs[i].start, right.start);
@@ -158,7 +179,7 @@ bool GutterFinder::isGutter(std::size_t row, std::size_t run) const {
     const TextRow& asked = m_rows[row];
     if (right.followsLeader)
         return false;
-    if (hasRuleBetween(asked, left, right))
+    if (right.isWalled)
         return true;
     if (left.isLabel && right.start - left.end <= m_limits.labelGap * asked.fontSize)
         return false;

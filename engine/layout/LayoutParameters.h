@@ -167,13 +167,25 @@ struct LayoutParameters {
         double narrowest = 0.5;        ///< what neighbours must leave empty of the same gap
         double alignment = 0.35;       ///< how far edges may be off to be aligned
         double farthest = 2.6;         ///< distance of baselines between neighbours that bear witness
-        int neighbours = 4;            ///< rows asked in each direction
+        int neighbours = 6;            ///< rows asked in each direction
         int fewestWitnesses = 2;       ///< rows beside this one that leave the gap empty
         double labelGap = 4;           ///< between a list label and its text
         unsigned longestLabel = 8;     ///< characters of a list label
-        double ruleSlack = 1;          ///< points; how far a rule between columns may touch the text
-        double ruleHeight = 0.4;       ///< how far above the baseline a rule must reach to stand in the row
+        double widestJustified = 1.4;  ///< a wider gap may be a gutter however wide the other blanks of its row are
+        double indent = 2.5;           ///< a column's first line may begin this far off the next one
+        double wallSlack = 1;          ///< points; how far a rule between cells may touch the text
+        double wallHeight = 0.4;       ///< how far above the baseline a rule must reach to stand in the row
+        double narrowestWalled = 0.1;  ///< of the gap that a rule may stand in
+        double groundHeight = 1.35;    ///< a lower ground may be a highlight, whose edges part nothing
     } gutters;
+
+    /// SmallCaps.
+    struct SmallCaps {
+        double smallestRatio = 0.65; ///< size of small capitals against that of capitals; word processors use 0.8
+        double largestRatio = 0.88;
+        double sameSize = 0.15;      ///< points
+        double sameBaseline = 0.05;  ///< of the font size
+    } smallCaps;
 
     /// RuleFinder and RuleMerger: lines drawn on the page.
     struct Rules {

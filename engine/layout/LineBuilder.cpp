@@ -2,6 +2,7 @@
 
 #include "layout/GutterFinder.h"
 #include "layout/LeaderFinder.h"
+#include "layout/SmallCaps.h"
 
 #include <algorithm>
 #include <map>
@@ -45,11 +46,12 @@ TextRow lineOf(TextRow& row, std::size_t first, std::size_t last) {
 } // namespace
 
 std::vector<TextRow> buildLines(std::vector<TextRow> rows, const std::vector<TextFrame>& frames,
-                                const std::vector<Rule>& rules, const LayoutParameters& parameters, Diagnostics&) {
+                                const std::vector<Rule>& rules, const std::vector<Ground>& grounds,
+                                const LayoutParameters& parameters, Diagnostics&) {
     sortByBaseline(rows);
     for (TextRow& row : rows)
         findLeaders(row, parameters);
-    const GutterFinder gutters(rows, frames, rules, parameters);
+    const GutterFinder gutters(rows, frames, rules, grounds, parameters);
 
     // The gutters are asked for before any row is cut, as each row bears witness for its neighbours.
     std::vector<std::vector<std::size_t>> cuts(rows.size());
@@ -58,7 +60,7 @@ std::vector<TextRow> buildLines(std::vector<TextRow> rows, const std::vector<Tex
         for (std::size_t run = 1; run < runs.size(); ++run) {
             if (gutters.isGutter(i, run))
                 cuts[i].push_back(runs[run].first);
-            else
+            else if (runs[run].isTabbed)
                 rows[i].clusters[runs[run].first].gapBefore.kind = Gap::Tab;
         }
     }
@@ -68,6 +70,7 @@ std::vector<TextRow> buildLines(std::vector<TextRow> rows, const std::vector<Tex
         cuts[i].push_back(rows[i].clusters.size());
         for (const std::size_t cut : cuts[i]) {
             lines.push_back(lineOf(rows[i], first, cut));
+            findSmallCaps(lines.back(), parameters);
             first = cut;
         }
     }

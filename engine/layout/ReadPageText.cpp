@@ -33,7 +33,8 @@ PageText readPageText(const pdf::PageContent& page, const LayoutParameters& para
     std::vector<Cluster> clusters = buildClusters(page, selection, frames, parameters, diagnostics);
     std::vector<TextRow> rows = buildRows(std::move(clusters), parameters, diagnostics);
     rows = findWordGaps(std::move(rows), parameters, diagnostics);
-    std::vector<TextRow> lines = buildLines(std::move(rows), frames.frames, text.rules, parameters, diagnostics);
+    std::vector<TextRow> lines =
+        buildLines(std::move(rows), frames.frames, text.rules, text.grounds, parameters, diagnostics);
     decorateText(lines, frames.frames, text.rules, text.grounds, text.links, parameters, diagnostics);
     text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
 
