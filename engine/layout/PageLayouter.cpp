@@ -1,6 +1,5 @@
 #include "layout/PageLayouter.h"
 
-#include "layout/CellRegrouper.h"
 #include "layout/ParagraphBuilder.h"
 #include "layout/ParagraphContinuation.h"
 #include "layout/ReadingOrder.h"
@@ -36,7 +35,6 @@ private:
     void takeTables(Diagnostics& diagnostics) {
         for (TableDraft& table : findTables(m_page, m_context, m_parameters, diagnostics)) {
             const Rect box = table.box;
-            regroupCells(table, paragraphContext(), m_parameters);
             m_walls.push_back(box);
             addObject(box, 0, std::move(table));
         }
