@@ -1,11 +1,21 @@
 # A room is a folder of sources that becomes one library target. What a room may use is what it links: a room that includes
 # a header of another room without linking it does not link, and tests/rooms checks the includes themselves.
 
-# orvane_room(<name> [LINK <targets>...] [PRIVATE_LINK <targets>...])
-# The target orvane_<name> of every *.cpp in the current folder.
+# room_sources(<variable> <folders>...): the sources and headers in the current folder and the named ones below it.
+macro(room_sources variable)
+  set(patterns "*.cpp" "*.h")
+  foreach(folder ${ARGN})
+    list(APPEND patterns "${folder}/*.cpp" "${folder}/*.h")
+  endforeach()
+  list(TRANSFORM patterns PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+  file(GLOB ${variable} CONFIGURE_DEPENDS ${patterns})
+endmacro()
+
+# orvane_room(<name> [FOLDERS <folders>...] [LINK <targets>...] [PRIVATE_LINK <targets>...])
+# The target orvane_<name> of every *.cpp in the current folder and the named ones below it.
 function(orvane_room name)
-  cmake_parse_arguments(ARG "" "" "LINK;PRIVATE_LINK" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  cmake_parse_arguments(ARG "" "" "FOLDERS;LINK;PRIVATE_LINK" ${ARGN})
+  room_sources(sources ${ARG_FOLDERS})
   add_library(orvane_${name} STATIC ${sources})
   set_target_properties(orvane_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(orvane_${name} PUBLIC "${CMAKE_SOURCE_DIR}/engine")
@@ -29,12 +39,14 @@ function(tavrelion_room name folder)
   target_link_libraries(tavrelion_${name} PUBLIC ${ARG_LINK} PRIVATE tavrelion_options ${ARG_PRIVATE_LINK})
 endfunction()
 
-# room_tests(<name> LINK <targets>...): one test program of every *.cpp in the current folder, its tests known to ctest.
+# room_tests(<name> [QT] [FOLDERS <folders>...] LINK <targets>...)
+# One test program of every *.cpp in the current folder and the named ones below it, its tests known to ctest. Tests are compiled with little optimisation: what they test is optimised, they themselves only have to be built.
 function(room_tests name)
-  cmake_parse_arguments(ARG "QT" "" "LINK" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  cmake_parse_arguments(ARG "QT" "" "FOLDERS;LINK" ${ARGN})
+  room_sources(sources ${ARG_FOLDERS})
   add_executable(test_${name} ${sources})
   set_target_properties(test_${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+  target_compile_options(test_${name} PRIVATE $<$<CONFIG:Release>:-O1>)
   target_include_directories(test_${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
   target_link_libraries(test_${name} PRIVATE ${ARG_LINK} tavrelion_options GTest::gmock)
   if(ARG_QT)

@@ -2,7 +2,7 @@
 
 #include "layout/DocumentContext.h"
 #include "layout/LayoutParameters.h"
-#include "layout/PageText.h"
+#include "layout/text/PageText.h"
 
 #include <vector>
 

@@ -2,14 +2,14 @@
 
 #include "base/Failure.h"
 #include "layout/DocumentAnalyser.h"
-#include "layout/DocumentAssembler.h"
-#include "layout/DraftBuilder.h"
-#include "layout/HeadingFinder.h"
-#include "layout/ListFinder.h"
-#include "layout/PageLayouter.h"
-#include "layout/ParagraphJoiner.h"
-#include "layout/RunningHeads.h"
-#include "layout/SectionMaker.h"
+#include "layout/assembly/DocumentAssembler.h"
+#include "layout/page/PageLayouter.h"
+#include "layout/running/RunningHeads.h"
+#include "layout/structure/DraftBuilder.h"
+#include "layout/structure/HeadingFinder.h"
+#include "layout/structure/ListFinder.h"
+#include "layout/structure/ParagraphJoiner.h"
+#include "layout/structure/SectionMaker.h"
 
 namespace orvane::layout {
 namespace {

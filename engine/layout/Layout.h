@@ -4,7 +4,7 @@
 #include "base/JobObserver.h"
 #include "document/Document.h"
 #include "layout/LayoutParameters.h"
-#include "layout/PageText.h"
+#include "layout/text/PageText.h"
 #include "pdf/PdfDocument.h"
 
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include "base/Diagnostic.h"
 #include "base/PictureStore.h"
-#include "layout/PageText.h"
+#include "layout/text/PageText.h"
 #include "pdf/PdfDocument.h"
 
 namespace orvane::worker {

@@ -2,7 +2,7 @@
 
 #include "base/PictureStore.h"
 #include "layout/LayoutParameters.h"
-#include "layout/PageText.h"
+#include "layout/text/PageText.h"
 #include "pdf/PdfDocument.h"
 #include "protocol/Message.h"
 #include "worker/RunReporter.h"

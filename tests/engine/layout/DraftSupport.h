@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/DocumentDump.h"
-#include "layout/DocumentAssembler.h"
-#include "layout/TextAssembler.h"
+#include "layout/assembly/DocumentAssembler.h"
+#include "layout/assembly/TextAssembler.h"
 
 #include "engine/layout/TextBuilder.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engine/layout/TextBuilder.h"
-#include "layout/LineText.h"
-#include "layout/PageLayout.h"
+#include "layout/page/PageLayout.h"
+#include "layout/text/LineText.h"
 
 #include <string>
 #include <vector>

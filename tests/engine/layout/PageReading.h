@@ -1,7 +1,7 @@
 #pragma once
 
 #include "layout/Layout.h"
-#include "layout/LineText.h"
+#include "layout/text/LineText.h"
 
 #include "engine/layout/PageContentBuilder.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/PageText.h"
+#include "layout/text/PageText.h"
 
 #include <string>
 

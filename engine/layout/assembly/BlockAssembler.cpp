@@ -1,0 +1,94 @@
+#include "layout/assembly/BlockAssembler.h"
+
+#include "layout/assembly/FigureAssembler.h"
+#include "layout/assembly/ParagraphFormat.h"
+#include "layout/assembly/TableAssembler.h"
+#include "layout/fonts/LineMetrics.h"
+
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+/// The look of the paragraph mark is that of the last word, as if it had been typed on.
+document::RunProperties markProperties(const DraftParagraph& paragraph, const AssemblyContext& context) {
+    const Line& line = paragraph.lastLine();
+    document::RunProperties mark = runProperties(line.words.back().spans.back(), paragraph.pieces.back().page, context);
+    mark.underline = document::UnderlineKind::None;
+    mark.verticalPosition = document::VerticalPosition::Baseline;
+    mark.highlight.reset();
+    mark.isStruck = false;
+    return mark;
+}
+
+AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& source,
+                                 const AssemblyContext& context) {
+    document::Paragraph paragraph;
+    paragraph.properties = formatOf(source, context.draft.numberings, context.parameters);
+    const std::optional<document::LineSpacing> spacing = lineSpacingOf(source, context.fonts, context.parameters);
+    if (spacing)
+        paragraph.properties.lineSpacing = *spacing;
+    paragraph.inlines = assembleText(source, context);
+    paragraph.markProperties = markProperties(source, context);
+    paragraph.list = source.list;
+    paragraph.origin = {context.draft.pages[draft.page].number, draft.box};
+
+    AssembledBlock assembled;
+    assembled.hasOwnLineSpacing = spacing.has_value();
+    assembled.lastPage = source.pieces.back().page;
+    assembled.block.value = std::move(paragraph);
+    return assembled;
+}
+
+/// Lets the block start its page or column. Of a table that is what its first paragraph does.
+void setBreaks(const DraftBlock& draft, AssembledBlock& assembled) {
+    if (document::Paragraph* paragraph = assembled.paragraph()) {
+        paragraph->properties.pageBreakBefore = draft.startsPage;
+        if (draft.startsColumn)
+            paragraph->inlines.insert(paragraph->inlines.begin(), {document::Break{document::BreakKind::Column}});
+    } else if (draft.startsPage && !assembled.cells.empty() && !assembled.cells.front().empty()) {
+        if (document::Paragraph* first = assembled.cells.front().front().paragraph())
+            first->properties.pageBreakBefore = true;
+    }
+}
+
+AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& context) {
+    AssembledBlock assembled;
+    if (const DraftParagraph* paragraph = draft.paragraph())
+        assembled = assembleParagraph(draft, *paragraph, context);
+    else if (const auto* table = std::get_if<DraftTable>(&draft.value))
+        assembled = assembleTable(*table, draft, context);
+    else
+        assembled.block = assembleFigure(std::get<FigureDraft>(draft.value), draft, context);
+    if (!draft.paragraph()) {
+        assembled.top = draft.box.top;
+        assembled.bottom = draft.box.bottom;
+        assembled.lastPage = draft.page;
+    }
+    setBreaks(draft, assembled);
+    assembled.draft = &draft;
+    return assembled;
+}
+
+} // namespace
+
+std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts, const AssemblyContext& context) {
+    std::vector<AssembledBlock> blocks;
+    blocks.reserve(drafts.size());
+    for (const DraftBlock& draft : drafts)
+        blocks.push_back(assembleBlock(draft, context));
+    return blocks;
+}
+
+std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, const AssemblyContext& context) {
+    std::vector<document::Block> finished;
+    finished.reserve(blocks.size());
+    for (AssembledBlock& block : blocks) {
+        if (std::holds_alternative<document::Table>(block.block.value))
+            fillCells(block, context);
+        finished.push_back(std::move(block.block));
+    }
+    return finished;
+}
+
+} // namespace orvane::layout

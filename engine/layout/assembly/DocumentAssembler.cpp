@@ -1,0 +1,108 @@
+#include "layout/assembly/DocumentAssembler.h"
+
+#include "layout/assembly/BlockAssembler.h"
+#include "layout/assembly/NumberingAssembler.h"
+#include "layout/assembly/SpacingFinder.h"
+
+#include <iterator>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+document::Metadata metadataOf(const pdf::Metadata& source) {
+    document::Metadata metadata;
+    metadata.title = source.title;
+    metadata.author = source.author;
+    metadata.subject = source.subject;
+    metadata.keywords = source.keywords;
+    metadata.language = source.language;
+    metadata.created = source.created;
+    metadata.modified = source.modified;
+    return metadata;
+}
+
+/// The flows that styles and spacing are found for: the body first, then the running texts of each section.
+class FlowSet {
+public:
+    FlowSet(const DocumentDraft& draft, const AssemblyContext& context)
+        : m_draft(draft)
+        , m_context(context) {
+        add(FlowKind::Body, draft.blocks);
+        for (const DraftSection& section : draft.sections) {
+            addRunning(FlowKind::Header, section.header);
+            addRunning(FlowKind::Footer, section.footer);
+        }
+    }
+
+    std::vector<BlockFlow>& flows() { return m_flows; }
+
+    /// Hands the flows out again, in the order in which they were added.
+    std::vector<document::Section> takeSections() {
+        std::vector<AssembledBlock> body = std::move(m_flows[m_next++].blocks);
+        std::vector<document::Section> sections;
+        for (std::size_t i = 0; i < m_draft.sections.size(); ++i) {
+            const bool isLast = i + 1 == m_draft.sections.size();
+            const std::size_t end = isLast ? body.size() : m_draft.sections[i + 1].firstBlock;
+            document::Section section = m_draft.sections[i].setup;
+            section.blocks = finishBlocks(take(body, m_draft.sections[i].firstBlock, end), m_context);
+            section.header = takeRunning(m_draft.sections[i].header);
+            section.footer = takeRunning(m_draft.sections[i].footer);
+            sections.push_back(std::move(section));
+        }
+        return sections;
+    }
+
+private:
+    void add(FlowKind kind, const std::vector<DraftBlock>& blocks) {
+        m_flows.push_back({kind, assembleBlocks(blocks, m_context)});
+    }
+
+    void addRunning(FlowKind kind, const DraftRunningText& text) {
+        for (const auto* blocks : {&text.standard, &text.firstPage, &text.evenPages})
+            if (*blocks)
+                add(kind, **blocks);
+    }
+
+    document::RunningText takeRunning(const DraftRunningText& source) {
+        const auto takeNext = [this](const std::optional<std::vector<DraftBlock>>& blocks) {
+            return blocks ? std::optional(finishBlocks(std::move(m_flows[m_next++].blocks), m_context)) : std::nullopt;
+        };
+        document::RunningText text;
+        text.standard = takeNext(source.standard);
+        text.firstPage = takeNext(source.firstPage);
+        text.evenPages = takeNext(source.evenPages);
+        return text;
+    }
+
+    static std::vector<AssembledBlock> take(std::vector<AssembledBlock>& blocks, std::size_t from, std::size_t to) {
+        const auto at = [&](std::size_t i) { return blocks.begin() + static_cast<std::ptrdiff_t>(i); };
+        return {std::make_move_iterator(at(from)), std::make_move_iterator(at(to))};
+    }
+
+    const DocumentDraft& m_draft;
+    const AssemblyContext& m_context;
+    std::vector<BlockFlow> m_flows;
+    std::size_t m_next = 0;
+};
+
+} // namespace
+
+document::Document assembleDocument(DocumentDraft draft, const DocumentContext& context, const DocumentFacts& facts,
+                                    const LayoutRequest& request, const LayoutParameters& parameters,
+                                    Diagnostics& diagnostics) {
+    const LinkTargets links(draft, facts.outline, diagnostics);
+    const FontCatalog fonts(draft);
+    const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
+    FlowSet flows(draft, assembly);
+    document::Document document;
+    document.metadata = metadataOf(facts.metadata);
+    for (const DraftNumbering& numbering : draft.numberings)
+        document.numberings.push_back(assembleNumbering(numbering, assembly));
+    document.styles = makeStyles(flows.flows(), assembly);
+    findSpacing(flows.flows(), document.styles, assembly);
+    document.sections = flows.takeSections();
+    return document;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,76 @@
+#include "layout/assembly/FigureAssembler.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace orvane::layout {
+namespace {
+
+/// Sets the size, and the turns and mirrors that the picture's matrix does to it.
+document::Picture pictureOf(const Figure& figure, int page) {
+    document::Picture picture;
+    picture.id = figure.picture;
+    picture.crop = figure.crop;
+    picture.alternateText = figure.alternateText;
+    picture.origin = {page, figure.box};
+    picture.width = emuFromPoints(figure.box.width());
+    picture.height = emuFromPoints(figure.box.height());
+    if (figure.needsPainting)
+        return picture; // painted as it is seen
+    const Matrix& m = figure.matrix;
+    const double degrees = std::atan2(m.b, m.a) * 180 / std::numbers::pi;
+    picture.isMirroredVertically = m.determinant() < 0;
+    picture.rotation = std::round(degrees * 100) / 100;
+    const bool isUpright = std::abs(picture.rotation) < 0.1;
+    if (!isUpright) {
+        // The size of a turned picture is that before turning.
+        picture.width = emuFromPoints(std::hypot(m.a, m.b));
+        picture.height = emuFromPoints(std::hypot(m.c, m.d));
+    }
+    return picture;
+}
+
+document::Alignment alignmentIn(const ColumnSpan& column, const Rect& box, double tolerance) {
+    const double left = box.left - column.left, right = column.right - box.right;
+    if (left > tolerance && std::abs(left - right) <= tolerance)
+        return document::Alignment::Center;
+    return left > tolerance && std::abs(right) <= tolerance ? document::Alignment::End : document::Alignment::Start;
+}
+
+ColumnSpan columnOf(const DraftBlock& place, const DocumentDraft& draft) {
+    const std::vector<Band>& bands = draft.pages[place.page].bands;
+    const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
+    if (band < bands.size() && column < bands[band].columns.size())
+        return bands[band].columns[column];
+    return {place.box.left, place.box.right};
+}
+
+document::Block paragraphWith(document::Picture picture, const DraftBlock& place, const AssemblyContext& context) {
+    const ColumnSpan column = columnOf(place, context.draft);
+    document::Paragraph paragraph;
+    paragraph.origin = picture.origin;
+    paragraph.properties.alignment = alignmentIn(column, place.box, context.parameters.figures.alignmentTolerance);
+    if (paragraph.properties.alignment == document::Alignment::Start)
+        paragraph.properties.indentStart = twipsFromPoints(std::max(0.0, place.box.left - column.left));
+    paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
+    paragraph.inlines.push_back({std::move(picture)});
+    return {std::move(paragraph)};
+}
+
+} // namespace
+
+document::Block assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context) {
+    document::Picture picture = pictureOf(draft.figure, context.draft.pages[place.page].number);
+    if (draft.isInline)
+        return paragraphWith(std::move(picture), place, context);
+    document::Figure figure;
+    figure.origin = picture.origin;
+    figure.placement.x = emuFromPoints(draft.figure.box.left);
+    figure.placement.y = emuFromPoints(draft.figure.box.top);
+    figure.placement.wrapping = draft.figure.isBackground ? document::Wrapping::BehindText : document::Wrapping::Square;
+    figure.placement.zOrder = static_cast<int>(draft.figure.paintOrder);
+    figure.content = std::move(picture);
+    return {std::move(figure)};
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "layout/assembly/TextAssembler.h"
+
+namespace orvane::layout {
+
+/// A picture between paragraphs becomes a paragraph of its own, any other floats where it stood.
+document::Block assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context);
+
+} // namespace orvane::layout

@@ -1,0 +1,69 @@
+#include "layout/assembly/ParagraphFormat.h"
+
+#include "layout/assembly/TabStopFinder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+
+/// Indents below this are noise of the positions.
+Twips indent(double points, double smallest) {
+    return std::abs(points) < smallest ? Twips(0) : twipsFromPoints(points);
+}
+
+/// Measures the indents from the section's column, whose edges the page alone did not show.
+void setIndents(const DraftPiece& piece, double smallest, document::ParagraphProperties& format) {
+    const Line& line = piece.text.lines.front();
+    const double first = line.isRightToLeft ? piece.column.right - line.box.right : line.box.left - piece.column.left;
+    format.indentStart = indent(first - piece.text.firstLine, smallest);
+    format.firstLine = indent(piece.text.firstLine, smallest);
+    if (piece.text.alignment != Alignment::Justified)
+        return;
+    // The fullest line ends where the indent is.
+    double end = std::numeric_limits<double>::infinity();
+    for (const Line& l : piece.text.lines)
+        end = std::min(end, l.isRightToLeft ? l.box.left - piece.column.left : piece.column.right - l.box.right);
+    format.indentEnd = indent(std::max(0.0, end), smallest);
+}
+
+/// An item has the indents of its list's level unless it clearly stands elsewhere.
+void takeListIndents(const document::NumberingLevel& level, std::size_t lines, double tolerance,
+                     document::ParagraphProperties& format) {
+    const auto isNear = [tolerance](Twips a, Twips b) {
+        return std::abs(a.value - b.value) <= twipsFromPoints(tolerance).value;
+    };
+    const bool startsAlike = isNear(format.indentStart + format.firstLine, level.indentStart + level.firstLine);
+    const bool goesOnAlike = lines == 1 || isNear(format.indentStart, level.indentStart);
+    // Numbers may be set against their right edge; their texts stand in line then.
+    if ((startsAlike && goesOnAlike) || (goesOnAlike && isNear(format.indentStart, level.indentStart))) {
+        format.indentStart = level.indentStart;
+        format.firstLine = level.firstLine;
+    }
+}
+
+} // namespace
+
+document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
+                                       const LayoutParameters& parameters) {
+    const DraftPiece& first = paragraph.pieces.front();
+    document::ParagraphProperties format;
+    format.alignment = first.text.alignment;
+    format.isRightToLeft = paragraph.firstLine().isRightToLeft;
+    // The edges of centred lines, and the start of those set against the end, follow from their lengths.
+    if (format.alignment != Alignment::Center && format.alignment != Alignment::End)
+        setIndents(first, parameters.spacing.smallestIndent, format);
+    if (paragraph.list)
+        takeListIndents(
+            numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],
+            first.text.lines.size(), parameters.lists.sameIndent, format);
+    format.tabs = findTabStops(paragraph, parameters);
+    return format;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "document/Document.h"
+#include "layout/LayoutParameters.h"
+#include "layout/structure/DocumentDraft.h"
+
+namespace orvane::layout {
+
+/// How the paragraph stands by itself: direction, alignment, indents, tab stops.
+document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
+                                       const LayoutParameters& parameters);
+
+} // namespace orvane::layout

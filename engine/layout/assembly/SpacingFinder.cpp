@@ -1,0 +1,223 @@
+#include "layout/assembly/SpacingFinder.h"
+
+#include "layout/fonts/LineMetrics.h"
+#include "layout/support/Tally.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <optional>
+
+namespace orvane::layout {
+namespace {
+
+using document::Paragraph;
+using document::ParagraphProperties;
+using document::Style;
+using document::StyleId;
+
+/// The space between two blocks that stand one below the other. Units: points.
+struct BlockGap {
+    AssembledBlock* upper = nullptr;
+    AssembledBlock* lower = nullptr;
+    double points = 0;
+};
+
+void measure(AssembledBlock& block, const AssemblyContext& context) {
+    const DraftParagraph* draft = block.draftParagraph();
+    if (!draft)
+        return;
+    const document::LineSpacing& spacing = block.paragraph()->properties.lineSpacing;
+    const DraftPiece& last = draft->pieces.back();
+    const std::size_t firstPage = draft->pieces.front().page;
+    block.top = draft->firstLine().baseline -
+                spacedExtent(extentOf(draft->firstLine(), firstPage, context.fonts), spacing).ascent;
+    block.bottom = draft->lastLine().baseline +
+                   spacedExtent(extentOf(draft->lastLine(), last.page, context.fonts), spacing).descent;
+}
+
+bool floats(const AssembledBlock& block) {
+    return std::holds_alternative<document::Figure>(block.block.value) ||
+           std::holds_alternative<document::Frame>(block.block.value);
+}
+
+/// Collects the gaps of blocks that follow each other in one column, those in cells too.
+void collectGaps(std::vector<AssembledBlock>& blocks, const LayoutParameters::Spacing& limits,
+                 std::vector<BlockGap>& gaps) {
+    AssembledBlock* upper = nullptr;
+    for (AssembledBlock& lower : blocks) {
+        for (std::vector<AssembledBlock>& cell : lower.cells)
+            collectGaps(cell, limits, gaps);
+        if (floats(lower) || !lower.draft)
+            continue;
+        if (upper && upper->lastPage == lower.draft->page && lower.top > upper->top) {
+            const double gap = lower.top - upper->bottom;
+            if (gap <= limits.largestGap)
+                gaps.push_back({upper, &lower, std::max(0.0, gap)});
+        }
+        upper = &lower;
+    }
+}
+
+/// Finds the spaces that belong to the styles.
+class StyleSpacing {
+public:
+    StyleSpacing(const std::vector<BlockGap>& gaps, const LayoutParameters::Spacing& limits)
+        : m_gaps(gaps)
+        , m_limits(limits) {}
+
+    void set(std::vector<Style>& styles) {
+        for (Style& style : styles)
+            setAfter(style);
+        for (Style& style : styles)
+            setBefore(style, styles);
+    }
+
+private:
+    enum class Neighbour { Same, Other };
+
+    /// The most frequent gap behind (or before) paragraphs of a style.
+    std::optional<double> usualGap(const StyleId& upper, const StyleId& lower, Neighbour neighbour) const {
+        std::vector<double> values;
+        for (const BlockGap& gap : m_gaps) {
+            const Paragraph* first = gap.upper->paragraph();
+            const Paragraph* second = gap.lower->paragraph();
+            if (!first || !second || (!upper.empty() && first->style != upper) ||
+                (!lower.empty() && second->style != lower) ||
+                (first->style == second->style) != (neighbour == Neighbour::Same))
+                continue;
+            values.push_back(gap.points);
+        }
+        const auto usual = mostFrequent(values, m_limits.sameGap);
+        if (!usual)
+            return std::nullopt;
+        const auto agreeing = std::count_if(values.begin(), values.end(),
+                                            [&](double value) { return std::abs(value - *usual) <= m_limits.sameGap; });
+        return static_cast<double>(agreeing) >= m_limits.usualShare * static_cast<double>(values.size()) ? usual
+                                                                                                         : std::nullopt;
+    }
+
+    void setAfter(Style& style) const {
+        const auto same = usualGap(style.id, style.id, Neighbour::Same);
+        const auto other = usualGap(style.id, {}, Neighbour::Other);
+        // Items of a list stand close, and there is space behind the list.
+        const bool isContextual =
+            style.id == "ListParagraph" && same && other && *same<m_limits.sameGap&& * other> m_limits.sameGap;
+        const bool isHead = style.paragraph.outlineLevel > 0;
+        const auto after = isContextual || isHead || !same ? other : same;
+        style.paragraph.isContextualSpacing = isContextual;
+        style.paragraph.spaceAfter = twipsFromPoints(after.value_or(0));
+    }
+
+    /// Space before is what the paragraphs above do not leave anyway.
+    void setBefore(Style& style, const std::vector<Style>& styles) const {
+        if (style.id == "Normal")
+            return;
+        const auto before = usualGap({}, style.id, Neighbour::Other);
+        const double body = pointsFromTwips(styles.front().paragraph.spaceAfter);
+        if (before && *before > body + m_limits.sameGap)
+            style.paragraph.spaceBefore = twipsFromPoints(*before);
+    }
+
+    const std::vector<BlockGap>& m_gaps;
+    const LayoutParameters::Spacing& m_limits;
+};
+
+void takeStyleSpacing(std::vector<BlockFlow>& flows, const std::vector<Style>& styles) {
+    std::map<StyleId, const ParagraphProperties*> formats;
+    for (const Style& style : styles)
+        formats.emplace(style.id, &style.paragraph);
+    for (BlockFlow& flow : flows) {
+        forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind) {
+            Paragraph* paragraph = block.paragraph();
+            if (!paragraph || !formats.contains(paragraph->style))
+                return;
+            const ParagraphProperties& format = *formats[paragraph->style];
+            paragraph->properties.spaceBefore = format.spaceBefore;
+            paragraph->properties.spaceAfter = format.spaceAfter;
+            paragraph->properties.isContextualSpacing = format.isContextualSpacing;
+        });
+    }
+}
+
+/// Sets the gap on the two paragraphs where their styles give another one.
+void setParagraphGap(Paragraph& upper, Paragraph& lower, Twips gap, Twips tolerance) {
+    const bool isContextual = upper.style == lower.style && upper.properties.isContextualSpacing;
+    const Twips given = isContextual ? Twips(0) : std::max(upper.properties.spaceAfter, lower.properties.spaceBefore);
+    if (std::abs(given.value - gap.value) <= tolerance.value)
+        return;
+    if (given < gap) {
+        upper.properties.isContextualSpacing = false;
+        upper.properties.spaceAfter = gap;
+        return;
+    }
+    upper.properties.spaceAfter = std::min(upper.properties.spaceAfter, gap);
+    lower.properties.spaceBefore = std::min(lower.properties.spaceBefore, gap);
+}
+
+void setGap(const BlockGap& gap, const LayoutParameters::Spacing& limits) {
+    Paragraph* upper = gap.upper->paragraph();
+    Paragraph* lower = gap.lower->paragraph();
+    const Twips space = twipsFromPoints(gap.points);
+    if (upper && lower)
+        setParagraphGap(*upper, *lower, space, twipsFromPoints(limits.sameGap));
+    else if (upper)
+        upper->properties.spaceAfter = space;
+    else if (lower)
+        lower->properties.spaceBefore = space;
+}
+
+/// The first line of a cell stands where its alignment puts it, and nothing follows the last.
+void trimCells(AssembledBlock& block) {
+    for (std::vector<AssembledBlock>& cell : block.cells) {
+        if (cell.empty())
+            continue;
+        if (Paragraph* first = cell.front().paragraph())
+            first->properties.spaceBefore = Twips(0);
+        if (Paragraph* last = cell.back().paragraph())
+            last->properties.spaceAfter = Twips(0);
+    }
+}
+
+/// What starts a page by hand, or with its section, stands as far below the margin as on its page.
+void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& context) {
+    const auto& sections = context.draft.sections;
+    auto section = sections.begin();
+    double margin = 0;
+    for (std::size_t i = 0; i < body.size(); ++i) {
+        bool startsSection = false;
+        for (; section != sections.end() && section->firstBlock <= i; ++section) {
+            margin = pointsFromTwips(section->setup.marginTop);
+            startsSection = section->setup.start != document::SectionStart::Continuous;
+        }
+        Paragraph* paragraph = body[i].paragraph();
+        if (!paragraph || !body[i].draft || !(startsSection || body[i].draft->startsPage))
+            continue;
+        const double offset = body[i].top - margin;
+        const double given = pointsFromTwips(paragraph->properties.spaceBefore);
+        if (std::abs(offset - given) > context.parameters.spacing.sameGap)
+            paragraph->properties.spaceBefore = twipsFromPoints(std::max(0.0, offset));
+    }
+}
+
+} // namespace
+
+void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, const AssemblyContext& context) {
+    const LayoutParameters::Spacing& limits = context.parameters.spacing;
+    std::vector<BlockGap> gaps;
+    for (BlockFlow& flow : flows) {
+        forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind) { measure(block, context); });
+        collectGaps(flow.blocks, limits, gaps);
+    }
+    StyleSpacing(gaps, limits).set(styles);
+    takeStyleSpacing(flows, styles);
+    for (BlockFlow& flow : flows)
+        forEachBlock(flow.blocks, flow.kind, [](AssembledBlock& block, FlowKind) { trimCells(block); });
+    for (const BlockGap& gap : gaps)
+        setGap(gap, limits);
+    for (BlockFlow& flow : flows)
+        if (flow.kind == FlowKind::Body)
+            setPageTops(flow.blocks, context);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,211 @@
+#include "layout/assembly/StyleMaker.h"
+
+#include "layout/assembly/NamedStyles.h"
+#include "layout/support/Tally.h"
+
+#include <cstdlib>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+using document::LineSpacing;
+using document::LineSpacingRule;
+using document::ParagraphProperties;
+using document::RunProperties;
+using document::Style;
+
+/// The paragraphs of one style.
+struct StyleGroup {
+    Style style;
+    FlowKind place = FlowKind::Body;
+    std::vector<AssembledBlock*> members;
+};
+
+void countRuns(const std::vector<document::Inline>& inlines, Tally<RunProperties>& tally) {
+    for (const document::Inline& item : inlines) {
+        if (const auto* text = std::get_if<document::Text>(&item.value))
+            tally.add(text->properties, static_cast<double>(text->text.size()));
+        else if (const auto* link = std::get_if<document::Link>(&item.value))
+            countRuns(link->inlines, tally);
+        else if (const auto* field = std::get_if<document::Field>(&item.value))
+            countRuns(field->result, tally);
+    }
+}
+
+std::size_t lineCount(const AssembledBlock& block) {
+    std::size_t count = 0;
+    if (const DraftParagraph* draft = block.draftParagraph())
+        for (const DraftPiece& piece : draft->pieces)
+            count += piece.text.lines.size();
+    return count;
+}
+
+/// Groups in the order in which their first paragraphs stand; the default style first, even when nothing is set in it.
+std::vector<StyleGroup> groupByStyle(std::vector<BlockFlow>& flows) {
+    std::vector<StyleGroup> groups{{namedStyle(nullptr, FlowKind::Body), FlowKind::Body, {}}};
+    std::map<document::StyleId, std::size_t> indexOf{{groups[0].style.id, 0}};
+    for (BlockFlow& flow : flows) {
+        forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind place) {
+            document::Paragraph* paragraph = block.paragraph();
+            if (!paragraph)
+                return;
+            Style style = namedStyle(block.draftParagraph(), place);
+            paragraph->style = style.id;
+            const auto [entry, isNew] = indexOf.emplace(style.id, groups.size());
+            if (isNew)
+                groups.push_back({std::move(style), place, {}});
+            groups[entry->second].members.push_back(&block);
+        });
+    }
+    return groups;
+}
+
+/// The look of most characters.
+void chooseRun(StyleGroup& group) {
+    Tally<RunProperties> looks;
+    for (const AssembledBlock* member : group.members)
+        countRuns(member->paragraph()->inlines, looks);
+    if (const RunProperties* look = looks.heaviest())
+        group.style.run = *look;
+}
+
+/// The format of members of at least `lines` lines.
+std::vector<const ParagraphProperties*> formatsOf(const StyleGroup& group, std::size_t lines) {
+    std::vector<const ParagraphProperties*> formats;
+    for (const AssembledBlock* member : group.members)
+        if (lineCount(*member) >= lines)
+            formats.push_back(&member->paragraph()->properties);
+    return formats;
+}
+
+/// The value of `field` that most paragraphs have.
+template<typename T>
+void chooseField(StyleGroup& group, T ParagraphProperties::*field) {
+    Tally<T> values;
+    for (const ParagraphProperties* format : formatsOf(group, 1))
+        values.add(format->*field);
+    if (const T* value = values.heaviest())
+        group.style.paragraph.*field = *value;
+}
+
+/// Likewise for a length, which is measured and so never quite the same.
+void chooseLength(StyleGroup& group, Twips ParagraphProperties::*field, const LayoutParameters::Styles& limits) {
+    // Of a single line only the first edge is seen, so longer paragraphs are asked first.
+    std::vector<const ParagraphProperties*> formats = formatsOf(group, 2);
+    if (formats.empty())
+        formats = formatsOf(group, 1);
+    std::vector<double> lengths;
+    for (const ParagraphProperties* format : formats)
+        lengths.push_back(pointsFromTwips(format->*field));
+    group.style.paragraph.*field = twipsFromPoints(mostFrequent(std::move(lengths), limits.sameIndent).value_or(0));
+}
+
+/// Nothing shows whether a single line is justified, so only longer paragraphs and clear cases count.
+void chooseAlignment(StyleGroup& group) {
+    constexpr double kFaintVote = 0.01;
+    Tally<Alignment> alignments;
+    for (const AssembledBlock* member : group.members) {
+        const std::size_t lines = lineCount(*member);
+        const Alignment alignment = member->paragraph()->properties.alignment;
+        if (lines > 1 || alignment != Alignment::Start)
+            alignments.add(alignment, static_cast<double>(lines));
+        else if (lines == 1)
+            alignments.add(alignment, kFaintVote);
+    }
+    if (const Alignment* alignment = alignments.heaviest())
+        group.style.paragraph.alignment = *alignment;
+}
+
+/// The line spacing of most paragraphs that show one; nullopt when none does.
+std::optional<LineSpacing> usualLineSpacing(const StyleGroup& group) {
+    Tally<LineSpacing> spacings;
+    for (const AssembledBlock* member : group.members)
+        if (member->hasOwnLineSpacing)
+            spacings.add(member->paragraph()->properties.lineSpacing, static_cast<double>(lineCount(*member) - 1));
+    const LineSpacing* spacing = spacings.heaviest();
+    return spacing ? std::optional(*spacing) : std::nullopt;
+}
+
+/// What a style is taken to have whose paragraphs are all of one line: body text's multiple, but in tables single
+/// spacing, which word processors' own table styles set.
+LineSpacing inheritedLineSpacing(const StyleGroup& group, const LineSpacing& body) {
+    if (group.place == FlowKind::Cell || body.rule != LineSpacingRule::Multiple)
+        return {};
+    return body;
+}
+
+bool isNear(Twips a, Twips b, double points) {
+    return std::abs(a.value - b.value) <= twipsFromPoints(points).value;
+}
+
+bool isNear(const LineSpacing& a, const LineSpacing& b, const LayoutParameters::Styles& limits) {
+    if (a.rule != b.rule)
+        return false;
+    return a.rule == LineSpacingRule::Multiple ? std::abs(a.multiple - b.multiple) <= limits.sameMultiple
+                                               : isNear(a.height, b.height, limits.sameHeight);
+}
+
+/// Gives a paragraph those values of its style that it cannot be told from.
+void snapToStyle(AssembledBlock& block, const Style& style, const LayoutParameters::Styles& limits) {
+    ParagraphProperties& format = block.paragraph()->properties;
+    const ParagraphProperties& usual = style.paragraph;
+    const bool isSingleLine = lineCount(block) == 1;
+    if (!block.hasOwnLineSpacing || isNear(format.lineSpacing, usual.lineSpacing, limits))
+        format.lineSpacing = usual.lineSpacing;
+    format.outlineLevel = usual.outlineLevel;
+    format.keepWithNext = usual.keepWithNext;
+    const bool mayBeJustified = isSingleLine && format.alignment == Alignment::Start;
+    if (mayBeJustified && usual.alignment == Alignment::Justified)
+        format.alignment = usual.alignment;
+    // The indents of a list's items are those of its levels.
+    if (format.alignment != usual.alignment || block.paragraph()->list)
+        return;
+    const bool startsAlike =
+        isNear(format.indentStart + format.firstLine, usual.indentStart + usual.firstLine, limits.sameIndent);
+    const bool goesOnAlike = isSingleLine || isNear(format.indentStart, usual.indentStart, limits.sameIndent);
+    if (startsAlike && goesOnAlike) {
+        format.indentStart = usual.indentStart;
+        format.firstLine = usual.firstLine;
+    }
+    if (isNear(format.indentEnd, usual.indentEnd, limits.sameIndent) || isSingleLine)
+        format.indentEnd = usual.indentEnd;
+}
+
+void chooseFormat(StyleGroup& group, const LayoutParameters::Styles& limits) {
+    chooseAlignment(group);
+    if (group.style.id != "ListParagraph") {
+        chooseLength(group, &ParagraphProperties::indentStart, limits);
+        chooseLength(group, &ParagraphProperties::indentEnd, limits);
+        chooseLength(group, &ParagraphProperties::firstLine, limits);
+    }
+    chooseField(group, &ParagraphProperties::isRightToLeft);
+    if (group.style.id != "Normal")
+        chooseField(group, &ParagraphProperties::tabs);
+}
+
+} // namespace
+
+std::vector<Style> makeStyles(std::vector<BlockFlow>& flows, const AssemblyContext& context) {
+    std::vector<StyleGroup> groups = groupByStyle(flows);
+    if (groups[0].members.empty()) {
+        groups[0].style.run.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
+        groups[0].style.run.size = halfPointsFromPoints(context.document.bodyFontSize);
+    }
+    const LineSpacing body = usualLineSpacing(groups[0]).value_or(LineSpacing{});
+    std::vector<Style> styles;
+    for (StyleGroup& group : groups) {
+        chooseRun(group);
+        chooseFormat(group, context.parameters.styles);
+        group.style.paragraph.lineSpacing = usualLineSpacing(group).value_or(inheritedLineSpacing(group, body));
+        for (AssembledBlock* member : group.members)
+            snapToStyle(*member, group.style, context.parameters.styles);
+        styles.push_back(group.style);
+    }
+    return styles;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,125 @@
+#include "layout/assembly/TableAssembler.h"
+
+#include "layout/assembly/BlockAssembler.h"
+#include "layout/structure/BlockExtent.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// Space between the cells' edges and their text, the same for all cells of a table.
+struct CellMargins {
+    double side = 0;
+    double top = 0;
+    double bottom = 0;
+};
+
+/// The smallest spaces that are seen, as far as they are usual.
+CellMargins cellMargins(const DraftTable& draft, const FontCatalog& fonts, const LayoutParameters::TableCells& limits) {
+    CellMargins margins{limits.usualMargin, limits.largestMargin, limits.largestMargin};
+    for (const DraftCell& cell : draft.cells) {
+        const Rect& box = cell.cell.box;
+        for (const DraftBlock& block : cell.blocks)
+            if (block.paragraph())
+                margins.side = std::min({margins.side, block.box.left - box.left, box.right - block.box.right});
+        if (cell.blocks.empty())
+            continue;
+        margins.top = std::min(margins.top, extentOf(cell.blocks.front(), fonts).top - box.top);
+        margins.bottom = std::min(margins.bottom, box.bottom - extentOf(cell.blocks.back(), fonts).bottom);
+    }
+    return {std::max(0.0, margins.side), std::max(0.0, margins.top), std::max(0.0, margins.bottom)};
+}
+
+/// What a cell holds that has nothing in it.
+document::Block emptyParagraph(const AssemblyContext& context) {
+    document::Paragraph paragraph;
+    paragraph.style = "Normal";
+    paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
+    paragraph.markProperties.size = halfPointsFromPoints(context.document.bodyFontSize);
+    return {std::move(paragraph)};
+}
+
+/// Indents count from the text's edge; in the draft they count from the cell's.
+void takeMargin(document::Paragraph& paragraph, Twips margin) {
+    document::ParagraphProperties& format = paragraph.properties;
+    if (format.alignment == document::Alignment::Center)
+        return;
+    format.indentStart = std::max(Twips(0), format.indentStart - margin);
+    format.indentEnd = std::max(Twips(0), format.indentEnd - margin);
+    for (document::TabStop& tab : format.tabs)
+        tab.position = std::max(Twips(0), tab.position - margin);
+}
+
+std::vector<AssembledBlock> assembleCellBlocks(const DraftCell& cell, Twips margin, const AssemblyContext& context) {
+    std::vector<AssembledBlock> blocks = assembleBlocks(cell.blocks, context);
+    for (AssembledBlock& block : blocks)
+        if (document::Paragraph* paragraph = block.paragraph())
+            takeMargin(*paragraph, margin);
+    return blocks;
+}
+
+document::TableCell cellOf(const CellDraft& draft, const CellMargins& margins) {
+    document::TableCell cell;
+    cell.column = draft.column;
+    cell.columnSpan = draft.columnSpan;
+    cell.rowSpan = draft.rowSpan;
+    cell.borders = draft.borders;
+    cell.shading = draft.shading;
+    cell.alignment = draft.alignment;
+    cell.direction = draft.direction;
+    cell.marginLeft = cell.marginRight = twipsFromPoints(margins.side);
+    cell.marginTop = twipsFromPoints(margins.top);
+    cell.marginBottom = twipsFromPoints(margins.bottom);
+    return cell;
+}
+
+/// How far the table's left edge stands from that of its column.
+double indentOf(const DraftBlock& place, const std::vector<double>& columnEdges, const DocumentDraft& draft) {
+    const std::vector<Band>& bands = draft.pages[place.page].bands;
+    const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
+    if (columnEdges.empty() || band >= bands.size() || column >= bands[band].columns.size())
+        return 0;
+    return columnEdges.front() - bands[band].columns[column].left;
+}
+
+} // namespace
+
+AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context) {
+    document::Table table;
+    table.origin = {context.draft.pages[place.page].number, place.box};
+    const std::vector<double>& columns = draft.table.columnEdges;
+    for (std::size_t i = 0; i + 1 < columns.size(); ++i)
+        table.columnWidths.push_back(twipsFromPoints(columns[i + 1] - columns[i]));
+    const std::vector<double>& rows = draft.table.rowEdges;
+    for (std::size_t i = 0; i + 1 < rows.size(); ++i) {
+        document::TableRow row;
+        row.height = twipsFromPoints(rows[i + 1] - rows[i]);
+        row.isHeader = static_cast<int>(i) < draft.table.headerRows;
+        table.rows.push_back(row);
+    }
+    table.indent = twipsFromPoints(indentOf(place, columns, context.draft));
+
+    AssembledBlock assembled;
+    const CellMargins margins = cellMargins(draft, context.fonts, context.parameters.tableCells);
+    for (const DraftCell& cell : draft.cells) {
+        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margins));
+        assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margins.side), context));
+    }
+    assembled.block.value = std::move(table);
+    return assembled;
+}
+
+void fillCells(AssembledBlock& table, const AssemblyContext& context) {
+    auto inside = table.cells.begin();
+    for (document::TableRow& row : std::get<document::Table>(table.block.value).rows) {
+        for (document::TableCell& cell : row.cells) {
+            cell.blocks = finishBlocks(std::move(*inside++), context);
+            // A cell ends with a paragraph, whatever else stands in it.
+            if (cell.blocks.empty() || !std::holds_alternative<document::Paragraph>(cell.blocks.back().value))
+                cell.blocks.push_back(emptyParagraph(context));
+        }
+    }
+}
+
+} // namespace orvane::layout

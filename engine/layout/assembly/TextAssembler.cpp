@@ -1,0 +1,216 @@
+#include "layout/assembly/TextAssembler.h"
+
+#include "layout/paragraphs/HyphenResolver.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+using document::Inline;
+using document::LinkTarget;
+using document::RunProperties;
+
+/// Collects runs, joins those of one look, and puts what belongs to one link into it.
+class InlineBuilder {
+public:
+    void addText(std::string_view text, const RunProperties& properties, const std::optional<LinkTarget>& link) {
+        if (text.empty())
+            return;
+        enterLink(link);
+        std::vector<Inline>& inlines = target();
+        document::Text* last = inlines.empty() ? nullptr : std::get_if<document::Text>(&inlines.back().value);
+        if (last && last->properties == properties)
+            last->text += text;
+        else
+            inlines.push_back({document::Text{std::string(text), properties}});
+    }
+    void add(Inline item, const std::optional<LinkTarget>& link) {
+        enterLink(link);
+        target().push_back(std::move(item));
+    }
+    /// Takes the last character off, a hyphen that joins two lines.
+    void dropLastCharacter() {
+        std::vector<Inline>& inlines = target();
+        document::Text* last = inlines.empty() ? nullptr : std::get_if<document::Text>(&inlines.back().value);
+        if (!last)
+            return;
+        while (!last->text.empty() && (static_cast<unsigned char>(last->text.back()) & 0xC0) == 0x80)
+            last->text.pop_back();
+        if (!last->text.empty())
+            last->text.pop_back();
+        if (last->text.empty())
+            inlines.pop_back();
+    }
+    std::vector<Inline> finish() {
+        enterLink(std::nullopt);
+        return std::move(m_inlines);
+    }
+
+private:
+    std::vector<Inline>& target() { return m_link ? m_linkInlines : m_inlines; }
+    void enterLink(const std::optional<LinkTarget>& link) {
+        const bool isSame = m_link.has_value() == link.has_value() &&
+                            (!link || (m_link->uri == link->uri && m_link->bookmark == link->bookmark));
+        if (isSame)
+            return;
+        if (m_link && !m_linkInlines.empty())
+            m_inlines.push_back({document::Link{*m_link, std::exchange(m_linkInlines, {})}});
+        m_link = link;
+    }
+
+    std::vector<Inline> m_inlines;
+    std::vector<Inline> m_linkInlines;
+    std::optional<LinkTarget> m_link;
+};
+
+/// The look of a blank: decoration reaches over it only when it is on both sides.
+RunProperties blankBetween(const RunProperties& before, const RunProperties& after) {
+    RunProperties blank = before;
+    if (after.underline != before.underline)
+        blank.underline = document::UnderlineKind::None;
+    if (after.highlight != before.highlight)
+        blank.highlight.reset();
+    blank.isStruck = before.isStruck && after.isStruck;
+    if (after.verticalPosition != before.verticalPosition)
+        blank.verticalPosition = document::VerticalPosition::Baseline;
+    return blank;
+}
+
+bool sameTarget(const std::optional<LinkTarget>& a, const std::optional<LinkTarget>& b) {
+    return a && b && a->uri == b->uri && a->bookmark == b->bookmark;
+}
+
+/// Goes through a paragraph's words and keeps what the next one needs to know of the one before.
+class ParagraphReader {
+public:
+    ParagraphReader(const DraftParagraph& paragraph, const AssemblyContext& context)
+        : m_paragraph(paragraph)
+        , m_context(context) {}
+
+    std::vector<Inline> read() {
+        for (const std::string& name : m_paragraph.bookmarks)
+            m_builder.add({document::Bookmark{name}}, std::nullopt);
+        for (const DraftPiece& piece : m_paragraph.pieces)
+            for (std::size_t i = 0; i < piece.text.lines.size(); ++i)
+                readLine(piece, i);
+        return m_builder.finish();
+    }
+
+private:
+    struct Before {
+        RunProperties properties;
+        std::optional<LinkTarget> link;
+        std::string text;
+    };
+
+    void readLine(const DraftPiece& piece, std::size_t index) {
+        const Line& line = piece.text.lines[index];
+        for (std::size_t i = 0; i < line.words.size(); ++i) {
+            if (m_wordCount++ < m_paragraph.labelWords)
+                continue;
+            readWord(piece.page, line.words[i], i == 0 ? Position::StartsLine : Position::WithinLine);
+        }
+        m_isBroken =
+            std::find(piece.text.hardBreaks.begin(), piece.text.hardBreaks.end(), index) != piece.text.hardBreaks.end();
+    }
+
+    enum class Position { StartsLine, WithinLine };
+
+    void readWord(std::size_t page, const Word& word, Position position) {
+        if (word.spans.empty())
+            return;
+        for (std::size_t i = 0; i < word.spans.size(); ++i) {
+            const Span& span = word.spans[i];
+            const RunProperties properties = runProperties(span, page, m_context);
+            const auto link = m_context.links.target(page, span.look.link);
+            if (i == 0 && m_before)
+                separate(word, position, properties, link);
+            if (const auto field = fieldAt(page, span.box))
+                m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
+            else
+                m_builder.addText(span.text, properties, link);
+            m_before = Before{properties, link, {}};
+        }
+        m_before->text = textOf(word);
+    }
+
+    void separate(const Word& word, Position position, const RunProperties& properties,
+                  const std::optional<LinkTarget>& link) {
+        const auto gapLink = sameTarget(m_before->link, link) ? link : std::nullopt;
+        if (position == Position::StartsLine && m_isBroken) {
+            m_builder.add({document::Break{document::BreakKind::Line}}, gapLink);
+            return;
+        }
+        LineJoin join = LineJoin::Blank;
+        if (position == Position::StartsLine)
+            join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary);
+        else if (word.gapBefore == Gap::None)
+            join = LineJoin::Nothing;
+        if (position == Position::WithinLine && word.gapBefore == Gap::Tab)
+            m_builder.add({document::Tab{blankBetween(m_before->properties, properties)}}, gapLink);
+        else if (join == LineJoin::Blank)
+            m_builder.addText(" ", blankBetween(m_before->properties, properties), gapLink);
+        else if (join == LineJoin::DropHyphen)
+            m_builder.dropLastCharacter();
+    }
+
+    /// What counts there by itself, in a running head.
+    std::optional<document::FieldCode> fieldAt(std::size_t page, const Rect& box) const {
+        for (const RunningField& field : m_context.draft.fields[page])
+            if (field.box == box)
+                return field.code;
+        return std::nullopt;
+    }
+
+    const DraftParagraph& m_paragraph;
+    const AssemblyContext& m_context;
+    InlineBuilder m_builder;
+    std::size_t m_wordCount = 0;
+    std::optional<Before> m_before;
+    bool m_isBroken = false;
+};
+
+void setFamilies(RunProperties& run, const Span& span, const MappedFont& font, const FontCatalog& fonts) {
+    const ScriptClass kind = scriptClassOf(span.text);
+    // All three are set, so that a text of mixed scripts is one run and text typed into it later looks like the rest.
+    run.fontFamily = kind == ScriptClass::Simple ? font.family : fonts.mainFamily(ScriptClass::Simple);
+    run.eastAsianFontFamily = kind == ScriptClass::EastAsian ? font.family : fonts.mainFamily(ScriptClass::EastAsian);
+    run.complexFontFamily = kind == ScriptClass::Complex ? font.family : fonts.mainFamily(ScriptClass::Complex);
+    if (run.fontFamily.empty())
+        run.fontFamily = font.family;
+}
+
+} // namespace
+
+RunProperties runProperties(const Span& span, std::size_t page, const AssemblyContext& context) {
+    const Look& look = span.look;
+    RunProperties run;
+    setFamilies(run, span, context.fonts.font(page, look.font), context.fonts);
+    run.size = halfPointsFromPoints(look.size);
+    run.color = look.color;
+    run.highlight = look.highlight;
+    run.underline = look.underline;
+    run.verticalPosition = look.verticalPosition;
+    run.isBold = look.isBold;
+    run.isItalic = look.isItalic;
+    run.isStruck = look.isStruck;
+    run.isSmallCaps = look.isSmallCaps;
+    run.isOutlined = look.isOutlined;
+    if (std::abs(look.horizontalScale - 1) > context.parameters.text.naturalScale)
+        run.widthPercent = static_cast<int>(std::lround(look.horizontalScale * 100));
+    if (context.request.keepCharacterSpacing)
+        run.characterSpacing = twipsFromPoints(look.characterSpacing);
+    return run;
+}
+
+std::vector<Inline> assembleText(const DraftParagraph& paragraph, const AssemblyContext& context) {
+    return ParagraphReader(paragraph, context).read();
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "layout/DocumentContext.h"
+#include "layout/Layout.h"
+#include "layout/assembly/LinkTargets.h"
+#include "layout/fonts/FontCatalog.h"
+#include "layout/structure/DocumentDraft.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// What the assembling of text needs to know beside the text.
+struct AssemblyContext {
+    const DocumentDraft& draft;
+    const DocumentContext& document;
+    const FontCatalog& fonts;
+    const LinkTargets& links;
+    const LayoutRequest& request;
+    const LayoutParameters& parameters;
+};
+
+/// The words of the paragraph as runs of one look each: blanks between words, lines joined (hyphens at their ends
+/// resolved), tabs, breaks made by hand, links, bookmarks. Label words are left out.
+std::vector<document::Inline> assembleText(const DraftParagraph& paragraph, const AssemblyContext& context);
+
+/// How a span's characters look, in the document's words.
+document::RunProperties runProperties(const Span& span, std::size_t page, const AssemblyContext& context);
+
+} // namespace orvane::layout

@@ -1,0 +1,40 @@
+#include "layout/fonts/FontCatalog.h"
+
+#include "layout/structure/DraftWalk.h"
+
+#include <algorithm>
+#include <map>
+
+namespace orvane::layout {
+
+FontCatalog::FontCatalog(const DocumentDraft& draft)
+    : m_unknown(mapFont(pdf::Font{})) {
+    for (const PageLayout& page : draft.pages) {
+        m_fonts.emplace_back();
+        for (const pdf::Font& font : page.fonts)
+            m_fonts.back().push_back(mapFont(font));
+    }
+    std::array<std::map<std::string, std::size_t>, 3> counts;
+    forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {
+        for (const DraftPiece& piece : paragraph.pieces)
+            for (const Line& line : piece.text.lines)
+                for (const Word& word : line.words)
+                    for (const Span& span : word.spans) {
+                        const auto kind = static_cast<std::size_t>(scriptClassOf(span.text));
+                        counts[kind][font(piece.page, span.look.font).family] += span.text.size();
+                    }
+    });
+    for (std::size_t kind = 0; kind < counts.size(); ++kind) {
+        const auto most = std::max_element(counts[kind].begin(), counts[kind].end(),
+                                           [](const auto& a, const auto& b) { return a.second < b.second; });
+        if (most != counts[kind].end())
+            m_main[kind] = most->first;
+    }
+}
+
+const MappedFont& FontCatalog::font(std::size_t page, std::uint32_t font) const {
+    const std::vector<MappedFont>& fonts = m_fonts[page];
+    return font < fonts.size() ? fonts[font] : m_unknown;
+}
+
+} // namespace orvane::layout

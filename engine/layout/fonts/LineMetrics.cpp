@@ -1,0 +1,103 @@
+#include "layout/fonts/LineMetrics.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace orvane::layout {
+namespace {
+
+using document::LineSpacing;
+using document::LineSpacingRule;
+
+/// The middle one of the distances between lines, and the height in single spacing of the lines that these distances
+/// lead to.
+struct Pitch {
+    double distance = 0;
+    double natural = 0;
+    bool isKnown = false;
+};
+
+Pitch pitchOf(const DraftParagraph& paragraph, const FontCatalog& fonts) {
+    std::vector<std::pair<double, double>> steps; // distance, natural height
+    bool isKnown = true;
+    for (const DraftPiece& piece : paragraph.pieces) {
+        const std::vector<Line>& lines = piece.text.lines;
+        for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+            // In single spacing the next baseline is one descent and one ascent away.
+            const LineExtent upper = extentOf(lines[i], piece.page, fonts);
+            const LineExtent lower = extentOf(lines[i + 1], piece.page, fonts);
+            isKnown = isKnown && upper.isKnown && lower.isKnown;
+            steps.emplace_back(lines[i + 1].baseline - lines[i].baseline, upper.descent + lower.ascent);
+        }
+    }
+    if (steps.empty())
+        return {};
+    const auto middle = steps.begin() + static_cast<std::ptrdiff_t>(steps.size() / 2);
+    std::nth_element(steps.begin(), middle, steps.end());
+    return {middle->first, middle->second, isKnown};
+}
+
+/// What people choose from menus and dialogs.
+double tidyMultiple(double multiple, double tolerance) {
+    static constexpr std::array kUsual = {1.0, 1.05, 1.08, 1.1,  1.15, 1.2, 1.25, 1.3, 1.35,
+                                          1.4, 1.5,  1.6,  1.75, 1.8,  2.0, 2.25, 2.5, 3.0};
+    const auto nearest = std::min_element(kUsual.begin(), kUsual.end(), [multiple](double a, double b) {
+        return std::abs(a - multiple) < std::abs(b - multiple);
+    });
+    return std::abs(*nearest - multiple) <= tolerance ? *nearest : multiple;
+}
+
+} // namespace
+
+LineExtent extentOf(const Line& line, std::size_t page, const FontCatalog& fonts) {
+    LineExtent extent{0, 0, true};
+    for (const Word& word : line.words) {
+        for (const Span& span : word.spans) {
+            const MappedFont& font = fonts.font(page, span.look.font);
+            extent.ascent = std::max(extent.ascent, font.ascent * span.look.size);
+            extent.descent = std::max(extent.descent, font.descent * span.look.size);
+            extent.isKnown = extent.isKnown && font.isLineKnown;
+        }
+    }
+    return extent;
+}
+
+LineExtent spacedExtent(const LineExtent& natural, const LineSpacing& spacing) {
+    constexpr double kAscentShare = 0.8;
+    const auto parted = [&](double height) {
+        return LineExtent{kAscentShare * height, (1 - kAscentShare) * height, natural.isKnown};
+    };
+    switch (spacing.rule) {
+    case LineSpacingRule::Exact:
+        return parted(pointsFromTwips(spacing.height));
+    case LineSpacingRule::AtLeast: {
+        const double surplus = std::max(0.0, pointsFromTwips(spacing.height) - natural.height());
+        return {natural.ascent + surplus, natural.descent, natural.isKnown};
+    }
+    case LineSpacingRule::Multiple:
+        break;
+    }
+    if (spacing.multiple < 1)
+        return parted(spacing.multiple * natural.height());
+    return {natural.ascent, natural.descent + (spacing.multiple - 1) * natural.height(), natural.isKnown};
+}
+
+std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
+                                         const LayoutParameters& parameters) {
+    const Pitch pitch = pitchOf(paragraph, fonts);
+    if (pitch.distance <= 0 || pitch.natural <= 0)
+        return std::nullopt;
+    const double multiple = pitch.distance / pitch.natural;
+    const auto& limits = parameters.spacing;
+    const bool isBelievable = multiple >= limits.lowestMultiple && multiple <= limits.highestMultiple;
+    const double tidy = tidyMultiple(multiple, limits.multipleTolerance);
+    // Another multiple than the usual ones tells that the font's lines are not as high as thought, or that the height
+    // was set.
+    if (isBelievable && (pitch.isKnown || tidy != multiple))
+        return LineSpacing{LineSpacingRule::Multiple, tidy, {}};
+    return LineSpacing{LineSpacingRule::Exact, 1.0, twipsFromPoints(pitch.distance)};
+}
+
+} // namespace orvane::layout

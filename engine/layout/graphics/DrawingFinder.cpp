@@ -1,0 +1,199 @@
+#include "layout/graphics/DrawingFinder.h"
+
+#include "layout/tables/CellComponents.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+Rect boxOf(const Rule& rule) {
+    const double half = rule.width / 2;
+    return rule.direction == RuleDirection::Horizontal
+               ? Rect{rule.from, rule.position - half, rule.to, rule.position + half}
+               : Rect{rule.position - half, rule.from, rule.position + half, rule.to};
+}
+
+/// What of a path is seen; empty when nothing is.
+Rect seenBox(const pdf::Path& path, const pdf::PageContent& page) {
+    const bool isPainted = (path.fill && path.fill->opacity > 0) || (path.stroke && path.stroke->opacity > 0);
+    const bool isPaper = !path.stroke && path.fill && path.fill->color == kWhite && !path.fill->isPattern;
+    if (path.visibility != pdf::Visibility::Visible || !isPainted || isPaper)
+        return {};
+    const double half = path.stroke ? std::max(path.stroke->width, 0.2) / 2 : 0;
+    return path.box.inflated(half).intersected(path.clip).intersected({0, 0, page.width, page.height});
+}
+
+class DrawingBuilder {
+public:
+    DrawingBuilder(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
+                   const LayoutParameters::Drawings& limits)
+        : m_page(page)
+        , m_isRuling(isRuling)
+        , m_text(text)
+        , m_limits(limits) {}
+
+    std::vector<Figure> build() {
+        groupPaths();
+        dropSpecks();
+        for (int pass = 0; pass < m_limits.growthPasses && takeRulesAndGrounds(); ++pass) {
+        }
+        uniteOverlapping();
+        for (Figure& drawing : m_drawings)
+            drawing.isBackground = isPageWide(drawing.box) || liesUnderText(drawing.box, m_text.lines, m_limits);
+        useUpRulesAndGrounds();
+        return std::move(m_drawings);
+    }
+
+private:
+    bool isPageWide(const Rect& box) const {
+        return box.area() >= m_limits.backgroundShare * m_page.width * m_page.height;
+    }
+
+    void groupPaths() {
+        CellComponents components(m_page.width, m_page.height, m_limits.gap);
+        std::vector<std::pair<std::size_t, Rect>> seeds;
+        for (std::size_t i = 0; i < m_page.paths.size(); ++i) {
+            const Rect box = m_isRuling[i] ? Rect{} : seenBox(m_page.paths[i], m_page);
+            if (box.isEmpty())
+                continue;
+            if (isPageWide(box)) {
+                m_drawings.push_back(drawingOf(i, box)); // on its own, or it would swallow all others
+                continue;
+            }
+            components.add(box);
+            seeds.emplace_back(i, box);
+        }
+        components.connect();
+        const std::size_t first = m_drawings.size();
+        m_drawings.resize(first + components.count());
+        for (const auto& [path, box] : seeds) {
+            const int component = components.componentAt({box.centerX(), box.centerY()});
+            Figure& drawing = m_drawings[first + static_cast<std::size_t>(component)];
+            if (drawing.paths.empty())
+                drawing = drawingOf(path, box);
+            else
+                drawing.paths.push_back(path);
+            drawing.box = drawing.box.united(box);
+        }
+    }
+
+    void dropSpecks() {
+        std::erase_if(m_drawings, [&](const Figure& drawing) {
+            return std::max(drawing.box.width(), drawing.box.height()) < m_limits.smallest;
+        });
+    }
+
+    Figure drawingOf(std::size_t path, const Rect& box) const {
+        Figure drawing;
+        drawing.box = box;
+        drawing.paths.push_back(path);
+        drawing.paintOrder = m_page.paths[path].paintOrder;
+        drawing.needsPainting = true;
+        return drawing;
+    }
+
+    /// Axes, bars and frames reach a little beyond the shapes they belong to. Returns whether a drawing grew.
+    bool takeRulesAndGrounds() {
+        bool hasGrown = false;
+        const auto take = [&](const Rect& item) {
+            for (Figure& drawing : m_drawings) {
+                if (isPageWide(drawing.box) || drawing.box.contains(item) || !belongs(item, drawing.box))
+                    continue;
+                drawing.box = drawing.box.united(item);
+                hasGrown = true;
+            }
+        };
+        for (const Rule& rule : m_text.rules)
+            if (!rule.isUsed)
+                take(boxOf(rule));
+        for (const Ground& ground : m_text.grounds)
+            if (!ground.isUsed)
+                take(ground.box);
+        return hasGrown;
+    }
+
+    /// Most of the item's length lies beside the drawing, and close to it.
+    bool belongs(const Rect& item, const Rect& drawing) const {
+        const Rect reach = drawing.inflated(m_limits.growth);
+        if (!reach.intersects(item))
+            return false;
+        const Rect inside = item.intersected(reach);
+        return inside.width() >= m_limits.insideShare * item.width() &&
+               inside.height() >= m_limits.insideShare * item.height();
+    }
+
+    void uniteOverlapping() {
+        std::stable_sort(m_drawings.begin(), m_drawings.end(),
+                         [](const Figure& a, const Figure& b) { return a.box.area() > b.box.area(); });
+        std::vector<Figure> united;
+        for (Figure& drawing : m_drawings) {
+            const auto host = std::find_if(united.begin(), united.end(), [&](const Figure& other) {
+                return !isPageWide(other.box) &&
+                       other.box.intersected(drawing.box).area() >= m_limits.overlapShare * drawing.box.area();
+            });
+            if (host == united.end()) {
+                united.push_back(std::move(drawing));
+                continue;
+            }
+            host->box = host->box.united(drawing.box);
+            host->paintOrder = std::min(host->paintOrder, drawing.paintOrder);
+            host->paths.insert(host->paths.end(), drawing.paths.begin(), drawing.paths.end());
+        }
+        m_drawings = std::move(united);
+    }
+
+    void useUpRulesAndGrounds() {
+        for (const Figure& drawing : m_drawings) {
+            if (drawing.isBackground)
+                continue;
+            const Rect area = drawing.box.inflated(m_limits.reach);
+            for (Rule& rule : m_text.rules)
+                rule.isUsed |= area.contains(boxOf(rule));
+            for (Ground& ground : m_text.grounds)
+                ground.isUsed |= area.contains(ground.box);
+        }
+    }
+
+    const pdf::PageContent& m_page;
+    const std::vector<bool>& m_isRuling;
+    PageText& m_text;
+    const LayoutParameters::Drawings& m_limits;
+    std::vector<Figure> m_drawings;
+};
+
+} // namespace
+
+bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const LayoutParameters::Drawings& limits) {
+    return std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
+        return box.contains(Point{line.box.centerX(), line.box.centerY()}) &&
+               line.words.size() >= limits.wordsOfProse && line.box.width() >= limits.proseShare * box.width();
+    });
+}
+
+void labelDrawings(PageText& text) {
+    for (std::size_t i = 0; i < text.figures.size(); ++i) {
+        Figure& drawing = text.figures[i];
+        if (drawing.paths.empty() || drawing.isBackground)
+            continue;
+        std::string words;
+        for (Line& line : text.lines) {
+            if (!drawing.box.contains(Point{line.box.centerX(), line.box.centerY()}))
+                continue;
+            line.figure = static_cast<int>(i);
+            if (!words.empty())
+                words += ' ';
+            words += textOf(line);
+        }
+        if (drawing.alternateText.empty())
+            drawing.alternateText = words;
+    }
+}
+
+std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
+                                 const LayoutParameters& parameters, Diagnostics&) {
+    return DrawingBuilder(page, isRuling, text, parameters.drawings).build();
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "layout/LayoutParameters.h"
+#include "layout/text/PageText.h"
+
+namespace orvane::layout {
+
+/// Finds groups of paths that are drawings: what is neither rule nor ground (curves, slanted lines, odd shapes), with
+/// everything that stands close by, and the rules and grounds within, which are marked as used. A group that lies under
+/// running text is a background. Requires: `isRuling` tells for each path of the page whether it is nothing but rules
+/// and grounds.
+std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
+                                 const LayoutParameters& parameters, Diagnostics& diagnostics);
+
+/// Whether running text lies in `box`, so that what is painted there is a decoration rather than a picture with labels.
+bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const LayoutParameters::Drawings& limits);
+
+/// Tells the lines within a drawing that they are its labels (Line::figure), and lets the drawing say their words to
+/// readers who cannot see it.
+void labelDrawings(PageText& text);
+
+} // namespace orvane::layout

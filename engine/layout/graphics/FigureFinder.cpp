@@ -1,0 +1,126 @@
+#include "layout/graphics/FigureFinder.h"
+
+#include "layout/graphics/DrawingFinder.h"
+#include "layout/support/BoxGroups.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+using pdf::Visibility;
+
+/// The nearest alternate text of the marks around an item.
+std::string alternateTextOf(const pdf::PageContent& page, std::int32_t mark) {
+    for (std::size_t steps = 0; mark >= 0 && steps <= page.marks.size(); ++steps) {
+        if (static_cast<std::size_t>(mark) >= page.marks.size())
+            break;
+        const pdf::Mark& at = page.marks[static_cast<std::size_t>(mark)];
+        if (!at.alternateText.empty())
+            return at.alternateText;
+        mark = at.parent;
+    }
+    return {};
+}
+
+/// How much of the picture's own box the clip cuts away on each side.
+document::Crop cropOf(const Rect& box, const Rect& seen) {
+    return {(seen.left - box.left) / box.width(), (seen.top - box.top) / box.height(),
+            (box.right - seen.right) / box.width(), (box.bottom - seen.bottom) / box.height()};
+}
+
+bool isUpright(const Matrix& matrix) {
+    return matrix.b == 0 && matrix.c == 0 && matrix.a > 0 && matrix.d > 0;
+}
+
+Figure figureOf(const pdf::PageContent& page, const pdf::Picture& picture, const LayoutParameters::Pictures& limits) {
+    Figure figure;
+    const Rect pageBox{0, 0, page.width, page.height};
+    figure.box = picture.box.intersected(picture.clip).intersected(pageBox);
+    figure.picture = picture.id;
+    figure.matrix = picture.matrix;
+    figure.opacity = picture.opacity;
+    figure.paintOrder = picture.paintOrder;
+    figure.alternateText = alternateTextOf(page, picture.mark);
+    if (figure.box.isEmpty())
+        return figure;
+    const document::Crop crop = cropOf(picture.box, figure.box);
+    const bool isCut = std::max({crop.left, crop.top, crop.right, crop.bottom}) > limits.leastCrop;
+    if (isCut && isUpright(picture.matrix))
+        figure.crop = crop;
+    // A turned picture that is cut cannot be told by shares of its sides; nor can one that was not decoded be shown
+    // otherwise.
+    figure.needsPainting = (isCut && !isUpright(picture.matrix)) || picture.id.value == 0;
+    return figure;
+}
+
+bool isWorthShowing(const Figure& figure, const pdf::Picture& picture, const LayoutParameters::Pictures& limits) {
+    return picture.visibility == Visibility::Visible && !figure.box.isEmpty() &&
+           std::max(figure.box.width(), figure.box.height()) >= limits.smallest &&
+           (picture.pixelWidth > 1 || picture.pixelHeight > 1);
+}
+
+/// Pictures that touch each other edge to edge, or lie in each other, as one figure that is painted as a whole.
+std::vector<Figure> joinTiles(std::vector<Figure> figures, const LayoutParameters::Pictures& limits) {
+    BoxGroups groups(limits.tileGap);
+    for (const Figure& figure : figures)
+        groups.add(figure.box);
+    std::vector<Figure> joined;
+    for (const std::vector<std::size_t>& members : groups.groups()) {
+        Figure figure = figures[members.front()];
+        for (const std::size_t member : members) {
+            figure.box = figure.box.united(figures[member].box);
+            figure.paintOrder = std::min(figure.paintOrder, figures[member].paintOrder);
+            if (figure.alternateText.empty())
+                figure.alternateText = figures[member].alternateText;
+        }
+        if (members.size() > 1) {
+            figure.picture = {};
+            figure.needsPainting = true;
+            figure.matrix = {figure.box.width(), 0, 0, figure.box.height(), figure.box.left, figure.box.top};
+            figure.crop = {};
+            figure.opacity = 1;
+        }
+        joined.push_back(std::move(figure));
+    }
+    return joined;
+}
+
+bool coversPage(const Rect& box, const pdf::PageContent& page, const LayoutParameters::Pictures& limits) {
+    return box.area() >= limits.backgroundShare * page.width * page.height;
+}
+
+std::vector<Figure> findPictures(const pdf::PageContent& page, const LayoutParameters::Pictures& limits) {
+    std::vector<Figure> backgrounds, pictures;
+    for (const pdf::Picture& picture : page.pictures) {
+        Figure figure = figureOf(page, picture, limits);
+        if (!isWorthShowing(figure, picture, limits))
+            continue;
+        figure.isBackground = coversPage(figure.box, page, limits);
+        (figure.isBackground ? backgrounds : pictures).push_back(std::move(figure));
+    }
+    pictures = joinTiles(std::move(pictures), limits);
+    for (Figure& figure : pictures)
+        figure.isBackground = coversPage(figure.box, page, limits);
+    pictures.insert(pictures.end(), std::make_move_iterator(backgrounds.begin()),
+                    std::make_move_iterator(backgrounds.end()));
+    return pictures;
+}
+
+} // namespace
+
+void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
+                 const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    text.figures = findPictures(page, parameters.pictures);
+    for (Figure& figure : text.figures)
+        figure.isBackground |= liesUnderText(figure.box, text.lines, parameters.drawings);
+    std::vector<Figure> drawings = findDrawings(page, isRuling, text, parameters, diagnostics);
+    std::move(drawings.begin(), drawings.end(), std::back_inserter(text.figures));
+    std::stable_sort(text.figures.begin(), text.figures.end(),
+                     [](const Figure& a, const Figure& b) { return a.paintOrder < b.paintOrder; });
+    labelDrawings(text);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,143 @@
+#include "layout/graphics/RuleFinder.h"
+
+#include "layout/graphics/PathPieces.h"
+#include "layout/graphics/RuleMerger.h"
+#include "layout/support/CoverageGrid.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+document::BorderKind kindOf(const pdf::StrokeStyle& stroke, const LayoutParameters::Rules& limits) {
+    if (stroke.dash.empty() || std::all_of(stroke.dash.begin(), stroke.dash.end(), [](double d) { return d <= 0; }))
+        return document::BorderKind::Single;
+    return stroke.dash.front() <= limits.dotLength * std::max(stroke.width, limits.thinnest)
+               ? document::BorderKind::Dotted
+               : document::BorderKind::Dashed;
+}
+
+/// Turns the paths of a page into single pieces of rules and into grounds.
+class PathReader {
+public:
+    PathReader(const pdf::PageContent& page, const LayoutParameters::Rules& limits, RuledPage& result)
+        : m_page(page)
+        , m_limits(limits)
+        , m_result(result) {}
+
+    void read() {
+        m_result.isTaken.assign(m_page.paths.size(), false);
+        for (std::size_t i = 0; i < m_page.paths.size(); ++i)
+            if (m_page.paths[i].visibility == pdf::Visibility::Visible)
+                m_result.isTaken[i] = readPath(m_page.paths[i]);
+    }
+
+private:
+    /// False when some part of the path is neither rule nor ground; nothing is taken of it then.
+    bool readPath(const pdf::Path& path) {
+        const std::size_t ruleCount = m_result.rules.size(), groundCount = m_result.grounds.size();
+        const std::vector<Subpath> subpaths = takeApart(path, m_limits.straightness);
+        const bool isWhole = std::all_of(subpaths.begin(), subpaths.end(), [&](const Subpath& subpath) {
+            return (!path.fill || readFill(subpath, path)) && (!path.stroke || readStroke(subpath, path));
+        });
+        if (!isWhole) {
+            m_result.rules.resize(ruleCount);
+            m_result.grounds.resize(groundCount);
+        }
+        return isWhole;
+    }
+
+    bool readFill(const Subpath& subpath, const pdf::Path& path) {
+        if (!subpath.rectangle)
+            return subpath.box.width() <= 0 || subpath.box.height() <= 0;
+        const Rect box = subpath.rectangle->intersected(path.clip);
+        if (box.isEmpty())
+            return true;
+        const double thickness = std::min(box.width(), box.height());
+        const double length = std::max(box.width(), box.height());
+        if (thickness <= m_limits.thickest && length >= m_limits.slenderness * thickness)
+            addRule(box, thickness, path.fill->color, document::BorderKind::Single, path.paintOrder);
+        else
+            m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder});
+        return true;
+    }
+
+    bool readStroke(const Subpath& subpath, const pdf::Path& path) {
+        if (subpath.hasCurves && !subpath.rectangle)
+            return false;
+        const document::BorderKind kind = kindOf(*path.stroke, m_limits);
+        const double width = std::max(path.stroke->width, m_limits.thinnest);
+        for (const PathLine& line : subpath.hasCurves ? sidesOf(*subpath.rectangle) : subpath.lines) {
+            const Rect box{std::min(line.from.x, line.to.x), std::min(line.from.y, line.to.y),
+                           std::max(line.from.x, line.to.x), std::max(line.from.y, line.to.y)};
+            if (std::min(box.width(), box.height()) > m_limits.straightness)
+                return false;
+            const Rect seen = box.intersected(path.clip.inflated(m_limits.straightness));
+            if (seen.right < seen.left || seen.bottom < seen.top)
+                continue;
+            if (width <= m_limits.thickest)
+                addRule(seen, width, path.stroke->color, kind, path.paintOrder);
+            else
+                m_result.grounds.push_back(
+                    {inked(seen, width), path.stroke->color, path.stroke->opacity, false, path.paintOrder});
+        }
+        return true;
+    }
+
+    static std::vector<PathLine> sidesOf(const Rect& box) {
+        return {{{box.left, box.top}, {box.right, box.top}},
+                {{box.right, box.top}, {box.right, box.bottom}},
+                {{box.left, box.bottom}, {box.right, box.bottom}},
+                {{box.left, box.top}, {box.left, box.bottom}}};
+    }
+
+    /// What the stroke of a broad pen covers.
+    static Rect inked(const Rect& line, double width) {
+        return line.width() >= line.height()
+                   ? Rect{line.left, line.centerY() - width / 2, line.right, line.centerY() + width / 2}
+                   : Rect{line.centerX() - width / 2, line.top, line.centerX() + width / 2, line.bottom};
+    }
+
+    void addRule(const Rect& box, double width, Color color, document::BorderKind kind, std::uint32_t paintOrder) {
+        Rule rule;
+        rule.direction = box.width() >= box.height() ? RuleDirection::Horizontal : RuleDirection::Vertical;
+        const bool isHorizontal = rule.direction == RuleDirection::Horizontal;
+        rule.position = isHorizontal ? box.centerY() : box.centerX();
+        rule.from = isHorizontal ? box.left : box.top;
+        rule.to = isHorizontal ? box.right : box.bottom;
+        rule.width = width;
+        rule.color = color;
+        rule.kind = kind;
+        rule.paintOrder = paintOrder;
+        m_result.rules.push_back(rule);
+    }
+
+    const pdf::PageContent& m_page;
+    const LayoutParameters::Rules& m_limits;
+    RuledPage& m_result;
+};
+
+/// White rectangles on the bare page say nothing; on a ground they are one of their own.
+void dropPaper(std::vector<Ground>& grounds, const pdf::PageContent& page, const LayoutParameters::Rules& limits) {
+    CoverageGrid colored(page.width, page.height, limits.coverCell);
+    std::erase_if(grounds, [&](const Ground& ground) {
+        const bool isPaper = ground.opacity <= 0 || (ground.color == kWhite && colored.coveredShare(ground.box) <= 0);
+        if (!isPaper)
+            colored.cover(ground.box);
+        return isPaper;
+    });
+}
+
+} // namespace
+
+RuledPage findRules(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics&) {
+    RuledPage result;
+    PathReader(page, parameters.rules, result).read();
+    std::erase_if(result.rules, [](const Rule& rule) { return rule.color == kWhite; });
+    mergeRules(result.rules, parameters);
+    dropPaper(result.grounds, page, parameters.rules);
+    return result;
+}
+
+} // namespace orvane::layout

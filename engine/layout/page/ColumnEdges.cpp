@@ -1,0 +1,50 @@
+#include "layout/page/ColumnEdges.h"
+
+#include "base/Utf8.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace orvane::layout {
+namespace {
+
+/// An end of a line, growing outwards.
+struct End {
+    double position = 0;
+    double fontSize = 0;
+};
+
+/// The outermost position near which enough lines end.
+double outermostEdge(std::vector<End> ends, const LayoutParameters::Regions& parameters) {
+    std::sort(ends.begin(), ends.end(), [](const End& a, const End& b) { return a.position > b.position; });
+    const auto share = static_cast<std::size_t>(parameters.edgeShare * static_cast<double>(ends.size()));
+    const std::size_t needed = std::clamp<std::size_t>(share, 1, parameters.edgeLines);
+    for (std::size_t i = 0; i + needed < ends.size(); ++i)
+        if (ends[i].position - ends[i + needed].position <= parameters.edgeReach * ends[i].fontSize)
+            return ends[i].position;
+    return ends.front().position;
+}
+
+bool mayHang(char32_t character) {
+    return std::u32string_view(U"、。，．").find(character) != std::u32string_view::npos;
+}
+
+} // namespace
+
+double rightEdgeOf(const Line& line) {
+    const std::u32string last = line.words.empty() ? U"" : utf32FromUtf8(textOf(line.words.back()));
+    return last.empty() || !mayHang(last.back()) ? line.box.right : line.box.right - line.fontSize;
+}
+
+ColumnSpan findColumnEdges(std::span<const Line> lines, const LayoutParameters::Regions& parameters) {
+    std::vector<End> lefts;
+    std::vector<End> rights;
+    for (const Line& line : lines) {
+        lefts.push_back({-line.box.left, line.fontSize});
+        rights.push_back({rightEdgeOf(line), line.fontSize});
+    }
+    return {-outermostEdge(std::move(lefts), parameters), outermostEdge(std::move(rights), parameters)};
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/page/PageLayout.h"
+
+#include <span>
+
+namespace orvane::layout {
+
+/// The edges between which a column's text is set. Lines that stick out on their own do not move them, nor does a full
+/// stop that East Asian text lets hang beyond the edge.
+/// Requires: at least one line.
+ColumnSpan findColumnEdges(std::span<const Line> lines, const LayoutParameters::Regions& parameters);
+
+/// The line's right edge, without East Asian punctuation that may hang beyond the column.
+double rightEdgeOf(const Line& line);
+
+} // namespace orvane::layout

@@ -1,0 +1,187 @@
+#include "layout/page/ColumnGutter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace orvane::layout {
+namespace {
+
+/// A piece of text without a gap that could be a gutter, or a wall.
+struct Piece {
+    Rect box;
+    double fontSize = 0;
+    bool isWall = false;
+};
+
+/// An empty rectangle that reaches down as far as has been read.
+struct Strip {
+    double left;
+    double right;
+    double top;
+};
+
+double medianFontSize(std::span<const Line> lines) {
+    std::vector<double> sizes;
+    for (const Line& line : lines)
+        sizes.push_back(line.fontSize);
+    std::nth_element(sizes.begin(), sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2), sizes.end());
+    return sizes[sizes.size() / 2];
+}
+
+/// Cuts lines at gaps wide enough for a gutter.
+std::vector<Piece> cutIntoPieces(std::span<const Line> lines, std::span<const Rect> walls, double narrowest) {
+    std::vector<Piece> pieces;
+    for (const Rect& wall : walls)
+        pieces.push_back({wall, 0, true});
+    for (const Line& line : lines) {
+        std::vector<const Word*> words;
+        for (const Word& word : line.words)
+            words.push_back(&word);
+        std::sort(words.begin(), words.end(), [](const Word* a, const Word* b) { return a->box.left < b->box.left; });
+        const std::size_t firstOfLine = pieces.size();
+        for (const Word* word : words) {
+            if (pieces.size() == firstOfLine || word->box.left - pieces.back().box.right >= narrowest)
+                pieces.push_back({word->box, line.fontSize, false});
+            else
+                pieces.back().box = pieces.back().box.united(word->box);
+        }
+    }
+    std::sort(pieces.begin(), pieces.end(), [](const Piece& a, const Piece& b) { return a.box.top < b.box.top; });
+    return pieces;
+}
+
+/// Sweeps down over the pieces and collects the empty strips between them, each as high as it gets.
+class StripSweep {
+public:
+    StripSweep(double narrowest, std::size_t limit)
+        : m_narrowest(narrowest)
+        , m_limit(limit) {}
+
+    std::vector<ColumnGutter> run(std::span<const Piece> pieces, const Rect& area) {
+        m_open.push_back({area.left, area.right, area.top});
+        for (const Piece& piece : pieces)
+            pass(piece, area);
+        for (const Strip& strip : m_open)
+            close(strip, area.bottom);
+        return std::move(m_closed);
+    }
+
+private:
+    void pass(const Piece& piece, const Rect& area) {
+        std::vector<Strip> next;
+        for (const Strip& strip : m_open) {
+            if (piece.box.right <= strip.left || piece.box.left >= strip.right) {
+                next.push_back(strip);
+                continue;
+            }
+            close(strip, piece.box.top);
+            addUnlessCovered(next, {strip.left, piece.box.left, strip.top});
+            addUnlessCovered(next, {piece.box.right, strip.right, strip.top});
+        }
+        addUnlessCovered(next, {area.left, area.right, piece.box.bottom});
+        // Strips far beyond what a page of columns needs come from drawings made of letters; the oldest matter most.
+        if (next.size() > m_limit)
+            next.resize(m_limit);
+        m_open = std::move(next);
+    }
+
+    void addUnlessCovered(std::vector<Strip>& strips, const Strip& strip) const {
+        if (strip.right - strip.left < m_narrowest)
+            return;
+        for (const Strip& other : strips)
+            if (other.left <= strip.left && other.right >= strip.right && other.top <= strip.top)
+                return;
+        strips.push_back(strip);
+    }
+
+    void close(const Strip& strip, double bottom) {
+        if (bottom > strip.top)
+            m_closed.push_back({strip.left, strip.right, strip.top, bottom, 0});
+    }
+
+    double m_narrowest;
+    std::size_t m_limit;
+    std::vector<Strip> m_open;
+    std::vector<ColumnGutter> m_closed;
+};
+
+struct Side {
+    int rows = 0;
+    double top = 0;
+    double bottom = 0;
+    double extent = 0;   ///< of its text, across
+    double inkWidth = 0; ///< sum of its pieces' widths
+    double edge = 0;     ///< outermost ink
+    double lastBaseline = -1e9;
+
+    void add(const Piece& piece, double outermost) {
+        const bool isNewRow = piece.box.centerY() > lastBaseline + 0.5 * piece.fontSize;
+        if (rows == 0) {
+            top = piece.box.top;
+            extent = outermost;
+        }
+        extent = std::max(extent, outermost);
+        if (isNewRow) {
+            ++rows;
+            lastBaseline = piece.box.centerY();
+        }
+        inkWidth += piece.box.width();
+        bottom = std::max(bottom, piece.box.bottom);
+    }
+    /// How much of the column its lines cover: prose fills most of it, labels and values do not.
+    double fill() const { return rows > 0 && extent > 0 ? inkWidth / (extent * rows) : 0; }
+    bool isColumn(double fontSize, const LayoutParameters::Regions& parameters) const {
+        return fill() >= parameters.minimumFill && extent >= parameters.minimumColumn * fontSize;
+    }
+};
+
+/// Cuts the strip to where both sides have text, and counts it. False when it parts no columns.
+bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fontSize,
+                 const LayoutParameters::Regions& parameters) {
+    Side left;
+    Side right;
+    for (const Piece& piece : pieces) {
+        if (piece.isWall || piece.box.bottom <= gutter.top || piece.box.top >= gutter.bottom)
+            continue;
+        if (piece.box.right <= gutter.left + 0.01)
+            left.add(piece, gutter.left - piece.box.left);
+        else if (piece.box.left >= gutter.right - 0.01)
+            right.add(piece, piece.box.right - gutter.right);
+    }
+    gutter.rows = std::min(left.rows, right.rows);
+    if (gutter.rows == 0)
+        return false;
+    gutter.top = std::max(left.top, right.top);
+    gutter.bottom = std::min(left.bottom, right.bottom);
+    const bool isNarrow = gutter.right - gutter.left < parameters.wideGutter * fontSize;
+    const int least = isNarrow ? parameters.minimumRowsNarrow : parameters.minimumRows;
+    return gutter.rows >= least && gutter.bottom > gutter.top && left.isColumn(fontSize, parameters) &&
+           right.isColumn(fontSize, parameters);
+}
+
+} // namespace
+
+std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::span<const Rect> walls,
+                                             const LayoutParameters::Regions& parameters) {
+    if (static_cast<int>(lines.size()) < 2)
+        return std::nullopt;
+    const double fontSize = medianFontSize(lines);
+    const double narrowest = parameters.narrowGutter * fontSize;
+    const std::vector<Piece> pieces = cutIntoPieces(lines, walls, narrowest);
+    Rect area;
+    for (const Piece& piece : pieces)
+        area = area.united(piece.box);
+    std::optional<ColumnGutter> best;
+    for (ColumnGutter& gutter : StripSweep(narrowest, parameters.maximumStrips).run(pieces, area)) {
+        if (gutter.left <= area.left || gutter.right >= area.right)
+            continue;
+        if (gutter.bottom - gutter.top < parameters.minimumRows * fontSize)
+            continue;
+        if (weighGutter(gutter, pieces, fontSize, parameters) && (!best || gutter.rows > best->rows))
+            best = gutter;
+    }
+    return best;
+}
+
+} // namespace orvane::layout

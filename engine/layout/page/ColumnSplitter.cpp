@@ -1,0 +1,129 @@
+#include "layout/page/ColumnSplitter.h"
+
+#include "layout/page/ColumnGutter.h"
+#include "layout/page/RowJoiner.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace orvane::layout {
+namespace {
+
+using Kind = PagePart::Kind;
+
+/// Cuts a line at `x`; nothing when all its words are on one side.
+std::optional<std::pair<Line, Line>> cutLine(const Line& line, double x) {
+    std::pair<Line, Line> halves{line, line};
+    halves.first.words.clear();
+    halves.second.words.clear();
+    for (const Word& word : line.words)
+        (word.box.centerX() < x ? halves.first : halves.second).words.push_back(word);
+    if (halves.first.words.empty() || halves.second.words.empty())
+        return std::nullopt;
+    for (Line* half : {&halves.first, &halves.second}) {
+        half->words.front().gapBefore = Gap::None;
+        half->words.front().leaderBefore = document::TabLeader::None;
+        measureAnew(*half);
+    }
+    return halves;
+}
+
+/// Lines of one side that follow on the gutter's first or last row without a break belong to its columns, though
+/// nothing stands beside them: a column may start higher or end lower than its neighbour.
+void extendOverNeighbours(ColumnGutter& gutter, std::span<const Line> lines, double columnStep) {
+    const auto isBesideGutter = [&](const Line& line) {
+        return line.box.right <= gutter.left + 0.01 || line.box.left >= gutter.right - 0.01;
+    };
+    for (const Line& line : lines)
+        if (line.box.centerY() > gutter.bottom) {
+            if (!isBesideGutter(line) || line.box.top - gutter.bottom > columnStep * line.fontSize)
+                break;
+            gutter.bottom = std::max(gutter.bottom, line.box.bottom);
+        }
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line)
+        if (line->box.centerY() < gutter.top) {
+            if (!isBesideGutter(*line) || gutter.top - line->box.bottom > columnStep * line->fontSize)
+                break;
+            gutter.top = std::min(gutter.top, line->box.top);
+        }
+}
+
+/// Adds a part; one of the same kind as its parent gives its children instead: three columns are found as two, one of
+/// which is two.
+void addPart(PagePart& parent, PagePart child) {
+    if (child.kind == parent.kind)
+        std::move(child.parts.begin(), child.parts.end(), std::back_inserter(parent.parts));
+    else
+        parent.parts.push_back(std::move(child));
+}
+
+class ColumnSplitter {
+public:
+    ColumnSplitter(std::span<const Rect> walls, const LayoutParameters& parameters)
+        : m_walls(walls)
+        , m_parameters(parameters) {}
+
+    PagePart split(std::vector<Line> lines, int depth = 0) const {
+        std::optional<ColumnGutter> gutter;
+        if (depth < m_parameters.regions.maximumDepth)
+            gutter = findColumnGutter(lines, m_walls, m_parameters.regions);
+        if (!gutter)
+            return leaf(std::move(lines));
+        extendOverNeighbours(*gutter, lines, m_parameters.regions.columnStep);
+        Pieces pieces = sortLines(lines, *gutter);
+        // Words of uneven height may weigh for a gutter that their lines lie beside.
+        if (pieces.left.empty() || pieces.right.empty())
+            return leaf(std::move(lines));
+        PagePart columns{Kind::Columns, {}, {}};
+        addPart(columns, split(std::move(pieces.left), depth + 1));
+        addPart(columns, split(std::move(pieces.right), depth + 1));
+        if (pieces.above.empty() && pieces.below.empty())
+            return columns;
+        PagePart slices{Kind::Slices, {}, {}};
+        if (!pieces.above.empty())
+            addPart(slices, split(std::move(pieces.above), depth + 1));
+        addPart(slices, std::move(columns));
+        if (!pieces.below.empty())
+            addPart(slices, split(std::move(pieces.below), depth + 1));
+        return slices;
+    }
+
+private:
+    struct Pieces {
+        std::vector<Line> above, left, right, below;
+    };
+
+    PagePart leaf(std::vector<Line> lines) const {
+        return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}};
+    }
+
+    static Pieces sortLines(const std::vector<Line>& lines, const ColumnGutter& gutter) {
+        Pieces pieces;
+        const double middle = (gutter.left + gutter.right) / 2;
+        for (const Line& line : lines) {
+            if (line.box.centerY() < gutter.top) {
+                pieces.above.push_back(line);
+            } else if (line.box.centerY() > gutter.bottom) {
+                pieces.below.push_back(line);
+            } else if (auto halves = cutLine(line, middle)) {
+                pieces.left.push_back(std::move(halves->first));
+                pieces.right.push_back(std::move(halves->second));
+            } else {
+                (line.box.centerX() < middle ? pieces.left : pieces.right).push_back(line);
+            }
+        }
+        return pieces;
+    }
+
+    std::span<const Rect> m_walls;
+    const LayoutParameters& m_parameters;
+};
+
+} // namespace
+
+PagePart splitIntoColumns(std::vector<Line> lines, std::span<const Rect> walls, const LayoutParameters& parameters) {
+    return ColumnSplitter(walls, parameters).split(std::move(lines));
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/text/PageText.h"
+
+#include <span>
+#include <vector>
+
+namespace orvane::layout {
+
+/// A part of the page: lines, or columns side by side, or slices one below the other.
+struct PagePart {
+    enum class Kind : std::uint8_t { Lines, Columns, Slices } kind = Kind::Lines;
+    std::vector<Line> lines;     ///< top to bottom
+    std::vector<PagePart> parts; ///< left to right, or top to bottom
+};
+
+/// Parts lines at the strongest gutter, and what comes out again, until there are no columns left. Lines that lead
+/// across a gutter are cut there; lines side by side that no gutter parts are joined with a tabulator. Requires:
+/// `lines` upright, from top to bottom.
+PagePart splitIntoColumns(std::vector<Line> lines, std::span<const Rect> walls, const LayoutParameters& parameters);
+
+} // namespace orvane::layout

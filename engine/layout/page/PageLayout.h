@@ -1,0 +1,90 @@
+#pragma once
+
+#include "layout/text/PageText.h"
+
+#include <variant>
+#include <vector>
+
+/// One page put in order: blocks in reading order within bands of columns.
+namespace orvane::layout {
+
+/// Lines that form one paragraph on this page.
+struct ParagraphDraft {
+    std::vector<Line> lines;
+    Rect box;
+    document::Alignment alignment = document::Alignment::Start;
+    double indentStart = 0; ///< of the lines after the first, from the column's start edge; points
+    double indentEnd = 0;
+    double firstLine = 0;        ///< relative to indentStart; negative: hanging
+    double leading = 0;          ///< baseline to baseline; of a single line what its font wants
+    bool startsParagraph = true; ///< false: goes on from the column or page before
+    bool endsParagraph = true;   ///< false: its last line is full and the text goes on in the next column or page
+    std::vector<std::size_t> hardBreaks; ///< indices of lines that the author ended by hand
+};
+
+struct PageBlock;
+
+struct CellDraft {
+    int row = 0;
+    int column = 0;
+    int rowSpan = 1;
+    int columnSpan = 1;
+    Rect box;
+    document::Borders borders;
+    std::optional<Color> shading;
+    document::CellAlignment alignment = document::CellAlignment::Top;
+    document::TextDirection direction = document::TextDirection::Horizontal;
+    std::vector<PageBlock> blocks; ///< their positions stay in page space
+};
+
+/// A table on this page. The cells tile the grid without holes or overlaps.
+struct TableDraft {
+    Rect box;
+    std::vector<double> columnEdges; ///< x, ascending; one more than there are columns
+    std::vector<double> rowEdges;    ///< y, ascending; one more than there are rows
+    std::vector<CellDraft> cells;    ///< by row, then column
+    int headerRows = 0;
+    bool isRuled = false;       ///< found by its rules, not by aligned words
+    bool isRightToLeft = false; ///< its rows are read from the right; columns are counted from the left all the same
+};
+
+/// A picture or drawing in its place in the reading order.
+struct FigureDraft {
+    Figure figure;
+    bool isInline = false; ///< stands alone between paragraphs, or within a line; else it floats beside the text
+};
+
+struct PageBlock {
+    std::variant<ParagraphDraft, TableDraft, FigureDraft> value;
+    int band = 0;   ///< index into PageLayout::bands
+    int column = 0; ///< within the band
+};
+
+struct ColumnSpan {
+    double left = 0;
+    double right = 0;
+};
+
+/// A slice of the page from top to bottom in which the columns are the same.
+struct Band {
+    double top = 0;
+    double bottom = 0;
+    std::vector<ColumnSpan> columns; ///< in reading order
+    bool hasSeparator = false;       ///< a vertical rule between columns
+};
+
+/// One page in reading order. Running heads are not among the blocks.
+struct PageLayout {
+    int number = 0;
+    double width = 0;
+    double height = 0;
+    std::vector<pdf::Font> fonts;
+    std::vector<pdf::Link> links;
+    std::vector<pdf::Annotation> annotations;
+    std::vector<pdf::FormField> fields;
+    std::vector<pdf::Mark> marks;
+    std::vector<Band> bands;
+    std::vector<PageBlock> blocks;
+};
+
+} // namespace orvane::layout

@@ -1,0 +1,70 @@
+#include "layout/page/ReadingOrder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+namespace orvane::layout {
+namespace {
+
+double distance(double a0, double a1, double b0, double b1) {
+    return std::max({0.0, b0 - a1, a0 - b1});
+}
+
+/// How badly an object fits into a region: first by height on the page, then across.
+std::tuple<double, double, double> misfit(const Rect& box, const Region& region) {
+    return {std::round(distance(box.top, box.bottom, region.box.top, region.box.bottom)),
+            distance(box.left, box.right, region.span.left, region.span.right),
+            -overlap(box.left, box.right, region.span.left, region.span.right)};
+}
+
+std::size_t nearestRegion(const Rect& box, const PageRegions& page) {
+    std::size_t best = 0;
+    for (std::size_t i = 1; i < page.regions.size(); ++i)
+        if (misfit(box, page.regions[i]) < misfit(box, page.regions[best]))
+            best = i;
+    return best;
+}
+
+ObjectPlace placeOne(const Rect& box, std::size_t object, const PageRegions& page,
+                     const LayoutParameters::ReadingOrder& parameters) {
+    ObjectPlace place{object, page.regions.size(), 0, true};
+    if (page.regions.empty())
+        return place;
+    place.region = nearestRegion(box, page);
+    const std::vector<Line>& lines = page.regions[place.region].lines;
+    for (const Line& line : lines) {
+        const double beside = overlap(box.top, box.bottom, line.box.top, line.box.bottom);
+        if (beside > parameters.besideShare * std::min(line.box.height(), box.height()))
+            place.standsAlone = false;
+    }
+    // Text that flows around the object follows it; of a line that merely touches it, the middles tell which comes
+    // first.
+    while (place.beforeLine < lines.size()) {
+        const Rect& line = lines[place.beforeLine].box;
+        if (place.standsAlone ? line.centerY() > box.centerY() : line.centerY() > box.top)
+            break;
+        ++place.beforeLine;
+    }
+    return place;
+}
+
+} // namespace
+
+std::vector<ObjectPlace> placeObjects(std::span<const PageObject> objects, const PageRegions& page,
+                                      const LayoutParameters& parameters) {
+    std::vector<ObjectPlace> places;
+    places.reserve(objects.size());
+    for (std::size_t i = 0; i < objects.size(); ++i)
+        places.push_back(placeOne(objects[i].box, i, page, parameters.readingOrder));
+    const auto key = [&](const ObjectPlace& place) {
+        const PageObject& object = objects[place.object];
+        return std::tuple(place.region, place.beforeLine, std::round(object.box.top), object.box.left,
+                          object.paintOrder);
+    };
+    std::stable_sort(places.begin(), places.end(),
+                     [&](const ObjectPlace& a, const ObjectPlace& b) { return key(a) < key(b); });
+    return places;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,116 @@
+#include "layout/page/RegionFinder.h"
+
+#include "layout/page/ColumnEdges.h"
+#include "layout/page/ColumnSplitter.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// Turns the tree of parts into the flat list of regions.
+class Flattener {
+public:
+    Flattener(const DocumentContext& context, const LayoutParameters::Regions& parameters)
+        : m_context(context)
+        , m_parameters(parameters) {}
+
+    PageRegions run(PagePart page) {
+        if (page.kind == PagePart::Kind::Slices)
+            for (PagePart& slice : page.parts)
+                addBand(std::move(slice));
+        else
+            addBand(std::move(page));
+        return std::move(m_result);
+    }
+
+private:
+    void addBand(PagePart slice) {
+        std::vector<PagePart> columns;
+        if (slice.kind == PagePart::Kind::Columns)
+            columns = std::move(slice.parts);
+        else
+            columns.push_back(std::move(slice));
+        Band band;
+        band.top = 1e9;
+        const std::size_t first = m_result.regions.size();
+        if (isRightToLeft(columns))
+            std::reverse(columns.begin(), columns.end());
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            const std::size_t firstOfColumn = m_result.regions.size();
+            addRegions(std::move(columns[i]), static_cast<int>(i));
+            std::vector<Line> lines;
+            for (std::size_t r = firstOfColumn; r < m_result.regions.size(); ++r) {
+                const Region& region = m_result.regions[r];
+                lines.insert(lines.end(), region.lines.begin(), region.lines.end());
+                band.top = std::min(band.top, region.box.top);
+                band.bottom = std::max(band.bottom, region.box.bottom);
+            }
+            band.columns.push_back(findColumnEdges(lines, m_parameters));
+        }
+        if (band.columns.size() == 1)
+            widenToTextArea(band.columns[0]);
+        for (std::size_t r = first; r < m_result.regions.size(); ++r) {
+            Region& region = m_result.regions[r];
+            if (region.span.left > region.span.right)
+                region.span = band.columns[static_cast<std::size_t>(region.column)];
+        }
+        m_result.bands.push_back(std::move(band));
+    }
+
+    void addRegions(PagePart part, int column) {
+        if (part.kind != PagePart::Kind::Lines) {
+            const std::size_t first = m_result.regions.size();
+            for (PagePart& child : part.parts)
+                addRegions(std::move(child), column);
+            // Columns within a column keep their own edges; slices share those of the column.
+            for (std::size_t r = first; part.kind == PagePart::Kind::Columns && r < m_result.regions.size(); ++r)
+                m_result.regions[r].span = findColumnEdges(m_result.regions[r].lines, m_parameters);
+            return;
+        }
+        Region region;
+        region.band = static_cast<int>(m_result.bands.size());
+        region.column = column;
+        region.span = {1e9, -1e9};
+        for (const Line& line : part.lines)
+            region.box = region.box.united(line.box);
+        region.lines = std::move(part.lines);
+        m_result.regions.push_back(std::move(region));
+    }
+
+    /// A single column has the document's text edges, though this page's lines may all be short.
+    void widenToTextArea(ColumnSpan& span) const {
+        const Rect& area = m_context.textArea;
+        if (area.isEmpty())
+            return;
+        span = {std::min(span.left, area.left), std::max(span.right, area.right)};
+    }
+
+    bool isRightToLeft(std::span<const PagePart> columns) const {
+        std::size_t lines = 0;
+        std::size_t rightToLeft = 0;
+        for (const PagePart& part : columns)
+            for (const Line& line : part.lines) {
+                ++lines;
+                rightToLeft += line.isRightToLeft ? 1 : 0;
+            }
+        return lines > 0 ? 2 * rightToLeft > lines : m_context.isRightToLeft;
+    }
+
+    const DocumentContext& m_context;
+    const LayoutParameters::Regions& m_parameters;
+    PageRegions m_result;
+};
+
+} // namespace
+
+PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, const DocumentContext& context,
+                        const LayoutParameters& parameters) {
+    if (lines.empty())
+        return {};
+    std::stable_sort(lines.begin(), lines.end(),
+                     [](const Line& a, const Line& b) { return a.box.centerY() < b.box.centerY(); });
+    return Flattener(context, parameters.regions).run(splitIntoColumns(std::move(lines), walls, parameters));
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "layout/DocumentContext.h"
+#include "layout/LayoutParameters.h"
+#include "layout/page/PageLayout.h"
+
+#include <span>
+#include <vector>
+
+namespace orvane::layout {
+
+/// Lines that belong under each other, with the column they stand in.
+struct Region {
+    int band = 0;
+    int column = 0;
+    ColumnSpan span;         ///< the text's edges
+    Rect box;                ///< around its lines
+    std::vector<Line> lines; ///< top to bottom
+};
+
+struct PageRegions {
+    std::vector<Band> bands;     ///< top to bottom
+    std::vector<Region> regions; ///< in reading order
+};
+
+/// Parts upright lines into bands of columns. Lines that lead across a gutter are cut there. `walls` are tables and
+/// pictures, which no gutter crosses.
+PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, const DocumentContext& context,
+                        const LayoutParameters& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,83 @@
+#include "layout/paragraphs/HyphenResolver.h"
+
+#include "base/Utf8.h"
+#include "layout/text/LineText.h"
+
+#include <unicode/uchar.h>
+
+namespace orvane::layout {
+namespace {
+
+constexpr char32_t kSoftHyphen = U'\u00AD';
+
+bool isLetter(char32_t character) {
+    return u_isalpha(static_cast<UChar32>(character));
+}
+bool isLower(char32_t character) {
+    return u_islower(static_cast<UChar32>(character));
+}
+
+std::u32string lowerCase(std::u32string text) {
+    for (char32_t& character : text)
+        character = static_cast<char32_t>(u_tolower(static_cast<UChar32>(character)));
+    return text;
+}
+
+/// The word without brackets, quotes and full stops around it.
+std::u32string_view core(std::u32string_view word) {
+    while (!word.empty() && !isLetter(word.front()))
+        word.remove_prefix(1);
+    while (!word.empty() && !isLetter(word.back()))
+        word.remove_suffix(1);
+    return word;
+}
+
+bool knows(const std::unordered_set<std::string>& vocabulary, const std::u32string& word) {
+    return vocabulary.contains(utf8FromUtf32(lowerCase(word)));
+}
+
+/// A hyphen between letters at the end of a line: of the line, or of the word?
+LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
+                       const std::unordered_set<std::string>& vocabulary) {
+    std::u32string_view stem = last;
+    stem.remove_suffix(1);
+    const std::u32string_view head = core(stem);
+    const std::u32string_view tail = core(next);
+    if (tail.empty() || !isLetter(next[0]))
+        return LineJoin::Nothing; // "COVID-" and "19", a range of numbers
+    if (knows(vocabulary, std::u32string(head) + U"-" + std::u32string(tail)))
+        return LineJoin::Nothing;
+    if (knows(vocabulary, std::u32string(head) + std::u32string(tail)))
+        return LineJoin::DropHyphen;
+    // "Nord-" "Ostsee", "E-" "Mail", "X-" "ray", "e-" "mail": compounds.
+    if (!isLower(next[0]) || head.size() < 2 || !isLower(head.back()) || head.find(U'-') != std::u32string_view::npos)
+        return LineJoin::Nothing;
+    const bool bothAreWords = knows(vocabulary, std::u32string(head)) && knows(vocabulary, std::u32string(tail));
+    return bothAreWords ? LineJoin::Nothing : LineJoin::DropHyphen;
+}
+
+} // namespace
+
+LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
+                        const std::unordered_set<std::string>& vocabulary) {
+    const std::u32string last = utf32FromUtf8(lastWord);
+    const std::u32string next = utf32FromUtf8(nextWord);
+    if (last.empty() || next.empty())
+        return LineJoin::Nothing;
+    if (isWithoutBlanks(last.back()) && isWithoutBlanks(next[0]))
+        return LineJoin::Nothing;
+    if (last.size() < 2)
+        return LineJoin::Blank;
+    const char32_t end = last.back();
+    const char32_t before = last[last.size() - 2];
+    if (end == kSoftHyphen)
+        return LineJoin::DropHyphen;
+    if ((end == U'-' || end == U'\u2010') && isLetter(before))
+        return resolveHyphen(last, next, vocabulary);
+    // A dash set without blanks: "word-dash" "word".
+    if (end == U'-' || end == U'\u2014')
+        return LineJoin::Nothing;
+    return LineJoin::Blank;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/page/PageLayout.h"
+#include "layout/paragraphs/ListMarker.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace orvane::layout {
+
+/// What lies around the lines of a column.
+struct ParagraphContext {
+    double bodyFontSize = 11;
+    double bodyLeading = 13.4;
+    std::span<const pdf::Font> fonts = {}; ///< of the page
+    std::span<const Rect> obstacles = {};  ///< what floats in the column: lines beside it are shorter
+};
+
+/// How one line stands in its column. Start and end follow the line's direction. Units: points.
+struct LineMeasure {
+    double startGap = 0; ///< from the column's start edge to the text
+    double endGap = 0;   ///< from the text to the column's end edge
+    double width = 0;
+    double blank = 0;     ///< a natural blank behind its last word
+    double firstUnit = 0; ///< width of its first word, up to the first place where it may be broken
+    double meanGap = 0;   ///< mean width of the blanks between its words; 0 without any
+    double textStart = 0; ///< start gap of the text behind the marker; startGap without one
+    std::optional<ListMarker> marker;
+    bool startsBold = false; ///< its first word is bold
+    bool endsBold = false;   ///< its last word is bold
+    double smallestSize = 0; ///< font sizes on the line
+    double largestSize = 0;
+    bool isBold = false;            ///< every word is
+    bool hasLeader = false;         ///< dots between words, as in a table of contents
+    std::optional<double> tabStart; ///< start gap of the text behind its last tabulator
+    bool endsWithHyphen = false;
+    bool endsWithoutBlanks = false; ///< its last character needs no blank behind it
+    bool startsWithoutBlanks = false;
+    bool startsLowerCase = false;
+};
+
+/// Measures lines against their column.
+std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan column, const ParagraphContext& context,
+                                      const LayoutParameters& parameters);
+
+/// True when the first word of `next` would have had room in `free` points behind the last word of `before`.
+bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double free, double slack);
+
+} // namespace orvane::layout

@@ -1,0 +1,241 @@
+#include "layout/paragraphs/ParagraphBreaks.h"
+
+#include "layout/paragraphs/JustifiedLines.h"
+#include "layout/paragraphs/NaturalLeading.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+/// Walks down the lines of a column, with the paragraph that began at `m_first` growing until a line does not belong to
+/// it.
+class BreakFinder {
+public:
+    BreakFinder(std::span<const Line> lines, std::span<const LineMeasure> measures, const ParagraphContext& context,
+                const LayoutParameters::Paragraphs& parameters)
+        : m_lines(lines)
+        , m_measures(measures)
+        , m_parameters(parameters)
+        , m_leading(lines, measures, context, parameters)
+        , m_justified(lines, measures, parameters) {}
+
+    std::vector<BreakReason> run() {
+        std::vector<BreakReason> reasons;
+        for (std::size_t next = 0; next < m_lines.size(); ++next) {
+            const BreakReason reason = next == 0 ? BreakReason::First : reasonAt(next);
+            if (reason != BreakReason::None)
+                m_first = next;
+            else
+                m_lastHang = m_measures[next].startGap - m_measures[m_first].startGap;
+            reasons.push_back(reason);
+        }
+        return reasons;
+    }
+
+private:
+    BreakReason reasonAt(std::size_t next) const {
+        if (standsElsewhere(next))
+            return BreakReason::Position;
+        if (isListItem(next))
+            return BreakReason::Marker;
+        if (hasSpaceAbove(next))
+            return BreakReason::Leading;
+        if (looksDifferent(next))
+            return BreakReason::Look;
+        if (isContentsRow(next))
+            return BreakReason::Leader;
+        if (isRowLikeTheOneAbove(next))
+            return BreakReason::Row;
+        if (isOtherwiseIndented(next))
+            return BreakReason::Indent;
+        if (wouldFitAbove(next))
+            return BreakReason::Fitted;
+        if (followsShortLine(next))
+            return BreakReason::ShortLine;
+        return BreakReason::None;
+    }
+
+    bool standsElsewhere(std::size_t next) const {
+        const Line& a = m_lines[next - 1];
+        const Line& b = m_lines[next];
+        return a.angle != b.angle || a.isVertical != b.isVertical || a.isRightToLeft != b.isRightToLeft ||
+               (!a.isVertical && a.angle == 0 && b.baseline - a.baseline < m_parameters.sameRow * a.fontSize);
+    }
+
+    bool isListItem(std::size_t next) const {
+        const LineMeasure& line = m_measures[next];
+        if (!line.marker)
+            return false;
+        const bool standsOut =
+            line.marker->kind == MarkerKind::Bullet || line.marker->isSeparated || !line.marker->isWholeWord;
+        if (standsOut && !line.hasLeader)
+            return true;
+        const LineMeasure& first = m_measures[m_first];
+        if (first.marker && isSuccessor(*first.marker, *line.marker) && sameEdge(first.startGap, line.startGap, next))
+            return true;
+        // A number by chance at the start of a line stands at the edge of its paragraph, and the next line below it.
+        const bool hangs = next + 1 < m_lines.size() && line.textStart > line.startGap &&
+                           sameEdge(m_measures[next + 1].startGap, line.textStart, next) &&
+                           !sameEdge(m_measures[next + 1].startGap, line.startGap, next);
+        return hangs && !sameEdge(line.startGap, bodyStart(next), next);
+    }
+
+    bool hasSpaceAbove(std::size_t next) const {
+        const double size = std::max(m_lines[next].fontSize, m_lines[next - 1].fontSize);
+        const double distance = distanceAbove(next);
+        if (distance > m_parameters.maximumLeading * size)
+            return true;
+        // What the paragraph did so far is the best witness, then the line below, then the rest of the column.
+        if (next - m_first >= 2) {
+            const double usual =
+                (m_lines[next - 1].baseline - m_lines[m_first].baseline) / static_cast<double>(next - 1 - m_first);
+            return distance > m_parameters.leadingTolerance * usual;
+        }
+        return !runsOnAtSameDistance(next, distance) && !m_leading.allows(size, distance);
+    }
+
+    /// The line below runs on of itself, and is as far from `next` as this is from the line above.
+    bool runsOnAtSameDistance(std::size_t next, double distance) const {
+        const std::size_t below = next + 1;
+        if (below >= m_lines.size() || m_measures[below].marker || standsElsewhere(below) || looksDifferent(below))
+            return false;
+        const double other = distanceAbove(below);
+        return std::max(distance, other) <= m_parameters.equalLeading * std::min(distance, other) &&
+               !wouldHaveFitted(m_measures[next], m_measures[below], m_measures[next].endGap,
+                                m_parameters.fitSlack * m_lines[next].fontSize);
+    }
+
+    /// Whole lines of another size or weight. A line of both looks, or a bold passage that goes on, is no change.
+    bool looksDifferent(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        if (above.smallestSize > m_parameters.sizeChange * line.largestSize ||
+            line.smallestSize > m_parameters.sizeChange * above.largestSize)
+            return true;
+        return above.endsBold != line.startsBold && (isBoldSoFar(next) || line.isBold);
+    }
+
+    bool isBoldSoFar(std::size_t next) const {
+        return std::all_of(m_measures.begin() + static_cast<std::ptrdiff_t>(m_first),
+                           m_measures.begin() + static_cast<std::ptrdiff_t>(next),
+                           [](const LineMeasure& line) { return line.isBold; });
+    }
+
+    bool isContentsRow(std::size_t next) const { return m_measures[next - 1].hasLeader; }
+
+    bool isRowLikeTheOneAbove(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        return above.tabStart && line.tabStart && sameEdge(*above.tabStart, *line.tabStart, next);
+    }
+
+    bool isOtherwiseIndented(std::size_t next) const {
+        if (pairAlignment(next) != PairAlignment::Start)
+            return false;
+        const LineMeasure& line = m_measures[next];
+        const LineMeasure& first = m_measures[m_first];
+        if (next - m_first >= 2)
+            return !sameEdge(line.startGap, m_measures[next - 1].startGap, next);
+        const double step = line.startGap - first.startGap;
+        if (std::abs(step) <= tolerance(next))
+            return false;
+        if (step < 0)
+            return -step > m_parameters.maximumFirstLine * m_lines[next].fontSize;
+        if (first.marker && sameEdge(line.startGap, first.textStart, next))
+            return false;
+        // A step to the right hangs below the first line when more lines follow at that edge; else it is a new first
+        // line.
+        if (step > m_parameters.maximumFirstLine * m_lines[next].fontSize)
+            return true;
+        const bool hangsOn = next + 1 < m_lines.size() && sameEdge(m_measures[next + 1].startGap, line.startGap, next);
+        return !hangsOn && !sameEdge(step, m_lastHang, next);
+    }
+
+    bool wouldFitAbove(std::size_t next) const {
+        const LineMeasure& before = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        if (before.endsWithHyphen && line.startsLowerCase)
+            return false;
+        double free = before.endGap;
+        switch (pairAlignment(next)) {
+        case PairAlignment::Start:
+            break;
+        case PairAlignment::Center:
+            free = before.startGap + before.endGap;
+            break;
+        case PairAlignment::End:
+            free = before.startGap;
+            break;
+        }
+        return wouldHaveFitted(before, line, free, m_parameters.fitSlack * m_lines[next].fontSize);
+    }
+
+    /// In justified text only a paragraph's last line ends before the edge.
+    bool followsShortLine(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
+        const double flush = m_parameters.flushTolerance * m_lines[next].fontSize;
+        if (above.endGap <= 2 * flush || above.meanGap > m_parameters.stretchedGap * above.blank)
+            return false;
+        if (static_cast<int>(next - 1 - m_first) < m_parameters.flushLines)
+            return m_justified.isJustified(above.startGap, m_lines[next - 1].fontSize);
+        for (std::size_t i = m_first; i + 1 < next; ++i)
+            if (std::abs(m_measures[i].endGap) > flush)
+                return false;
+        return true;
+    }
+
+    double bodyStart(std::size_t next) const {
+        return next - m_first >= 2 ? m_measures[next - 1].startGap : m_measures[m_first].textStart;
+    }
+    PairAlignment pairAlignment(std::size_t next) const {
+        const PairAlignment alignment =
+            alignmentOfPair(m_measures[next - 1], m_measures[next], m_lines[next].fontSize, m_parameters);
+        // A full line with its first line's indent, and the line below it: the third line shows that their starts
+        // count.
+        const bool startsCount =
+            next + 1 < m_lines.size() && sameEdge(m_measures[next].startGap, m_measures[next + 1].startGap, next);
+        return alignment == PairAlignment::End && startsCount ? PairAlignment::Start : alignment;
+    }
+    double distanceAbove(std::size_t next) const { return m_lines[next].baseline - m_lines[next - 1].baseline; }
+    double tolerance(std::size_t next) const { return m_parameters.edgeTolerance * m_lines[next].fontSize; }
+    bool sameEdge(double a, double b, std::size_t next) const { return std::abs(a - b) <= tolerance(next); }
+
+    std::span<const Line> m_lines;
+    std::span<const LineMeasure> m_measures;
+    const LayoutParameters::Paragraphs& m_parameters;
+    NaturalLeading m_leading;
+    JustifiedLines m_justified;
+    std::size_t m_first = 0;
+    double m_lastHang = 0; ///< how far the lines of the last paragraph with several stand behind its first
+};
+
+} // namespace
+
+PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next, double fontSize,
+                              const LayoutParameters::Paragraphs& parameters) {
+    const double tolerance = parameters.edgeTolerance * fontSize;
+    const double indent = parameters.minimumCenterIndent * fontSize;
+    if (std::abs(before.startGap - next.startGap) <= tolerance)
+        return PairAlignment::Start;
+    const auto isCentered = [&](const LineMeasure& line) {
+        return std::abs(line.startGap - line.endGap) <= 2 * tolerance;
+    };
+    if (isCentered(before) && isCentered(next))
+        return PairAlignment::Center;
+    const auto isAtEnd = [&](const LineMeasure& line) {
+        return std::abs(line.endGap) <= tolerance &&
+               line.startGap > std::max(indent, parameters.endAligned * line.width);
+    };
+    if (isAtEnd(before) && isAtEnd(next))
+        return PairAlignment::End;
+    return PairAlignment::Start;
+}
+
+std::vector<BreakReason> findBreaks(std::span<const Line> lines, std::span<const LineMeasure> measures,
+                                    const ParagraphContext& context, const LayoutParameters& parameters) {
+    return BreakFinder(lines, measures, context, parameters.paragraphs).run();
+}
+
+} // namespace orvane::layout

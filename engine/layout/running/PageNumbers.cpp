@@ -1,0 +1,120 @@
+#include "layout/running/PageNumbers.h"
+
+#include "base/Utf8.h"
+#include "layout/support/Tally.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// Votes for the page number of page `index` from rows that count together with rows of pages nearby.
+void voteForNumber(const std::vector<EdgeRows>& edges, std::size_t index, Tally<PageNumber>& votes) {
+    for (std::ptrdiff_t by = -kRunningReach; by <= kRunningReach; ++by) {
+        const auto other = static_cast<std::ptrdiff_t>(index) + by;
+        if (by == 0 || other < 0 || other >= static_cast<std::ptrdiff_t>(edges.size()))
+            continue;
+        const EdgeRows& here = edges[index];
+        const EdgeRows& there = edges[static_cast<std::size_t>(other)];
+        for (std::size_t i = 0; i < here.taken; ++i) {
+            for (std::size_t j = 0; j < there.taken; ++j) {
+                if (std::abs(here.rows[i].fromEdge - there.rows[j].fromEdge) > here.rows[i].fontSize)
+                    continue;
+                for (const std::size_t number : countingNumbers(here.rows[i], there.rows[j], static_cast<int>(by)))
+                    votes.add({here.rows[i].numbers[number].value, here.rows[i].numbers[number].format});
+            }
+        }
+    }
+}
+
+/// Cuts characters `from` to `from + length` of a word out of its spans and returns the index of the span they now are;
+/// the word's number of spans when they lie in several spans.
+std::size_t isolate(Word& word, std::size_t from, std::size_t length) {
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < word.spans.size(); ++i) {
+        const std::u32string text = utf32FromUtf8(word.spans[i].text);
+        if (from >= start + text.size()) {
+            start += text.size();
+            continue;
+        }
+        const std::size_t begin = from - start, end = begin + length;
+        if (end > text.size())
+            break;
+        const Span whole = word.spans[i];
+        const auto part = [&](std::size_t a, std::size_t b) {
+            Span span = whole;
+            span.text = utf8FromUtf32(std::u32string_view(text).substr(a, b - a));
+            const double width = whole.box.width() / static_cast<double>(text.size());
+            span.box.left = whole.box.left + width * static_cast<double>(a);
+            span.box.right = whole.box.left + width * static_cast<double>(b);
+            return span;
+        };
+        std::vector<Span> parts;
+        if (begin > 0)
+            parts.push_back(part(0, begin));
+        const std::size_t isolated = i + parts.size();
+        parts.push_back(part(begin, end));
+        if (end < text.size())
+            parts.push_back(part(end, text.size()));
+        word.spans.erase(word.spans.begin() + static_cast<std::ptrdiff_t>(i));
+        word.spans.insert(word.spans.begin() + static_cast<std::ptrdiff_t>(i), parts.begin(), parts.end());
+        return isolated;
+    }
+    return word.spans.size();
+}
+
+/// What a row's numbers stand for.
+std::vector<std::optional<document::FieldCode>> meaningsOf(const RunningRow& row,
+                                                           const std::optional<PageNumber>& number, int lastNumber) {
+    std::vector<std::optional<document::FieldCode>> meanings(row.numbers.size());
+    bool hasPage = false;
+    for (std::size_t i = 0; number && i < row.numbers.size(); ++i) {
+        const RowNumber& candidate = row.numbers[i];
+        if (!hasPage && candidate.value == number->value && candidate.format == number->format) {
+            meanings[i] = document::FieldCode::Page;
+            hasPage = true;
+        } else if (i > 0 && meanings[i - 1] == document::FieldCode::Page && candidate.value >= lastNumber &&
+                   row.numbers[i - 1].line == candidate.line && candidate.word <= row.numbers[i - 1].word + 2) {
+            // "3 / 12", "page 3 of 12"
+            meanings[i] = document::FieldCode::PageCount;
+        }
+    }
+    return meanings;
+}
+
+} // namespace
+
+std::vector<std::optional<PageNumber>> readPageNumbers(const std::vector<EdgeRows>& tops,
+                                                       const std::vector<EdgeRows>& bottoms) {
+    std::vector<std::optional<PageNumber>> numbers(tops.size());
+    for (std::size_t i = 0; i < tops.size(); ++i) {
+        Tally<PageNumber> votes;
+        voteForNumber(tops, i, votes);
+        voteForNumber(bottoms, i, votes);
+        if (const PageNumber* most = votes.heaviest())
+            numbers[i] = *most;
+    }
+    return numbers;
+}
+
+std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,
+                                        int lastNumber) {
+    std::vector<RunningField> fields;
+    for (std::size_t r = 0; r < rows.taken; ++r) {
+        const RunningRow& row = rows.rows[r];
+        const auto meanings = meaningsOf(row, number, lastNumber);
+        // From the last to the first, so that characters of one word are cut off from its end.
+        for (std::size_t i = meanings.size(); i-- > 0;) {
+            if (!meanings[i])
+                continue;
+            Word& word = page.lines[row.numbers[i].line].words[row.numbers[i].word];
+            const std::size_t span = isolate(word, row.numbers[i].from, row.numbers[i].length);
+            if (span < word.spans.size())
+                fields.push_back({*meanings[i], word.spans[span].box});
+        }
+    }
+    return fields;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "layout/running/EdgeRows.h"
+
+#include <optional>
+#include <vector>
+
+namespace orvane::layout {
+
+/// The page number that is printed on a page.
+struct PageNumber {
+    int value = 0;
+    document::NumberFormat format = document::NumberFormat::Decimal;
+
+    bool operator==(const PageNumber&) const = default;
+};
+
+/// A number in a running head that a word processor counts by itself.
+struct RunningField {
+    document::FieldCode code = document::FieldCode::Page;
+    Rect box; ///< of the one span that shows it
+};
+
+/// Reads the page numbers from the rows that are running heads; nullopt for a page that shows none.
+std::vector<std::optional<PageNumber>> readPageNumbers(const std::vector<EdgeRows>& tops,
+                                                       const std::vector<EdgeRows>& bottoms);
+
+/// Makes each page number, and each number of pages, in the rows taken a span of its own.
+/// Requires: `rows` are of that page, whose lines have not been moved since.
+std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,
+                                        int lastNumber);
+
+} // namespace orvane::layout

@@ -1,0 +1,70 @@
+#include "layout/running/RepeatedFigures.h"
+
+#include "layout/running/EdgeRows.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace orvane::layout {
+namespace {
+
+bool isSamePlace(const Rect& a, const Rect& b, double tolerance) {
+    return std::abs(a.left - b.left) <= tolerance && std::abs(a.top - b.top) <= tolerance &&
+           std::abs(a.right - b.right) <= tolerance && std::abs(a.bottom - b.bottom) <= tolerance;
+}
+
+class FigureComparer {
+public:
+    FigureComparer(const std::vector<PageText>& pages, const LayoutParameters::RunningHeads& limits)
+        : m_pages(pages)
+        , m_limits(limits) {}
+
+    bool isOnPage(std::size_t page, const Figure& figure) const {
+        const std::vector<Figure>& figures = m_pages[page].figures;
+        return std::any_of(figures.begin(), figures.end(), [&](const Figure& other) {
+            return other.picture == figure.picture && isSamePlace(other.box, figure.box, m_limits.samePosition);
+        });
+    }
+    bool isOnPageNearby(std::size_t page, const Figure& figure) const {
+        for (std::ptrdiff_t by = -kRunningReach; by <= kRunningReach; ++by) {
+            const auto other = static_cast<std::ptrdiff_t>(page) + by;
+            if (by != 0 && other >= 0 && other < static_cast<std::ptrdiff_t>(m_pages.size()) &&
+                isOnPage(static_cast<std::size_t>(other), figure))
+                return true;
+        }
+        return false;
+    }
+    int pagesWith(const Figure& figure) const {
+        int count = 0;
+        for (std::size_t i = 0; i < m_pages.size() && count < m_limits.surePages; ++i)
+            count += isOnPage(i, figure);
+        return count;
+    }
+
+private:
+    const std::vector<PageText>& m_pages;
+    const LayoutParameters::RunningHeads& m_limits;
+};
+
+} // namespace
+
+std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<PageText>& pages,
+                                                          const std::vector<BodyRange>& bodies,
+                                                          const LayoutParameters::RunningHeads& parameters) {
+    const FigureComparer comparer(pages, parameters);
+    std::vector<std::vector<std::size_t>> repeated(pages.size());
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+        for (std::size_t i = 0; i < pages[page].figures.size(); ++i) {
+            const Figure& figure = pages[page].figures[i];
+            if (figure.picture.value == 0 || !comparer.isOnPageNearby(page, figure))
+                continue;
+            const bool isInText = figure.box.centerY() > bodies[page].top && figure.box.centerY() < bodies[page].bottom;
+            if (!isInText || comparer.pagesWith(figure) >= parameters.surePages)
+                repeated[page].push_back(i);
+        }
+    }
+    return repeated;
+}
+
+} // namespace orvane::layout

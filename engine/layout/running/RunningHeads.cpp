@@ -1,0 +1,216 @@
+#include "layout/running/RunningHeads.h"
+
+#include "layout/running/EdgeRows.h"
+#include "layout/running/RepeatedFigures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace orvane::layout {
+namespace {
+
+/// One page with what was found out about its edges.
+struct PageEdges {
+    EdgeRows top;
+    EdgeRows bottom;
+    BodyRange body;
+    double headerEnd = 0;   ///< y; what stands above belongs to the header
+    double footerStart = 0; ///< y; what stands below belongs to the footer
+};
+
+/// Which lines of the page belong to a running head.
+std::vector<bool> linesTaken(const PageText& page, const EdgeRows& edge) {
+    std::vector<bool> isTaken(page.lines.size(), false);
+    for (std::size_t i = 0; i < edge.taken; ++i)
+        for (const std::size_t line : edge.rows[i].lines)
+            isTaken[line] = true;
+    return isTaken;
+}
+
+Rect boxOfTaken(const EdgeRows& edge) {
+    Rect box;
+    for (std::size_t i = 0; i < edge.taken; ++i)
+        box = box.united(edge.rows[i].box);
+    return box;
+}
+
+PageEdges measureEdges(const PageText& page, EdgeRows top, EdgeRows bottom) {
+    const Rect header = boxOfTaken(top), footer = boxOfTaken(bottom);
+    PageEdges edges{std::move(top), std::move(bottom), {page.height, 0}, 0, page.height};
+    const std::vector<bool> isHeader = linesTaken(page, edges.top), isFooter = linesTaken(page, edges.bottom);
+    for (std::size_t i = 0; i < page.lines.size(); ++i) {
+        if (isHeader[i] || isFooter[i])
+            continue;
+        edges.body.top = std::min(edges.body.top, page.lines[i].box.top);
+        edges.body.bottom = std::max(edges.body.bottom, page.lines[i].box.bottom);
+    }
+    // Rules and pictures halfway to the text belong to the running head.
+    if (!header.isEmpty())
+        edges.headerEnd = (header.bottom + std::min(edges.body.top, footer.isEmpty() ? page.height : footer.top)) / 2;
+    if (!footer.isEmpty())
+        edges.footerStart = (footer.top + std::max(edges.body.bottom, header.bottom)) / 2;
+    return edges;
+}
+
+RunningHead emptyHead(const PageText& page) {
+    RunningHead head;
+    head.content.number = page.number;
+    head.content.width = page.width;
+    head.content.height = page.height;
+    head.content.fonts = page.fonts;
+    head.content.links = page.links;
+    head.content.marks = page.marks;
+    return head;
+}
+
+/// Moves pictures that repeat to the head of their half of the page.
+void takeFigures(PageText& page, const std::vector<std::size_t>& repeated, PageRunningHeads& heads) {
+    std::vector<Figure> rest;
+    for (std::size_t i = 0; i < page.figures.size(); ++i) {
+        Figure& figure = page.figures[i];
+        if (std::find(repeated.begin(), repeated.end(), i) == repeated.end()) {
+            rest.push_back(std::move(figure));
+            continue;
+        }
+        // What lies behind the whole page is anchored in the header.
+        const bool isHeader = figure.isBackground || figure.box.centerY() < page.height / 2;
+        std::optional<RunningHead>& head = isHeader ? heads.header : heads.footer;
+        if (!head)
+            head = emptyHead(page);
+        head->key += std::to_string(figure.picture.value) + '\n';
+        head->content.figures.push_back(std::move(figure));
+    }
+    page.figures = std::move(rest);
+}
+
+/// Moves the elements for which `isPart` holds from one vector to the other.
+template<typename T, typename Predicate>
+void moveParts(std::vector<T>& from, std::vector<T>& to, const Predicate& isPart) {
+    const auto first = std::stable_partition(from.begin(), from.end(), [&](const T& item) { return !isPart(item); });
+    std::move(first, from.end(), std::back_inserter(to));
+    from.erase(first, from.end());
+}
+
+void takeLines(PageText& page, const PageEdges& edges, PageRunningHeads& heads) {
+    const std::vector<bool> isHeader = linesTaken(page, edges.top), isFooter = linesTaken(page, edges.bottom);
+    std::vector<Line> rest;
+    for (std::size_t i = 0; i < page.lines.size(); ++i) {
+        std::vector<Line>& target = isHeader[i]   ? heads.header->content.lines
+                                    : isFooter[i] ? heads.footer->content.lines
+                                                  : rest;
+        target.push_back(std::move(page.lines[i]));
+    }
+    page.lines = std::move(rest);
+}
+
+/// Moves what is drawn around the rows, where `isBeyond(top, bottom)` holds.
+template<typename Predicate>
+void takeDrawn(PageText& page, const Predicate& isBeyond, PageText& head) {
+    const auto isPart = [&](const auto& item) { return isBeyond(item.box.top, item.box.bottom); };
+    moveParts(page.grounds, head.grounds, isPart);
+    moveParts(page.figures, head.figures, isPart);
+    moveParts(page.rules, head.rules, [&](const Rule& rule) {
+        return rule.direction == RuleDirection::Vertical ? isBeyond(rule.from, rule.to)
+                                                         : isBeyond(rule.position, rule.position);
+    });
+}
+
+/// Where a row stands between the sides of the page.
+char sideOf(const RunningRow& row, double pageWidth, double tolerance) {
+    const double left = row.box.left, right = pageWidth - row.box.right;
+    return std::abs(left - right) <= tolerance ? 'c' : left < right ? 'l' : 'r';
+}
+
+std::string keyOf(const EdgeRows& edge, double pageWidth, const LayoutParameters::RunningHeads& limits) {
+    std::string key;
+    for (std::size_t i = 0; i < edge.taken; ++i) {
+        // What stands beside a page number may change from page to page.
+        key += edge.matches[i] == RowMatch::Text ? edge.rows[i].skeleton : "~";
+        key += sideOf(edge.rows[i], pageWidth, limits.sameSide);
+        key += '\n';
+    }
+    return key;
+}
+
+void takeHeads(PageText& page, const PageEdges& edges, const LayoutParameters::RunningHeads& limits,
+               PageRunningHeads& heads) {
+    const auto prepare = [&](const EdgeRows& edge, std::optional<RunningHead>& head) {
+        if (edge.taken == 0)
+            return;
+        if (!head)
+            head = emptyHead(page);
+        head->key += keyOf(edge, page.width, limits);
+    };
+    prepare(edges.top, heads.header);
+    prepare(edges.bottom, heads.footer);
+    takeLines(page, edges, heads);
+    if (edges.top.taken > 0)
+        takeDrawn(
+            page, [&](double, double bottom) { return bottom <= edges.headerEnd; }, heads.header->content);
+    if (edges.bottom.taken > 0)
+        takeDrawn(
+            page, [&](double top, double) { return top >= edges.footerStart; }, heads.footer->content);
+}
+
+/// Whether most pages would hold nothing any more: a document of one numbered line a page, or of forms that are all
+/// alike.
+bool wouldEatTheText(const std::vector<PageText>& pages, const std::vector<PageEdges>& edges,
+                     const LayoutParameters::RunningHeads& limits) {
+    std::size_t written = 0, emptied = 0;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const std::vector<bool> isHeader = linesTaken(pages[i], edges[i].top),
+                                isFooter = linesTaken(pages[i], edges[i].bottom);
+        std::size_t left = pages[i].figures.size();
+        for (std::size_t line = 0; line < pages[i].lines.size(); ++line)
+            left += !isHeader[line] && !isFooter[line];
+        written += !pages[i].lines.empty();
+        emptied += !pages[i].lines.empty() && left == 0;
+    }
+    return static_cast<double>(emptied) > limits.bodilessShare * static_cast<double>(written);
+}
+
+int greatest(const std::vector<std::optional<PageNumber>>& numbers) {
+    int last = 0;
+    for (const auto& number : numbers)
+        last = std::max(last, number ? number->value : 0);
+    return last;
+}
+
+} // namespace
+
+std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const LayoutParameters& parameters) {
+    std::vector<PageRunningHeads> heads(pages.size());
+    if (pages.size() < 2)
+        return heads;
+    const LayoutParameters::RunningHeads& limits = parameters.runningHeads;
+    const std::vector<EdgeRows> tops = readEdgeRows(pages, PageEdge::Top, limits);
+    const std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
+    const auto numbers = readPageNumbers(tops, bottoms);
+
+    std::vector<PageEdges> edges;
+    std::vector<BodyRange> bodies;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        edges.push_back(measureEdges(pages[i], tops[i], bottoms[i]));
+        bodies.push_back(edges.back().body);
+    }
+    if (wouldEatTheText(pages, edges, limits))
+        return heads;
+    const auto figures = findRepeatedFigures(pages, bodies, limits);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const PageEdges& edge = edges[i];
+        // The rows name lines by their index, so the numbers are cut out before any line moves.
+        const auto topFields = cutOutNumbers(pages[i], edge.top, numbers[i], greatest(numbers));
+        const auto bottomFields = cutOutNumbers(pages[i], edge.bottom, numbers[i], greatest(numbers));
+        takeFigures(pages[i], figures[i], heads[i]);
+        takeHeads(pages[i], edge, limits, heads[i]);
+        if (heads[i].header)
+            heads[i].header->fields = topFields;
+        if (heads[i].footer)
+            heads[i].footer->fields = bottomFields;
+        heads[i].number = numbers[i];
+    }
+    return heads;
+}
+
+} // namespace orvane::layout

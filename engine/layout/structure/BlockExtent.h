@@ -1,0 +1,21 @@
+#pragma once
+
+#include "layout/fonts/FontCatalog.h"
+#include "layout/structure/DocumentDraft.h"
+
+namespace orvane::layout {
+
+/// From where to where a block reaches in single spacing, as a word processor sets it; page space.
+struct BlockExtent {
+    double top = 0;           ///< on the page where it starts
+    double bottom = 0;        ///< on the page where it ends
+    std::size_t lastPage = 0; ///< index into DocumentDraft::pages
+    double firstHeight = 0;   ///< of what must find room for it to start: its first line, row or the whole picture
+};
+
+BlockExtent extentOf(const DraftBlock& block, const FontCatalog& fonts);
+
+/// A picture that floats takes no room in the flow.
+bool isFloating(const DraftBlock& block);
+
+} // namespace orvane::layout

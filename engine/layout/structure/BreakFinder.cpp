@@ -1,0 +1,54 @@
+#include "layout/structure/BreakFinder.h"
+
+#include "layout/structure/BlockExtent.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// Where a block ends: the place of its last piece.
+struct BlockEnd {
+    std::size_t page = 0;
+    int band = 0;
+    int column = 0;
+    double bottom = 0;
+};
+
+BlockEnd endOf(const DraftBlock& block) {
+    if (const DraftParagraph* paragraph = block.paragraph()) {
+        const DraftPiece& last = paragraph->pieces.back();
+        return {last.page, last.band, last.columnIndex, last.text.lines.back().box.bottom};
+    }
+    return {block.page, block.band, block.column, block.box.bottom};
+}
+
+/// Down to where the columns of a band could reach: to the page's end when nothing stands below the band.
+double floorOf(const DocumentDraft& draft, std::size_t page, int band, const Rect& area) {
+    const std::vector<Band>& bands = draft.pages[page].bands;
+    const auto index = static_cast<std::size_t>(band);
+    return index + 1 < bands.size() ? bands[index].bottom : area.bottom;
+}
+
+} // namespace
+
+void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
+                const LayoutParameters::PageSetup& parameters) {
+    const DraftBlock* before = nullptr;
+    for (std::size_t i = range.first; i < range.last; ++i) {
+        DraftBlock& block = draft.blocks[i];
+        if (isFloating(block))
+            continue;
+        if (before) {
+            const BlockEnd end = endOf(*before);
+            const double room = floorOf(draft, end.page, end.band, range.area) - end.bottom;
+            if (end.page < block.page)
+                block.startsPage = end.page + 1 < block.page || room > fills[block.page].need + parameters.startRoom;
+            else if (end.band == block.band && end.column < block.column)
+                block.startsColumn = room > block.box.height() + parameters.startRoom;
+        }
+        before = &block;
+    }
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/structure/DocumentDraft.h"
+#include "layout/structure/PageFill.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// Blocks `first` to `last` (one behind the last), set within `area`.
+struct BlockRange {
+    std::size_t first = 0;
+    std::size_t last = 0;
+    Rect area;
+};
+
+/// Marks blocks that start a page or a column though there was room for them on the page or in the column before.
+void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
+                const LayoutParameters::PageSetup& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,72 @@
+#include "layout/structure/ColumnSetup.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+bool startsBefore(const ColumnSpan& a, const ColumnSpan& b) {
+    return a.left < b.left;
+}
+
+/// Columns of one width that start where the seen ones start; empty when there are none.
+std::vector<ColumnSpan> equalColumns(const std::vector<ColumnSpan>& seen, const Rect& area,
+                                     const LayoutParameters::PageSetup& limits) {
+    const auto count = static_cast<double>(seen.size());
+    // From one column's start to the next.
+    const double step = (seen.back().left - seen.front().left) / (count - 1);
+    const double gap = count * step - area.width();
+    const double width = step - gap;
+    if (gap < limits.smallestColumnGap || width <= gap)
+        return {};
+    std::vector<ColumnSpan> columns;
+    for (std::size_t i = 0; i < seen.size(); ++i) {
+        const double left = area.left + static_cast<double>(i) * step;
+        if (std::abs(left - seen[i].left) > limits.sameColumn || seen[i].right > left + width + limits.sameColumn)
+            return {};
+        columns.push_back({left, left + width});
+    }
+    return columns;
+}
+
+} // namespace
+
+std::vector<ColumnSpan> fitColumns(const std::vector<ColumnSpan>& seen, const Rect& area,
+                                   const LayoutParameters::PageSetup& parameters) {
+    if (seen.size() < 2)
+        return {{area.left, area.right}};
+    const bool isRightToLeft = seen.front().left > seen.back().left;
+    std::vector<ColumnSpan> columns = seen;
+    std::sort(columns.begin(), columns.end(), startsBefore);
+    if (std::vector<ColumnSpan> equal = equalColumns(columns, area, parameters); !equal.empty()) {
+        columns = std::move(equal);
+    } else {
+        columns.front().left = std::min(columns.front().left, area.left);
+        columns.back().right = std::max(columns.back().right, area.right);
+        // The room up to the next column belongs to ragged lines, as far as a gap remains.
+        for (std::size_t i = 0; i + 1 < columns.size(); ++i)
+            columns[i].right = std::min(columns[i].right, columns[i + 1].left - parameters.smallestColumnGap);
+    }
+    if (isRightToLeft)
+        std::reverse(columns.begin(), columns.end());
+    return columns;
+}
+
+std::vector<document::Column> columnWidths(std::vector<ColumnSpan> columns) {
+    std::vector<document::Column> widths;
+    if (columns.size() < 2)
+        return widths;
+    const bool isRightToLeft = columns.front().left > columns.back().left;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        document::Column column;
+        column.width = twipsFromPoints(columns[i].right - columns[i].left);
+        if (i + 1 < columns.size())
+            column.spaceAfter = twipsFromPoints(isRightToLeft ? columns[i].left - columns[i + 1].right
+                                                              : columns[i + 1].left - columns[i].right);
+        widths.push_back(column);
+    }
+    return widths;
+}
+
+} // namespace orvane::layout

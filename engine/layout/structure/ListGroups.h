@@ -1,0 +1,61 @@
+#pragma once
+
+#include "layout/structure/ListLabel.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace orvane::layout {
+
+/// A paragraph that may be an item.
+struct ListItem {
+    DraftParagraph* paragraph = nullptr;
+    ListLabel label;
+    int level = 0;
+    std::size_t run = 0;   ///< items of one run count on; a run that is too short is no list
+    bool isNested = false; ///< its number repeats that of the level above: "2.1" below "2"
+};
+
+/// Items that one numbering may write.
+struct ListGroup {
+    std::vector<ListItem> items;
+};
+
+/// Parts labelled paragraphs, in reading order, into groups.
+class ListGrouper {
+public:
+    explicit ListGrouper(const LayoutParameters& parameters)
+        : m_parameters(parameters) {}
+
+    /// A paragraph of the flow; one without a label may end what is open.
+    void add(DraftParagraph& paragraph);
+    /// Nothing of what comes later goes on with what is open: the end of a cell, for instance.
+    void closeAll() { m_open.clear(); }
+
+    std::vector<ListGroup> takeGroups() { return std::move(m_groups); }
+
+private:
+    struct OpenLevel {
+        ListLabel label; ///< of its last item
+        std::size_t run = 0;
+        bool isNested = false;
+    };
+    struct OpenGroup {
+        std::size_t group = 0;
+        std::vector<OpenLevel> levels;
+        std::vector<ListLabel> kinds; ///< of every level that was ever open
+    };
+
+    bool goOn(DraftParagraph& paragraph, const ListLabel& label);
+    bool nest(DraftParagraph& paragraph, const ListLabel& label);
+    void start(DraftParagraph& paragraph, const ListLabel& label);
+    void put(OpenGroup& open, DraftParagraph& paragraph, const ListLabel& label);
+    bool isAtSameEdge(const ListLabel& a, const ListLabel& b) const;
+
+    const LayoutParameters& m_parameters;
+    std::vector<ListGroup> m_groups;
+    std::vector<OpenGroup> m_open; ///< the latest last
+    std::size_t m_runs = 0;
+};
+
+} // namespace orvane::layout

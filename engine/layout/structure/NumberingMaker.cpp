@@ -1,0 +1,98 @@
+#include "layout/structure/NumberingMaker.h"
+
+#include "layout/support/Tally.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+using document::NumberFormat;
+using document::NumberingLevel;
+
+/// "%1." for the first level; "%1.%2" below it where the numbers repeat those above; "2.%1" where these are not the
+/// list's.
+std::string labelText(const ListItem& item) {
+    const ListLabel& label = item.label;
+    if (label.format == NumberFormat::Bullet)
+        return label.bullet;
+    std::string text = label.before;
+    for (std::size_t i = 0; i + 1 < label.numbers.size(); ++i) {
+        if (item.isNested)
+            text += fmt::format("%{}.", static_cast<std::size_t>(item.level) + 2 + i - label.numbers.size());
+        else
+            text += fmt::format("{}.", label.numbers[i]);
+    }
+    return text + fmt::format("%{}", item.level + 1) + label.after;
+}
+
+/// Indents of one item, from its column's start edge.
+struct ItemIndents {
+    double start = 0;
+    double firstLine = 0;
+};
+
+ItemIndents indentsOf(const ListItem& item) {
+    const ParagraphDraft& text = item.paragraph->pieces.front().text;
+    const bool hangs = text.firstLine < 0;
+    if (text.lines.size() > 1 || !item.label.isStrong || hangs)
+        return {item.label.labelStart - text.firstLine, text.firstLine};
+    return {item.label.textStart, item.label.labelStart - item.label.textStart};
+}
+
+void setIndents(NumberingLevel& level, const std::vector<const ListItem*>& items, double tolerance) {
+    std::vector<double> starts, firstLines;
+    for (const ListItem* item : items) {
+        const ItemIndents indents = indentsOf(*item);
+        starts.push_back(indents.start);
+        firstLines.push_back(indents.firstLine);
+    }
+    level.indentStart = twipsFromPoints(mostFrequent(std::move(starts), tolerance).value_or(0));
+    level.firstLine = twipsFromPoints(mostFrequent(std::move(firstLines), tolerance).value_or(0));
+}
+
+NumberingLevel levelOf(const std::vector<const ListItem*>& items, double tolerance) {
+    const ListItem& first = *items.front();
+    NumberingLevel level;
+    level.format = first.label.format;
+    level.text = labelText(first);
+    level.start = std::max(1, first.label.number());
+    setIndents(level, items, tolerance);
+    return level;
+}
+
+const Span& labelSpan(const ListItem& item) {
+    return item.paragraph->firstLine().words.front().spans.front();
+}
+
+} // namespace
+
+void makeNumbering(DocumentDraft& draft, const ListGroup& group, const LayoutParameters& parameters) {
+    DraftNumbering made;
+    int deepest = 0;
+    for (const ListItem& item : group.items)
+        deepest = std::max(deepest, item.level);
+    for (int level = 0; level <= deepest; ++level) {
+        std::vector<const ListItem*> items;
+        for (const ListItem& item : group.items)
+            if (item.level == level)
+                items.push_back(&item);
+        if (items.empty()) {
+            made.numbering.levels.emplace_back();
+            made.labels.emplace_back();
+            continue;
+        }
+        made.numbering.levels.push_back(levelOf(items, parameters.lists.sameIndent));
+        made.labels.push_back(LabelLook{items.front()->paragraph->pieces.front().page, labelSpan(*items.front())});
+    }
+    for (const ListItem& item : group.items) {
+        item.paragraph->role = ParagraphRole::ListItem;
+        item.paragraph->list = document::ListReference{draft.numberings.size(), item.level};
+        item.paragraph->labelWords = 1;
+    }
+    draft.numberings.push_back(std::move(made));
+}
+
+} // namespace orvane::layout

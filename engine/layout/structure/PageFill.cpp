@@ -1,0 +1,78 @@
+#include "layout/structure/PageFill.h"
+
+#include "layout/fonts/LineMetrics.h"
+#include "layout/structure/BlockExtent.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+constexpr std::size_t kKeptLines = 2; ///< word processors let no single line of a paragraph stand alone on a page
+
+void widen(PageFill& fill, double top, double bottom) {
+    fill.top = fill.isEmpty ? top : std::min(fill.top, top);
+    fill.bottom = fill.isEmpty ? bottom : std::max(fill.bottom, bottom);
+    fill.isEmpty = false;
+}
+
+/// The room that the first lines of a piece need.
+double needOfLines(const DraftPiece& piece, std::size_t lines, const FontCatalog& fonts) {
+    const std::vector<Line>& all = piece.text.lines;
+    const std::size_t count = std::min(lines, all.size());
+    return all[count - 1].baseline - all[0].baseline + extentOf(all[0], piece.page, fonts).height();
+}
+
+/// The room that a block needs to start, with what may not be parted from it.
+double needOfBlock(const DocumentDraft& draft, std::size_t index, const FontCatalog& fonts) {
+    const DraftBlock& block = draft.blocks[index];
+    const DraftParagraph* paragraph = block.paragraph();
+    if (!paragraph)
+        return extentOf(block, fonts).firstHeight;
+    const std::size_t lines = paragraph->pieces.front().text.lines.size();
+    // Of three lines neither the first nor the last may stand alone, so they stay together.
+    double need = needOfLines(paragraph->pieces.front(), lines <= kKeptLines + 1 ? lines : kKeptLines, fonts);
+    const bool isKept = paragraph->role == ParagraphRole::Heading || paragraph->role == ParagraphRole::Title;
+    if (isKept && index + 1 < draft.blocks.size() && draft.blocks[index + 1].page == block.page) {
+        const double gap = extentOf(draft.blocks[index + 1], fonts).top - extentOf(block, fonts).bottom;
+        need += std::max(0.0, gap) + needOfBlock(draft, index + 1, fonts);
+    }
+    return need;
+}
+
+} // namespace
+
+std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts) {
+    std::vector<PageFill> fills(draft.pages.size());
+    for (std::size_t i = 0; i < draft.blocks.size(); ++i) {
+        const DraftBlock& block = draft.blocks[i];
+        if (isFloating(block))
+            continue;
+        PageFill& fill = fills[block.page];
+        const BlockExtent extent = extentOf(block, fonts);
+        if (fill.isEmpty && !fill.hasFirstBlock)
+            fill.need = needOfBlock(draft, i, fonts);
+        if (!fill.hasFirstBlock)
+            fill.firstBlock = i;
+        fill.hasFirstBlock = true;
+        const DraftParagraph* paragraph = block.paragraph();
+        if (!paragraph) {
+            widen(fill, extent.top, extent.bottom);
+            continue;
+        }
+        for (const DraftPiece& piece : paragraph->pieces) {
+            const Line& first = piece.text.lines.front();
+            const Line& last = piece.text.lines.back();
+            PageFill& part = fills[piece.page];
+            if (&piece != &paragraph->pieces.front() && part.isEmpty) {
+                part.isSplit = true;
+                part.need = needOfLines(piece, piece.text.lines.size() <= kKeptLines ? kKeptLines : 1, fonts);
+            }
+            widen(part, first.baseline - extentOf(first, piece.page, fonts).ascent,
+                  last.baseline + extentOf(last, piece.page, fonts).descent);
+        }
+    }
+    return fills;
+}
+
+} // namespace orvane::layout

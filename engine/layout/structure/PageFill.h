@@ -1,0 +1,25 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/fonts/FontCatalog.h"
+#include "layout/structure/DocumentDraft.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// How far the blocks of one page fill it, and what the next page starts with. Units: points.
+struct PageFill {
+    double top = 0;
+    double bottom = 0;
+    bool isEmpty = true;
+    bool isSplit = false;       ///< a paragraph goes on from the page before
+    std::size_t firstBlock = 0; ///< that starts on the page; index into the blocks
+    bool hasFirstBlock = false;
+    double need = 0; ///< of room for the first thing on the page, so much that it may start on the page before
+};
+
+/// Measures every page of the draft.
+std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts);
+
+} // namespace orvane::layout

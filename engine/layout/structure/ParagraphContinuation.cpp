@@ -1,0 +1,81 @@
+#include "layout/structure/ParagraphContinuation.h"
+
+#include "base/Utf8.h"
+#include "layout/text/LineText.h"
+
+#include <unicode/uchar.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+
+LineMeasure measureOne(const Line& line, ColumnSpan column, const ParagraphContext& context,
+                       const LayoutParameters& parameters) {
+    return measureLines({&line, 1}, column, context, parameters).front();
+}
+
+bool isOneParagraphsLook(const ParagraphDraft& a, const ParagraphDraft& b,
+                         const LayoutParameters::Paragraphs& parameters) {
+    const Line& before = a.lines.back();
+    const Line& next = b.lines.front();
+    return before.angle == next.angle && before.isVertical == next.isVertical &&
+           before.isRightToLeft == next.isRightToLeft &&
+           std::max(before.fontSize, next.fontSize) <= parameters.sizeChange * std::min(before.fontSize, next.fontSize);
+}
+
+/// A sentence that has not come to its end does not end its paragraph.
+bool endsSentence(const Line& line) {
+    const std::u32string word = utf32FromUtf8(textOf(line.words.back()));
+    for (std::size_t i = word.size(); i-- > 0;) {
+        const char32_t c = word[i];
+        if (std::u32string_view(U".!?:;。！？：；؟۔").find(c) != std::u32string_view::npos)
+            return true;
+        // Closing quotes and brackets stand behind the full stop.
+        if (u_isalnum(static_cast<UChar32>(c)))
+            return false;
+    }
+    return false;
+}
+
+} // namespace
+
+bool mayRunOn(const PlacedParagraph& last, const ParagraphContext& context, const LayoutParameters& parameters) {
+    const Line& line = last.paragraph.lines.back();
+    if (line.words.empty() || last.paragraph.alignment == Alignment::Center ||
+        last.paragraph.alignment == Alignment::End)
+        return false;
+    const LineMeasure measure = measureOne(line, last.column, context, parameters);
+    if (measure.hasLeader)
+        return false;
+    const double full = last.paragraph.alignment == Alignment::Justified ? 2 * parameters.paragraphs.flushTolerance
+                                                                         : parameters.paragraphs.fullLine;
+    return measure.endGap - last.paragraph.indentEnd <= full * line.fontSize;
+}
+
+bool runsOn(const PlacedParagraph& last, const PlacedParagraph& next, const ParagraphContext& context,
+            const LayoutParameters& parameters) {
+    const LayoutParameters::Paragraphs& limits = parameters.paragraphs;
+    const Line& line = last.paragraph.lines.back();
+    const Line& start = next.paragraph.lines.front();
+    if (line.words.empty() || start.words.empty() || !isOneParagraphsLook(last.paragraph, next.paragraph, limits))
+        return false;
+    const LineMeasure before = measureOne(line, last.column, context, parameters);
+    const LineMeasure after = measureOne(start, next.column, context, parameters);
+    if (before.hasLeader || after.marker || before.isBold != after.isBold)
+        return false;
+    const double size = start.fontSize;
+    if (wouldHaveFitted(before, after, before.endGap - last.paragraph.indentEnd, limits.fitSlack * size))
+        return false;
+    const bool startsIndented = after.startGap > last.paragraph.indentStart + limits.edgeTolerance * size;
+    if (startsIndented && last.paragraph.alignment != Alignment::Center)
+        return false;
+    // A full last line of a finished sentence before a capital may be either; without a sign of going on it is an end.
+    return after.startsLowerCase || before.endsWithHyphen || !endsSentence(line) ||
+           (last.paragraph.alignment == Alignment::Justified && before.meanGap > limits.stretchedGap * before.blank);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,105 @@
+#include "layout/structure/RunningTextMaker.h"
+
+#include "layout/page/PageLayouter.h"
+#include "layout/structure/BlockExtent.h"
+#include "layout/structure/DraftBuilder.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace orvane::layout {
+namespace {
+
+bool hasColumnRules(const PageText& page) {
+    return std::any_of(page.rules.begin(), page.rules.end(),
+                       [](const Rule& rule) { return rule.direction == RuleDirection::Vertical; });
+}
+
+/// Makes one line of what stands on one baseline: in a running head gaps are tabulators, not columns.
+void joinRows(PageText& page, const LayoutParameters::RunningHeads& limits) {
+    if (hasColumnRules(page))
+        return; // a table, whose cells part the lines
+    std::stable_sort(page.lines.begin(), page.lines.end(),
+                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+    std::vector<Line> rows;
+    for (Line& line : page.lines) {
+        const bool isSameRow = !rows.empty() && rows.back().angle == 0 && line.angle == 0 &&
+                               std::abs(rows.back().baseline - line.baseline) <= limits.sameRow * line.fontSize;
+        if (!isSameRow) {
+            rows.push_back(std::move(line));
+            continue;
+        }
+        Line& row = rows.back();
+        const bool isBehind = row.isRightToLeft ? line.box.right <= row.box.left : line.box.left >= row.box.right;
+        std::vector<Word>& behind = isBehind ? line.words : row.words;
+        behind.front().gapBefore = Gap::Tab;
+        row.words.insert(isBehind ? row.words.end() : row.words.begin(), std::make_move_iterator(line.words.begin()),
+                         std::make_move_iterator(line.words.end()));
+        measureAnew(row);
+    }
+    page.lines = std::move(rows);
+}
+
+/// The head's blocks, on a page of their own.
+std::vector<DraftBlock> layoutHead(DocumentDraft& draft, const RunningHead& head, const DocumentContext& context,
+                                   const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    PageText content = head.content;
+    joinRows(content, parameters.runningHeads);
+    std::vector<DraftBlock> blocks = addPage(draft, layoutPage(std::move(content), context, parameters, diagnostics));
+    draft.fields.back() = head.fields;
+    return blocks;
+}
+
+enum class Side { Header, Footer };
+
+/// How near the blocks come to the page's edge; infinite without blocks in the flow.
+double distanceFromEdge(const std::vector<DraftBlock>& blocks, const FontCatalog& fonts, Side side, double pageHeight) {
+    double distance = std::numeric_limits<double>::infinity();
+    for (const DraftBlock& block : blocks) {
+        if (isFloating(block))
+            continue;
+        const BlockExtent extent = extentOf(block, fonts);
+        distance = std::min(distance, side == Side::Header ? extent.top : pageHeight - extent.bottom);
+    }
+    return distance;
+}
+
+void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog& fonts, Side side, double pageHeight) {
+    for (const auto* blocks : {&text.standard, &text.evenPages, &text.firstPage}) {
+        const double distance =
+            *blocks ? distanceFromEdge(**blocks, fonts, side, pageHeight) : std::numeric_limits<double>::infinity();
+        if (std::isfinite(distance)) {
+            target = twipsFromPoints(std::max(0.0, distance));
+            return;
+        }
+    }
+}
+
+} // namespace
+
+void makeRunningText(DocumentDraft& draft, DraftSection& section, const RunningScheme& scheme,
+                     const std::vector<PageRunningHeads>& heads, const DocumentContext& context,
+                     const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    const auto blocksOf = [&](const std::optional<RunningHead>& head) {
+        return head ? std::optional(layoutHead(draft, *head, context, parameters, diagnostics)) : std::nullopt;
+    };
+    section.header.standard = blocksOf(heads[scheme.standard].header);
+    section.footer.standard = blocksOf(heads[scheme.standard].footer);
+    // Where one kind of page has its own heads, having none is a choice as well.
+    if (scheme.even) {
+        section.header.evenPages = blocksOf(heads[*scheme.even].header).value_or(std::vector<DraftBlock>{});
+        section.footer.evenPages = blocksOf(heads[*scheme.even].footer).value_or(std::vector<DraftBlock>{});
+    }
+    if (scheme.hasOwnFirstPage) {
+        section.header.firstPage = blocksOf(heads[scheme.firstPage].header).value_or(std::vector<DraftBlock>{});
+        section.footer.firstPage = blocksOf(heads[scheme.firstPage].footer).value_or(std::vector<DraftBlock>{});
+    }
+    const FontCatalog fonts(draft);
+    const double height = draft.pages[scheme.standard].height;
+    setDistance(section.setup.headerDistance, section.header, fonts, Side::Header, height);
+    setDistance(section.setup.footerDistance, section.footer, fonts, Side::Footer, height);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,169 @@
+#include "layout/structure/SectionMaker.h"
+
+#include "layout/running/RunningScheme.h"
+#include "layout/structure/BreakFinder.h"
+#include "layout/structure/ColumnSetup.h"
+#include "layout/structure/PageFill.h"
+#include "layout/structure/PageSetup.h"
+#include "layout/structure/RunningTextMaker.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+class SectionMaker {
+public:
+    SectionMaker(DocumentDraft& draft, const std::vector<PageRunningHeads>& heads, const DocumentContext& context,
+                 const LayoutParameters& parameters, Diagnostics& diagnostics)
+        : m_draft(draft)
+        , m_heads(heads)
+        , m_context(context)
+        , m_parameters(parameters)
+        , m_diagnostics(diagnostics)
+        , m_fills(measurePages(draft, FontCatalog(draft))) {}
+
+    void run() {
+        std::size_t block = 0;
+        for (const RunningScheme& scheme : findSchemes(m_heads, chances())) {
+            const std::size_t first = block;
+            while (block < m_draft.blocks.size() && m_draft.blocks[block].page <= scheme.lastPage)
+                ++block;
+            if (block > first || m_draft.sections.empty())
+                addSections(scheme, first, block);
+        }
+    }
+
+private:
+    std::vector<SectionChance> chances() const {
+        std::vector<SectionChance> chances(m_heads.size(), SectionChance::None);
+        for (std::size_t i = 1; i < m_heads.size(); ++i) {
+            const PageLayout& before = m_draft.pages[i - 1];
+            const PageLayout& page = m_draft.pages[i];
+            const double same = m_parameters.pageSetup.sameSize;
+            const bool changesPaper =
+                std::abs(before.width - page.width) > same || std::abs(before.height - page.height) > same;
+            if (changesPaper)
+                chances[i] = SectionChance::Must;
+            else if (m_fills[i].hasFirstBlock && !m_fills[i].isSplit)
+                chances[i] = SectionChance::May;
+        }
+        return chances;
+    }
+
+    /// The sections of pages with one scheme: one, or several where the number of columns changes.
+    void addSections(const RunningScheme& scheme, std::size_t first, std::size_t last) {
+        const Rect area = findTextArea(m_draft, m_fills, scheme.firstPage, scheme.lastPage, m_parameters);
+        DraftSection section;
+        section.setup = setupOf(scheme, area);
+        makeRunningText(m_draft, section, scheme, m_heads, m_context, m_parameters, m_diagnostics);
+        std::size_t from = first;
+        do {
+            const std::size_t to = endOfColumns(from, last);
+            section.firstBlock = from;
+            setColumns(section, from, to, area);
+            m_draft.sections.push_back(section);
+            section.setup.start = document::SectionStart::Continuous;
+            section.setup.firstPageNumber.reset();
+            from = to;
+        } while (from < last);
+        markBreaks(m_draft, m_fills, {first, last, area}, m_parameters.pageSetup);
+    }
+
+    document::Section setupOf(const RunningScheme& scheme, const Rect& area) const {
+        const PageLayout& page = m_draft.pages[scheme.firstPage];
+        document::Section setup;
+        setup.pageWidth = twipsFromPoints(page.width);
+        setup.pageHeight = twipsFromPoints(page.height);
+        setup.marginLeft = twipsFromPoints(area.left);
+        setup.marginTop = twipsFromPoints(area.top);
+        setup.marginRight = twipsFromPoints(page.width - area.right);
+        setup.marginBottom = twipsFromPoints(page.height - area.bottom);
+        setup.isRightToLeft = m_context.isRightToLeft;
+        if (const auto number = firstNumber(scheme))
+            setup.pageNumberFormat = number->format;
+        const int expected = scheme.firstPage == 0 ? 1 : lastNumberBefore(scheme.firstPage) + 1;
+        if (const auto number = firstNumber(scheme); number && number->value != expected && number->value >= 0)
+            setup.firstPageNumber = number->value;
+        return setup;
+    }
+
+    /// The number that the scheme's first page has, though the page itself may not show it.
+    std::optional<PageNumber> firstNumber(const RunningScheme& scheme) const {
+        for (std::size_t page = scheme.firstPage; page <= scheme.lastPage; ++page)
+            if (const auto& number = m_heads[page].number)
+                return PageNumber{number->value - static_cast<int>(page - scheme.firstPage), number->format};
+        return std::nullopt;
+    }
+
+    int lastNumberBefore(std::size_t page) const {
+        for (std::size_t i = page; i-- > 0;)
+            if (m_heads[i].number)
+                return m_heads[i].number->value + static_cast<int>(page - 1 - i);
+        return static_cast<int>(page);
+    }
+
+    const std::vector<ColumnSpan>& columnsOf(const DraftBlock& block) const {
+        static const std::vector<ColumnSpan> kNone;
+        const std::vector<Band>& bands = m_draft.pages[block.page].bands;
+        const auto band = static_cast<std::size_t>(block.band);
+        return band < bands.size() ? bands[band].columns : kNone;
+    }
+
+    bool hasSameColumns(const DraftBlock& a, const DraftBlock& b) const {
+        const auto &left = columnsOf(a), &right = columnsOf(b);
+        if (left.size() <= 1 || right.size() <= 1)
+            return std::max<std::size_t>(1, left.size()) == std::max<std::size_t>(1, right.size());
+        if (left.size() != right.size())
+            return false;
+        for (std::size_t i = 0; i < left.size(); ++i)
+            if (std::abs(left[i].left - right[i].left) > m_parameters.pageSetup.sameColumn)
+                return false;
+        return true;
+    }
+
+    std::size_t endOfColumns(std::size_t from, std::size_t last) const {
+        std::size_t to = from;
+        while (to < last && hasSameColumns(m_draft.blocks[from], m_draft.blocks[to]))
+            ++to;
+        return std::max(to, std::min(from + 1, last));
+    }
+
+    void setColumns(DraftSection& section, std::size_t from, std::size_t to, const Rect& area) {
+        std::vector<ColumnSpan> seen;
+        bool hasSeparator = false;
+        for (std::size_t i = from; i < to; ++i) {
+            const std::vector<ColumnSpan>& columns = columnsOf(m_draft.blocks[i]);
+            seen.resize(std::max(seen.size(), columns.size()), {1e9, -1e9});
+            for (std::size_t c = 0; c < columns.size(); ++c)
+                seen[c] = {std::min(seen[c].left, columns[c].left), std::max(seen[c].right, columns[c].right)};
+            const auto band = static_cast<std::size_t>(m_draft.blocks[i].band);
+            const std::vector<Band>& bands = m_draft.pages[m_draft.blocks[i].page].bands;
+            hasSeparator = hasSeparator || (band < bands.size() && bands[band].hasSeparator);
+        }
+        const std::vector<ColumnSpan> columns = fitColumns(seen, area, m_parameters.pageSetup);
+        section.setup.columns = columnWidths(columns);
+        section.setup.hasColumnSeparator = hasSeparator;
+        for (std::size_t i = from; i < to; ++i)
+            if (DraftParagraph* paragraph = m_draft.blocks[i].paragraph())
+                for (DraftPiece& piece : paragraph->pieces)
+                    piece.column = columns[std::min(static_cast<std::size_t>(piece.columnIndex), columns.size() - 1)];
+    }
+
+    DocumentDraft& m_draft;
+    const std::vector<PageRunningHeads>& m_heads;
+    const DocumentContext& m_context;
+    const LayoutParameters& m_parameters;
+    Diagnostics& m_diagnostics;
+    std::vector<PageFill> m_fills;
+};
+
+} // namespace
+
+void makeSections(DocumentDraft& draft, const std::vector<PageRunningHeads>& heads, const DocumentContext& context,
+                  const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    SectionMaker(draft, heads, context, parameters, diagnostics).run();
+}
+
+} // namespace orvane::layout

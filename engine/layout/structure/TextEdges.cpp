@@ -1,0 +1,151 @@
+#include "layout/structure/TextEdges.h"
+
+#include "layout/support/TidyLength.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+
+constexpr double kNone = std::numeric_limits<double>::infinity();
+
+/// Distances from the sides of the page, so that left-to-right and right-to-left text are measured alike.
+struct LineEdge {
+    double start = kNone; ///< of lines that start at their column's edge, in the first column
+    double end = kNone;   ///< of lines in the last column
+    double room = 0; ///< what the first word of the next line would have needed; 0 when the line ends its paragraph
+    bool isFlush = false; ///< a justified line, which ends at the edge
+};
+
+class EdgeFinder {
+public:
+    EdgeFinder(const DocumentDraft& draft, const LayoutParameters& parameters)
+        : m_draft(draft)
+        , m_limits(parameters.pageSetup) {}
+
+    void read(std::size_t firstPage, std::size_t lastPage) {
+        for (const DraftBlock& block : m_draft.blocks) {
+            if (const DraftParagraph* paragraph = block.paragraph()) {
+                for (const DraftPiece& piece : paragraph->pieces)
+                    if (piece.page >= firstPage && piece.page <= lastPage)
+                        readPiece(piece);
+            } else if (block.page >= firstPage && block.page <= lastPage) {
+                m_objects = m_objects.united(block.box);
+            }
+        }
+        m_pageWidth = m_draft.pages[firstPage].width;
+    }
+
+    TextEdges find() const {
+        if (m_edges.empty())
+            return edgesOfObjects();
+        const double start = findStart();
+        const double end = findEnd(start);
+        return m_isRightToLeft > 0 ? TextEdges{end, m_pageWidth - start} : TextEdges{start, m_pageWidth - end};
+    }
+
+private:
+    void readPiece(const DraftPiece& piece) {
+        const double width = m_draft.pages[piece.page].width;
+        const std::vector<Line>& lines = piece.text.lines;
+        if (lines.front().angle != 0)
+            return;
+        const bool isInFirstColumn = piece.columnIndex == 0;
+        const bool isInLastColumn = static_cast<std::size_t>(piece.columnIndex) + 1 >= columnsOf(piece);
+        const bool isAtStart = piece.text.alignment == Alignment::Start || piece.text.alignment == Alignment::Justified;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            const Line& line = lines[i];
+            const bool goesOn = i + 1 < lines.size() && isAtStart;
+            LineEdge edge;
+            if (isInFirstColumn && isAtStart)
+                edge.start = line.isRightToLeft ? width - line.box.right : line.box.left;
+            if (isInLastColumn)
+                edge.end = line.isRightToLeft ? line.box.left : width - line.box.right;
+            edge.room = goesOn ? lines[i + 1].words.front().box.width() + m_limits.blank * line.fontSize : 0;
+            edge.isFlush = goesOn && isInLastColumn && piece.text.alignment == Alignment::Justified;
+            m_edges.push_back(edge);
+            m_isRightToLeft += line.isRightToLeft ? 1 : -1;
+        }
+    }
+
+    std::size_t columnsOf(const DraftPiece& piece) const {
+        const std::vector<Band>& bands = m_draft.pages[piece.page].bands;
+        const auto band = static_cast<std::size_t>(piece.band);
+        return band < bands.size() ? bands[band].columns.size() : 1;
+    }
+
+    /// The outermost edge at which enough lines start.
+    double findStart() const {
+        std::vector<double> starts;
+        for (const LineEdge& edge : m_edges)
+            if (edge.start != kNone)
+                starts.push_back(edge.start);
+        if (starts.empty())
+            return outermost(&LineEdge::end);
+        std::sort(starts.begin(), starts.end());
+        const double enough = std::max(1.0, m_limits.edgeShare * static_cast<double>(starts.size()));
+        for (std::size_t i = 0; i < starts.size(); ++i) {
+            const auto last = std::upper_bound(starts.begin(), starts.end(), starts[i] + m_limits.sameEdge);
+            const auto count = static_cast<std::size_t>(last - starts.begin()) - i;
+            if (static_cast<double>(count) >= enough)
+                return starts[i + count / 2];
+        }
+        return starts.front();
+    }
+
+    double outermost(double LineEdge::*field) const {
+        double least = m_pageWidth;
+        for (const LineEdge& edge : m_edges)
+            least = std::min(least, edge.*field);
+        return std::max(0.0, least);
+    }
+
+    /// The end edge that justified lines show; where there are none, one that fits all lines but leaves no room for the
+    /// words that were taken to the next line.
+    double findEnd(double start) const {
+        std::vector<double> flush;
+        for (const LineEdge& edge : m_edges)
+            if (edge.isFlush)
+                flush.push_back(edge.end);
+        if (flush.size() >= static_cast<std::size_t>(m_limits.flushLines)) {
+            std::sort(flush.begin(), flush.end());
+            return flush[static_cast<std::size_t>(m_limits.edgeShare * static_cast<double>(flush.size()))];
+        }
+        const double highest = outermost(&LineEdge::end);
+        double lowest = 0;
+        for (const LineEdge& edge : m_edges)
+            if (edge.room > 0 && edge.end != kNone && edge.end - edge.room < highest)
+                lowest = std::max(lowest, edge.end - edge.room);
+        return tidyLength(std::min(lowest + m_limits.roomSlack, highest), highest, start, m_limits.roomSlack);
+    }
+
+    TextEdges edgesOfObjects() const {
+        if (m_objects.isEmpty())
+            return {m_limits.usualMargin, m_pageWidth - m_limits.usualMargin};
+        const double margin = std::max(0.0, std::min(m_objects.left, m_pageWidth - m_objects.right));
+        return {margin, m_pageWidth - margin};
+    }
+
+    const DocumentDraft& m_draft;
+    const LayoutParameters::PageSetup& m_limits;
+    std::vector<LineEdge> m_edges;
+    Rect m_objects;
+    double m_pageWidth = 0;
+    int m_isRightToLeft = 0; ///< lines more than left-to-right ones
+};
+
+} // namespace
+
+TextEdges findTextEdges(const DocumentDraft& draft, std::size_t firstPage, std::size_t lastPage,
+                        const LayoutParameters& parameters) {
+    EdgeFinder finder(draft, parameters);
+    finder.read(firstPage, lastPage);
+    return finder.find();
+}
+
+} // namespace orvane::layout

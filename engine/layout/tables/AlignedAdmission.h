@@ -1,0 +1,20 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/tables/AlignedGrid.h"
+#include "layout/tables/TableVerdict.h"
+#include "layout/text/PageText.h"
+
+namespace orvane::layout {
+
+/// What speaks for a table beside its words' columns.
+enum class AlignedEvidence {
+    Rules,     ///< rules above, below and between its rows
+    Alignment, ///< nothing
+};
+
+/// Judges rows of words that stand in columns.
+TableVerdict judgeAlignedTable(const PageText& page, const AlignedRows& aligned, AlignedEvidence evidence,
+                               const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout

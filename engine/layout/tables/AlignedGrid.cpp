@@ -1,0 +1,136 @@
+#include "layout/tables/AlignedGrid.h"
+
+#include "layout/paragraphs/ListMarker.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// The pieces of a group as ranges of columns that do not overlap, left to right; between them every column is a cell.
+std::vector<ColumnRange> cellRanges(const AlignedRows& aligned, const RowGroup& group) {
+    std::vector<ColumnRange> ranges;
+    for (std::size_t i = group.first; i < group.end; ++i)
+        for (const TextPiece& piece : aligned.rows[i].pieces)
+            ranges.push_back(columnsOf(piece, aligned.gaps));
+    const int lastColumn = static_cast<int>(aligned.gaps.size());
+    // A text alone in its row that begins at the left and does not keep to a column heads the rows below in all
+    // columns.
+    if (ranges.size() == 1 && ranges.front().first == 0 && ranges.front().last > 0)
+        return {{0, lastColumn}};
+    std::sort(ranges.begin(), ranges.end(),
+              [](const ColumnRange& a, const ColumnRange& b) { return a.first < b.first; });
+    std::vector<ColumnRange> cells;
+    int next = 0;
+    for (const ColumnRange& range : ranges) {
+        if (!cells.empty() && range.first <= cells.back().last) {
+            cells.back().last = std::max(cells.back().last, range.last);
+        } else {
+            for (; next < range.first; ++next)
+                cells.push_back({next, next});
+            cells.push_back(range);
+        }
+        next = cells.back().last + 1;
+    }
+    for (; next <= lastColumn; ++next)
+        cells.push_back({next, next});
+    return cells;
+}
+
+Rect boxOf(const AlignedRows& aligned, const RowGroup& group) {
+    Rect box;
+    for (std::size_t i = group.first; i < group.end; ++i)
+        box = box.united(aligned.rows[i].box);
+    return box;
+}
+
+bool isBullet(const TextPiece& piece, const std::vector<Line>& lines, const LayoutParameters::Markers& parameters) {
+    if (piece.wordCount() != 1)
+        return false;
+    Line line = lines[piece.line];
+    line.words = {line.words[piece.firstWord]};
+    const auto marker = findListMarker(line, parameters);
+    return marker && (marker->kind == MarkerKind::Bullet || marker->kind == MarkerKind::Dash);
+}
+
+/// Whether a gap of columns lies between two words of a piece, and the words are such as stand in two cells: numbers,
+/// or words with more than a blank between them.
+bool isCutBetween(const Line& line, std::size_t index, std::size_t lineIndex, const ColumnGap& gap,
+                  const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+    const Rect& before = line.words[index - 1].box;
+    const Rect& after = line.words[index].box;
+    const Rect& left = before.left < after.left ? before : after;
+    const Rect& right = before.left < after.left ? after : before;
+    if (left.right > gap.right || right.left < gap.left)
+        return false;
+    const bool areNumbers = isNumeric(pieceOf(line, lineIndex, index - 1, index), lines) &&
+                            isNumeric(pieceOf(line, lineIndex, index, index + 1), lines);
+    return areNumbers || right.left - left.right > parameters.pieceGap * line.fontSize;
+}
+
+/// Cuts the pieces of a row where gaps lie between their words.
+void cutAtGaps(PieceRow& row, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
+               const LayoutParameters::Tables& parameters) {
+    std::vector<TextPiece> pieces;
+    for (const TextPiece& piece : row.pieces) {
+        const Line& line = lines[piece.line];
+        std::size_t first = piece.firstWord;
+        for (std::size_t i = first + 1; i < piece.endWord; ++i) {
+            const bool isCut = std::any_of(gaps.begin(), gaps.end(), [&](const ColumnGap& gap) {
+                return crosses(piece, gap) && isCutBetween(line, i, piece.line, gap, lines, parameters);
+            });
+            if (!isCut)
+                continue;
+            pieces.push_back(pieceOf(line, piece.line, first, i));
+            first = i;
+        }
+        pieces.push_back(pieceOf(line, piece.line, first, piece.endWord));
+    }
+    std::sort(pieces.begin(), pieces.end(),
+              [](const TextPiece& a, const TextPiece& b) { return a.box.left < b.box.left; });
+    row.pieces = std::move(pieces);
+}
+
+} // namespace
+
+std::vector<ColumnGap> findTableColumns(std::vector<PieceRow>& rows, const std::vector<Line>& lines,
+                                        const LayoutParameters& parameters) {
+    std::vector<ColumnGap> gaps = findColumnGaps(rows, parameters.tables);
+    for (PieceRow& row : rows)
+        cutAtGaps(row, gaps, lines, parameters.tables);
+    gaps = findColumnGaps(rows, parameters.tables);
+    std::vector<int> pieces(gaps.size() + 1);
+    std::vector<int> bullets(gaps.size() + 1);
+    for (const PieceRow& row : rows) {
+        for (const TextPiece& piece : row.pieces) {
+            const auto column = static_cast<std::size_t>(columnsOf(piece, gaps).first);
+            ++pieces[column];
+            bullets[column] += isBullet(piece, lines, parameters.markers);
+        }
+    }
+    std::vector<ColumnGap> kept;
+    for (std::size_t i = 0; i < gaps.size(); ++i)
+        if (bullets[i] < parameters.tables.bulletShare * pieces[i])
+            kept.push_back(gaps[i]);
+    return kept;
+}
+
+TableGrid gridOf(const AlignedRows& aligned, double margin) {
+    TableGrid grid;
+    Rect box;
+    for (std::size_t row = 0; row < aligned.groups.size(); ++row) {
+        const Rect text = boxOf(aligned, aligned.groups[row]);
+        grid.rowEdges.push_back(row == 0 ? text.top : (box.bottom + text.top) / 2);
+        box = box.united(text);
+        for (const ColumnRange& range : cellRanges(aligned, aligned.groups[row]))
+            grid.cells.push_back({static_cast<int>(row), range.first, 1, range.last - range.first + 1});
+    }
+    grid.rowEdges.push_back(box.bottom);
+    grid.columnEdges.push_back(box.left - margin);
+    for (const ColumnGap& gap : aligned.gaps)
+        grid.columnEdges.push_back(std::max(gap.middle(), gap.right - margin));
+    grid.columnEdges.push_back(box.right + margin);
+    return grid;
+}
+
+} // namespace orvane::layout

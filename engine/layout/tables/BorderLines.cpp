@@ -1,0 +1,127 @@
+#include "layout/tables/BorderLines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <tuple>
+
+namespace orvane::layout {
+namespace {
+
+/// Grows one line rule by rule.
+class LineMerger {
+public:
+    explicit LineMerger(RuleDirection direction) { m_line.direction = direction; }
+
+    void add(const Rule& rule, std::size_t index, double from, double to) {
+        const double length = to - from;
+        if (!m_line.rules.empty() && std::abs(rule.position - m_last->position) > (rule.width + m_last->width) / 2)
+            m_doubledLength += overlap(from, to, m_last->from, m_last->to);
+        m_weightedPosition += rule.position * length;
+        m_weight += length;
+        m_line.from = m_line.rules.empty() ? from : std::min(m_line.from, from);
+        m_line.to = m_line.rules.empty() ? to : std::max(m_line.to, to);
+        m_line.rules.push_back(index);
+        m_last = &rule;
+    }
+    bool isEmpty() const { return m_line.rules.empty(); }
+    double end() const { return m_line.to; }
+
+    BorderLine finish(double doubledShare) {
+        m_line.position = m_weight > 0 ? m_weightedPosition / m_weight : m_last->position;
+        m_line.isDouble = m_doubledLength > doubledShare * m_line.length();
+        return std::move(m_line);
+    }
+
+private:
+    BorderLine m_line;
+    const Rule* m_last = nullptr;
+    double m_weightedPosition = 0;
+    double m_weight = 0;
+    double m_doubledLength = 0;
+};
+
+/// Joins the rules of one position, [first, last) of `order`, where they touch or overlap.
+void mergeGroup(const std::vector<Rule>& rules, std::vector<std::size_t>::iterator first,
+                std::vector<std::size_t>::iterator last, const LayoutParameters::Tables& parameters,
+                std::vector<BorderLine>& lines) {
+    std::sort(first, last, [&](std::size_t a, std::size_t b) {
+        return std::tie(rules[a].from, rules[a].position, a) < std::tie(rules[b].from, rules[b].position, b);
+    });
+    const RuleDirection direction = rules[*first].direction;
+    LineMerger merger(direction);
+    const auto finish = [&] {
+        BorderLine line = merger.finish(parameters.doubledShare);
+        if (line.length() >= parameters.minimumLineLength)
+            lines.push_back(std::move(line));
+    };
+    for (auto it = first; it != last; ++it) {
+        const Rule& rule = rules[*it];
+        if (!merger.isEmpty() && rule.from > merger.end() + parameters.joinGap) {
+            finish();
+            merger = LineMerger(direction);
+        }
+        merger.add(rule, *it, rule.from, rule.to);
+    }
+    finish();
+}
+
+} // namespace
+
+std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const LayoutParameters::Tables& parameters) {
+    std::vector<std::size_t> order;
+    for (std::size_t i = 0; i < rules.size(); ++i)
+        if (!rules[i].isUsed)
+            order.push_back(i);
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return std::tie(rules[a].direction, rules[a].position, a) < std::tie(rules[b].direction, rules[b].position, b);
+    });
+    std::vector<BorderLine> lines;
+    for (auto first = order.begin(); first != order.end();) {
+        const auto last = std::find_if(first, order.end(), [&](std::size_t i) {
+            return rules[i].direction != rules[*first].direction ||
+                   rules[i].position > rules[*first].position + parameters.lineSnap;
+        });
+        mergeGroup(rules, first, last, parameters, lines);
+        first = last;
+    }
+    return lines;
+}
+
+document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
+                             RuleDirection direction, double position, double from, double to,
+                             const LayoutParameters::Tables& parameters) {
+    // The side takes the look that covers most of it.
+    std::map<std::size_t, double> coverByRule;
+    double covered = 0;
+    bool isDouble = false;
+    const auto addRule = [&](std::size_t index, bool countsDouble) {
+        const Rule& rule = rules[index];
+        const double shared =
+            overlap(rule.from - parameters.joinGap, rule.to + parameters.joinGap, from, to) / (countsDouble ? 2 : 1);
+        if (shared > 0)
+            coverByRule[index] += shared;
+        covered += shared;
+    };
+    for (const BorderLine& line : lines) {
+        if (line.direction != direction || std::abs(line.position - position) > parameters.lineSnap)
+            continue;
+        if (overlap(line.from - parameters.joinGap, line.to + parameters.joinGap, from, to) <= 0)
+            continue;
+        isDouble = isDouble || line.isDouble;
+        for (const std::size_t index : line.rules)
+            addRule(index, line.isDouble);
+    }
+    document::Border border;
+    if (coverByRule.empty() || covered < parameters.borderCover * (to - from))
+        return border;
+    const auto widest = std::max_element(coverByRule.begin(), coverByRule.end(),
+                                         [](const auto& a, const auto& b) { return a.second < b.second; });
+    const Rule& rule = rules[widest->first];
+    border.kind = isDouble ? document::BorderKind::Double : rule.kind;
+    border.width = std::max(EighthPoints(2), eighthPointsFromPoints(rule.width));
+    border.color = rule.color;
+    return border;
+}
+
+} // namespace orvane::layout

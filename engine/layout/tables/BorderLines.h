@@ -1,0 +1,30 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/text/PageText.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// A straight line of a drawn grid: the rules of a page that continue or double each other, seen as one.
+struct BorderLine {
+    RuleDirection direction = RuleDirection::Horizontal;
+    double position = 0; ///< y of a horizontal line, x of a vertical one
+    double from = 0;     ///< along its direction
+    double to = 0;
+    bool isDouble = false;          ///< two rules side by side
+    std::vector<std::size_t> rules; ///< indices into PageText::rules
+
+    double length() const { return to - from; }
+};
+
+/// The lines that the page's rules make, horizontal ones first, each direction by position.
+std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const LayoutParameters::Tables& parameters);
+
+/// What is drawn along one side of a cell; BorderKind::None where the rules do not cover it.
+document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
+                             RuleDirection direction, double position, double from, double to,
+                             const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout

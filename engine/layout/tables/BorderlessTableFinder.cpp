@@ -1,0 +1,131 @@
+#include "layout/tables/BorderlessTableFinder.h"
+
+#include "layout/tables/AlignedAdmission.h"
+#include "layout/tables/ProseMask.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// The rows of the page that may belong to a table: running text and what lies within drawings is left out.
+std::vector<PieceRow> candidateRows(const PageText& page, const LayoutParameters::Tables& parameters) {
+    std::vector<TextPiece> pieces = cutIntoPieces(page.lines, parameters);
+    const std::vector<char> isProse = markProse(pieces, parameters);
+    std::vector<TextPiece> kept;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        const bool isDrawn = std::any_of(page.figures.begin(), page.figures.end(), [&](const Figure& figure) {
+            return !figure.isBackground && figure.box.intersects(pieces[i].box);
+        });
+        if (!isProse[i] && !isDrawn)
+            kept.push_back(std::move(pieces[i]));
+    }
+    return groupIntoRows(std::move(kept), parameters);
+}
+
+/// Grows a table downwards from a row with at least two pieces.
+class RegionGrower {
+public:
+    RegionGrower(const std::vector<PieceRow>& rows, const LayoutParameters::Tables& parameters)
+        : m_rows(rows)
+        , m_parameters(parameters) {}
+
+    /// One past the last row of the region that starts at `first`, texts that may go on from it included; `first` when
+    /// there is none.
+    std::size_t grow(std::size_t first) {
+        if (!isMulti(first))
+            return first;
+        m_region = {m_rows[first]};
+        m_gaps.clear();
+        m_leastSpace = 1e9;
+        std::size_t end = first;
+        for (std::size_t i = first + 1; i < m_rows.size() && isNear(i); ++i) {
+            if (isMulti(i) ? !takeMulti(i) : !takeSingle(i))
+                break;
+            end = i + 1;
+        }
+        return m_gaps.empty() ? first : end;
+    }
+
+private:
+    bool isMulti(std::size_t i) const { return m_rows[i].pieces.size() >= 2; }
+
+    /// Whether the space above the row is no larger than between rows of one table.
+    bool isNear(std::size_t i) {
+        const double space = m_rows[i].box.top - m_rows[i - 1].box.bottom;
+        const double usual = std::max(m_leastSpace < 1e8 ? m_leastSpace * m_parameters.rowSpaceGrowth : 0.0,
+                                      m_parameters.maximumRowSpace * m_rows[i].fontSize);
+        m_leastSpace = std::min(m_leastSpace, std::max(space, 0.0));
+        return space <= usual;
+    }
+
+    /// A row with several pieces joins while the columns stay.
+    bool takeMulti(std::size_t i) {
+        m_region.push_back(m_rows[i]);
+        std::vector<ColumnGap> gaps = findColumnGaps(m_region, m_parameters);
+        if (gaps.empty() ||
+            static_cast<double>(gaps.size()) < m_parameters.keptGapShare * static_cast<double>(m_gaps.size())) {
+            m_region.pop_back();
+            return false;
+        }
+        m_gaps = std::move(gaps);
+        return true;
+    }
+
+    /// A row with one piece joins within a column, or as a heading over several if a row of the table follows.
+    bool takeSingle(std::size_t i) {
+        const ColumnRange range = columnsOf(m_rows[i].pieces.front(), m_gaps);
+        const bool isWithin = range.first == range.last;
+        if (!isWithin && (i + 1 >= m_rows.size() || !isMulti(i + 1) || !isMulti(i - 1)))
+            return false;
+        m_region.push_back(m_rows[i]);
+        return true;
+    }
+
+    const std::vector<PieceRow>& m_rows;
+    const LayoutParameters::Tables& m_parameters;
+    std::vector<PieceRow> m_region;
+    std::vector<ColumnGap> m_gaps;
+    double m_leastSpace = 1e9;
+};
+
+AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, std::size_t end,
+                        const std::vector<Line>& lines, const LayoutParameters& parameters) {
+    AlignedRows aligned;
+    aligned.rows.assign(rows.begin() + static_cast<std::ptrdiff_t>(first),
+                        rows.begin() + static_cast<std::ptrdiff_t>(end));
+    aligned.gaps = findTableColumns(aligned.rows, lines, parameters);
+    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, parameters.tables);
+    // What follows the last full row and is no part of it is other text.
+    while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&
+           aligned.rows.back().pieces.size() == 1) {
+        aligned.groups.pop_back();
+        aligned.rows.pop_back();
+    }
+    return aligned;
+}
+
+} // namespace
+
+std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters& parameters) {
+    const std::vector<PieceRow> rows = candidateRows(page, parameters.tables);
+    RegionGrower grower(rows, parameters.tables);
+    std::vector<TableGrid> grids;
+    for (std::size_t first = 0; first < rows.size();) {
+        const std::size_t end = grower.grow(first);
+        bool isTable = false;
+        std::size_t rowCount = 0;
+        if (end > first) {
+            const AlignedRows aligned = alignRegion(rows, first, end, page.lines, parameters);
+            rowCount = aligned.rows.size();
+            isTable =
+                judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) == TableVerdict::Table;
+            if (isTable)
+                grids.push_back(gridOf(aligned, parameters.tables.textMargin));
+        }
+        first = isTable ? first + rowCount : first + 1;
+    }
+    return grids;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,166 @@
+#include "layout/tables/CellAlignment.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+using document::CellAlignment;
+
+/// The smallest and largest of some values.
+struct Range {
+    double low = 1e9;
+    double high = -1e9;
+
+    void add(double value) {
+        low = std::min(low, value);
+        high = std::max(high, value);
+    }
+    double width() const { return high - low; }
+};
+
+/// How far the lines of some cells keep the distances to their cells' sides.
+struct Edges {
+    Range left;
+    Range right;
+    Range middle; ///< left distance less right distance
+    int lines = 0;
+
+    void add(const Edges& other) {
+        if (other.lines == 0)
+            return;
+        for (const auto& [range, added] :
+             {std::pair{&left, &other.left}, {&right, &other.right}, {&middle, &other.middle}}) {
+            range->add(added->low);
+            range->add(added->high);
+        }
+        lines += other.lines;
+    }
+    void add(const Rect& line, ColumnSpan room) {
+        const double leftGap = line.left - room.left;
+        const double rightGap = room.right - line.right;
+        left.add(leftGap);
+        right.add(rightGap);
+        middle.add(leftGap - rightGap);
+        ++lines;
+    }
+};
+
+/// The edge that the lines keep; nothing when they keep none, or when they are all of one width and keep all.
+std::optional<Alignment> keptEdge(const Edges& edges, double tolerance) {
+    const bool isLeft = edges.left.width() <= tolerance;
+    const bool isRight = edges.right.width() <= tolerance;
+    const bool isMiddle = edges.middle.width() <= 2 * tolerance;
+    if (edges.lines < 2 || (isLeft && isRight))
+        return std::nullopt;
+    if (isLeft)
+        return Alignment::Start;
+    if (isRight)
+        return Alignment::End;
+    if (isMiddle && edges.middle.low >= -2 * tolerance && edges.middle.high <= 2 * tolerance)
+        return Alignment::Center;
+    return std::nullopt;
+}
+
+/// What a cell's own gaps say: text in the middle, or at the right.
+Alignment alignmentByGaps(const Edges& edges, double tolerance, const LayoutParameters::Tables& parameters) {
+    const double left = edges.left.low;
+    const double right = edges.right.low;
+    const double difference = std::max(2 * tolerance, parameters.centerShare * (left + right));
+    if (std::abs(left - right) <= difference && left > 2 * tolerance)
+        return Alignment::Center;
+    return right < left ? Alignment::End : Alignment::Start;
+}
+
+template<typename Function>
+void forParagraphs(CellDraft& cell, const Function& function) {
+    for (PageBlock& block : cell.blocks)
+        if (auto* paragraph = std::get_if<ParagraphDraft>(&block.value))
+            function(*paragraph);
+}
+
+Edges edgesOf(CellDraft& cell, ColumnSpan room) {
+    Edges edges;
+    forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
+        for (const Line& line : paragraph.lines)
+            edges.add(line.box, room);
+    });
+    return edges;
+}
+
+double fontSizeOf(const TableDraft& table) {
+    for (const CellDraft& cell : table.cells)
+        for (const PageBlock& block : cell.blocks)
+            if (const auto* paragraph = std::get_if<ParagraphDraft>(&block.value))
+                return paragraph->lines.front().fontSize;
+    return 10;
+}
+
+/// What a cell's own lines say about it, and failing that its column, and failing that its gaps.
+Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofColumn, double tolerance,
+                          const LayoutParameters::Tables& parameters) {
+    if (const auto kept = keptEdge(own, tolerance))
+        return *kept;
+    return ofColumn ? *ofColumn : alignmentByGaps(own, tolerance, parameters);
+}
+
+/// Sets an alignment against the cell's sides. Justified text, and text of right-to-left lines, knows better by itself.
+void setAlignment(ParagraphDraft& paragraph, Alignment alignment, const Rect& cell) {
+    if (paragraph.alignment == Alignment::Justified || paragraph.alignment == alignment ||
+        paragraph.lines.front().isRightToLeft)
+        return;
+    paragraph.alignment = alignment;
+    paragraph.indentEnd = 0;
+    paragraph.firstLine = 0;
+    paragraph.indentStart = alignment == Alignment::Start ? paragraph.box.left - cell.left : 0;
+}
+
+} // namespace
+
+void alignAcross(TableDraft& table, const ColumnRooms& rooms, const LayoutParameters::Tables& parameters) {
+    const double tolerance = parameters.edgeTolerance * fontSizeOf(table);
+    std::vector<Edges> columns(table.columnEdges.size());
+    const auto isOfColumn = [&](const CellDraft& cell) { return cell.columnSpan == 1 && cell.row >= table.headerRows; };
+    for (CellDraft& cell : table.cells)
+        if (isOfColumn(cell))
+            columns[static_cast<std::size_t>(cell.column)].add(edgesOf(cell, rooms.roomOf(cell.column, 1)));
+    for (CellDraft& cell : table.cells) {
+        const ColumnSpan room = rooms.roomOf(cell.column, cell.columnSpan);
+        const Edges own = edgesOf(cell, room);
+        if (own.lines == 0)
+            continue;
+        std::optional<Alignment> ofColumn;
+        if (isOfColumn(cell))
+            ofColumn = keptEdge(columns[static_cast<std::size_t>(cell.column)], tolerance);
+        const Alignment alignment = chooseAlignment(own, ofColumn, tolerance, parameters);
+        forParagraphs(cell, [&](ParagraphDraft& paragraph) { setAlignment(paragraph, alignment, cell.box); });
+    }
+}
+
+void alignUpright(TableDraft& table, const LayoutParameters::Tables& parameters) {
+    for (CellDraft& cell : table.cells) {
+        Range extent;
+        double fontSize = 0;
+        forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
+            extent.add(paragraph.box.top);
+            extent.add(paragraph.box.bottom);
+            fontSize = std::max(fontSize, paragraph.lines.front().fontSize);
+        });
+        if (fontSize == 0)
+            continue;
+        const double above = extent.low - cell.box.top;
+        const double below = cell.box.bottom - extent.high;
+        // Without room to move the text shows nothing.
+        if (above + below < parameters.uprightRoom * fontSize)
+            continue;
+        if (std::abs(above - below) <= parameters.uprightTolerance * fontSize)
+            cell.alignment = CellAlignment::Center;
+        else if (below < above)
+            cell.alignment = CellAlignment::Bottom;
+    }
+}
+
+} // namespace orvane::layout

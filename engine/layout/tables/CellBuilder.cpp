@@ -1,0 +1,125 @@
+#include "layout/tables/CellBuilder.h"
+
+#include "layout/tables/CellAlignment.h"
+#include "layout/tables/CellLook.h"
+#include "layout/tables/CellParagraphs.h"
+#include "layout/tables/TableHead.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace orvane::layout {
+namespace {
+
+/// The direction in which most of the lines read.
+document::TextDirection directionOf(const std::vector<Line>& lines) {
+    std::map<document::TextDirection, std::size_t> words;
+    for (const Line& line : lines) {
+        const double turn = std::fmod(line.angle + 360, 360);
+        const auto direction = turn == 90    ? document::TextDirection::Downwards
+                               : turn == 270 ? document::TextDirection::Upwards
+                                             : document::TextDirection::Horizontal;
+        words[direction] += line.words.size();
+    }
+    const auto most =
+        std::max_element(words.begin(), words.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+    return most == words.end() ? document::TextDirection::Horizontal : most->first;
+}
+
+double topOf(const PageBlock& block) {
+    if (const auto* paragraph = std::get_if<ParagraphDraft>(&block.value))
+        return paragraph->box.top;
+    if (const auto* table = std::get_if<TableDraft>(&block.value))
+        return table->box.top;
+    return std::get<FigureDraft>(block.value).figure.box.top;
+}
+
+Point middleOf(const Rect& box) {
+    return {box.centerX(), box.centerY()};
+}
+
+/// Puts a block into the cell that holds its middle, at its place from top to bottom.
+bool placeBlock(TableDraft& table, const Rect& box, PageBlock block) {
+    for (CellDraft& cell : table.cells) {
+        if (!cell.box.contains(middleOf(box)))
+            continue;
+        const double top = topOf(block);
+        const auto after = std::find_if(cell.blocks.begin(), cell.blocks.end(),
+                                        [&](const PageBlock& other) { return topOf(other) > top; });
+        cell.blocks.insert(after, std::move(block));
+        return true;
+    }
+    return false;
+}
+
+void takeFigures(TableDraft& table, std::vector<Figure>& figures) {
+    std::erase_if(figures, [&](const Figure& figure) {
+        if (figure.isBackground || !table.box.contains(middleOf(figure.box)))
+            return false;
+        PageBlock block;
+        block.value = FigureDraft{figure, true};
+        return placeBlock(table, figure.box, std::move(block));
+    });
+}
+
+bool isMostlyRightToLeft(const std::vector<std::vector<Line>>& linesOfCell) {
+    std::size_t words = 0;
+    std::size_t rightToLeft = 0;
+    for (const std::vector<Line>& lines : linesOfCell) {
+        for (const Line& line : lines) {
+            words += line.words.size();
+            rightToLeft += line.isRightToLeft ? line.words.size() : 0;
+        }
+    }
+    return 2 * rightToLeft > words;
+}
+
+CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> lines, const ColumnRooms& rooms,
+                    const ParagraphContext& context, const LayoutParameters& parameters) {
+    CellDraft cell;
+    cell.row = place.row;
+    cell.column = place.column;
+    cell.rowSpan = place.rowSpan;
+    cell.columnSpan = place.columnSpan;
+    cell.box = box;
+    cell.direction = directionOf(lines);
+    const ColumnSpan room = rooms.roomOf(place.column, place.columnSpan);
+    for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(lines), box, room, context, parameters))
+        cell.blocks.emplace_back().value = std::move(paragraph);
+    return cell;
+}
+
+} // namespace
+
+TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, TableEdges edges,
+                      const std::vector<BorderLine>& lines, std::vector<TableDraft> nested,
+                      const ParagraphContext& context, const LayoutParameters& parameters) {
+    const LayoutParameters::Tables& limits = parameters.tables;
+    TableDraft table;
+    table.box = grid.box();
+    table.columnEdges = grid.columnEdges;
+    table.rowEdges = grid.rowEdges;
+    table.isRuled = edges != TableEdges::Aligned;
+    std::vector<std::vector<Line>> linesOfCell = takeWords(page.lines, text);
+    table.isRightToLeft = isMostlyRightToLeft(linesOfCell);
+    const ColumnRooms rooms(grid, linesOfCell, edges);
+    for (std::size_t i = 0; i < grid.cells.size(); ++i)
+        table.cells.push_back(
+            buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms, context, parameters));
+    drawBorders(table, page.rules, lines, limits);
+    shadeCells(table, page.grounds, limits);
+    table.headerRows = countHeaderRows(table, limits);
+    alignAcross(table, rooms, limits);
+    alignUpright(table, limits);
+    takeFigures(table, page.figures);
+    for (TableDraft& inner : nested) {
+        const Rect box = inner.box;
+        PageBlock block;
+        block.value = std::move(inner);
+        placeBlock(table, box, std::move(block));
+    }
+    return table;
+}
+
+} // namespace orvane::layout

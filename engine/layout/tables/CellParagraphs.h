@@ -1,0 +1,15 @@
+#pragma once
+
+#include "layout/page/PageLayout.h"
+#include "layout/paragraphs/LineMeasures.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// The lines of one cell as paragraphs, top to bottom; what stands on one baseline becomes one line. `room` is what the
+/// lines were broken in; the paragraphs' indents count from the sides of `cell`.
+std::vector<ParagraphDraft> buildCellParagraphs(std::vector<Line> lines, const Rect& cell, ColumnSpan room,
+                                                const ParagraphContext& context, const LayoutParameters& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,179 @@
+#include "layout/tables/ColumnGaps.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+/// How many pieces stand over a stretch of x.
+struct Stretch {
+    double left = 0;
+    double right = 0;
+    int cover = 0;
+};
+
+std::vector<Stretch> coverProfile(std::span<const PieceRow> rows) {
+    std::vector<std::pair<double, int>> events;
+    for (const PieceRow& row : rows) {
+        for (const TextPiece& piece : row.pieces) {
+            events.emplace_back(piece.box.left, 1);
+            events.emplace_back(piece.box.right, -1);
+        }
+    }
+    std::sort(events.begin(), events.end());
+    std::vector<Stretch> profile;
+    int cover = 0;
+    for (std::size_t i = 0; i + 1 < events.size(); ++i) {
+        cover += events[i].second;
+        if (events[i + 1].first > events[i].first)
+            profile.push_back({events[i].first, events[i + 1].first, cover});
+    }
+    return profile;
+}
+
+/// The stretches that at most `allowed` pieces cover, neighbours joined.
+std::vector<ColumnGap> thinStretches(const std::vector<Stretch>& profile, int allowed) {
+    std::vector<ColumnGap> thin;
+    bool isOpen = false;
+    for (const Stretch& stretch : profile) {
+        if (stretch.cover > allowed) {
+            isOpen = false;
+            continue;
+        }
+        if (isOpen)
+            thin.back().right = stretch.right;
+        else
+            thin.push_back({stretch.left, stretch.right});
+        isOpen = true;
+    }
+    return thin;
+}
+
+/// Pieces one below the other, seen as one.
+struct PieceStack {
+    double left = 0;
+    double right = 0;
+    int pieces = 0;
+};
+
+std::vector<PieceStack> stacksWithin(const ColumnGap& thin, std::span<const PieceRow> rows) {
+    std::vector<PieceStack> inner;
+    for (const PieceRow& row : rows)
+        for (const TextPiece& piece : row.pieces)
+            if (piece.box.left > thin.left && piece.box.right < thin.right)
+                inner.push_back({piece.box.left, piece.box.right, 1});
+    std::sort(inner.begin(), inner.end(), [](const PieceStack& a, const PieceStack& b) { return a.left < b.left; });
+    std::vector<PieceStack> stacks;
+    for (const PieceStack& piece : inner) {
+        if (stacks.empty() || piece.left >= stacks.back().right) {
+            stacks.push_back(piece);
+        } else {
+            stacks.back().right = std::max(stacks.back().right, piece.right);
+            ++stacks.back().pieces;
+        }
+    }
+    return stacks;
+}
+
+/// The parts of a thin stretch that are left when a column with few entries inside it is taken out. One piece alone is
+/// no column: a heading over the columns at both sides.
+std::vector<ColumnGap> withoutThinColumns(const ColumnGap& thin, std::span<const PieceRow> rows) {
+    std::vector<ColumnGap> parts;
+    double from = thin.left;
+    for (const PieceStack& stack : stacksWithin(thin, rows)) {
+        if (stack.pieces < 2)
+            continue;
+        parts.push_back({from, stack.left});
+        from = stack.right;
+    }
+    parts.push_back({from, thin.right});
+    return parts;
+}
+
+/// In how many rows text stands on both sides of the gap without reaching over it.
+int countRowsParted(const ColumnGap& gap, std::span<const PieceRow> rows) {
+    return static_cast<int>(std::count_if(rows.begin(), rows.end(), [&](const PieceRow& row) {
+        const bool isCrossed = std::any_of(row.pieces.begin(), row.pieces.end(),
+                                           [&](const TextPiece& piece) { return crosses(piece, gap); });
+        return !isCrossed && row.pieces.front().box.left < gap.middle() && row.pieces.back().box.right > gap.middle();
+    }));
+}
+
+/// The part of the gap that fewest pieces cover: a long text that reaches into the gap does not narrow the other rows.
+/// Headings that stand within the gap do not count.
+ColumnGap clearestPart(const ColumnGap& gap, std::span<const PieceRow> rows) {
+    std::vector<PieceRow> reaching(1);
+    // The gap itself as a piece, so that all of it has a cover.
+    reaching.front().pieces.push_back({0, 0, 0, {gap.left, 0, gap.right, 0}, 0, 0});
+    for (const PieceRow& row : rows)
+        for (const TextPiece& piece : row.pieces)
+            if (piece.box.right > gap.left && piece.box.left < gap.right &&
+                (piece.box.left <= gap.left || piece.box.right >= gap.right))
+                reaching.front().pieces.push_back(piece);
+    const std::vector<Stretch> profile = coverProfile(reaching);
+    int least = 1 << 30;
+    for (const Stretch& stretch : profile)
+        if (stretch.left >= gap.left && stretch.right <= gap.right)
+            least = std::min(least, stretch.cover);
+    ColumnGap clearest{gap.left, gap.left};
+    for (const ColumnGap& part : thinStretches(profile, least)) {
+        const ColumnGap within{std::max(part.left, gap.left), std::min(part.right, gap.right)};
+        if (within.width() > clearest.width())
+            clearest = within;
+    }
+    return clearest;
+}
+
+std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters) {
+    const auto rowCount = static_cast<double>(rows.size());
+    const int allowed = static_cast<int>(parameters.crossedRowShare * rowCount);
+    double fontSize = 0;
+    for (const PieceRow& row : rows)
+        fontSize += row.fontSize / rowCount;
+    std::vector<ColumnGap> gaps;
+    for (const ColumnGap& thin : thinStretches(coverProfile(rows), allowed)) {
+        for (const ColumnGap& part : withoutThinColumns(thin, rows)) {
+            const ColumnGap gap = clearestPart(part, rows);
+            if (gap.width() >= parameters.minimumColumnGap * fontSize &&
+                countRowsParted(gap, rows) >= parameters.minimumRowsParted)
+                gaps.push_back(gap);
+        }
+    }
+    return gaps;
+}
+
+/// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
+std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters) {
+    std::vector<PieceRow> telling;
+    for (const PieceRow& row : rows)
+        if (row.pieces.size() > 1)
+            telling.push_back(row);
+    const std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
+    for (const PieceRow& row : rows) {
+        const ColumnRange range = columnsOf(row.pieces.front(), gaps);
+        if (row.pieces.size() == 1 && range.first == range.last)
+            telling.push_back(row);
+    }
+    return telling;
+}
+
+} // namespace
+
+std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters) {
+    return gapsAmong(tellingRows(rows, parameters), parameters);
+}
+
+ColumnRange columnsOf(const TextPiece& piece, const std::vector<ColumnGap>& gaps) {
+    ColumnRange range;
+    for (const ColumnGap& gap : gaps) {
+        range.first += piece.box.left >= gap.left - 0.01;
+        range.last += piece.box.right > gap.right + 0.01;
+    }
+    // Within one gap: the first column counted the gap, the last one did not.
+    if (range.last < range.first)
+        std::swap(range.first, range.last);
+    return range;
+}
+
+} // namespace orvane::layout

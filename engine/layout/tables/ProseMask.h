@@ -1,0 +1,13 @@
+#pragma once
+
+#include "layout/tables/TextPiece.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// For each piece whether it is a line of running text: one of several long lines one below the other that fill their
+/// column.
+std::vector<char> markProse(const std::vector<TextPiece>& pieces, const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,127 @@
+#include "layout/tables/RowGrouper.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace orvane::layout {
+namespace {
+
+/// The pieces of a row by column; a piece over several columns stands at its first.
+struct RowContent {
+    std::map<int, const TextPiece*> byColumn;
+    bool hasSpan = false;
+    bool hasNumber = false;
+    bool isBold = true;
+};
+
+bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
+    const std::string& text = lines[piece.line].words[piece.firstWord].spans.front().text;
+    return !text.empty() && text.front() >= 'a' && text.front() <= 'z';
+}
+
+class GroupBuilder {
+public:
+    GroupBuilder(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
+                 const LayoutParameters::Tables& parameters)
+        : m_rows(rows)
+        , m_gaps(gaps)
+        , m_lines(lines)
+        , m_parameters(parameters) {
+        for (const PieceRow& row : rows)
+            m_contents.push_back(contentOf(row));
+        measureColumns();
+        measurePitch();
+    }
+
+    std::vector<RowGroup> join() const {
+        std::vector<RowGroup> groups;
+        std::set<int> filled;
+        for (std::size_t i = 0; i < m_rows.size(); ++i) {
+            if (i == 0 || !goesOn(i, filled)) {
+                groups.push_back({i, i});
+                filled.clear();
+            }
+            groups.back().end = i + 1;
+            for (const auto& [column, piece] : m_contents[i].byColumn)
+                filled.insert(column);
+        }
+        return groups;
+    }
+
+private:
+    RowContent contentOf(const PieceRow& row) const {
+        RowContent content;
+        for (const TextPiece& piece : row.pieces) {
+            const ColumnRange range = columnsOf(piece, m_gaps);
+            content.byColumn.try_emplace(range.first, &piece);
+            content.hasSpan = content.hasSpan || range.first != range.last;
+            content.hasNumber = content.hasNumber || isNumeric(piece, m_lines);
+            content.isBold = content.isBold && m_lines[piece.line].words[piece.firstWord].spans.front().look.isBold;
+        }
+        return content;
+    }
+
+    void measureColumns() {
+        for (const RowContent& content : m_contents) {
+            for (const auto& [column, piece] : content.byColumn) {
+                double& right = m_columnRights.try_emplace(column, piece->box.right).first->second;
+                right = std::max(right, piece->box.right);
+            }
+        }
+    }
+
+    void measurePitch() {
+        for (std::size_t i = 1; i < m_rows.size(); ++i) {
+            const double pitch = m_rows[i].baseline - m_rows[i - 1].lastBaseline;
+            if (m_leastPitch == 0 || pitch < m_leastPitch)
+                m_leastPitch = pitch;
+        }
+    }
+
+    /// Whether row `i` stands so close below the one before as lines of one text do.
+    bool isTight(std::size_t i) const {
+        const double pitch = m_rows[i].baseline - m_rows[i - 1].lastBaseline;
+        return pitch <= m_parameters.wrapPitch * m_rows[i].fontSize && pitch <= m_parameters.samePitch * m_leastPitch;
+    }
+
+    /// Whether `piece` reads on from `above`, which was so long that the first word did not fit into the column.
+    bool isWrapped(const TextPiece& above, const TextPiece& piece, int column) const {
+        if (startsLowerCase(piece, m_lines))
+            return true;
+        const double firstWord = m_lines[piece.line].words[piece.firstWord].box.width();
+        const double room = m_columnRights.at(column) - above.box.right;
+        return firstWord + m_parameters.blankWidth * piece.fontSize > room;
+    }
+
+    bool goesOn(std::size_t i, const std::set<int>& filled) const {
+        const RowContent& above = m_contents[i - 1];
+        const RowContent& content = m_contents[i];
+        if (!isTight(i) || content.hasSpan || above.hasSpan || content.hasNumber || content.isBold != above.isBold)
+            return false;
+        for (const auto& [column, piece] : content.byColumn) {
+            const auto before = above.byColumn.find(column);
+            if (before == above.byColumn.end() ? filled.count(column) == 0
+                                               : !isWrapped(*before->second, *piece, column))
+                return false;
+        }
+        return content.byColumn.size() < filled.size();
+    }
+
+    std::span<const PieceRow> m_rows;
+    const std::vector<ColumnGap>& m_gaps;
+    const std::vector<Line>& m_lines;
+    const LayoutParameters::Tables& m_parameters;
+    std::vector<RowContent> m_contents;
+    std::map<int, double> m_columnRights;
+    double m_leastPitch = 0;
+};
+
+} // namespace
+
+std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
+                                const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+    return GroupBuilder(rows, gaps, lines, parameters).join();
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,230 @@
+#include "layout/tables/RuleLattice.h"
+
+#include "layout/support/DisjointSets.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <map>
+
+namespace orvane::layout {
+namespace {
+
+/// The distinct positions among ascending `values`: those nearer than `snap` to the one before are one.
+std::vector<double> clusterPositions(std::vector<double> values, double snap) {
+    std::sort(values.begin(), values.end());
+    std::vector<double> positions;
+    for (std::size_t first = 0; first < values.size();) {
+        std::size_t last = first;
+        double sum = 0;
+        while (last < values.size() && values[last] <= values[first] + snap)
+            sum += values[last++];
+        positions.push_back(sum / static_cast<double>(last - first));
+        first = last;
+    }
+    return positions;
+}
+
+std::size_t nearestIndex(const std::vector<double>& positions, double value) {
+    const auto after = std::lower_bound(positions.begin(), positions.end(), value);
+    if (after == positions.begin())
+        return 0;
+    if (after == positions.end() || value - *(after - 1) < *after - value)
+        return static_cast<std::size_t>(after - positions.begin()) - 1;
+    return static_cast<std::size_t>(after - positions.begin());
+}
+
+/// Positions of the lines of one direction, and the ends of at least two lines of the other that reach beyond them: a
+/// table without its outer border.
+std::vector<double> edgePositions(const std::vector<const BorderLine*>& along,
+                                  const std::vector<const BorderLine*>& across,
+                                  const LayoutParameters::Tables& parameters) {
+    std::vector<double> values;
+    for (const BorderLine* line : along)
+        values.push_back(line->position);
+    std::vector<double> positions = clusterPositions(values, parameters.lineSnap);
+    std::vector<double> starts, ends;
+    for (const BorderLine* line : across) {
+        starts.push_back(line->from);
+        ends.push_back(line->to);
+    }
+    // The second farthest: one line alone that overshoots makes no column.
+    if (starts.size() >= 2) {
+        std::nth_element(starts.begin(), starts.begin() + 1, starts.end());
+        std::nth_element(ends.begin(), ends.begin() + 1, ends.end(), std::greater<>());
+        if (positions.empty() || starts[1] < positions.front() - parameters.minimumCellSide)
+            positions.insert(positions.begin(), starts[1]);
+        if (ends[1] > positions.back() + parameters.minimumCellSide)
+            positions.push_back(ends[1]);
+    }
+    return positions;
+}
+
+/// Calls `mark(i)` for every interval of `edges` that the line covers.
+void forCoveredIntervals(const BorderLine& line, const std::vector<double>& edges,
+                         const LayoutParameters::Tables& parameters, const std::function<void(std::size_t)>& mark) {
+    const auto start = std::upper_bound(edges.begin(), edges.end(), line.from);
+    std::size_t i = start == edges.begin() ? 0 : static_cast<std::size_t>(start - edges.begin()) - 1;
+    for (; i + 1 < edges.size() && edges[i] < line.to; ++i) {
+        const double length = edges[i + 1] - edges[i];
+        const double drawn = overlap(line.from, line.to, edges[i], edges[i + 1]);
+        const double joined =
+            overlap(line.from - parameters.joinGap, line.to + parameters.joinGap, edges[i], edges[i + 1]);
+        if (joined >= (1 - parameters.missingShare) * length && drawn >= parameters.borderCover * length)
+            mark(i);
+    }
+}
+
+bool coversAnInterval(const BorderLine& line, const std::vector<double>& edges,
+                      const LayoutParameters::Tables& parameters) {
+    bool covers = false;
+    forCoveredIntervals(line, edges, parameters, [&](std::size_t) { covers = true; });
+    return covers;
+}
+
+/// The lines of a group by direction, with their positions across. Lines that end within a cell (a blank to be filled
+/// in, an arrow) are dropped: they border nothing.
+class LatticeBuilder {
+public:
+    LatticeBuilder(const std::vector<BorderLine>& lines, const LineGroup& group,
+                   const LayoutParameters::Tables& parameters)
+        : m_parameters(parameters) {
+        for (const std::size_t i : group)
+            (lines[i].direction == RuleDirection::Horizontal ? m_horizontal : m_vertical).push_back(&lines[i]);
+    }
+
+    std::optional<RuleLattice> build() {
+        for (bool isStable = false; !isStable;) {
+            m_lattice.xs = edgePositions(m_vertical, m_horizontal, m_parameters);
+            m_lattice.ys = edgePositions(m_horizontal, m_vertical, m_parameters);
+            if (m_lattice.xs.size() < 2 || m_lattice.ys.size() < 2)
+                return std::nullopt;
+            if (m_lattice.columns() * m_lattice.rows() > static_cast<std::size_t>(m_parameters.maximumPlaces))
+                return std::nullopt;
+            const bool keepsHorizontal = dropDangling(m_horizontal, m_lattice.xs);
+            const bool keepsVertical = dropDangling(m_vertical, m_lattice.ys);
+            isStable = keepsHorizontal && keepsVertical;
+        }
+        markSides();
+        return m_lattice;
+    }
+
+private:
+    bool dropDangling(std::vector<const BorderLine*>& lines, const std::vector<double>& edges) const {
+        return std::erase_if(
+                   lines, [&](const BorderLine* line) { return !coversAnInterval(*line, edges, m_parameters); }) == 0;
+    }
+
+    void markSides() {
+        m_lattice.horizontal.assign(m_lattice.ys.size() * m_lattice.columns(), 0);
+        m_lattice.vertical.assign(m_lattice.rows() * m_lattice.xs.size(), 0);
+        for (const BorderLine* line : m_horizontal) {
+            const std::size_t edge = nearestIndex(m_lattice.ys, line->position);
+            forCoveredIntervals(*line, m_lattice.xs, m_parameters, [&](std::size_t column) {
+                m_lattice.horizontal[edge * m_lattice.columns() + column] = 1;
+            });
+        }
+        for (const BorderLine* line : m_vertical) {
+            const std::size_t edge = nearestIndex(m_lattice.xs, line->position);
+            forCoveredIntervals(*line, m_lattice.ys, m_parameters,
+                                [&](std::size_t row) { m_lattice.vertical[row * m_lattice.xs.size() + edge] = 1; });
+        }
+    }
+
+    const LayoutParameters::Tables& m_parameters;
+    std::vector<const BorderLine*> m_horizontal;
+    std::vector<const BorderLine*> m_vertical;
+    RuleLattice m_lattice;
+};
+
+/// One row of a shape: the columns [first, last) without a gap.
+struct Run {
+    int row = 0;
+    int first = 0;
+    int last = 0;
+};
+
+/// The shape's places as rectangles: rows of equal extent that follow each other are one.
+std::vector<GridCell> cutIntoRectangles(const std::vector<Run>& runs) {
+    std::vector<GridCell> cells;
+    std::map<std::pair<int, int>, std::size_t> openByExtent;
+    for (const Run& run : runs) {
+        const auto open = openByExtent.find({run.first, run.last});
+        if (open != openByExtent.end()) {
+            GridCell& cell = cells[open->second];
+            if (cell.row + cell.rowSpan == run.row) {
+                ++cell.rowSpan;
+                continue;
+            }
+        }
+        openByExtent[{run.first, run.last}] = cells.size();
+        cells.push_back({run.row, run.first, 1, run.last - run.first});
+    }
+    return cells;
+}
+
+} // namespace
+
+std::vector<LineGroup> groupCrossingLines(const std::vector<BorderLine>& lines,
+                                          const LayoutParameters::Tables& parameters) {
+    const auto firstVertical = std::find_if(
+        lines.begin(), lines.end(), [](const BorderLine& line) { return line.direction == RuleDirection::Vertical; });
+    const auto isAbove = [](const BorderLine& line, double y) { return line.position < y; };
+    DisjointSets sets(lines.size());
+    for (auto vertical = firstVertical; vertical != lines.end(); ++vertical) {
+        const double top = vertical->from - parameters.joinGap;
+        const double bottom = vertical->to + parameters.joinGap;
+        for (auto it = std::lower_bound(lines.begin(), firstVertical, top, isAbove);
+             it != firstVertical && it->position <= bottom; ++it) {
+            if (vertical->position >= it->from - parameters.joinGap &&
+                vertical->position <= it->to + parameters.joinGap)
+                sets.unite(static_cast<std::size_t>(vertical - lines.begin()),
+                           static_cast<std::size_t>(it - lines.begin()));
+        }
+    }
+    std::vector<LineGroup> groups;
+    for (LineGroup& group : sets.groups())
+        if (group.size() > 1)
+            groups.push_back(std::move(group));
+    return groups;
+}
+
+std::optional<RuleLattice> buildLattice(const std::vector<BorderLine>& lines, const LineGroup& group,
+                                        const LayoutParameters::Tables& parameters) {
+    return LatticeBuilder(lines, group, parameters).build();
+}
+
+LatticeGrid gridOf(const RuleLattice& lattice) {
+    const std::size_t columns = lattice.columns();
+    DisjointSets sets(columns * lattice.rows());
+    for (std::size_t row = 0; row < lattice.rows(); ++row) {
+        for (std::size_t column = 0; column < columns; ++column) {
+            if (column > 0 && !lattice.isDrawnLeftOf(row, column))
+                sets.unite(row * columns + column, row * columns + column - 1);
+            if (row > 0 && !lattice.isDrawnAbove(row, column))
+                sets.unite(row * columns + column, (row - 1) * columns + column);
+        }
+    }
+    LatticeGrid result{{lattice.xs, lattice.ys, {}}, 0};
+    for (const std::vector<std::size_t>& places : sets.groups()) {
+        std::vector<Run> runs;
+        for (const std::size_t place : places) {
+            const int row = static_cast<int>(place / columns);
+            const int column = static_cast<int>(place % columns);
+            if (!runs.empty() && runs.back().row == row && runs.back().last == column)
+                ++runs.back().last;
+            else
+                runs.push_back({row, column, column + 1});
+        }
+        const std::vector<GridCell> cells = cutIntoRectangles(runs);
+        if (cells.size() > 1)
+            result.forcedCells += static_cast<int>(cells.size());
+        result.grid.cells.insert(result.grid.cells.end(), cells.begin(), cells.end());
+    }
+    std::sort(result.grid.cells.begin(), result.grid.cells.end(), [](const GridCell& a, const GridCell& b) {
+        return a.row != b.row ? a.row < b.row : a.column < b.column;
+    });
+    return result;
+}
+
+} // namespace orvane::layout

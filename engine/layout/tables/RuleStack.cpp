@@ -1,0 +1,71 @@
+#include "layout/tables/RuleStack.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// Joins lines of one height, [first, last) of `order`, whose ends are near.
+void appendLevels(const std::vector<BorderLine>& lines, std::vector<std::size_t>::iterator first,
+                  std::vector<std::size_t>::iterator last, const LayoutParameters::Tables& parameters,
+                  std::vector<RuleLevel>& levels) {
+    std::sort(first, last, [&](std::size_t a, std::size_t b) { return lines[a].from < lines[b].from; });
+    const std::size_t oldCount = levels.size();
+    for (auto it = first; it != last; ++it) {
+        const BorderLine& line = lines[*it];
+        if (levels.size() == oldCount || line.from > levels.back().right + parameters.levelGap)
+            levels.push_back({line.position, line.from, line.to, {}});
+        levels.back().right = std::max(levels.back().right, line.to);
+        levels.back().lines.push_back(*it);
+    }
+}
+
+std::vector<RuleLevel> findLevels(const std::vector<BorderLine>& lines, const LayoutParameters::Tables& parameters) {
+    std::vector<std::size_t> order;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (lines[i].direction == RuleDirection::Horizontal)
+            order.push_back(i);
+    std::sort(order.begin(), order.end(),
+              [&](std::size_t a, std::size_t b) { return lines[a].position < lines[b].position; });
+    std::vector<RuleLevel> levels;
+    for (auto first = order.begin(); first != order.end();) {
+        const double reach = lines[*first].position + parameters.lineSnap;
+        const auto last = std::find_if(first, order.end(), [&](std::size_t i) { return lines[i].position > reach; });
+        appendLevels(lines, first, last, parameters, levels);
+        first = last;
+    }
+    return levels;
+}
+
+/// Parts `levels` where the sorted `edge` jumps by more than `snap`.
+template<typename Edge>
+std::vector<RuleStack> partByEdge(RuleStack levels, const Edge& edge, double snap) {
+    std::sort(levels.begin(), levels.end(), [&](const RuleLevel& a, const RuleLevel& b) { return edge(a) < edge(b); });
+    std::vector<RuleStack> parts;
+    for (RuleLevel& level : levels) {
+        if (parts.empty() || edge(level) > edge(parts.back().back()) + snap)
+            parts.emplace_back();
+        parts.back().push_back(std::move(level));
+    }
+    return parts;
+}
+
+} // namespace
+
+std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines,
+                                      const LayoutParameters::Tables& parameters) {
+    const auto leftOf = [](const RuleLevel& level) { return level.left; };
+    const auto rightOf = [](const RuleLevel& level) { return level.right; };
+    std::vector<RuleStack> stacks;
+    for (RuleStack& sameLeft : partByEdge(findLevels(lines, parameters), leftOf, parameters.endSnap)) {
+        for (RuleStack& stack : partByEdge(std::move(sameLeft), rightOf, parameters.endSnap)) {
+            if (stack.size() < 2)
+                continue;
+            std::sort(stack.begin(), stack.end(), [](const RuleLevel& a, const RuleLevel& b) { return a.y < b.y; });
+            stacks.push_back(std::move(stack));
+        }
+    }
+    return stacks;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/tables/CellText.h"
+#include "layout/tables/TableGrid.h"
+#include "layout/tables/TableVerdict.h"
+#include "layout/text/PageText.h"
+
+namespace orvane::layout {
+
+/// What the finder of a drawn grid knows beside the grid.
+struct GridEvidence {
+    int forcedCells = 0; ///< see LatticeGrid
+};
+
+/// Judges a grid drawn with rules.
+TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const CellText& text,
+                             const GridEvidence& evidence, const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout

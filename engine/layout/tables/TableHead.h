@@ -1,0 +1,11 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/page/PageLayout.h"
+
+namespace orvane::layout {
+
+/// How many of the first rows are the table's head: set apart from the rest by bold text, a ground or the rule below.
+int countHeaderRows(const TableDraft& table, const LayoutParameters::Tables& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,120 @@
+#include "layout/tables/TextPiece.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+double gapBetween(const Rect& word, const Rect& next) {
+    // Right-to-left lines list their words from the right.
+    return std::max(next.left - word.right, word.left - next.right);
+}
+
+/// The widest gap that may be a blank. The narrowest one of the line tells how far its blanks were stretched to fill
+/// it.
+double widestBlank(const Line& line, const LayoutParameters::Tables& parameters) {
+    double narrowest = 1e9;
+    for (std::size_t i = 1; i < line.words.size(); ++i)
+        if (line.words[i].gapBefore == Gap::Space)
+            narrowest = std::min(narrowest, gapBetween(line.words[i - 1].box, line.words[i].box));
+    const double usual = parameters.pieceGap * line.fontSize;
+    if (narrowest > parameters.widestStretch * line.fontSize)
+        return usual;
+    return std::max(usual, parameters.blankStretch * narrowest);
+}
+
+void addTo(PieceRow& row, TextPiece piece) {
+    if (row.pieces.empty())
+        row.baseline = piece.baseline;
+    row.lastBaseline = piece.baseline;
+    row.box = row.box.united(piece.box);
+    row.fontSize = std::max(row.fontSize, piece.fontSize);
+    row.pieces.push_back(std::move(piece));
+}
+
+bool standsBeside(const PieceRow& row, const TextPiece& piece, const LayoutParameters::Tables& parameters) {
+    if (piece.baseline - row.lastBaseline <= parameters.rowSnap * piece.fontSize)
+        return true;
+    bool hasNeighbour = false;
+    for (const TextPiece& other : row.pieces) {
+        const double shared = overlap(other.box.top, other.box.bottom, piece.box.top, piece.box.bottom);
+        if (shared < parameters.besideOverlap * piece.box.height())
+            continue;
+        // Lines set so close that they overlap are one above the other all the same.
+        if (overlap(other.box.left, other.box.right, piece.box.left, piece.box.right) > 0)
+            return false;
+        hasNeighbour = true;
+    }
+    return hasNeighbour;
+}
+
+} // namespace
+
+TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end) {
+    TextPiece piece{lineIndex, first, end, {}, line.baseline, line.fontSize};
+    for (std::size_t i = first; i < end; ++i)
+        piece.box = piece.box.united(line.words[i].box);
+    return piece;
+}
+
+std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+    std::vector<TextPiece> pieces;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const Line& line = lines[i];
+        if (line.angle != 0 || line.isVertical || line.words.empty())
+            continue;
+        const double widest = widestBlank(line, parameters);
+        std::size_t first = 0;
+        for (std::size_t j = 1; j < line.words.size(); ++j) {
+            if (line.words[j].gapBefore != Gap::Tab && gapBetween(line.words[j - 1].box, line.words[j].box) <= widest)
+                continue;
+            pieces.push_back(pieceOf(line, i, first, j));
+            first = j;
+        }
+        pieces.push_back(pieceOf(line, i, first, line.words.size()));
+    }
+    return pieces;
+}
+
+std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const LayoutParameters::Tables& parameters) {
+    std::stable_sort(pieces.begin(), pieces.end(),
+                     [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
+    std::vector<PieceRow> rows;
+    for (TextPiece& piece : pieces) {
+        const bool isBeside = !rows.empty() && standsBeside(rows.back(), piece, parameters);
+        if (!isBeside)
+            rows.emplace_back();
+        addTo(rows.back(), std::move(piece));
+    }
+    for (PieceRow& row : rows)
+        std::sort(row.pieces.begin(), row.pieces.end(),
+                  [](const TextPiece& a, const TextPiece& b) { return a.box.left < b.box.left; });
+    return rows;
+}
+
+std::string textOf(const TextPiece& piece, const std::vector<Line>& lines) {
+    std::string text;
+    for (std::size_t i = piece.firstWord; i < piece.endWord; ++i) {
+        if (!text.empty())
+            text += ' ';
+        for (const Span& span : lines[piece.line].words[i].spans)
+            text += span.text;
+    }
+    return text;
+}
+
+bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines) {
+    int digits = 0;
+    int letters = 0;
+    const std::string text = textOf(piece, lines);
+    for (const char c : text) {
+        digits += c >= '0' && c <= '9';
+        letters += (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (static_cast<unsigned char>(c) & 0x80) != 0;
+    }
+    const bool isDash = text == "-" || text == "\xE2\x80\x93" || text == "\xE2\x80\x94" || text == "\xE2\x88\x92";
+    // Units, currencies and months come with a few letters.
+    return isDash || (digits > 0 && digits >= letters);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "layout/LayoutParameters.h"
+#include "layout/text/PageText.h"
+
+#include <span>
+#include <vector>
+
+namespace orvane::layout {
+
+/// Words of one line without a wide gap between them: what may be the text of one cell.
+struct TextPiece {
+    std::size_t line = 0;      ///< index into the page's lines
+    std::size_t firstWord = 0; ///< indices into the line's words
+    std::size_t endWord = 0;   ///< one past the last
+    Rect box;
+    double baseline = 0;
+    double fontSize = 0;
+
+    std::size_t wordCount() const { return endWord - firstWord; }
+};
+
+/// Pieces that stand side by side.
+struct PieceRow {
+    std::vector<TextPiece> pieces; ///< from left to right
+    Rect box;
+    double baseline = 0;     ///< the first
+    double lastBaseline = 0; ///< differs from the first where one text of several lines stands beside another
+    double fontSize = 0;     ///< the largest
+};
+
+/// Cuts upright lines at their wide gaps.
+std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const LayoutParameters::Tables& parameters);
+
+/// Puts pieces side by side whose baselines agree, or whose boxes do so much overlap that one stands beside the middle
+/// of two others; the rows come top to bottom.
+std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const LayoutParameters::Tables& parameters);
+
+/// Words [first, end) of a line as a piece.
+TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end);
+
+/// Whether every word of the piece is a number, an amount, a date or stands for none (a dash).
+bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines);
+
+/// The words of the piece, parted by blanks.
+std::string textOf(const TextPiece& piece, const std::vector<Line>& lines);
+
+} // namespace orvane::layout

@@ -1,0 +1,138 @@
+#include "layout/text/GlyphFilter.h"
+
+#include "layout/support/CoverageGrid.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace orvane::layout {
+namespace {
+
+using pdf::Visibility;
+
+bool saysTheSame(const pdf::Glyph& a, const pdf::Glyph& b) {
+    return a.unicode.empty() ? b.unicode.empty() && a.charCode == b.charCode && a.font == b.font
+                             : a.unicode == b.unicode;
+}
+
+/// Finds glyphs that were painted before at nearly the same place.
+class DuplicateFinder {
+public:
+    explicit DuplicateFinder(const LayoutParameters::Glyphs& limits)
+        : m_limits(limits) {}
+
+    /// The earlier selected glyph that `glyph` repeats, as an index into the selection; -1 for none.
+    int find(const pdf::PageContent& page, const std::vector<SelectedGlyph>& selection, const pdf::Glyph& glyph) const {
+        const double reach = reachOf(glyph);
+        if (reach <= 0)
+            return -1;
+        for (const long column : {columnOf(glyph.origin.x - reach), columnOf(glyph.origin.x + reach)})
+            for (const long row : {rowOf(glyph.origin.y - reach), rowOf(glyph.origin.y + reach)}) {
+                const auto [first, last] = m_cells.equal_range(keyOf(column, row));
+                for (auto entry = first; entry != last; ++entry)
+                    if (repeats(page.glyphs[selection[entry->second].index], glyph, reach))
+                        return static_cast<int>(entry->second);
+            }
+        return -1;
+    }
+    void add(const pdf::Glyph& glyph, std::size_t position) {
+        m_cells.emplace(keyOf(columnOf(glyph.origin.x), rowOf(glyph.origin.y)), position);
+    }
+
+private:
+    /// How far apart two glyphs may stand to be one; less for narrow ones, of which two may stand side by side ("ll").
+    double reachOf(const pdf::Glyph& glyph) const {
+        // Glyphs that say nothing may be strokes that are put together with much overlap.
+        const double byAdvance = glyph.advance > 0 && !glyph.unicode.empty()
+                                     ? m_limits.duplicateAdvanceShare * glyph.advance
+                                     : m_limits.duplicateMarkDistance * glyph.fontSize;
+        return std::min({m_limits.duplicateDistance * glyph.fontSize, byAdvance, kCell});
+    }
+    static bool repeats(const pdf::Glyph& earlier, const pdf::Glyph& later, double reach) {
+        return std::hypot(earlier.origin.x - later.origin.x, earlier.origin.y - later.origin.y) <= reach &&
+               saysTheSame(earlier, later) && std::abs(earlier.angle - later.angle) < 1 &&
+               std::abs(earlier.fontSize - later.fontSize) <= 0.1 * later.fontSize;
+    }
+    static long columnOf(double x) { return static_cast<long>(std::floor(x / kCell)); }
+    static long rowOf(double y) { return static_cast<long>(std::floor(y / kCell)); }
+    static std::size_t keyOf(long column, long row) {
+        return static_cast<std::size_t>(row) * 1000003u + static_cast<std::size_t>(column);
+    }
+
+    static constexpr double kCell = 8; ///< points; reach is kept below it, so four cells are enough to look into
+
+    const LayoutParameters::Glyphs& m_limits;
+    std::unordered_multimap<std::size_t, std::size_t> m_cells;
+};
+
+CoverageGrid coverByPictures(const pdf::PageContent& page, const LayoutParameters::Glyphs& limits) {
+    CoverageGrid grid(page.width, page.height, limits.coverCell);
+    for (const pdf::Picture& picture : page.pictures) {
+        const Rect seen = picture.box.intersected(picture.clip);
+        if (picture.visibility == Visibility::Visible && !seen.isEmpty())
+            grid.cover(seen);
+    }
+    return grid;
+}
+
+CoverageGrid coverByVisibleText(const pdf::PageContent& page, const LayoutParameters::Glyphs& limits) {
+    CoverageGrid grid(page.width, page.height, limits.coverCell);
+    for (const pdf::Glyph& glyph : page.glyphs)
+        if (glyph.visibility == Visibility::Visible)
+            grid.cover(glyph.box);
+    return grid;
+}
+
+/// Two paintings of one glyph: what the second one tells about the first.
+void mergeDuplicate(const pdf::PageContent& page, SelectedGlyph& kept, std::uint32_t later,
+                    const LayoutParameters::Glyphs& limits) {
+    const pdf::Glyph& first = page.glyphs[kept.index];
+    const pdf::Glyph& second = page.glyphs[later];
+    const double distance = std::hypot(first.origin.x - second.origin.x, first.origin.y - second.origin.y);
+    const double size = second.fontSize;
+    if (first.color == second.color && distance > limits.samePlaceDistance * size &&
+        distance <= limits.fakeBoldDistance * size)
+        kept.isBold = true;
+    // What was painted last lies on top, a shadow below it.
+    if (first.color != second.color)
+        kept.index = later;
+}
+
+bool isWorthReading(const pdf::Glyph& glyph, const LayoutParameters::Glyphs& limits) {
+    return glyph.fontSize >= limits.minimumSize && std::isfinite(glyph.origin.x) && std::isfinite(glyph.origin.y) &&
+           std::isfinite(glyph.advance);
+}
+
+} // namespace
+
+GlyphSelection filterGlyphs(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics&) {
+    const LayoutParameters::Glyphs& limits = parameters.glyphs;
+    const CoverageGrid pictures = coverByPictures(page, limits);
+    const CoverageGrid visibleText = coverByVisibleText(page, limits);
+
+    GlyphSelection selection;
+    DuplicateFinder duplicates(limits);
+    bool isTextVisible = false;
+    for (std::uint32_t i = 0; i < page.glyphs.size(); ++i) {
+        const pdf::Glyph& glyph = page.glyphs[i];
+        const Point middle{glyph.box.centerX(), glyph.box.centerY()};
+        const bool isRecognised =
+            glyph.visibility == Visibility::Invisible && pictures.isCovered(middle) && !visibleText.isCovered(middle);
+        if ((glyph.visibility != Visibility::Visible && !isRecognised) || !isWorthReading(glyph, limits))
+            continue;
+        isTextVisible |= !isRecognised;
+        const int earlier = duplicates.find(page, selection.glyphs, glyph);
+        if (earlier >= 0) {
+            mergeDuplicate(page, selection.glyphs[static_cast<std::size_t>(earlier)], i, limits);
+            continue;
+        }
+        duplicates.add(glyph, selection.glyphs.size());
+        selection.glyphs.push_back({i, isRecognised, glyph.isFakeBold});
+    }
+    selection.isScanned =
+        !isTextVisible && pictures.coveredShare({0, 0, page.width, page.height}) >= limits.scannedPageShare;
+    return selection;
+}
+
+} // namespace orvane::layout

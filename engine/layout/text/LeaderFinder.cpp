@@ -1,0 +1,117 @@
+#include "layout/text/LeaderFinder.h"
+
+#include "layout/text/Characters.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orvane::layout {
+namespace {
+
+using document::TabLeader;
+
+TabLeader leaderOf(char32_t c) {
+    switch (c) {
+    case U'.':
+    case U'\x2026': // horizontal ellipsis
+        return TabLeader::Dots;
+    case U'\xB7':
+    case U'\x2219':
+    case U'\x22C5':
+        return TabLeader::MiddleDots;
+    case U'-':
+    case U'\x2010':
+        return TabLeader::Hyphens;
+    case U'_':
+        return TabLeader::Underscore;
+    default:
+        return TabLeader::None;
+    }
+}
+
+TabLeader leaderOf(const Cluster& cluster) {
+    if (cluster.text.empty())
+        return TabLeader::None;
+    const TabLeader leader = leaderOf(cluster.text.front());
+    const bool isUniform =
+        std::all_of(cluster.text.begin(), cluster.text.end(), [leader](char32_t c) { return leaderOf(c) == leader; });
+    return isUniform ? leader : TabLeader::None;
+}
+
+struct Run {
+    std::size_t first = 0;
+    std::size_t last = 0; ///< one past the end
+    std::size_t dots = 0; ///< an ellipsis counts three
+};
+
+Run runAt(const std::vector<Cluster>& clusters, std::size_t first, const LayoutParameters::Leaders& limits) {
+    const TabLeader leader = leaderOf(clusters[first]);
+    Run run{first, first, 0};
+    for (std::size_t i = first; i < clusters.size() && leaderOf(clusters[i]) == leader; ++i) {
+        if (i > first && clusters[i].gapBefore.width > limits.widestGap * clusters[i].size)
+            break;
+        for (const char32_t c : clusters[i].text)
+            run.dots += c == U'\x2026' ? 3 : 1;
+        run.last = i + 1;
+    }
+    return run;
+}
+
+/// Characters from `begin` on, up to a wide gap. With a second run of the same character in between, more than any
+/// target has.
+template<typename Iterator>
+std::size_t charactersUpToGap(Iterator begin, Iterator end, char32_t leader, const LayoutParameters::Leaders& limits) {
+    std::size_t characters = 0;
+    for (auto cluster = begin; cluster != end; ++cluster) {
+        if (cluster != begin && std::max(cluster->start - std::prev(cluster)->end,
+                                         std::prev(cluster)->start - cluster->end) > limits.nextColumn * cluster->size)
+            break;
+        if (cluster != begin && std::next(cluster) != end && cluster->text.front() == leader &&
+            std::next(cluster)->text.front() == leader)
+            return limits.longestTarget + 1;
+        characters += cluster->text.size();
+    }
+    return characters;
+}
+
+/// A run is a leader when little follows it, and that ends the row or stands well apart from what comes next. In a
+/// right-to-left row what follows stands to the left.
+bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, const LayoutParameters::Leaders& limits) {
+    const bool isRightToLeft = std::any_of(clusters.begin(), clusters.end(), [](const Cluster& cluster) {
+        return isRightToLeftLetter(cluster.text.front());
+    });
+    const char32_t leader = clusters[run.first].text.front();
+    const auto after = clusters.begin() + static_cast<std::ptrdiff_t>(run.last);
+    const auto before = std::make_reverse_iterator(clusters.begin() + static_cast<std::ptrdiff_t>(run.first));
+    const std::size_t target = isRightToLeft ? charactersUpToGap(before, clusters.rend(), leader, limits)
+                                             : charactersUpToGap(after, clusters.end(), leader, limits);
+    return run.last < clusters.size() && target > 0 && target <= limits.longestTarget;
+}
+
+} // namespace
+
+void findLeaders(TextRow& row, const LayoutParameters& parameters) {
+    const LayoutParameters::Leaders& limits = parameters.leaders;
+    std::vector<Cluster>& clusters = row.clusters;
+    std::vector<bool> isGone(clusters.size(), false);
+    for (std::size_t i = 0; i < clusters.size();) {
+        const TabLeader leader = leaderOf(clusters[i]);
+        const Run run = leader == TabLeader::None ? Run{i, i + 1, 0} : runAt(clusters, i, limits);
+        i = run.last;
+        if (run.dots < limits.fewestDots || !leadsToSomething(clusters, run, limits) ||
+            clusters[run.last].start - clusters[run.first].start < limits.shortest * row.fontSize)
+            continue;
+        std::fill(isGone.begin() + static_cast<std::ptrdiff_t>(run.first),
+                  isGone.begin() + static_cast<std::ptrdiff_t>(run.last), true);
+        ClusterGap& gap = clusters[run.last].gapBefore;
+        gap.width =
+            clusters[run.last].start - (run.first > 0 ? clusters[run.first - 1].end : clusters[run.first].start);
+        gap.endsWord = true;
+        gap.kind = Gap::Tab;
+        gap.leader = leader;
+    }
+    std::size_t index = 0;
+    std::erase_if(clusters, [&](const Cluster&) { return isGone[index++]; });
+}
+
+} // namespace orvane::layout

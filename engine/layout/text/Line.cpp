@@ -1,0 +1,30 @@
+#include "layout/text/Line.h"
+
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orvane::layout {
+
+Line splitLine(Line& line, std::size_t wordIndex) {
+    Line rest = line;
+    const auto cut = line.words.begin() + static_cast<std::ptrdiff_t>(wordIndex);
+    rest.words.assign(std::make_move_iterator(cut), std::make_move_iterator(line.words.end()));
+    line.words.erase(cut, line.words.end());
+    rest.words.front().gapBefore = rest.words.front().leaderBefore == document::TabLeader::None ? Gap::None : Gap::Tab;
+    rest.dropCapLines = 0;
+    measureAnew(line);
+    measureAnew(rest);
+    return rest;
+}
+
+void joinLines(Line& line, Line next, Gap gap) {
+    if (!next.words.empty())
+        next.words.front().gapBefore = gap;
+    line.firstPaintOrder = std::min(line.firstPaintOrder, next.firstPaintOrder);
+    std::move(next.words.begin(), next.words.end(), std::back_inserter(line.words));
+    measureAnew(line);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,52 @@
+#include "layout/text/LineText.h"
+
+#include <unicode/uchar.h>
+
+#include <map>
+
+namespace orvane::layout {
+
+std::string textOf(const Word& word) {
+    std::string text;
+    for (const Span& span : word.spans)
+        text += span.text;
+    return text;
+}
+
+std::string textOf(const Line& line) {
+    std::string text;
+    for (const Word& word : line.words) {
+        if (!text.empty() && word.gapBefore != Gap::None)
+            text += word.gapBefore == Gap::Tab ? '\t' : ' ';
+        text += textOf(word);
+    }
+    return text;
+}
+
+void measureAnew(Line& line) {
+    std::map<double, std::size_t> sizes;
+    std::size_t rightToLeft = 0;
+    line.box = {};
+    for (const Word& word : line.words) {
+        line.box = line.box.united(word.box);
+        rightToLeft += word.isRightToLeft ? 1 : 0;
+        for (const Span& span : word.spans)
+            sizes[span.look.size] += span.text.size();
+    }
+    line.isRightToLeft = 2 * rightToLeft > line.words.size();
+    std::size_t most = 0;
+    for (const auto& [size, count] : sizes)
+        if (count >= most) {
+            line.fontSize = size;
+            most = count;
+        }
+}
+
+bool isWithoutBlanks(char32_t character) {
+    const auto code = static_cast<UChar32>(character);
+    const auto width = u_getIntPropertyValue(code, UCHAR_EAST_ASIAN_WIDTH);
+    const bool isHangul = u_getIntPropertyValue(code, UCHAR_HANGUL_SYLLABLE_TYPE) != U_HST_NOT_APPLICABLE;
+    return (width == U_EA_WIDE || width == U_EA_FULLWIDTH) && !isHangul;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "layout/text/PageText.h"
+
+#include <string>
+
+namespace orvane::layout {
+
+/// The word's characters, UTF-8.
+std::string textOf(const Word& word);
+
+/// The line's words with the gaps between them: nothing, a blank, or a tabulator.
+std::string textOf(const Line& line);
+
+/// Makes box, font size, direction and whatever else follows from the words anew; baseline, angle and order of painting
+/// stay. Requires: at least one word.
+void measureAnew(Line& line);
+
+/// True for scripts that are written without blanks and may break after nearly every character: Han and kana with their
+/// punctuation. Hangul has blanks between words, and lines that end at them.
+bool isWithoutBlanks(char32_t character);
+
+} // namespace orvane::layout

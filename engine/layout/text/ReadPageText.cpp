@@ -1,0 +1,45 @@
+#include "layout/Layout.h"
+#include "layout/graphics/FigureFinder.h"
+#include "layout/graphics/RuleFinder.h"
+#include "layout/text/ClusterBuilder.h"
+#include "layout/text/FrameFinder.h"
+#include "layout/text/GlyphFilter.h"
+#include "layout/text/LineBuilder.h"
+#include "layout/text/RowBuilder.h"
+#include "layout/text/SpanBuilder.h"
+#include "layout/text/TextDecoration.h"
+#include "layout/text/WordBuilder.h"
+
+namespace orvane::layout {
+
+PageText readPageText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    PageText text;
+    text.number = page.number;
+    text.width = page.width;
+    text.height = page.height;
+    text.fonts = page.fonts;
+    text.links = page.links;
+    text.annotations = page.annotations;
+    text.fields = page.fields;
+    text.marks = page.marks;
+
+    RuledPage ruled = findRules(page, parameters, diagnostics);
+    text.rules = std::move(ruled.rules);
+    text.grounds = std::move(ruled.grounds);
+
+    const GlyphSelection selection = filterGlyphs(page, parameters, diagnostics);
+    text.isScanned = selection.isScanned;
+    const FrameSelection frames = findFrames(page, selection, parameters, diagnostics);
+    std::vector<Cluster> clusters = buildClusters(page, selection, frames, parameters, diagnostics);
+    std::vector<TextRow> rows = buildRows(std::move(clusters), parameters, diagnostics);
+    rows = findWordGaps(std::move(rows), parameters, diagnostics);
+    std::vector<TextRow> lines =
+        buildLines(std::move(rows), frames.frames, text.rules, text.grounds, parameters, diagnostics);
+    decorateText(lines, frames.frames, text.rules, text.grounds, text.links, parameters, diagnostics);
+    text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
+
+    findFigures(page, ruled.isTaken, text, parameters, diagnostics);
+    return text;
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,154 @@
+#include "layout/text/ScriptFinder.h"
+
+#include "layout/text/Characters.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace orvane::layout {
+namespace {
+
+using document::VerticalPosition;
+
+struct Host {
+    std::size_t strip = 0;
+    VerticalPosition position = VerticalPosition::Baseline;
+    double distance = 0;
+};
+
+/// How `script` would stand at `host` by its height alone; nothing when it is no script of it.
+std::optional<VerticalPosition> positionAt(const TextStrip& script, const TextStrip& host,
+                                           const LayoutParameters::Scripts& limits) {
+    const double ratio = script.size / host.size;
+    if (ratio < limits.smallestRatio || ratio > limits.largestRatio)
+        return std::nullopt;
+    const double rise = (host.baseline - script.baseline) / host.size;
+    if (rise >= limits.leastRise && rise <= limits.greatestRise)
+        return VerticalPosition::Superscript;
+    if (-rise >= limits.leastDrop && -rise <= limits.greatestDrop)
+        return VerticalPosition::Subscript;
+    return std::nullopt;
+}
+
+/// Length of the empty stretch between the two along the row; negative where they overlap.
+double gapBetween(const TextStrip& a, const TextStrip& b) {
+    return std::max(a.start, b.start) - std::min(a.end, b.end);
+}
+
+bool standsAt(const TextStrip& script, const TextStrip& host, const LayoutParameters::Scripts& limits) {
+    const double gap = gapBetween(script, host);
+    const double reach = script.start >= host.start ? limits.reachAfter : limits.reachBefore;
+    return gap <= reach * host.size && gap >= -limits.overlap * host.size;
+}
+
+/// Visits the strips whose baselines lie within `reach` of that of `strips[i]`; on pages that paint letter by letter in
+/// no order only the nearest of them, so that the work stays in proportion.
+template<typename Visit>
+void visitNear(const std::vector<TextStrip>& strips, std::size_t i, double reach, std::size_t most, Visit visit) {
+    const TextStrip& middle = strips[i];
+    const auto isNear = [&](const TextStrip& other) {
+        return other.frame == middle.frame && std::abs(other.baseline - middle.baseline) <= reach;
+    };
+    for (std::size_t j = i + 1; j < strips.size() && j - i <= most && isNear(strips[j]); ++j)
+        visit(j);
+    for (std::size_t j = i; j-- > 0 && i - j <= most && isNear(strips[j]);)
+        visit(j);
+}
+
+std::optional<Host> findHost(const std::vector<TextStrip>& strips, std::size_t i,
+                             const LayoutParameters::Scripts& limits) {
+    const TextStrip& script = strips[i];
+    std::optional<Host> best;
+    if (script.isBlank() || script.inkCount > limits.longestScript)
+        return best;
+    const double reach = std::max(limits.greatestRise, limits.greatestDrop) * script.size / limits.smallestRatio;
+    visitNear(strips, i, reach, limits.mostNeighbours, [&](std::size_t j) {
+        const TextStrip& host = strips[j];
+        const auto position = host.isBlank() ? std::nullopt : positionAt(script, host, limits);
+        if (!position || !standsAt(script, host, limits))
+            return;
+        const double distance = std::abs(gapBetween(script, host));
+        if (!best || distance < best->distance)
+            best = {j, *position, distance};
+    });
+    return best;
+}
+
+/// A single large letter whose baseline is that of a later line and whose top is that of the first one.
+bool isDropCap(const TextStrip& cap, const TextStrip& firstLine, const LayoutParameters::Scripts& limits) {
+    const double depth = cap.baseline - firstLine.baseline;
+    const double gap = firstLine.start - cap.end;
+    const double capTop = cap.baseline - limits.capitalHeight * cap.size;
+    const double lineTop = firstLine.baseline - limits.capitalHeight * firstLine.size;
+    return firstLine.inkCount > cap.inkCount && cap.size >= limits.dropCapRatio * firstLine.size &&
+           depth >= limits.dropCapDepth * firstLine.size && gap >= -limits.overlap * firstLine.size &&
+           gap <= limits.dropCapGap * firstLine.size &&
+           std::abs(capTop - lineTop) <= limits.dropCapTop * firstLine.size;
+}
+
+/// Moves drop caps to the first line they stand at.
+void joinDropCaps(std::vector<TextStrip>& strips, const LayoutParameters::Scripts& limits) {
+    std::vector<std::pair<std::size_t, std::size_t>> found;
+    for (std::size_t i = 0; i < strips.size(); ++i) {
+        const TextStrip& cap = strips[i];
+        if (cap.inkCount == 0 || cap.inkCount > limits.dropCapLetters || !isLetter(cap.clusters.front().text.front()))
+            continue;
+        for (std::size_t j = i; j-- > 0;) {
+            if (strips[j].frame != cap.frame || cap.baseline - strips[j].baseline > cap.size)
+                break;
+            if (isDropCap(cap, strips[j], limits)) {
+                found.emplace_back(i, j);
+                break;
+            }
+        }
+    }
+    for (const auto& [capIndex, lineIndex] : found) {
+        TextStrip& cap = strips[capIndex];
+        const TextStrip& line = strips[lineIndex];
+        const double leading = limits.dropCapLeading * line.size;
+        cap.dropCapLines = 1 + std::max(1, static_cast<int>(std::lround((cap.baseline - line.baseline) / leading)));
+        cap.baseline = line.baseline;
+        for (Cluster& cluster : cap.clusters)
+            cluster.baseline = line.baseline;
+    }
+}
+
+} // namespace
+
+void joinScripts(std::vector<TextStrip>& strips, const LayoutParameters& parameters) {
+    const LayoutParameters::Scripts& limits = parameters.scripts;
+    // Hosts are looked for before anything moves, so that the order of the strips holds meanwhile.
+    std::vector<std::optional<Host>> hosts(strips.size());
+    for (std::size_t i = 0; i < strips.size(); ++i)
+        hosts[i] = findHost(strips, i, limits);
+    joinDropCaps(strips, limits);
+    struct Move {
+        std::size_t strip;
+        double baseline;
+        double size;
+    };
+    std::vector<Move> moves;
+    for (std::size_t i = 0; i < strips.size(); ++i) {
+        // A script at a script (a footnote mark in a subscript) goes where that one goes.
+        const std::optional<Host>& host = hosts[i];
+        if (!host || strips[host->strip].dropCapLines > 0)
+            continue;
+        std::size_t root = host->strip;
+        while (hosts[root]) // ends, as every host is larger than its script
+            root = hosts[root]->strip;
+        TextStrip& script = strips[i];
+        for (Cluster& cluster : script.clusters) {
+            cluster.look.verticalPosition = host->position;
+            cluster.look.size = strips[root].clusters.front().look.size;
+        }
+        moves.push_back({i, strips[root].baseline, strips[root].size});
+    }
+    for (const Move& move : moves) {
+        strips[move.strip].isScript = true;
+        strips[move.strip].baseline = move.baseline;
+        strips[move.strip].size = move.size;
+    }
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,83 @@
+#include "layout/assembly/StyleMaker.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::documentOf;
+using tests::draftOfLines;
+using tests::makeBlock;
+using tests::makeLine;
+using tests::makeParagraph;
+using tests::paragraphAt;
+using tests::styleOf;
+
+TEST(StyleMaker, MakesNormalOfMostText) {
+    const auto document = documentOf(
+        draftOfLines({{"Short", 100, {.size = 20}}, {"much more text than that", 130}, {"and even more of it", 150}}));
+    ASSERT_EQ(document.styles.size(), 1u);
+    EXPECT_EQ(document.styles[0].id, "Normal");
+    EXPECT_EQ(document.styles[0].run.size, HalfPoints(20));
+    EXPECT_EQ(document.styles[0].run.fontFamily, "Calibri");
+}
+
+TEST(StyleMaker, GivesHeadingsTheirBuiltInStyles) {
+    DocumentDraft draft = draftOfLines({{"Chapter", 100, {.size = 16, .isBold = true}}, {"text of it", 130}});
+    draft.blocks[0].paragraph()->role = ParagraphRole::Heading;
+    draft.blocks[0].paragraph()->level = 1;
+    const auto document = documentOf(draft);
+    const document::Style& heading = styleOf(document, "Heading1");
+    EXPECT_EQ(heading.name, "heading 1");
+    EXPECT_EQ(heading.basedOn, "Normal");
+    EXPECT_EQ(heading.next, "Normal");
+    EXPECT_TRUE(heading.run.isBold);
+    EXPECT_EQ(heading.run.size, HalfPoints(32));
+    EXPECT_EQ(heading.paragraph.outlineLevel, 1);
+    EXPECT_TRUE(heading.paragraph.keepWithNext);
+    EXPECT_EQ(paragraphAt(document, 0).style, "Heading1");
+}
+
+DocumentDraft draftWithJustifiedText() {
+    DocumentDraft draft = draftOfLines({{"A last line", 200}});
+    ParagraphDraft text = makeParagraph({makeLine("one two", 72, 100), makeLine("three", 72, 112.2)});
+    text.alignment = document::Alignment::Justified;
+    draft.blocks.insert(draft.blocks.begin(), makeBlock(text));
+    return draft;
+}
+
+TEST(StyleMaker, TakesSingleLinesForJustifiedWhereTheRestIs) {
+    const auto document = documentOf(draftWithJustifiedText());
+    EXPECT_EQ(document.styles[0].paragraph.alignment, document::Alignment::Justified);
+    EXPECT_EQ(paragraphAt(document, 1).properties.alignment, document::Alignment::Justified);
+}
+
+TEST(StyleMaker, KeepsAlignmentsThatAreSeen) {
+    DocumentDraft draft = draftWithJustifiedText();
+    draft.blocks[1].paragraph()->pieces[0].text.alignment = document::Alignment::Center;
+    EXPECT_EQ(paragraphAt(documentOf(draft), 1).properties.alignment, document::Alignment::Center);
+}
+
+TEST(StyleMaker, GivesSingleLinesTheLineSpacingOfTheRest) {
+    DocumentDraft draft = draftOfLines({{"A last line", 200}});
+    draft.blocks.insert(draft.blocks.begin(),
+                        makeBlock(makeParagraph({makeLine("one two", 72, 100), makeLine("three", 72, 118.31)})));
+    const auto document = documentOf(draft);
+    EXPECT_DOUBLE_EQ(document.styles[0].paragraph.lineSpacing.multiple, 1.5);
+    EXPECT_DOUBLE_EQ(paragraphAt(document, 1).properties.lineSpacing.multiple, 1.5);
+}
+
+TEST(StyleMaker, OverlooksSmallDifferencesOfIndents) {
+    DocumentDraft draft = draftOfLines({});
+    for (const double left : {90.0, 90.3, 89.8, 108.0})
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("text", left, 100 + left)})));
+    const auto document = documentOf(draft);
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(paragraphAt(document, i).properties.indentStart, document.styles[0].paragraph.indentStart) << i;
+    EXPECT_NEAR(pointsFromTwips(paragraphAt(document, 3).properties.indentStart), 36, 0.01);
+}
+
+} // namespace
+} // namespace orvane::layout

@@ -1,0 +1,70 @@
+#include "layout/assembly/TabStopFinder.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::TabAlignment;
+
+std::vector<document::TabStop> stopsOf(std::vector<Line> lines) {
+    const DraftBlock block = tests::makeBlock(tests::makeParagraph(std::move(lines)));
+    return findTabStops(*block.paragraph(), {});
+}
+
+/// Moves the words from `first` on so that the last of them ends at `right`.
+void endAt(Line& line, std::size_t first, double right) {
+    const double by = right - line.words.back().box.right;
+    for (std::size_t i = first; i < line.words.size(); ++i)
+        line.words[i].box = {line.words[i].box.left + by, line.words[i].box.top, line.words[i].box.right + by,
+                             line.words[i].box.bottom};
+}
+
+TEST(TabStopFinder, PutsAStopWhereTheWordsStand) {
+    const auto stops = stopsOf({tests::makeLine("Name\tMiller", 72, 100)});
+    ASSERT_EQ(stops.size(), 1u);
+    EXPECT_EQ(stops[0].position, twipsFromPoints(40));
+    EXPECT_EQ(stops[0].alignment, TabAlignment::Start);
+}
+
+TEST(TabStopFinder, JoinsTheStopsOfSeveralLines) {
+    EXPECT_EQ(stopsOf({tests::makeLine("Name\tMiller", 72, 100), tests::makeLine("Town\tParis", 72, 112)}).size(), 1u);
+}
+
+TEST(TabStopFinder, AlignsAtTheEndWhatEndsAtTheEdge) {
+    Line line = tests::makeLine("Left\tright side", 72, 100);
+    endAt(line, 1, 522);
+    const auto stops = stopsOf({line});
+    ASSERT_EQ(stops.size(), 1u);
+    EXPECT_EQ(stops[0].alignment, TabAlignment::End);
+    EXPECT_EQ(stops[0].position, twipsFromPoints(523 - 72));
+}
+
+TEST(TabStopFinder, CentersWhatStandsInTheMiddle) {
+    Line line = tests::makeLine("Left\tmiddle", 72, 100);
+    endAt(line, 1, (523 + 72) / 2.0 + 15);
+    const auto stops = stopsOf({line});
+    ASSERT_EQ(stops.size(), 1u);
+    EXPECT_EQ(stops[0].alignment, TabAlignment::Center);
+    EXPECT_EQ(stops[0].position, twipsFromPoints((523 - 72) / 2.0));
+}
+
+TEST(TabStopFinder, KeepsLeaders) {
+    Line line = tests::makeLine("Chapter\t12", 72, 100);
+    line.words[1].leaderBefore = document::TabLeader::Dots;
+    endAt(line, 1, 400);
+    const auto stops = stopsOf({line});
+    ASSERT_EQ(stops.size(), 1u);
+    EXPECT_EQ(stops[0].leader, document::TabLeader::Dots);
+    EXPECT_EQ(stops[0].alignment, TabAlignment::End);
+    EXPECT_EQ(stops[0].position, twipsFromPoints(400 - 72));
+}
+
+TEST(TabStopFinder, TakesAHangingIndentAsAStop) {
+    EXPECT_TRUE(stopsOf({tests::makeLine("a)\tfirst line", 72, 100), tests::makeLine("second", 102, 112)}).empty());
+}
+
+} // namespace
+} // namespace orvane::layout

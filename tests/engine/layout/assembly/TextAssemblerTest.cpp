@@ -1,0 +1,98 @@
+#include "layout/assembly/TextAssembler.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeBlock;
+using tests::makeLine;
+using tests::makeParagraph;
+
+DocumentDraft draftOf(std::vector<Line> lines) {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.blocks.push_back(makeBlock(makeParagraph(std::move(lines))));
+    return draft;
+}
+
+ParagraphDraft& paragraphOf(DocumentDraft& draft) {
+    return draft.blocks[0].paragraph()->pieces[0].text;
+}
+
+std::string text(const DocumentDraft& draft) {
+    return tests::textOfParagraph(draft, 0);
+}
+
+TEST(TextAssembler, JoinsWordsAndLinesWithBlanks) {
+    EXPECT_EQ(text(draftOf({makeLine("one two", 72, 100), makeLine("three", 72, 112)})), "p Normal \"one two three\"");
+}
+
+TEST(TextAssembler, ResolvesHyphensAtLineEnds) {
+    EXPECT_EQ(text(draftOf({makeLine("con-", 72, 100), makeLine("version", 72, 112)})), "p Normal \"conversion\"");
+    EXPECT_EQ(text(draftOf({makeLine("East-", 72, 100), makeLine("West", 72, 112)})), "p Normal \"East-West\"");
+    EXPECT_EQ(text(draftOf({makeLine("soft\u00AD", 72, 100), makeLine("ness", 72, 112)})), "p Normal \"softness\"");
+}
+
+TEST(TextAssembler, SetsNoBlankBetweenEastAsianLines) {
+    EXPECT_EQ(text(draftOf({makeLine("\u6771\u4EAC", 72, 100), makeLine("\u90FD", 72, 112)})),
+              "p Normal \"\u6771\u4EAC\u90FD\"{ea=Calibri}");
+}
+
+TEST(TextAssembler, KeepsBreaksMadeByHand) {
+    DocumentDraft draft = draftOf({makeLine("Street 1", 72, 100), makeLine("Town", 72, 112)});
+    paragraphOf(draft).hardBreaks = {0};
+    EXPECT_EQ(text(draft), "p Normal \"Street 1\" break \"Town\"");
+}
+
+TEST(TextAssembler, PartsRunsWhereTheLookChanges) {
+    DocumentDraft draft = draftOf({makeLine("a bold word", 72, 100)});
+    paragraphOf(draft).lines[0].words[1].spans[0].look.isBold = true;
+    EXPECT_EQ(text(draft), "p Normal \"a \" \"bold \"{b} \"word\"");
+}
+
+TEST(TextAssembler, UnderlinesBlanksOnlyBetweenUnderlinedWords) {
+    DocumentDraft draft = draftOf({makeLine("a b c", 72, 100)});
+    for (const std::size_t word : {0u, 1u})
+        paragraphOf(draft).lines[0].words[word].spans[0].look.underline = document::UnderlineKind::Single;
+    EXPECT_EQ(text(draft), "p Normal \"a b\"{u} \" c\"");
+}
+
+TEST(TextAssembler, MakesTabs) {
+    EXPECT_EQ(text(draftOf({makeLine("Name:\tMiller", 72, 100)})), "p Normal \"Name:\" tab \"Miller\"");
+}
+
+TEST(TextAssembler, JoinsOneLinkOverItsLines) {
+    DocumentDraft draft = draftOf({makeLine("see the", 72, 100), makeLine("site now", 72, 112)});
+    draft.pages[0].links.push_back({{}, "http://example.org/", {}});
+    draft.pages[0].links.push_back({{}, "http://example.org/", {}});
+    paragraphOf(draft).lines[0].words[1].spans[0].look.link = 0;
+    paragraphOf(draft).lines[1].words[0].spans[0].look.link = 1;
+    EXPECT_EQ(text(draft), "p Normal \"see \" link(http://example.org/)[ \"the site\" ] \" now\"");
+}
+
+TEST(TextAssembler, LeadsInnerLinksToBookmarks) {
+    DocumentDraft draft = draftOf({makeLine("go on", 72, 100)});
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("target", 72, 300)})));
+    draft.pages[0].links.push_back({{}, "", pdf::Destination{1, 290.0}});
+    paragraphOf(draft).lines[0].words[1].spans[0].look.link = 0;
+    EXPECT_EQ(text(draft), "p Normal \"go \" link(#_Ref000001)[ \"on\" ]");
+    EXPECT_EQ(tests::textOfParagraph(draft, 1), "p Normal bookmark(_Ref000001) \"target\"");
+}
+
+TEST(TextAssembler, LeavesLabelsToTheNumbering) {
+    DocumentDraft draft = draftOf({makeLine("1.\tFirst item", 72, 100)});
+    draft.blocks[0].paragraph()->labelWords = 1;
+    EXPECT_EQ(text(draft), "p Normal \"First item\"");
+}
+
+TEST(TextAssembler, SetsCharacterSpacingOnlyWhenAsked) {
+    DocumentDraft draft = draftOf({makeLine("wide", 72, 100)});
+    paragraphOf(draft).lines[0].words[0].spans[0].look.characterSpacing = 1.5;
+    EXPECT_EQ(text(draft), "p Normal \"wide\"");
+    EXPECT_EQ(tests::textOfParagraph(draft, 0, {.keepCharacterSpacing = true}), "p Normal \"wide\"{spacing=1.5pt}");
+}
+
+} // namespace
+} // namespace orvane::layout

@@ -1,0 +1,55 @@
+#include "layout/fonts/LineMetrics.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::LineSpacing;
+using document::LineSpacingRule;
+
+/// Three lines of Carlito at 10 points, whose single spacing is 12.21 points.
+LineSpacing spacingAt(double leading, const char* font = "Carlito") {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.pages[0].fonts[0].name = draft.pages[0].fonts[0].family = font;
+    draft.blocks.push_back(tests::makeBlock(
+        tests::makeParagraph({tests::makeLine("one", 72, 100), tests::makeLine("two", 72, 100 + leading),
+                              tests::makeLine("three", 72, 100 + 2 * leading)})));
+    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft), {}).value();
+}
+
+TEST(LineMetrics, ReadsTheMultipleThatTheAuthorChose) {
+    EXPECT_DOUBLE_EQ(spacingAt(12.2).multiple, 1.0);
+    EXPECT_DOUBLE_EQ(spacingAt(14.04).multiple, 1.15);
+    EXPECT_DOUBLE_EQ(spacingAt(18.3).multiple, 1.5);
+    EXPECT_NEAR(spacingAt(17.3).multiple, 1.417, 0.001) << "an odd one is kept";
+}
+
+TEST(LineMetrics, SetsExactHeightsForUnknownFonts) {
+    const LineSpacing spacing = spacingAt(17.3, "Nobodys Sans");
+    EXPECT_EQ(spacing.rule, LineSpacingRule::Exact);
+    EXPECT_EQ(spacing.height, Twips(346));
+}
+
+TEST(LineMetrics, SetsExactHeightsForLinesThatOverlap) {
+    EXPECT_EQ(spacingAt(7).rule, LineSpacingRule::Exact);
+}
+
+TEST(LineMetrics, KnowsWhereWordProcessorsPutTheSurplus) {
+    const LineExtent natural{9, 3};
+    const LineExtent doubled = spacedExtent(natural, {LineSpacingRule::Multiple, 2.0, {}});
+    EXPECT_DOUBLE_EQ(doubled.ascent, 9);
+    EXPECT_DOUBLE_EQ(doubled.descent, 15);
+    const LineExtent exact = spacedExtent(natural, {LineSpacingRule::Exact, 1, Twips(600)});
+    EXPECT_DOUBLE_EQ(exact.ascent, 24);
+    EXPECT_DOUBLE_EQ(exact.descent, 6);
+    const LineExtent atLeast = spacedExtent(natural, {LineSpacingRule::AtLeast, 1, Twips(600)});
+    EXPECT_DOUBLE_EQ(atLeast.ascent, 27);
+    EXPECT_DOUBLE_EQ(atLeast.descent, 3);
+    EXPECT_DOUBLE_EQ(spacedExtent(natural, {LineSpacingRule::AtLeast, 1, Twips(100)}).height(), 12);
+}
+
+} // namespace
+} // namespace orvane::layout

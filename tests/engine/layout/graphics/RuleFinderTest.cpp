@@ -1,0 +1,142 @@
+#include "layout/graphics/RuleFinder.h"
+
+#include "engine/layout/PageContentBuilder.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+namespace orvane::layout {
+namespace {
+
+using document::BorderKind;
+using pdf::tests::PageContentBuilder;
+
+RuledPage rulesOf(const PageContentBuilder& page) {
+    Diagnostics diagnostics;
+    return findRules(page.content(), {}, diagnostics);
+}
+
+TEST(RuleFinder, ReadsStrokesAndThinRectanglesAlike) {
+    PageContentBuilder page;
+    page.horizontalRule(72, 300, 100, 1);
+    page.filledRectangle({72, 199.5, 300, 200.5}, kBlack);
+    page.filledRectangle({400, 100, 400.48, 300}, kBlack);
+    const std::vector<Rule> rules = rulesOf(page).rules;
+    ASSERT_EQ(rules.size(), 3u);
+    for (const std::size_t i : {0u, 1u}) {
+        EXPECT_EQ(rules[i].direction, RuleDirection::Horizontal);
+        EXPECT_NEAR(rules[i].position, 100 + 100.0 * static_cast<double>(i), 0.01);
+        EXPECT_EQ(rules[i].from, 72);
+        EXPECT_EQ(rules[i].to, 300);
+        EXPECT_NEAR(rules[i].width, 1, 0.01);
+    }
+    EXPECT_EQ(rules[2].direction, RuleDirection::Vertical);
+    EXPECT_NEAR(rules[2].position, 400.24, 0.01);
+}
+
+TEST(RuleFinder, MakesFourRulesOfAStrokedRectangle) {
+    PageContentBuilder page;
+    page.strokedRectangle({72, 100, 200, 160});
+    const RuledPage result = rulesOf(page);
+    EXPECT_EQ(result.rules.size(), 4u);
+    EXPECT_TRUE(result.grounds.empty());
+}
+
+TEST(RuleFinder, JoinsPiecesOfOneLine) {
+    PageContentBuilder page;
+    page.horizontalRule(200, 300, 100.1);
+    page.horizontalRule(72, 200.4, 100);
+    page.horizontalRule(310, 400, 100.2);
+    const std::vector<Rule> rules = rulesOf(page).rules;
+    ASSERT_EQ(rules.size(), 2u);
+    EXPECT_EQ(rules[0].from, 72);
+    EXPECT_EQ(rules[0].to, 300);
+    EXPECT_EQ(rules[1].from, 310) << "across a gap of ten points it is another line";
+}
+
+TEST(RuleFinder, TellsDashesAndDots) {
+    PageContentBuilder page;
+    page.line({72, 100}, {300, 100}, 1, kBlack, {3, 2});
+    page.line({72, 120}, {300, 120}, 1, kBlack, {1, 1});
+    for (int i = 0; i < 20; ++i)
+        page.filledRectangle({72.0 + i * 8, 140, 76.0 + i * 8, 141}, kBlack);
+    const std::vector<Rule> rules = rulesOf(page).rules;
+    ASSERT_EQ(rules.size(), 3u);
+    EXPECT_EQ(rules[0].kind, BorderKind::Dashed);
+    EXPECT_EQ(rules[1].kind, BorderKind::Dotted);
+    EXPECT_EQ(rules[2].kind, BorderKind::Dashed) << "drawn piece by piece";
+    EXPECT_EQ(rules[2].to, 228);
+}
+
+TEST(RuleFinder, TakesAClosePairAsADoubleRule) {
+    PageContentBuilder page;
+    page.horizontalRule(72, 300, 100, 0.5);
+    page.horizontalRule(72, 300, 101.5, 0.5);
+    page.horizontalRule(72, 300, 120, 0.5);
+    const std::vector<Rule> rules = rulesOf(page).rules;
+    ASSERT_EQ(rules.size(), 2u);
+    EXPECT_EQ(rules[0].kind, BorderKind::Double);
+    EXPECT_NEAR(rules[0].position, 100.75, 0.01);
+    EXPECT_NEAR(rules[0].width, 2, 0.01);
+    EXPECT_EQ(rules[1].kind, BorderKind::Single);
+}
+
+TEST(RuleFinder, TakesFilledRectanglesAsGrounds) {
+    PageContentBuilder page;
+    page.filledRectangle({72, 100, 300, 130}, {200, 220, 240});
+    page.filledRectangle({80, 105, 120, 125}, kWhite);
+    page.filledRectangle({400, 100, 500, 130}, kWhite);
+    const std::vector<Ground> grounds = rulesOf(page).grounds;
+    ASSERT_EQ(grounds.size(), 2u) << "white on the bare page is nothing";
+    EXPECT_EQ(grounds[0].color, (Color{200, 220, 240}));
+    EXPECT_EQ(grounds[1].box, (Rect{80, 105, 120, 125})) << "white on a ground is seen";
+}
+
+TEST(RuleFinder, TakesRoundedRectanglesAsRectangles) {
+    PageContentBuilder page;
+    pdf::Path& path = page.newPath();
+    using pdf::PathVerb;
+    path.segments = {{PathVerb::Move, {}, {}, {80, 100}},
+                     {PathVerb::Line, {}, {}, {192, 100}},
+                     {PathVerb::Curve, {196, 100}, {200, 104}, {200, 108}},
+                     {PathVerb::Line, {}, {}, {200, 152}},
+                     {PathVerb::Curve, {200, 156}, {196, 160}, {192, 160}},
+                     {PathVerb::Line, {}, {}, {80, 160}},
+                     {PathVerb::Curve, {76, 160}, {72, 156}, {72, 152}},
+                     {PathVerb::Line, {}, {}, {72, 108}},
+                     {PathVerb::Curve, {72, 104}, {76, 100}, {80, 100}},
+                     {PathVerb::Close, {}, {}, {}}};
+    path.fill = pdf::FillStyle{{200, 200, 200}, false, false, 1};
+    path.box = {72, 100, 200, 160};
+    const RuledPage result = rulesOf(page);
+    ASSERT_EQ(result.grounds.size(), 1u);
+    EXPECT_EQ(result.grounds[0].box, path.box);
+    EXPECT_TRUE(result.isTaken[0]);
+}
+
+TEST(RuleFinder, LeavesShapesToTheDrawings) {
+    PageContentBuilder page;
+    page.disk({100, 100}, 20);
+    page.line({72, 200}, {150, 260});
+    const RuledPage result = rulesOf(page);
+    EXPECT_TRUE(result.rules.empty());
+    EXPECT_TRUE(result.grounds.empty());
+    EXPECT_THAT(result.isTaken, testing::ElementsAre(false, false));
+}
+
+TEST(RuleFinder, IsQuickOnAPageOfManySegments) {
+    PageContentBuilder page;
+    for (int row = 0; row < 200; ++row)
+        for (int column = 0; column < 50; ++column) {
+            page.horizontalRule(10 + column * 11, 20 + column * 11, 10 + row * 4);
+            page.verticalRule(10 + column * 11, 10 + row * 4, 13 + row * 4);
+        }
+    const auto begin = std::chrono::steady_clock::now();
+    const std::size_t count = rulesOf(page).rules.size();
+    EXPECT_EQ(count, 250u) << "200 lines across, 50 dashed ones down";
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5)) << "20,000 segments";
+}
+
+} // namespace
+} // namespace orvane::layout

@@ -1,0 +1,153 @@
+#include "layout/page/PageLayouter.h"
+
+#include "engine/layout/LineArt.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::linesFromArt;
+using tests::makeLine;
+using tests::makePage;
+using tests::textOfParagraph;
+
+/// The blocks in order: paragraphs as their text, figures as "[figure]", each column's start as "|", each band's as
+/// "=".
+std::string describe(const PageLayout& layout) {
+    std::string text;
+    int band = -1;
+    int column = -1;
+    for (const PageBlock& block : layout.blocks) {
+        if (block.band != band)
+            text += text.empty() ? "" : "=";
+        else if (block.column != column)
+            text += "|";
+        else
+            text += "/";
+        band = block.band;
+        column = block.column;
+        if (const auto* paragraph = std::get_if<ParagraphDraft>(&block.value))
+            text += textOfParagraph(*paragraph);
+        else
+            text += std::get<FigureDraft>(block.value).isInline ? "[inline figure]" : "[figure]";
+    }
+    return text;
+}
+
+PageLayout layoutArt(const std::vector<std::string>& art, std::vector<Figure> figures = {}) {
+    PageText page = makePage(1);
+    page.lines = linesFromArt(art);
+    page.figures = std::move(figures);
+    DocumentContext context;
+    context.bodyFontSize = 10;
+    context.bodyLeading = 12;
+    Diagnostics diagnostics;
+    return layoutPage(std::move(page), context, {}, diagnostics);
+}
+
+TEST(PageLayouter, ReadsColumnsOneAfterTheOther) {
+    struct Row {
+        std::vector<std::string> art;
+        std::string expected;
+        const char* why;
+    };
+    const std::string left = "one two three fou five six seven ei nine ten eleven .";
+    const std::string right = "Nine ten eleven t thirteen fourtee sixteen seventee";
+    const Row rows[] = {
+        {{"one two three fou   Nine ten eleven t", "five six seven ei   thirteen fourtee",
+          "nine ten eleven .   sixteen seventee"},
+         left + "|" + right,
+         "two columns"},
+        {{"A title that stands over both of them", "one two three fou   Nine ten eleven t",
+          "five six seven ei   thirteen fourtee", "nine ten eleven .   sixteen seventee"},
+         "A title that stands over both of them=" + left + "|" + right,
+         "a title over two columns is a band of its own"},
+        {{"one two three fou   Nine ten eleven t", "five six seven ei   thirteen fourtee",
+          "nine ten eleven .   sixteen seventee", "This line closes below both of them."},
+         left + "|" + right + "=This line closes below both of them.",
+         "text over the whole width below the columns"},
+        {{"one two three fou   Nine ten eleven t   A third column ...",
+          "five six seven ei   thirteen fourtee    stands at the righ",
+          "nine ten eleven .   sixteen seventee    side of the page."},
+         left + "|" + right + "|A third column ... stands at the righ side of the page.",
+         "three columns"},
+        {{"Name:        Miller", "Street:      Long St.", "Town:        Springf."},
+         "Name:\tMiller/Street:\tLong St./Town:\tSpringf.",
+         "labels and values are read row by row"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(describe(layoutArt(row.art)), row.expected) << row.why;
+}
+
+TEST(PageLayouter, CutsLinesThatLeadAcrossAGutter) {
+    PageText page = makePage(1);
+    for (int i = 0; i < 8; ++i)
+        page.lines.push_back(makeLine("one two three fou  nine ten eleven t", 0, 100 + 12 * i));
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(page, {}, {}, diagnostics);
+    ASSERT_EQ(layout.bands.size(), 1U);
+    EXPECT_EQ(layout.bands[0].columns.size(), 2U) << "a gutter of two blanks, eight times";
+}
+
+TEST(PageLayouter, ReadsRightToLeftColumnsFromTheRight) {
+    PageText page = makePage(1);
+    page.lines = linesFromArt({"one two three fou   nine ten eleven t", "five six seven ei   thirteen fourtee",
+                               "nine ten eleven .   sixteen seventee"});
+    for (Line& line : page.lines) {
+        line.isRightToLeft = true;
+        for (Word& word : line.words)
+            word.isRightToLeft = true;
+    }
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(page, {}, {}, diagnostics);
+    ASSERT_EQ(layout.bands[0].columns.size(), 2U);
+    EXPECT_GT(layout.bands[0].columns[0].left, layout.bands[0].columns[1].left);
+    EXPECT_EQ(textOf(std::get<ParagraphDraft>(layout.blocks[0].value).lines[0]), "nine ten eleven t");
+}
+
+TEST(PageLayouter, PutsFiguresIntoTheirPlace) {
+    Figure between;
+    between.box = {0, 104, 100, 140};
+    EXPECT_EQ(describe(layoutArt({"Above stands a line of text", "", "", "", "Below stands another one"}, {between})),
+              "Above stands a line of text/[inline figure]/Below stands another one");
+    Figure beside;
+    beside.box = {200, 90, 300, 140};
+    EXPECT_EQ(describe(layoutArt({"Text that stands beside a", "figure and goes on below it"}, {beside})),
+              "[figure]/Text that stands beside a figure and goes on below it");
+    Figure ground;
+    ground.box = {0, 0, 595, 842};
+    ground.isBackground = true;
+    EXPECT_EQ(describe(layoutArt({"Text"}, {ground})), "[figure]/Text") << "backgrounds come first";
+}
+
+TEST(PageLayouter, KeepsTurnedTextOutOfTheColumns) {
+    PageText page = makePage(1);
+    page.lines = linesFromArt({"The quick brown fox jumps over", "the lazy dog."});
+    Line turned = makeLine("DRAFT", 0, 0);
+    turned.angle = 270;
+    turned.box = {160, 90, 170, 300};
+    page.lines.push_back(turned);
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(page, {}, {}, diagnostics);
+    ASSERT_EQ(layout.blocks.size(), 2U);
+    EXPECT_EQ(layout.bands[0].columns.size(), 1U);
+}
+
+TEST(PageLayouter, TellsWhereAParagraphGoesOnInTheNextColumn) {
+    const PageLayout layout = layoutArt({"One two three four   goes on up here as",
+                                         "is a column with a   it should do now", "sentence that then   and ends."});
+    ASSERT_EQ(layout.blocks.size(), 2U);
+    EXPECT_FALSE(std::get<ParagraphDraft>(layout.blocks[0].value).endsParagraph);
+    EXPECT_FALSE(std::get<ParagraphDraft>(layout.blocks[1].value).startsParagraph);
+}
+
+TEST(PageLayouter, CopesWithPagesWithoutText) {
+    EXPECT_TRUE(layoutArt({}).blocks.empty());
+    Figure figure;
+    figure.box = {10, 10, 50, 50};
+    EXPECT_EQ(describe(layoutArt({}, {figure})), "[inline figure]");
+}
+
+} // namespace
+} // namespace orvane::layout

@@ -1,0 +1,38 @@
+#include "layout/paragraphs/HyphenResolver.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+TEST(HyphenResolver, JoinsLineEnds) {
+    struct Row {
+        const char* last;
+        const char* next;
+        LineJoin expected;
+        const char* why;
+    };
+    const std::unordered_set<std::string> vocabulary = {"information", "well-known", "real", "time", "x-ray"};
+    const Row rows[] = {
+        {"word", "next", LineJoin::Blank, "plain words"},
+        {"infor-", "mation,", LineJoin::DropHyphen, "the joined word stands elsewhere in the document"},
+        {"(well-", "known)", LineJoin::Nothing, "the compound stands elsewhere in the document"},
+        {"real-", "time", LineJoin::Nothing, "both halves are words of the document"},
+        {"conver-", "sion", LineJoin::DropHyphen, "a lower case continuation"},
+        {"Nord-", "Ostsee", LineJoin::Nothing, "a capital behind the hyphen: a compound"},
+        {"COVID-", "19", LineJoin::Nothing, "a number"},
+        {"e-", "mail", LineJoin::Nothing, "nobody divides a word behind one letter"},
+        {"state-of-the-", "art", LineJoin::Nothing, "a compound of many parts"},
+        {"con\xC2\xAD", "version", LineJoin::DropHyphen, "a soft hyphen"},
+        {"\xE6\x97\xA5\xE6\x9C\xAC", "\xE8\xAA\x9E", LineJoin::Nothing, "East Asian text has no blanks"},
+        {"-", "item", LineJoin::Blank, "a dash on its own"},
+        {"1990-", "1999", LineJoin::Nothing, "a range"},
+        {"", "next", LineJoin::Nothing, "nothing to join"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(resolveLineEnd(row.last, row.next, vocabulary), row.expected)
+            << row.last << ' ' << row.next << ": " << row.why;
+}
+
+} // namespace
+} // namespace orvane::layout

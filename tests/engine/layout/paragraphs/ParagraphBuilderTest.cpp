@@ -1,0 +1,169 @@
+#include "layout/paragraphs/ParagraphBuilder.h"
+
+#include "engine/layout/LineArt.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+using tests::artColumn;
+using tests::linesFromArt;
+using tests::makeLine;
+using tests::textsOf;
+
+/// The blank of drawn lines is as wide as any character.
+const std::vector<pdf::Font> kFonts = [] {
+    pdf::Font font;
+    font.spaceWidth = 0.5;
+    return std::vector{font};
+}();
+const ParagraphContext kContext{.bodyFontSize = 10, .bodyLeading = 12, .fonts = kFonts, .obstacles = {}};
+
+std::vector<ParagraphDraft> build(const std::vector<std::string>& art, int columnWidth, double leading = 12) {
+    return buildParagraphs(linesFromArt(art, leading), artColumn(columnWidth), kContext, {});
+}
+
+TEST(ParagraphBuilder, JoinsTheLinesOfAParagraph) {
+    struct Row {
+        std::vector<std::string> art; ///< in a column of 30 characters
+        std::vector<std::string> expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {{"The quick brown fox jumps over", "the lazy dog and runs away in", "to the woods."},
+         {"The quick brown fox jumps over the lazy dog and runs away in to the woods."},
+         "no line had room for the next word"},
+        {{"The quick brown fox jumps over", "the dog.", "Another one starts here and it", "goes on."},
+         {"The quick brown fox jumps over the dog.", "Another one starts here and it goes on."},
+         "\"Another\" would have fitted behind \"dog.\""},
+        {{"The quick brown fox jumps over", "the lazy dog and runs away in.", "", "Another one starts here and it",
+          "goes on."},
+         {"The quick brown fox jumps over the lazy dog and runs away in.", "Another one starts here and it goes on."},
+         "space between paragraphs, though the last line is full"},
+        {{"   The quick brown fox jumps o", "the lazy dog and runs away in.", "   Another one starts here and",
+          "goes on."},
+         {"The quick brown fox jumps o the lazy dog and runs away in.", "Another one starts here and goes on."},
+         "first lines are indented, no space between"},
+        {{"Miller & Sons", "12 Long Street", "Springfield"},
+         {"Miller & Sons", "12 Long Street", "Springfield"},
+         "an address: every next word would have fitted"},
+        {{"Shall I compare thee", "to a summer's day?", "Thou art more lovely"},
+         {"Shall I compare thee", "to a summer's day?", "Thou art more lovely"},
+         "verse"},
+        {{"1. The first item is long and", "   goes on below its text", "2. The second item"},
+         {"1. The first item is long and goes on below its text", "2. The second item"},
+         "numbered items with a hanging indent"},
+        {{"\xE2\x80\xA2 First item of the list which", "  takes two lines and fills up", "\xE2\x80\xA2 Second item"},
+         {"\xE2\x80\xA2 First item of the list which takes two lines and fills up", "\xE2\x80\xA2 Second item"},
+         "bullets start a paragraph though the line above is full"},
+        {{"He was born in the summer of", "1999. After that nothing came", "to pass for a long time."},
+         {"He was born in the summer of 1999. After that nothing came to pass for a long time."},
+         "a number by chance at the start of a line is no label"},
+        {{"Doe, J.: The long title of some", "     book that is worth reading", "     and more of it.",
+          "Roe, R.: Another book and its", "     title."},
+         {"Doe, J.: The long title of some book that is worth reading and more of it.",
+          "Roe, R.: Another book and its title."},
+         "a bibliography hangs below its first lines"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(textsOf(build(row.art, 31)), row.expected) << row.why;
+}
+
+TEST(ParagraphBuilder, KeepsDoubleSpacedLinesTogether) {
+    const auto paragraphs = build(
+        {"The quick brown fox jumps over", "the lazy dog and runs away in", "the woods and then comes back", "again."},
+        30, 24);
+    EXPECT_EQ(paragraphs.size(), 1U);
+    EXPECT_NEAR(paragraphs[0].leading, 24, 0.01);
+}
+
+TEST(ParagraphBuilder, ReadsAlignment) {
+    struct Row {
+        std::vector<std::string> art; ///< in a column of 30 characters
+        Alignment expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {{"The quick brown fox jumps over", "the lazy dog and runs awayyy", "to the woods."},
+         Alignment::Start,
+         "ragged"},
+        {{"      A centred title"}, Alignment::Start, "off the middle by more than chance"},
+        {{"       A centred title"}, Alignment::Center, "one line in the middle"},
+        {{"  A centred title that is so", "      long that it wraps"}, Alignment::Center, "two lines in the middle"},
+        {{"             14 September 2021"}, Alignment::End, "a date at the right edge"},
+        {{"          Republic of Whatever", "                   Chancellery"},
+         Alignment::End,
+         "two lines at the right"},
+    };
+    for (const Row& row : rows) {
+        const auto paragraphs = build(row.art, 30);
+        ASSERT_EQ(paragraphs.size(), 1U) << row.why;
+        EXPECT_EQ(paragraphs[0].alignment, row.expected) << row.why;
+    }
+}
+
+TEST(ParagraphBuilder, ReadsJustifiedTextByItsStretchedBlanks) {
+    const auto paragraphs = build({"The  quick  brown  jumps  over", "the lazy dog."}, 30);
+    ASSERT_EQ(paragraphs.size(), 1U);
+    EXPECT_EQ(paragraphs[0].alignment, Alignment::Justified);
+}
+
+TEST(ParagraphBuilder, EndsAJustifiedParagraphAtItsShortLine) {
+    const auto paragraphs =
+        build({"The  quick  brown  jumps  over", "the  lazy  dog  and  ran  away", "to  the  woods  of  the  north",
+               "and stayed there for good.", "Afterwards there was nothing to"},
+              30);
+    ASSERT_EQ(paragraphs.size(), 2U) << "\"Afterwards\" has no room behind \"good.\", but the line is not stretched";
+    EXPECT_EQ(paragraphs[0].lines.size(), 4U);
+}
+
+TEST(ParagraphBuilder, MeasuresIndents) {
+    struct Row {
+        std::vector<std::string> art; ///< in a column of 30 characters
+        double start;
+        double firstLine;
+        const char* why;
+    };
+    const Row rows[] = {
+        {{"  The quick brown fox jumps to", "the lazy dog again."}, 0, 10, "first line indented"},
+        {{"1. The quick brown fox jumps o", "   the lazy dog again."}, 15, -15, "hanging below the label"},
+        {{"1. The quick brown fox"}, 15, -15, "the label of a single line hangs too"},
+        {{"    The quick brown fox jumps", "    the lazy dog again."}, 20, 0, "indented as a whole"},
+    };
+    for (const Row& row : rows) {
+        const auto paragraphs = build(row.art, 30);
+        ASSERT_EQ(paragraphs.size(), 1U) << row.why;
+        EXPECT_NEAR(paragraphs[0].indentStart, row.start, 0.01) << row.why;
+        EXPECT_NEAR(paragraphs[0].firstLine, row.firstLine, 0.01) << row.why;
+    }
+}
+
+TEST(ParagraphBuilder, StartsAnewWhereTheLookOfWholeLinesChanges) {
+    const std::vector<Line> lines = {makeLine("A heading as wide as its text", 0, 100, {.size = 10, .isBold = true}),
+                                     makeLine("The quick brown fox jumps and", 0, 112),
+                                     makeLine("Another size of text comes an", 0, 126, {.size = 12})};
+    EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 3U);
+}
+
+TEST(ParagraphBuilder, MirrorsRightToLeftText) {
+    std::vector<Line> lines = linesFromArt({"The quick brown fox jumps over", "  the lazy dog and runs awayyy",
+                                            "                   to the wood", "the lazy dog and runs away in"});
+    for (Line& line : lines)
+        line.isRightToLeft = true;
+    const auto paragraphs = buildParagraphs(lines, artColumn(30), kContext, {});
+    EXPECT_EQ(paragraphs.size(), 2U) << "room is at the left end of the lines";
+}
+
+TEST(ParagraphBuilder, MeasuresLinesBesideAFigureAgainstTheRoomLeft) {
+    const std::vector<Line> lines = linesFromArt({"The quick brown fox", "jumps over the lazy", "dogs of the village"});
+    const Rect figure{100, 80, 150, 140};
+    EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 3U);
+    ParagraphContext besideFigure = kContext;
+    besideFigure.obstacles = {&figure, 1};
+    EXPECT_EQ(buildParagraphs(lines, artColumn(30), besideFigure, {}).size(), 1U);
+}
+
+} // namespace
+} // namespace orvane::layout

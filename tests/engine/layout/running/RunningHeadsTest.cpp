@@ -1,0 +1,199 @@
+#include "layout/running/RunningHeads.h"
+
+#include "layout/text/LineText.h"
+
+#include "engine/layout/TextBuilder.h"
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace orvane::layout {
+namespace {
+
+using document::FieldCode;
+using document::NumberFormat;
+using tests::makeLine;
+using tests::makePage;
+
+/// Pages of text, each with what `addHeads(page, number)` puts on it.
+std::vector<PageText> pagesWith(int count, const std::function<void(PageText&, int)>& addHeads) {
+    const char* kTexts[] = {"one line of some text", "other words are here", "nothing repeats below",
+                            "a fourth kind of words", "yet another line"};
+    std::vector<PageText> pages;
+    for (int number = 1; number <= count; ++number) {
+        pages.push_back(makePage(number));
+        for (int i = 0; i < 30; ++i)
+            pages.back().lines.push_back(
+                makeLine(fmt::format("{} {}{}", kTexts[(i + 2 * number) % 5], char('a' + number), char('a' + i)), 72,
+                         100 + i * 20));
+        addHeads(pages.back(), number);
+    }
+    return pages;
+}
+
+std::string linesOf(const std::optional<RunningHead>& head) {
+    std::string text;
+    if (head)
+        for (const Line& line : head->content.lines)
+            text += fmt::format("{}{}", text.empty() ? "" : "|", textOf(line));
+    return text;
+}
+
+TEST(RunningHeads, TakesRepeatedLinesOffAllPages) {
+    auto pages = pagesWith(4, [](PageText& page, int) {
+        page.lines.push_back(makeLine("Annual report", 72, 50));
+        page.lines.push_back(makeLine("Confidential", 72, 800));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        EXPECT_EQ(linesOf(heads[i].header), "Annual report");
+        EXPECT_EQ(linesOf(heads[i].footer), "Confidential");
+        EXPECT_EQ(pages[i].lines.size(), 30u);
+        EXPECT_EQ(heads[i].header->key, heads[0].header->key);
+    }
+}
+
+TEST(RunningHeads, LeavesTheOnlyTextOfThePages) {
+    std::vector<PageText> pages;
+    for (int number = 1; number <= 6; ++number) {
+        pages.push_back(makePage(number));
+        pages.back().lines.push_back(makeLine(fmt::format("Potato {}", number), 72, 60));
+    }
+    for (const PageRunningHeads& heads : takeRunningHeads(pages, {}))
+        EXPECT_FALSE(heads.header || heads.footer);
+    for (const PageText& page : pages)
+        EXPECT_EQ(page.lines.size(), 1u);
+}
+
+TEST(RunningHeads, KnowsPageNumbers) {
+    auto pages = pagesWith(12, [](PageText& page, int number) {
+        page.lines.push_back(makeLine(fmt::format("Page {} of 12", number), 280, 800));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[10].footer);
+    ASSERT_EQ(heads[10].footer->fields.size(), 2u);
+    const Line& line = heads[10].footer->content.lines[0];
+    for (const RunningField& field : heads[10].footer->fields)
+        EXPECT_EQ(field.box, line.words[field.code == FieldCode::Page ? 1 : 3].spans[0].box);
+    EXPECT_EQ(heads[10].number, (PageNumber{11, NumberFormat::Decimal}));
+}
+
+TEST(RunningHeads, CutsNumbersOutOfWords) {
+    auto pages = pagesWith(
+        3, [](PageText& page, int number) { page.lines.push_back(makeLine(fmt::format("-{}-", number), 290, 800)); });
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[1].footer);
+    const Word& word = heads[1].footer->content.lines[0].words[0];
+    ASSERT_EQ(word.spans.size(), 3u);
+    EXPECT_EQ(word.spans[1].text, "2");
+    ASSERT_EQ(heads[1].footer->fields.size(), 1u);
+    EXPECT_EQ(heads[1].footer->fields[0].box, word.spans[1].box);
+}
+
+TEST(RunningHeads, CountsInRomanNumerals) {
+    const char* kNumerals[] = {"vii", "viii", "ix", "x"};
+    auto pages = pagesWith(
+        4, [&](PageText& page, int number) { page.lines.push_back(makeLine(kNumerals[number - 1], 290, 800)); });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(heads[2].number, (PageNumber{9, NumberFormat::LowerRoman}));
+    EXPECT_EQ(linesOf(heads[2].footer), "ix");
+}
+
+TEST(RunningHeads, ComparesOddAndEvenPagesByThemselves) {
+    auto pages = pagesWith(6, [](PageText& page, int number) {
+        page.lines.push_back(number % 2 ? makeLine("Odd pages", 440, 50) : makeLine("Even pages", 72, 50));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(linesOf(heads[2].header), "Odd pages");
+    EXPECT_EQ(linesOf(heads[3].header), "Even pages");
+}
+
+TEST(RunningHeads, LeavesTheFirstPagesOwnTextInPlace) {
+    auto pages = pagesWith(4, [](PageText& page, int number) {
+        page.lines.push_back(makeLine(number == 1 ? "A title of its own" : "Annual report", 72, 50));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_FALSE(heads[0].header);
+    EXPECT_EQ(pages[0].lines.size(), 31u);
+    EXPECT_EQ(linesOf(heads[1].header), "Annual report");
+}
+
+TEST(RunningHeads, TakesTitlesThatChangeBesideThePageNumber) {
+    const char* kTitles[] = {"Aims", "Means", "Results", "Outlook"};
+    auto pages = pagesWith(4, [&](PageText& page, int number) {
+        page.lines.push_back(makeLine(fmt::format("{}\t{}", number, kTitles[number - 1]), 72, 50));
+    });
+    EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[2].header), "3\tResults");
+}
+
+TEST(RunningHeads, LeavesSinglePagesAlone) {
+    auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("1", 290, 800)); });
+    EXPECT_FALSE(takeRunningHeads(pages, {})[0].footer);
+    EXPECT_EQ(pages[0].lines.size(), 31u);
+}
+
+TEST(RunningHeads, NeverEatsTextThatOnlyLooksAlike) {
+    const struct {
+        const char* why;
+        std::function<void(PageText&, int)> addHeads;
+    } cases[] = {
+        {"chapters of one page each",
+         [](PageText& page, int number) {
+             page.lines.insert(page.lines.begin(), makeLine(fmt::format("Chapter {}", number), 72, 60, {.size = 18}));
+         }},
+        {"numbers that do not count the pages",
+         [](PageText& page, int number) {
+             page.lines.insert(page.lines.begin(), makeLine(fmt::format("Total {}", number * number * 7), 72, 80));
+         }},
+        {"in the middle of the page",
+         [](PageText& page, int) { page.lines.push_back(makeLine("the same words", 300, 400)); }},
+    };
+    for (const auto& [why, addHeads] : cases) {
+        auto pages = pagesWith(4, addHeads);
+        for (const PageRunningHeads& heads : takeRunningHeads(pages, {}))
+            EXPECT_FALSE(heads.header || heads.footer) << why;
+    }
+}
+
+TEST(RunningHeads, LeavesTheHeadsOfTablesThatGoOn) {
+    auto pages = pagesWith(3, [](PageText& page, int) {
+        page.lines.insert(page.lines.begin(), makeLine("Name\tTown\tStreet", 72, 80));
+        Rule rule;
+        rule.direction = RuleDirection::Vertical;
+        rule.position = 100;
+        rule.from = 70;
+        rule.to = 700;
+        page.rules.push_back(rule);
+    });
+    EXPECT_FALSE(takeRunningHeads(pages, {})[1].header);
+}
+
+TEST(RunningHeads, TakesLogosAndRulesAlong) {
+    auto pages = pagesWith(3, [](PageText& page, int) {
+        page.lines.push_back(makeLine("Annual report", 72, 50));
+        Rule rule;
+        rule.position = 55;
+        rule.from = 72;
+        rule.to = 523;
+        page.rules.push_back(rule);
+        Figure logo;
+        logo.picture = PictureId{7};
+        logo.box = {480, 20, 523, 60};
+        page.figures.push_back(logo);
+        Figure picture;
+        picture.picture = PictureId{static_cast<std::uint32_t>(10 + page.number)};
+        picture.box = {100, 300, 300, 400};
+        page.figures.push_back(picture);
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(heads[1].header->content.rules.size(), 1u);
+    ASSERT_EQ(heads[1].header->content.figures.size(), 1u);
+    EXPECT_EQ(heads[1].header->content.figures[0].picture, PictureId{7});
+    ASSERT_EQ(pages[1].figures.size(), 1u) << "the page's own picture stays";
+    EXPECT_EQ(pages[1].figures[0].picture, PictureId{12});
+}
+
+} // namespace
+} // namespace orvane::layout

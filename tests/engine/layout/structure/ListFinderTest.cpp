@@ -1,0 +1,125 @@
+#include "layout/structure/ListFinder.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::NumberFormat;
+
+struct Row {
+    const char* text; ///< the label, a tabulator or blank, the text
+    double left = 90;
+    ParagraphRole role = ParagraphRole::Body;
+};
+
+/// One paragraph of one line for each row, found lists in it.
+DocumentDraft listsOf(const std::vector<Row>& rows) {
+    DocumentDraft draft = tests::makeDraft(1);
+    double baseline = 100;
+    for (const Row& row : rows) {
+        draft.blocks.push_back(
+            tests::makeBlock(tests::makeParagraph({tests::makeLine(row.text, row.left, baseline += 14)})));
+        draft.blocks.back().paragraph()->role = row.role;
+    }
+    findLists(draft, {});
+    return draft;
+}
+
+/// The list and level of each paragraph, "-" for none: "0.0 0.1 -".
+std::string placesOf(const DocumentDraft& draft) {
+    std::string text;
+    for (const DraftBlock& block : draft.blocks) {
+        const auto& list = block.paragraph()->list;
+        text += text.empty() ? "" : " ";
+        text += list ? std::to_string(list->numbering) + "." + std::to_string(list->level) : "-";
+    }
+    return text;
+}
+
+const document::NumberingLevel& levelOf(const DocumentDraft& draft, std::size_t list, std::size_t level) {
+    return draft.numberings.at(list).numbering.levels.at(level);
+}
+
+TEST(ListFinder, FindsLists) {
+    const struct {
+        const char* why;
+        std::vector<Row> rows;
+        const char* expected;
+    } cases[] = {
+        {"bullets", {{"\u2022\tone"}, {"\u2022\ttwo"}}, "0.0 0.0"},
+        {"numbers that count", {{"1.\tone"}, {"2.\ttwo"}, {"3.\tthree"}}, "0.0 0.0 0.0"},
+        {"letters in brackets", {{"(a)\tone"}, {"(b)\ttwo"}}, "0.0 0.0"},
+        {"i after h is a letter", {{"h)\tone"}, {"i)\ttwo"}, {"j)\tthree"}}, "0.0 0.0 0.0"},
+        {"i before ii is a numeral", {{"i)\tone"}, {"ii)\ttwo"}, {"iii)\tthree"}}, "0.0 0.0 0.0"},
+        {"text between items", {{"1.\tone"}, {"more", 108}, {"2.\ttwo"}}, "0.0 - 0.0"},
+        {"a level below", {{"1.\tone"}, {"a)\tin one", 120}, {"b)\tin one", 120}, {"2.\ttwo"}}, "0.0 0.1 0.1 0.0"},
+        {"the level below starts anew",
+         {{"1.\tone"}, {"a)\tin one", 120}, {"2.\ttwo"}, {"a)\tin two", 120}},
+         "0.0 0.1 0.0 0.1"},
+        {"a list that starts anew", {{"1.\tone"}, {"2.\ttwo"}, {"1.\tone"}, {"2.\ttwo"}}, "0.0 0.0 1.0 1.0"},
+        {"another sign", {{"\u2022\tone"}, {"\u25AA\ttwo"}}, "0.0 1.0"},
+        {"numbers that do not count", {{"3.\tone", 72}, {"7.\ttwo", 72}}, "- -"},
+        {"a dash typed at the margin", {{"- one", 72}, {"- two", 72}}, "- -"},
+        {"a single number", {{"2. one", 72}}, "-"},
+        {"headings", {{"1.\tAims", 72, ParagraphRole::Heading}, {"2.\tMeans", 72, ParagraphRole::Heading}}, "- -"},
+        {"numerals of Han", {{"\u4E00\u3001\tone"}, {"\u4E8C\u3001\ttwo"}}, "- -"},
+        {"numbers of two levels", {{"1.\tone"}, {"1.1.\tin one"}, {"1.2.\tin one"}, {"2.\ttwo"}}, "0.0 0.1 0.1 0.0"},
+    };
+    for (const auto& [why, rows, expected] : cases)
+        EXPECT_EQ(placesOf(listsOf(rows)), expected) << why;
+}
+
+TEST(ListFinder, LeavesTheLabelToTheNumbering) {
+    const DocumentDraft draft = listsOf({{"(3)\tthree"}, {"(4)\tfour"}});
+    const document::NumberingLevel& level = levelOf(draft, 0, 0);
+    EXPECT_EQ(level.format, NumberFormat::Decimal);
+    EXPECT_EQ(level.text, "(%1)");
+    EXPECT_EQ(level.start, 3);
+    EXPECT_EQ(draft.blocks[0].paragraph()->labelWords, 1u);
+    EXPECT_EQ(draft.blocks[0].paragraph()->role, ParagraphRole::ListItem);
+}
+
+TEST(ListFinder, MeasuresTheIndentsOfALevel) {
+    const document::NumberingLevel& level = levelOf(listsOf({{"1.\tone"}, {"2.\ttwo"}}), 0, 0);
+    EXPECT_EQ(level.indentStart, twipsFromPoints(90 - 72 + 30)) << "where the text starts";
+    EXPECT_EQ(level.firstLine, twipsFromPoints(-30)) << "the label hangs out";
+}
+
+TEST(ListFinder, RepeatsTheNumbersOfTheLevelAbove) {
+    const DocumentDraft draft = listsOf({{"2.\ttwo"}, {"2.1.\tin two"}, {"2.2.\tin two"}, {"3.\tthree"}});
+    EXPECT_EQ(levelOf(draft, 0, 1).text, "%1.%2.");
+    const DocumentDraft alone = listsOf({{"2.1.\tin two"}, {"2.2.\tin two"}});
+    EXPECT_EQ(levelOf(alone, 0, 0).text, "2.%1.") << "the level above is no item of the list";
+    EXPECT_EQ(levelOf(alone, 0, 0).start, 1);
+}
+
+TEST(ListFinder, FindsListsWithinCells) {
+    DocumentDraft draft = tests::makeDraft(1);
+    DraftBlock block;
+    DraftTable table;
+    table.cells.resize(2);
+    for (DraftCell& cell : table.cells)
+        for (const char* text : {"1.\tone", "2.\ttwo"})
+            cell.blocks.push_back(tests::makeBlock(tests::makeParagraph({tests::makeLine(text, 90, 100)})));
+    block.value = table;
+    draft.blocks.push_back(block);
+    findLists(draft, {});
+    EXPECT_EQ(draft.numberings.size(), 2u) << "each cell counts by itself";
+}
+
+TEST(ListFinder, SetsBulletsInTheFontsOfWordProcessors) {
+    const auto document = tests::documentOf(listsOf({{"\u2022\tone"}, {"\u2022\ttwo"}}));
+    ASSERT_EQ(document.numberings.size(), 1u);
+    const document::NumberingLevel& level = document.numberings[0].levels[0];
+    EXPECT_EQ(level.text, "\uF0B7");
+    ASSERT_TRUE(level.run);
+    EXPECT_EQ(level.run->fontFamily, "Symbol");
+    EXPECT_EQ(document::dump(tests::paragraphAt(document, 0), document),
+              "p ListParagraph list=0.0 {start=43pt first=-25pt} \"one\"");
+}
+
+} // namespace
+} // namespace orvane::layout

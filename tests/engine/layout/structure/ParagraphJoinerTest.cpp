@@ -1,0 +1,61 @@
+#include "layout/structure/ParagraphJoiner.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeBlock;
+using tests::makeDraft;
+using tests::makeLine;
+using tests::makeParagraph;
+
+/// A full line at the foot of the first page, and one at the top of the second.
+DocumentDraft brokenParagraph(const char* before, const char* after) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine(before, 72, 740), makeLine(before, 72, 752)})));
+    draft.blocks.back().paragraph()->pieces[0].text.endsParagraph = false;
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine(after, 72, 84)}), 1));
+    return draft;
+}
+
+constexpr const char* kFullLine =
+    "a line of so many words that it goes on to the other side, where it ends without a full stop";
+
+TEST(ParagraphJoiner, JoinsWhatAPageBreakCut) {
+    DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
+    joinParagraphs(draft, {}, {});
+    ASSERT_EQ(draft.blocks.size(), 1u);
+    ASSERT_EQ(draft.blocks[0].paragraph()->pieces.size(), 2u);
+    EXPECT_EQ(draft.blocks[0].paragraph()->pieces[1].page, 1u);
+}
+
+TEST(ParagraphJoiner, KeepsParagraphsApartThatEnded) {
+    DocumentDraft draft = brokenParagraph("a short line", "and goes on here");
+    joinParagraphs(draft, {}, {});
+    EXPECT_EQ(draft.blocks.size(), 2u);
+}
+
+TEST(ParagraphJoiner, PutsPicturesAtTheBreakBehindTheParagraph) {
+    DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
+    DraftBlock picture;
+    picture.page = 1;
+    picture.value = FigureDraft{};
+    draft.blocks.insert(draft.blocks.begin() + 1, picture);
+    joinParagraphs(draft, {}, {});
+    ASSERT_EQ(draft.blocks.size(), 2u);
+    EXPECT_TRUE(draft.blocks[0].paragraph());
+}
+
+TEST(ParagraphJoiner, JoinsColumnsThatThePageSaysGoOn) {
+    DocumentDraft draft = brokenParagraph("first column", "second column");
+    draft.blocks[1].page = draft.blocks[1].paragraph()->pieces[0].page = 0;
+    draft.blocks[1].paragraph()->pieces[0].text.startsParagraph = false;
+    joinParagraphs(draft, {}, {});
+    EXPECT_EQ(draft.blocks.size(), 1u);
+}
+
+} // namespace
+} // namespace orvane::layout

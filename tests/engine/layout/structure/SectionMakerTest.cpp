@@ -1,0 +1,127 @@
+#include "layout/structure/SectionMaker.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::SectionStart;
+using tests::makeBlock;
+using tests::makeDraft;
+using tests::makeLine;
+using tests::makeParagraph;
+
+void addLine(DocumentDraft& draft, std::size_t page, double left, double baseline) {
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("some words", left, baseline)}), page));
+}
+
+/// Lines from the top of the page down to its foot, or to `last`.
+void fillPage(DocumentDraft& draft, std::size_t page, double last = 760) {
+    for (double baseline = 84; baseline <= last; baseline += 20)
+        addLine(draft, page, 72, baseline);
+}
+
+void sectionsOf(DocumentDraft& draft, std::vector<PageRunningHeads> heads = {}) {
+    heads.resize(draft.pages.size());
+    Diagnostics diagnostics;
+    makeSections(draft, heads, {}, {}, diagnostics);
+}
+
+const DraftBlock& firstOn(const DocumentDraft& draft, std::size_t page) {
+    return *std::find_if(draft.blocks.begin(), draft.blocks.end(), [&](const DraftBlock& b) { return b.page == page; });
+}
+
+TEST(SectionMaker, TakesMarginsFromTheText) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0);
+    fillPage(draft, 1);
+    sectionsOf(draft);
+    ASSERT_EQ(draft.sections.size(), 1u);
+    const document::Section& setup = draft.sections[0].setup;
+    EXPECT_EQ(setup.pageWidth, twipsFromPoints(595));
+    EXPECT_EQ(setup.marginLeft, twipsFromPoints(72));
+    EXPECT_EQ(setup.marginRight, setup.marginLeft) << "nothing shows the right edge, so it is like the left";
+    EXPECT_LE(setup.marginBottom, twipsFromPoints(842 - 746.5)) << "the last line has room";
+    EXPECT_GE(setup.marginBottom, twipsFromPoints(842 - 746.5 - 12.2)) << "but no other line";
+}
+
+TEST(SectionMaker, StartsASectionWhereThePaperTurns) {
+    DocumentDraft draft = makeDraft(3);
+    std::swap(draft.pages[1].width, draft.pages[1].height);
+    for (const std::size_t page : {0u, 1u, 2u})
+        addLine(draft, page, 72, 84);
+    sectionsOf(draft);
+    ASSERT_EQ(draft.sections.size(), 3u);
+    EXPECT_EQ(draft.sections[1].setup.pageWidth, twipsFromPoints(842));
+    EXPECT_EQ(draft.sections[1].setup.start, SectionStart::NextPage);
+    EXPECT_EQ(draft.sections[2].firstBlock, 2u);
+}
+
+TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
+    DocumentDraft draft = makeDraft(3);
+    fillPage(draft, 0, 300);
+    fillPage(draft, 1);
+    fillPage(draft, 2, 200);
+    sectionsOf(draft);
+    EXPECT_TRUE(firstOn(draft, 1).startsPage) << "the first page had room";
+    EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
+}
+
+TEST(SectionMaker, MakesContinuousSectionsOfColumns) {
+    DocumentDraft draft = makeDraft(1);
+    draft.pages[0].bands = {{72, 100, {tests::kColumn}, false},
+                            {110, 400, {{72, 285.5}, {309.5, 523}}, true},
+                            {420, 500, {tests::kColumn}, false}};
+    const struct {
+        double left;
+        double baseline;
+        int band;
+        int column;
+    } lines[] = {{72, 84, 0, 0}, {72, 120, 1, 0}, {72, 140, 1, 0}, {309.5, 120, 1, 1}, {72, 430, 2, 0}};
+    for (const auto& line : lines) {
+        addLine(draft, 0, line.left, line.baseline);
+        draft.blocks.back().band = line.band;
+        draft.blocks.back().column = line.column;
+        draft.blocks.back().paragraph()->pieces[0].band = line.band;
+        draft.blocks.back().paragraph()->pieces[0].columnIndex = line.column;
+    }
+    sectionsOf(draft);
+    ASSERT_EQ(draft.sections.size(), 3u);
+    EXPECT_EQ(draft.sections[1].firstBlock, 1u);
+    EXPECT_EQ(draft.sections[1].setup.start, SectionStart::Continuous);
+    ASSERT_EQ(draft.sections[1].setup.columns.size(), 2u);
+    EXPECT_TRUE(draft.sections[1].setup.hasColumnSeparator);
+    EXPECT_NEAR(draft.blocks[3].paragraph()->pieces[0].column.left, 309.5, 0.1);
+    EXPECT_TRUE(draft.blocks[3].startsColumn) << "the first column had room";
+    EXPECT_EQ(draft.sections[2].firstBlock, 4u);
+}
+
+TEST(SectionMaker, GivesRunningHeadsToTheSection) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0);
+    fillPage(draft, 1);
+    std::vector<PageRunningHeads> heads(2);
+    for (int i = 0; i < 2; ++i) {
+        RunningHead& footer = heads[static_cast<std::size_t>(i)].footer.emplace();
+        footer.key = "#";
+        footer.content = tests::makePage(i + 1);
+        footer.content.lines.push_back(makeLine(std::to_string(i + 5), 290, 800));
+        footer.fields.push_back({document::FieldCode::Page, footer.content.lines[0].words[0].spans[0].box});
+        heads[static_cast<std::size_t>(i)].number = PageNumber{i + 5, document::NumberFormat::Decimal};
+    }
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 1u);
+    ASSERT_TRUE(draft.sections[0].footer.standard);
+    EXPECT_EQ(draft.sections[0].setup.firstPageNumber, 5);
+    EXPECT_NEAR(pointsFromTwips(draft.sections[0].setup.footerDistance), 842 - 802.5, 0.1);
+    const auto document = tests::documentOf(draft);
+    const auto& footer = document.sections[0].footer.standard;
+    ASSERT_TRUE(footer && footer->size() == 1u);
+    EXPECT_NE(document::dump(std::get<document::Paragraph>(footer->front().value), document).find("page["),
+              std::string::npos);
+}
+
+} // namespace
+} // namespace orvane::layout

@@ -1,0 +1,81 @@
+#include "layout/text/GlyphFilter.h"
+
+#include "engine/layout/PageReading.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using pdf::Visibility;
+using pdf::tests::PageContentBuilder;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::linesOf;
+using tests::read;
+
+TEST(GlyphFilter, LeavesOutWhatIsNotSeen) {
+    for (const Visibility visibility :
+         {Visibility::OffPage, Visibility::ClippedAway, Visibility::HiddenLayer, Visibility::Invisible}) {
+        PageContentBuilder page;
+        page.text(72, 100, "not seen", 10, {.visibility = visibility});
+        EXPECT_THAT(linesOf(page), IsEmpty());
+    }
+}
+
+TEST(GlyphFilter, TakesTheRecognisedTextOfAScannedPage) {
+    PageContentBuilder page;
+    page.picture({0, 0, 595, 842});
+    page.text(72, 100, "recognised words", 10, {.visibility = Visibility::Invisible});
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_TRUE(text.lines[0].words[0].spans[0].look.isInvisible);
+    EXPECT_TRUE(text.isScanned);
+}
+
+TEST(GlyphFilter, TakesTextOnceWhereItIsVisibleAsWell) {
+    PageContentBuilder page;
+    page.picture({0, 0, 595, 842});
+    page.text(72, 100, "written twice", 10);
+    page.text(72, 100.8, "written twice", 10, {.visibility = Visibility::Invisible});
+    EXPECT_THAT(linesOf(page), ElementsAre("written twice"));
+    EXPECT_FALSE(read(page).isScanned);
+}
+
+TEST(GlyphFilter, TakesAShadowAndItsTextAsOne) {
+    PageContentBuilder page;
+    page.text(73, 101, "Shadow", 12, {.color = {128, 128, 128}});
+    page.text(72, 100, "Shadow", 12, {.color = {0, 0, 255}});
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_EQ(textOf(text.lines[0]), "Shadow");
+    EXPECT_EQ(text.lines[0].words[0].spans[0].look.color, (Color{0, 0, 255})) << "the text lies on top of its shadow";
+}
+
+TEST(GlyphFilter, TakesTextPaintedTwiceWithASmallOffsetAsBold) {
+    PageContentBuilder page;
+    page.text(72, 100, "Bold by painting", 12);
+    page.text(72.4, 100, "Bold by painting", 12);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_EQ(textOf(text.lines[0]), "Bold by painting");
+    EXPECT_TRUE(text.lines[0].words[0].spans[0].look.isBold);
+}
+
+TEST(GlyphFilter, TakesTextPaintedTwiceAtOnePlaceAsItIs) {
+    PageContentBuilder page;
+    page.text(72, 100, "Painted twice", 12);
+    page.text(72, 100, "Painted twice", 12);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_FALSE(text.lines[0].words[0].spans[0].look.isBold);
+}
+
+TEST(GlyphFilter, KeepsEqualNarrowLettersSideBySide) {
+    PageContentBuilder page;
+    page.text(72, 100, "lilli... iii", 6);
+    EXPECT_THAT(linesOf(page), ElementsAre("lilli... iii"));
+}
+
+} // namespace
+} // namespace orvane::layout
