@@ -91,9 +91,11 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const Layo
     // Glued to the text it cannot be told from it; only where a gap parts them does a list have written it.
     if (!marker || !marker->isWholeWord || line.words.size() < 2 || line.angle != 0)
         return {};
-    // Circled numbers and numerals of Han have no counterpart that all word processors write alike; nor have they
-    // digits.
-    if (marker->kind == MarkerKind::EastAsian)
+    // Circled numbers, numerals of Han and the digits of other scripts have no counterpart that all word processors
+    // write alike.
+    const bool isNumber = formatOf(marker->kind) == NumberFormat::Decimal;
+    if (marker->kind == MarkerKind::EastAsian ||
+        (isNumber && std::none_of(marker->text.begin(), marker->text.end(), isDigit)))
         return {};
     ListLabel label;
     label.format = formatOf(marker->kind);

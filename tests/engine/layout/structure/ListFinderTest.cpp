@@ -66,6 +66,7 @@ TEST(ListFinder, FindsLists) {
         {"a single number", {{"2. one", 72}}, "-"},
         {"headings", {{"1.\tAims", 72, ParagraphRole::Heading}, {"2.\tMeans", 72, ParagraphRole::Heading}}, "- -"},
         {"numerals of Han", {{"\u4E00\u3001\tone"}, {"\u4E8C\u3001\ttwo"}}, "- -"},
+        {"digits of another script", {{"\u0661.\tone"}, {"\u0662.\ttwo"}}, "- -"},
         {"numbers of two levels", {{"1.\tone"}, {"1.1.\tin one"}, {"1.2.\tin one"}, {"2.\ttwo"}}, "0.0 0.1 0.1 0.0"},
     };
     for (const auto& [why, rows, expected] : cases)
