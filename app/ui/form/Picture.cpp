@@ -19,6 +19,7 @@ void Picture::load(const QString& path) {
     if (!QFileInfo::exists(path) || picture.pixmap(kIconSize).isNull())
         return;
     m_picture = picture;
+    m_path = path;
     update();
 }
 

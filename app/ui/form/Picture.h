@@ -13,6 +13,8 @@ public:
     /// Shows the picture of that file; one that cannot be read leaves what was shown.
     void load(const QString& path);
     bool isEmpty() const { return m_picture.isNull(); }
+    /// Of the picture that is shown.
+    QString path() const { return m_path; }
 
     QSize sizeHint() const override;
 
@@ -25,4 +27,5 @@ protected:
 
 private:
     QIcon m_picture;
+    QString m_path;
 };

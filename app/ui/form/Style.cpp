@@ -21,6 +21,8 @@ QFrame[role="column"] QLabel[role="link"]:hover { color: #FFFFFF; }
 QFrame[role="column"] QLabel[role="link"]:focus { border-color: #FFFFFF; }
 QFrame[role="page"] { background: palette(window); border: none; }
 QFrame[role="card"] { background: palette(base); border: 1px solid palette(midlight); border-radius: 6px; }
+QFrame[role="picture"] { background: #FFFFFF; border: none; border-right: 1px solid palette(midlight); }
+QGroupBox[role="group"] { border: none; margin: 0; padding: 0; }
 QFrame[role="foot"] { background: palette(base); border: none; border-top: 1px solid palette(midlight); }
 QFrame[role="foot"] QPushButton { min-width: 104px; }
 QFrame[role="band"] QLabel[role="link"] { border: 2px solid transparent; padding: 0 4px; }
@@ -31,6 +33,7 @@ QLabel[role="status"] { font-size: 12pt; }
 QLabel[role="heading"] { font-weight: 600; }
 QLineEdit { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
             background: palette(base); }
+QLineEdit[role="shown"] { min-height: 20px; border: none; padding: 0; background: transparent; }
 QPushButton { min-height: 26px; min-width: 88px; padding: 0 12px; border: 2px solid palette(midlight); border-radius: 4px;
               background: palette(button); color: palette(button-text); }
 QPushButton:default { background: #0078D4; border-color: #0078D4; color: #FFFFFF; }

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "ui/wizard/PageListChoice.h"
+#include "ui/wizard/WizardPage.h"
+
+class DropDownList;
+
+/// The first page of the extraction wizard: image format, folder and pages. Format and folder go to the run by the
+/// shared records. The pages stay in this window: the run takes those that the main window set before, and what is
+/// entered here is only shown again on the finish page. It is not to be wired to the run.
+class frmImageFormatOutput : public WizardPage {
+    Q_OBJECT
+
+public:
+    frmImageFormatOutput(FormRegistry& registry, PagePorts ports);
+
+    /// The pages as last stored, for the finish page; the main window sets both before it shows the page.
+    QString strExtractPages;
+    std::int16_t intExtractFromTo = 0; ///< 1: a list of pages, 0: all pages
+
+    // What the main window does with controls of this page; each loads the page when needed.
+    void chooseAllPages();
+    void chooseFromTo();
+    QString captionOfSameSourceImages();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+
+private:
+    void addFormatFields();
+    void addFolderFields();
+    void addPageFields();
+    void connectHandlers();
+    void chkAllPages_Click();
+    void chkFromTo_Click();
+    void lblAllPages_Click();
+    void lblFrom_Click();
+    void txtFileBrowsePath_Change();
+    void lblFileBrowsePath_Change();
+    void cmdBrowse_Click();
+    void cmdCancel_Click();
+    void cmdNext_Click();
+    void cmdLast_Click();
+
+    void FillImageTypeList();
+    void selectStoredFormat();
+    void enableForward(const QString& path);
+    enum class Blanks { Count, DoNotCount };
+    void store(Blanks blanks);
+
+    DropDownList* cboExtImageType = nullptr;
+    QWidget* m_formatCaptions = nullptr; ///< hidden; holds option buttons for their texts
+    QLineEdit* txtFileBrowsePath = nullptr;
+    QLabel* lblFileBrowsePath = nullptr;
+    QPushButton* cmdBrowse = nullptr;
+    PageListChoice m_pages;
+    QPushButton* cmdBack;
+    QPushButton* cmdNext;
+    QPushButton* cmdLast;
+    QPushButton* cmdCancel;
+};

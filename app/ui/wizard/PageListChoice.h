@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/PageRangeCheck.h"
+
+class LinkLabel;
+class OptionButton;
+class PageFrame;
+class QLineEdit;
+class QWidget;
+class Refusals;
+
+/// The choice between all pages and a list of pages, as two pages of the wizards have it: two option buttons with their
+/// labels and the box for the list, its key filter, and the check of the list.
+class PageListChoice {
+public:
+    /// Makes the controls and adds them to a page.
+    void addTo(PageFrame& frame);
+
+    OptionButton* chkAllPages = nullptr;
+    OptionButton* chkFromTo = nullptr;
+    LinkLabel* lblAllPages = nullptr; ///< a click selects its option
+    LinkLabel* lblFrom = nullptr;     ///< likewise
+    QLineEdit* txtFrom = nullptr;
+
+    /// Whether the list may be used; a refusal is shown, and the box gets the state that belongs to it. All pages pass
+    /// with any text in the box.
+    bool ValidatePageRange(PageRangeRules rules, Refusals& refusals) const;
+};

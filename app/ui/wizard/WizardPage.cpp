@@ -1,0 +1,62 @@
+#include "ui/wizard/WizardPage.h"
+
+#include "i18n/Captions.h"
+#include "ui/form/ClosePrompt.h"
+#include "ui/form/Picture.h"
+#include "ui/links/LinkBar.h"
+
+namespace {
+
+constexpr char kImageFolder[] = "/images";
+
+} // namespace
+
+WizardPage::WizardPage(FormRegistry& registry, PagePorts ports, const char* name, const char* backgroundName,
+                       Closing closing)
+    : Form(registry)
+    , m_ports(std::move(ports))
+    , m_frame(*this, backgroundName)
+    , m_closing(closing) {
+    setObjectName(name);
+    LinkBar& links = m_frame.linkBar();
+    links.connectLinks(m_ports.links, m_ports.languages.applicationFolder + kImageFolder);
+    links.followMouse(m_frame.background());
+}
+
+void WizardPage::applyLanguage() {
+    SelectLanguage(m_ports.languages, settings().intLanguageID);
+    GetControlCaptions(m_ports.languages, *this);
+    PageFrame::nameControls(*this);
+}
+
+void WizardPage::markCancelled() {
+    if (!records().flags.strCommandLine.isEmpty())
+        records().flags.intWizardCancelled = 1;
+}
+
+void WizardPage::goToMain() {
+    const auto alive = held();
+    m_ports.mainWindow.show();
+    hide();
+}
+
+void WizardPage::goToProgress() {
+    const auto alive = held();
+    hide();
+    m_ports.startRun();
+}
+
+void WizardPage::loadPicture(Picture& picture, const QString& name) const {
+    picture.load(m_ports.languages.applicationFolder + kImageFolder + '/' + name);
+}
+
+void WizardPage::Form_QueryUnload(bool& cancel, UnloadMode unloadMode) {
+    if (m_closing != Closing::EndsAtOnce)
+        askBeforeClosing({records().flags, m_ports.messageBox, m_ports.eventLoop, registry()}, objectName(), cancel,
+                         unloadMode);
+}
+
+void WizardPage::Form_Unload() {
+    if (m_closing != Closing::AsksAndLeavesEnding)
+        registry().endProgram();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ui/wizard/WizardPage.h"
+
+class DropDownList;
+
+/// Asks whether character spacing is kept: intCharSpac (0 keeps it) and the text that the summary shows for it.
+class frmCharSpacing : public WizardPage {
+    Q_OBJECT
+
+public:
+    frmCharSpacing(FormRegistry& registry, PagePorts ports);
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+
+private:
+    void connectHandlers();
+    void optCharSpaceYes_Click();
+    void optCharSpaceNo_Click();
+    void cboCharSpacingType_Click(int position);
+    void cmdBack_Click();
+    void cmdCancel_Click();
+    void cmdNext_Click();
+    void cmdLast_Click();
+
+    void selectStoredSpacing();
+    void store();
+
+    Picture* imgcharcterSpacing;
+    OptionButton* optCharSpaceYes;
+    OptionButton* optCharSpaceNo;
+    DropDownList* cboCharSpacingType; ///< never shown; acts only when code selects an item
+    QPushButton* cmdBack;
+    QPushButton* cmdNext;
+    QPushButton* cmdLast;
+    QPushButton* cmdCancel;
+};

@@ -1,0 +1,127 @@
+#include "ui/wizard/frmPageRange.h"
+
+#include "ui/form/LinkLabel.h"
+#include "ui/form/OptionButton.h"
+#include "ui/form/Picture.h"
+#include "ui/wizard/ReconstructionMode.h"
+#include "ui/wizard/frmCharSpacing.h"
+#include "ui/wizard/frmImageRecovery.h"
+#include "ui/wizard/frmOutputSummary.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+constexpr std::int16_t kAllPages = 0;
+constexpr std::int16_t kListOfPages = 1;
+
+} // namespace
+
+frmPageRange::frmPageRange(FormRegistry& registry, PagePorts ports)
+    : WizardPage(registry, std::move(ports), "frmPageRange", "picMain", Closing::AsksFirst)
+    , imgPages(frame().picture("imgPages")) {
+    frame().title("lblPageRangeImage", "Page Range");
+    frame().sentence("lblPageRangeAll", "Which pages of the PDF document");
+    m_pages.addTo(frame());
+    frame().stretch();
+    cmdBack = frame().button("cmdBack", "< Back");
+    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
+    cmdLast = frame().button("cmdLast", "Last >>");
+    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    connectHandlers();
+}
+
+void frmPageRange::connectHandlers() {
+    connect(m_pages.chkAllPages, &OptionButton::turnedTrue, this, &frmPageRange::chkAllPages_Click);
+    connect(m_pages.chkFromTo, &OptionButton::turnedTrue, this, &frmPageRange::chkFromTo_Click);
+    connect(m_pages.lblAllPages, &LinkLabel::clicked, this, &frmPageRange::lblAllPages_Click);
+    connect(m_pages.lblFrom, &LinkLabel::clicked, this, &frmPageRange::lblFrom_Click);
+    connect(cmdBack, &QPushButton::clicked, this, &frmPageRange::cmdBack_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmPageRange::cmdCancel_Click);
+    connect(cmdNext, &QPushButton::clicked, this, &frmPageRange::cmdNext_Click);
+    connect(cmdLast, &QPushButton::clicked, this, &frmPageRange::cmdLast_Click);
+}
+
+void frmPageRange::Form_Load() {
+    m_pages.txtFrom->setText(job().strPageRange);
+    if (settings().intConvertFrom != kAllPages)
+        m_pages.chkFromTo->setValue(true);
+    else
+        m_pages.chkAllPages->setValue(true);
+    applyLanguage();
+}
+
+void frmPageRange::Form_Activate() {
+    applyLanguage();
+    m_pages.txtFrom->setText(job().strPageRange);
+    if (settings().intConvertFrom == kAllPages) {
+        m_pages.chkAllPages->setValue(true);
+        loadPicture(*imgPages, "all_pages.gif");
+    } else if (settings().intConvertFrom == kListOfPages) {
+        m_pages.chkFromTo->setValue(true); // its picture follows from the click logic
+        m_pages.chkAllPages->setEnabled(true);
+        m_pages.txtFrom->setEnabled(true);
+    }
+}
+
+void frmPageRange::chkAllPages_Click() {
+    settings().intConvertFrom = kAllPages;
+    m_pages.txtFrom->setEnabled(false);
+    loadPicture(*imgPages, "all_pages.gif");
+}
+
+void frmPageRange::chkFromTo_Click() {
+    settings().intConvertFrom = kListOfPages;
+    m_pages.lblFrom->setEnabled(true);
+    m_pages.txtFrom->setEnabled(true);
+    loadPicture(*imgPages, "pages_from_to.gif");
+}
+
+// A click on a label runs the logic once more where its option was on already.
+
+void frmPageRange::lblAllPages_Click() {
+    m_pages.chkAllPages->setValue(true);
+    chkAllPages_Click();
+}
+
+void frmPageRange::lblFrom_Click() {
+    m_pages.chkFromTo->setValue(true);
+    chkFromTo_Click();
+}
+
+/// The list as it was typed, blanks included.
+void frmPageRange::store() {
+    job().strPageRange = m_pages.txtFrom->text();
+    if (m_pages.chkFromTo->value())
+        settings().intConvertFrom = kListOfPages;
+    else if (m_pages.chkAllPages->value())
+        settings().intConvertFrom = kAllPages;
+}
+
+void frmPageRange::cmdBack_Click() {
+    store(); // whatever the box holds; the next activation shows it again
+    if (reconstruction_mode::isTextOnly(settings().intReconstMode))
+        goTo<frmImageRecovery>();
+    else
+        goTo<frmCharSpacing>();
+}
+
+void frmPageRange::cmdCancel_Click() {
+    markCancelled();
+    goToMain();
+}
+
+void frmPageRange::cmdNext_Click() {
+    if (!m_pages.ValidatePageRange(PageRangeRules::ConversionWizard, ports().refusals))
+        return;
+    if (m_pages.chkFromTo->value() && m_pages.txtFrom->text().isEmpty())
+        return ports().refusals.refuse("txtIncompleteRange");
+    store();
+    goTo<frmOutputSummary>();
+}
+
+void frmPageRange::cmdLast_Click() {
+    cmdNext_Click();
+}
