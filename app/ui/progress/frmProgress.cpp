@@ -19,6 +19,9 @@
 namespace {
 
 constexpr std::chrono::milliseconds kPollInterval{500};
+/// Pixels, of cmdViewLog until its window is laid out: captions are shortened by the width while the window loads, and
+/// no language needs more than this.
+constexpr int kInitialButtonWidth = 240;
 constexpr int kColumnWidth = 140; ///< pixels, at least; the last column takes what is left
 
 enum Tab { General, Details };
@@ -60,6 +63,7 @@ frmProgress::frmProgress(FormRegistry& registry, const RunPorts& ports, Language
     m_ui->setupUi(this);
     prepareTabs(*m_ui->tabProgress);
     m_imlGeneral = listIcons(QDir(m_languages.applicationFolder).filePath("images"));
+    m_ui->cmdViewLog->resize(kInitialButtonWidth, m_ui->cmdViewLog->height());
     m_timer1.setInterval(kPollInterval);
     connectHandlers();
 }

@@ -1,4 +1,5 @@
 #include "app/support/RunFixture.h"
+#include "app/support/Standstill.h"
 #include "core/BatchFollowUp.h"
 #include "core/DiskFileOperations.h"
 #include "core/LibraryEngineFactory.h"
@@ -11,8 +12,10 @@
 #include "ui/progress/frmProgress.h"
 
 #include <QProcess>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <fstream>
 
@@ -40,6 +43,10 @@ protected:
         records.queue.strOutputFiles = {QString()};
         records.queue.intCurrentIndex = -1;
         records.settings.intConvertFrom = 0;
+        work();
+    }
+    /// Runs the job of the records.
+    void work() {
         const RunPorts ports{records,     mainWindow,  messageBox, yesNoDialog,    passwordPrompt, languageTexts,
                              qtEventLoop, systemClock, diskFiles,  libraryEngines, batch,          registry};
         const auto window = registry.obtain<frmProgress>(ports, languages);
@@ -53,6 +60,11 @@ protected:
         std::string start(2, '\0');
         file.read(start.data(), 2);
         return start;
+    }
+
+    QString conversionLog() const {
+        return diskFiles.exists(records.settings.strLogPath) ? diskFiles.readText(records.settings.strLogPath)
+                                                             : QString();
     }
 
     /// What the pass over the window's captions records whenever a window is loaded.
@@ -132,6 +144,86 @@ TEST_F(RealEngine, AsksForBothPasswordsWhereBothAreNeeded) {
     EXPECT_THAT(passwordPrompt.asked,
                 testing::ElementsAre(PasswordPrompt::Password::User, PasswordPrompt::Password::Owner));
     EXPECT_EQ(startOf("out.docx"), "PK");
+}
+
+TEST_F(RealEngine, NeverHoldsTheWindowsUpWhileItWorks) {
+    PdfBuilder pdf;
+    for (int page = 1; page <= 300; ++page) {
+        std::string content = "BT /F1 11 Tf 14 TL 72 720 Td";
+        for (int line = 1; line <= 40; ++line)
+            content += " (Line " + std::to_string(line) + " of page " + std::to_string(page) + " says little.) Tj T*";
+        pdf.page(content + " ET");
+    }
+    pdf.write(in("long.pdf"));
+    convert("tiny.pdf"); // loads what is loaded once
+    records.flags.blnCloseRequested = false;
+    const qint64 standstill = longestStandstill([this] { convert("long.pdf"); });
+    EXPECT_TRUE(isOver);
+    EXPECT_FALSE(hasFailed);
+    EXPECT_LT(standstill, 100) << "milliseconds";
+}
+
+TEST_F(RealEngine, CancelledInTheMidstLeavesTheOldDocumentWhole) {
+    PdfBuilder pdf;
+    for (int page = 1; page <= 1000; ++page)
+        pdf.page("BT /F1 12 Tf 72 720 Td (Page " + std::to_string(page) + ") Tj ET");
+    pdf.write(in("long.pdf"));
+    std::ofstream(in("out.docx")) << "the old document";
+    yesNoDialog.answer = 1; // it may be replaced, and then the run is to be cancelled
+    QTimer cancel;
+    QObject::connect(&cancel, &QTimer::timeout, [this] {
+        const auto window = registry.find<frmProgress>();
+        if (window && window->findChild<QProgressBar*>("ProgressBar1")->value() == 4) // the engine is at work
+            window->findChild<QPushButton*>("cmdCancel")->click();
+    });
+    cancel.start(10);
+    convert("long.pdf");
+    EXPECT_TRUE(isOver);
+    EXPECT_EQ(yesNoDialog.asked, (QStringList{"lblAlreadyExists", "lblCancelConversion"}));
+    EXPECT_TRUE(mainWindow.isShown);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return conversionLog().contains("cancelled"); }, kPatience))
+        << conversionLog().toStdString();
+    EXPECT_EQ(startOf("out.docx"), "th");
+}
+
+TEST_F(RealEngine, WorksThroughABatchWithADamagedAndALockedFile) {
+    for (const char* name : {"one.pdf", "two.pdf", "five.pdf"})
+        PdfBuilder().page("BT /F1 12 Tf 72 720 Td (A line of text) Tj ET").write(in(name));
+    std::ofstream(in("three.pdf")) << "damaged";
+    fs::copy_file(testData("pdf/locked-aes-256.pdf"), in("four.pdf"));
+    passwordPrompt.passwords = {"sésame"};
+    yesNoDialog.answer = 1;
+    BatchQueue& queue = records.queue;
+    queue.strSelectedFiles = {
+        QString::fromStdString(folder.path().string()), "one.pdf", "two.pdf", "three.pdf", "four.pdf", "five.pdf"};
+    queue.lngSelectedBound = 5;
+    queue.strOutputFiles = queue.strFileStatus = QStringList(6);
+    queue.intCurrentIndex = -1;
+    records.settings.intConvertFrom = 0;
+    records.settings.intLauchMs = 1;
+    records.settings.intOutputPath = 2;
+    records.job.strSourcePDF = QString::fromStdString(in("five.pdf").string());
+    records.job.strOutputFile = QString::fromStdString(in("five.docx").string());
+    QStringList failed;
+    for (int file = 5; file >= 1; --file) {
+        records.flags.blnCloseRequested = false; // as the main window's command does
+        const QString source = records.job.strSourcePDF;
+        work();
+        ASSERT_TRUE(isOver) << source.toStdString();
+        if (const auto window = registry.find<frmProgress>()) {
+            failed << source.section('/', -1);
+            window->findChild<QPushButton*>("cmdViewLog")->click(); // leaving through the log steps the queue
+            window->findChild<QPushButton*>("cmdClose")->click();
+        }
+    }
+    EXPECT_EQ(failed, QStringList{"three.pdf"});
+    QStringList opened;
+    for (const QString& line : shell.opened)
+        opened << line.section(' ', 1, 1).section('/', -1);
+    EXPECT_EQ(opened, (QStringList{"five.docx", "four.docx", "two.docx", "one.docx"}));
+    EXPECT_EQ(yesNoDialog.asked, QStringList{"msgDocumentGenerationComplete"}) << "offered once, at the end";
+    EXPECT_EQ(records.job.strSourcePDF, "");
+    EXPECT_EQ(errorLogButForCaptions(), "");
 }
 
 /// The program itself, as a user starts it, with a home and a runtime folder of the test's own.

@@ -8,9 +8,12 @@
 #include "ui/form/FormRegistry.h"
 #include "ui/form/Style.h"
 #include "ui/main/frmMain.h"
+#include "ui/password/frmPassword.h"
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
+#include <QPushButton>
+#include <QTabBar>
 #include <QTest>
 
 #include <cstdio>
@@ -34,6 +37,7 @@ public:
     void draw() {
         drawMain();
         drawProgress();
+        drawPassword();
         drawMessage<frmErrorOkOnly>("txtIncorrectRange");
         drawMessage<frmErrorYesNoOnly>("lblAlreadyExists");
         drawMessage<frmmsgbox>("lblpgformat");
@@ -42,18 +46,20 @@ public:
 private:
     void TestBody() override {}
 
-    void save(QWidget& window) {
+    /// `moment`: what is to be seen, where a window is drawn more than once.
+    void save(QWidget& window, const QString& moment = {}) {
         QApplication::processEvents();
-        const QString file = m_folder + '/' + window.objectName() + '-' + m_language + ".png";
+        const QString name = moment.isEmpty() ? window.objectName() : window.objectName() + '-' + moment;
+        const QString file = m_folder + '/' + name + '-' + m_language + ".png";
         if (!window.grab().save(file))
             std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
-        window.hide();
     }
     void drawMain() {
         const auto form =
             m_registry.obtain<frmMain>(MainPorts{records, m_languages, messageBox, yesNoDialog, eventLoop, [] {}});
         form->showForm();
         save(*form);
+        form->hide();
     }
     void drawProgress() {
         const LanguageStatusTexts texts(m_languages);
@@ -66,6 +72,24 @@ private:
         form->load();
         QTest::qWait(600); // the window's own timer asks the engine once
         save(*form);
+        form->findChild<QTabBar*>("tabProgress")->setCurrentIndex(1);
+        save(*form, "details");
+        files.files.insert(records.settings.strLogPath);
+        files.texts[records.settings.strLogPath] = "page 3: the font Garamond is not in the document\npage 7: damaged";
+        form->hideButton(ProgressView::Button::cmdCancel);
+        form->showButton(ProgressView::Button::cmdViewLog);
+        save(*form, "failed");
+        form->findChild<QPushButton*>("cmdViewLog")->click();
+        save(*form, "log");
+        form->Form::unload();
+    }
+    void drawPassword() {
+        const auto form = m_registry.obtain<frmPassword>(PasswordPorts{records, m_languages, mainWindow, [] {}});
+        form->load();
+        form->showWanted(PasswordPrompt::Password::User);
+        form->showForm();
+        save(*form);
+        form->Form::unload();
     }
     template<typename Window>
     void drawMessage(const QString& text) {
@@ -74,6 +98,7 @@ private:
         showOnlyText(*form, text);
         form->showForm();
         save(*form);
+        form->hide();
     }
 
     QString m_folder;
@@ -82,16 +107,26 @@ private:
     FormRegistry m_registry;
 };
 
+/// A dark desktop, as the style meets it.
+void darken(QApplication& application) {
+    QPalette palette(QColor(0x3A, 0x3A, 0x3A), QColor(0x20, 0x20, 0x20));
+    palette.setColor(QPalette::Base, QColor(0x18, 0x18, 0x18));
+    application.setPalette(palette);
+}
+
 } // namespace
 
-/// tavrelion_screenshots FOLDER: draws every window in English and German.
+/// tavrelion_screenshots FOLDER [dark]: draws every window in English and German.
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    if (argc != 2) {
-        std::fputs("usage: tavrelion_screenshots FOLDER\n", stderr);
+    const bool isDark = argc == 3 && QString(argv[2]) == "dark";
+    if (argc != 2 && !isDark) {
+        std::fputs("usage: tavrelion_screenshots FOLDER [dark]\n", stderr);
         return 2;
     }
     QApplication::setQuitOnLastWindowClosed(false);
+    if (isDark)
+        darken(application);
     applyStyle(application);
     for (const std::int16_t language : {std::int16_t{0}, std::int16_t{3}})
         Gallery(language, argv[1]).draw();

@@ -153,6 +153,8 @@ TEST_F(LanguageFit, TheProgressWindowKeepsItsSizeWithEveryStatus) {
                  language + " column " + list.headerItem()->text(column));
         for (const QString& line : statusLines(*form))
             note(status.width() - status.fontMetrics().horizontalAdvance(line), language + " status: " + line);
+        EXPECT_EQ(form->findChild<QPushButton*>("cmdViewLog")->text(), GetCaption(languages, "cmdViewLog"))
+            << "not shortened";
         measure(*form, language);
         form->Form::unload();
     });

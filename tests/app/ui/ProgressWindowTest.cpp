@@ -1,5 +1,6 @@
 #include "app/support/RunFixture.h"
 #include "app/support/ShippedLanguages.h"
+#include "app/support/Standstill.h"
 #include "core/QtEventLoop.h"
 #include "ui/form/FormRegistry.h"
 #include "ui/form/LinkLabel.h"
@@ -7,7 +8,6 @@
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,7 +18,6 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QThread>
-#include <QTimer>
 #include <QTreeWidget>
 
 namespace tavrelion::tests {
@@ -228,18 +227,6 @@ TEST_F(ProgressWindow, StaysMinimisedUntilItIsUnloaded) {
 /// The real event loop and an engine that is slow in everything.
 class SlowEngine : public ProgressWindow {
 protected:
-    /// The longest time in which no event was handled, while `step` runs. Units: milliseconds.
-    template<typename Step>
-    static qint64 longestStandstill(Step step) {
-        QElapsedTimer since;
-        qint64 longest = 0;
-        QTimer heart;
-        QObject::connect(&heart, &QTimer::timeout, [&] { longest = std::max(longest, since.restart()); });
-        heart.start(5);
-        since.start();
-        step();
-        return std::max(longest, since.elapsed());
-    }
     frmProgress& start() {
         const RunPorts ports{records,     mainWindow, messageBox, yesNoDialog, passwordPrompt, statusTexts,
                              qtEventLoop, clock,      files,      engines,     followUp,       registry};
