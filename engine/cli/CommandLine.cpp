@@ -93,6 +93,24 @@ void addInfo(CLI::App& app, InfoOptions& options) {
     command.add_flag("--json", options.json, "Print a JSON object instead of text");
 }
 
+void addInspect(CLI::App& app, InspectOptions& options) {
+    CLI::App& command = *app.add_subcommand("inspect", "Draw what a stage of the layout saw on a page:\n"
+                                                       "  orvane inspect IN.pdf --page 3 --stage lines -o lines.svg");
+    command.add_option("FILE", options.file, "The PDF")->required()->type_name("");
+    command.add_option("--page", options.page, "Number of the page. Default: 1")
+        ->check(CLI::PositiveNumber)
+        ->type_name("N");
+    command
+        .add_option("--stage", options.stage,
+                    "words, lines, rules, regions, paragraphs or tables; rules\n"
+                    "shows figures too")
+        ->required()
+        ->type_name("STAGE");
+    command.add_option("-o,--output", options.output, "The SVG file to write. Default: IN-pN-STAGE.svg, here")
+        ->type_name("FILE");
+    command.add_option("--password-file", options.passwordFile, kPasswordHelp)->type_name("FILE");
+}
+
 /// What the option types cannot say; empty when all is well.
 std::string findContradiction(const ConvertOptions& options) {
     if (!options.outputFolder && options.files.size() > 2)
@@ -105,12 +123,14 @@ std::string findContradiction(const ConvertOptions& options) {
 ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
     ConvertOptions convert;
     InfoOptions info;
+    InspectOptions inspect;
     CLI::App app("Orvane converts PDF files to word processor documents.", "orvane");
     app.set_version_flag("--version", "orvane " ORVANE_VERSION);
     app.require_subcommand(1);
     app.footer(exitCodeHelp());
     addConvert(app, convert);
     addInfo(app, info);
+    addInspect(app, inspect);
     for (CLI::App* command : app.get_subcommands({}))
         command->footer(exitCodeHelp());
     try {
@@ -121,6 +141,8 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
     }
     if (app.got_subcommand("info"))
         return Command(info);
+    if (app.got_subcommand("inspect"))
+        return Command(inspect);
     if (const std::string contradiction = findContradiction(convert); !contradiction.empty()) {
         err << contradiction << "\nRun with --help for more information.\n";
         return static_cast<int>(ExitCode::Usage);

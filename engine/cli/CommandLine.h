@@ -32,7 +32,16 @@ struct InfoOptions {
     bool json = false;
 };
 
-using Command = std::variant<ConvertOptions, InfoOptions>;
+/// `orvane inspect` as it was typed.
+struct InspectOptions {
+    std::string file;
+    int page = 1;
+    std::string stage;
+    std::string output; ///< empty: named after the file, the page and the stage
+    std::string passwordFile;
+};
+
+using Command = std::variant<ConvertOptions, InfoOptions, InspectOptions>;
 
 /// Either a command, or the code to leave with: the help was asked for and written to `out`, or the line was wrong, and
 /// `err` got why.

@@ -19,4 +19,7 @@ ExitCode convert(const ConvertOptions& options, const Streams& streams);
 /// `orvane info`.
 ExitCode info(const InfoOptions& options, const Streams& streams);
 
+/// `orvane inspect`.
+ExitCode inspect(const InspectOptions& options, const Streams& streams);
+
 } // namespace orvane::cli

@@ -8,7 +8,7 @@
 namespace orvane::protocol {
 namespace {
 
-constexpr EnumNames<Task, 2> kTasks{{{Task::Convert, "convert"}, {Task::Inspect, "inspect"}}};
+constexpr EnumNames<Task, 3> kTasks{{{Task::Convert, "convert"}, {Task::Inspect, "inspect"}, {Task::Draw, "draw"}}};
 constexpr EnumNames<Layout, 5> kLayouts{{{Layout::Flowing, "flowing"},
                                          {Layout::TruePage, "true-page"},
                                          {Layout::Continuous, "continuous"},
@@ -49,6 +49,7 @@ std::string encodeJob(const Job& job) {
                                 {"format", toString(job.format)},
                                 {"pictures", nameOf(kPictures, job.pictures)},
                                 {"characterSpacing", nameOf(kSpacings, job.characterSpacing)},
+                                {"stage", percentEncoded(job.stage)},
                                 {"target", percentEncoded(job.target)},
                                 {"logPath", percentEncoded(job.logPath)},
                                 {"scratchFolder", percentEncoded(job.scratchFolder)},
@@ -73,6 +74,7 @@ Job decodeJob(std::string_view line) {
     job.format = reader.name("format", kFormats);
     job.pictures = reader.name("pictures", kPictures);
     job.characterSpacing = reader.name("characterSpacing", kSpacings);
+    job.stage = percentDecoded(reader.text("stage"));
     job.target = percentDecoded(reader.text("target"));
     job.logPath = percentDecoded(reader.text("logPath"));
     job.scratchFolder = percentDecoded(reader.text("scratchFolder"));

@@ -11,6 +11,7 @@ namespace orvane::protocol {
 enum class Task : std::uint8_t {
     Convert, ///< write the target
     Inspect, ///< tell what the file is; nothing is written
+    Draw,    ///< draw what a stage of the layout saw on the one page of the range
 };
 
 /// How pages become text, or that they become pictures.
@@ -49,6 +50,7 @@ struct Job {
     Format format = Format::Docx;
     Pictures pictures = Pictures::Keep;
     CharacterSpacing characterSpacing = CharacterSpacing::Automatic;
+    std::string stage; ///< of Task::Draw, by its name
     std::string target;
     std::string logPath;         ///< empty: no log
     std::string scratchFolder;   ///< where the job makes a folder of its own; empty: the system's place for such files

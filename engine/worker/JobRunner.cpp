@@ -4,6 +4,7 @@
 #include "base/PageRange.h"
 #include "base/PictureStore.h"
 #include "layout/Layout.h"
+#include "layout/inspect/InspectPage.h"
 #include "pdf/PdfDocument.h"
 #include "worker/Capabilities.h"
 #include "worker/ContentCounter.h"
@@ -13,6 +14,7 @@
 #include "worker/TargetFile.h"
 #include "write/docx/DocxWriter.h"
 
+#include <fstream>
 #include <new>
 
 #include <fmt/format.h>
@@ -100,6 +102,8 @@ void JobRunner::run() {
     try {
         if (m_job.task == Task::Inspect)
             inspect();
+        else if (m_job.task == Task::Draw)
+            draw();
         else
             convert();
     } catch (const Failure& failure) {
@@ -170,6 +174,34 @@ void JobRunner::inspect() {
         m_reporter.describe(PageReport{page, info.width, info.height, info.rotation, info.label});
     }
     m_reporter.finish({});
+}
+
+void JobRunner::draw() {
+    const std::optional<layout::InspectStage> stage = layout::inspectStageFromName(m_job.stage);
+    if (!stage)
+        throw Failure(FailureCode::InvalidRequest, fmt::format("there is no stage \"{}\"", m_job.stage));
+    checkSource(m_job.source);
+    requireOtherFile(m_job);
+    const pdf::Passwords passwords{m_job.userPassword, m_job.ownerPassword};
+    const pdf::PdfDocument source = pdf::PdfDocument::open(m_job.source, passwords);
+    const int page = selectPages(m_job.pageRange, source.pageCount()).pages.front();
+
+    TargetFile target(m_job.target);
+    const Lent lentTarget(m_mutex, m_target, target);
+    m_reporter.accept({source.pageCount(), 1});
+    const std::vector<int> allPages = selectPages("", source.pageCount()).pages;
+    const layout::LayoutParameters parameters;
+    PagesRead read =
+        readPages(source, {m_job.source, passwords, allPages, nullptr, parameters, m_job.limits.threads}, m_reporter);
+    Diagnostics diagnostics;
+    std::ofstream file(target.part(), std::ios::binary);
+    file << layout::inspectPage(std::move(read.pages), page, *stage, parameters, diagnostics);
+    if (!file.flush())
+        throw Failure(FailureCode::TargetUnwritable, fmt::format("{} cannot be written", m_job.target));
+    requireNotCancelled(m_reporter);
+    m_reporter.report(diagnostics);
+    target.commit();
+    m_reporter.finish(read.counts);
 }
 
 bool JobRunner::forceEnd(StarterChannel::ForcedEnd reason) {

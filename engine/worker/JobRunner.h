@@ -28,6 +28,7 @@ public:
 private:
     void convert();
     void inspect();
+    void draw();
 
     const protocol::Job& m_job;
     RunReporter& m_reporter;

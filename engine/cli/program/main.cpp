@@ -18,5 +18,7 @@ int main(int argc, char** argv) {
     const auto& command = std::get<cli::Command>(parsed);
     if (const auto* convert = std::get_if<cli::ConvertOptions>(&command))
         return static_cast<int>(cli::convert(*convert, streams));
+    if (const auto* inspect = std::get_if<cli::InspectOptions>(&command))
+        return static_cast<int>(cli::inspect(*inspect, streams));
     return static_cast<int>(cli::info(std::get<cli::InfoOptions>(command), streams));
 }
