@@ -9,8 +9,8 @@
 #include "support/TemporaryFolder.h"
 #endif
 
-/// What holds for every system's registry: the suite is built for this system, and where there is a compiler and a runner for Windows
-/// programs (see CMakeLists.txt) once more for that one.
+/// What holds for every system's registry: the suite is built for this system, and where there is a compiler and a
+/// runner for Windows programs (see CMakeLists.txt) once more for that one.
 namespace platform::registry {
 namespace {
 
@@ -52,6 +52,16 @@ std::string readBack(const std::string& path, const std::string& name) {
     EXPECT_EQ(queryValue(key, name, value), kSuccess);
     closeKey(key);
     return withoutTerminator(value.bytes);
+}
+
+TEST_F(Registry, AClosedKeyIsNoKey) {
+    const Key key = made(kKey);
+    EXPECT_EQ(setValue(key, "Name", {kString, "text"}), kSuccess);
+    closeKey(key);
+    Value value;
+    EXPECT_EQ(queryValue(key, "Name", value), kInvalidHandle);
+    EXPECT_EQ(setValue(key, "Name", {kString, "other"}), kInvalidHandle);
+    EXPECT_EQ(readBack(kKey, "Name"), "text");
 }
 
 TEST_F(Registry, KeepsTheThreeTypes) {

@@ -98,6 +98,7 @@ TEST_F(FactorySettings, TheOutputFileFollowsTheFormat) {
         {"0", "/a/Report.rtf", "/a/Report.doc", "to DOC"},
         {"0", "/a/Report.docx", "/a/Report.doc", "from DOCX to DOC"},
         {"2", "/a/Report.doc", "/a/Report.doc", "a restore to DOCX leaves the path"},
+        {"2", "/a/Report.rtf", "/a/Report.rtf", "of whatever format it is"},
         {"1", "/a.doc/Report.doc", "/a.rtf/Report.rtf", "the text is replaced wherever it stands"},
         {"1", "/a.DOC/Report.doc", "/a.DOC/Report.rtf", "in its own case only"},
         {"1", "/a/Report.txt", "/a/Report.txt", "other extensions stay"},
