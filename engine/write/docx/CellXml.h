@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/Document.h"
+#include "write/TableGrid.h"
 #include "write/docx/DocumentState.h"
-#include "write/docx/TableGrid.h"
 
 namespace orvane::write::docx {
 

@@ -1,11 +1,10 @@
 #include "write/docx/CommentsPart.h"
 
+#include "write/Initials.h"
+#include "write/IsoDate.h"
 #include "write/docx/BlockXml.h"
-#include "write/docx/IsoDate.h"
 #include "write/docx/NotesPart.h"
 #include "write/docx/XmlPart.h"
-
-#include "base/Utf8.h"
 
 #include <algorithm>
 
@@ -13,18 +12,6 @@ namespace orvane::write::docx {
 namespace {
 
 using namespace document;
-
-/// The first letters of an author's names.
-std::string initialsOf(const std::string& author) {
-    std::u32string initials;
-    bool isNameStart = true;
-    for (const char32_t c : utf32FromUtf8(author)) {
-        if (isNameStart && c > ' ')
-            initials += c;
-        isNameStart = c <= ' ';
-    }
-    return utf8FromUtf32(initials.substr(0, 3));
-}
 
 void writeComment(Story& story, const Comment& comment, std::size_t index) {
     const XmlElement element(story.xml, "w:comment", {{"w:id", index}, {"w:author", comment.author}});

@@ -4,10 +4,10 @@
 #include "base/PictureStore.h"
 #include "base/XmlWriter.h"
 #include "document/Document.h"
+#include "write/StyleIndex.h"
 #include "write/docx/MediaParts.h"
 #include "write/docx/Package.h"
 #include "write/docx/RunningTextParts.h"
-#include "write/docx/StyleIndex.h"
 
 #include <set>
 #include <string>

@@ -1,11 +1,6 @@
 #include "write/docx/FieldXml.h"
 
-#include "write/docx/LinkNames.h"
 #include "write/docx/RunXml.h"
-
-#include <algorithm>
-
-#include <fmt/format.h>
 
 namespace orvane::write::docx {
 namespace {
@@ -24,23 +19,6 @@ void writeMark(XmlWriter& xml, const char* type, const RunProperties& look, cons
 }
 
 } // namespace
-
-std::string fieldInstruction(const Field& field) {
-    switch (field.code) {
-    case FieldCode::Page:
-        return " PAGE ";
-    case FieldCode::PageCount:
-        return " NUMPAGES ";
-    case FieldCode::PageReference:
-        return " PAGEREF " + bookmarkName(field.argument) + " \\h ";
-    }
-    return {};
-}
-
-std::string fieldInstruction(const TableOfContents& contents) {
-    return fmt::format(" TOC \\o \"{}-{}\" \\h \\z \\u ", std::clamp(contents.firstLevel, 1, 9),
-                       std::clamp(contents.lastLevel, 1, 9));
-}
 
 void writeFieldStart(XmlWriter& xml, const std::string& instruction, const RunProperties& look,
                      const RunProperties& base) {

@@ -2,15 +2,11 @@
 
 #include "base/XmlWriter.h"
 #include "document/Document.h"
+#include "write/Fields.h"
 
 #include <string>
 
 namespace orvane::write::docx {
-
-/// What makes a field's result anew, in the words of the format.
-/// Source: ECMA-376 part 1, 17.16.5.
-std::string fieldInstruction(const document::Field& field);
-std::string fieldInstruction(const document::TableOfContents& contents);
 
 /// Writes what stands before a field's result: its start, its instruction, the separator. `look` is how a word
 /// processor sets the result when it renews it.

@@ -1,11 +1,12 @@
 #include "write/docx/InlineXml.h"
 
 #include "base/ComplexScript.h"
+#include "write/LinkNames.h"
+#include "write/ParagraphParts.h"
 #include "write/docx/CommentsPart.h"
 #include "write/docx/ControlXml.h"
 #include "write/docx/FieldXml.h"
 #include "write/docx/FontTablePart.h"
-#include "write/docx/LinkNames.h"
 #include "write/docx/NotesPart.h"
 #include "write/docx/PictureXml.h"
 #include "write/docx/RunXml.h"
@@ -131,13 +132,6 @@ private:
         if (m_run)
             m_xml.end();
         m_run = nullptr;
-    }
-
-    static const RunProperties* firstLook(const std::vector<Inline>& inlines) {
-        for (const Inline& item : inlines)
-            if (const auto* text = std::get_if<Text>(&item.value))
-                return &text->properties;
-        return nullptr;
     }
 
     Story& m_story;

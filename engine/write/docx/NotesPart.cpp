@@ -1,5 +1,6 @@
 #include "write/docx/NotesPart.h"
 
+#include "write/NoteMarks.h"
 #include "write/docx/BlockXml.h"
 #include "write/docx/RunXml.h"
 #include "write/docx/TextXml.h"
@@ -39,10 +40,6 @@ std::int64_t idOf(std::size_t note) {
     return static_cast<std::int64_t>(note) + 1;
 }
 
-std::string plainMark(std::size_t note, const std::string& customMark) {
-    return customMark.empty() ? fmt::format("{}", note + 1) : customMark;
-}
-
 void writeMarkText(XmlWriter& xml, const RunProperties& look, const RunProperties& base, const std::string& mark) {
     const XmlElement run(xml, "w:r");
     writeRunProperties(xml, look, &base, ScriptUse::Simple);
@@ -57,34 +54,11 @@ void writeSeparator(XmlWriter& xml, const NoteWords& words, int id, const char* 
     xml.leaf(line);
 }
 
-/// How the first characters of a note look by its style, raised.
-RunProperties markLook(const DocumentState& state, const Note& note, const RunProperties& base) {
-    RunProperties look = base;
-    if (!note.blocks.empty())
-        if (const auto* paragraph = std::get_if<Paragraph>(&note.blocks.front().value)) {
-            look = state.styles.at(paragraph->style).run;
-            for (const Inline& item : paragraph->inlines)
-                if (const auto* text = std::get_if<Text>(&item.value)) {
-                    look = text->properties;
-                    break;
-                }
-        }
-    look.verticalPosition = VerticalPosition::Superscript;
-    return look;
-}
-
-const RunProperties& noteBase(const DocumentState& state, const Note& note) {
-    if (!note.blocks.empty())
-        if (const auto* paragraph = std::get_if<Paragraph>(&note.blocks.front().value))
-            return state.styles.at(paragraph->style).run;
-    return state.styles.defaultStyle().run;
-}
-
 /// Writes the mark at the start of a note, and a blank after it.
 void writeMark(Story& story, std::size_t index, const NoteWords& words) {
     const Note& note = story.state.document.notes[index];
-    const RunProperties& base = noteBase(story.state, note);
-    const RunProperties look = markLook(story.state, note, base);
+    const RunProperties& base = noteBase(story.state.styles, note);
+    const RunProperties look = markLook(story.state.styles, note);
     const std::string& customMark = story.state.noteUses[index].customMark;
     {
         const XmlElement run(story.xml, "w:r");
@@ -129,7 +103,7 @@ void writeNoteReference(Story& story, const NoteReference& reference, const RunP
     const bool isFirst = use.home == NoteHome::Nowhere;
     const bool isPossible = story.kind == StoryKind::Body && story.frameDepth == 0;
     if (!isFirst || !isPossible) {
-        writeMarkText(story.xml, reference.properties, base, plainMark(reference.note, reference.customMark));
+        writeMarkText(story.xml, reference.properties, base, plainMark(reference));
         if (isFirst) {
             story.displacedNotes.push_back(reference.note);
             use.home = NoteHome::Text;

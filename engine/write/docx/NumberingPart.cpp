@@ -1,5 +1,6 @@
 #include "write/docx/NumberingPart.h"
 
+#include "write/ListLevels.h"
 #include "write/docx/FontTablePart.h"
 #include "write/docx/RunXml.h"
 #include "write/docx/XmlPart.h"
@@ -13,8 +14,6 @@ namespace orvane::write::docx {
 namespace {
 
 using namespace document;
-
-constexpr std::size_t kMostLevels = 9;
 
 const char* nameOf(Alignment alignment) {
     switch (alignment) {
@@ -58,7 +57,7 @@ std::string levelsXml(DocumentState& state, const Numbering& numbering) {
     std::string text;
     XmlWriter xml([&text](std::string_view piece) { text += piece; });
     xml.leaf("w:multiLevelType", {{"w:val", numbering.levels.size() > 1 ? "multilevel" : "singleLevel"}});
-    for (std::size_t i = 0; i < std::min(numbering.levels.size(), kMostLevels); ++i)
+    for (std::size_t i = 0; i < std::min(numbering.levels.size(), kMostListLevels); ++i)
         writeLevel(state, xml, numbering.levels[i], i);
     xml.finish();
     return text;
@@ -90,24 +89,13 @@ void writeList(XmlWriter& xml, std::size_t index, const Numbering& numbering, co
     if (!definitions.isRepeated[index])
         return;
     // Lists of one definition count on; this one has to start anew.
-    for (std::size_t level = 0; level < std::min(numbering.levels.size(), kMostLevels); ++level) {
+    for (std::size_t level = 0; level < std::min(numbering.levels.size(), kMostListLevels); ++level) {
         const XmlElement override(xml, "w:lvlOverride", {{"w:ilvl", level}});
         xml.leaf("w:startOverride", {{"w:val", std::max(0, numbering.levels[level].start)}});
     }
 }
 
 } // namespace
-
-ListLevel findLevel(const Document& document, const std::optional<ListReference>& list) {
-    if (!list || list->numbering >= document.numberings.size())
-        return {};
-    const auto& levels = document.numberings[list->numbering].levels;
-    if (levels.empty())
-        return {};
-    const auto highest = static_cast<int>(std::min(levels.size(), kMostLevels)) - 1;
-    const int level = std::clamp(list->level, 0, highest);
-    return {&levels[static_cast<std::size_t>(level)], {static_cast<int>(list->numbering) + 1, level}};
-}
 
 const char* numberFormatName(NumberFormat format) {
     switch (format) {

@@ -2,19 +2,8 @@
 
 #include "document/Document.h"
 #include "write/docx/DocumentState.h"
-#include "write/docx/ParagraphPropertiesXml.h"
-
-#include <optional>
 
 namespace orvane::write::docx {
-
-/// The level that a paragraph of a list stands on.
-struct ListLevel {
-    const document::NumberingLevel* properties = nullptr; ///< null: the paragraph is in no list of the document
-    ListPlace place;
-};
-
-ListLevel findLevel(const document::Document& document, const std::optional<document::ListReference>& list);
 
 /// The format's word for how numbers are written.
 /// Source: ECMA-376 part 1, 17.18.59.

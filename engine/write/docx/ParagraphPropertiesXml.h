@@ -2,17 +2,12 @@
 
 #include "base/XmlWriter.h"
 #include "document/Document.h"
+#include "write/ListLevels.h"
 
 #include <optional>
 #include <string_view>
 
 namespace orvane::write::docx {
-
-/// Which list a paragraph belongs to, in the file's words.
-struct ListPlace {
-    int id = 0;
-    int level = 0;
-};
 
 /// What a paragraph belongs to.
 struct ParagraphIdentity {

@@ -1,6 +1,6 @@
 #include "write/docx/PropertiesParts.h"
 
-#include "write/docx/IsoDate.h"
+#include "write/IsoDate.h"
 #include "write/docx/XmlPart.h"
 
 namespace orvane::write::docx {

@@ -1,10 +1,11 @@
 #include "write/docx/RunXml.h"
 
+#include "write/Languages.h"
+#include "write/MarkerColors.h"
 #include "write/docx/BorderXml.h"
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace orvane::write::docx {
 namespace {
@@ -19,31 +20,14 @@ constexpr int kNarrowest = 1;
 constexpr int kWidest = 600;
 constexpr int kMostSpacing = 31680;
 
-/// The colours that a word processor's text marker has. Source: ECMA-376 part 1, 17.18.40.
-constexpr std::array<std::pair<Color, const char*>, 16> kMarkerColors{{
-    {{0x00, 0x00, 0x00}, "black"},
-    {{0x00, 0x00, 0xFF}, "blue"},
-    {{0x00, 0xFF, 0xFF}, "cyan"},
-    {{0x00, 0xFF, 0x00}, "green"},
-    {{0xFF, 0x00, 0xFF}, "magenta"},
-    {{0xFF, 0x00, 0x00}, "red"},
-    {{0xFF, 0xFF, 0x00}, "yellow"},
-    {{0xFF, 0xFF, 0xFF}, "white"},
-    {{0x00, 0x00, 0x80}, "darkBlue"},
-    {{0x00, 0x80, 0x80}, "darkCyan"},
-    {{0x00, 0x80, 0x00}, "darkGreen"},
-    {{0x80, 0x00, 0x80}, "darkMagenta"},
-    {{0x80, 0x00, 0x00}, "darkRed"},
-    {{0x80, 0x80, 0x00}, "darkYellow"},
-    {{0x80, 0x80, 0x80}, "darkGray"},
-    {{0xC0, 0xC0, 0xC0}, "lightGray"},
-}};
+/// The names of markerColor(). Source: ECMA-376 part 1, 17.18.40.
+constexpr std::array<const char*, 17> kMarkerNames{
+    nullptr,    "black",    "blue",      "cyan",        "green",   "magenta",    "red",      "yellow",    "white",
+    "darkBlue", "darkCyan", "darkGreen", "darkMagenta", "darkRed", "darkYellow", "darkGray", "lightGray",
+};
 
 const char* markerName(Color color) {
-    for (const auto& [value, name] : kMarkerColors)
-        if (value == color)
-            return name;
-    return nullptr;
+    return kMarkerNames[static_cast<std::size_t>(markerColor(color))];
 }
 
 const char* nameOf(UnderlineKind kind) {
@@ -80,15 +64,14 @@ const char* nameOf(VerticalPosition position) {
 
 /// Which of a run's three languages a language tag stands for.
 std::string_view languageAttribute(std::string_view language) {
-    constexpr std::string_view kEastAsian[] = {"zh", "ja", "ko"};
-    constexpr std::string_view kComplex[] = {"ar",  "he", "iw", "fa", "ur", "yi", "ps", "sd", "ug",
-                                             "ckb", "dv", "th", "lo", "hi", "mr", "ne", "bn", "pa",
-                                             "gu",  "ta", "te", "kn", "ml", "si", "my", "km", "bo"};
-    const std::string_view primary = language.substr(0, language.find('-'));
-    if (std::find(std::begin(kEastAsian), std::end(kEastAsian), primary) != std::end(kEastAsian))
+    switch (scriptClassOf(language)) {
+    case ScriptClass::Simple:
+        return "w:val";
+    case ScriptClass::EastAsian:
         return "w:eastAsia";
-    if (std::find(std::begin(kComplex), std::end(kComplex), primary) != std::end(kComplex))
+    case ScriptClass::Complex:
         return "w:bidi";
+    }
     return "w:val";
 }
 

@@ -1,8 +1,8 @@
 #include "write/docx/TableXml.h"
 
+#include "write/TableGrid.h"
 #include "write/docx/BlockXml.h"
 #include "write/docx/CellXml.h"
-#include "write/docx/TableGrid.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "write/docx/IsoDate.h"
+#include "write/IsoDate.h"
 
 #include <chrono>
 
-namespace orvane::write::docx {
+namespace orvane::write {
 namespace {
 
 /// Whether the text has the form of the pattern, in which a 0 stands for any digit.
@@ -35,16 +35,25 @@ bool isZone(std::string_view zone) {
 } // namespace
 
 bool isIsoDateTime(std::string_view text) {
-    constexpr std::string_view kForm = "0000-00-00T00:00:00";
-    if (text.size() < kForm.size() || !matches(text.substr(0, kForm.size()), kForm))
-        return false;
-    const std::chrono::year_month_day day{
-        std::chrono::year(numberAt(text, 0, 4)),
-        std::chrono::month(static_cast<unsigned>(numberAt(text, 5, 2))),
-        std::chrono::day(static_cast<unsigned>(numberAt(text, 8, 2))),
-    };
-    return day.ok() && numberAt(text, 0, 4) > 0 && numberAt(text, 11, 2) < 24 && numberAt(text, 14, 2) < 60 &&
-           numberAt(text, 17, 2) < 60 && isZone(text.substr(kForm.size()));
+    return dateTimeFromIso(text).has_value();
 }
 
-} // namespace orvane::write::docx
+std::optional<DateTime> dateTimeFromIso(std::string_view text) {
+    constexpr std::string_view kForm = "0000-00-00T00:00:00";
+    if (text.size() < kForm.size() || !matches(text.substr(0, kForm.size()), kForm))
+        return std::nullopt;
+    DateTime time{numberAt(text, 0, 4),  numberAt(text, 5, 2),  numberAt(text, 8, 2),
+                  numberAt(text, 11, 2), numberAt(text, 14, 2), numberAt(text, 17, 2)};
+    const std::chrono::year_month_day day{
+        std::chrono::year(time.year),
+        std::chrono::month(static_cast<unsigned>(time.month)),
+        std::chrono::day(static_cast<unsigned>(time.day)),
+    };
+    if (!day.ok() || time.year == 0 || time.hour > 23 || time.minute > 59 || time.second > 59 ||
+        !isZone(text.substr(kForm.size())))
+        return std::nullopt;
+    time.weekday = static_cast<int>(std::chrono::weekday(std::chrono::sys_days(day)).c_encoding());
+    return time;
+}
+
+} // namespace orvane::write

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace orvane::write::docx {
+namespace orvane::write {
 
 /// A bookmark's name as a word processor takes it: letters, digits and underscores, not a digit first, at most 40
 /// characters.
@@ -14,4 +14,4 @@ std::string bookmarkName(std::string_view name);
 /// Source: RFC 3986, 2.
 std::string linkAddress(std::string_view uri);
 
-} // namespace orvane::write::docx
+} // namespace orvane::write

@@ -1,9 +1,9 @@
-#include "write/docx/TableGrid.h"
+#include "write/TableGrid.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace orvane::write::docx {
+namespace orvane::write {
 namespace {
 
 using namespace document;
@@ -105,4 +105,4 @@ PlacedCell TableGrid::continueCell(int column) {
     return placed;
 }
 
-} // namespace orvane::write::docx
+} // namespace orvane::write

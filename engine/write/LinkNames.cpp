@@ -1,10 +1,10 @@
-#include "write/docx/LinkNames.h"
+#include "write/LinkNames.h"
 
 #include "base/Utf8.h"
 
 #include <fmt/format.h>
 
-namespace orvane::write::docx {
+namespace orvane::write {
 namespace {
 
 constexpr std::size_t kLongestBookmark = 40;
@@ -62,4 +62,4 @@ std::string linkAddress(std::string_view uri) {
     return address.size() <= kLongestAddress ? address : std::string();
 }
 
-} // namespace orvane::write::docx
+} // namespace orvane::write

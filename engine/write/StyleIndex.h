@@ -5,7 +5,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace orvane::write::docx {
+namespace orvane::write {
 
 /// Finds a document's styles by id.
 class StyleIndex {
@@ -25,4 +25,4 @@ private:
     std::unordered_map<std::string_view, const document::Style*> m_byId;
 };
 
-} // namespace orvane::write::docx
+} // namespace orvane::write

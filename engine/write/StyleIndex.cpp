@@ -1,6 +1,6 @@
-#include "write/docx/StyleIndex.h"
+#include "write/StyleIndex.h"
 
-namespace orvane::write::docx {
+namespace orvane::write {
 
 StyleIndex::StyleIndex(const document::Document& document)
     : m_default(&m_fallback) {
@@ -32,4 +32,4 @@ const document::Style* StyleIndex::parentOf(const document::Style& style) const 
     return ancestor == &style ? nullptr : found->second;
 }
 
-} // namespace orvane::write::docx
+} // namespace orvane::write

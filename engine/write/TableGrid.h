@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace orvane::write::docx {
+namespace orvane::write {
 
 enum class VerticalMerge { None, Starts, Continues };
 
@@ -55,4 +55,4 @@ private:
     bool m_wasCut = false;
 };
 
-} // namespace orvane::write::docx
+} // namespace orvane::write

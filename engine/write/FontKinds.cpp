@@ -1,0 +1,31 @@
+#include "write/FontKinds.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace orvane::write {
+namespace {
+
+bool hasOneOf(std::string_view name, std::initializer_list<std::string_view> words) {
+    return std::any_of(words.begin(), words.end(),
+                       [&](std::string_view word) { return name.find(word) != std::string_view::npos; });
+}
+
+} // namespace
+
+FontKind fontKindOf(std::string_view name) {
+    if (hasOneOf(name, {"Courier", "Mono", "Consolas", "Typewriter"}))
+        return FontKind::Modern;
+    if (hasOneOf(name, {"Sans"}))
+        return FontKind::Swiss;
+    if (hasOneOf(name, {"Times", "Serif", "Roman", "Georgia", "Garamond", "Cambria", "Caladea", "Palatino", "Bookman",
+                        "Century", "Minion", "Song", "Ming", "Mincho", "Batang"}))
+        return FontKind::Roman;
+    if (hasOneOf(name, {"Script", "Hand", "Brush", "Chancery"}))
+        return FontKind::Script;
+    if (hasOneOf(name, {"Arial", "Helvetica", "Calibri", "Carlito", "Verdana", "Tahoma", "Segoe", "Gothic"}))
+        return FontKind::Swiss;
+    return FontKind::Unknown;
+}
+
+} // namespace orvane::write
