@@ -18,7 +18,7 @@ struct Capability {
     Format format;
 };
 
-constexpr std::array<Capability, 1> kCapabilities{{{Layout::Flowing, Format::Docx}}};
+constexpr std::array<Capability, 2> kCapabilities{{{Layout::Flowing, Format::Docx}, {Layout::Flowing, Format::Rtf}}};
 
 } // namespace
 

@@ -12,7 +12,7 @@
 #include "worker/ScratchFolder.h"
 #include "worker/SourceFile.h"
 #include "worker/TargetFile.h"
-#include "write/docx/DocxWriter.h"
+#include "worker/WriterChoice.h"
 
 #include <fstream>
 #include <new>
@@ -152,7 +152,7 @@ void JobRunner::convert() {
     const document::Document document =
         layout::layoutDocument(std::move(read.pages), facts, layoutRequest(m_job), parameters, m_reporter, diagnostics);
     requireNotCancelled(m_reporter);
-    write::writeDocx(document, pictures, target.part(), diagnostics);
+    writeDocument(m_job.format, document, pictures, target.part(), diagnostics);
     requireNotCancelled(m_reporter);
     m_reporter.report(diagnostics);
     target.commit();

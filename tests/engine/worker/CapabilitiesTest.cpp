@@ -9,8 +9,9 @@ namespace {
 using protocol::Format;
 using protocol::Layout;
 
-TEST(Capabilities, HasTheFlowingLayoutInDocx) {
+TEST(Capabilities, HasTheFlowingLayoutInDocxAndRtf) {
     EXPECT_NO_THROW(requireSupported(Layout::Flowing, Format::Docx));
+    EXPECT_NO_THROW(requireSupported(Layout::Flowing, Format::Rtf));
 }
 
 TEST(Capabilities, NamesWhatIsMissing) {
@@ -21,7 +22,7 @@ TEST(Capabilities, NamesWhatIsMissing) {
     };
     const Row rows[] = {
         {Layout::Images, Format::Docx, "\"images\""},
-        {Layout::Flowing, Format::Rtf, "\"rtf\""},
+        {Layout::Flowing, Format::Doc, "\"doc\""},
     };
     for (const Row& row : rows) {
         try {

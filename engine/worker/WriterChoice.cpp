@@ -1,0 +1,24 @@
+#include "worker/WriterChoice.h"
+
+#include "base/Failure.h"
+#include "write/docx/DocxWriter.h"
+#include "write/rtf/RtfWriter.h"
+
+namespace orvane::worker {
+
+void writeDocument(protocol::Format format, const document::Document& document, const PictureStore& pictures,
+                   const std::filesystem::path& target, Diagnostics& diagnostics) {
+    switch (format) {
+    case protocol::Format::Docx:
+        write::writeDocx(document, pictures, target, diagnostics);
+        return;
+    case protocol::Format::Rtf:
+        write::writeRtf(document, pictures, target, diagnostics);
+        return;
+    case protocol::Format::Doc:
+        break;
+    }
+    throw Failure(FailureCode::NotSupported, "no document in this format can be written yet");
+}
+
+} // namespace orvane::worker

@@ -1,0 +1,41 @@
+#include "write/rtf/BlockRtf.h"
+
+#include "write/ParagraphParts.h"
+#include "write/rtf/FieldRtf.h"
+#include "write/rtf/ParagraphRtf.h"
+#include "write/rtf/TableRtf.h"
+
+namespace orvane::write::rtf {
+namespace {
+
+using namespace document;
+
+class BlockWriter : public BlockSink {
+public:
+    explicit BlockWriter(Story& story)
+        : m_story(story) {}
+
+    void paragraph(const Paragraph& paragraph, const ParagraphLoad& load) override {
+        writeParagraph(m_story, paragraph, load);
+    }
+    void thinParagraph(const ParagraphLoad& load) override {
+        writeParagraph(m_story, write::thinParagraph(m_story.state.styles.defaultStyle(), load), load);
+    }
+    void table(const Table& table) override { writeTable(m_story, table); }
+    void contentsStart(const TableOfContents& contents) override {
+        startField(m_story.rtf, fieldInstruction(contents));
+    }
+    void contentsEnd() override { endField(m_story.rtf); }
+
+private:
+    Story& m_story;
+};
+
+} // namespace
+
+void writeBlocks(Story& story, const std::vector<Block>& blocks, const BlockFlow& flow) {
+    BlockWriter writer(story);
+    flowBlocks(blocks, flow, writer);
+}
+
+} // namespace orvane::write::rtf

@@ -1,0 +1,94 @@
+#include "write/rtf/BodyRtf.h"
+
+#include "write/rtf/BlockRtf.h"
+#include "write/rtf/InfoRtf.h"
+#include "write/rtf/ListTable.h"
+#include "write/rtf/NoteRtf.h"
+#include "write/rtf/ParagraphRtf.h"
+#include "write/rtf/RunningTextRtf.h"
+#include "write/rtf/SectionRtf.h"
+#include "write/rtf/StyleSheet.h"
+
+#include <algorithm>
+
+namespace orvane::write::rtf {
+namespace {
+
+using namespace document;
+
+constexpr int kDefaultTab = 720;
+
+bool hasNotes(const Document& document, NoteKind kind) {
+    return std::any_of(document.notes.begin(), document.notes.end(),
+                       [kind](const Note& note) { return note.kind == kind; });
+}
+
+/// Source: RTF 1.9.1, \fet: footnotes only, endnotes only, both.
+int noteKinds(const Document& document) {
+    if (!hasNotes(document, NoteKind::Endnote))
+        return 0;
+    return hasNotes(document, NoteKind::Footnote) ? 2 : 1;
+}
+
+/// Writes the line between text and notes, and between a note and its beginning on the page before.
+void writeSeparators(RtfStream& rtf, const Document& document) {
+    const auto write = [&rtf](const char* destination, const char* line) {
+        const RtfDestination separator(rtf, destination);
+        rtf.word("pard");
+        rtf.word("plain");
+        rtf.word(line);
+    };
+    if (hasNotes(document, NoteKind::Footnote)) {
+        write("ftnsep", "chftnsep");
+        write("ftnsepc", "chftnsepc");
+    }
+    if (hasNotes(document, NoteKind::Endnote)) {
+        write("aftnsep", "chftnsep");
+        write("aftnsepc", "chftnsepc");
+    }
+}
+
+void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& first, const RunningTexts& running) {
+    writeDocumentPage(rtf, first);
+    rtf.word("deftab", kDefaultTab);
+    rtf.word("widowctrl");
+    rtf.word("ftnbj");
+    rtf.word("aenddoc");
+    rtf.word("aftnnrlc");
+    rtf.word("fet", noteKinds(state.document));
+    if (running.hasEvenPages())
+        rtf.word("facingp");
+    rtf.word("viewkind", 1);
+    writeSeparators(rtf, state.document);
+    rtf.newLine();
+}
+
+/// A section's properties stand before its text; its last paragraph ends it.
+void writeSections(RtfState& state, RtfStream& rtf, const std::vector<Section>& sections) {
+    RunningTexts running(state.document);
+    writeDocumentProperties(state, rtf, sections.front(), running);
+    Story story{state, rtf};
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+        writeSectionProperties(state, rtf, sections[i]);
+        running.write(state, rtf, sections[i]);
+        writeBlocks(story, sections[i].blocks);
+        endParagraph(story, i + 1 == sections.size() ? "par" : "sect");
+    }
+}
+
+} // namespace
+
+void writeBody(RtfState& state, RtfStream& rtf) {
+    writeStyleSheet(state, rtf);
+    rtf.newLine();
+    writeListTables(state, rtf);
+    writeInfo(rtf, state.document.metadata);
+    rtf.newLine();
+    if (state.document.sections.empty())
+        writeSections(state, rtf, {Section{}});
+    else
+        writeSections(state, rtf, state.document.sections);
+    reportLostNotes(state);
+}
+
+} // namespace orvane::write::rtf

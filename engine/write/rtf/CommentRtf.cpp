@@ -1,0 +1,61 @@
+#include "write/rtf/CommentRtf.h"
+
+#include "write/Initials.h"
+#include "write/IsoDate.h"
+#include "write/rtf/BlockRtf.h"
+#include "write/rtf/NoteRtf.h"
+
+namespace orvane::write::rtf {
+namespace {
+
+using namespace document;
+
+/// A moment packed into 32 bits, which files show as a signed number. Source: [MS-DOC] 2.9.67 (DTTM).
+std::int32_t packed(const DateTime& time) {
+    constexpr int kFirstYear = 1900;
+    const auto bits = [](int value, int shift) { return static_cast<std::uint32_t>(value) << shift; };
+    return static_cast<std::int32_t>(bits(time.minute, 0) | bits(time.hour, 6) | bits(time.day, 11) |
+                                     bits(time.month, 16) | bits(time.year - kFirstYear, 20) | bits(time.weekday, 29));
+}
+
+void writeNamed(RtfStream& rtf, const char* destination, const std::string& text) {
+    const RtfDestination group(rtf, destination);
+    rtf.text(text);
+}
+
+void writeComment(Story& around, const Comment& comment) {
+    RtfStream& rtf = around.rtf;
+    writeNamed(rtf, "atnid", initialsOf(comment.author));
+    writeNamed(rtf, "atnauthor", comment.author);
+    const RtfGroup run(rtf, "chatn");
+    const RtfDestination annotation(rtf, "annotation");
+    if (const auto time = dateTimeFromIso(comment.date)) {
+        const RtfDestination date(rtf, "atndate");
+        rtf.text(std::to_string(packed(*time)));
+    }
+    Story story{around.state, rtf, StoryKind::Comment};
+    writeBlocks(story, comment.blocks, {[&] { rtf.word("chatn"); }});
+    writeDisplacedNotes(story);
+    // The end of the group ends the last paragraph.
+}
+
+} // namespace
+
+void writeCommentReference(Story& story, const CommentReference& reference) {
+    RtfState& state = story.state;
+    if (reference.comment >= state.isCommentWritten.size() || state.isCommentWritten[reference.comment])
+        return;
+    if (story.frameDepth > 0) {
+        story.displacedComments.push_back(reference.comment);
+        return;
+    }
+    if (story.kind != StoryKind::Body) {
+        state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
+                              "a comment in a header, a footer, a note or a comment was left out");
+        return;
+    }
+    state.isCommentWritten[reference.comment] = true;
+    writeComment(story, state.document.comments[reference.comment]);
+}
+
+} // namespace orvane::write::rtf

@@ -1,0 +1,102 @@
+#include "write/rtf/TableRtf.h"
+
+#include "write/TableGrid.h"
+#include "write/rtf/BlockRtf.h"
+#include "write/rtf/ParagraphRtf.h"
+#include "write/rtf/RowRtf.h"
+
+namespace orvane::write::rtf {
+namespace {
+
+using namespace document;
+
+/// Word processors need several times as long for each table within a table that goes over a page's end.
+constexpr int kDeepestTable = 10;
+
+void writeCell(Story& story, const PlacedCell& placed) {
+    const bool hasContent = placed.cell && placed.merge != VerticalMerge::Continues;
+    if (hasContent)
+        writeBlocks(story, placed.cell->blocks);
+    for (const TableCell* cell : placed.appended)
+        writeBlocks(story, cell->blocks);
+    if (!hasContent && placed.appended.empty())
+        writeBlocks(story, {});
+    endParagraph(story, story.tableDepth > 1 ? "nestcell" : "cell");
+}
+
+/// The row with cells where it leaves columns free at its sides: readers differ in where a row starts that begins
+/// further in than others.
+PlacedRow withSideCells(PlacedRow row, const TableGrid& grid) {
+    const int columns = static_cast<int>(grid.columnWidths().size());
+    if (row.columnsBefore > 0)
+        row.cells.insert(row.cells.begin(), PlacedCell{0, row.columnsBefore});
+    if (row.columnsAfter > 0)
+        row.cells.push_back(PlacedCell{columns - row.columnsAfter, row.columnsAfter});
+    row.columnsBefore = row.columnsAfter = 0;
+    return row;
+}
+
+void writeCells(Story& story, const PlacedRow& placed) {
+    for (const PlacedCell& cell : placed.cells)
+        writeCell(story, cell);
+}
+
+/// The definition of a row stands before its cells; that of a row in a table within a cell after them, where readers
+/// that know no such tables pass over it.
+void writeRow(Story& story, const TableRow& row, const PlacedRow& placed, const RowPlace& place) {
+    RtfStream& rtf = story.rtf;
+    if (story.tableDepth == 1) {
+        writeRowDefinition(story.state, rtf, row, placed, place);
+        writeCells(story, placed);
+        rtf.word("row");
+        rtf.newLine();
+        return;
+    }
+    writeCells(story, placed);
+    {
+        const RtfDestination properties(rtf, "nesttableprops");
+        writeRowDefinition(story.state, rtf, row, placed, place);
+        rtf.word("nestrow");
+    }
+    const RtfGroup others(rtf, "nonesttables");
+    rtf.word("par");
+}
+
+void writeAsParagraphs(Story& story, const Table& table) {
+    if (story.flattenedTables == 0)
+        story.state.diagnostics.add(DiagnosticKind::FormatLimitReached, table.origin.page,
+                                    "a table stands within too many others and became paragraphs", table.origin.box);
+    ++story.flattenedTables;
+    for (const TableRow& row : table.rows)
+        for (const TableCell& cell : row.cells)
+            writeBlocks(story, cell.blocks);
+    --story.flattenedTables;
+}
+
+} // namespace
+
+void writeTable(Story& story, const Table& table) {
+    if (table.rows.empty())
+        return;
+    if (story.tableDepth >= kDeepestTable) {
+        writeAsParagraphs(story, table);
+        return;
+    }
+    endParagraph(story, "par");
+    TableGrid grid(table);
+    if (grid.wasCut())
+        story.state.diagnostics.add(DiagnosticKind::FormatLimitReached, table.origin.page,
+                                    "a table has more columns than word processors take; the last ones became one",
+                                    table.origin.box);
+    ++story.tableDepth;
+    bool isHead = true;
+    for (const TableRow& row : table.rows) {
+        // Only the first rows can be repeated.
+        isHead = isHead && row.isHeader;
+        const PlacedRow placed = withSideCells(grid.place(row), grid);
+        writeRow(story, row, placed, {table, grid, isHead});
+    }
+    --story.tableDepth;
+}
+
+} // namespace orvane::write::rtf

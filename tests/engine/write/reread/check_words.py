@@ -1,0 +1,59 @@
+#!/usr/bin/env python3
+"""check_words.py --reader KIND [PROGRAM] FILE...: a reader finds the words of the sample document in each file, in order.
+
+KIND is soffice, unrtf, antiword, catdoc or cat. Prints the first word that is missing and exits with 1 where there is one.
+"""
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+# What every reader shows as plain text, whatever it makes of tables, boxes and notes.
+WORDS = """Characters plain bold italic Links to Paragraphs The quick brown fox jumps Lists first nested second
+Form fields Name Grace Pictures in the line cut turned mirrored Text runs in columns of different widths
+Tables Head over two Third Fourth""".split()
+
+
+def text_by_soffice(program, file):
+    with tempfile.TemporaryDirectory() as folder:
+        profile = pathlib.Path(folder, "profile").as_uri()
+        subprocess.run([program, f"-env:UserInstallation={profile}", "--headless", "--convert-to", "txt:Text (encoded):UTF8",
+                        "--outdir", folder, file], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        return pathlib.Path(folder, pathlib.Path(file).stem + ".txt").read_text(encoding="utf-8")
+
+
+def text_by(kind, program, file):
+    if kind == "soffice":
+        return text_by_soffice(program, file)
+    if kind == "cat":
+        return pathlib.Path(file).read_text(encoding="utf-8")
+    options = {"unrtf": ["--text"], "antiword": ["-m", "UTF-8.txt"], "catdoc": ["-d", "utf-8"]}[kind]
+    output = subprocess.run([program, *options, file], check=True, capture_output=True).stdout
+    return output.decode("utf-8", errors="replace")
+
+
+def missing_word(text):
+    place = 0
+    for word in WORDS:
+        found = re.compile(rf"\b{re.escape(word)}\b").search(text, place)
+        if not found:
+            return word
+        place = found.end()
+    return None
+
+
+def main():
+    kind, rest = sys.argv[2], sys.argv[3:]
+    program = None if kind == "cat" else rest.pop(0)
+    failed = False
+    for file in rest:
+        word = missing_word(text_by(kind, program, file))
+        if word:
+            print(f"{file}: {kind} does not find \"{word}\" where it should stand")
+            failed = True
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

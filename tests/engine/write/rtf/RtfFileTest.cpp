@@ -1,0 +1,99 @@
+#include "DocumentBuilder.h"
+#include "SampleDocument.h"
+#include "TestPicture.h"
+#include "WrittenRtf.h"
+
+#include "base/Failure.h"
+#include "write/rtf/RtfWriter.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::tests {
+namespace {
+
+using namespace document;
+using testing::IsEmpty;
+
+TEST(RtfFile, IsWholeForADocumentThatHasOneOfEverything) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    const Document document = sampleDocument(pictures);
+    const WrittenRtf rtf(document, pictures);
+    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
+    EXPECT_EQ(rtf.text(), WrittenRtf(document, pictures).text()) << "one document, one file";
+}
+
+TEST(RtfFile, IsFoundWrongWhenItIs) {
+    EXPECT_THAT(faultOfRtf("{\\rtf1 a}"), IsEmpty());
+    for (const char* wrong : {"a", "{\\rtf1 a", "{\\rtf1 a}}", "{\\rtf1 \\+}", "{\\rtf1 \xC3}", "{\\rtf1 a} b"})
+        EXPECT_THAT(faultOfRtf(wrong), testing::Not(IsEmpty())) << wrong;
+}
+
+TEST(RtfFile, IsRefusedWhereNothingCanBeWritten) {
+    const TemporaryFolder folder;
+    const PictureStore pictures(folder.path());
+    Diagnostics diagnostics;
+    try {
+        write::writeRtf(documentOf("a"), pictures, folder.path() / "missing" / "a.rtf", diagnostics);
+        FAIL() << "a folder that is missing was written to";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), FailureCode::TargetUnwritable);
+    }
+}
+
+TEST(RtfFile, IsWholeWithoutSectionsAndStyles) {
+    EXPECT_THAT(faultOfRtf(WrittenRtf(Document{}).text()), IsEmpty());
+}
+
+TEST(RtfFile, HoldsTablesOfFiftyThousandCells) {
+    Table table;
+    table.columnWidths.assign(50, Twips(200));
+    for (int row = 0; row < 1000; ++row) {
+        TableRow cells;
+        for (int column = 0; column < 50; ++column)
+            cells.cells.push_back(cell("x", column));
+        table.rows.push_back(std::move(cells));
+    }
+    const WrittenRtf rtf(documentOf({{std::move(table)}}));
+    EXPECT_EQ(rtf.count("\\cell}"), 50000u);
+    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
+}
+
+TEST(RtfFile, HoldsTablesWithinTablesBeyondWhatReadersTake) {
+    constexpr int kDepth = 500;
+    Table table;
+    table.rows.resize(1);
+    table.rows[0].cells.push_back(cell("innermost"));
+    for (int depth = 1; depth < kDepth; ++depth) {
+        Table outer;
+        outer.rows.resize(1);
+        outer.rows[0].cells.push_back(cell("x"));
+        outer.rows[0].cells[0].blocks.push_back({std::move(table)});
+        table = std::move(outer);
+    }
+    const WrittenRtf rtf(documentOf({{std::move(table)}}));
+    EXPECT_EQ(rtf.count("{x}"), static_cast<std::size_t>(kDepth - 1)) << "no text is lost";
+    EXPECT_FALSE(rtf.has("\\itap11"));
+    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
+    EXPECT_EQ(rtf.diagnostics().entries().size(), 1u) << "told once, not for each table";
+}
+
+TEST(RtfFile, HoldsNumbersBeyondWhatTheFormatTakes) {
+    constexpr int kHuge = 2000000000;
+    RunProperties look;
+    look.size = HalfPoints(kHuge);
+    look.characterSpacing = Twips(-kHuge);
+    Paragraph one = paragraph({text("a", look)});
+    one.properties.indentStart = Twips(-kHuge);
+    one.properties.lineSpacing = {LineSpacingRule::Exact, 1, Twips(-kHuge)};
+    one.properties.borders.top = {BorderKind::Single, EighthPoints(kHuge), kBlack, kHuge};
+    Document document = documentOf(one);
+    document.sections[0].pageWidth = Twips(kHuge);
+    document.sections[0].marginLeft = Twips(-kHuge);
+    const WrittenRtf rtf(document);
+    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
+    EXPECT_FALSE(rtf.has("2000000000"));
+}
+
+} // namespace
+} // namespace orvane::tests
