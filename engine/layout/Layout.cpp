@@ -2,7 +2,9 @@
 
 #include "base/Failure.h"
 #include "layout/DocumentAnalyser.h"
+#include "layout/assembly/ContinuousDocument.h"
 #include "layout/assembly/DocumentAssembler.h"
+#include "layout/assembly/PlainTextDocument.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/running/RunningHeads.h"
 #include "layout/structure/DraftBuilder.h"
@@ -15,16 +17,22 @@ namespace orvane::layout {
 namespace {
 
 void checkMode(LayoutMode mode) {
+    if (mode == LayoutMode::TruePage)
+        throw Failure(FailureCode::NotSupported, "the true page layout is not supported");
+}
+
+/// What the mode keeps of the flowing document.
+document::Document inMode(LayoutMode mode, document::Document flowing) {
     switch (mode) {
     case LayoutMode::Flowing:
-        return;
     case LayoutMode::TruePage:
-        throw Failure(FailureCode::NotSupported, "the true page layout is not supported");
+        return flowing;
     case LayoutMode::Continuous:
-        throw Failure(FailureCode::NotSupported, "the continuous layout is not supported");
+        return continuousDocument(std::move(flowing));
     case LayoutMode::PlainText:
-        throw Failure(FailureCode::NotSupported, "the plain text layout is not supported");
+        return plainTextDocument(std::move(flowing));
     }
+    return flowing;
 }
 
 std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentContext& context,
@@ -56,7 +64,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     findHeadings(draft, facts, context, parameters, diagnostics);
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);
-    return assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics);
+    return inMode(request.mode, assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics));
 }
 
 } // namespace orvane::layout

@@ -18,7 +18,14 @@ struct Capability {
     Format format;
 };
 
-constexpr std::array<Capability, 2> kCapabilities{{{Layout::Flowing, Format::Docx}, {Layout::Flowing, Format::Rtf}}};
+constexpr std::array<Capability, 6> kCapabilities{{
+    {Layout::Flowing, Format::Docx},
+    {Layout::Flowing, Format::Rtf},
+    {Layout::Continuous, Format::Docx},
+    {Layout::Continuous, Format::Rtf},
+    {Layout::PlainText, Format::Docx},
+    {Layout::PlainText, Format::Rtf},
+}};
 
 } // namespace
 

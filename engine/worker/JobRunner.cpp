@@ -43,6 +43,12 @@ layout::LayoutRequest layoutRequest(const Job& job) {
     return {layoutMode(job.layout), job.pictures == Pictures::Remove, job.characterSpacing == CharacterSpacing::Exact};
 }
 
+/// Whether pictures are read at all: not those that the document would leave out.
+bool showsPictures(const Job& job) {
+    const bool isText = job.layout == Layout::Continuous || job.layout == Layout::PlainText;
+    return job.pictures == Pictures::Keep && !isText;
+}
+
 void requireOtherFile(const Job& job) {
     std::error_code error;
     if (job.target.empty())
@@ -141,11 +147,10 @@ void JobRunner::convert() {
     m_reporter.stageReached(JobStage::Reading, 0, 0);
     PictureStore pictures(scratch.path());
     const layout::LayoutParameters parameters;
-    PagesRead read =
-        readPages(source,
-                  {m_job.source, passwords, selection.pages, m_job.pictures == Pictures::Keep ? &pictures : nullptr,
-                   parameters, m_job.limits.threads},
-                  m_reporter);
+    PagesRead read = readPages(source,
+                               {m_job.source, passwords, selection.pages, showsPictures(m_job) ? &pictures : nullptr,
+                                parameters, m_job.limits.threads},
+                               m_reporter);
 
     m_reporter.stageReached(JobStage::Generating, 0, 0);
     const layout::DocumentFacts facts{source.metadata(), source.outline(), source.structureTree()};

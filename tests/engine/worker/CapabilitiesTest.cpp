@@ -9,9 +9,10 @@ namespace {
 using protocol::Format;
 using protocol::Layout;
 
-TEST(Capabilities, HasTheFlowingLayoutInDocxAndRtf) {
-    EXPECT_NO_THROW(requireSupported(Layout::Flowing, Format::Docx));
-    EXPECT_NO_THROW(requireSupported(Layout::Flowing, Format::Rtf));
+TEST(Capabilities, HasThreeLayoutsInDocxAndRtf) {
+    for (const Layout layout : {Layout::Flowing, Layout::Continuous, Layout::PlainText})
+        for (const Format format : {Format::Docx, Format::Rtf})
+            EXPECT_NO_THROW(requireSupported(layout, format));
 }
 
 TEST(Capabilities, NamesWhatIsMissing) {
