@@ -4,6 +4,7 @@
 #include "layout/text/LineText.h"
 
 #include <unicode/uchar.h>
+#include <unicode/uscript.h>
 
 namespace orvane::layout {
 namespace {
@@ -15,6 +16,13 @@ bool isLetter(char32_t character) {
 }
 bool isLower(char32_t character) {
     return u_islower(static_cast<UChar32>(character));
+}
+
+/// True for scripts whose blanks part phrases: their lines may end behind every word, so most ends are within a phrase.
+bool hasBlanksBetweenPhrases(char32_t character) {
+    UErrorCode error = U_ZERO_ERROR;
+    const UScriptCode script = uscript_getScript(static_cast<UChar32>(character), &error);
+    return script == USCRIPT_THAI || script == USCRIPT_LAO || script == USCRIPT_KHMER || script == USCRIPT_MYANMAR;
 }
 
 std::u32string lowerCase(std::u32string text) {
@@ -65,6 +73,8 @@ LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
     if (last.empty() || next.empty())
         return LineJoin::Nothing;
     if (isWithoutBlanks(last.back()) && isWithoutBlanks(next[0]))
+        return LineJoin::Nothing;
+    if (hasBlanksBetweenPhrases(last.back()) && hasBlanksBetweenPhrases(next[0]))
         return LineJoin::Nothing;
     if (last.size() < 2)
         return LineJoin::Blank;

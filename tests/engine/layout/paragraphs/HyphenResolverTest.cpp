@@ -25,6 +25,8 @@ TEST(HyphenResolver, JoinsLineEnds) {
         {"state-of-the-", "art", LineJoin::Nothing, "a compound of many parts"},
         {"con\xC2\xAD", "version", LineJoin::DropHyphen, "a soft hyphen"},
         {"\xE6\x97\xA5\xE6\x9C\xAC", "\xE8\xAA\x9E", LineJoin::Nothing, "East Asian text has no blanks"},
+        {"\xE0\xB9\x80\xE0\xB8\x9B\xE0\xB9\x87\xE0\xB8\x99", "\xE0\xB9\x80\xE0\xB8\xA7\xE0\xB8\xA5\xE0\xB8\xB2",
+         LineJoin::Nothing, "Thai has blanks between phrases"},
         {"-", "item", LineJoin::Blank, "a dash on its own"},
         {"1990-", "1999", LineJoin::Nothing, "a range"},
         {"", "next", LineJoin::Nothing, "nothing to join"},
