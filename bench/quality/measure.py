@@ -54,14 +54,14 @@ def tables_of(read):
 
 
 def cells(wanted, found):
-    """Of each table that is wanted, against the found one that is most like it; a missed table does not shift the others."""
-    left = tables_of(found)
-    same = 0
-    for table in tables_of(wanted):
-        best = max(left, key=lambda other: len(table & other), default=None)
-        if best:
-            same += len(table & best)
-            left.remove(best)
+    """Each wanted table is held against the found one that is most like it: a missed table does not shift the others."""
+    pairs = sorted(((len(table & other), t, o) for t, table in enumerate(tables_of(wanted)) for o, other in enumerate(tables_of(found))),
+                   reverse=True)
+    same, taken = 0, set()
+    for equal, table, other in pairs:
+        if not {("wanted", table), ("found", other)} & taken:
+            same += equal
+            taken |= {("wanted", table), ("found", other)}
     total = len(wanted.cells) + len(found.cells)
     return 2 * same / total if total else None
 
