@@ -17,4 +17,7 @@ public:
 
 signals:
     void itemSelected(int position);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };

@@ -16,4 +16,7 @@ public:
 
 signals:
     void turnedTrue();
+
+private:
+    void fixTabStop();
 };

@@ -36,10 +36,12 @@ QLineEdit { min-height: 28px; border: 1px solid palette(midlight); border-radius
 QLineEdit[role="shown"] { min-height: 20px; border: none; padding: 0; background: transparent; }
 QPushButton { min-height: 26px; min-width: 88px; padding: 0 12px; border: 2px solid palette(midlight); border-radius: 4px;
               background: palette(button); color: palette(button-text); }
+QPushButton[role="browse"] { min-width: 20px; padding: 0 4px; }
 QPushButton:default { background: #0078D4; border-color: #0078D4; color: #FFFFFF; }
 QPushButton:default:focus { border-color: palette(text); }
 QComboBox { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
             background: palette(base); }
+QComboBox::drop-down { border: none; width: 28px; }
 QCheckBox, QRadioButton { min-height: 24px; spacing: 8px; }
 QCheckBox:focus, QRadioButton:focus { border: 2px solid palette(text); border-radius: 4px; }
 QPushButton:focus, QLineEdit:focus, QTextEdit:focus, QComboBox:focus, QListView:focus { border: 2px solid palette(text); }

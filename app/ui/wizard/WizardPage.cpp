@@ -2,6 +2,7 @@
 
 #include "i18n/Captions.h"
 #include "ui/form/ClosePrompt.h"
+#include "ui/form/FirstField.h"
 #include "ui/form/Picture.h"
 #include "ui/links/LinkBar.h"
 
@@ -59,4 +60,9 @@ void WizardPage::Form_QueryUnload(bool& cancel, UnloadMode unloadMode) {
 void WizardPage::Form_Unload() {
     if (m_closing != Closing::AsksAndLeavesEnding)
         registry().endProgram();
+}
+
+void WizardPage::showEvent(QShowEvent* event) {
+    Form::showEvent(event);
+    focusFirstField(*this, m_frame.background());
 }

@@ -49,6 +49,7 @@ protected:
 
     void Form_QueryUnload(bool& cancel, UnloadMode unloadMode) override;
     void Form_Unload() override;
+    void showEvent(QShowEvent* event) override;
 
     PageFrame& frame() { return m_frame; }
     const PagePorts& ports() const { return m_ports; }

@@ -25,12 +25,18 @@ constexpr std::array<LayoutDesign, 5> kDesigns{{
     {"lblTableText", "lblTableText1", "Flowing_text.gif"},
 }};
 
+constexpr int kWordSize = 32; ///< pixels, of the picture of a document
+
 } // namespace
 
 frmLayout::frmLayout(FormRegistry& registry, PagePorts ports)
     : WizardPage(registry, std::move(ports), "frmLayout", "picMain", Closing::AsksAndLeavesEnding)
     , imgPDF(frame().picture("imgPDF")) {
-    frame().title("lblLayoutOptions");
+    QLabel* title = frame().label("lblLayoutOptions");
+    title->setProperty("role", "title");
+    Picture* imgWord = frame().icon("imgWord", kWordSize);
+    loadPicture(*imgWord, "tavrelion.svg");
+    frame().row({title, imgWord}, PageFrame::Stretch::First);
     auto* fra1 = new QGroupBox(this);
     fra1->setObjectName("fra1");
     fra1->setProperty("role", "group");

@@ -1,3 +1,4 @@
+#include "PageGallery.h"
 #include "app/support/RunFixture.h"
 #include "app/support/ShippedLanguages.h"
 #include "ui/application/LanguageStatusTexts.h"
@@ -128,7 +129,9 @@ int main(int argc, char* argv[]) {
     if (isDark)
         darken(application);
     applyStyle(application);
-    for (const std::int16_t language : {std::int16_t{0}, std::int16_t{3}})
+    for (const std::int16_t language : {std::int16_t{0}, std::int16_t{3}}) {
         Gallery(language, argv[1]).draw();
+        drawPages(argv[1], language);
+    }
     return 0;
 }

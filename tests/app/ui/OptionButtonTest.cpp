@@ -50,5 +50,13 @@ TEST_F(OptionButtons, CanBeTakenBackSoThatNoneIsChosen) {
     EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(OptionButtons, TabStopsAtTheChosenOne) {
+    second->setValue(true);
+    EXPECT_FALSE(first->focusPolicy() & Qt::TabFocus);
+    EXPECT_TRUE(second->focusPolicy() & Qt::TabFocus);
+    second->setValue(false);
+    EXPECT_TRUE(first->focusPolicy() & Qt::TabFocus);
+}
+
 } // namespace
 } // namespace tavrelion::tests
