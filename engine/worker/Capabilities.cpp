@@ -18,13 +18,16 @@ struct Capability {
     Format format;
 };
 
-constexpr std::array<Capability, 6> kCapabilities{{
+constexpr std::array<Capability, 9> kCapabilities{{
     {Layout::Flowing, Format::Docx},
     {Layout::Flowing, Format::Rtf},
+    {Layout::Flowing, Format::Doc},
     {Layout::Continuous, Format::Docx},
     {Layout::Continuous, Format::Rtf},
+    {Layout::Continuous, Format::Doc},
     {Layout::PlainText, Format::Docx},
     {Layout::PlainText, Format::Rtf},
+    {Layout::PlainText, Format::Doc},
 }};
 
 } // namespace

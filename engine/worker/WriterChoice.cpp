@@ -1,6 +1,6 @@
 #include "worker/WriterChoice.h"
 
-#include "base/Failure.h"
+#include "write/doc/DocWriter.h"
 #include "write/docx/DocxWriter.h"
 #include "write/rtf/RtfWriter.h"
 
@@ -16,9 +16,9 @@ void writeDocument(protocol::Format format, const document::Document& document, 
         write::writeRtf(document, pictures, target, diagnostics);
         return;
     case protocol::Format::Doc:
-        break;
+        write::writeDoc(document, pictures, target, diagnostics);
+        return;
     }
-    throw Failure(FailureCode::NotSupported, "no document in this format can be written yet");
 }
 
 } // namespace orvane::worker

@@ -10,7 +10,7 @@
 namespace orvane::worker {
 
 /// Writes the document in the format.
-/// Errors: Failure(NotSupported) for a format without a writer; Failure(TargetUnwritable).
+/// Errors: Failure(TargetUnwritable).
 void writeDocument(protocol::Format format, const document::Document& document, const PictureStore& pictures,
                    const std::filesystem::path& target, Diagnostics& diagnostics);
 

@@ -105,4 +105,14 @@ PlacedCell TableGrid::continueCell(int column) {
     return placed;
 }
 
+PlacedRow withSideCells(PlacedRow row, const TableGrid& grid) {
+    const int columns = static_cast<int>(grid.columnWidths().size());
+    if (row.columnsBefore > 0)
+        row.cells.insert(row.cells.begin(), PlacedCell{0, row.columnsBefore});
+    if (row.columnsAfter > 0)
+        row.cells.push_back(PlacedCell{columns - row.columnsAfter, row.columnsAfter});
+    row.columnsBefore = row.columnsAfter = 0;
+    return row;
+}
+
 } // namespace orvane::write

@@ -55,4 +55,8 @@ private:
     bool m_wasCut = false;
 };
 
+/// The row with cells where it leaves columns free at its sides: readers of older formats differ in where a row starts
+/// that begins further in than others.
+PlacedRow withSideCells(PlacedRow row, const TableGrid& grid);
+
 } // namespace orvane::write

@@ -24,18 +24,6 @@ void writeCell(Story& story, const PlacedCell& placed) {
     endParagraph(story, story.tableDepth > 1 ? "nestcell" : "cell");
 }
 
-/// The row with cells where it leaves columns free at its sides: readers differ in where a row starts that begins
-/// further in than others.
-PlacedRow withSideCells(PlacedRow row, const TableGrid& grid) {
-    const int columns = static_cast<int>(grid.columnWidths().size());
-    if (row.columnsBefore > 0)
-        row.cells.insert(row.cells.begin(), PlacedCell{0, row.columnsBefore});
-    if (row.columnsAfter > 0)
-        row.cells.push_back(PlacedCell{columns - row.columnsAfter, row.columnsAfter});
-    row.columnsBefore = row.columnsAfter = 0;
-    return row;
-}
-
 void writeCells(Story& story, const PlacedRow& placed) {
     for (const PlacedCell& cell : placed.cells)
         writeCell(story, cell);

@@ -9,9 +9,9 @@ namespace {
 using protocol::Format;
 using protocol::Layout;
 
-TEST(Capabilities, HasThreeLayoutsInDocxAndRtf) {
+TEST(Capabilities, HasThreeLayoutsInEachFormat) {
     for (const Layout layout : {Layout::Flowing, Layout::Continuous, Layout::PlainText})
-        for (const Format format : {Format::Docx, Format::Rtf})
+        for (const Format format : {Format::Docx, Format::Rtf, Format::Doc})
             EXPECT_NO_THROW(requireSupported(layout, format));
 }
 
@@ -23,7 +23,7 @@ TEST(Capabilities, NamesWhatIsMissing) {
     };
     const Row rows[] = {
         {Layout::Images, Format::Docx, "\"images\""},
-        {Layout::Flowing, Format::Doc, "\"doc\""},
+        {Layout::TruePage, Format::Doc, "\"true-page\""},
     };
     for (const Row& row : rows) {
         try {

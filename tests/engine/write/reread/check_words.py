@@ -14,18 +14,26 @@ WORDS = """Characters plain bold italic Links to Paragraphs The quick brown fox 
 Form fields Name Grace Pictures in the line cut turned mirrored Text runs in columns of different widths
 Tables Head over two Third Fourth""".split()
 
+# What a reader is known to pass over.
+UNSHOWN = {"catdoc": {"cut", "turned", "mirrored"}}  # paragraphs with pictures
 
-def text_by_soffice(program, file):
+
+def texts_by_soffice(program, files):
+    """The texts of all files, by one start of the program."""
     with tempfile.TemporaryDirectory() as folder:
         profile = pathlib.Path(folder, "profile").as_uri()
+        # Results are named without the files' endings, so files get names of their own.
+        named = []
+        for index, file in enumerate(files):
+            copy = pathlib.Path(folder, f"file{index}{pathlib.Path(file).suffix}")
+            copy.write_bytes(pathlib.Path(file).read_bytes())
+            named.append(str(copy))
         subprocess.run([program, f"-env:UserInstallation={profile}", "--headless", "--convert-to", "txt:Text (encoded):UTF8",
-                        "--outdir", folder, file], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        return pathlib.Path(folder, pathlib.Path(file).stem + ".txt").read_text(encoding="utf-8")
+                        "--outdir", folder, *named], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        return [pathlib.Path(folder, f"file{index}.txt").read_text(encoding="utf-8") for index in range(len(files))]
 
 
 def text_by(kind, program, file):
-    if kind == "soffice":
-        return text_by_soffice(program, file)
     if kind == "cat":
         return pathlib.Path(file).read_text(encoding="utf-8")
     options = {"unrtf": ["--text"], "antiword": ["-m", "UTF-8.txt"], "catdoc": ["-d", "utf-8"]}[kind]
@@ -33,9 +41,11 @@ def text_by(kind, program, file):
     return output.decode("utf-8", errors="replace")
 
 
-def missing_word(text):
+def missing_word(kind, text):
     place = 0
     for word in WORDS:
+        if word in UNSHOWN.get(kind, ()):
+            continue
         found = re.compile(rf"\b{re.escape(word)}\b").search(text, place)
         if not found:
             return word
@@ -46,9 +56,10 @@ def missing_word(text):
 def main():
     kind, rest = sys.argv[2], sys.argv[3:]
     program = None if kind == "cat" else rest.pop(0)
+    texts = texts_by_soffice(program, rest) if kind == "soffice" else [text_by(kind, program, file) for file in rest]
     failed = False
-    for file in rest:
-        word = missing_word(text_by(kind, program, file))
+    for file, text in zip(rest, texts):
+        word = missing_word(kind, text)
         if word:
             print(f"{file}: {kind} does not find \"{word}\" where it should stand")
             failed = True

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "base/PictureStore.h"
+#include "document/Document.h"
+
+#include <filesystem>
+
+/// What of the document model this writer puts into the file: [x] whole, [-] in part, [ ] not.
+///
+///   [x] characters: fonts by script, size, weight, slant, colour, ground, underline, spacing, width, raise, language
+///   [x] paragraphs: alignment, indents, spacing, tabs, borders, ground, outline level, keeping together, direction
+///   [x] styles, each as its difference against the one below
+///   [x] lists of nine levels
+///   [x] tables: spans, borders a side, ground, margins, heights, repeated head, direction, tables within tables
+///   [-] tables of more than 63 columns: the last column takes in the rest; tables more than ten deep: paragraphs
+///   [x] sections: page, margins, columns of any widths, page numbers, headers and footers for first and even pages
+///   [-] pages of more than 22 inches are cut to that
+///   [x] pictures in the line: cut, turned, mirrored, alternate text; as they are, not compressed again
+///   [-] floating pictures stand in the text, as paragraphs of their own; those behind the text are left out
+///   [-] text boxes are paragraphs where they were anchored
+///   [ ] drawings, comments
+///   [-] notes in headers and notes become paragraphs there; the format has them in the body only
+///   [x] links, bookmarks, page fields, table of contents
+///   [x] footnotes, endnotes, with marks of their own or counted
+///   [-] form fields are their text
+///   [ ] origins (pages and rectangles of the source)
+namespace orvane::write {
+
+/// Writes `document` as a binary document of word processors, 97 to 2003.
+/// Errors: Failure(TargetUnwritable) when the file cannot be made or the disk is full.
+/// Source: [MS-DOC], [MS-CFB], [MS-ODRAW], [MS-OLEPS].
+void writeDoc(const document::Document& document, const PictureStore& pictures, const std::filesystem::path& target,
+              Diagnostics& diagnostics);
+
+} // namespace orvane::write

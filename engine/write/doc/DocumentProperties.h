@@ -1,0 +1,19 @@
+#pragma once
+
+#include "document/Document.h"
+
+#include <string>
+
+namespace orvane::write::doc {
+
+enum class Pages { Alike, Facing };
+
+/// What holds for the whole document: kinds of pages, notes, tabulators.
+/// Source: [MS-DOC] 2.7 (Dop97).
+std::string documentProperties(Pages pages);
+
+/// What the document says of itself, as a property set. No date but the document's own is written.
+/// Source: [MS-OLEPS] 2.21 (PropertySetStream), 3.1 (summary information).
+std::string summaryInformation(const document::Metadata& metadata);
+
+} // namespace orvane::write::doc

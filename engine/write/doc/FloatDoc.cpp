@@ -1,0 +1,46 @@
+#include "write/doc/FloatDoc.h"
+
+#include "write/doc/BlockDoc.h"
+#include "write/doc/ParagraphDoc.h"
+
+#include <utility>
+
+namespace orvane::write::doc {
+namespace {
+
+using namespace document;
+
+void tellOnce(Story& story, bool& isTold, const Origin& origin, const char* message) {
+    if (!std::exchange(isTold, true))
+        story.state.diagnostics.add(DiagnosticKind::DrawingSimplified, origin.page, message, origin.box);
+}
+
+void writeFigure(Story& story, const Figure& figure) {
+    const auto* picture = std::get_if<Picture>(&figure.content);
+    if (!picture) {
+        tellOnce(story, story.state.toldOf.drawing, figure.origin, "drawings are left out of DOC documents");
+        return;
+    }
+    if (figure.placement.wrapping == Wrapping::BehindText) {
+        tellOnce(story, story.state.toldOf.background, figure.origin,
+                 "pictures behind the text are left out of DOC documents");
+        return;
+    }
+    Paragraph paragraph;
+    const Style& style = story.state.styles.defaultStyle();
+    paragraph.properties.hasWidowControl = style.paragraph.hasWidowControl;
+    paragraph.markProperties = style.run;
+    paragraph.inlines = {{*picture}};
+    writeParagraph(story, paragraph, {});
+}
+
+} // namespace
+
+void writeFloat(Story& story, const Block& block) {
+    if (const auto* figure = std::get_if<Figure>(&block.value))
+        writeFigure(story, *figure);
+    else
+        writeBlocks(story, std::get<Frame>(block.value).blocks);
+}
+
+} // namespace orvane::write::doc

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "document/Document.h"
+
+#include <string>
+
+namespace orvane::write::doc {
+
+/// The properties of a section.
+/// Source: [MS-DOC] 2.6.4.
+std::string sectionProperties(const document::Section& section, Diagnostics& diagnostics);
+
+} // namespace orvane::write::doc

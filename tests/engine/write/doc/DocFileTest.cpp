@@ -1,0 +1,127 @@
+#include "DocumentBuilder.h"
+#include "SampleDocument.h"
+#include "TestPicture.h"
+#include "WrittenDoc.h"
+
+#include "base/Failure.h"
+#include "write/doc/CompoundFile.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace orvane::tests {
+namespace {
+
+using namespace document;
+using testing::HasSubstr;
+
+std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+TEST(CompoundFile, HoldsStreamsOfAllSizes) {
+    const TemporaryFolder folder;
+    const std::filesystem::path file = folder.path() / "a";
+    write::doc::CompoundStream small(u"WordDocument");
+    small.add("small");
+    // Beyond what the head of the file can tell the places of: eight megabytes.
+    write::doc::CompoundStream large(u"Data");
+    large.add(std::string(8 << 20, 'x'));
+    large.add("end");
+    write::doc::writeCompoundFile(file, {small, large});
+    const auto streams = readCompoundFile(file);
+    EXPECT_EQ(streams.at(u"WordDocument"), "small" + std::string(4096 - 5, '\0'));
+    EXPECT_EQ(streams.at(u"Data"), std::string(8 << 20, 'x') + "end");
+    EXPECT_THROW(DocReader{file}, std::runtime_error) << "these are no documents";
+}
+
+TEST(DocFile, IsWholeForADocumentThatHasOneOfEverything) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    const Document document = sampleDocument(pictures);
+    const WrittenDoc doc(document, pictures);
+    EXPECT_THAT(doc.dump(), HasSubstr("Tables"));
+    EXPECT_EQ(bytesOf(doc.file()), bytesOf(WrittenDoc(document, pictures).file())) << "one document, one file";
+}
+
+TEST(DocFile, TellsWhatTheDocumentSaysOfItself) {
+    Document document = documentOf("a");
+    document.metadata.title = "A title";
+    document.metadata.created = "1601-01-01T00:00:01Z";
+    const WrittenDoc doc(document);
+    const std::string& summary = doc.read().stream(u"\u0005SummaryInformation");
+    EXPECT_THAT(summary, HasSubstr(std::string("\x1E\0\0\0\x8\0\0\0A title\0", 16)));
+    EXPECT_THAT(summary, HasSubstr(std::string("\x40\0\0\0\x80\x96\x98\0\0\0\0\0", 12)));
+}
+
+TEST(DocFile, IsRefusedWhereNothingCanBeWritten) {
+    const TemporaryFolder folder;
+    const PictureStore pictures(folder.path());
+    Diagnostics diagnostics;
+    try {
+        write::writeDoc(documentOf("a"), pictures, folder.path() / "missing" / "a.doc", diagnostics);
+        FAIL() << "a folder that is missing was written to";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), FailureCode::TargetUnwritable);
+    }
+}
+
+TEST(DocFile, IsWholeWithoutSectionsAndStyles) {
+    EXPECT_EQ(WrittenDoc(Document{}).read().text(), "\\0d");
+}
+
+TEST(DocFile, HoldsTablesOfFiftyThousandCells) {
+    Table table;
+    table.columnWidths.assign(50, Twips(200));
+    for (int row = 0; row < 1000; ++row) {
+        TableRow cells;
+        for (int column = 0; column < 50; ++column)
+            cells.cells.push_back(cell("x", column));
+        table.rows.push_back(std::move(cells));
+    }
+    const WrittenDoc doc(documentOf({{std::move(table)}}));
+    EXPECT_EQ(doc.read().text().size(), 50000u * 4 + 1000u * 3 + 3);
+    EXPECT_THAT(doc.dump(), HasSubstr("d608="));
+}
+
+TEST(DocFile, HoldsTablesWithinTablesBeyondWhatReadersTake) {
+    Table table;
+    table.rows.resize(1);
+    table.rows[0].cells.push_back(cell("innermost"));
+    for (int depth = 1; depth < 500; ++depth) {
+        Table outer;
+        outer.rows.resize(1);
+        outer.rows[0].cells.push_back(cell("x"));
+        outer.rows[0].cells[0].blocks.push_back({std::move(table)});
+        table = std::move(outer);
+    }
+    const WrittenDoc doc(documentOf({{std::move(table)}}));
+    EXPECT_THAT(doc.read().text(), HasSubstr("innermost"));
+    EXPECT_THAT(doc.dump(), testing::Not(HasSubstr("6649=0b")));
+    EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "told once, not for each table";
+}
+
+TEST(DocFile, HoldsNumbersBeyondWhatTheFormatTakes) {
+    constexpr int kHuge = 2000000000;
+    RunProperties look;
+    look.size = HalfPoints(kHuge);
+    Paragraph one = paragraph({text("a", look)});
+    one.properties.indentStart = Twips(-kHuge);
+    one.properties.borders.top = {BorderKind::Single, EighthPoints(kHuge), kBlack, kHuge};
+    one.properties.tabs.assign(500, TabStop{Twips(kHuge)});
+    Table table;
+    table.columnWidths = {Twips(kHuge / 2)};
+    table.rows.resize(1);
+    table.rows[0].cells = {cell("x")};
+    Document document = documentOf({{one}, {table}});
+    document.sections[0].pageWidth = Twips(kHuge);
+    const WrittenDoc doc(document);
+    EXPECT_THAT(doc.dump(), HasSubstr("4a43=cc0c"));
+    EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "the page was cut";
+}
+
+} // namespace
+} // namespace orvane::tests

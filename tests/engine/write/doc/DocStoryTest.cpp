@@ -1,0 +1,179 @@
+#include "DocumentBuilder.h"
+#include "TestPicture.h"
+#include "WrittenDoc.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace orvane::tests {
+namespace {
+
+using namespace document;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr std::size_t kBody = 3;
+constexpr std::size_t kFootnotes = 4;
+constexpr std::size_t kRunningTexts = 5;
+constexpr std::size_t kEndnotes = 8;
+
+TEST(DocField, IsMarkedByThreeCharacters) {
+    const WrittenDoc doc(documentOf(paragraph({text("a"), {Field{FieldCode::Page, "", {text("7")}}}})));
+    EXPECT_EQ(doc.read().text(), "a\\13 PAGE \\147\\15\\0d");
+    EXPECT_EQ(doc.read().table(16), std::string("\1\0\0\0\x8\0\0\0\xA\0\0\0\xC\0\0\0\x13\x21\x14\xFF\x15\x80", 22));
+}
+
+TEST(DocField, LinksToPlacesAndAddresses) {
+    const Link outside{{"http://example.org", ""}, {text("out")}};
+    const Link inside{{"", "place"}, {text("in")}};
+    const WrittenDoc doc(documentOf(paragraph({{outside}, {Bookmark{"place"}}, {inside}})));
+    EXPECT_THAT(doc.read().text(), HasSubstr("\\13 HYPERLINK \"http://example.org\" \\14out\\15"));
+    EXPECT_THAT(doc.read().text(), HasSubstr("\\13 HYPERLINK \\l \"place\" \\14in\\15"));
+    EXPECT_EQ(doc.read().numbers(22)[0], std::string("s HYPERLINK \"http://example.org\" sout").size() + 1);
+    EXPECT_EQ(doc.read().table(21), std::string("\xFF\xFF\1\0\0\0\5\0p\0l\0a\0c\0e\0", 18));
+}
+
+TEST(DocNote, StandsInATextOfItsKind) {
+    Document document =
+        documentOf(paragraph({text("a"), {NoteReference{0, {}, ""}}, text("b"), {NoteReference{1, {}, "*"}}}));
+    document.notes = {{NoteKind::Footnote, {{paragraph("foot")}}, {}}, {NoteKind::Endnote, {{paragraph("end")}}, {}}};
+    const WrittenDoc doc(document);
+    EXPECT_EQ(doc.read().text(), "a\\02b*\\0d\\02 foot\\0d\\0d* end\\0d\\0d\\0d");
+    EXPECT_EQ(doc.read().length(kBody), 5u);
+    EXPECT_EQ(doc.read().length(kFootnotes), 8u);
+    EXPECT_EQ(doc.read().length(kEndnotes), 7u);
+    EXPECT_EQ(doc.read().table(2), std::string("\1\0\0\0\5\0\0\0\1\0", 10));
+    EXPECT_EQ(doc.read().table(46), std::string("\3\0\0\0\5\0\0\0\0\0", 10)) << "a mark of its own is not counted";
+    EXPECT_THAT(doc.read().numbers(3), ElementsAre(0, 7, 8));
+}
+
+TEST(DocNote, IsTextInAHeader) {
+    Document document = documentOf("body");
+    document.notes = {{NoteKind::Footnote, {{paragraph("note")}}, {}}};
+    document.sections[0].header.standard = {{paragraph({text("a"), {NoteReference{0, {}, "*"}}})}};
+    const WrittenDoc doc(document);
+    EXPECT_EQ(doc.read().length(kFootnotes), 0u);
+    EXPECT_THAT(doc.read().text(), HasSubstr("a*\\0dnote\\0d"));
+}
+
+TEST(DocSection, HasRunningTextsForKindsOfPages) {
+    Document document = documentOf("body");
+    Section& page = document.sections[0];
+    page.header.standard = {{paragraph("odd")}};
+    page.header.evenPages = {{paragraph("even")}};
+    page.footer.firstPage = {{paragraph("first")}};
+    const WrittenDoc doc(document);
+    // Two separators for each kind of notes come first.
+    EXPECT_THAT(doc.read().numbers(11), ElementsAre(0, 3, 6, 6, 9, 12, 12, 18, 23, 23, 23, 28, 35, 36));
+    EXPECT_EQ(doc.read().length(kRunningTexts), 36u);
+    EXPECT_THAT(doc.read().text(), HasSubstr("even\\0d\\0dodd\\0d\\0dodd\\0d\\0dfirst\\0d\\0d"));
+}
+
+TEST(DocSection, TakesOverTheRunningTextsOfTheOneBefore) {
+    Document document = documentOf("a");
+    document.sections[0].footer.standard = {{paragraph("foot")}};
+    document.sections.resize(3, document.sections[0]);
+    document.sections[2].footer.standard.reset();
+    const std::string text = WrittenDoc(document).read().text();
+    EXPECT_EQ(text.find("foot"), text.rfind("foot"));
+    EXPECT_THAT(text, HasSubstr("foot\\0d\\0d\\0d\\0d\\0d")) << "the last section has an empty one";
+}
+
+TEST(DocSection, EndsWithACharacterOfItsOwn) {
+    Document document = documentOf("a");
+    document.sections.push_back(section({{paragraph("b")}}));
+    const WrittenDoc doc(document);
+    EXPECT_EQ(doc.read().text(), "a\\0cb\\0d");
+    EXPECT_THAT(doc.read().numbers(6), testing::Contains(2u));
+    EXPECT_EQ(doc.read().numbers(6)[2], 4u);
+}
+
+TEST(DocTable, EndsCellsAndRowsWithMarks) {
+    Table table;
+    table.columnWidths = {Twips(256), Twips(512)};
+    table.rows.resize(1);
+    table.rows[0].isHeader = true;
+    table.rows[0].height = Twips(300);
+    table.rows[0].cells = {cell("a"), cell("b", 1)};
+    const std::string dump = WrittenDoc(documentOf({{table}})).dump();
+    EXPECT_THAT(dump, HasSubstr("0 2416=01 6649=01000000 \"a\\07\"\n0 2416=01 6649=01000000 \"b\\07\"\n"));
+    EXPECT_THAT(dump, HasSubstr("0 2416=01 6649=01000000 2417=01 9602=0000 9407=2c01 3404=01 3615=00 "
+                                "d608=3000020000000100030006"));
+}
+
+TEST(DocTable, HasMergesAndBordersOfItsCells) {
+    Table table;
+    table.columnWidths = {Twips(256)};
+    table.rows.resize(2);
+    table.rows[0].cells = {cell("tall")};
+    table.rows[0].cells[0].rowSpan = 2;
+    table.rows[0].cells[0].borders.top = {BorderKind::Single, EighthPoints(8), {1, 2, 3}, 0};
+    table.rows[0].cells[0].shading = Color{4, 5, 6};
+    table.rows[0].cells[0].marginLeft = Twips(9);
+    const std::string dump = WrittenDoc(documentOf({{table}})).dump();
+    EXPECT_THAT(dump, HasSubstr("d608=1a000100000001600600010801"));
+    EXPECT_THAT(dump, HasSubstr("d608=1a00010000000120060001"));
+    EXPECT_THAT(dump, HasSubstr("d62f=0b000101010203000801"));
+    EXPECT_THAT(dump, HasSubstr("d612=0a000000ff040506000000"));
+    EXPECT_THAT(dump, HasSubstr("d632=060001020309"));
+}
+
+TEST(DocTable, StandsWithinACell) {
+    Table inner;
+    inner.rows.resize(1);
+    inner.rows[0].cells = {cell("in")};
+    Table outer;
+    outer.rows.resize(1);
+    outer.rows[0].cells = {cell("out")};
+    outer.rows[0].cells[0].blocks.push_back({inner});
+    const std::string dump = WrittenDoc(documentOf({{outer}})).dump();
+    EXPECT_THAT(dump, HasSubstr("0 2416=01 6649=02000000 244b=01 \"in\\0d\"\n"));
+    EXPECT_THAT(dump, HasSubstr("0 2416=01 6649=02000000 244b=01 244c=01 "));
+}
+
+TEST(DocTable, HasPropertiesElsewhereWhenTheyAreLong) {
+    Table table;
+    table.rows.resize(1);
+    for (int column = 0; column < 60; ++column) {
+        table.rows[0].cells.push_back(cell("x", column));
+        table.rows[0].cells.back().borders.top = {BorderKind::Single, EighthPoints(8 + column), kBlack, 0};
+    }
+    const WrittenDoc doc(documentOf({{table}}));
+    EXPECT_THAT(doc.read().stream(u"Data").size(), testing::Gt(1200u));
+    EXPECT_THAT(doc.dump(), HasSubstr("d608="));
+}
+
+TEST(DocPicture, IsTheFileItself) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    Picture picture;
+    picture.id = pictures.add(jpegPicture(8, 4, kBlack));
+    picture.width = emuFromPoints(100);
+    picture.height = emuFromPoints(50);
+    const WrittenDoc doc(documentOf(paragraph({{picture}, {picture}})), pictures);
+    EXPECT_THAT(doc.dump(), HasSubstr("6a03=00000000 0855=01 \"\\01\\01\""));
+    std::ifstream in(pictures.at(picture.id).file, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    const std::string& data = doc.read().stream(u"Data");
+    EXPECT_EQ(data.find(bytes), data.rfind(bytes)) << "once, though it is shown twice";
+    EXPECT_EQ(data.substr(28, 4), std::string("\xD0\x07\xE8\x03", 4)) << "2000 by 1000 twips";
+}
+
+TEST(DocPicture, StandsInTheTextWhereItFloats) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    Picture picture;
+    picture.id = pictures.add(pngPicture(8, 4, kBlack));
+    Frame frame;
+    frame.blocks = {{paragraph("box")}};
+    const WrittenDoc doc(
+        documentOf({{Figure{picture, {}, {}}}, {frame}, {Figure{Drawing{}, {}, {}}}, {paragraph("a")}}), pictures);
+    EXPECT_EQ(doc.read().text(), "\\01\\0dbox\\0da\\0d");
+    EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "the drawing is told of";
+}
+
+} // namespace
+} // namespace orvane::tests
