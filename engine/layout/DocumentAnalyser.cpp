@@ -1,6 +1,7 @@
 #include "layout/DocumentAnalyser.h"
 
 #include "base/Utf8.h"
+#include "layout/text/LineText.h"
 
 #include <unicode/uchar.h>
 
@@ -151,6 +152,24 @@ std::unordered_set<std::string> collectVocabulary(const std::vector<PageText>& p
     return vocabulary;
 }
 
+/// Whether the document's lines have blanks between East Asian characters and the letters and digits beside them.
+bool areScriptsParted(const std::vector<PageText>& pages) {
+    std::size_t parted = 0, joined = 0;
+    for (const PageText& page : pages)
+        for (const Line& line : page.lines) {
+            std::u32string before;
+            for (const Word& word : line.words) {
+                const std::u32string text = utf32FromUtf8(textOf(word));
+                if (word.gapBefore == Gap::Space && !before.empty() && !text.empty())
+                    parted += meetOtherScript(before.back(), text.front());
+                for (std::size_t i = 1; i < text.size(); ++i)
+                    joined += meetOtherScript(text[i - 1], text[i]);
+                before = text;
+            }
+        }
+    return parted > joined;
+}
+
 } // namespace
 
 DocumentContext analyseDocument(const std::vector<PageText>& pages, const LayoutParameters& parameters) {
@@ -162,6 +181,7 @@ DocumentContext analyseDocument(const std::vector<PageText>& pages, const Layout
         findBodyLeading(pages, context.bodyFontSize, limits, limits.defaultLeading * context.bodyFontSize);
     context.textArea = findTextArea(pages, limits);
     context.isRightToLeft = isMostlyRightToLeft(pages);
+    context.partsScripts = areScriptsParted(pages);
     context.vocabulary = collectVocabulary(pages, limits);
     return context;
 }

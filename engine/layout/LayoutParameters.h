@@ -89,6 +89,8 @@ struct LayoutParameters {
         double scriptGap = 0.9;            ///< of the blank; between a script and its host
         double eastAsianGap = 0.7;         ///< of the font size; between characters written without blanks
         double overprint = 0.6;            ///< of the font size; a jump back this far begins another word
+        double labelGap = 0.1;             ///< of the font size; between a label and East Asian text
+        std::size_t longestLabel = 8;      ///< characters of such a label
     } words;
 
     /// TextAssembler: from spans to runs.
@@ -162,6 +164,7 @@ struct LayoutParameters {
     /// GutterFinder: where rows are cut into lines. Shares are of the row's font size.
     struct Gutters {
         double wideGap = 0.7;          ///< two to three blanks; narrower gaps are never looked at
+        double tabGap = 1.0; ///< narrower gaps that are no gutters are blanks, after full stops for instance
         double wideAgainstUsual = 1.7; ///< of the row's usual blank; justified text has wide blanks all along
         unsigned fewestGaps = 3;       ///< gaps it takes to know the usual blank
         double narrowest = 0.5;        ///< what neighbours must leave empty of the same gap
@@ -406,6 +409,9 @@ struct LayoutParameters {
         int justifiedLines = 3;     ///< lines flush with the edge that show a column to be justified, if they are ...
         double justifiedShare = 0.6; ///< ... this share of those that run on of themselves
         double stretchedGap = 1.06; ///< of the natural blank; wider gaps between words tell a justified line
+        double ownEdge = 1.0;       ///< of the font size; lines that all end this far before the column's edge may have their own
+        double proseShare = 0.6;    ///< of a block's lines that must be full, and of those whose sentence must go on, for
+                                    ///< their longest to show its edge
         double fullLine = 2.5;      ///< of the font size; a column's last line with less room behind it may run on
     } paragraphs;
 
@@ -418,6 +424,7 @@ struct LayoutParameters {
         double minimumColumn = 8;  ///< of the font size; narrower columns are labels, not prose
         double minimumFill = 0.55; ///< share of the column that its rows cover; less is labels and values, not prose
         double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
+        std::size_t minimumEdgeLines = 10; ///< with fewer lines in a column each may be as wide as it
         double edgeShare = 0.04;   ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...
         std::size_t edgeLines = 3; ///< ... but never more than so many
         double edgeReach = 1.0;    ///< of the font size; lines that end this near to each other end at one edge

@@ -149,7 +149,8 @@ private:
         }
         LineJoin join = LineJoin::Blank;
         if (position == Position::StartsLine)
-            join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary);
+            join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary,
+                                  m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined);
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
         if (position == Position::WithinLine && word.gapBefore == Gap::Tab)

@@ -67,7 +67,7 @@ LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
 } // namespace
 
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
-                        const std::unordered_set<std::string>& vocabulary) {
+                        const std::unordered_set<std::string>& vocabulary, ScriptBoundary boundary) {
     const std::u32string last = utf32FromUtf8(lastWord);
     const std::u32string next = utf32FromUtf8(nextWord);
     if (last.empty() || next.empty())
@@ -76,6 +76,9 @@ LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
         return LineJoin::Nothing;
     if (hasBlanksBetweenPhrases(last.back()) && hasBlanksBetweenPhrases(next[0]))
         return LineJoin::Nothing;
+    if (isWithoutBlanks(last.back()) != isWithoutBlanks(next[0]))
+        return boundary == ScriptBoundary::Blank && meetOtherScript(last.back(), next[0]) ? LineJoin::Blank
+                                                                                          : LineJoin::Nothing;
     if (last.size() < 2)
         return LineJoin::Blank;
     const char32_t end = last.back();

@@ -14,9 +14,13 @@ enum class LineJoin : std::uint8_t {
     DropHyphen, ///< the hyphen was only for the line's end
 };
 
+/// What stands between East Asian characters and the letters of other scripts beside them.
+enum class ScriptBoundary : std::uint8_t { Joined, Blank };
+
 /// Decides how the last word of a line meets the first word of the next. `vocabulary` are words that stand whole
 /// somewhere in the document, lower case (DocumentContext::vocabulary).
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
-                        const std::unordered_set<std::string>& vocabulary);
+                        const std::unordered_set<std::string>& vocabulary,
+                        ScriptBoundary boundary = ScriptBoundary::Joined);
 
 } // namespace orvane::layout

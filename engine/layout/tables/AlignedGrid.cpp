@@ -1,8 +1,8 @@
 #include "layout/tables/AlignedGrid.h"
 
-#include "layout/paragraphs/ListMarker.h"
-
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -44,13 +44,13 @@ Rect boxOf(const AlignedRows& aligned, const RowGroup& group) {
     return box;
 }
 
-bool isBullet(const TextPiece& piece, const std::vector<Line>& lines, const LayoutParameters::Markers& parameters) {
-    if (piece.wordCount() != 1)
-        return false;
-    Line line = lines[piece.line];
-    line.words = {line.words[piece.firstWord]};
-    const auto marker = findListMarker(line, parameters);
-    return marker && (marker->kind == MarkerKind::Bullet || marker->kind == MarkerKind::Dash);
+/// A bullet right before its text. Signs that also fill columns of their own, such as check marks, are none here.
+bool isBulletOf(const TextPiece& piece, const TextPiece& text, const std::vector<Line>& lines,
+                const LayoutParameters& parameters) {
+    static constexpr std::array<std::string_view, 9> kBullets{"\u2022", "\u25E6", "\u25AA", "\u25CF", "\u25CB",
+                                                              "\u25A0", "\u2023", "\u00B7", "o"};
+    return piece.wordCount() == 1 && std::ranges::find(kBullets, textOf(piece, lines)) != kBullets.end() &&
+           text.box.left - piece.box.right <= parameters.gutters.labelGap * piece.fontSize;
 }
 
 /// Whether a gap of columns lies between two words of a piece, and the words are such as stand in two cells: numbers,
@@ -102,15 +102,21 @@ std::vector<ColumnGap> findTableColumns(std::vector<PieceRow>& rows, const std::
     std::vector<int> pieces(gaps.size() + 1);
     std::vector<int> bullets(gaps.size() + 1);
     for (const PieceRow& row : rows) {
-        for (const TextPiece& piece : row.pieces) {
+        bool followsBullet = false;
+        for (std::size_t i = 0; i < row.pieces.size(); ++i) {
+            const TextPiece& piece = row.pieces[i];
             const auto column = static_cast<std::size_t>(columnsOf(piece, gaps).first);
-            ++pieces[column];
-            bullets[column] += isBullet(piece, lines, parameters.markers);
+            const bool isItsBullet =
+                i + 1 < row.pieces.size() && isBulletOf(piece, row.pieces[i + 1], lines, parameters);
+            // Where lists are nested, the bullets of one level stand below the texts of another.
+            pieces[column] += !followsBullet;
+            bullets[column] += isItsBullet;
+            followsBullet = isItsBullet;
         }
     }
     std::vector<ColumnGap> kept;
     for (std::size_t i = 0; i < gaps.size(); ++i)
-        if (bullets[i] < parameters.tables.bulletShare * pieces[i])
+        if (bullets[i] == 0 || bullets[i] < parameters.tables.bulletShare * pieces[i])
             kept.push_back(gaps[i]);
     return kept;
 }

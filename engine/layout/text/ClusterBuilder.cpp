@@ -2,6 +2,7 @@
 
 #include "layout/text/ActualText.h"
 #include "layout/text/Characters.h"
+#include "pdf/SymbolFont.h"
 
 #include <algorithm>
 #include <cmath>
@@ -54,12 +55,24 @@ void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& fon
     cluster.spaceWidth = font.spaceWidth * glyph.fontSize * glyph.horizontalScale;
 }
 
+/// The character of a glyph. OpenSymbol has signs only, and stands in for Wingdings: a letter is that font's code.
+std::u32string textOf(const pdf::Glyph& glyph, const pdf::Font& font) {
+    if (glyph.unicode.empty())
+        return {kUnknownCharacter};
+    if (font.name.starts_with("OpenSymbol") && glyph.unicode.size() == 1 && glyph.unicode[0] > U' ' &&
+        glyph.unicode[0] < 0x100)
+        if (const char32_t sign =
+                pdf::symbolCharacter(pdf::SymbolFont::Wingdings, static_cast<std::uint8_t>(glyph.unicode[0])))
+            return {sign};
+    return normalizeGlyphText(glyph.unicode);
+}
+
 Cluster makeCluster(const pdf::PageContent& page, const SelectedGlyph& selected, std::uint32_t frameIndex,
                     const TextFrame& frame, const LayoutParameters::Clusters& limits) {
     const pdf::Glyph& glyph = page.glyphs[selected.index];
     const pdf::Font& font = fontOf(page, glyph);
     Cluster cluster;
-    cluster.text = glyph.unicode.empty() ? std::u32string{kUnknownCharacter} : normalizeGlyphText(glyph.unicode);
+    cluster.text = textOf(glyph, font);
     cluster.frame = frameIndex;
     cluster.glyph = selected.index;
     cluster.mark = glyph.mark;
@@ -169,25 +182,33 @@ private:
     const LayoutParameters::Clusters& m_limits;
 };
 
-bool isUnknown(const Cluster& cluster) {
-    return cluster.text.size() == 1 && cluster.text.front() == kUnknownCharacter;
+/// A glyph that the file does not tell the character of, or only by an encoding of signs.
+bool isUnknown(const Cluster& cluster, const pdf::PageContent& page) {
+    if (cluster.text.size() != 1)
+        return false;
+    const char32_t character = cluster.text.front();
+    return character == kUnknownCharacter ||
+           (page.glyphs[cluster.glyph].isUnicodeGuessed && !isLetter(character) && !isDigit(character));
 }
 
 /// Unknown glyphs between Arabic letters that touch them are the strokes by which a line was stretched: they say
 /// nothing.
-void dropStretching(std::vector<Cluster>& clusters, const LayoutParameters::Clusters& limits) {
+void dropStretching(std::vector<Cluster>& clusters, const pdf::PageContent& page,
+                    const LayoutParameters::Clusters& limits) {
     const auto isJoined = [&](const Cluster& left, const Cluster& right) {
         return left.frame == right.frame && std::abs(left.baseline - right.baseline) <= limits.touch * left.size &&
-               right.start - left.end <= limits.touch * left.size && right.end > left.start;
+               std::max(right.start - left.end, left.start - right.end) <= limits.touch * left.size;
     };
     for (std::size_t i = 1; i + 1 < clusters.size(); ++i) {
         std::size_t last = i;
-        while (last < clusters.size() && isUnknown(clusters[last]) && isJoined(clusters[last - 1], clusters[last]))
+        while (last < clusters.size() && isUnknown(clusters[last], page) &&
+               isJoined(clusters[last - 1], clusters[last]))
             ++last;
         if (last == i)
             continue;
-        if (last < clusters.size() && isRightToLeftLetter(clusters[i - 1].text.back()) &&
+        if (last < clusters.size() && isRightToLeftLetter(clusters[i - 1].text.front()) &&
             isRightToLeftLetter(clusters[last].text.front()) && isJoined(clusters[last - 1], clusters[last])) {
+            clusters[i - 1].start = std::min(clusters[i - 1].start, clusters[last - 1].start);
             clusters[i - 1].end = std::max(clusters[i - 1].end, clusters[last - 1].end);
             for (std::size_t gone = i; gone < last; ++gone)
                 clusters[gone].text.clear();
@@ -217,7 +238,7 @@ std::vector<Cluster> buildClusters(const pdf::PageContent& page, const GlyphSele
     }
     applyActualTexts(clusters, page.marks, parameters, diagnostics);
     MarkJoiner(clusters, parameters.clusters).join();
-    dropStretching(clusters, parameters.clusters);
+    dropStretching(clusters, page, parameters.clusters);
     flattenShapeless(clusters);
     return clusters;
 }

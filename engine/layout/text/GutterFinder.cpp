@@ -1,6 +1,7 @@
 #include "layout/text/GutterFinder.h"
 
 #include "layout/text/Characters.h"
+#include "layout/text/LabelText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,29 +20,6 @@ double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t
     const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
     std::nth_element(gaps.begin(), middle, gaps.end());
     return *middle;
-}
-
-bool isBullet(char32_t c) {
-    static constexpr char32_t kBullets[] =
-        U"\x2022\x25CF\x25CB\x25AA\x25AB\x25A0\x25A1\x25E6\x2023\x2013\x2014-*\xB7\x2756"
-        U"\x2751\x2752\x27A2\x27A4\x2713\x2714\x25BA\x25B6\x25C6\x25C7\x2605\x2666\x2610"
-        U"\x2611\x2612";
-    return std::u32string_view(kBullets).find(c) != std::u32string_view::npos || (c >= 0xE000 && c <= 0xF8FF);
-}
-
-/// A text that labels what follows: a bullet, or a short number or letter, in brackets or with a point.
-bool isLabelText(const std::u32string& text, std::size_t longest) {
-    if (text.empty() || text.size() > longest)
-        return false;
-    if (text.size() == 1 && (isBullet(text.front()) || text.front() == U'o'))
-        return true;
-    const char32_t last = text.back();
-    const bool isClosed = last == U'.' || last == U')' || last == U']' || last == U':';
-    const bool isNumber = std::all_of(text.begin(), text.end(), [](char32_t c) { return isDigit(c) || c == U'.'; });
-    const auto letters = std::count_if(text.begin(), text.end(), [](char32_t c) { return isLetter(c); });
-    const bool isCompound = isNumber && text.find(U'.') != std::u32string::npos;
-    return isCompound ||
-           (isClosed && (letters <= 1 || text.front() == U'(' || letters == static_cast<long>(text.size()) - 1));
 }
 
 } // namespace
@@ -88,7 +66,8 @@ std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
             runs.push_back({i, i, cluster.start, cluster.end});
             runs.back().followsLeader = followsLeader;
             runs.back().isWalled = isWalled;
-            runs.back().isTabbed = followsLeader || (isWide && width >= usual);
+            runs.back().isTabbed =
+                followsLeader || (isWide && width >= usual && width >= m_limits.tabGap * row.fontSize);
         }
         runs.back().last = i + 1;
         runs.back().end = std::max(runs.back().end, cluster.end);
@@ -181,7 +160,10 @@ bool GutterFinder::isGutter(std::size_t row, std::size_t run) const {
         return false;
     if (right.isWalled)
         return true;
-    if (left.isLabel && right.start - left.end <= m_limits.labelGap * asked.fontSize)
+    // A label stands first in its row, and what it labels is text: "1.5" before another number is a number.
+    const bool isFirst = run == 1 || left.isWalled;
+    if (left.isLabel && isFirst && !isDigit(asked.clusters[right.first].text.front()) &&
+        right.start - left.end <= m_limits.labelGap * asked.fontSize)
         return false;
     int forIt = 0, leftOnly = 0, rightOnly = 0;
     gather(row, left, right, -1, forIt, leftOnly, rightOnly);

@@ -49,4 +49,9 @@ bool isWithoutBlanks(char32_t character) {
     return (width == U_EA_WIDE || width == U_EA_FULLWIDTH) && !isHangul;
 }
 
+bool meetOtherScript(char32_t left, char32_t right) {
+    const auto isWord = [](char32_t c) { return u_isalnum(static_cast<UChar32>(c)) != 0; };
+    return isWord(left) && isWord(right) && isWithoutBlanks(left) != isWithoutBlanks(right);
+}
+
 } // namespace orvane::layout

@@ -20,4 +20,7 @@ void measureAnew(Line& line);
 /// punctuation. Hangul has blanks between words, and lines that end at them.
 bool isWithoutBlanks(char32_t character);
 
+/// True between a letter or digit of such a script and one of another.
+bool meetOtherScript(char32_t left, char32_t right);
+
 } // namespace orvane::layout

@@ -1,6 +1,7 @@
 #include "layout/text/WordBuilder.h"
 
 #include "layout/text/Characters.h"
+#include "layout/text/LabelText.h"
 
 #include <algorithm>
 #include <optional>
@@ -147,6 +148,23 @@ private:
     bool m_hasBlanks = false;
 };
 
+/// East Asian text stands closer to its label than its characters to those of other scripts; the label is a word still,
+/// unless it ends in a digit, which has that little gap behind it anyway.
+void partLabel(std::vector<Cluster>& clusters, const LayoutParameters::Words& limits) {
+    std::u32string label;
+    for (std::size_t i = 0; i + 1 < clusters.size() && label.size() < limits.longestLabel; ++i) {
+        label += clusters[i].text;
+        Cluster& next = clusters[i + 1];
+        if (next.gapBefore.endsWord)
+            return;
+        if (!isSetWithoutBlanks(next.text.front()))
+            continue;
+        next.gapBefore.endsWord = !isDigit(label.back()) && isLabelText(label, limits.longestLabel) &&
+                                  next.gapBefore.width >= limits.labelGap * next.size;
+        return;
+    }
+}
+
 void findGapsOf(TextRow& row, const LayoutParameters::Words& limits) {
     std::vector<Cluster>& clusters = row.clusters;
     const double rowLetterGap = Stretch(clusters, 0, clusters.size(), limits).findLetterGap().value_or(0);
@@ -165,6 +183,7 @@ void findGapsOf(TextRow& row, const LayoutParameters::Words& limits) {
     // A drop cap stands away from the rest of its word.
     if (row.dropCapLines > 0 && clusters.size() > 1 && !clusters[1].gapBefore.hasBlank)
         clusters[1].gapBefore.endsWord = false;
+    partLabel(clusters, limits);
     for (Cluster& cluster : clusters)
         cluster.gapBefore.kind = cluster.gapBefore.endsWord ? Gap::Space : Gap::None;
 }

@@ -57,6 +57,15 @@ TEST(DocumentAnalyser, KeepsWordsThatStandWithinLines) {
     EXPECT_TRUE(words.contains("well-known"));
 }
 
+TEST(DocumentAnalyser, SeesWhetherBlanksPartScripts) {
+    PageText joined = makePage(1);
+    joined.lines.push_back(makeLine("\u65E5ISO\u672C \u8A9E2018", 72, 72));
+    EXPECT_FALSE(analyseDocument({joined}, {}).partsScripts);
+    PageText parted = makePage(1);
+    parted.lines.push_back(makeLine("\u65E5 ISO \u672C\u8A9E 2018", 72, 72));
+    EXPECT_TRUE(analyseDocument({parted}, {}).partsScripts);
+}
+
 TEST(DocumentAnalyser, TellsRightToLeftDocuments) {
     PageText page = makePage(1);
     page.lines.push_back(makeLine("one two three", 72, 72));

@@ -36,5 +36,25 @@ TEST(HyphenResolver, JoinsLineEnds) {
             << row.last << ' ' << row.next << ": " << row.why;
 }
 
+TEST(HyphenResolver, JoinsEastAsianAndOtherTextAsTheDocumentDoes) {
+    struct Row {
+        const char* last;
+        const char* next;
+        ScriptBoundary boundary;
+        LineJoin expected;
+    };
+    const char* const kHan = "\u65E5\u672C";
+    const Row rows[] = {
+        {"ISO", kHan, ScriptBoundary::Joined, LineJoin::Nothing},
+        {"ISO", kHan, ScriptBoundary::Blank, LineJoin::Blank},
+        {kHan, "2018", ScriptBoundary::Joined, LineJoin::Nothing},
+        {kHan, "2018", ScriptBoundary::Blank, LineJoin::Blank},
+        {"\u65E5\uFF0C", "ISO", ScriptBoundary::Blank, LineJoin::Nothing},
+        {"\uAC00", "ISO", ScriptBoundary::Joined, LineJoin::Blank},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(resolveLineEnd(row.last, row.next, {}, row.boundary), row.expected) << row.last << ' ' << row.next;
+}
+
 } // namespace
 } // namespace orvane::layout

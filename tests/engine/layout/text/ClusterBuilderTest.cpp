@@ -47,6 +47,27 @@ TEST(ClusterBuilder, DropsTheStrokesThatStretchArabic) {
     EXPECT_THAT(linesOf(page), ElementsAre("\u0628\u0647"));
 }
 
+TEST(ClusterBuilder, DropsThemAlsoWherePaintedFromTheRight) {
+    PageContentBuilder page;
+    page.glyph(86, 100, U"\u0628", 4, 14);
+    page.glyph(82, 100, U"", 4, 14);
+    page.glyph(78, 100, U"", 4, 14);
+    page.glyph(71, 100, U"\u0647", 7, 14);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u0628\u0647"));
+}
+
+TEST(ClusterBuilder, ReadsSignsThatAreCalledLetters) {
+    PageContentBuilder page;
+    const std::uint32_t signs = page.font([] {
+        pdf::Font font;
+        font.name = "OpenSymbol";
+        return font;
+    }());
+    page.text(72, 100, "l", 12, {.font = signs});
+    page.text(90, 100, "item", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u25CF\titem"));
+}
+
 TEST(ClusterBuilder, KeepsUnknownCharactersAsSuch) {
     PageContentBuilder page;
     const double x = page.text(72, 100, "a", 12);

@@ -80,6 +80,22 @@ TEST(LineBuilder, KeepsListLabelsWithTheirText) {
     EXPECT_EQ(textOf(text.lines[2]), "3.\tan item of the list");
 }
 
+TEST(LineBuilder, CutsNumbersInColumnsThatLookLikeLabels) {
+    PageContentBuilder page;
+    for (int i = 0; i < 4; ++i) {
+        page.text(72, 100 + i * 14, "1.5", 10);
+        page.text(100, 100 + i * 14, "2.5", 10);
+    }
+    EXPECT_EQ(read(page).lines.size(), 8u);
+}
+
+TEST(LineBuilder, TakesTwoBlanksBehindAFullStopForBlanks) {
+    PageContentBuilder page;
+    page.text(72, 100, "This is one sentence.  And this is another one.", 10, {.wordSpacing = 1});
+    page.text(72, 114, "The line below it.", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("This is one sentence. And this is another one.", "The line below it."));
+}
+
 TEST(LineBuilder, MakesLeadersTabs) {
     struct Row {
         const char* filler;

@@ -79,6 +79,28 @@ TEST(WordBuilder, PutsNoBlanksBetweenEastAsianCharacters) {
     EXPECT_THAT(linesOf(page), ElementsAre("\u65E5\u672C\u8A9E\u306E\u6587\u7AE0"));
 }
 
+TEST(WordBuilder, PartsALabelFromEastAsianTextBesideIt) {
+    struct Row {
+        const char* label;
+        double gap; ///< of the font size
+        const char* expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {"\u2022", 0.15, "\u2022 \u65E5\u672C", "a bullet"},
+        {"2.1.", 0.15, "2.1. \u65E5\u672C", "a number"},
+        {"2.1", 0.25, "2.1\u65E5\u672C", "as far apart as any digits are"},
+        {"2.1.", 0, "2.1.\u65E5\u672C", "typed without a gap"},
+        {"Web", 0.25, "Web\u65E5\u672C", "letters of another script stand a little apart, and are no label"},
+    };
+    for (const Row& row : rows) {
+        PageContentBuilder page;
+        const double end = page.text(72, 100, row.label, 12);
+        page.text(end + row.gap * 12, 100, "\u65E5\u672C", 12);
+        EXPECT_THAT(linesOf(page), ElementsAre(row.expected)) << row.why;
+    }
+}
+
 TEST(WordBuilder, DoesNotMeasureLettersByTheDotsOfALeader) {
     PageContentBuilder page;
     page.text(72, 100, "Alimony received", 8);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace orvane::layout {
+
+/// A text of at most `longest` characters that labels what follows: a bullet, or a short number or letter, in brackets
+/// or with a point.
+bool isLabelText(const std::u32string& text, std::size_t longest);
+
+} // namespace orvane::layout
