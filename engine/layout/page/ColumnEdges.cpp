@@ -17,6 +17,10 @@ struct End {
 
 /// The outermost position near which enough lines end.
 double outermostEdge(std::vector<End> ends, const LayoutParameters::Regions& parameters) {
+    if (ends.size() < parameters.minimumEdgeLines)
+        return std::max_element(ends.begin(), ends.end(),
+                                [](const End& a, const End& b) { return a.position < b.position; })
+            ->position;
     std::sort(ends.begin(), ends.end(), [](const End& a, const End& b) { return a.position > b.position; });
     const auto share = static_cast<std::size_t>(parameters.edgeShare * static_cast<double>(ends.size()));
     const std::size_t needed = std::clamp<std::size_t>(share, 1, parameters.edgeLines);

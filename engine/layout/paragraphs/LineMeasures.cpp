@@ -109,6 +109,8 @@ void readEnds(const Line& line, std::span<const pdf::Font> fonts, LineMeasure& m
     measure.endsWithHyphen = isBreakingHyphen(last.back()) && last.size() > 1;
     measure.endsWithoutBlanks = isWithoutBlanks(last.back());
     measure.startsWithoutBlanks = isWithoutBlanks(first[0]);
+    measure.endsInHan = measure.endsWithoutBlanks && u_isalpha(static_cast<UChar32>(last.back()));
+    measure.startsInHan = measure.startsWithoutBlanks && u_isalpha(static_cast<UChar32>(first[0]));
     measure.startsLowerCase = u_islower(static_cast<UChar32>(first[0]));
 }
 
@@ -150,6 +152,10 @@ std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan co
 bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double free, double slack) {
     const bool needsNoBlank = before.endsWithoutBlanks && next.startsWithoutBlanks;
     return (needsNoBlank ? 0 : before.blank) + next.firstUnit <= free - slack;
+}
+
+bool sentenceGoesOn(const LineMeasure& before, const LineMeasure& next) {
+    return next.startsLowerCase || (before.endsInHan && next.startsInHan);
 }
 
 } // namespace orvane::layout

@@ -22,6 +22,7 @@ struct ParagraphContext {
 struct LineMeasure {
     double startGap = 0; ///< from the column's start edge to the text
     double endGap = 0;   ///< from the text to the column's end edge
+    double endInset = 0; ///< of an edge of its own from the column's; endGap is measured from it
     double width = 0;
     double blank = 0;     ///< a natural blank behind its last word
     double firstUnit = 0; ///< width of its first word, up to the first place where it may be broken
@@ -39,6 +40,8 @@ struct LineMeasure {
     bool endsWithoutBlanks = false; ///< its last character needs no blank behind it
     bool startsWithoutBlanks = false;
     bool startsLowerCase = false;
+    bool endsInHan = false; ///< its last character is a letter of such a script, no punctuation
+    bool startsInHan = false;
 };
 
 /// Measures lines against their column.
@@ -47,5 +50,8 @@ std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan co
 
 /// True when the first word of `next` would have had room in `free` points behind the last word of `before`.
 bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double free, double slack);
+
+/// True when the sentence of `before` goes on in `next`: in lower case, or within East Asian text.
+bool sentenceGoesOn(const LineMeasure& before, const LineMeasure& next);
 
 } // namespace orvane::layout

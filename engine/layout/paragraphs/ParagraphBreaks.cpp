@@ -91,7 +91,11 @@ private:
         if (next - m_first >= 2) {
             const double usual =
                 (m_lines[next - 1].baseline - m_lines[m_first].baseline) / static_cast<double>(next - 1 - m_first);
-            return distance > m_parameters.leadingTolerance * usual;
+            if (distance <= m_parameters.leadingTolerance * usual)
+                return false;
+            // The first step alone may be a short one: lines that are set closer lower their first line less.
+            if (next - m_first > 2)
+                return true;
         }
         return !runsOnAtSameDistance(next, distance) && !m_leading.allows(size, distance);
     }
@@ -143,6 +147,10 @@ private:
             return false;
         if (step < 0)
             return -step > m_parameters.maximumFirstLine * m_lines[next].fontSize;
+        // Below a label's line the text hangs, be it where the text behind the label starts or at a tabulator.
+        if (first.marker && first.marker->hasPunctuation &&
+            step <= m_parameters.maximumFirstLine * m_lines[next].fontSize)
+            return false;
         if (first.marker && sameEdge(line.startGap, first.textStart, next))
             return false;
         // A step to the right hangs below the first line when more lines follow at that edge; else it is a new first
@@ -158,6 +166,8 @@ private:
         const LineMeasure& line = m_measures[next];
         if (before.endsWithHyphen && line.startsLowerCase)
             return false;
+        if (hangsInItem(next) && before.endGap < before.width && sentenceGoesOn(before, line))
+            return false;
         double free = before.endGap;
         switch (pairAlignment(next)) {
         case PairAlignment::Start:
@@ -170,6 +180,13 @@ private:
             break;
         }
         return wouldHaveFitted(before, line, free, m_parameters.fitSlack * m_lines[next].fontSize);
+    }
+
+    /// Below a label's text: text boxes end before their column does, but an item goes on until the next label.
+    bool hangsInItem(std::size_t next) const {
+        const LineMeasure& first = m_measures[m_first];
+        return first.marker && first.textStart > first.startGap &&
+               sameEdge(m_measures[next].startGap, first.textStart, next);
     }
 
     /// In justified text only a paragraph's last line ends before the edge.

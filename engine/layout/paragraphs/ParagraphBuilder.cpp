@@ -1,5 +1,6 @@
 #include "layout/paragraphs/ParagraphBuilder.h"
 
+#include "layout/paragraphs/LocalEdges.h"
 #include "layout/paragraphs/ParagraphBreaks.h"
 #include "layout/paragraphs/ParagraphShape.h"
 
@@ -7,7 +8,8 @@ namespace orvane::layout {
 
 std::vector<ParagraphDraft> buildParagraphs(std::span<const Line> lines, ColumnSpan column,
                                             const ParagraphContext& context, const LayoutParameters& parameters) {
-    const std::vector<LineMeasure> measures = measureLines(lines, column, context, parameters);
+    std::vector<LineMeasure> measures = measureLines(lines, column, context, parameters);
+    applyLocalEdges(lines, measures, context, parameters.paragraphs);
     const std::vector<BreakReason> breaks = findBreaks(lines, measures, context, parameters);
     std::vector<ParagraphDraft> paragraphs;
     for (std::size_t from = 0; from < lines.size();) {

@@ -74,8 +74,9 @@ void setIndents(ParagraphDraft& paragraph, std::span<const LineMeasure> measures
             paragraph.indentStart = std::min(paragraph.indentStart, line.startGap);
     }
     paragraph.firstLine = first.startGap - paragraph.indentStart;
+    paragraph.indentEnd = first.endInset;
     if (paragraph.alignment == Alignment::Justified)
-        paragraph.indentEnd = std::max(0.0, first.endGap);
+        paragraph.indentEnd += std::max(0.0, first.endGap);
 }
 
 double leadingOf(std::span<const Line> lines, const ParagraphContext& context) {

@@ -79,6 +79,51 @@ TEST(ParagraphBuilder, KeepsDoubleSpacedLinesTogether) {
     EXPECT_NEAR(paragraphs[0].leading, 24, 0.01);
 }
 
+TEST(ParagraphBuilder, FindsTheEdgeOfTextThatEndsBeforeItsColumn) {
+    struct Row {
+        std::vector<std::string> art; ///< in a column of 45 characters
+        std::vector<std::string> expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {{"The quick brown fox jumps over", "the lazy dog and runs away in", "to the woods."},
+         {"The quick brown fox jumps over the lazy dog and runs away in to the woods."},
+         "sentences go on in lower case though the column has room"},
+        {{"The  quick  brown  jumps  over", "The  lazy  dog  and  ran  away", "To the woods."},
+         {"The quick brown jumps over The lazy dog and ran away To the woods."},
+         "blanks are spread to one edge"},
+        {{"Miller & Sons, Wholesale Dept.", "12 Long Street, Second Floor", "Springfield"},
+         {"Miller & Sons, Wholesale Dept.", "12 Long Street, Second Floor", "Springfield"},
+         "lines that end near each other by chance"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(textsOf(build(row.art, 45)), row.expected) << row.why;
+}
+
+TEST(ParagraphBuilder, GoesOnInAListItemUntilItsSentenceEnds) {
+    const auto paragraphs = build({"\u2022 A text box ends before its", "  column does, so that items",
+                                   "  look short here.", "\u2022 Another one"},
+                                  60);
+    EXPECT_EQ(textsOf(paragraphs),
+              (std::vector<std::string>{"\u2022 A text box ends before its column does, so that items look short here.",
+                                        "\u2022 Another one"}));
+}
+
+TEST(ParagraphBuilder, HangsBelowALabelWhereverItsTabulatorIs) {
+    const auto paragraphs = build({"1. The first item is long and", "     goes on farther in"}, 31);
+    EXPECT_EQ(paragraphs.size(), 1U);
+}
+
+TEST(ParagraphBuilder, AllowsAShorterStepBelowTheFirstLine) {
+    std::vector<Line> lines = {makeLine("The quick brown fox jumps over", 0, 100),
+                               makeLine("the lazy dog and runs away in", 0, 110),
+                               makeLine("the woods and then comes back", 0, 123),
+                               makeLine("to the village with the others", 0, 136), makeLine("again.", 0, 149)};
+    EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 1U);
+    lines[4] = makeLine("Space above starts another one", 0, 158);
+    EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 2U);
+}
+
 TEST(ParagraphBuilder, ReadsAlignment) {
     struct Row {
         std::vector<std::string> art; ///< in a column of 30 characters
@@ -157,7 +202,7 @@ TEST(ParagraphBuilder, MirrorsRightToLeftText) {
 }
 
 TEST(ParagraphBuilder, MeasuresLinesBesideAFigureAgainstTheRoomLeft) {
-    const std::vector<Line> lines = linesFromArt({"The quick brown fox", "jumps over the lazy", "dogs of the village"});
+    const std::vector<Line> lines = linesFromArt({"The Quick Brown Fox", "Jumps Over The Lazy", "Dogs Of The Village"});
     const Rect figure{100, 80, 150, 140};
     EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 3U);
     ParagraphContext besideFigure = kContext;
