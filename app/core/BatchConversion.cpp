@@ -1,8 +1,8 @@
 #include "core/BatchConversion.h"
 
 #include "core/Banner.h"
-#include "core/BatchOutput.h"
 #include "core/BoundedList.h"
+#include "core/OutputDerivation.h"
 #include "core/Paths.h"
 #include "core/ProgressRun.h"
 #include "core/SizeText.h"
@@ -50,7 +50,7 @@ void loadFile(ProgressRun& run, const ErrorTrap& trap) {
     job.strSourcePDF = source;
     trap([&] { run.mainWindow.setText(Text::txtFileSize, sizeText(run.files.size(source))); });
     job.strFileSizeText = textOf(run, trap, Text::txtFileSize);
-    job.strOutputFile = batchOutput(run.records.settings, source, job.strOutputFile);
+    job.strOutputFile = outputOf(source, run.records.settings, job.strOutputFile);
     setText(run, trap, Text::txtfilepathOutput, job.strOutputFile);
     setText(run, trap, Text::lblOutputFormatDoc, job.strOutputFile.right(kShownExtensionLength));
     announceBatch(run.mainWindow, trap);

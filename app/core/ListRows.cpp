@@ -1,7 +1,7 @@
 #include "core/ListRows.h"
 
-#include "core/BatchOutput.h"
 #include "core/BoundedList.h"
+#include "core/OutputDerivation.h"
 #include "core/Paths.h"
 #include "core/ProgressRun.h"
 #include "platform/DateText.h"
@@ -20,7 +20,7 @@ QString sourceAt(const BatchQueue& queue, int cursor) {
 QString destinationOf(const SharedRecords& records, const QString& source) {
     if (records.flags.intRunKind == run_kind::kExtractImages)
         return records.job.strImageFolder;
-    return batchOutput(records.settings, source, records.job.strOutputFile);
+    return outputOf(source, records.settings, records.job.strOutputFile);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "core/LockedFile.h"
 
-#include "core/BatchOutput.h"
 #include "core/BoundedList.h"
+#include "core/OutputDerivation.h"
 #include "core/Paths.h"
 #include "core/RunViews.h"
 #include "services/SkippingErrors.h"

@@ -2,9 +2,14 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <stdexcept>
 
-namespace run {
+namespace {
+
+constexpr qsizetype kExtensionLength = 4; ///< of ".pdf"
+
+} // namespace
 
 QString nameOf(const QString& path) {
     return path.mid(path.lastIndexOf(QDir::separator()) + 1);
@@ -26,4 +31,15 @@ QString fileIn(const QString& folder, const QString& name) {
     return folder + QDir::separator() + name;
 }
 
-} // namespace run
+QString extensionIn(const QString& path) {
+    const auto point = path.lastIndexOf('.');
+    return point < 0 ? path : path.mid(point);
+}
+
+QString withoutExtension(const QString& path) {
+    return path.chopped(std::min(kExtensionLength, path.size()));
+}
+
+QString fileBelow(const QString& folder, const QString& name) {
+    return folder.endsWith(QDir::separator()) ? folder + name : fileIn(folder, name);
+}

@@ -1,5 +1,7 @@
 #include "ui/application/Application.h"
 
+#include "core/CommandLine.h"
+#include "core/OutputDerivation.h"
 #include "platform/Environment.h"
 #include "services/SystemProbes.h"
 #include "services/WordProcessorSearch.h"
@@ -19,7 +21,6 @@
 namespace {
 
 constexpr int kSettingsUnreadable = 1;
-constexpr std::int16_t kFormatDocx = 2;
 
 } // namespace
 
@@ -99,24 +100,74 @@ void Application::runLater(std::chrono::milliseconds delay, std::function<void()
 }
 
 QString Application::programCommandLine() const {
-    return QCoreApplication::arguments().mid(1).join(' ');
+    return commandLineOf(QCoreApplication::arguments().mid(1));
 }
 
 void Application::showMainWindow() {
-    // The engine writes DOCX only so far, so that is what this window makes, whatever is stored; it saves no settings.
-    m_records.settings.intOutputFormat = kFormatDocx;
+    // The engine writes no DOC so far and there is no wizard yet, so this window starts with DOCX and without one,
+    // whatever is stored; it saves no settings.
+    if (m_records.settings.intOutputFormat == output_format::kDoc)
+        m_records.settings.intOutputFormat = output_format::kDocx;
+    m_records.settings.intUseWiz = 0;
     mainWindow()->showForm();
 }
 
 std::shared_ptr<frmMain> Application::mainWindow() {
-    return m_forms.obtain<frmMain>(
-        MainPorts{m_records, m_languages, m_messageBox, m_messageWindows, m_eventLoop, [this] { startRun(); }});
+    return m_forms.obtain<frmMain>(MainPorts{m_records, m_languages, m_messageBox, m_messageWindows, m_messageWindows,
+                                             m_eventLoop, m_fileDialogs, m_files, m_links, *this,
+                                             [] { return ::IsMSWordInstalled(); }, [] { return ::CheckMSWord(); }});
 }
 
-void Application::startRun() {
+std::shared_ptr<frmProgress> Application::progressWindow() {
     const RunPorts ports{m_records,   m_mainWindowView, m_messageBox, m_messageWindows, m_passwordWindow, m_statusTexts,
                          m_eventLoop, m_clock,          m_files,      m_engines,        m_followUp,       m_forms};
-    m_forms.obtain<frmProgress>(ports, m_languages)->load();
+    return m_forms.obtain<frmProgress>(ports, m_languages);
+}
+
+void Application::showProgress() {
+    progressWindow()->load();
+}
+
+void Application::showProgressAndWait() {
+    const auto progress = progressWindow();
+    progress->load();
+    progress->showModal();
+    progress->unload();
+}
+
+void Application::sayNotYet() {
+    m_messageBox.tell(UserMessages::Icon::Information, "This version has no wizards and no options window yet.",
+                      kWindowTitle);
+    // The main window has given way to the window that is not there.
+    runLater(std::chrono::milliseconds(0), [this] { m_mainWindowView.show(); });
+}
+
+void Application::showLayout() {
+    sayNotYet();
+}
+
+void Application::showOutputOptions() {
+    sayNotYet();
+}
+
+void Application::showOptions() {
+    sayNotYet();
+}
+
+void Application::chooseImagePages(ImagePages) {
+    // The page that would take them is not there yet.
+}
+
+QString Application::sameSourceImagesCaption() {
+    return GetCaption(m_languages, "optSameSourceImages");
+}
+
+void Application::setImagePages(const QString&, std::int16_t) {
+    // As above.
+}
+
+void Application::showImageFormatOutput() {
+    sayNotYet();
 }
 
 void Application::unloadProgress() {

@@ -13,14 +13,18 @@
 #include "ui/application/LanguageStatusTexts.h"
 #include "ui/application/MainWindowView.h"
 #include "ui/dialogs/MessageWindows.h"
+#include "ui/dialogs/SystemFileDialogs.h"
 #include "ui/dialogs/SystemMessageBox.h"
 #include "ui/form/FormRegistry.h"
+#include "ui/links/DesktopOpener.h"
+#include "ui/main/NextWindows.h"
 #include "ui/password/PasswordWindow.h"
 
 class frmMain;
+class frmProgress;
 
 /// The program put together: the shared records, the windows, and what stands behind the interfaces of the run.
-class Application : public OtherCopies, public StartUpSteps {
+class Application : public OtherCopies, public StartUpSteps, public NextWindows {
 public:
     Application();
     ~Application() override;
@@ -39,12 +43,24 @@ public:
     QString programCommandLine() const override;
     void showMainWindow() override;
 
+    // The windows that the main window hands over to
+    void showLayout() override;
+    void showOutputOptions() override;
+    void showOptions() override;
+    void showProgress() override;
+    void showProgressAndWait() override;
+    void chooseImagePages(ImagePages pages) override;
+    QString sameSourceImagesCaption() override;
+    void setImagePages(const QString& strExtractPages, std::int16_t intExtractFromTo) override;
+    void showImageFormatOutput() override;
+
 private:
     void reportUnreadableSettings(const QString& reason);
     void listenForOtherCopies();
-    void startRun();
     void unloadProgress();
+    void sayNotYet();
     std::shared_ptr<frmMain> mainWindow();
+    std::shared_ptr<frmProgress> progressWindow();
     LanguagePorts languagePorts();
     const QWidget* anchorOf(YesNoDialog::Place place) const;
 
@@ -52,7 +68,10 @@ private:
     platform::RunningCopy m_runningCopy{kWindowTitle};
     FormRegistry m_forms;
     SystemMessageBox m_messageBox;
+    SystemFileDialogs m_fileDialogs;
+    DesktopOpener m_opener;
     LanguageTable m_languages;
+    LinkActions m_links{m_opener, m_languages.applicationFolder};
     MessageWindows m_messageWindows;
     MainWindowView m_mainWindowView{m_forms, [this] { return mainWindow(); }};
     PasswordWindow m_passwordWindow{m_forms, {m_records, m_languages, m_mainWindowView, [this] { unloadProgress(); }}};

@@ -7,6 +7,15 @@ LinkLabel::LinkLabel(QWidget* parent)
     : QLabel(parent) {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    setBuddy(this); // a label listens to the access key in its text only for a buddy
+}
+
+bool LinkLabel::event(QEvent* event) {
+    if (event->type() != QEvent::Shortcut)
+        return QLabel::event(event);
+    buddy()->setFocus(Qt::ShortcutFocusReason);
+    emit clicked();
+    return true;
 }
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {

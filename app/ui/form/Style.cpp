@@ -14,10 +14,13 @@ constexpr int kLightDesktop = 128; ///< lightness, 0 to 255, from which a deskto
 // Frames carry their part in the window as the property "role": band, column, page, card or foot.
 constexpr char kStyleSheet[] = R"(
 QFrame[role="band"], QFrame[role="column"] { background: #0078D4; border: none; }
-QFrame[role="column"] QLabel { color: #000000; }
 QFrame[role="band"] QLabel[role="title"] { font-size: 14pt; font-weight: 600; }
 QFrame[role="column"] QLabel[role="link"] { min-height: 30px; border: 2px solid transparent; padding: 0 8px; }
-QFrame[role="column"] QLabel[role="link"]:hover { color: #FFFFFF; }
+QFrame[role="tile"] { background: transparent; border: 1px solid rgba(255, 255, 255, 140); border-radius: 6px; }
+QFrame[role="tile"] QLabel[role="link"] { min-height: 44px; padding: 0 4px; font-size: 11pt; font-weight: 600; }
+QFrame[role="line"] { border: none; background: palette(midlight); }
+QFrame[role="line"][frameShape="4"] { max-height: 1px; }
+QFrame[role="line"][frameShape="5"] { max-width: 1px; }
 QFrame[role="column"] QLabel[role="link"]:focus { border-color: #FFFFFF; }
 QFrame[role="page"] { background: palette(window); border: none; }
 QFrame[role="card"] { background: palette(base); border: 1px solid palette(midlight); border-radius: 6px; }

@@ -242,7 +242,7 @@ struct SizeRow {
 class SizeText : public testing::TestWithParam<SizeRow> {};
 
 TEST_P(SizeText, IsInKilobytesInTheShortestForm) {
-    EXPECT_EQ(run::sizeText(GetParam().bytes), GetParam().text);
+    EXPECT_EQ(sizeText(GetParam().bytes), GetParam().text);
 }
 
 // 5.12 bytes are half a hundredth of a kilobyte, so that halves come only with 128 bytes and more: 128/1024 is 0.125.

@@ -1,21 +1,17 @@
 #include "PageGallery.h"
-#include "app/support/RunFixture.h"
-#include "app/support/ShippedLanguages.h"
+#include "app/support/MainFixture.h"
 #include "ui/application/LanguageStatusTexts.h"
 #include "ui/dialogs/MessageSelection.h"
 #include "ui/dialogs/frmErrorOkOnly.h"
 #include "ui/dialogs/frmErrorYesNoOnly.h"
 #include "ui/dialogs/frmmsgbox.h"
-#include "ui/form/FormRegistry.h"
 #include "ui/form/Style.h"
-#include "ui/main/frmMain.h"
 #include "ui/password/frmPassword.h"
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
 #include <QPushButton>
 #include <QTabBar>
-#include <QTest>
 
 #include <cstdio>
 
@@ -24,7 +20,7 @@ namespace {
 using namespace tavrelion::tests;
 
 /// The real windows over a faked run, each shown as a user meets it and saved as a picture.
-class Gallery : public RunFixture {
+class Gallery : public MainFixture {
 public:
     Gallery(std::int16_t language, QString target)
         : m_folder(std::move(target))
@@ -32,8 +28,10 @@ public:
         records.settings.intLanguageID = language;
         records.job.strOutputFile = "/home/ada/Documents/Annual report.docx";
         records.job.strSourcePDF = "/home/ada/Documents/Annual report.pdf";
+        records.job.strFileSizeText = "214.6  KB";
+        records.settings.strRecentOutputFolder = "/home/ada/Documents";
     }
-    ~Gallery() override { m_registry.dispose(); }
+    ~Gallery() override { registry.dispose(); }
 
     void draw() {
         drawMain();
@@ -56,20 +54,19 @@ private:
             std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
     }
     void drawMain() {
-        const auto form =
-            m_registry.obtain<frmMain>(MainPorts{records, m_languages, messageBox, yesNoDialog, eventLoop, [] {}});
+        const auto form = registry.obtain<frmMain>(mainPorts());
         form->showForm();
         save(*form);
         form->hide();
     }
     void drawProgress() {
-        const LanguageStatusTexts texts(m_languages);
+        const LanguageStatusTexts texts(languages);
         const RunPorts ports{records,   mainWindow, messageBox, yesNoDialog, passwordPrompt, texts,
-                             eventLoop, clock,      files,      engines,     followUp,       m_registry};
+                             eventLoop, clock,      files,      engines,     followUp,       registry};
         files.files.erase(records.job.strOutputFile);
         files.files.insert(records.job.strSourcePDF);
         script.statuses = {{5, 3, 12, 0}};
-        const auto form = m_registry.obtain<frmProgress>(ports, m_languages);
+        const auto form = registry.obtain<frmProgress>(ports, languages);
         form->load();
         QTest::qWait(600); // the window's own timer asks the engine once
         save(*form);
@@ -85,7 +82,7 @@ private:
         form->Form::unload();
     }
     void drawPassword() {
-        const auto form = m_registry.obtain<frmPassword>(PasswordPorts{records, m_languages, mainWindow, [] {}});
+        const auto form = registry.obtain<frmPassword>(PasswordPorts{records, languages, mainWindow, [] {}});
         form->load();
         form->showWanted(PasswordPrompt::Password::User);
         form->showForm();
@@ -94,7 +91,7 @@ private:
     }
     template<typename Window>
     void drawMessage(const QString& text) {
-        const auto form = m_registry.obtain<Window>(MessagePorts{records, m_languages});
+        const auto form = registry.obtain<Window>(MessagePorts{records, languages});
         form->load();
         showOnlyText(*form, text);
         form->showForm();
@@ -104,8 +101,6 @@ private:
 
     QString m_folder;
     QString m_language;
-    LanguageTable m_languages{shippedLanguages(records)};
-    FormRegistry m_registry;
 };
 
 /// A dark desktop, as the style meets it.
@@ -117,19 +112,24 @@ void darken(QApplication& application) {
 
 } // namespace
 
-/// tavrelion_screenshots FOLDER [dark]: draws every window in English and German.
+/// tavrelion_screenshots FOLDER [dark] [all]: draws every window in English and German, or in all languages.
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    const bool isDark = argc == 3 && QString(argv[2]) == "dark";
-    if (argc != 2 && !isDark) {
-        std::fputs("usage: tavrelion_screenshots FOLDER [dark]\n", stderr);
+    const QStringList options = QApplication::arguments().mid(2);
+    const bool isDark = options.contains("dark");
+    const bool inAllLanguages = options.contains("all");
+    if (argc < 2) {
+        std::fputs("usage: tavrelion_screenshots FOLDER [dark] [all]\n", stderr);
         return 2;
     }
     QApplication::setQuitOnLastWindowClosed(false);
     if (isDark)
         darken(application);
     applyStyle(application);
-    for (const std::int16_t language : {std::int16_t{0}, std::int16_t{3}}) {
+    constexpr std::int16_t kGerman = 3;
+    for (std::int16_t language = 0; language < kLanguageCount; ++language) {
+        if (!inAllLanguages && language != 0 && language != kGerman)
+            continue;
         Gallery(language, argv[1]).draw();
         drawPages(argv[1], language);
     }

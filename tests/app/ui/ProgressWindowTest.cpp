@@ -3,8 +3,6 @@
 #include "app/support/Standstill.h"
 #include "core/QtEventLoop.h"
 #include "ui/form/FormRegistry.h"
-#include "ui/form/LinkLabel.h"
-#include "ui/main/frmMain.h"
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
@@ -248,101 +246,6 @@ TEST_F(SlowEngine, NeverHoldsTheWindowsUp) {
     });
     EXPECT_GE(script.statusCalls, 2);
     EXPECT_LT(standstill, 100);
-}
-
-/// The real main window.
-class MainWindow : public RunFixture {
-protected:
-    MainWindow() {
-        records.job = ConversionJob();
-        m_window = registry.obtain<frmMain>(
-            MainPorts{records, languages, messageBox, yesNoDialog, eventLoop, [this] { ++runsStarted; }});
-    }
-    ~MainWindow() override {
-        m_window.reset();
-        registry.dispose();
-    }
-    frmMain& window() const { return *m_window; }
-    LinkLabel& exitLabel() const { return *m_window->findChild<LinkLabel*>("lblExit"); }
-
-    FormRegistry registry;
-    LanguageTable languages{shippedLanguages(records)};
-    int runsStarted = 0;
-
-private:
-    std::shared_ptr<frmMain> m_window;
-};
-
-TEST_F(MainWindow, StartsTheRunOfAFileFromTheCommandLineOnce) {
-    records.flags.strCommandLine = "/in/report.pdf";
-    window().showForm();
-    EXPECT_EQ(runsStarted, 1);
-    EXPECT_EQ(window().findChild<QLineEdit*>("txtFileBrowsePath")->text(), "/in/report.pdf");
-    EXPECT_EQ(window().findChild<QLineEdit*>("txtfilepathOutput")->text(), "/in/report.docx");
-    window().hide();
-    window().showForm();
-    EXPECT_EQ(runsStarted, 1);
-}
-
-TEST_F(MainWindow, RefusesOtherFilesAndEndsTheProgram) {
-    records.flags.strCommandLine = "/in/picture.png";
-    window().showForm();
-    EXPECT_EQ(runsStarted, 0);
-    ASSERT_EQ(messageBox.messages.size(), 1u);
-    EXPECT_EQ(messageBox.messages[0].text, "Sorry! Tavrelion does not support the requested file format.");
-    EXPECT_TRUE(registry.hasProgramEnded());
-}
-
-TEST_F(MainWindow, SaysWhereTheDocumentLies) {
-    window().showForm();
-    window().showFinishedDocument("/out/report.docx");
-    EXPECT_EQ(window().findChild<QLabel*>("lblFinishedDocument")->text(), "The document lies in /out/report.docx");
-}
-
-TEST_F(MainWindow, ClosingAsksAndNoKeepsIt) {
-    window().showForm();
-    records.flags.blnCloseRequested = true;
-    window().close();
-    EXPECT_EQ(messageBox.questions, QStringList{"Do you want to close Tavrelion-PDF to Word Converter?"});
-    EXPECT_TRUE(window().isVisible());
-    EXPECT_FALSE(records.flags.blnCloseRequested);
-    EXPECT_FALSE(registry.hasProgramEnded());
-}
-
-TEST_F(MainWindow, ClosingAnsweredYesEndsTheProgram) {
-    window().showForm();
-    messageBox.answer = UserMessages::Answer::Yes;
-    window().close();
-    EXPECT_TRUE(records.flags.blnCloseRequested);
-    EXPECT_TRUE(registry.hasProgramEnded());
-    EXPECT_FALSE(window().isVisible());
-}
-
-TEST_F(MainWindow, ASystemShutdownClosesItWithoutAQuestion) {
-    window().showForm();
-    registry.noteSystemShutdown();
-    window().close();
-    EXPECT_TRUE(messageBox.questions.isEmpty());
-    EXPECT_TRUE(registry.hasProgramEnded());
-}
-
-TEST_F(MainWindow, ExitAsksItsOwnQuestion) {
-    window().showForm();
-    QTest::mouseClick(&exitLabel(), Qt::LeftButton);
-    EXPECT_EQ(yesNoDialog.asked, QStringList{"msgWishToExit"});
-    EXPECT_EQ(yesNoDialog.places.front(), YesNoDialog::Place::CentreOfMain);
-    EXPECT_FALSE(registry.hasProgramEnded());
-    yesNoDialog.answer = 1;
-    QTest::keyClick(&exitLabel(), Qt::Key_Space);
-    EXPECT_TRUE(registry.hasProgramEnded());
-    EXPECT_TRUE(messageBox.questions.isEmpty());
-}
-
-TEST_F(MainWindow, AClickLetGoOutsideALabelIsTakenBack) {
-    window().showForm();
-    QTest::mousePress(&exitLabel(), Qt::LeftButton);
-    QTest::mouseRelease(&exitLabel(), Qt::LeftButton, {}, QPoint(-50, -50));
-    EXPECT_TRUE(yesNoDialog.asked.isEmpty());
 }
 
 } // namespace
