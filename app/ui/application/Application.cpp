@@ -104,17 +104,15 @@ QString Application::programCommandLine() const {
 }
 
 void Application::showMainWindow() {
-    // The engine writes no DOC so far and there is no wizard yet, so this window starts with DOCX and without one,
-    // whatever is stored; it saves no settings.
+    // The engine writes no DOC so far, so this window starts with DOCX in its place.
     if (m_records.settings.intOutputFormat == output_format::kDoc)
         m_records.settings.intOutputFormat = output_format::kDocx;
-    m_records.settings.intUseWiz = 0;
     mainWindow()->showForm();
 }
 
 std::shared_ptr<frmMain> Application::mainWindow() {
     return m_forms.obtain<frmMain>(MainPorts{m_records, m_languages, m_messageBox, m_messageWindows, m_messageWindows,
-                                             m_eventLoop, m_fileDialogs, m_files, m_links, *this,
+                                             m_eventLoop, m_fileDialogs, m_files, m_links, m_handOver,
                                              [] { return ::IsMSWordInstalled(); }, [] { return ::CheckMSWord(); }});
 }
 
@@ -124,50 +122,20 @@ std::shared_ptr<frmProgress> Application::progressWindow() {
     return m_forms.obtain<frmProgress>(ports, m_languages);
 }
 
-void Application::showProgress() {
-    progressWindow()->load();
-}
-
-void Application::showProgressAndWait() {
-    const auto progress = progressWindow();
-    progress->load();
-    progress->showModal();
-    progress->unload();
-}
-
-void Application::sayNotYet() {
-    m_messageBox.tell(UserMessages::Icon::Information, "This version has no wizards and no options window yet.",
-                      kWindowTitle);
-    // The main window has given way to the window that is not there.
-    runLater(std::chrono::milliseconds(0), [this] { m_mainWindowView.show(); });
-}
-
-void Application::showLayout() {
-    sayNotYet();
-}
-
-void Application::showOutputOptions() {
-    sayNotYet();
-}
-
-void Application::showOptions() {
-    sayNotYet();
-}
-
-void Application::chooseImagePages(ImagePages) {
-    // The page that would take them is not there yet.
-}
-
-QString Application::sameSourceImagesCaption() {
-    return GetCaption(m_languages, "optSameSourceImages");
-}
-
-void Application::setImagePages(const QString&, std::int16_t) {
-    // As above.
-}
-
-void Application::showImageFormatOutput() {
-    sayNotYet();
+HandOver::Ports Application::handOverPorts() {
+    return {{m_records,
+             m_languages,
+             m_messageBox,
+             m_messageWindows,
+             m_eventLoop,
+             m_fileDialogs,
+             m_folderDialog,
+             m_links,
+             m_mainWindowView,
+             {}},
+            {m_records, m_languages, m_messageBox, m_eventLoop, m_folderDialog, m_links, m_mainWindowView,
+             [] { return ::IsMSWordInstalled(); }, [] { return ::CheckMSWord(); }},
+            [this] { return progressWindow(); }};
 }
 
 void Application::unloadProgress() {

@@ -10,6 +10,7 @@
 #include "core/StartUp.h"
 #include "core/SystemClock.h"
 #include "platform/RunningCopy.h"
+#include "ui/application/HandOver.h"
 #include "ui/application/LanguageStatusTexts.h"
 #include "ui/application/MainWindowView.h"
 #include "ui/dialogs/MessageWindows.h"
@@ -17,14 +18,13 @@
 #include "ui/dialogs/SystemMessageBox.h"
 #include "ui/form/FormRegistry.h"
 #include "ui/links/DesktopOpener.h"
-#include "ui/main/NextWindows.h"
 #include "ui/password/PasswordWindow.h"
 
 class frmMain;
 class frmProgress;
 
 /// The program put together: the shared records, the windows, and what stands behind the interfaces of the run.
-class Application : public OtherCopies, public StartUpSteps, public NextWindows {
+class Application : public OtherCopies, public StartUpSteps {
 public:
     Application();
     ~Application() override;
@@ -43,22 +43,11 @@ public:
     QString programCommandLine() const override;
     void showMainWindow() override;
 
-    // The windows that the main window hands over to
-    void showLayout() override;
-    void showOutputOptions() override;
-    void showOptions() override;
-    void showProgress() override;
-    void showProgressAndWait() override;
-    void chooseImagePages(ImagePages pages) override;
-    QString sameSourceImagesCaption() override;
-    void setImagePages(const QString& strExtractPages, std::int16_t intExtractFromTo) override;
-    void showImageFormatOutput() override;
-
 private:
     void reportUnreadableSettings(const QString& reason);
     void listenForOtherCopies();
     void unloadProgress();
-    void sayNotYet();
+    HandOver::Ports handOverPorts();
     std::shared_ptr<frmMain> mainWindow();
     std::shared_ptr<frmProgress> progressWindow();
     LanguagePorts languagePorts();
@@ -69,6 +58,7 @@ private:
     FormRegistry m_forms;
     SystemMessageBox m_messageBox;
     SystemFileDialogs m_fileDialogs;
+    SystemFolderDialog m_folderDialog;
     DesktopOpener m_opener;
     LanguageTable m_languages;
     LinkActions m_links{m_opener, m_languages.applicationFolder};
@@ -82,4 +72,5 @@ private:
     LibraryEngineFactory m_engines;
     SystemDocumentShell m_documentShell;
     BatchFollowUp m_followUp{m_documentShell};
+    HandOver m_handOver{m_forms, handOverPorts()};
 };

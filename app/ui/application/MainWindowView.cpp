@@ -3,6 +3,7 @@
 #include "ui/form/FormRegistry.h"
 #include "ui/main/frmMain.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -110,4 +111,25 @@ void MainWindowView::showBanner(Banner banner) {
 
 void MainWindowView::showFinishedDocument(const QString& path) {
     m_obtain()->showFinishedDocument(path);
+}
+
+QString MainWindowView::txtfilepathOutput() const {
+    return text(Text::txtfilepathOutput);
+}
+
+void MainWindowView::setTxtfilepathOutput(const QString& path) {
+    setText(Text::txtfilepathOutput, path);
+}
+
+bool MainWindowView::chkAllPages() const {
+    return isChosen("chkAllPages");
+}
+
+bool MainWindowView::chkFromTo() const {
+    return isChosen("chkFromTo");
+}
+
+bool MainWindowView::isChosen(const char* option) const {
+    const auto* button = qobject_cast<const QAbstractButton*>(control(option));
+    return button && button->isChecked();
 }

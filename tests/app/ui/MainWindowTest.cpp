@@ -164,7 +164,7 @@ TEST_F(MainWindow, IsReachedWholeByTheTabKey) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(reached.join(' ').toStdString(),
-              "cmdBrowse chkAllPages txtFrom txtfilepathOutput cmdBrowseOutput chkOpenDocEditing lblConvert imgDropDown "
+              "cmdBrowse chkFromTo txtFrom txtfilepathOutput cmdBrowseOutput chkOpenDocEditing lblConvert imgDropDown "
               "lblExtimgWiz lblSettings lblExit lblHelp lblOnline lblOtherProducts lblQuickTour lblWebsite");
 }
 
