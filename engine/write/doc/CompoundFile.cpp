@@ -252,6 +252,11 @@ void CompoundStream::addFile(std::filesystem::path file) {
     m_pieces.push_back({{}, std::move(file), size});
 }
 
+void CompoundStream::append(const CompoundStream& other) {
+    m_pieces.insert(m_pieces.end(), other.m_pieces.begin(), other.m_pieces.end());
+    m_size += other.m_size;
+}
+
 void writeCompoundFile(const std::filesystem::path& target, const std::vector<CompoundStream>& streams) {
     const Plan plan = makePlan(streams);
     Target file(target);

@@ -17,6 +17,9 @@ public:
     /// Errors: Failure(Internal) when the file cannot be read.
     void addFile(std::filesystem::path file);
 
+    /// Adds all that the other stream holds.
+    void append(const CompoundStream& other);
+
     const std::u16string& name() const { return m_name; }
     std::uint64_t size() const { return m_size; }
 

@@ -171,6 +171,11 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.add(TablePart::Styles, styles);
     addFormatting(state, text, main, table);
     table.add(TablePart::Sections, writeSections(main, sections));
+    CompoundStream tail(u"");
+    const FloatingParts floating =
+        makeFloatingParts(state.floatingObjects, state.pictureStore, state.body.length(), main.position(), tail);
+    table.add(TablePart::BodyAnchors, floating.anchors);
+    table.add(TablePart::Shapes, floating.shapes);
     addNotes(table, state);
     table.add(TablePart::RunningTexts, running.table);
     addFields(table, state, running);
@@ -185,8 +190,10 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     const TextLengths lengths{state.body.length(), state.footnotes.text.length(), running.text.length(),
                               state.endnotes.text.length()};
     std::vector<CompoundStream> streams;
+    const auto mainSize = main.position() + static_cast<std::uint32_t>(tail.size());
     streams.push_back(
-        streamOf(u"WordDocument", fileInformation(lengths, table, main.textEnd(), main.position()) + main.bytes()));
+        streamOf(u"WordDocument", fileInformation(lengths, table, main.textEnd(), mainSize) + main.bytes()));
+    streams.back().append(tail);
     streams.push_back(streamOf(u"1Table", table.bytes()));
     streams.push_back(streamOf(u"\u0005SummaryInformation", summaryInformation(state.document.metadata)));
     if (state.data.size() > 0)

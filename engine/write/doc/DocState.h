@@ -7,6 +7,7 @@
 #include "write/doc/CompoundFile.h"
 #include "write/doc/DocFonts.h"
 #include "write/doc/DocStyles.h"
+#include "write/doc/FloatingObjects.h"
 #include "write/doc/PictureDoc.h"
 #include "write/doc/StoryText.h"
 
@@ -46,6 +47,7 @@ struct DocState {
     DocState(const document::Document& source, const PictureStore& store, Diagnostics& notices)
         : document(source)
         , diagnostics(notices)
+        , pictureStore(store)
         , styles(source)
         , styleNumbers(source, styles)
         , pictures(store, data)
@@ -53,6 +55,7 @@ struct DocState {
 
     const document::Document& document;
     Diagnostics& diagnostics;
+    const PictureStore& pictureStore;
     StyleIndex styles;
     DocStyles styleNumbers;
     DocFonts fonts;
@@ -61,6 +64,7 @@ struct DocState {
     StoryText body;
     NoteTexts footnotes;
     NoteTexts endnotes;
+    std::vector<FloatingObject> floatingObjects;
     std::set<std::string> bookmarkNames;
     std::vector<NamedPlace> bookmarks;
     std::vector<bool> isNoteWritten; ///< by index into Document::notes

@@ -17,9 +17,11 @@
 ///   [x] sections: page, margins, columns of any widths, page numbers, headers and footers for first and even pages
 ///   [-] pages of more than 22 inches are cut to that
 ///   [x] pictures in the line: cut, turned, mirrored, alternate text; as they are, not compressed again
-///   [-] floating pictures stand in the text, as paragraphs of their own; those behind the text are left out
+///   [x] floating pictures and drawings over the body: lines, boxes, paths with curves, groups, opacity
+///   [-] floating pictures in headers, footers and notes are paragraphs there; those behind the text and drawings are
+///   left out
 ///   [-] text boxes are paragraphs where they were anchored
-///   [ ] drawings, comments
+///   [ ] comments
 ///   [-] notes in headers and notes become paragraphs there; the format has them in the body only
 ///   [x] links, bookmarks, page fields, table of contents
 ///   [x] footnotes, endnotes, with marks of their own or counted

@@ -26,9 +26,11 @@ enum class TablePart {
     BookmarkEnds = 23,
     DocumentProperties = 31,
     Pieces = 33,
+    BodyAnchors = 40,
     EndnoteReferences = 46,
     EndnoteTexts = 47,
     EndnoteFields = 48,
+    Shapes = 50,
     Lists = 73,
     ListReferences = 74,
 };

@@ -18,12 +18,13 @@ void tellOnce(Story& story, bool& isTold, const Origin& origin, const char* mess
 void writeFigure(Story& story, const Figure& figure) {
     const auto* picture = std::get_if<Picture>(&figure.content);
     if (!picture) {
-        tellOnce(story, story.state.toldOf.drawing, figure.origin, "drawings are left out of DOC documents");
+        tellOnce(story, story.state.toldOf.drawing, figure.origin,
+                 "drawings in headers, footers and notes are left out");
         return;
     }
     if (figure.placement.wrapping == Wrapping::BehindText) {
         tellOnce(story, story.state.toldOf.background, figure.origin,
-                 "pictures behind the text are left out of DOC documents");
+                 "pictures behind the text of headers, footers and notes are left out");
         return;
     }
     Paragraph paragraph;
@@ -35,6 +36,20 @@ void writeFigure(Story& story, const Figure& figure) {
 }
 
 } // namespace
+
+bool floatsInFile(const Story& story, const Block& block) {
+    const auto* figure = std::get_if<Figure>(&block.value);
+    if (story.kind != StoryKind::Body || !figure)
+        return false;
+    if (const auto* picture = std::get_if<Picture>(&figure->content))
+        return story.state.pictures.has(*picture);
+    return !std::get<Drawing>(figure->content).shapes.empty();
+}
+
+void writeAnchor(Story& story, const Figure& figure) {
+    story.state.floatingObjects.push_back({story.text.length(), &figure});
+    story.text.add({&character::kFloatingObject, 1}, PropertyList().add(sprm::kCFSpec, 1).bytes());
+}
 
 void writeFloat(Story& story, const Block& block) {
     if (const auto* figure = std::get_if<Figure>(&block.value))

@@ -5,8 +5,16 @@
 
 namespace orvane::write::doc {
 
-/// Writes what floats as part of the text, before the paragraph that it is anchored in: a picture as a paragraph of its
-/// own, a text box as its paragraphs. Drawings and pictures behind the text are left out and told of.
+/// Whether the object floats in the file: pictures and drawings over the body do.
+bool floatsInFile(const Story& story, const document::Block& block);
+
+/// Writes the character that stands for a floating object in the open paragraph.
+/// Requires: floatsInFile().
+void writeAnchor(Story& story, const document::Figure& figure);
+
+/// Writes what does not float in the file as part of the text, before the paragraph that it is anchored in: a picture
+/// as a paragraph of its own, a text box as its paragraphs. Drawings and pictures behind the text are left out and told
+/// of.
 /// Requires: `block` is a Figure or a Frame.
 void writeFloat(Story& story, const document::Block& block);
 

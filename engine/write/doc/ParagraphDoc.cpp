@@ -40,12 +40,17 @@ std::string markOf(Story& story, const Paragraph& paragraph, const Style& style)
 void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoad& load) {
     endParagraph(story, ParagraphEnd::Paragraph);
     for (const Block* block : load.floats)
-        writeFloat(story, *block);
+        if (!floatsInFile(story, *block))
+            writeFloat(story, *block);
     endParagraph(story, ParagraphEnd::Paragraph);
     const Style& style = story.state.styles.at(paragraph.style);
     const std::span<const Inline> inlines = paragraph.inlines;
     const std::size_t breaks = leadingBreaks(paragraph);
+    // What is anchored before a break stays on the page before it.
     writeInlines(story, inlines.first(breaks), style.run);
+    for (const Block* block : load.floats)
+        if (floatsInFile(story, *block))
+            writeAnchor(story, std::get<Figure>(block->value));
     if (load.writeLead)
         load.writeLead();
     writeInlines(story, inlines.subspan(breaks), style.run);

@@ -15,6 +15,7 @@ inline constexpr char16_t kNote = 0x02;
 inline constexpr char16_t kSeparator = 0x03;
 inline constexpr char16_t kContinuationSeparator = 0x04;
 inline constexpr char16_t kCellEnd = 0x07;
+inline constexpr char16_t kFloatingObject = 0x08;
 inline constexpr char16_t kTab = 0x09;
 inline constexpr char16_t kLineBreak = 0x0B;
 inline constexpr char16_t kPageBreak = 0x0C; ///< the end of a section too

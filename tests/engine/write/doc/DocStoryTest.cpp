@@ -162,17 +162,62 @@ TEST(DocPicture, IsTheFileItself) {
     EXPECT_EQ(data.substr(28, 4), std::string("\xD0\x07\xE8\x03", 4)) << "2000 by 1000 twips";
 }
 
-TEST(DocPicture, StandsInTheTextWhereItFloats) {
+TEST(DocPicture, FloatsWhereItIsPlaced) {
     const TemporaryFolder folder;
     PictureStore pictures(folder.path());
     Picture picture;
     picture.id = pictures.add(pngPicture(8, 4, kBlack));
+    picture.width = emuFromPoints(100);
+    picture.height = emuFromPoints(50);
+    Figure figure{picture, {}, {}};
+    figure.placement.x = emuFromPoints(10);
+    figure.placement.y = emuFromPoints(20);
+    figure.placement.wrapping = Wrapping::TopAndBottom;
+    const WrittenDoc doc(documentOf({{paragraph("a")}, {figure}, {paragraph("b")}}), pictures);
+    EXPECT_EQ(doc.read().text(), "a\\0d\\08b\\0d");
+    // The character's place, the end of the body; then shape, left, top, right, bottom, and how it is anchored.
+    const std::string anchors = doc.read().table(40);
+    EXPECT_EQ(anchors.substr(0, 8), std::string("\2\0\0\0\5\0\0\0", 8)) << "the mark of the last paragraph too";
+    EXPECT_EQ(anchors.substr(8, 20), std::string("\2\4\0\0\xC8\0\0\0\x90\1\0\0\x98\x8\0\0\x78\5\0\0", 20));
+    EXPECT_EQ(anchors.substr(28, 2), std::string("\x2A\0", 2)) << "from the page both ways, text above and below";
+    std::ifstream in(pictures.at(picture.id).file, std::ios::binary);
+    EXPECT_THAT(doc.read().stream(u"WordDocument"), HasSubstr(std::string(std::istreambuf_iterator<char>(in), {})));
+}
+
+TEST(DocPicture, StandsInTheTextOfAHeader) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    Picture picture;
+    picture.id = pictures.add(pngPicture(8, 4, kBlack));
+    Figure behind{picture, {}, {}};
+    behind.placement.wrapping = Wrapping::BehindText;
+    Document document = documentOf("a");
+    document.sections[0].header.standard = {{Figure{picture, {}, {}}}, {behind}, {paragraph("head")}};
+    const WrittenDoc doc(document, pictures);
+    EXPECT_THAT(doc.read().text(), HasSubstr("\\01\\0dhead\\0d"));
+    EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "the one behind the text is told of";
+}
+
+TEST(DocShape, IsAPathOrTheWordProcessorsOwn) {
+    const Emu side(1000);
+    Shape line{{}, {}, side, side, {{Shape::Verb::Move, {}}, {Shape::Verb::Line, {side, side}}}, {}, {}, 1};
+    Shape drop = line;
+    drop.segments[1] = {Shape::Verb::Curve, {side, Emu(0), side, side, Emu(0), side}};
+    drop.fill = Color{1, 2, 3};
+    const WrittenDoc doc(documentOf({{Figure{Drawing{side, side, {line}, ""}, {}, {}}},
+                                     {Figure{Drawing{side, side, {drop, line}, ""}, {}, {}}},
+                                     {paragraph("a")}}));
+    EXPECT_EQ(doc.read().text(), "\\08\\08a\\0d");
+    const std::string shapes = doc.read().table(50);
+    EXPECT_THAT(shapes, HasSubstr(std::string("\x42\1\x0A\xF0\x8\0\0\0\2\4\0\0\0\x0A\0\0", 16))) << "a line";
+    EXPECT_THAT(shapes, HasSubstr(std::string("\3\0\3\0\2\0\0\x40\1\x20\0\x80", 12))) << "segments of a path";
+    EXPECT_THAT(shapes, HasSubstr(std::string("\x81\1\1\2\3\0", 6))) << "its fill";
+}
+
+TEST(DocFrame, IsItsParagraphs) {
     Frame frame;
     frame.blocks = {{paragraph("box")}};
-    const WrittenDoc doc(
-        documentOf({{Figure{picture, {}, {}}}, {frame}, {Figure{Drawing{}, {}, {}}}, {paragraph("a")}}), pictures);
-    EXPECT_EQ(doc.read().text(), "\\01\\0dbox\\0da\\0d");
-    EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "the drawing is told of";
+    EXPECT_EQ(WrittenDoc(documentOf({{frame}, {paragraph("a")}})).read().text(), "box\\0da\\0d");
 }
 
 } // namespace
