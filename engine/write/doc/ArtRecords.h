@@ -20,6 +20,7 @@ inline constexpr int kGroupBox = 0xF009;
 inline constexpr int kShapeHead = 0xF00A;
 inline constexpr int kOptions = 0xF00B;
 inline constexpr int kChildAnchor = 0xF00F;
+inline constexpr int kClientTextBox = 0xF00D;
 inline constexpr int kAnchor = 0xF010;
 inline constexpr int kClientData = 0xF011;
 inline constexpr int kJpeg = 0xF01D;
@@ -32,6 +33,7 @@ inline constexpr int kFreeForm = 0;
 inline constexpr int kRectangle = 1;
 inline constexpr int kLine = 20;
 inline constexpr int kPictureFrame = 75;
+inline constexpr int kTextBox = 202;
 
 /// Flags of a shape. Source: [MS-ODRAW] 2.2.40 (OfficeArtFSP).
 inline constexpr int kIsGroup = 0x001;

@@ -38,10 +38,12 @@ std::vector<WrittenSection> writeBody(DocState& state) {
         endParagraph(story, i + 1 == sections.size() ? ParagraphEnd::Paragraph : ParagraphEnd::Section);
         written.push_back({state.body.length(), sectionProperties(sections[i], state.diagnostics)});
     }
-    // The last paragraph mark of these texts belongs to no note.
+    // The last paragraph mark of these texts belongs to no note and no box.
     for (NoteTexts* notes : {&state.footnotes, &state.endnotes})
         if (!notes->references.empty())
             endPlainParagraph(notes->text);
+    if (!state.textBoxes.starts.empty())
+        endPlainParagraph(state.textBoxes.text);
     return written;
 }
 
@@ -116,11 +118,39 @@ void addNotes(TableStream& table, const DocState& state) {
     table.add(TablePart::EndnoteTexts, endnotes.texts);
 }
 
+/// Which shape each box of text belongs to, and that none goes on in another. The last entry is for the paragraph mark
+/// that belongs to no box. Source: [MS-DOC] 2.8.32 (PlcftxbxTxt), 2.9.101 (FTXBXS), 2.8.31 (PlcfTxbxBkd), 2.9.310
+/// (Tbkd).
+void addTextBoxes(TableStream& table, const DocState& state) {
+    const TextBoxes& boxes = state.textBoxes;
+    if (boxes.starts.empty())
+        return;
+    constexpr int kEntrySize = 22;
+    constexpr int kBreakSize = 6;
+    constexpr int kIsWhole = 0x0800;
+    Bytes places;
+    for (const std::uint32_t start : boxes.starts)
+        places.u32(start);
+    places.u32(boxes.text.length() - 1).u32(boxes.text.length());
+    Bytes entries;
+    Bytes breaks;
+    int box = 0;
+    for (const FloatingObject& object : state.floatingObjects) {
+        if (!object.frame)
+            continue;
+        entries.u32(1).u32(0).u16(0).u32(0xFFFFFFFF).u32(object.shape).u32(0);
+        breaks.u16(box++).u16(0).u16(kIsWhole);
+    }
+    table.add(TablePart::TextBoxes, places.str() + entries.zeros(kEntrySize).str());
+    table.add(TablePart::TextBoxBreaks, places.str() + breaks.zeros(kBreakSize).str());
+}
+
 void addFields(TableStream& table, const DocState& state, const RunningTexts& running) {
     table.add(TablePart::BodyFields, fieldTable(state.body));
     table.add(TablePart::RunningTextFields, fieldTable(running.text));
     table.add(TablePart::FootnoteFields, fieldTable(state.footnotes.text));
     table.add(TablePart::EndnoteFields, fieldTable(state.endnotes.text));
+    table.add(TablePart::TextBoxFields, fieldTable(state.textBoxes.text));
 }
 
 /// Adds the properties of the text: pages in the main stream, their index in the table stream.
@@ -143,6 +173,7 @@ StoryText wholeText(const DocState& state, const RunningTexts& running) {
     text.append(state.footnotes.text);
     text.append(running.text);
     text.append(state.endnotes.text);
+    text.append(state.textBoxes.text);
     // Where the body is not all, one more paragraph mark ends the file.
     if (text.length() > state.body.length())
         endPlainParagraph(text);
@@ -176,6 +207,7 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
         makeFloatingParts(state.floatingObjects, state.pictureStore, state.body.length(), main.position(), tail);
     table.add(TablePart::BodyAnchors, floating.anchors);
     table.add(TablePart::Shapes, floating.shapes);
+    addTextBoxes(table, state);
     addNotes(table, state);
     table.add(TablePart::RunningTexts, running.table);
     addFields(table, state, running);
@@ -188,7 +220,7 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.add(TablePart::Pieces, pieces(text.length()));
 
     const TextLengths lengths{state.body.length(), state.footnotes.text.length(), running.text.length(),
-                              state.endnotes.text.length()};
+                              state.endnotes.text.length(), state.textBoxes.text.length()};
     std::vector<CompoundStream> streams;
     const auto mainSize = main.position() + static_cast<std::uint32_t>(tail.size());
     streams.push_back(

@@ -35,6 +35,12 @@ struct NoteTexts {
     StoryText text;
 };
 
+/// The texts of floating boxes, one after the other.
+struct TextBoxes {
+    std::vector<std::uint32_t> starts;
+    StoryText text;
+};
+
 /// What has been told of only once.
 struct ToldOf {
     bool drawing = false;
@@ -64,6 +70,7 @@ struct DocState {
     StoryText body;
     NoteTexts footnotes;
     NoteTexts endnotes;
+    TextBoxes textBoxes;
     std::vector<FloatingObject> floatingObjects;
     std::set<std::string> bookmarkNames;
     std::vector<NamedPlace> bookmarks;
@@ -72,7 +79,7 @@ struct DocState {
 };
 
 /// What a text may hold depends on where it stands.
-enum class StoryKind { Body, RunningText, Note };
+enum class StoryKind { Body, RunningText, Note, TextBox };
 
 /// The paragraph that has not ended yet; what ends it depends on what follows.
 struct OpenParagraph {

@@ -18,9 +18,9 @@
 ///   [-] pages of more than 22 inches are cut to that
 ///   [x] pictures in the line: cut, turned, mirrored, alternate text; as they are, not compressed again
 ///   [x] floating pictures and drawings over the body: lines, boxes, paths with curves, groups, opacity
-///   [-] floating pictures in headers, footers and notes are paragraphs there; those behind the text and drawings are
-///   left out
-///   [-] text boxes are paragraphs where they were anchored
+///   [x] text boxes over the body, with text, tables and pictures in the line
+///   [-] what floats in headers, footers, notes and text boxes is part of their text
+///   [ ] drawings, and pictures behind the text, in headers, footers, notes and text boxes
 ///   [ ] comments
 ///   [-] notes in headers and notes become paragraphs there; the format has them in the body only
 ///   [x] links, bookmarks, page fields, table of contents

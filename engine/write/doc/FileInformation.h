@@ -31,8 +31,11 @@ enum class TablePart {
     EndnoteTexts = 47,
     EndnoteFields = 48,
     Shapes = 50,
+    TextBoxes = 56,
+    TextBoxFields = 57,
     Lists = 73,
     ListReferences = 74,
+    TextBoxBreaks = 75,
 };
 
 /// How many characters the parts of the text have, each with the paragraph mark that ends the part.
@@ -41,6 +44,7 @@ struct TextLengths {
     std::uint32_t footnotes = 0;
     std::uint32_t runningTexts = 0;
     std::uint32_t endnotes = 0;
+    std::uint32_t textBoxes = 0;
 };
 
 /// The table stream, and where its structures stand.

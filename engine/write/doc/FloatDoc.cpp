@@ -1,6 +1,7 @@
 #include "write/doc/FloatDoc.h"
 
 #include "write/doc/BlockDoc.h"
+#include "write/doc/NoteDoc.h"
 #include "write/doc/ParagraphDoc.h"
 
 #include <utility>
@@ -19,12 +20,12 @@ void writeFigure(Story& story, const Figure& figure) {
     const auto* picture = std::get_if<Picture>(&figure.content);
     if (!picture) {
         tellOnce(story, story.state.toldOf.drawing, figure.origin,
-                 "drawings in headers, footers and notes are left out");
+                 "drawings in headers, footers, notes and text boxes are left out");
         return;
     }
     if (figure.placement.wrapping == Wrapping::BehindText) {
         tellOnce(story, story.state.toldOf.background, figure.origin,
-                 "pictures behind the text of headers, footers and notes are left out");
+                 "pictures behind the text of headers, footers, notes and text boxes are left out");
         return;
     }
     Paragraph paragraph;
@@ -35,20 +36,38 @@ void writeFigure(Story& story, const Figure& figure) {
     writeParagraph(story, paragraph, {});
 }
 
+/// Writes the text of a box, and tells its number.
+int writeBox(DocState& state, const Frame& frame) {
+    state.textBoxes.starts.push_back(state.textBoxes.text.length());
+    Story story{state, state.textBoxes.text, StoryKind::TextBox};
+    writeBlocks(story, frame.blocks);
+    writeDisplacedNotes(story);
+    endParagraph(story, ParagraphEnd::Paragraph);
+    return static_cast<int>(state.textBoxes.starts.size());
+}
+
 } // namespace
 
 bool floatsInFile(const Story& story, const Block& block) {
-    const auto* figure = std::get_if<Figure>(&block.value);
-    if (story.kind != StoryKind::Body || !figure)
+    if (story.kind != StoryKind::Body)
         return false;
+    const auto* figure = std::get_if<Figure>(&block.value);
+    if (!figure)
+        return true;
     if (const auto* picture = std::get_if<Picture>(&figure->content))
         return story.state.pictures.has(*picture);
     return !std::get<Drawing>(figure->content).shapes.empty();
 }
 
-void writeAnchor(Story& story, const Figure& figure) {
-    story.state.floatingObjects.push_back({story.text.length(), &figure});
+void writeAnchor(Story& story, const Block& block) {
+    FloatingObject object;
+    object.place = story.text.length();
+    object.figure = std::get_if<Figure>(&block.value);
+    object.frame = std::get_if<Frame>(&block.value);
     story.text.add({&character::kFloatingObject, 1}, PropertyList().add(sprm::kCFSpec, 1).bytes());
+    if (object.frame)
+        object.box = writeBox(story.state, *object.frame);
+    story.state.floatingObjects.push_back(object);
 }
 
 void writeFloat(Story& story, const Block& block) {

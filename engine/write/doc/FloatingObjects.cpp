@@ -25,12 +25,16 @@ struct Extent {
     double rotation;
 };
 
-Extent extentOf(const Figure& figure) {
-    if (const auto* picture = std::get_if<Picture>(&figure.content))
-        return {static_cast<double>(picture->width.value), static_cast<double>(picture->height.value),
-                picture->rotation};
-    const auto& drawing = std::get<Drawing>(figure.content);
-    return {static_cast<double>(drawing.width.value), static_cast<double>(drawing.height.value), 0};
+Extent extentOf(const FloatingObject& object) {
+    const auto extent = [](Emu width, Emu height, double rotation) {
+        return Extent{static_cast<double>(width.value), static_cast<double>(height.value), rotation};
+    };
+    if (object.frame)
+        return extent(object.frame->width, object.frame->height, object.frame->rotation);
+    if (const auto* picture = std::get_if<Picture>(&object.figure->content))
+        return extent(picture->width, picture->height, picture->rotation);
+    const auto& drawing = std::get<Drawing>(object.figure->content);
+    return extent(drawing.width, drawing.height, 0);
 }
 
 std::int64_t twips(double emu) {
@@ -56,10 +60,10 @@ int flagsOf(const Placement& placement) {
 }
 
 /// A box that is turned onto its side is stored as the box it then covers. Source: [MS-ODRAW] 2.3.18.5 (rotation).
-std::string anchorRecord(const Figure& figure, int id) {
-    auto [width, height, rotation] = extentOf(figure);
-    auto x = static_cast<double>(figure.placement.x.value);
-    auto y = static_cast<double>(figure.placement.y.value);
+std::string anchorRecord(const FloatingObject& object) {
+    auto [width, height, rotation] = extentOf(object);
+    auto x = static_cast<double>(object.placement().x.value);
+    auto y = static_cast<double>(object.placement().y.value);
     const double turn = std::fmod(std::fmod(rotation, 360) + 360, 360);
     if ((turn >= 45 && turn < 135) || (turn >= 225 && turn < 315)) {
         x += (width - height) / 2;
@@ -67,8 +71,8 @@ std::string anchorRecord(const Figure& figure, int id) {
         std::swap(width, height);
     }
     Bytes bytes;
-    bytes.u32(id).u32(twips(x)).u32(twips(y)).u32(twips(x + width)).u32(twips(y + height));
-    return bytes.u16(flagsOf(figure.placement)).u32(0).str();
+    bytes.u32(object.shape).u32(twips(x)).u32(twips(y)).u32(twips(x + width)).u32(twips(y + height));
+    return bytes.u16(flagsOf(object.placement())).u32(0).str();
 }
 
 /// The pictures of floating objects, each once.
@@ -135,14 +139,22 @@ std::vector<std::size_t> paintOrder(const std::vector<FloatingObject>& objects) 
     std::vector<std::size_t> order(objects.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return objects[a].figure->placement.zOrder < objects[b].figure->placement.zOrder;
+        return objects[a].placement().zOrder < objects[b].placement().zOrder;
     });
     return order;
 }
 
+std::string recordsOf(const FloatingObject& object, Store& store, ShapeNumbers& numbers) {
+    if (object.frame)
+        return frameRecords(*object.frame, object.shape, object.box);
+    if (const auto* picture = std::get_if<Picture>(&object.figure->content))
+        return pictureRecords(*picture, object.placement(), object.shape, store.indexOf(picture->id));
+    return drawingRecords(std::get<Drawing>(object.figure->content), object.placement(), object.shape, numbers);
+}
+
 } // namespace
 
-FloatingParts makeFloatingParts(const std::vector<FloatingObject>& objects, const PictureStore& pictures,
+FloatingParts makeFloatingParts(std::vector<FloatingObject>& objects, const PictureStore& pictures,
                                 std::uint32_t bodyLength, std::uint32_t tailStart, CompoundStream& tail) {
     if (objects.empty())
         return {};
@@ -150,21 +162,16 @@ FloatingParts makeFloatingParts(const std::vector<FloatingObject>& objects, cons
     const int root = numbers.take();
     const int background = numbers.take();
     Store store(pictures, tailStart, tail);
-    std::vector<int> ids(objects.size());
     std::string shapes = rootShape(root);
     for (const std::size_t index : paintOrder(objects)) {
-        const Figure& figure = *objects[index].figure;
-        const int id = ids[index] = numbers.take();
-        if (const auto* picture = std::get_if<Picture>(&figure.content))
-            shapes += pictureRecords(*picture, figure.placement, id, store.indexOf(picture->id));
-        else
-            shapes += drawingRecords(std::get<Drawing>(figure.content), figure.placement, id, numbers);
+        objects[index].shape = numbers.take();
+        shapes += recordsOf(objects[index], store, numbers);
     }
     Bytes places;
     Bytes anchors;
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        places.u32(objects[i].place);
-        anchors.raw(anchorRecord(*objects[i].figure, ids[i]));
+    for (const FloatingObject& object : objects) {
+        places.u32(object.place);
+        anchors.raw(anchorRecord(object));
     }
     places.u32(bodyLength);
     const std::string drawing = art::record(0, kDrawing, art::type::kDrawingNumbers,

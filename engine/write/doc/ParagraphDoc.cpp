@@ -50,7 +50,7 @@ void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoa
     writeInlines(story, inlines.first(breaks), style.run);
     for (const Block* block : load.floats)
         if (floatsInFile(story, *block))
-            writeAnchor(story, std::get<Figure>(block->value));
+            writeAnchor(story, *block);
     if (load.writeLead)
         load.writeLead();
     writeInlines(story, inlines.subspan(breaks), style.run);

@@ -15,6 +15,14 @@ using namespace document;
 using Verb = Shape::Verb;
 
 // Properties of shapes. Source: [MS-ODRAW] 2.3.6 (geometry), 2.3.7 (fill), 2.3.8 (line), 2.3.4 (shape).
+constexpr int kRotation = 0x0004;
+constexpr int kTextNumber = 0x0080;
+constexpr int kTextLeft = 0x0081;
+constexpr int kTextTop = 0x0082;
+constexpr int kTextRight = 0x0083;
+constexpr int kTextBottom = 0x0084;
+constexpr int kTextFlow = 0x0088;
+constexpr int kTextSwitches = 0x00BF;
 constexpr int kPictureInStore = 0x4104;
 constexpr int kGeometryLeft = 0x0140;
 constexpr int kGeometryTop = 0x0141;
@@ -45,6 +53,8 @@ constexpr std::int64_t kIsFilled = 0x00100010;
 constexpr std::int64_t kIsNotFilled = 0x00100000;
 constexpr std::int64_t kHasLine = 0x00080008;
 constexpr std::int64_t kHasNoLine = 0x00080000;
+constexpr std::int64_t kFitsItsText = 0x00020002;
+constexpr std::int64_t kHasFixedSize = 0x00020000;
 constexpr std::int64_t kIsBehindText = 0x00200020;
 
 // Source: [MS-ODRAW] 2.4.8 (MSOSHAPEPATH), 2.2.48 (MSOPATHINFO), 2.4.14, 2.4.15 (lines).
@@ -57,6 +67,8 @@ constexpr int kEndCode = 0x8000;
 constexpr int kDoubleLine = 1;
 constexpr int kDotted = 2;
 constexpr int kDashed = 6;
+constexpr int kUpwards = 2; // Source: [MS-ODRAW] 2.4.5 (MSOTXFL)
+constexpr int kDownwards = 3;
 constexpr double kBinaryPlaces = 65536;
 
 std::int64_t length(Emu value) {
@@ -270,6 +282,31 @@ std::string pictureRecords(const Picture& picture, const Placement& placement, i
     const int flags = art::kHasAnchor | art::kHasType | art::flipFlags(picture);
     return art::container(art::type::kShape, art::shapeHead(art::kPictureFrame, id, flags) + options.asRecord() +
                                                  anchorRecords(placement));
+}
+
+std::string frameRecords(const Frame& frame, int id, int box) {
+    Shape look;
+    look.fill = frame.fill;
+    look.line = frame.line;
+    // Text that turns out higher than its box is cut off; a box that nobody sees grows instead.
+    const bool isVisible = frame.fill || frame.line;
+    art::Options options;
+    if (frame.rotation != 0)
+        options.add(kRotation, art::angle(frame.rotation));
+    options.add(kTextNumber, std::int64_t{box} << 16);
+    options.add(kTextLeft, length(frame.insetLeft));
+    options.add(kTextTop, length(frame.insetTop));
+    options.add(kTextRight, length(frame.insetRight));
+    options.add(kTextBottom, length(frame.insetBottom));
+    if (frame.direction != TextDirection::Horizontal)
+        options.add(kTextFlow, frame.direction == TextDirection::Upwards ? kUpwards : kDownwards);
+    options.add(kTextSwitches, isVisible ? kHasFixedSize : kFitsItsText);
+    addFill(options, look);
+    addLine(options, look);
+    addPlacement(options, frame.placement, {});
+    const std::string text = art::record(0, 0, art::type::kClientTextBox, Bytes().u32(std::int64_t{box} << 16).str());
+    return art::container(art::type::kShape, art::shapeHead(art::kTextBox, id, art::kHasAnchor | art::kHasType) +
+                                                 options.asRecord() + anchorRecords(frame.placement) + text);
 }
 
 } // namespace orvane::write::doc

@@ -27,4 +27,8 @@ std::string drawingRecords(const document::Drawing& drawing, const document::Pla
 /// The records of a picture that stands at `index` of the store, counted from 1.
 std::string pictureRecords(const document::Picture& picture, const document::Placement& placement, int id, int index);
 
+/// The records of the box of text that has the number `box` in the file, counted from 1.
+/// Source: [MS-ODRAW] 2.3.21 (text); [MS-DOC] 2.9.36 (OfficeArtClientTextbox).
+std::string frameRecords(const document::Frame& frame, int id, int box);
+
 } // namespace orvane::write::doc

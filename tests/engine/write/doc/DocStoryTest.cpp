@@ -19,6 +19,7 @@ constexpr std::size_t kBody = 3;
 constexpr std::size_t kFootnotes = 4;
 constexpr std::size_t kRunningTexts = 5;
 constexpr std::size_t kEndnotes = 8;
+constexpr std::size_t kTextBoxes = 9;
 
 TEST(DocField, IsMarkedByThreeCharacters) {
     const WrittenDoc doc(documentOf(paragraph({text("a"), {Field{FieldCode::Page, "", {text("7")}}}})));
@@ -214,10 +215,22 @@ TEST(DocShape, IsAPathOrTheWordProcessorsOwn) {
     EXPECT_THAT(shapes, HasSubstr(std::string("\x81\1\1\2\3\0", 6))) << "its fill";
 }
 
-TEST(DocFrame, IsItsParagraphs) {
-    Frame frame;
-    frame.blocks = {{paragraph("box")}};
-    EXPECT_EQ(WrittenDoc(documentOf({{frame}, {paragraph("a")}})).read().text(), "box\\0da\\0d");
+TEST(DocFrame, HasItsTextBehindAllOthers) {
+    Frame inner;
+    inner.blocks = {{paragraph("inner")}};
+    Frame outer;
+    outer.blocks = {{inner}, {paragraph("outer")}};
+    outer.insetLeft = Emu(635);
+    const WrittenDoc doc(documentOf({{outer}, {inner}, {paragraph("a")}}));
+    EXPECT_EQ(doc.read().text(), "\\08\\08a\\0dinner\\0douter\\0dinner\\0d\\0d\\0d") << "a box in a box is its text";
+    EXPECT_EQ(doc.read().length(kTextBoxes), 19u);
+    // Two boxes and the mark that ends them: where each begins, then which shape each belongs to.
+    const std::string boxes = doc.read().table(56);
+    EXPECT_EQ(boxes.substr(0, 16), std::string("\0\0\0\0\xC\0\0\0\x12\0\0\0\x13\0\0\0", 16));
+    EXPECT_EQ(boxes.size(), 16u + 3 * 22);
+    EXPECT_EQ(boxes.substr(16 + 14, 4), std::string("\2\4\0\0", 4));
+    EXPECT_EQ(doc.read().table(75).size(), 16u + 3 * 6);
+    EXPECT_THAT(doc.read().table(50), HasSubstr(std::string("\x80\0\0\0\1\0\x81\0\x7B\2\0\0", 12)));
 }
 
 } // namespace
