@@ -1,7 +1,6 @@
 #include "ui/application/Application.h"
 
 #include "core/CommandLine.h"
-#include "core/OutputDerivation.h"
 #include "platform/Environment.h"
 #include "services/SystemProbes.h"
 #include "services/WordProcessorSearch.h"
@@ -104,9 +103,6 @@ QString Application::programCommandLine() const {
 }
 
 void Application::showMainWindow() {
-    // The engine writes no DOC so far, so this window starts with DOCX in its place.
-    if (m_records.settings.intOutputFormat == output_format::kDoc)
-        m_records.settings.intOutputFormat = output_format::kDocx;
     mainWindow()->showForm();
 }
 
@@ -119,7 +115,9 @@ std::shared_ptr<frmMain> Application::mainWindow() {
 std::shared_ptr<frmProgress> Application::progressWindow() {
     const RunPorts ports{m_records,   m_mainWindowView, m_messageBox, m_messageWindows, m_passwordWindow, m_statusTexts,
                          m_eventLoop, m_clock,          m_files,      m_engines,        m_followUp,       m_forms};
-    return m_forms.obtain<frmProgress>(ports, m_languages);
+    auto progress = m_forms.obtain<frmProgress>(ports, m_languages);
+    progress->carryLinks(m_links);
+    return progress;
 }
 
 HandOver::Ports Application::handOverPorts() {

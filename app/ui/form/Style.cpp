@@ -11,6 +11,16 @@ constexpr QRgb kCardBorder = qRgb(0xD9, 0xDE, 0xE4);
 constexpr QRgb kHelpText = qRgb(0x5B, 0x65, 0x70);
 constexpr int kLightDesktop = 128; ///< lightness, 0 to 255, from which a desktop counts as light
 
+// On a dark desktop: how far on the way from the ground to the text.
+constexpr double kSofterText = 0.7;
+constexpr double kDisabledText = 0.45;
+constexpr double kLine = 0.25;
+
+QColor between(const QColor& from, const QColor& to, double share) {
+    const auto mixed = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
+    return {mixed(from.red(), to.red()), mixed(from.green(), to.green()), mixed(from.blue(), to.blue())};
+}
+
 // Frames carry their part in the window as the property "role": band, column, page, card or foot.
 constexpr char kStyleSheet[] = R"(
 QFrame[role="band"], QFrame[role="column"] { background: #0078D4; border: none; }
@@ -45,6 +55,11 @@ QPushButton:default:focus { border-color: palette(text); }
 QComboBox { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
             background: palette(base); }
 QComboBox::drop-down { border: none; width: 28px; }
+QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid palette(dark); border-radius: 8px;
+                          background: palette(base); }
+QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+                                  stop: 0 #0078D4, stop: 0.55 #0078D4, stop: 0.65 transparent, stop: 1 transparent); }
+QRadioButton::indicator:disabled { border-color: palette(midlight); }
 QCheckBox, QRadioButton { min-height: 24px; spacing: 8px; }
 QCheckBox:focus, QRadioButton:focus { border: 2px solid palette(text); border-radius: 4px; }
 QPushButton:focus, QLineEdit:focus, QTextEdit:focus, QComboBox:focus, QListView:focus { border: 2px solid palette(text); }
@@ -65,6 +80,13 @@ void applyStyle(QApplication& application) {
         palette.setColor(QPalette::Midlight, QColor(kCardBorder));
         palette.setColor(QPalette::Text, QColor(0x1B, 0x1B, 0x1B));
         palette.setColor(QPalette::Dark, QColor(kHelpText));
+    } else {
+        // These shades are for the edges of a light desktop; here they are the softer texts and lines.
+        const QColor text = palette.color(QPalette::Text);
+        const QColor ground = palette.color(QPalette::Window);
+        palette.setColor(QPalette::Dark, between(ground, text, kSofterText));
+        palette.setColor(QPalette::Mid, between(ground, text, kDisabledText));
+        palette.setColor(QPalette::Midlight, between(ground, text, kLine));
     }
     palette.setColor(QPalette::Highlight, QColor(kProductColour));
     application.setPalette(palette);

@@ -44,14 +44,16 @@ LinkBar::LinkBar(QWidget* parent)
     setProperty("role", "band");
     setFixedHeight(kHeight);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 0, 16, 0);
-    row->setSpacing(4);
+    row->setContentsMargins(8, 0, 8, 0);
+    row->setSpacing(2);
     for (std::size_t i = 0; i < m_links.size(); ++i) {
         if (i > 0)
             row->addStretch();
         m_links[i] = makeLink(static_cast<int>(i));
         row->addWidget(m_links[i].image);
         row->addWidget(m_links[i].label);
+        connect(m_links[i].label, &LinkLabel::clicked, this, [this, i] { runAction(i); });
+        connect(m_links[i].image, &Picture::clicked, this, [this, i] { runAction(i); });
     }
 }
 
@@ -71,13 +73,14 @@ LinkBar::Link LinkBar::makeLink(int index) {
 }
 
 void LinkBar::connectLinks(LinkActions& actions, const QString& imageFolder) {
-    for (std::size_t i = 0; i < m_links.size(); ++i) {
-        const LinkDesign& design = kDesigns[i];
-        const auto run = [&actions, action = design.action] { (actions.*action)(); };
-        connect(m_links[i].label, &LinkLabel::clicked, this, run);
-        connect(m_links[i].image, &Picture::clicked, this, run);
-        m_links[i].image->load(imageFolder + '/' + design.icon);
-    }
+    m_actions = &actions;
+    for (std::size_t i = 0; i < m_links.size(); ++i)
+        m_links[i].image->load(imageFolder + '/' + kDesigns[i].icon);
+}
+
+void LinkBar::runAction(std::size_t index) {
+    if (m_actions)
+        (m_actions->*kDesigns[index].action)();
 }
 
 void LinkBar::followMouse(QWidget& background) {

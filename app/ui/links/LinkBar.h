@@ -19,7 +19,7 @@ class LinkBar : public QFrame {
 public:
     explicit LinkBar(QWidget* parent = nullptr);
 
-    /// Makes a click on a link run its action. `imageFolder`: where the icons lie.
+    /// Makes a click on a link run its action from now on. `imageFolder`: where the icons lie.
     void connectLinks(LinkActions& actions, const QString& imageFolder);
 
     /// Lets the links follow the mouse. `background`: the picture behind the window's controls, where the hot link
@@ -41,7 +41,9 @@ private:
     Link makeLink(int index);
     int numberOf(const QObject* labelOrImage) const;
     void setHoverLink(int number);
+    void runAction(std::size_t index);
 
     std::array<Link, 5> m_links;
+    LinkActions* m_actions = nullptr; ///< null until they are connected
     int m_hoverLink = 0;
 };

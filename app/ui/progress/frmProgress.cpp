@@ -70,6 +70,10 @@ frmProgress::frmProgress(FormRegistry& registry, const RunPorts& ports, Language
 
 frmProgress::~frmProgress() = default;
 
+void frmProgress::carryLinks(LinkActions& actions) {
+    m_ui->band->connectLinks(actions, m_languages.applicationFolder + "/images");
+}
+
 void frmProgress::connectHandlers() {
     connect(m_ui->tabProgress, &QTabBar::currentChanged, this, &frmProgress::tabProgress_Click);
     connect(m_ui->cmdViewLog, &QPushButton::clicked, this, &frmProgress::cmdViewLog_click);

@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+class LinkActions;
+
 namespace Ui {
 class frmProgress;
 }
@@ -22,6 +24,9 @@ class frmProgress : public Form, public ProgressView {
 public:
     frmProgress(FormRegistry& registry, const RunPorts& ports, LanguageTable& languages);
     ~frmProgress() override;
+
+    /// Gives the strip of links its actions. The links of this window never change colour.
+    void carryLinks(LinkActions& actions);
 
     void show() override;
     void minimise() override;
