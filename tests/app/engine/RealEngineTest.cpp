@@ -232,6 +232,7 @@ protected:
     Program() {
         fs::create_directories(folder.path() / "run");
         fs::permissions(folder.path() / "run", fs::perms::owner_all);
+        storeSettings();
     }
     ~Program() override {
         for (const auto& process : m_processes) {
@@ -254,6 +255,13 @@ protected:
     orvane::tests::TemporaryFolder folder;
 
 private:
+    /// DOCX with flowing text into the test's own folder, whatever word processor the machine has.
+    void storeSettings() const {
+        const std::string home = folder.path().string();
+        std::ofstream(folder.path() / "docval.temp") << "\"0~:~0~:~0~:~2~:~0~:~0~:~3~:~1~:~1~:~1~:~0~:~0~:~0~:~~:~"
+                                                     << home << "~:~" << home << "/Tavrelion.log~:~0\"\r\n";
+    }
+
     std::vector<std::unique_ptr<QProcess>> m_processes;
 };
 

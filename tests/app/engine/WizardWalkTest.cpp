@@ -1,4 +1,5 @@
 #include "app/support/LinkFakes.h"
+#include "app/support/MainFakes.h"
 #include "app/support/PageFakes.h"
 #include "app/support/RunFixture.h"
 #include "core/BatchFollowUp.h"
@@ -69,7 +70,7 @@ protected:
     LibraryEngineFactory libraryEngines{TAVRELION_PROGRAM_FOLDER};
     FakeDocumentShell shell;
     BatchFollowUp batch{shell};
-    FakeRefusals refusals;
+    FakeRefusals refusals{journal};
     FakeFileDialogs fileDialogs;
     FakeFolderDialog folderDialog;
     FakeOpener opener;

@@ -380,5 +380,17 @@ TEST_F(OptionWindow, AFailureOfTheClosingIsLogged) {
     EXPECT_TRUE(errorLog().startsWith("Form Name: frmOption, Module Name: Form_QueryUnload\r\nout of order"));
 }
 
+TEST_F(OptionWindow, AFailureOfAButtonIsLoggedUnderItsName) {
+    mainWindow.whenShown = [] { throw std::runtime_error("the main window is gone"); };
+    for (const QString handler : {"cmdOK", "cmdCancel", "btnRestoreDefault"}) {
+        open();
+        click(handler);
+        EXPECT_TRUE(
+            errorLog().contains("Form Name: frmOption, Module Name: " + handler + "_Click\r\nthe main window is gone"))
+            << handler.toStdString();
+        EXPECT_TRUE(window->isVisible());
+    }
+}
+
 } // namespace
 } // namespace tavrelion::tests

@@ -67,6 +67,7 @@ private:
         files.files.insert(records.job.strSourcePDF);
         script.statuses = {{5, 3, 12, 0}};
         const auto form = registry.obtain<frmProgress>(ports, languages);
+        form->carryLinks(links);
         form->load();
         QTest::qWait(600); // the window's own timer asks the engine once
         save(*form);

@@ -33,8 +33,16 @@ public:
     explicit FakeRefusals(Journal& journal)
         : m_journal(journal) {}
 
-    void refuse(const QString& controlName) override { m_journal << "refuse " + controlName; }
-    void refusePages(const QString& controlName) override { m_journal << "refuse pages " + controlName; }
+    QStringList refused; ///< the controls, of both windows
+
+    void refuse(const QString& controlName) override {
+        m_journal << "refuse " + controlName;
+        refused << controlName;
+    }
+    void refusePages(const QString& controlName) override {
+        m_journal << "refuse pages " + controlName;
+        refused << controlName;
+    }
 
 private:
     Journal& m_journal;

@@ -1,34 +1,13 @@
 #pragma once
 
-#include "core/FileDialogs.h"
-#include "ui/dialogs/Refusals.h"
 #include "ui/form/FolderDialog.h"
 #include "ui/form/MainWindowControls.h"
 
 #include <QStringList>
 
-#include <vector>
+#include <functional>
 
 namespace tavrelion::tests {
-
-class FakeRefusals : public Refusals {
-public:
-    QStringList refused;
-    void refuse(const QString& controlName) override { refused << controlName; }
-    void refusePages(const QString& controlName) override { refused << controlName; }
-};
-
-/// Answers with the file that the test names; nothing for Cancel.
-class FakeFileDialogs : public FileDialogs {
-public:
-    std::optional<QString> file;
-    std::vector<SaveRequest> saves;
-    std::optional<QString> open(const OpenRequest&) override { return file; }
-    std::optional<QString> save(const SaveRequest& request) override {
-        saves.push_back(request);
-        return file;
-    }
-};
 
 class FakeFolderDialog : public FolderDialog {
 public:
@@ -43,10 +22,15 @@ public:
 class FakeMainWindow : public MainWindowControls {
 public:
     int showings = 0;
+    std::function<void()> whenShown;
     QString outputBox;
     bool allPages = false;
     bool fromTo = false;
-    void show() override { ++showings; }
+    void show() override {
+        ++showings;
+        if (whenShown)
+            whenShown();
+    }
     QString txtfilepathOutput() const override { return outputBox; }
     void setTxtfilepathOutput(const QString& path) override { outputBox = path; }
     bool chkAllPages() const override { return allPages; }

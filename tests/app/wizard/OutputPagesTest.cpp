@@ -29,13 +29,13 @@ protected:
 
 TEST_F(OutputOptionsPage, BrowsesForTheOutputFile) {
     show(kPage);
-    fileDialogs.file = "/out/new.RTF";
+    fileDialogs.saved = "/out/new.RTF";
     click(kPage, "cmdBrowse");
-    ASSERT_EQ(fileDialogs.saves.size(), 1u);
-    EXPECT_EQ(fileDialogs.saves[0].title, "Save As");
-    EXPECT_EQ(fileDialogs.saves[0].initialFolder, "/out");
-    EXPECT_EQ(fileDialogs.saves[0].filter, "DOC Files (*.doc)|*.doc|RTF Files (*.rtf)|*.rtf");
-    EXPECT_EQ(fileDialogs.saves[0].fileName, "");
+    ASSERT_EQ(fileDialogs.saveRequests.size(), 1u);
+    EXPECT_EQ(fileDialogs.saveRequests[0].title, "Save As");
+    EXPECT_EQ(fileDialogs.saveRequests[0].initialFolder, "/out");
+    EXPECT_EQ(fileDialogs.saveRequests[0].filter, "DOC Files (*.doc)|*.doc|RTF Files (*.rtf)|*.rtf");
+    EXPECT_EQ(fileDialogs.saveRequests[0].fileName, "");
     EXPECT_EQ(records.job.strOutputFile, "/out/new.RTF");
     EXPECT_EQ(text(kPage, "txtfilepath"), "/out/new.RTF");
     EXPECT_EQ(text(kPage, "lblOutputFormatDoc"), ".RTF");
@@ -53,7 +53,7 @@ TEST_F(OutputOptionsPage, RefusesOtherExtensionsAndMixedCase) {
     show(kPage);
     for (const char* file : {"/out/new.Doc", "/out/new.docx", "/out/new", "/out/new.rtF", "/out/new.pdf"}) {
         refusals.refused.clear();
-        fileDialogs.file = file;
+        fileDialogs.saved = file;
         click(kPage, "cmdBrowse");
         EXPECT_EQ(refusals.refused, QStringList{"txtInvalidFileFormatOutput"}) << file;
         EXPECT_EQ(records.job.strOutputFile, "/out/report.doc");
@@ -68,7 +68,7 @@ TEST_F(OutputOptionsPage, NextTakesTheFormatFromTheExactExtension) {
     };
     for (const Row& row : {Row{"/out/a.doc", 0, ".doc"}, Row{"/out/a.DOC", 1, ".DOC"}, Row{"/out/a.rtf", 1, ".rtf"}}) {
         show(kPage);
-        fileDialogs.file = row.file;
+        fileDialogs.saved = row.file;
         click(kPage, "cmdBrowse");
         click(kPage, "cmdNext");
         EXPECT_EQ(records.settings.intOutputFormat, row.format) << row.file;
@@ -88,7 +88,7 @@ TEST_F(OutputOptionsPage, WithoutAShownFormatNextSetsRtf) {
 TEST_F(OutputOptionsPage, LastKeepsTheStoredFormat) {
     records.settings.intOutputFormat = 0;
     show(kPage);
-    fileDialogs.file = "/out/a.rtf";
+    fileDialogs.saved = "/out/a.rtf";
     click(kPage, "cmdBrowse");
     click(kPage, "cmdLast");
     EXPECT_EQ(records.settings.intOutputFormat, 0);

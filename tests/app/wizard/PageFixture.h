@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/support/LinkFakes.h"
+#include "app/support/MainFakes.h"
 #include "app/support/PageFakes.h"
 #include "app/support/RunFakes.h"
 #include "app/support/ScratchHome.h"
@@ -51,7 +52,7 @@ protected:
 
     Journal journal;
     FakeMessageBox messageBox{journal};
-    FakeRefusals refusals;
+    FakeRefusals refusals{journal};
     FakeEventLoop eventLoop;
     FakeFileDialogs fileDialogs;
     FakeFolderDialog folderDialog;
