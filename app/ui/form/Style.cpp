@@ -69,11 +69,19 @@ QProgressBar { min-height: 16px; max-height: 16px; border: 1px solid palette(mid
 QProgressBar::chunk { background: #0078D4; border-radius: 3px; }
 )";
 
+/// The style draws the outline of a check box darker than its window, which nobody sees on a dark one.
+void lightenIndicators(QPalette palette) {
+    palette.setColor(QPalette::Window, palette.color(QPalette::WindowText));
+    for (const char* widget : {"QCheckBox", "QRadioButton"})
+        QApplication::setPalette(palette, widget);
+}
+
 } // namespace
 
 void applyStyle(QApplication& application) {
     QPalette palette = application.palette();
-    if (palette.color(QPalette::Window).lightness() >= kLightDesktop) {
+    const bool isDark = palette.color(QPalette::Window).lightness() < kLightDesktop;
+    if (!isDark) {
         palette.setColor(QPalette::Window, QColor(kPage));
         palette.setColor(QPalette::Base, Qt::white);
         palette.setColor(QPalette::Button, Qt::white);
@@ -90,5 +98,7 @@ void applyStyle(QApplication& application) {
     }
     palette.setColor(QPalette::Highlight, QColor(kProductColour));
     application.setPalette(palette);
+    if (isDark)
+        lightenIndicators(palette);
     application.setStyleSheet(kStyleSheet);
 }

@@ -34,5 +34,12 @@ TEST_F(Look, ADarkDesktopKeepsItsOwnColours) {
     EXPECT_EQ(pageOn(QColor(0x20, 0x20, 0x20)), QColor(0x20, 0x20, 0x20));
 }
 
+TEST_F(Look, ADarkDesktopHasCheckBoxesWithAnOutlineThatShows) {
+    qApp->setPalette(QPalette(QColor(0x3A, 0x3A, 0x3A), QColor(0x20, 0x20, 0x20)));
+    applyStyle(*qApp);
+    EXPECT_GT(QApplication::palette("QCheckBox").color(QPalette::Window).lightness(), 128);
+    EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+}
+
 } // namespace
 } // namespace tavrelion::tests
