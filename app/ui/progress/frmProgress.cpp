@@ -8,9 +8,12 @@
 #include "ui/form/FormRegistry.h"
 #include "ui_frmProgress.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QHeaderView>
 #include <QToolButton>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -22,6 +25,8 @@ constexpr std::chrono::milliseconds kPollInterval{500};
 /// Pixels, of cmdViewLog until its window is laid out: captions are shortened by the width while the window loads, and
 /// no language needs more than this.
 constexpr int kInitialButtonWidth = 240;
+constexpr std::chrono::milliseconds kPatienceForPlace{300};
+constexpr int kPlacingStep = 20;  ///< milliseconds
 constexpr int kColumnWidth = 140; ///< pixels, at least; the last column takes what is left
 
 enum Tab { General, Details };
@@ -40,6 +45,13 @@ void prepareTabs(QTabBar& tabs) {
     hideFromCaptionPass(tabs);
     tabs.addTab("General");
     tabs.addTab("Details");
+}
+
+/// Waits until the desktop has put the window somewhere: a question that is centred on it has to know where.
+void waitForPlace(const QWidget& window) {
+    QDeadlineTimer deadline(kPatienceForPlace);
+    while (window.isVisible() && !window.windowHandle()->isExposed() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kPlacingStep);
 }
 
 std::vector<QIcon> listIcons(const QDir& pictures) {
@@ -148,6 +160,7 @@ void frmProgress::Timer1_Timer() {
 
 void frmProgress::show() {
     showForm();
+    waitForPlace(*this);
 }
 
 void frmProgress::minimise() {

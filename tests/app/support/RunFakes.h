@@ -120,6 +120,8 @@ public:
     bool isUnloaded = false;
     bool areStageLabelsHidden = false;
     bool failsToSetBar = false;
+    bool failsToSetStatus = false;
+    bool failsToStopTimer = false;
     std::map<Button, bool> buttons;
     QString log;
     struct Row {
@@ -147,6 +149,8 @@ public:
         run::Form_Unload(*run);
     }
     void setStatus(const QString& caption) override {
+        if (failsToSetStatus)
+            throw std::runtime_error("the status line is broken");
         status = caption;
         statuses << caption;
         m_journal << "status " + caption;
@@ -162,6 +166,8 @@ public:
         m_journal << "timer on";
     }
     void stopTimer() override {
+        if (failsToStopTimer)
+            throw std::runtime_error("the timer is broken");
         isTimerOn = false;
         m_journal << "timer off";
     }
@@ -195,6 +201,7 @@ public:
     bool isMinimisedNow = false;
     bool isEnabled = true;
     bool failsToSetTexts = false;
+    bool failsToShow = false;
     std::map<Text, QString> texts;
     QString sourceToolTip = "design";
     std::map<Button, bool> buttons;
@@ -202,6 +209,8 @@ public:
     QString finishedDocument;
 
     void show() override {
+        if (failsToShow)
+            throw std::runtime_error("the main window is broken");
         isShown = true;
         m_journal << "main.show";
     }

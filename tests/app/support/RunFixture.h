@@ -48,7 +48,12 @@ protected:
     FakeWindows windows;
     struct Texts : StatusTexts {
         QStringList texts{"t0", "t1", "t2", "page %ld", " of %ld", "picture %ld", "writing %ld", "t7", "t8", "t9"};
-        QStringList lblProgressStatus() const override { return texts; }
+        bool isBroken = false;
+        QStringList lblProgressStatus() const override {
+            if (isBroken)
+                throw std::runtime_error("the language file is broken");
+            return texts;
+        }
         QString caption(const QString& key) const override { return '<' + key + '>'; }
     } statusTexts;
     std::unique_ptr<ProgressRun> progressRun;

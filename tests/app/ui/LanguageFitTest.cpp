@@ -142,8 +142,8 @@ TEST_F(LanguageFit, TheMainWindowKeepsItsSize) {
 TEST_F(LanguageFit, TheProgressWindowKeepsItsSizeWithEveryStatus) {
     inEveryLanguage([this](const QString& language) {
         const auto form = progressForm();
-        note(640 - form->minimumSizeHint().width(), language + " frmProgress (width)");
-        note(360 - form->minimumSizeHint().height(), language + " frmProgress (height)");
+        note(680 - form->minimumSizeHint().width(), language + " frmProgress (width)");
+        note(380 - form->minimumSizeHint().height(), language + " frmProgress (height)");
         const auto& status = *form->findChild<QLabel*>("lblStatus");
         const auto& tabs = *form->findChild<QTabBar*>("tabProgress");
         for (int tab = 0; tab < tabs.count(); ++tab)

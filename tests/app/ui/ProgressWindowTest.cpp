@@ -2,7 +2,10 @@
 #include "app/support/ShippedLanguages.h"
 #include "app/support/Standstill.h"
 #include "core/QtEventLoop.h"
+#include "services/LinkActions.h"
 #include "ui/form/FormRegistry.h"
+#include "ui/form/LinkLabel.h"
+#include "ui/form/Picture.h"
 #include "ui/progress/frmProgress.h"
 
 #include <QApplication>
@@ -196,6 +199,31 @@ TEST_F(ProgressWindow, TellsInItsDetailsWhatBecomesWhat) {
     start();
     EXPECT_EQ(child<QLineEdit>("txtSourcePath").text(), "/in/report.pdf");
     EXPECT_EQ(child<QLineEdit>("txtOutputPath").text(), "/pictures");
+}
+
+/// Notes what the links open.
+struct NotingOpener : SystemOpener {
+    QStringList opened;
+    bool canShow(const QString&) const override { return true; }
+    void open(const QString& target) override { opened << target; }
+};
+
+TEST_F(ProgressWindow, CarriesTheFiveLinks) {
+    NotingOpener opener;
+    LinkActions actions(opener, TAVRELION_SOURCE_FOLDER);
+    frmProgress& window = start();
+    window.carryLinks(actions);
+    for (const char* name : {"lblHelp", "lblOnline", "lblOtherProducts", "lblQuickTour", "lblWebsite"}) {
+        auto& label = child<LinkLabel>(name);
+        EXPECT_EQ(label.text(), GetCaption(languages, name)) << "not shortened";
+        opener.opened.clear();
+        QTest::mouseClick(&label, Qt::LeftButton);
+        QTest::keyClick(&label, Qt::Key_Return);
+        EXPECT_EQ(opener.opened.size(), 2);
+        QTest::mouseClick(&child<Picture>(QByteArray(name).replace("lbl", "img")), Qt::LeftButton);
+        EXPECT_EQ(opener.opened.size(), 3);
+    }
+    EXPECT_TRUE(window.isVisible());
 }
 
 TEST_F(ProgressWindow, IsWorkedByTheKeyboardAlone) {
