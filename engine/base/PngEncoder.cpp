@@ -1,6 +1,7 @@
 #include "base/PngEncoder.h"
 
 #include <algorithm>
+#include <cmath>
 #include <csetjmp>
 #include <new>
 
@@ -27,6 +28,10 @@ PixelFormat formatOf(PngPixels pixels) {
         return {8, PNG_COLOR_TYPE_PALETTE, 1};
     case PngPixels::Rgb8:
         return {8, PNG_COLOR_TYPE_RGB, 3};
+    case PngPixels::Gray16:
+        return {16, PNG_COLOR_TYPE_GRAY, 1};
+    case PngPixels::Rgb16:
+        return {16, PNG_COLOR_TYPE_RGB, 3};
     case PngPixels::GrayAlpha8:
         return {8, PNG_COLOR_TYPE_GRAY_ALPHA, 2};
     case PngPixels::RgbAlpha8:
@@ -37,6 +42,15 @@ PixelFormat formatOf(PngPixels pixels) {
 
 // Level 6 takes three times as long as 3 for pictures a few percent smaller; documents with many scans feel it.
 constexpr int kCompressionLevel = 3;
+
+constexpr double kInchesPerMetre = 1 / 0.0254;
+
+png_uint_32 dotsPerMetre(double dotsPerInch) {
+    return static_cast<png_uint_32>(std::lround(dotsPerInch * kInchesPerMetre));
+}
+
+/// libpng asks about profiles that it finds odd, and would leave the file without them; that is no fault of ours.
+void ignoreWarning(png_structp, png_const_charp) {}
 
 } // namespace
 
@@ -62,12 +76,13 @@ struct PngEncoder::State {
     }
 
     // In the functions below nothing with a destructor may live between setjmp and the calls that can jump.
-    bool begin(int width, int height, PngPixels pixels) {
+    bool begin(int width, int height, PngPixels pixels, const PngExtras& extras) {
         if (setjmp(png_jmpbuf(png)))
             return false;
         const PixelFormat format = formatOf(pixels);
         png_set_write_fn(png, this, &State::append, nullptr);
         png_set_compression_level(png, kCompressionLevel);
+        png_set_benign_errors(png, 1);
         png_set_user_limits(png, 0x7fffffff, 0x7fffffff);
         png_set_IHDR(png, info, static_cast<png_uint_32>(width), static_cast<png_uint_32>(height), format.bitDepth,
                      format.colorType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
@@ -75,6 +90,13 @@ struct PngEncoder::State {
             png_set_PLTE(png, info, palette.data(), static_cast<int>(palette.size()));
         if (!paletteAlpha.empty())
             png_set_tRNS(png, info, paletteAlpha.data(), static_cast<int>(paletteAlpha.size()), nullptr);
+        if (extras.dotsPerInchX > 0 && extras.dotsPerInchY > 0)
+            png_set_pHYs(png, info, dotsPerMetre(extras.dotsPerInchX), dotsPerMetre(extras.dotsPerInchY),
+                         PNG_RESOLUTION_METER);
+        if (!extras.colorProfile.empty())
+            png_set_iCCP(png, info, "ICC profile", PNG_COMPRESSION_TYPE_BASE,
+                         reinterpret_cast<png_const_bytep>(extras.colorProfile.data()),
+                         static_cast<png_uint_32>(extras.colorProfile.size()));
         png_write_info(png, info);
         return true;
     }
@@ -99,7 +121,8 @@ std::size_t pngRowBytes(PngPixels pixels, int width) {
     return (bits + 7) / 8;
 }
 
-PngEncoder::PngEncoder(int width, int height, PngPixels pixels, const std::vector<PngPaletteEntry>& palette)
+PngEncoder::PngEncoder(int width, int height, PngPixels pixels, const std::vector<PngPaletteEntry>& palette,
+                       const PngExtras& extras)
     : m_state(std::make_unique<State>()) {
     m_state->picture.format = PictureFormat::Png;
     m_state->picture.pixelWidth = width;
@@ -109,11 +132,11 @@ PngEncoder::PngEncoder(int width, int height, PngPixels pixels, const std::vecto
     if (std::any_of(palette.begin(), palette.end(), [](const PngPaletteEntry& entry) { return entry.alpha != 255; }))
         for (const PngPaletteEntry& entry : palette)
             m_state->paletteAlpha.push_back(entry.alpha);
-    m_state->png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    m_state->png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, ignoreWarning);
     if (!m_state->png)
         throw std::bad_alloc();
     m_state->info = png_create_info_struct(m_state->png);
-    if (!m_state->info || !m_state->begin(width, height, pixels))
+    if (!m_state->info || !m_state->begin(width, height, pixels, extras))
         throw std::bad_alloc();
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace orvane {
@@ -16,6 +17,8 @@ enum class PngPixels : std::uint8_t {
     Palette1, ///< eight pixels a byte, the first in the highest bit, indices into a palette of two
     Palette8, ///< one byte a pixel, an index into the palette
     Rgb8,
+    Gray16, ///< the upper byte first, as in Rgb16
+    Rgb16,
     GrayAlpha8,
     RgbAlpha8,
 };
@@ -23,6 +26,13 @@ enum class PngPixels : std::uint8_t {
 struct PngPaletteEntry {
     Color color;
     std::uint8_t alpha = 255;
+};
+
+/// What a PNG may say beside its pixels.
+struct PngExtras {
+    double dotsPerInchX = 0; ///< 0: not said
+    double dotsPerInchY = 0;
+    std::string colorProfile; ///< ICC profile of the pixels' colours; empty for none
 };
 
 /// Bytes of one row of `width` pixels.
@@ -33,7 +43,8 @@ class PngEncoder {
 public:
     /// `palette` is for PngPixels::Palette1 and Palette8.
     /// Requires: width, height > 0.
-    PngEncoder(int width, int height, PngPixels pixels, const std::vector<PngPaletteEntry>& palette = {});
+    PngEncoder(int width, int height, PngPixels pixels, const std::vector<PngPaletteEntry>& palette = {},
+               const PngExtras& extras = {});
     ~PngEncoder();
     PngEncoder(const PngEncoder&) = delete;
     PngEncoder& operator=(const PngEncoder&) = delete;

@@ -65,18 +65,23 @@ void addWhereAndHow(CLI::App& command, ConvertOptions& options) {
         ->type_name("LAYOUT");
 }
 
+/// What all commands that work through pages take.
+void addRunOptions(CLI::App& command, std::string& pages, std::string& passwordFile, std::string& log) {
+    command.add_option("--pages", pages, "Pages to take, such as 1-3,7. Default: all")->type_name("RANGE");
+    command.add_option("--password-file", passwordFile, kPasswordHelp)->type_name("FILE");
+    command.add_option("--log", log, "Append a record of each conversion to FILE")->type_name("FILE");
+}
+
 void addConvert(CLI::App& app, ConvertOptions& options) {
     CLI::App& command = *app.add_subcommand("convert", "Convert PDF files to word processor documents:\n"
                                                        "  orvane convert IN.pdf [OUT.docx]\n"
                                                        "  orvane convert A.pdf B.pdf ... --out-dir DIR --to docx");
     addWhereAndHow(command, options);
-    command.add_option("--pages", options.pages, "Pages to take, such as 1-3,7. Default: all")->type_name("RANGE");
-    command.add_option("--password-file", options.passwordFile, kPasswordHelp)->type_name("FILE");
+    addRunOptions(command, options.pages, options.passwordFile, options.log);
     command.add_flag("--no-images", options.removeImages, "Leave pictures out");
     command.add_flag("--keep-spacing", options.keepSpacing,
                      "Set the distances between characters exactly as in the\n"
                      "PDF, instead of leaving them to the word processor");
-    command.add_option("--log", options.log, "Append a record of each conversion to FILE")->type_name("FILE");
     command.add_flag("--json", options.json, "Print one JSON object a file instead of text");
     command
         .add_option("--jobs", options.jobs,
@@ -111,6 +116,25 @@ void addInspect(CLI::App& app, InspectOptions& options) {
     command.add_option("--password-file", options.passwordFile, kPasswordHelp)->type_name("FILE");
 }
 
+void addImages(CLI::App& app, ImagesOptions& options) {
+    CLI::App& command =
+        *app.add_subcommand("images", "Take the pictures out of a PDF file:\n  orvane images IN.pdf DIR");
+    command.add_option("FILE", options.file, "The PDF")->required()->type_name("");
+    command.add_option("DIR", options.folder, "Where the files go; made if need be")->required()->type_name("");
+    addNameOption(command, "--format",
+                  "bmp, jpg, pbm, pcx, png, pnm, ppm, psd or tiff; or\n"
+                  "original (default): the bytes as they stand in the PDF\n"
+                  "where these are a picture file, png for the others",
+                  [&options](const std::string& name) {
+                      const auto format = protocol::imageFormatFromString(name);
+                      options.format = format.value_or(ImageFileFormat::Original);
+                      return format.has_value();
+                  })
+        ->type_name("FORMAT");
+    addRunOptions(command, options.pages, options.passwordFile, options.log);
+    command.add_flag("--json", options.json, "Print a JSON object instead of text");
+}
+
 /// What the option types cannot say; empty when all is well.
 std::string findContradiction(const ConvertOptions& options) {
     if (!options.outputFolder && options.files.size() > 2)
@@ -124,11 +148,13 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
     ConvertOptions convert;
     InfoOptions info;
     InspectOptions inspect;
+    ImagesOptions images;
     CLI::App app("Orvane converts PDF files to word processor documents.", "orvane");
     app.set_version_flag("--version", "orvane " ORVANE_VERSION);
     app.require_subcommand(1);
     app.footer(exitCodeHelp());
     addConvert(app, convert);
+    addImages(app, images);
     addInfo(app, info);
     addInspect(app, inspect);
     for (CLI::App* command : app.get_subcommands({}))
@@ -143,6 +169,8 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
         return Command(info);
     if (app.got_subcommand("inspect"))
         return Command(inspect);
+    if (app.got_subcommand("images"))
+        return Command(images);
     if (const std::string contradiction = findContradiction(convert); !contradiction.empty()) {
         err << contradiction << "\nRun with --help for more information.\n";
         return static_cast<int>(ExitCode::Usage);

@@ -41,7 +41,18 @@ struct InspectOptions {
     std::string passwordFile;
 };
 
-using Command = std::variant<ConvertOptions, InfoOptions, InspectOptions>;
+/// `orvane images` as it was typed.
+struct ImagesOptions {
+    std::string file;
+    std::string folder;
+    ImageFileFormat format = ImageFileFormat::Original;
+    std::string pages;
+    std::string passwordFile;
+    std::string log;
+    bool json = false;
+};
+
+using Command = std::variant<ConvertOptions, InfoOptions, InspectOptions, ImagesOptions>;
 
 /// Either a command, or the code to leave with: the help was asked for and written to `out`, or the line was wrong, and
 /// `err` got why.

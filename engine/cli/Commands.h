@@ -16,6 +16,9 @@ struct Streams {
 /// `orvane convert`.
 ExitCode convert(const ConvertOptions& options, const Streams& streams);
 
+/// `orvane images`.
+ExitCode images(const ImagesOptions& options, const Streams& streams);
+
 /// `orvane info`.
 ExitCode info(const InfoOptions& options, const Streams& streams);
 

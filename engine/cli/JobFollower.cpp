@@ -32,6 +32,8 @@ void take(const Message& message, Outcome& outcome, const StatusAction& onStatus
                 outcome.source = m;
             else if constexpr (std::is_same_v<Type, PageReport>)
                 outcome.pages.push_back(m);
+            else if constexpr (std::is_same_v<Type, PictureReport>)
+                outcome.pictures.push_back(m);
             else if constexpr (std::is_same_v<Type, Finished>)
                 outcome.finished = m;
             else

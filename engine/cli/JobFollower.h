@@ -14,9 +14,10 @@ struct Outcome {
     protocol::Job job;
     std::optional<protocol::Accepted> accepted;
     std::vector<Diagnostic> diagnostics;
-    std::optional<protocol::SourceReport> source; ///< of Task::Inspect
-    std::vector<protocol::PageReport> pages;      ///< of Task::Inspect
-    std::optional<protocol::Finished> finished;   ///< empty when it was not done; then there is
+    std::optional<protocol::SourceReport> source;  ///< of Task::Inspect
+    std::vector<protocol::PageReport> pages;       ///< of Task::Inspect
+    std::vector<protocol::PictureReport> pictures; ///< of Layout::Images
+    std::optional<protocol::Finished> finished;    ///< empty when it was not done; then there is
     std::optional<protocol::Failed> failure;
 };
 

@@ -43,6 +43,14 @@ std::string pageSizes(const std::vector<PageReport>& pages) {
                : fmt::format("{} and {} more", sizes.front(), counted(static_cast<int>(sizes.size()) - 1, "size"));
 }
 
+/// How many notes there are, and where to find them.
+std::string notesPart(const Outcome& outcome) {
+    if (outcome.finished->diagnostics == 0)
+        return "";
+    return fmt::format(", {} ({})", counted(outcome.finished->diagnostics, "note"),
+                       outcome.job.logPath.empty() ? "--log FILE keeps them" : "see the log");
+}
+
 const char* yesOrNo(bool value) {
     return value ? "yes" : "no";
 }
@@ -54,11 +62,14 @@ ExitCode exitCodeOf(const Outcome& outcome) {
 }
 
 std::string successLine(const Outcome& outcome) {
-    std::string line = fmt::format("{}: {}", outcome.job.target, counted(outcome.accepted->selectedPages, "page"));
-    if (outcome.finished->diagnostics > 0)
-        line += fmt::format(", {} ({})", counted(outcome.finished->diagnostics, "note"),
-                            outcome.job.logPath.empty() ? "--log FILE keeps them" : "see the log");
-    return line;
+    return fmt::format("{}: {}{}", outcome.job.target, counted(outcome.accepted->selectedPages, "page"),
+                       notesPart(outcome));
+}
+
+std::string picturesLine(const Outcome& outcome) {
+    return fmt::format("{}: {} of {}{}", outcome.job.target,
+                       counted(static_cast<int>(outcome.pictures.size()), "picture"),
+                       counted(outcome.accepted->selectedPages, "page"), notesPart(outcome));
 }
 
 std::string failureLine(const Outcome& outcome) {

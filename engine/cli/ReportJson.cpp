@@ -41,15 +41,44 @@ ordered_json notesJson(const std::vector<Diagnostic>& diagnostics) {
     return notes;
 }
 
-} // namespace
-
-std::string conversionJson(const Outcome& outcome) {
+/// What the outcomes of all runs tell first.
+ordered_json runJson(const Outcome& outcome) {
     ordered_json object{{"source", outcome.job.source}, {"target", outcome.job.target}};
     addFailure(outcome, object);
     if (outcome.accepted) {
         object["pageCount"] = outcome.accepted->pageCount;
         object["selectedPages"] = outcome.accepted->selectedPages;
     }
+    return object;
+}
+
+ordered_json pictureJson(const PictureReport& picture) {
+    ordered_json parts = ordered_json::array();
+    for (const PictureReport::Part& part : picture.parts)
+        parts.push_back({{"object", part.objectNumber}, {"x", part.x}, {"y", part.y}});
+    return {{"file", picture.file},
+            {"width", picture.width},
+            {"height", picture.height},
+            {"pages", picture.pages},
+            {"parts", std::move(parts)}};
+}
+
+} // namespace
+
+std::string imagesJson(const Outcome& outcome) {
+    ordered_json object = runJson(outcome);
+    object["format"] = toString(outcome.job.imageFormat);
+    object["pictures"] = ordered_json::array();
+    for (const PictureReport& picture : outcome.pictures)
+        object["pictures"].push_back(pictureJson(picture));
+    if (outcome.finished)
+        object["seconds"] = outcome.finished->seconds;
+    object["notes"] = notesJson(outcome.diagnostics);
+    return toLine(object);
+}
+
+std::string conversionJson(const Outcome& outcome) {
+    ordered_json object = runJson(outcome);
     if (outcome.finished) {
         object["counts"] = countsJson(outcome.finished->counts);
         object["seconds"] = outcome.finished->seconds;

@@ -34,6 +34,13 @@ Layout readLayout(std::int16_t code) {
     }
 }
 
+ImageFileFormat readImageFormat(std::int16_t code) {
+    // The formats stand in the order of their codes; the last of them has none.
+    if (code < 0 || code >= static_cast<std::int16_t>(ImageFileFormat::Original))
+        throw Failure(FailureCode::InvalidRequest, fmt::format("there is no picture format with the code {}", code));
+    return static_cast<ImageFileFormat>(code);
+}
+
 PasswordPair readPasswords(const std::string& text, std::int32_t flags) {
     constexpr std::int32_t kBothAsked = flag::kUserPasswordAsked | flag::kOwnerPasswordAsked;
     const std::size_t separator =

@@ -23,7 +23,12 @@ PasswordPair readPasswords(const std::string& text, std::int32_t flags);
 /// Errors: Failure(InvalidRequest) for a code that is none.
 protocol::Layout readLayout(std::int16_t code);
 
-/// The job that a request asks for, but for its layout: what makes no sense there is to be told in the job's own log.
+/// The format of picture files that a request's code stands for.
+/// Errors: Failure(InvalidRequest) for a code that is none.
+ImageFileFormat readImageFormat(std::int16_t code);
+
+/// The job that a request asks for, but for its layout and the format of pictures: what makes no sense there is to be
+/// told in the job's own log.
 protocol::Job readRequest(const ConversionRequest& request);
 
 } // namespace orvane::component

@@ -46,6 +46,8 @@ std::int32_t WorkerEngine::convert(const ConversionRequest& request) {
     Job job = readRequest(request);
     try {
         job.layout = readLayout(request.layoutCode);
+        if (job.layout == Layout::Images)
+            job.imageFormat = readImageFormat(request.imageFormat);
         m_worker = std::make_unique<WorkerProcess>(m_workerProgram, job);
     } catch (const Failure& failure) {
         return resultFor(refuseUnstarted(job, failure).code);

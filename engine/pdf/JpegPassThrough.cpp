@@ -1,6 +1,7 @@
 #include "pdf/JpegPassThrough.h"
 
 #include "pdf/JpegHeader.h"
+#include "pdf/SampleColors.h"
 
 #include <cmath>
 #include <string>
@@ -24,13 +25,6 @@ bool isPlainColorSpace(GfxColorSpace& space, int components) {
     default:
         return false;
     }
-}
-
-bool hasDefaultDecode(const GfxImageColorMap& colors, int components) {
-    for (int i = 0; i < components; ++i)
-        if (std::abs(colors.getDecodeLow(i)) > 1e-6 || std::abs(colors.getDecodeHigh(i) - 1) > 1e-6)
-            return false;
-    return true;
 }
 
 std::string readAll(::Stream& stream) {
@@ -57,21 +51,38 @@ bool hasColorTransformHint(::Stream& stream) {
     return false;
 }
 
+/// A CMYK file is inverted outside of PDF, so the PDF has to invert it too.
+bool isInvertedCmyk(GfxImageColorMap& colors) {
+    const GfxColorSpaceMode mode = colors.getColorSpace()->getMode();
+    if (colors.getNumPixelComps() != 4 || (mode != csDeviceCMYK && mode != csICCBased))
+        return false;
+    for (int i = 0; i < 4; ++i)
+        if (std::abs(colors.getDecodeLow(i) - 1) > 1e-6 || std::abs(colors.getDecodeHigh(i)) > 1e-6)
+            return false;
+    return true;
+}
+
 } // namespace
 
-std::optional<PictureData> jpegAsItStands(::Stream& stream, GfxImageColorMap& colors) {
-    if (stream.getKind() != strDCT || !stream.getNextStream())
-        return std::nullopt;
-    const int components = colors.getNumPixelComps();
-    if (!isPlainColorSpace(*colors.getColorSpace(), components) || !hasDefaultDecode(colors, components))
-        return std::nullopt;
-    std::string bytes = readAll(*stream.getNextStream());
+bool showsItsColors(const std::string& bytes, ::Stream& stream, GfxImageColorMap& colors) {
     const auto header = readJpegHeader(bytes);
+    const int components = colors.getNumPixelComps();
     if (!header || header->components != components || header->bits != 8 || header->width <= 0 || header->height <= 0)
-        return std::nullopt;
-    if (!header->isCommonProcess || header->isRgb || (components == 3 && hasColorTransformHint(stream)))
-        return std::nullopt;
+        return false;
+    if (!header->isCommonProcess || header->isRgb || (components >= 3 && hasColorTransformHint(stream)))
+        return false;
+    return isInvertedCmyk(colors) ||
+           (isPlainColorSpace(*colors.getColorSpace(), components) && hasDefaultDecode(colors));
+}
 
+std::optional<PictureData> jpegAsItStands(::Stream& stream, GfxImageColorMap& colors) {
+    // Word processors differ in what they make of CMYK.
+    if (stream.getKind() != strDCT || !stream.getNextStream() || colors.getNumPixelComps() == 4)
+        return std::nullopt;
+    const std::string bytes = readAll(*stream.getNextStream());
+    if (!showsItsColors(bytes, stream, colors))
+        return std::nullopt;
+    const auto header = readJpegHeader(bytes);
     PictureData picture{PictureFormat::Jpeg, header->width, header->height, {}};
     const auto* first = reinterpret_cast<const std::byte*>(bytes.data());
     picture.bytes.assign(first, first + bytes.size());

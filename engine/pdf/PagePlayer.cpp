@@ -87,7 +87,7 @@ PageSlice sliceOf(const Rect& region, double scale) {
 }
 
 void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
-              const PageSlice& slice) {
+              const PageSlice& slice, PlayedAnnotations played) {
     const double dpi = 72.0 * userUnitOf(page) * slice.scale;
     const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, slice.x, slice.y, slice.width,
                                                     slice.height, false, &TimeBudget::isSpent, &budget,
@@ -95,7 +95,7 @@ void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget&
     playContent(page, *gfx, repair);
     if (::Annots* annotations = page.getAnnots())
         for (::Annot* annotation : annotations->getAnnots())
-            if (isPartOfPage(annotation, nullptr) && !budget.isSpent())
+            if ((played == PlayedAnnotations::All || isPartOfPage(annotation, nullptr)) && !budget.isSpent())
                 annotation->draw(gfx.get(), false);
 }
 

@@ -49,9 +49,14 @@ struct PageSlice {
 /// The pixels that cover a part of the page at `scale` pixels a point.
 PageSlice sliceOf(const Rect& region, double scale);
 
-/// Interprets a page's content and the annotations that are part of it on a device. Without a slice the device's space
-/// is page space.
+/// Which annotations are played with a page.
+enum class PlayedAnnotations : std::uint8_t {
+    PartOfPage, ///< see isPartOfPage()
+    All,        ///< all that are shown
+};
+
+/// Interprets a page's content and its annotations on a device. Without a slice the device's space is page space.
 void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
-              const PageSlice& slice = {});
+              const PageSlice& slice = {}, PlayedAnnotations annotations = PlayedAnnotations::PartOfPage);
 
 } // namespace orvane::pdf

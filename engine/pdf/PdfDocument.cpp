@@ -9,6 +9,7 @@
 #include "pdf/LinkReader.h"
 #include "pdf/MaskedPictures.h"
 #include "pdf/OutlineReader.h"
+#include "pdf/PagePicturesImpl.h"
 #include "pdf/PagePlayer.h"
 #include "pdf/PageReader.h"
 #include "pdf/PageSpace.h"
@@ -67,6 +68,17 @@ struct PdfDocument::Impl {
             paintMaskedPictures(content, reader.transparency().maskedPictures(), page, *document, repair,
                                 *options.pictures, diagnostics);
         return content;
+    }
+
+    /// The pictures that the page's content paints.
+    std::unique_ptr<PagePictures::Impl> collect(::Page& page, TimeBudget& budget, ContentRepair repair,
+                                                Diagnostics& diagnostics) {
+        PictureCollector collector(*document, budget);
+        playPage(page, *document, collector, budget, repair, {}, PlayedAnnotations::All);
+        if (collector.oversizedInlines() > 0)
+            diagnostics.add(DiagnosticKind::PictureUnreadable, page.getNum(),
+                            fmt::format("{} inline pictures are too large", collector.oversizedInlines()));
+        return std::make_unique<PagePictures::Impl>(*document, collector.takePainted(), collector.takeCollected());
     }
 
     ::Page* page(int number) {
@@ -155,6 +167,28 @@ PageContent PdfDocument::readPage(int number, const PageReadOptions& options, Di
                         "the page's content takes too long; the rest of it is left out");
     tellComplaints(complaints, number, diagnostics);
     return content;
+}
+
+PagePictures PdfDocument::paintedPictures(int number, Diagnostics& diagnostics) const {
+    ::Page* page = m_impl->page(number);
+    if (!page || !page->isOk()) {
+        diagnostics.add(DiagnosticKind::PageUnreadable, number, "the page cannot be read");
+        return PagePictures(std::make_unique<PagePictures::Impl>(*m_impl->document));
+    }
+    const ComplaintCollector complaints;
+    TimeBudget budget(PageReadOptions().timeBudget);
+    Diagnostics own;
+    auto pictures = m_impl->collect(*page, budget, ContentRepair::None, own);
+    if (complaints.hasSurplusRestore()) {
+        own = Diagnostics();
+        pictures = m_impl->collect(*page, budget, ContentRepair::SurplusRestores, own);
+    }
+    diagnostics.append(own);
+    if (budget.isSpent())
+        diagnostics.add(DiagnosticKind::TimeBudgetExceeded, number,
+                        "the page's content takes too long; the rest of it is left out");
+    tellComplaints(complaints, number, diagnostics);
+    return PagePictures(std::move(pictures));
 }
 
 PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch) const {

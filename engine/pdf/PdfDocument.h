@@ -3,6 +3,7 @@
 #include "base/Diagnostic.h"
 #include "base/PictureStore.h"
 #include "pdf/PageContent.h"
+#include "pdf/PagePictures.h"
 
 #include <chrono>
 #include <filesystem>
@@ -40,7 +41,7 @@ struct OutlineEntry {
 
 /// One element of the structure tree. Source: ISO 32000-1, 14.7.
 struct StructureElement {
-    std::string type;          ///< standard type after the role map: "P", "H1", "Table", "L", ...
+    std::string type; ///< standard type after the role map: "P", "H1", "Table", "L", ...
     std::string title;
     std::string alternateText;
     std::string actualText;
@@ -58,15 +59,17 @@ struct StructureElement {
 
 /// What a page's own dictionary says.
 struct PageInfo {
-    double width = 0;          ///< points, as shown
+    double width = 0; ///< points, as shown
     double height = 0;
     int rotation = 0;
     std::string label;
 };
 
 struct PageReadOptions {
-    PictureStore* pictures = nullptr; ///< takes the page's pictures as they are read; null leaves them out. One for all pages.
-    std::chrono::milliseconds timeBudget{30'000}; ///< no page that a person made takes this long; the rest of it is left out
+    PictureStore* pictures =
+        nullptr; ///< takes the page's pictures as they are read; null leaves them out. One for all pages.
+    std::chrono::milliseconds timeBudget{
+        30'000}; ///< no page that a person made takes this long; the rest of it is left out
 };
 
 /// An open PDF.
@@ -93,7 +96,11 @@ public:
     /// Reads one page. Damage is told to `diagnostics`; what can be read is returned.
     PageContent readPage(int page, const PageReadOptions& options, Diagnostics& diagnostics) const;
 
-    /// Paints part of a page (page space, points) as a PNG with a white ground. Used for drawings too rich to take apart.
+    /// The pictures that a page and its annotations paint. Damage is told to `diagnostics`.
+    PagePictures paintedPictures(int page, Diagnostics& diagnostics) const;
+
+    /// Paints part of a page (page space, points) as a PNG with a white ground. Used for drawings too rich to take
+    /// apart.
     PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch) const;
 
 private:

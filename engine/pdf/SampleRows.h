@@ -24,6 +24,8 @@ public:
 
     /// The samples for row `y` of `height`; null below the end of the data. Requires: y does not go back.
     const std::uint8_t* at(int y, int height);
+    /// The row that at() gave last as it stands in the data.
+    const std::uint8_t* packed() const { return m_packed.data(); }
 
 private:
     void readRow();

@@ -36,6 +36,8 @@ std::string pageLine(const Job& job, const LogRecord& record) {
 }
 
 std::string optionLine(const Job& job) {
+    if (job.layout == Layout::Images)
+        return fmt::format("options:  layout {}, format {}\n", toString(job.layout), toString(job.imageFormat));
     return fmt::format("options:  layout {}, format {}, pictures {}, character spacing {}\n", toString(job.layout),
                        toString(job.format), job.pictures == Pictures::Keep ? "kept" : "removed",
                        job.characterSpacing == CharacterSpacing::Exact ? "as in the source" : "automatic");
@@ -67,7 +69,20 @@ std::string diagnosticLines(const std::vector<Diagnostic>& diagnostics) {
     return text;
 }
 
-std::string countLine(const Counts& counts) {
+std::string pictureLines(const std::vector<PictureReport>& pictures) {
+    std::string text;
+    for (const PictureReport& picture : pictures) {
+        const char* plural = picture.pages.size() == 1 ? "" : "s";
+        text += fmt::format("picture:  {}, {} x {} pixels, page{} {}", oneLine(picture.file), picture.width,
+                            picture.height, plural, formatPages(picture.pages));
+        text += picture.parts.size() > 1 ? fmt::format(", {} pieces\n", picture.parts.size()) : "\n";
+    }
+    return text;
+}
+
+std::string countLine(const Job& job, const Counts& counts) {
+    if (job.layout == Layout::Images)
+        return fmt::format("counts:   pictures {} read, {} written\n", counts.picturesRead, counts.picturesWritten);
     return fmt::format(
         "counts:   characters {} read, {} written; pictures {} read, {} written; links {} read, {} written\n",
         counts.charactersRead, counts.charactersWritten, counts.picturesRead, counts.picturesWritten, counts.linksRead,
@@ -98,8 +113,9 @@ std::string formatLogRecord(const Job& job, const LogRecord& record) {
         text += diagnosticLines(record.diagnostics);
     for (const std::string& remark : record.remarks)
         text += fmt::format("remark:   {}\n", oneLine(remark));
+    text += pictureLines(record.pictures);
     if (record.counts)
-        text += countLine(*record.counts);
+        text += countLine(job, *record.counts);
     text += fmt::format("time:     {:.2f} s\n", record.seconds);
     text += resultLine(record);
     return text + "\n";

@@ -20,9 +20,10 @@ struct LogRecord {
     double seconds = 0;
     std::optional<Accepted> accepted; ///< empty when the job was not begun
     std::vector<Diagnostic> diagnostics;
-    std::optional<Counts> counts;     ///< of a job that was done
-    std::optional<Failed> failure;    ///< of one that was not
-    std::vector<std::string> remarks; ///< about the run itself, a line each
+    std::vector<PictureReport> pictures; ///< files that were written
+    std::optional<Counts> counts;        ///< of a job that was done
+    std::optional<Failed> failure;       ///< of one that was not
+    std::vector<std::string> remarks;    ///< about the run itself, a line each
 };
 
 /// The record as text. Of equal diagnostics one line stands with the pages that have it; of one kind no more than a

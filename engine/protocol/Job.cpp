@@ -15,6 +15,16 @@ constexpr EnumNames<Layout, 5> kLayouts{{{Layout::Flowing, "flowing"},
                                          {Layout::PlainText, "plain-text"},
                                          {Layout::Images, "images"}}};
 constexpr EnumNames<Format, 3> kFormats{{{Format::Docx, "docx"}, {Format::Doc, "doc"}, {Format::Rtf, "rtf"}}};
+constexpr EnumNames<ImageFileFormat, 10> kImageFormats{{{ImageFileFormat::Bmp, "bmp"},
+                                                        {ImageFileFormat::Jpg, "jpg"},
+                                                        {ImageFileFormat::Pbm, "pbm"},
+                                                        {ImageFileFormat::Pcx, "pcx"},
+                                                        {ImageFileFormat::Png, "png"},
+                                                        {ImageFileFormat::Pnm, "pnm"},
+                                                        {ImageFileFormat::Ppm, "ppm"},
+                                                        {ImageFileFormat::Psd, "psd"},
+                                                        {ImageFileFormat::Tiff, "tiff"},
+                                                        {ImageFileFormat::Original, "original"}}};
 constexpr EnumNames<Pictures, 2> kPictures{{{Pictures::Keep, "keep"}, {Pictures::Remove, "remove"}}};
 constexpr EnumNames<CharacterSpacing, 2> kSpacings{
     {{CharacterSpacing::Automatic, "automatic"}, {CharacterSpacing::Exact, "exact"}}};
@@ -31,11 +41,17 @@ const char* toString(Layout layout) {
 const char* toString(Format format) {
     return nameOf(kFormats, format);
 }
+const char* toString(ImageFileFormat format) {
+    return nameOf(kImageFormats, format);
+}
 std::optional<Layout> layoutFromString(std::string_view name) {
     return valueOf(kLayouts, name);
 }
 std::optional<Format> formatFromString(std::string_view name) {
     return valueOf(kFormats, name);
+}
+std::optional<ImageFileFormat> imageFormatFromString(std::string_view name) {
+    return valueOf(kImageFormats, name);
 }
 
 std::string encodeJob(const Job& job) {
@@ -47,6 +63,7 @@ std::string encodeJob(const Job& job) {
                                 {"pageRange", percentEncoded(job.pageRange)},
                                 {"layout", toString(job.layout)},
                                 {"format", toString(job.format)},
+                                {"imageFormat", toString(job.imageFormat)},
                                 {"pictures", nameOf(kPictures, job.pictures)},
                                 {"characterSpacing", nameOf(kSpacings, job.characterSpacing)},
                                 {"stage", percentEncoded(job.stage)},
@@ -72,6 +89,7 @@ Job decodeJob(std::string_view line) {
     job.pageRange = percentDecoded(reader.text("pageRange"));
     job.layout = reader.name("layout", kLayouts);
     job.format = reader.name("format", kFormats);
+    job.imageFormat = reader.name("imageFormat", kImageFormats);
     job.pictures = reader.name("pictures", kPictures);
     job.characterSpacing = reader.name("characterSpacing", kSpacings);
     job.stage = percentDecoded(reader.text("stage"));

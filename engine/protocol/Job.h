@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ImageFileFormat.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -47,11 +49,12 @@ struct Job {
     std::string ownerPassword;
     std::string pageRange; ///< empty: all pages
     Layout layout = Layout::Flowing;
-    Format format = Format::Docx;
+    Format format = Format::Docx;                            ///< of a document
+    ImageFileFormat imageFormat = ImageFileFormat::Original; ///< of Layout::Images
     Pictures pictures = Pictures::Keep;
     CharacterSpacing characterSpacing = CharacterSpacing::Automatic;
-    std::string stage; ///< of Task::Draw, by its name
-    std::string target;
+    std::string stage;           ///< of Task::Draw, by its name
+    std::string target;          ///< the document, or the folder of Layout::Images
     std::string logPath;         ///< empty: no log
     std::string scratchFolder;   ///< where the job makes a folder of its own; empty: the system's place for such files
     std::string applicationName; ///< stands in the log
@@ -62,8 +65,10 @@ struct Job {
 /// The names by which users and messages know these: "true-page", "docx".
 const char* toString(Layout layout);
 const char* toString(Format format);
+const char* toString(ImageFileFormat format);
 std::optional<Layout> layoutFromString(std::string_view name);
 std::optional<Format> formatFromString(std::string_view name);
+std::optional<ImageFileFormat> imageFormatFromString(std::string_view name);
 
 /// The job as one line without its line end.
 std::string encodeJob(const Job& job);

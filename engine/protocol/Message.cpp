@@ -1,6 +1,7 @@
 #include "protocol/Message.h"
 
 #include "protocol/JsonReader.h"
+#include "protocol/PercentText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +28,10 @@ constexpr EnumNames<JobStage, 10> kStages{{{JobStage::Opening, "opening"},
                                            {JobStage::Generating, "generating"},
                                            {JobStage::DocumentComplete, "documentComplete"},
                                            {JobStage::ImagesComplete, "imagesComplete"}}};
+
+// Of pages and parts of one picture; their numbers fit a line.
+constexpr std::size_t kMaxListed = 1000;
+constexpr std::size_t kMaxPages = 1'000'000;
 
 constexpr DiagnosticKind kLastDiagnosticKind = DiagnosticKind::TimeBudgetExceeded;
 
@@ -85,6 +90,28 @@ json toJson(const SourceReport& m) {
 json toJson(const PageReport& m) {
     return {{"type", "page"},         {"number", m.number},   {"width", finite(m.width)}, {"height", finite(m.height)},
             {"rotation", m.rotation}, {"label", cut(m.label)}};
+}
+
+/// Ascending numbers as pairs of the first and the last of those that follow each other.
+json toRanges(const std::vector<int>& numbers) {
+    json ranges = json::array();
+    for (std::size_t i = 0; i < numbers.size() && ranges.size() < kMaxListed;) {
+        std::size_t last = i;
+        while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1)
+            ++last;
+        ranges.push_back({numbers[i], numbers[last]});
+        i = last + 1;
+    }
+    return ranges;
+}
+
+json toJson(const PictureReport& m) {
+    json parts = json::array();
+    for (const PictureReport::Part& part : m.parts)
+        if (parts.size() < kMaxListed)
+            parts.push_back({part.objectNumber, part.x, part.y});
+    return {{"type", "picture"},  {"file", percentEncoded(m.file)}, {"width", m.width},
+            {"height", m.height}, {"pages", toRanges(m.pages)},     {"parts", std::move(parts)}};
 }
 
 json toJson(const Finished& m) {
@@ -167,6 +194,38 @@ Message readPage(JsonReader& reader) {
     return m;
 }
 
+/// An array of arrays of `count` whole numbers from 0 up.
+std::vector<std::vector<int>> readTuples(JsonReader& reader, const char* field, std::size_t count) {
+    std::vector<std::vector<int>> tuples;
+    for (const json& value : reader.array(field)) {
+        const bool isTuple = value.is_array() && value.size() == count &&
+                             std::all_of(value.begin(), value.end(), [](const json& number) {
+                                 return number.is_number_integer() && number.get<long long>() >= kCount.least &&
+                                        number.get<long long>() <= kCount.most;
+                             });
+        if (!isTuple)
+            throw ProtocolError("a list of numbers is none");
+        tuples.push_back(value.get<std::vector<int>>());
+    }
+    return tuples;
+}
+
+Message readPicture(JsonReader& reader) {
+    PictureReport m;
+    m.file = percentDecoded(reader.text("file"));
+    m.width = reader.integer("width", kCount);
+    m.height = reader.integer("height", kCount);
+    for (const std::vector<int>& range : readTuples(reader, "pages", 2))
+        for (long long page = range[0]; page <= range[1]; ++page) {
+            if (m.pages.size() == kMaxPages)
+                throw ProtocolError("a picture on more pages than there can be");
+            m.pages.push_back(static_cast<int>(page));
+        }
+    for (const std::vector<int>& part : readTuples(reader, "parts", 3))
+        m.parts.push_back({part[0], part[1], part[2]});
+    return m;
+}
+
 Message readFinished(JsonReader& reader) {
     Finished m;
     m.counts.charactersRead = reader.longInteger("charactersRead", kLongCount);
@@ -197,6 +256,8 @@ Message readByType(const std::string& type, JsonReader& reader) {
         return readSource(reader);
     if (type == "page")
         return readPage(reader);
+    if (type == "picture")
+        return readPicture(reader);
     if (type == "finished")
         return readFinished(reader);
     if (type == "failed") {

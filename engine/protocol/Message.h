@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 /// What a worker tells its starter, one message a line. The order: Accepted or Refused first; with Accepted any number
 /// of the reports; at last Finished or Failed. Nothing follows Refused, Finished or Failed.
@@ -54,6 +55,20 @@ struct PageReport {
     std::string label;
 };
 
+/// One file that a job of Layout::Images wrote. Reports of all files stand directly before Finished.
+struct PictureReport {
+    struct Part {
+        int objectNumber = 0; ///< of the source; 0: an inline picture
+        int x = 0;            ///< its place in the picture, pixels
+        int y = 0;
+    };
+    std::string file; ///< its name in the target folder
+    int width = 0;    ///< pixels
+    int height = 0;
+    std::vector<int> pages;  ///< that paint it, ascending; of very many the first
+    std::vector<Part> parts; ///< what was joined to this picture, mostly one; of very many the first
+};
+
 /// What a job read from its source and wrote to its target.
 struct Counts {
     std::int64_t charactersRead = 0; ///< that can be seen, blanks left out
@@ -80,8 +95,8 @@ struct Failed {
     SourceLocation where;
 };
 
-using Message =
-    std::variant<Accepted, Refused, StatusReport, DiagnosticReport, SourceReport, PageReport, Finished, Failed>;
+using Message = std::variant<Accepted, Refused, StatusReport, DiagnosticReport, SourceReport, PageReport, PictureReport,
+                             Finished, Failed>;
 
 /// No line of either side is longer than this, its line end left out.
 inline constexpr std::size_t kMaxLineLength = 64 * 1024;

@@ -1,5 +1,6 @@
 #include "protocol/PartFile.h"
 
+#include "base/FileStem.h"
 #include "protocol/FileDescriptor_posix.h"
 
 #include <fcntl.h>
@@ -13,6 +14,12 @@ std::filesystem::path finalTarget(const std::filesystem::path& target) {
         return target;
     std::filesystem::path resolved = std::filesystem::canonical(target, error);
     return error ? target : resolved;
+}
+
+std::filesystem::path writtenTarget(const Job& job) {
+    if (job.layout != Layout::Images)
+        return job.target;
+    return std::filesystem::path(job.target) / fileStem(job.source);
 }
 
 std::filesystem::path partPath(const std::filesystem::path& target) {

@@ -129,7 +129,7 @@ Message WorkerProcess::reportDeath(FailureCode code, const std::string& why) {
     const bool wasAccepted = m_state == State::Accepted;
     m_state = State::Ended;
     if (m_job.task == Task::Convert)
-        removeAbandonedPart(m_job.target);
+        removeAbandonedPart(writtenTarget(m_job));
 
     m_record.failure = Failed{code, why, {}};
     m_record.seconds = std::chrono::duration<double>(Clock::now() - m_start).count();

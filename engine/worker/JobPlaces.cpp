@@ -14,6 +14,10 @@ WritablePlaces placesOf(const protocol::Job& job) {
     }
     if (job.task == protocol::Task::Inspect)
         return places;
+    if (job.layout == protocol::Layout::Images) {
+        places.folders.emplace_back(job.target);
+        return places;
+    }
     const std::filesystem::path target = protocol::finalTarget(job.target);
     places.folders.push_back(target.has_parent_path() ? target.parent_path() : ".");
     std::error_code error;

@@ -1,14 +1,18 @@
 #include "worker/JobRunner.h"
 
 #include "base/Failure.h"
+#include "base/FileStem.h"
 #include "base/PageRange.h"
 #include "base/PictureStore.h"
 #include "layout/Layout.h"
 #include "layout/inspect/InspectPage.h"
 #include "pdf/PdfDocument.h"
+#include "pictures/PictureExtractor.h"
+#include "protocol/PartFile.h"
 #include "worker/Capabilities.h"
 #include "worker/ContentCounter.h"
 #include "worker/PageReader.h"
+#include "worker/PictureFolder.h"
 #include "worker/ScratchFolder.h"
 #include "worker/SourceFile.h"
 #include "worker/TargetFile.h"
@@ -62,6 +66,20 @@ void requireNotCancelled(const RunReporter& reporter) {
         throw Failure(FailureCode::Cancelled, "the conversion was cancelled");
 }
 
+void tellOfCutRange(const PageSelection& selection, const Job& job, int pageCount, Diagnostics& diagnostics) {
+    if (selection.wasCut)
+        diagnostics.add(
+            DiagnosticKind::PagesOutOfRange, 0,
+            fmt::format("the page range {} was cut to the {} pages of the document", job.pageRange, pageCount));
+}
+
+PictureReport reportOf(const pictures::PictureFile& file) {
+    PictureReport report{file.name, file.width, file.height, file.pages, {}};
+    for (const pictures::PictureFile::Part& part : file.parts)
+        report.parts.push_back({part.objectNumber, part.x, part.y});
+    return report;
+}
+
 SourceReport describe(const pdf::PdfDocument& document) {
     const pdf::Metadata metadata = document.metadata();
     return {document.pdfVersion(),
@@ -110,6 +128,8 @@ void JobRunner::run() {
             inspect();
         else if (m_job.task == Task::Draw)
             draw();
+        else if (m_job.layout == Layout::Images)
+            extractPictures();
         else
             convert();
     } catch (const Failure& failure) {
@@ -134,16 +154,13 @@ void JobRunner::convert() {
     const PageSelection selection = selectPages(m_job.pageRange, source.pageCount());
 
     TargetFile target(m_job.target);
-    const Lent lentTarget(m_mutex, m_target, target);
+    const Lent<AbandonableOutput> lentTarget(m_mutex, m_target, target);
     ScratchFolder scratch(m_job.scratchFolder);
     const Lent lentScratch(m_mutex, m_scratch, scratch);
     m_reporter.accept({source.pageCount(), static_cast<int>(selection.pages.size())});
 
     Diagnostics diagnostics;
-    if (selection.wasCut)
-        diagnostics.add(DiagnosticKind::PagesOutOfRange, 0,
-                        fmt::format("the page range {} was cut to the {} pages of the document", m_job.pageRange,
-                                    source.pageCount()));
+    tellOfCutRange(selection, m_job, source.pageCount(), diagnostics);
     m_reporter.stageReached(JobStage::Reading, 0, 0);
     PictureStore pictures(scratch.path());
     const layout::LayoutParameters parameters;
@@ -165,6 +182,35 @@ void JobRunner::convert() {
     countWritten(document, read.counts);
     m_reporter.stageReached(JobStage::DocumentComplete, 0, 0);
     m_reporter.finish(read.counts);
+}
+
+void JobRunner::extractPictures() {
+    m_reporter.stageReached(JobStage::Opening, 0, 0);
+    checkSource(m_job.source);
+    if (m_job.target.empty())
+        throw Failure(FailureCode::InvalidRequest, "no folder for the pictures is named");
+    const pdf::PdfDocument source = pdf::PdfDocument::open(m_job.source, {m_job.userPassword, m_job.ownerPassword});
+    const PageSelection selection = selectPages(m_job.pageRange, source.pageCount());
+    PictureFolder folder(m_job.target, partPath(writtenTarget(m_job)));
+    const Lent<AbandonableOutput> lentTarget(m_mutex, m_target, folder);
+    m_reporter.accept({source.pageCount(), static_cast<int>(selection.pages.size())});
+
+    Diagnostics diagnostics;
+    tellOfCutRange(selection, m_job, source.pageCount(), diagnostics);
+    m_reporter.report(diagnostics);
+    const pictures::PictureNames names(m_job.target, fileStem(m_job.source), source.pageCount());
+    const pictures::Extracted extracted =
+        pictures::extractPictures(source, {selection.pages, m_job.imageFormat}, names, folder, m_reporter,
+                                  [this](const Diagnostics& ofPage) { m_reporter.report(ofPage); });
+    if (!folder.finish())
+        return;
+    for (const pictures::PictureFile& file : extracted.files)
+        m_reporter.describe(reportOf(file));
+    m_reporter.stageReached(JobStage::ImagesComplete, 0, 0);
+    Counts counts;
+    counts.picturesRead = extracted.pictures;
+    counts.picturesWritten = static_cast<std::int64_t>(extracted.files.size());
+    m_reporter.finish(counts);
 }
 
 void JobRunner::inspect() {
@@ -192,7 +238,7 @@ void JobRunner::draw() {
     const int page = selectPages(m_job.pageRange, source.pageCount()).pages.front();
 
     TargetFile target(m_job.target);
-    const Lent lentTarget(m_mutex, m_target, target);
+    const Lent<AbandonableOutput> lentTarget(m_mutex, m_target, target);
     m_reporter.accept({source.pageCount(), 1});
     const std::vector<int> allPages = selectPages("", source.pageCount()).pages;
     const layout::LayoutParameters parameters;

@@ -8,8 +8,8 @@
 
 namespace orvane::worker {
 
+class AbandonableOutput;
 class ScratchFolder;
-class TargetFile;
 
 /// Does one job from its first step to its last. Whatever happens on the way, the starter and the log are told.
 class JobRunner {
@@ -27,13 +27,14 @@ public:
 
 private:
     void convert();
+    void extractPictures();
     void inspect();
     void draw();
 
     const protocol::Job& m_job;
     RunReporter& m_reporter;
     std::mutex m_mutex; // of the two below, which forceEnd() uses while run() is at work
-    TargetFile* m_target = nullptr;
+    AbandonableOutput* m_target = nullptr;
     ScratchFolder* m_scratch = nullptr;
 };
 

@@ -42,6 +42,12 @@ void RunReporter::describe(const PageReport& page) {
     m_channel.deliver(page);
 }
 
+void RunReporter::describe(const PictureReport& picture) {
+    const std::lock_guard lock(m_mutex);
+    m_record.pictures.push_back(picture);
+    m_channel.deliver(picture);
+}
+
 void RunReporter::finish(const Counts& counts) {
     const std::lock_guard lock(m_mutex);
     if (!isFirstEnd())

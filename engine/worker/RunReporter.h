@@ -28,6 +28,7 @@ public:
     void remark(std::string text);
     void describe(const protocol::SourceReport& source);
     void describe(const protocol::PageReport& page);
+    void describe(const protocol::PictureReport& picture);
 
     void finish(const protocol::Counts& counts);
     void fail(const protocol::Failed& failure);

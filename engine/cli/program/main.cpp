@@ -20,5 +20,7 @@ int main(int argc, char** argv) {
         return static_cast<int>(cli::convert(*convert, streams));
     if (const auto* inspect = std::get_if<cli::InspectOptions>(&command))
         return static_cast<int>(cli::inspect(*inspect, streams));
+    if (const auto* images = std::get_if<cli::ImagesOptions>(&command))
+        return static_cast<int>(cli::images(*images, streams));
     return static_cast<int>(cli::info(std::get<cli::InfoOptions>(command), streams));
 }

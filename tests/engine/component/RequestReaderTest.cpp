@@ -19,6 +19,16 @@ TEST(RequestReader, RefusesALayoutCodeThatIsNone) {
         EXPECT_THROW(readLayout(code), Failure) << code;
 }
 
+TEST(RequestReader, ReadsEveryPictureFormatCode) {
+    const ImageFileFormat formats[] = {ImageFileFormat::Bmp, ImageFileFormat::Jpg, ImageFileFormat::Pbm,
+                                       ImageFileFormat::Pcx, ImageFileFormat::Png, ImageFileFormat::Pnm,
+                                       ImageFileFormat::Ppm, ImageFileFormat::Psd, ImageFileFormat::Tiff};
+    for (std::int16_t code = 0; code < 9; ++code)
+        EXPECT_EQ(readImageFormat(code), formats[code]) << code;
+    for (const std::int16_t code : {-1, 9})
+        EXPECT_THROW(readImageFormat(code), Failure) << code;
+}
+
 TEST(RequestReader, ReadsTheOptionBits) {
     struct Row {
         std::int32_t flags;

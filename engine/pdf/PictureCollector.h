@@ -1,0 +1,100 @@
+#pragma once
+
+#include "pdf/PagePictures.h"
+#include "pdf/PagePlayer.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include <GfxState.h>
+#include <Object.h>
+#include <OutputDev.h>
+
+namespace orvane::pdf {
+
+/// What reading a picture later takes; the library's own objects live no longer than the painting.
+struct CollectedPicture {
+    Ref reference = Ref::INVALID();
+    std::string inlineSamples; ///< decoded, for a picture that is no object
+    bool isInverted = false;
+    Color stencilColor;
+    std::unique_ptr<GfxImageColorMap> colors;
+    std::vector<int> colorKey;
+    enum class MaskKind : std::uint8_t { None, Stencil, Soft };
+    MaskKind maskKind = MaskKind::None;
+    int maskWidth = 0;
+    int maskHeight = 0;
+    bool isMaskInverted = false;
+    std::unique_ptr<GfxImageColorMap> maskColors;
+};
+
+/// The output device that writes down which pictures a page paints. Text, paths and shadings are passed over.
+class PictureCollector : public ::OutputDev {
+public:
+    PictureCollector(::PDFDoc& document, TimeBudget& budget)
+        : m_document(document)
+        , m_budget(budget) {}
+
+    /// In paint order; to each painting belongs the collected picture of the same index.
+    std::vector<PaintedPicture> takePainted() { return std::move(m_painted); }
+    std::vector<CollectedPicture> takeCollected() { return std::move(m_collected); }
+    /// Inline pictures that were left out since they are beyond limits.
+    int oversizedInlines() const { return m_oversizedInlines; }
+
+    bool upsideDown() override { return true; }
+    bool useDrawChar() override { return true; }
+    bool interpretType3Chars() override { return false; }
+    bool useTilingPatternFill() override { return true; }
+    bool useShadedFills(int) override { return true; }
+    bool functionShadedFill(GfxState*, GfxFunctionShading*) override { return true; }
+    bool axialShadedFill(GfxState*, GfxAxialShading*, double, double) override { return true; }
+    bool radialShadedFill(GfxState*, GfxRadialShading*, double, double) override { return true; }
+    bool gouraudTriangleShadedFill(GfxState*, GfxGouraudTriangleShading*) override { return true; }
+    bool patchMeshShadedFill(GfxState*, GfxPatchMeshShading*) override { return true; }
+    bool tilingPatternFill(GfxState* state, Gfx* gfx, Catalog* catalog, GfxTilingPattern* pattern, const double* matrix,
+                           int x0, int y0, int x1, int y1, double xStep, double yStep) override;
+
+    void drawImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height, bool isInverted,
+                       bool interpolate, bool isInline) override;
+    void drawImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
+                   GfxImageColorMap* colors, bool interpolate, const int* colorKey, bool isInline) override;
+    void drawMaskedImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
+                         GfxImageColorMap* colors, bool interpolate, ::Stream* maskStream, int maskWidth,
+                         int maskHeight, bool isMaskInverted, bool interpolateMask) override;
+    void drawSoftMaskedImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
+                             GfxImageColorMap* colors, bool interpolate, ::Stream* maskStream, int maskWidth,
+                             int maskHeight, GfxImageColorMap* maskColors, bool interpolateMask) override;
+    void setSoftMaskFromImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
+                                  bool isInverted, bool isInline, double* baseMatrix) override;
+    void unsetSoftMaskFromImageMask(GfxState*, double*) override {}
+
+    void beginTransparencyGroup(GfxState*, const double*, GfxColorSpace*, bool, bool, bool isForSoftMask) override;
+    void endTransparencyGroup(GfxState*) override;
+
+private:
+    /// A painting as the library tells of it.
+    struct Painting {
+        GfxState& state;
+        const ::Object* reference;
+        ::Stream& stream;
+        int width;
+        int height;
+        GfxImageColorMap* colors;
+    };
+    void add(const Painting& painting, CollectedPicture picture);
+    bool readInline(const Painting& painting, CollectedPicture& picture);
+
+    ::PDFDoc& m_document;
+    TimeBudget& m_budget;
+    std::vector<PaintedPicture> m_painted;
+    std::vector<CollectedPicture> m_collected;
+    std::vector<bool> m_groups; ///< open ones; true for soft masks
+    int m_maskDepth = 0;
+    int m_patternDepth = 0;
+    std::set<int> m_patterns; ///< object numbers of those that were looked through
+    std::size_t m_inlineBytes = 0;
+    int m_oversizedInlines = 0;
+};
+
+} // namespace orvane::pdf
