@@ -12,6 +12,7 @@
 #include "layout/structure/ListFinder.h"
 #include "layout/structure/ParagraphJoiner.h"
 #include "layout/structure/SectionMaker.h"
+#include "layout/structure/TableJoiner.h"
 
 namespace orvane::layout {
 namespace {
@@ -61,6 +62,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     const DocumentContext context = analyseDocument(pages, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
     joinParagraphs(draft, context, parameters);
+    joinTables(draft, context, parameters);
     findHeadings(draft, facts, context, parameters, diagnostics);
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);

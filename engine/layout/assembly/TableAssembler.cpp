@@ -74,13 +74,26 @@ document::TableCell cellOf(const CellDraft& draft, const CellMargins& margins) {
     return cell;
 }
 
-/// How far the table's left edge stands from that of its column.
-double indentOf(const DraftBlock& place, const std::vector<double>& columnEdges, const DocumentDraft& draft) {
+/// How far the table's start edge stands from that of its column.
+double indentOf(const DraftBlock& place, const TableDraft& table, const DocumentDraft& draft) {
+    const std::vector<double>& columnEdges = table.columnEdges;
     const std::vector<Band>& bands = draft.pages[place.page].bands;
     const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
     if (columnEdges.empty() || band >= bands.size() || column >= bands[band].columns.size())
         return 0;
-    return columnEdges.front() - bands[band].columns[column].left;
+    const ColumnSpan& text = bands[band].columns[column];
+    return table.isRightToLeft ? text.right - columnEdges.back() : columnEdges.front() - text.left;
+}
+
+/// A draft counts columns from the left; a table that is read from the right has its first column there.
+void turnRightToLeft(document::Table& table) {
+    std::reverse(table.columnWidths.begin(), table.columnWidths.end());
+    const auto columns = static_cast<int>(table.columnWidths.size());
+    for (document::TableRow& row : table.rows) {
+        for (document::TableCell& cell : row.cells)
+            cell.column = columns - cell.column - cell.columnSpan;
+        std::reverse(row.cells.begin(), row.cells.end());
+    }
 }
 
 } // namespace
@@ -98,7 +111,8 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
         row.isHeader = static_cast<int>(i) < draft.table.headerRows;
         table.rows.push_back(row);
     }
-    table.indent = twipsFromPoints(indentOf(place, columns, context.draft));
+    table.isRightToLeft = draft.table.isRightToLeft;
+    table.indent = twipsFromPoints(indentOf(place, draft.table, context.draft));
 
     AssembledBlock assembled;
     const CellMargins margins = cellMargins(draft, context.fonts, context.parameters.tableCells);
@@ -110,9 +124,10 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     return assembled;
 }
 
-void fillCells(AssembledBlock& table, const AssemblyContext& context) {
-    auto inside = table.cells.begin();
-    for (document::TableRow& row : std::get<document::Table>(table.block.value).rows) {
+void fillCells(AssembledBlock& assembled, const AssemblyContext& context) {
+    auto& table = std::get<document::Table>(assembled.block.value);
+    auto inside = assembled.cells.begin();
+    for (document::TableRow& row : table.rows) {
         for (document::TableCell& cell : row.cells) {
             cell.blocks = finishBlocks(std::move(*inside++), context);
             // A cell ends with a paragraph, whatever else stands in it.
@@ -120,6 +135,8 @@ void fillCells(AssembledBlock& table, const AssemblyContext& context) {
                 cell.blocks.push_back(emptyParagraph(context));
         }
     }
+    if (table.isRightToLeft)
+        turnRightToLeft(table);
 }
 
 } // namespace orvane::layout

@@ -5,11 +5,12 @@
 
 namespace orvane::layout {
 
-/// A table with its grid, borders and shading; what stands in its cells is in AssembledBlock::cells.
+/// A table with its grid, borders and shading; what stands in its cells is in AssembledBlock::cells. Columns are
+/// counted from the left until fillCells().
 AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context);
 
-/// Puts the blocks of AssembledBlock::cells into the table's cells.
-/// Requires: `table` was made by assembleTable().
-void fillCells(AssembledBlock& table, const AssemblyContext& context);
+/// Puts the blocks of AssembledBlock::cells into the table's cells, and these into the order in which they are read.
+/// Requires: `assembled` was made by assembleTable().
+void fillCells(AssembledBlock& assembled, const AssemblyContext& context);
 
 } // namespace orvane::layout

@@ -1,0 +1,135 @@
+#include "layout/structure/RowContinuation.h"
+
+#include "base/Utf8.h"
+#include "layout/structure/ParagraphContinuation.h"
+#include "layout/structure/TablePart.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orvane::layout {
+namespace {
+
+DraftPiece* lastPieceOf(DraftCell& cell) {
+    DraftParagraph* paragraph = cell.blocks.empty() ? nullptr : cell.blocks.back().paragraph();
+    return paragraph ? &paragraph->pieces.back() : nullptr;
+}
+
+DraftPiece* firstPieceOf(DraftCell& cell) {
+    DraftParagraph* paragraph = cell.blocks.empty() ? nullptr : cell.blocks.front().paragraph();
+    return paragraph ? &paragraph->pieces.front() : nullptr;
+}
+
+/// The piece with its indents counted from the text's own edge, as the lines were broken.
+struct InnerPiece {
+    ParagraphDraft text;
+    ColumnSpan column;
+
+    explicit InnerPiece(const DraftPiece& piece)
+        : text(piece.text)
+        , column(piece.column) {
+        const double space = std::max(0.0, text.box.left - column.left);
+        const double room = std::max(0.0, column.right - text.box.right);
+        const double margin = std::min(space, room);
+        column = {column.left + margin, column.right - margin};
+        text.indentStart = std::max(0.0, text.indentStart - margin);
+    }
+};
+
+bool runsOn(DraftCell& above, DraftCell& below, const ParagraphContext& context, const LayoutParameters& parameters) {
+    const DraftPiece* last = lastPieceOf(above);
+    const DraftPiece* first = firstPieceOf(below);
+    if (!last || !first)
+        return false;
+    const InnerPiece before(*last);
+    const InnerPiece after(*first);
+    return layout::runsOn({before.text, before.column}, {after.text, after.column}, context, parameters);
+}
+
+/// Whether the page break lies within a text: in a narrow cell every short text looks as if more could follow.
+bool isCutText(DraftCell& above, DraftCell& below) {
+    const std::vector<Line>& lines = lastPieceOf(above)->text.lines;
+    if (lines.size() > 1)
+        return true;
+    const std::u32string last = utf32FromUtf8(textOf(lines.back().words.back()));
+    if (!last.empty() && isWithoutBlanks(last.back()))
+        return true;
+    if (lines.front().words.size() < 2)
+        return false;
+    const std::u32string next = utf32FromUtf8(textOf(firstPieceOf(below)->text.lines.front().words.front()));
+    return !next.empty() && isLowerCase(next.front());
+}
+
+bool haveSamePlaces(const std::vector<DraftCell*>& above, const std::vector<DraftCell*>& below) {
+    return std::equal(
+        above.begin(), above.end(), below.begin(), below.end(), [](const DraftCell* a, const DraftCell* b) {
+            return a->cell.column == b->cell.column && a->cell.columnSpan == b->cell.columnSpan && b->cell.rowSpan == 1;
+        });
+}
+
+/// In how many of the table's rows the first cell has text.
+double shareOfLabelledRows(const DraftTable& table) {
+    double cells = 0;
+    double labelled = 0;
+    for (const DraftCell& cell : table.cells) {
+        if (cell.cell.column == 0) {
+            ++cells;
+            labelled += !cell.blocks.empty();
+        }
+    }
+    return cells > 0 ? labelled / cells : 0;
+}
+
+} // namespace
+
+bool goesOnWithRow(DraftTable& table, DraftTable& next, const ParagraphContext& context,
+                   const LayoutParameters& parameters) {
+    const std::vector<DraftCell*> above = lastRowOf(table);
+    const std::vector<DraftCell*> below = firstRowOf(next);
+    if (!haveSamePlaces(above, below))
+        return false;
+    int forIt = 0;
+    int againstIt = 0;
+    for (std::size_t i = 0; i < above.size(); ++i) {
+        if (below[i]->blocks.empty())
+            continue;
+        // Text that starts beside the rest of another starts with the row.
+        if (above[i]->blocks.empty())
+            return false;
+        if (!runsOn(*above[i], *below[i], context, parameters))
+            ++againstIt;
+        else
+            forIt += isCutText(*above[i], *below[i]);
+    }
+    // Where every row has its label, a row without one is no row.
+    const bool lacksLabel = below.front()->blocks.empty() && !above.front()->blocks.empty() &&
+                            shareOfLabelledRows(table) > parameters.tables.labelledRowShare;
+    return forIt > 0 && (againstIt == 0 || lacksLabel);
+}
+
+void joinRows(DraftTable& table, DraftTable& next, const ParagraphContext& context,
+              const LayoutParameters& parameters) {
+    const std::vector<DraftCell*> above = lastRowOf(table);
+    const std::vector<DraftCell*> below = firstRowOf(next);
+    for (std::size_t i = 0; i < above.size(); ++i) {
+        std::vector<DraftBlock>& blocks = above[i]->blocks;
+        std::vector<DraftBlock>& more = below[i]->blocks;
+        auto first = more.begin();
+        if (runsOn(*above[i], *below[i], context, parameters)) {
+            std::vector<DraftPiece>& pieces = blocks.back().paragraph()->pieces;
+            std::vector<DraftPiece>& rest = first->paragraph()->pieces;
+            pieces.back().text.endsParagraph = false;
+            rest.front().text.startsParagraph = false;
+            pieces.insert(pieces.end(), std::make_move_iterator(rest.begin()), std::make_move_iterator(rest.end()));
+            ++first;
+        }
+        blocks.insert(blocks.end(), std::make_move_iterator(first), std::make_move_iterator(more.end()));
+        above[i]->cell.borders.bottom = below[i]->cell.borders.bottom;
+    }
+    table.table.rowEdges.back() += next.table.rowEdges[1] - next.table.rowEdges[0];
+    dropFirstRows(next, 1);
+}
+
+} // namespace orvane::layout

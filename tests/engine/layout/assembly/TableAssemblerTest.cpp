@@ -1,0 +1,66 @@
+#include "layout/assembly/TableAssembler.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+enum class Reading : unsigned char { FromLeft, FromRight };
+
+/// A table of columns 100 and 200 points wide from 172 points on: a row of two cells, and a row of one over both.
+DocumentDraft draftOfTable(Reading reading) {
+    DocumentDraft draft = tests::makeDraft(1);
+    DraftTable table;
+    table.table.columnEdges = {172, 272, 472};
+    table.table.rowEdges = {100, 120, 140};
+    table.table.box = {172, 100, 472, 140};
+    table.table.isRightToLeft = reading == Reading::FromRight;
+    const auto add = [&](int row, int column, int columnSpan, const char* text, double left) {
+        DraftCell& cell = table.cells.emplace_back();
+        cell.cell.row = row;
+        cell.cell.column = column;
+        cell.cell.columnSpan = columnSpan;
+        cell.cell.box = {left, 100 + 20.0 * row, left + 100, 120 + 20.0 * row};
+        cell.blocks.push_back(
+            tests::makeBlock(tests::makeParagraph({tests::makeLine(text, left + 6, 112 + 20.0 * row)})));
+    };
+    add(0, 0, 1, "left", 172);
+    add(0, 1, 1, "right", 272);
+    add(1, 0, 2, "both", 172);
+    DraftBlock& block = draft.blocks.emplace_back();
+    block.box = table.table.box;
+    block.value = std::move(table);
+    return draft;
+}
+
+document::Table tableOf(Reading reading) {
+    document::Document document = tests::documentOf(draftOfTable(reading));
+    return std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+}
+
+std::string textOf(const document::TableCell& cell) {
+    const auto& paragraph = std::get<document::Paragraph>(cell.blocks.at(0).value);
+    return std::get<document::Text>(paragraph.inlines.at(0).value).text;
+}
+
+TEST(TableAssembler, CountsColumnsFromTheSideWhereReadingStarts) {
+    const document::Table fromLeft = tableOf(Reading::FromLeft);
+    EXPECT_FALSE(fromLeft.isRightToLeft);
+    EXPECT_EQ(fromLeft.columnWidths, (std::vector<Twips>{Twips(2000), Twips(4000)}));
+    EXPECT_EQ(textOf(fromLeft.rows[0].cells[0]), "left");
+    EXPECT_EQ(fromLeft.indent, Twips(2000));
+
+    const document::Table fromRight = tableOf(Reading::FromRight);
+    EXPECT_TRUE(fromRight.isRightToLeft);
+    EXPECT_EQ(fromRight.columnWidths, (std::vector<Twips>{Twips(4000), Twips(2000)}));
+    EXPECT_EQ(textOf(fromRight.rows[0].cells[0]), "right");
+    EXPECT_EQ(fromRight.rows[0].cells[0].column, 0);
+    EXPECT_EQ(fromRight.rows[0].cells[1].column, 1);
+    EXPECT_EQ(fromRight.rows[1].cells[0].column, 0);
+    EXPECT_EQ(fromRight.indent, Twips(1020)) << "from the text's right edge at 523 points";
+}
+
+} // namespace
+} // namespace orvane::layout
