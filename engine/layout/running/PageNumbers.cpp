@@ -1,10 +1,13 @@
 #include "layout/running/PageNumbers.h"
 
 #include "base/Utf8.h"
+#include "layout/running/HeadPlaces.h"
 #include "layout/support/Tally.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -26,6 +29,19 @@ void voteForNumber(const std::vector<EdgeRows>& edges, std::size_t index, Tally<
             }
         }
     }
+}
+
+/// A way of counting pages: what it adds to their index, and how it writes that.
+using PageCount = std::pair<int, document::NumberFormat>;
+
+PageCount countOf(const PageNumber& number, std::size_t page) {
+    return {number.value - static_cast<int>(page), number.format};
+}
+
+bool shows(const RunningRow& row, const PageNumber& number) {
+    return std::any_of(row.numbers.begin(), row.numbers.end(), [&](const RowNumber& candidate) {
+        return candidate.value == number.value && candidate.format == number.format;
+    });
 }
 
 /// Cuts characters `from` to `from + length` of a word out of its spans and returns the index of the span they now are;
@@ -87,15 +103,34 @@ std::vector<std::optional<document::FieldCode>> meaningsOf(const RunningRow& row
 
 std::vector<std::optional<PageNumber>> readPageNumbers(const std::vector<EdgeRows>& tops,
                                                        const std::vector<EdgeRows>& bottoms) {
+    std::vector<Tally<PageNumber>> votes(tops.size());
+    // Page numbers go on over many pages; what counts for a few pages only is something else.
+    std::map<PageCount, int> pages;
+    for (std::size_t i = 0; i < tops.size(); ++i) {
+        voteForNumber(tops, i, votes[i]);
+        voteForNumber(bottoms, i, votes[i]);
+        for (const auto& [number, weight] : votes[i].counts())
+            ++pages[countOf(number, i)];
+    }
     std::vector<std::optional<PageNumber>> numbers(tops.size());
     for (std::size_t i = 0; i < tops.size(); ++i) {
-        Tally<PageNumber> votes;
-        voteForNumber(tops, i, votes);
-        voteForNumber(bottoms, i, votes);
-        if (const PageNumber* most = votes.heaviest())
-            numbers[i] = *most;
+        std::pair<int, double> best;
+        for (const auto& [number, weight] : votes[i].counts())
+            if (const std::pair support{pages[countOf(number, i)], weight}; support > best) {
+                best = support;
+                numbers[i] = number;
+            }
     }
     return numbers;
+}
+
+void leaveOtherNumbers(std::vector<EdgeRows>& edges, const std::vector<std::optional<PageNumber>>& numbers) {
+    for (std::size_t page = 0; page < edges.size(); ++page) {
+        EdgeRows& edge = edges[page];
+        for (std::size_t i = 0; i < edge.taken; ++i)
+            if (edge.matches[i] == RowMatch::Number && numbers[page] && !shows(edge.rows[i], *numbers[page]))
+                trimTaken(edge, i);
+    }
 }
 
 std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,

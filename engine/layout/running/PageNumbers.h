@@ -25,6 +25,10 @@ struct RunningField {
 std::vector<std::optional<PageNumber>> readPageNumbers(const std::vector<EdgeRows>& tops,
                                                        const std::vector<EdgeRows>& bottoms);
 
+/// Gives rows back to the text that were taken for a number which counts with the pages, but is not their number: that
+/// of a note, or of a table's row.
+void leaveOtherNumbers(std::vector<EdgeRows>& edges, const std::vector<std::optional<PageNumber>>& numbers);
+
 /// Makes each page number, and each number of pages, in the rows taken a span of its own.
 /// Requires: `rows` are of that page, whose lines have not been moved since.
 std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,

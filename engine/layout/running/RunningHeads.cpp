@@ -1,6 +1,7 @@
 #include "layout/running/RunningHeads.h"
 
 #include "layout/running/EdgeRows.h"
+#include "layout/running/HeadPlaces.h"
 #include "layout/running/RepeatedFigures.h"
 
 #include <algorithm>
@@ -184,9 +185,14 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
     if (pages.size() < 2)
         return heads;
     const LayoutParameters::RunningHeads& limits = parameters.runningHeads;
-    const std::vector<EdgeRows> tops = readEdgeRows(pages, PageEdge::Top, limits);
-    const std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
+    std::vector<EdgeRows> tops = readEdgeRows(pages, PageEdge::Top, limits);
+    std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
     const auto numbers = readPageNumbers(tops, bottoms);
+    for (auto* edges : {&tops, &bottoms}) {
+        leaveOtherNumbers(*edges, numbers);
+        leaveTextPlaces(*edges, limits);
+        takeOwnHeads(*edges, limits);
+    }
 
     std::vector<PageEdges> edges;
     std::vector<BodyRange> bodies;

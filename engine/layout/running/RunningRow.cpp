@@ -66,8 +66,6 @@ public:
             for (std::size_t i = 0; i < line.words.size(); ++i) {
                 const bool startsPart = i == 0 || line.words[i].gapBefore == Gap::Tab;
                 const bool endsPart = i + 1 == line.words.size() || line.words[i + 1].gapBefore == Gap::Tab;
-                if (!m_row.skeleton.empty())
-                    m_row.skeleton += startsPart ? '\t' : ' ';
                 readWord(index, i, line.words[i], startsPart && endsPart);
             }
         }

@@ -31,7 +31,7 @@ struct RunningRow {
     double baseline = 0;
     double fontSize = 0;
     double fromEdge = 0;  ///< its near side's distance from the page's edge, points
-    std::string skeleton; ///< its text with '#' for each number, '\t' between parts
+    std::string skeleton; ///< its text with '#' for each number, without blanks, which are not as sure as letters
     std::vector<RowNumber> numbers;
 };
 

@@ -26,6 +26,8 @@ public:
                                             [](const auto& a, const auto& b) { return a.second < b.second; });
         return found == m_counts.end() ? nullptr : &found->first;
     }
+    /// All values with their weights, in the order in which they were first counted.
+    const std::vector<std::pair<T, double>>& counts() const { return m_counts; }
     double weightOf(const T& value) const {
         for (const auto& [counted, weight] : m_counts)
             if (counted == value)

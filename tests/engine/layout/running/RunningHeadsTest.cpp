@@ -110,14 +110,57 @@ TEST(RunningHeads, ComparesOddAndEvenPagesByThemselves) {
     EXPECT_EQ(linesOf(heads[3].header), "Even pages");
 }
 
-TEST(RunningHeads, LeavesTheFirstPagesOwnTextInPlace) {
+TEST(RunningHeads, TakesTheFirstPagesOwnHead) {
     auto pages = pagesWith(4, [](PageText& page, int number) {
-        page.lines.push_back(makeLine(number == 1 ? "A title of its own" : "Annual report", 72, 50));
+        page.lines.push_back(makeLine(number == 1 ? "Draft" : "Annual report", 72, 50));
     });
     const auto heads = takeRunningHeads(pages, {});
-    EXPECT_FALSE(heads[0].header);
-    EXPECT_EQ(pages[0].lines.size(), 31u);
-    EXPECT_EQ(linesOf(heads[1].header), "Annual report");
+    EXPECT_EQ(linesOf(heads[0].header), "Draft");
+    EXPECT_NE(heads[0].header->key, heads[1].header->key);
+}
+
+TEST(RunningHeads, LeavesWhatStandsOtherwiseThanTheHeads) {
+    struct Row {
+        Line line;
+        const char* why;
+    };
+    const Row kRows[] = {{makeLine("A title of its own", 72, 50, {.size = 16}), "it is larger"},
+                         {makeLine("Aside", 200, 50), "it stands elsewhere between the sides"},
+                         {makeLine("Above", 72, 42), "it stands higher"}};
+    for (const Row& row : kRows) {
+        auto pages = pagesWith(4, [&](PageText& page, int number) {
+            page.lines.push_back(number == 1 ? row.line : makeLine("Annual report", 72, 50));
+        });
+        const auto heads = takeRunningHeads(pages, {});
+        EXPECT_FALSE(heads[0].header) << row.why;
+        EXPECT_EQ(pages[0].lines.size(), 31u) << row.why;
+        EXPECT_EQ(linesOf(heads[1].header), "Annual report");
+    }
+}
+
+TEST(RunningHeads, LeavesWhatRepeatsWhereOtherPagesHaveTheirText) {
+    auto pages = pagesWith(9, [](PageText& page, int number) {
+        page.lines.push_back(makeLine("Annual report", 72, 50));
+        if (number > 6)
+            page.lines.push_back(makeLine("Year\tSum", 72, 80));
+        else
+            page.lines.push_back(makeLine(fmt::format("Text {}{}", char('a' + number), char('f' + number)), 72, 80));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(linesOf(heads[7].header), "Annual report");
+    EXPECT_EQ(pages[7].lines.size(), 31u);
+}
+
+TEST(RunningHeads, TellsThePageNumberFromOthersThatCount) {
+    auto pages = pagesWith(9, [](PageText& page, int number) {
+        page.lines.push_back(makeLine(fmt::format("{}", number + 20), 290, 50));
+        if (number == 4 || number == 5)
+            page.lines.push_back(makeLine(fmt::format("{}", number - 2), 72, 760)); // of a note
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(heads[3].number, (PageNumber{24, NumberFormat::Decimal}));
+    EXPECT_FALSE(heads[3].footer);
+    EXPECT_EQ(linesOf(heads[3].header), "24");
 }
 
 TEST(RunningHeads, TakesTitlesThatChangeBesideThePageNumber) {
