@@ -10,6 +10,8 @@
 #include "layout/structure/DraftBuilder.h"
 #include "layout/structure/HeadingFinder.h"
 #include "layout/structure/ListFinder.h"
+#include "layout/structure/NoteFinder.h"
+#include "layout/structure/NoteMaker.h"
 #include "layout/structure/ParagraphJoiner.h"
 #include "layout/structure/SectionMaker.h"
 #include "layout/structure/TableJoiner.h"
@@ -60,9 +62,11 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
             page.figures.clear();
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);
+    FoundNotes notes = takeNotes(pages, context, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
     joinParagraphs(draft, context, parameters);
     joinTables(draft, context, parameters);
+    makeNotes(draft, std::move(notes), context, parameters, diagnostics);
     findHeadings(draft, facts, context, parameters, diagnostics);
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);

@@ -135,6 +135,17 @@ struct LayoutParameters {
         double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
     } tableCells;
 
+    /// NoteAreas, NoteFinder: footnotes and endnotes.
+    struct Notes {
+        double shortestRule = 0.07;  ///< of the page's width; of the rule above the notes
+        double longestRule = 0.45;   ///< likewise
+        double largestGap = 30.0;    ///< points; between the rule and the first note
+        double largestSize = 1.05;   ///< of the body text's size
+        double edgeTolerance = 12.0; ///< points; the rule starts this near to where the text starts
+        double columnReach = 120.0;  ///< points; text this far above the rule tells the columns
+        double narrowestColumn = 0.2; ///< of the page's width
+    } notes;
+
     /// ListLabel, ListGroups, ListFinder.
     struct Lists {
         double sameIndent = 3.0; ///< points; labels or texts that start this near to each other are of one level

@@ -33,6 +33,8 @@ public:
             addRunning(FlowKind::Header, section.header);
             addRunning(FlowKind::Footer, section.footer);
         }
+        for (const DraftNote& note : draft.notes)
+            add(FlowKind::Note, note.blocks);
     }
 
     std::vector<BlockFlow>& flows() { return m_flows; }
@@ -51,6 +53,14 @@ public:
             sections.push_back(std::move(section));
         }
         return sections;
+    }
+
+    /// Requires: the sections have been taken.
+    std::vector<document::Note> takeNotes() {
+        std::vector<document::Note> notes;
+        for (const DraftNote& note : m_draft.notes)
+            notes.push_back({note.kind, finishBlocks(std::move(m_flows[m_next++].blocks), m_context), {}});
+        return notes;
     }
 
 private:
@@ -102,6 +112,7 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     document.styles = makeStyles(flows.flows(), assembly);
     findSpacing(flows.flows(), document.styles, assembly);
     document.sections = flows.takeSections();
+    document.notes = flows.takeNotes();
     return document;
 }
 

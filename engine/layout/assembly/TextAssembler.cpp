@@ -131,7 +131,9 @@ private:
             const auto link = m_context.links.target(page, span.look.link);
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
-            if (const auto field = fieldAt(page, span.box))
+            if (const DraftNoteReference* note = noteAt(page, span))
+                m_builder.add({document::NoteReference{note->note, properties, note->customMark}}, std::nullopt);
+            else if (const auto field = fieldAt(page, span.box))
                 m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
             else
                 m_builder.addText(span.text, properties, link);
@@ -167,6 +169,15 @@ private:
             if (field.box == box)
                 return field.code;
         return std::nullopt;
+    }
+
+    const DraftNoteReference* noteAt(std::size_t page, const Span& span) const {
+        if (span.look.verticalPosition != document::VerticalPosition::Superscript)
+            return nullptr;
+        for (const DraftNoteReference& reference : m_context.draft.noteReferences)
+            if (reference.page == page && reference.box == span.box)
+                return &reference;
+        return nullptr;
     }
 
     const DraftParagraph& m_paragraph;

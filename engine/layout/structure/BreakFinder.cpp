@@ -23,11 +23,15 @@ BlockEnd endOf(const DraftBlock& block) {
     return {block.page, block.band, block.column, block.box.bottom};
 }
 
-/// Down to where the columns of a band could reach: to the page's end when nothing stands below the band.
+/// Down to where the columns of a band could reach: to the page's end, or its notes, when
+/// nothing stands below the band.
 double floorOf(const DocumentDraft& draft, std::size_t page, int band, const Rect& area) {
     const std::vector<Band>& bands = draft.pages[page].bands;
     const auto index = static_cast<std::size_t>(band);
-    return index + 1 < bands.size() ? bands[index].bottom : area.bottom;
+    if (index + 1 < bands.size())
+        return bands[index].bottom;
+    const bool hasNotes = page < draft.noteAreas.size() && !draft.noteAreas[page].isEmpty();
+    return hasNotes ? draft.noteAreas[page].top : area.bottom;
 }
 
 } // namespace

@@ -97,11 +97,28 @@ struct DraftNumbering {
     std::vector<std::optional<LabelLook>> labels; ///< for each level
 };
 
+struct DraftNote {
+    document::NoteKind kind = document::NoteKind::Footnote;
+    std::vector<DraftBlock> blocks; ///< on a page made of the note's lines
+};
+
+/// A place in the text that refers to a note.
+struct DraftNoteReference {
+    std::size_t page = 0; ///< index into DocumentDraft::pages
+    Rect box;             ///< of the span that shows the mark
+    std::size_t note = 0; ///< index into DocumentDraft::notes
+    std::string customMark;
+};
+
 struct DocumentDraft {
-    std::vector<PageLayout> pages; ///< without their blocks; behind the document's own those made of running heads
+    std::vector<PageLayout>
+        pages; ///< without their blocks; behind the document's own those made of running heads and notes
     std::vector<DraftBlock> blocks;
     std::vector<DraftNumbering> numberings;
-    std::vector<DraftSection> sections;            ///< at least one once SectionMaker has run
+    std::vector<DraftNote> notes;
+    std::vector<DraftNoteReference> noteReferences;
+    std::vector<Rect> noteAreas;        ///< for each of the document's pages: the part that notes take, empty for none
+    std::vector<DraftSection> sections; ///< at least one once SectionMaker has run
     std::vector<std::vector<RunningField>> fields; ///< for each page; only those made of running heads have any
 };
 

@@ -72,6 +72,9 @@ std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog
                   last.baseline + extentOf(last, piece.page, fonts).descent);
         }
     }
+    for (std::size_t i = 0; i < draft.noteAreas.size(); ++i)
+        if (!draft.noteAreas[i].isEmpty() && !fills[i].isEmpty)
+            fills[i].bottom = std::max(fills[i].bottom, draft.noteAreas[i].bottom);
     return fills;
 }
 

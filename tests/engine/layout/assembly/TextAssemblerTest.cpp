@@ -81,6 +81,14 @@ TEST(TextAssembler, LeadsInnerLinksToBookmarks) {
     EXPECT_EQ(tests::textOfParagraph(draft, 1), "p Normal bookmark(_Ref000001) \"target\"");
 }
 
+TEST(TextAssembler, RefersToNotes) {
+    DocumentDraft draft = draftOf({makeLine("see 1 there", 72, 100)});
+    Span& mark = paragraphOf(draft).lines[0].words[1].spans[0];
+    mark.look.verticalPosition = document::VerticalPosition::Superscript;
+    draft.noteReferences.push_back({0, mark.box, 4, {}});
+    EXPECT_EQ(text(draft), "p Normal \"see \" note(4) \" there\"");
+}
+
 TEST(TextAssembler, LeavesLabelsToTheNumbering) {
     DocumentDraft draft = draftOf({makeLine("1.\tFirst item", 72, 100)});
     draft.blocks[0].paragraph()->labelWords = 1;

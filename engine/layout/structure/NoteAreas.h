@@ -1,0 +1,38 @@
+#pragma once
+
+#include "layout/DocumentContext.h"
+#include "layout/LayoutParameters.h"
+#include "layout/text/PageText.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvane::layout {
+
+/// A line with which a note may start.
+struct NoteStart {
+    std::size_t line = 0; ///< index into PageText::lines
+    std::string mark;     ///< see bareMark
+};
+
+/// A part of a page that may hold notes: small text in one column, from a short rule down to the column's end.
+struct NoteArea {
+    std::optional<std::size_t> rule; ///< index of the rule above it into PageText::rules
+    double left = 0;                 ///< of the rule, or of the text
+    double top = 0;                  ///< likewise
+    std::vector<std::size_t> lines;  ///< indices into PageText::lines, top to bottom
+    std::vector<NoteStart> starts;   ///< likewise; empty where the area goes on with a note of the page before
+};
+
+/// The areas below short rules, column by column from the left, those of a column from the top.
+std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext& context,
+                                    const LayoutParameters::Notes& parameters);
+
+/// The whole page as one area, as endnotes stand that fill pages of their own; nullopt when it does not start with a
+/// raised mark, or holds larger text.
+std::optional<NoteArea> wholePageOfNotes(const PageText& page, const DocumentContext& context,
+                                         const LayoutParameters::Notes& parameters);
+
+} // namespace orvane::layout

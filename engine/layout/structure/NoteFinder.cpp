@@ -1,0 +1,209 @@
+#include "layout/structure/NoteFinder.h"
+
+#include "layout/structure/NoteAreas.h"
+#include "layout/structure/NoteMark.h"
+#include "layout/structure/NoteText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+using document::NoteKind;
+
+/// A raised mark in the text.
+struct Reference {
+    std::size_t page = 0;
+    Rect box;
+    std::string text;
+    bool isTaken = false;
+};
+
+bool isNumeral(const std::string& mark) {
+    return !mark.empty() && mark.find_first_not_of("ivxlc") == std::string::npos;
+}
+
+class NoteTaker {
+public:
+    NoteTaker(std::vector<PageText>& pages, const DocumentContext& context, const LayoutParameters::Notes& limits)
+        : m_pages(pages)
+        , m_context(context)
+        , m_limits(limits) {
+        m_found.areas.resize(pages.size());
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            m_areas.push_back(findNoteAreas(pages[i], context, limits));
+            collectReferences(i);
+        }
+    }
+
+    FoundNotes run() {
+        for (std::size_t i = 0; i < m_pages.size(); ++i) {
+            std::vector<bool> isTaken(m_pages[i].lines.size(), false);
+            for (const NoteArea& area : m_areas[i])
+                takeArea(i, area, isTaken);
+            if (m_lastPage != i)
+                takeWholePage(i, isTaken);
+            removeTaken(m_pages[i], isTaken);
+        }
+        std::stable_sort(m_found.notes.begin(), m_found.notes.end(),
+                         [](const FoundNote& a, const FoundNote& b) { return a.referencePage < b.referencePage; });
+        return std::move(m_found);
+    }
+
+private:
+    using LineReferences = std::map<std::size_t, Reference*>; ///< by the line with which the note starts
+
+    /// The raised marks in the text of a page; those at the start of a line are of notes, not of the text.
+    void collectReferences(std::size_t index) {
+        const PageText& page = m_pages[index];
+        std::vector<bool> isInArea(page.lines.size(), false);
+        for (const NoteArea& area : m_areas[index])
+            for (const std::size_t line : area.lines)
+                isInArea[line] = true;
+        for (std::size_t i = 0; i < page.lines.size(); ++i)
+            for (const Word& word : page.lines[i].words)
+                for (const Span& span : word.spans) {
+                    const bool startsText = &word == &page.lines[i].words.front() && &span == &word.spans.front() &&
+                                            (page.lines[i].words.size() > 1 || word.spans.size() > 1);
+                    if (isRaisedMark(span) && !startsText)
+                        addReference(index, span, isInArea[i]);
+                }
+    }
+
+    void addReference(std::size_t page, const Span& span, bool isInNote) {
+        if (isInNote)
+            return; // "m²" in a note, or a note on a note, which word processors do not have
+        m_byMark[bareMark(span.text)].push_back(m_references.size());
+        m_references.push_back({page, span.box, span.text, false});
+    }
+
+    /// The reference with that mark on the page; else, for endnotes, on a page before.
+    Reference* referenceTo(const std::string& mark, std::size_t page) {
+        Reference* before = nullptr;
+        const auto found = m_byMark.find(mark);
+        if (found == m_byMark.end())
+            return nullptr;
+        for (const std::size_t index : found->second) {
+            Reference& reference = m_references[index];
+            if (reference.isTaken || reference.page > page)
+                continue;
+            if (reference.page == page)
+                return &reference;
+            if (!before)
+                before = &reference;
+        }
+        return before;
+    }
+
+    LineReferences matchStarts(std::size_t page, const NoteArea& area) {
+        LineReferences matched;
+        for (const NoteStart& start : area.starts)
+            if (Reference* reference = referenceTo(start.mark, page)) {
+                reference->isTaken = true;
+                matched[start.line] = reference;
+            }
+        return matched;
+    }
+
+    void takeArea(std::size_t page, const NoteArea& area, std::vector<bool>& isTaken) {
+        const LineReferences matched = matchStarts(page, area);
+        // Without a mark that the text has, the area may go on with the last note of the page before.
+        if (matched.empty() && (!area.starts.empty() || !followsNotes(page)))
+            return;
+        takeLines(page, area, matched, isTaken);
+    }
+
+    /// Endnotes may fill pages of their own, with no rule above them.
+    void takeWholePage(std::size_t page, std::vector<bool>& isTaken) {
+        const auto area = wholePageOfNotes(m_pages[page], m_context, m_limits);
+        if (!area)
+            return;
+        const LineReferences matched = matchStarts(page, *area);
+        if (!matched.empty())
+            takeLines(page, *area, matched, isTaken);
+    }
+
+    bool followsNotes(std::size_t page) const { return page > 0 && m_lastPage == page - 1; }
+
+    void takeLines(std::size_t page, const NoteArea& area, const LineReferences& matched, std::vector<bool>& isTaken) {
+        PageText& source = m_pages[page];
+        FoundNote* note = followsNotes(page) ? &m_found.notes.back() : nullptr;
+        std::vector<Line> lines;
+        Rect box;
+        const auto finishNote = [&] {
+            if (note)
+                addNoteLines(note->content, source, std::exchange(lines, {}), leadingOf(note->content));
+        };
+        for (const std::size_t index : area.lines) {
+            const auto found = matched.find(index);
+            if (found != matched.end()) {
+                finishNote();
+                note = &startNote(page, *found->second);
+                partMark(source.lines[index]);
+            }
+            if (!note)
+                continue; // above the first mark, with no note before to go on with
+            box = box.united(source.lines[index].box);
+            if (lines.size() == 1 && isMarkOf(lines.front(), source.lines[index])) {
+                prependMark(source.lines[index], lines.front());
+                lines.clear();
+            }
+            lines.push_back(std::move(source.lines[index]));
+            isTaken[index] = true;
+        }
+        finishNote();
+        if (area.rule) {
+            box.top = std::min(box.top, area.top);
+            useRules(source, area.top);
+        }
+        m_found.areas[page] = m_found.areas[page].united(box);
+        m_lastPage = page;
+    }
+
+    /// Some producers draw the rule above the notes twice.
+    static void useRules(PageText& page, double position) {
+        for (Rule& rule : page.rules)
+            if (rule.direction == RuleDirection::Horizontal && std::abs(rule.position - position) < rule.width)
+                rule.isUsed = true;
+    }
+
+    double leadingOf(const PageText& note) const {
+        return note.lines.empty() ? 0 : m_context.bodyLeading / m_context.bodyFontSize * note.lines.back().fontSize;
+    }
+
+    FoundNote& startNote(std::size_t page, const Reference& reference) {
+        const bool isEndnote = reference.page < page || isNumeral(bareMark(reference.text));
+        m_found.notes.push_back({isEndnote ? NoteKind::Endnote : NoteKind::Footnote, reference.text, reference.page,
+                                 reference.box, pageForNote(m_pages[page])});
+        return m_found.notes.back();
+    }
+
+    static void removeTaken(PageText& page, const std::vector<bool>& isTaken) {
+        std::vector<Line> rest;
+        for (std::size_t i = 0; i < page.lines.size(); ++i)
+            if (!isTaken[i])
+                rest.push_back(std::move(page.lines[i]));
+        page.lines = std::move(rest);
+    }
+
+    std::vector<PageText>& m_pages;
+    const DocumentContext& m_context;
+    const LayoutParameters::Notes& m_limits;
+    std::vector<std::vector<NoteArea>> m_areas; ///< by page
+    std::vector<Reference> m_references;
+    std::map<std::string, std::vector<std::size_t>> m_byMark; ///< indices into m_references
+    FoundNotes m_found;
+    std::size_t m_lastPage = static_cast<std::size_t>(-2); ///< on which notes were taken last
+};
+
+} // namespace
+
+FoundNotes takeNotes(std::vector<PageText>& pages, const DocumentContext& context, const LayoutParameters& parameters) {
+    return NoteTaker(pages, context, parameters.notes).run();
+}
+
+} // namespace orvane::layout

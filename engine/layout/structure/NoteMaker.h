@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/Diagnostic.h"
+#include "layout/DocumentContext.h"
+#include "layout/structure/DocumentDraft.h"
+#include "layout/structure/NoteFinder.h"
+
+namespace orvane::layout {
+
+/// Puts the text of each note in order and adds the notes, and the places that refer to them, to the draft. A mark that
+/// counting does not give is kept as it is.
+void makeNotes(DocumentDraft& draft, FoundNotes found, const DocumentContext& context,
+               const LayoutParameters& parameters, Diagnostics& diagnostics);
+
+} // namespace orvane::layout

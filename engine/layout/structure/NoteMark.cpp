@@ -1,0 +1,67 @@
+#include "layout/structure/NoteMark.h"
+
+#include "base/Utf8.h"
+#include "layout/text/LineText.h"
+
+#include <unicode/uchar.h>
+
+#include <algorithm>
+#include <string_view>
+
+namespace orvane::layout {
+namespace {
+
+constexpr std::size_t kLongestNumber = 3;
+constexpr std::size_t kLongestMark = 5;
+constexpr std::u32string_view kSigns = U"*\u2020\u2021\u00A7\u00B6#";
+constexpr std::u32string_view kNumerals = U"ivxlc";
+constexpr std::u32string_view kAround = U"()[].:\u200E\u200F";
+
+std::u32string_view bare(std::u32string_view text) {
+    while (!text.empty() && kAround.find(text.front()) != std::u32string_view::npos)
+        text.remove_prefix(1);
+    while (!text.empty() && kAround.find(text.back()) != std::u32string_view::npos)
+        text.remove_suffix(1);
+    return text;
+}
+
+bool isDigit(char32_t c) {
+    return u_isdigit(static_cast<UChar32>(c)) != 0;
+}
+
+bool isMadeOf(std::u32string_view text, std::u32string_view characters) {
+    return text.find_first_not_of(characters) == std::u32string_view::npos;
+}
+
+} // namespace
+
+bool isNoteMark(const std::string& text) {
+    const std::u32string all = utf32FromUtf8(text);
+    const std::u32string_view mark = bare(all);
+    if (mark.empty() || mark.size() > kLongestMark)
+        return false;
+    const bool isNumber = mark.size() <= kLongestNumber && std::all_of(mark.begin(), mark.end(), isDigit);
+    const bool isLetter = mark.size() == 1 && mark[0] >= U'a' && mark[0] <= U'z';
+    return isNumber || isLetter || isMadeOf(mark, kSigns) || isMadeOf(mark, kNumerals);
+}
+
+std::string bareMark(const std::string& mark) {
+    return utf8FromUtf32(bare(utf32FromUtf8(mark)));
+}
+
+std::string markAtStart(const Word& word) {
+    if (word.spans.empty())
+        return {};
+    if (isRaisedMark(word.spans.front()))
+        return word.spans.front().text;
+    const std::string text = textOf(word);
+    // A letter on the line, "a" or "i", is a word like others.
+    const std::u32string all = utf32FromUtf8(text);
+    return isNoteMark(text) && !u_isalpha(static_cast<UChar32>(bare(all).front())) ? text : std::string();
+}
+
+bool isRaisedMark(const Span& span) {
+    return span.look.verticalPosition == document::VerticalPosition::Superscript && isNoteMark(span.text);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "layout/text/PageText.h"
+
+#include <string>
+
+namespace orvane::layout {
+
+/// True for "12", "iv", "b", "*", "†", "(1)": what people refer to notes by.
+bool isNoteMark(const std::string& text);
+
+/// The mark without brackets and full stops around it, by which a note is compared with its reference.
+std::string bareMark(const std::string& mark);
+
+/// The mark that a note's first word starts with: raised characters, or a number or sign by itself; empty for none.
+std::string markAtStart(const Word& word);
+
+/// True for a span that is raised and reads like a mark.
+bool isRaisedMark(const Span& span);
+
+} // namespace orvane::layout

@@ -1,0 +1,101 @@
+#include "layout/structure/NoteText.h"
+
+#include "layout/structure/NoteMark.h"
+#include "layout/text/LineText.h"
+
+#include <map>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+void moveDown(Line& line, double by) {
+    const auto move = [by](Rect& box) {
+        box.top += by;
+        box.bottom += by;
+    };
+    line.baseline += by;
+    move(line.box);
+    for (Word& word : line.words) {
+        move(word.box);
+        for (Span& span : word.spans) {
+            span.baseline += by;
+            move(span.box);
+        }
+    }
+}
+
+/// Gives items of one list their places in another, each once.
+template<typename Index>
+class Mover {
+public:
+    template<typename Item>
+    Index move(Index from, const std::vector<Item>& source, std::vector<Item>& target) {
+        const auto [entry, isNew] = m_places.emplace(from, static_cast<Index>(target.size()));
+        if (isNew)
+            target.push_back(source[static_cast<std::size_t>(from)]);
+        return entry->second;
+    }
+
+private:
+    std::map<Index, Index> m_places;
+};
+
+} // namespace
+
+PageText pageForNote(const PageText& source) {
+    PageText page;
+    page.number = source.number;
+    page.width = source.width;
+    page.height = source.height;
+    return page;
+}
+
+void addNoteLines(PageText& note, const PageText& source, std::vector<Line> lines, double leading) {
+    if (lines.empty())
+        return;
+    Mover<std::uint32_t> fonts;
+    Mover<int> links;
+    const double shift = note.lines.empty() ? 0 : note.lines.back().baseline + leading - lines.front().baseline;
+    for (Line& line : lines) {
+        moveDown(line, shift);
+        line.figure = -1;
+        for (Word& word : line.words) {
+            for (Span& span : word.spans) {
+                if (span.look.font < source.fonts.size())
+                    span.look.font = fonts.move(span.look.font, source.fonts, note.fonts);
+                if (span.look.link >= 0)
+                    span.look.link = links.move(span.look.link, source.links, note.links);
+                span.mark = -1;
+            }
+        }
+        note.lines.push_back(std::move(line));
+    }
+}
+
+void partMark(Line& line) {
+    Word& first = line.words.front();
+    if (first.spans.size() < 2 || !isRaisedMark(first.spans.front()))
+        return;
+    Word rest = first;
+    rest.spans.erase(rest.spans.begin());
+    rest.box = {};
+    for (const Span& span : rest.spans)
+        rest.box = rest.box.united(span.box);
+    rest.gapBefore = Gap::None;
+    first.spans.resize(1);
+    first.box = first.spans.front().box;
+    line.words.insert(line.words.begin() + 1, std::move(rest));
+}
+
+bool isMarkOf(const Line& mark, const Line& first) {
+    return mark.words.size() == 1 && mark.baseline <= first.baseline &&
+           2 * overlap(mark.box.top, mark.box.bottom, first.box.top, first.box.bottom) > mark.box.height();
+}
+
+void prependMark(Line& line, const Line& mark) {
+    line.words.insert(line.words.begin(), mark.words.front());
+    measureAnew(line);
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "layout/text/PageText.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// An empty page of that size for the text of one note, which may come from several pages.
+PageText pageForNote(const PageText& source);
+
+/// Moves lines of a page to the note's page, with the fonts and links that they use. Lines of a further page are put
+/// below what is there, `leading` points from baseline to baseline.
+void addNoteLines(PageText& note, const PageText& source, std::vector<Line> lines, double leading);
+
+/// Makes the raised mark at the line's start a word of its own. Requires: the line starts with a mark.
+void partMark(Line& line);
+
+/// True when `mark` is nothing but a raised mark that stands beside the first line of its note.
+bool isMarkOf(const Line& mark, const Line& first);
+
+/// Makes such a mark the first word of the line.
+void prependMark(Line& line, const Line& mark);
+
+} // namespace orvane::layout

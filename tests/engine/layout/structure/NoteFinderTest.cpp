@@ -1,0 +1,177 @@
+#include "layout/structure/NoteFinder.h"
+
+#include "layout/structure/NoteMark.h"
+#include "layout/text/LineText.h"
+
+#include "engine/layout/TextBuilder.h"
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::NoteKind;
+using document::VerticalPosition;
+using tests::makeLine;
+using tests::makePage;
+
+/// A line in which what stands behind '^' up to the word's end is raised: "some text^1 goes on".
+Line makeNotedLine(const std::string& text, double left, double baseline, double size = 10) {
+    Line line = makeLine(text, left, baseline, {size});
+    for (Word& word : line.words) {
+        const std::size_t at = word.spans[0].text.find('^');
+        if (at == std::string::npos)
+            continue;
+        Span raised = word.spans[0];
+        raised.text.erase(0, at + 1);
+        raised.look.verticalPosition = VerticalPosition::Superscript;
+        raised.box.left = raised.box.right - 3;
+        word.spans[0].text.erase(at);
+        word.spans[0].box.right = raised.box.left;
+        if (at == 0)
+            word.spans.clear();
+        word.spans.push_back(raised);
+    }
+    return line;
+}
+
+/// The short rule that word processors draw above notes.
+Rule noteRule(double y, double left = 72) {
+    Rule rule;
+    rule.position = y;
+    rule.from = left;
+    rule.to = left + 144;
+    return rule;
+}
+
+PageText pageWithText(int number, const std::vector<std::string>& lines) {
+    PageText page = makePage(number);
+    double baseline = 100;
+    for (const std::string& line : lines)
+        page.lines.push_back(makeNotedLine(line, 72, baseline += 14));
+    return page;
+}
+
+void addNotes(PageText& page, const std::vector<std::string>& notes) {
+    page.rules.push_back(noteRule(700));
+    double baseline = 700;
+    for (const std::string& note : notes)
+        page.lines.push_back(makeNotedLine(note, 72, baseline += 12, 8));
+}
+
+/// The notes as "kind mark@page: lines", one a row.
+std::string notesOf(const FoundNotes& found) {
+    std::string text;
+    for (const FoundNote& note : found.notes) {
+        text += fmt::format("{} {}@{}:", note.kind == NoteKind::Footnote ? "foot" : "end", note.mark,
+                            note.referencePage + 1);
+        for (const Line& line : note.content.lines)
+            text += fmt::format(" {}", textOf(line));
+        text += '\n';
+    }
+    return text;
+}
+
+FoundNotes take(std::vector<PageText>& pages) {
+    DocumentContext context;
+    context.bodyFontSize = 10;
+    context.bodyLeading = 14;
+    return takeNotes(pages, context, {});
+}
+
+TEST(NoteFinder, TakesWhatTheTextRefersTo) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1 and", "another^2 word"})};
+    addNotes(pages[0], {"^1 The first note", "goes on", "^2 The second"});
+    const FoundNotes found = take(pages);
+    EXPECT_EQ(notesOf(found), "foot 1@1: 1 The first note goes on\nfoot 2@1: 2 The second\n");
+    EXPECT_EQ(pages[0].lines.size(), 2u);
+    EXPECT_TRUE(pages[0].rules[0].isUsed);
+    EXPECT_EQ(found.notes[1].referenceBox, pages[0].lines[1].words[0].spans[1].box);
+    EXPECT_DOUBLE_EQ(found.areas[0].top, 700);
+}
+
+TEST(NoteFinder, LeavesWhatNothingRefersTo) {
+    struct Row {
+        const char* text;
+        const char* below;
+        const char* why;
+    };
+    const Row kRows[] = {{"no mark in the text", "^1 Values of last year", "there is no reference"},
+                         {"a word^2", "^1 Values of last year", "the reference is to another note"},
+                         {"a word^1", "Signature of the applicant", "it has no mark"},
+                         {"^1 starts a line", "^1 Values of last year", "that is the start of a note as well"}};
+    for (const Row& row : kRows) {
+        std::vector<PageText> pages{pageWithText(1, {row.text})};
+        addNotes(pages[0], {row.below});
+        EXPECT_EQ(notesOf(take(pages)), "") << row.why;
+        EXPECT_EQ(pages[0].lines.size(), 2u) << row.why;
+    }
+}
+
+TEST(NoteFinder, WantsTheRuleAndSmallText) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"}), pageWithText(2, {"a word^1"})};
+    addNotes(pages[0], {"^1 A note"});
+    pages[0].rules.clear();
+    addNotes(pages[1], {"^1 A note"});
+    pages[1].lines.back().fontSize = 14;
+    EXPECT_EQ(notesOf(take(pages)), "");
+}
+
+TEST(NoteFinder, GoesOnOnTheNextPage) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"}), pageWithText(2, {"more^2"})};
+    addNotes(pages[0], {"^1 A long"});
+    addNotes(pages[1], {"note ends", "^2 Another"});
+    pages[1].fonts[0].family = "Caladea";
+    const FoundNotes found = take(pages);
+    EXPECT_EQ(notesOf(found), "foot 1@1: 1 A long note ends\nfoot 2@2: 2 Another\n");
+    const PageText& content = found.notes[0].content;
+    EXPECT_GT(content.lines[1].baseline, content.lines[0].baseline);
+    EXPECT_EQ(content.fonts.at(content.lines[1].words[0].spans[0].look.font).family, "Caladea");
+}
+
+TEST(NoteFinder, PutsAMarkThatStandsAsALineToItsText) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
+    addNotes(pages[0], {});
+    pages[0].lines.push_back(makeLine("1", 72, 709, {.size = 5}));
+    pages[0].lines.push_back(makeLine("Set apart", 90, 712, {.size = 8}));
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 Set apart\n");
+}
+
+TEST(NoteFinder, TakesEndnotesWithoutARule) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^i and", "another^ii word"}), makePage(2)};
+    pages[1].lines = {makeNotedLine("^i First", 72, 80), makeNotedLine("^ii Second", 72, 94)};
+    EXPECT_EQ(notesOf(take(pages)), "end i@1: i First\nend ii@1: ii Second\n");
+    EXPECT_TRUE(pages[1].lines.empty());
+}
+
+TEST(NoteFinder, KeepsFootnotesAndEndnotesOfOnePageApart) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1 and", "another^i word"})};
+    addNotes(pages[0], {"^1 Foot"});
+    pages[0].rules.push_back(noteRule(400));
+    pages[0].lines.push_back(makeNotedLine("^i End", 72, 412, 8));
+    EXPECT_EQ(notesOf(take(pages)), "end i@1: i End\nfoot 1@1: 1 Foot\n");
+}
+
+TEST(NoteFinder, LeavesTheOtherColumnAlone) {
+    std::vector<PageText> pages{makePage(1)};
+    for (int i = 0; i < 40; ++i) {
+        if (i < 36)
+            pages[0].lines.push_back(makeLine("the left column has text enough", 72, 200 + 14 * i));
+        pages[0].lines.push_back(makeLine("the right column is set as well", 310, 200 + 14 * i));
+    }
+    pages[0].lines[0] = makeNotedLine("the left column has text^1", 72, 200);
+    addNotes(pages[0], {"^1 A note of the left column"});
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note of the left column\n");
+    EXPECT_EQ(pages[0].lines.size(), 76u);
+}
+
+TEST(NoteMark, KnowsMarks) {
+    for (const char* mark : {"1", "12", "iv", "b", "*", "**", "†", "(3)", "4.", "٤"})
+        EXPECT_TRUE(isNoteMark(mark)) << mark;
+    for (const char* mark : {"", "th", "2004", "1a", "+", "()"})
+        EXPECT_FALSE(isNoteMark(mark)) << mark;
+}
+
+} // namespace
+} // namespace orvane::layout
