@@ -1,5 +1,6 @@
 #include "layout/assembly/SpacingFinder.h"
 
+#include "layout/fonts/FontTable.h"
 #include "layout/fonts/LineMetrics.h"
 #include "layout/support/Tally.h"
 
@@ -23,10 +24,22 @@ struct BlockGap {
     double points = 0;
 };
 
+/// Below a picture that stands on a line, room is left for the descenders of the paragraph's mark.
+double markDescent(const AssemblyContext& context) {
+    constexpr double kUsualDescent = 0.2;
+    const auto families = fontFamilies();
+    const auto family = std::ranges::find(families, context.fonts.mainFamily(ScriptClass::Simple), &FontFamily::name);
+    const bool isKnown = family != families.end() && family->descent > 0;
+    return (isKnown ? family->descent : kUsualDescent) * context.document.bodyFontSize;
+}
+
 void measure(AssembledBlock& block, const AssemblyContext& context) {
     const DraftParagraph* draft = block.draftParagraph();
-    if (!draft)
+    if (!draft) {
+        if (block.paragraph())
+            block.bottom += markDescent(context);
         return;
+    }
     const document::LineSpacing& spacing = block.paragraph()->properties.lineSpacing;
     const DraftPiece& last = draft->pieces.back();
     const std::size_t firstPage = draft->pieces.front().page;

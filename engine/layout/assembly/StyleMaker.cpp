@@ -154,7 +154,11 @@ void snapToStyle(AssembledBlock& block, const Style& style, const LayoutParamete
     ParagraphProperties& format = block.paragraph()->properties;
     const ParagraphProperties& usual = style.paragraph;
     const bool isSingleLine = lineCount(block) == 1;
-    if (!block.hasOwnLineSpacing || isNear(format.lineSpacing, usual.lineSpacing, limits))
+    // A picture on a line needs all of its height: other spacing than single would cut it, or part it from its text.
+    const bool isText = block.draftParagraph() != nullptr;
+    if (isText && !block.hasOwnLineSpacing)
+        format.lineSpacing = usual.lineSpacing;
+    else if (isNear(format.lineSpacing, usual.lineSpacing, limits))
         format.lineSpacing = usual.lineSpacing;
     format.outlineLevel = usual.outlineLevel;
     format.keepWithNext = usual.keepWithNext;

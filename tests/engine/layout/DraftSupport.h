@@ -61,6 +61,17 @@ inline DraftBlock makeBlock(ParagraphDraft paragraph, std::size_t page = 0) {
     return block;
 }
 
+/// A picture that stands on a line of its own.
+inline DraftBlock makePictureBlock(const Rect& box) {
+    DraftBlock block;
+    block.box = box;
+    FigureDraft figure;
+    figure.figure.box = box;
+    figure.isInline = true;
+    block.value = std::move(figure);
+    return block;
+}
+
 /// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.
 inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index, const LayoutRequest& request = {}) {
     DocumentDraft linked = draft;

@@ -12,6 +12,10 @@ constexpr double kLine = 12.207;
 
 using tests::documentOf;
 using tests::draftOfLines;
+using tests::makeBlock;
+using tests::makeLine;
+using tests::makeParagraph;
+using tests::makePictureBlock;
 using tests::paragraphAt;
 using tests::styleOf;
 
@@ -76,6 +80,15 @@ TEST(SpacingFinder, LetsItemsStandCloseWithSpaceBehindTheList) {
     EXPECT_NEAR(pointsFromTwips(item.spaceAfter), 8, 0.15);
     for (const std::size_t i : {2u, 3u, 4u})
         EXPECT_EQ(paragraphAt(document, i).properties, item);
+}
+
+TEST(SpacingFinder, LeavesRoomForTheMarkBelowAPicture) {
+    // The top of the text is 2 points below the picture: the descenders of the picture's paragraph take that.
+    DocumentDraft draft = draftOfLines({{"below", 231.5}});
+    draft.blocks.insert(draft.blocks.begin(), makePictureBlock({72, 120, 272, 220}));
+    EXPECT_EQ(paragraphAt(documentOf(draft), 0).properties.spaceAfter, Twips(0));
+    draft.blocks[1] = makeBlock(makeParagraph({makeLine("below", 72, 251.5)}));
+    EXPECT_NEAR(pointsFromTwips(paragraphAt(documentOf(draft), 0).properties.spaceAfter), 19.3, 0.5);
 }
 
 } // namespace

@@ -12,6 +12,7 @@ using tests::draftOfLines;
 using tests::makeBlock;
 using tests::makeLine;
 using tests::makeParagraph;
+using tests::makePictureBlock;
 using tests::paragraphAt;
 using tests::styleOf;
 
@@ -67,6 +68,16 @@ TEST(StyleMaker, GivesSingleLinesTheLineSpacingOfTheRest) {
     const auto document = documentOf(draft);
     EXPECT_DOUBLE_EQ(document.styles[0].paragraph.lineSpacing.multiple, 1.5);
     EXPECT_DOUBLE_EQ(paragraphAt(document, 1).properties.lineSpacing.multiple, 1.5);
+}
+
+TEST(StyleMaker, LeavesPicturesTheirHeight) {
+    DocumentDraft draft = draftOfLines({});
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("one two", 72, 100), makeLine("three", 72, 109.7)})));
+    draft.blocks.push_back(makePictureBlock({72, 120, 272, 220}));
+    const auto document = documentOf(draft);
+    EXPECT_LT(document.styles[0].paragraph.lineSpacing.multiple, 1);
+    EXPECT_EQ(paragraphAt(document, 1).properties.lineSpacing, document::LineSpacing{})
+        << "closer spacing would cut the picture";
 }
 
 TEST(StyleMaker, OverlooksSmallDifferencesOfIndents) {
