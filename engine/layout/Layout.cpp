@@ -15,14 +15,10 @@
 #include "layout/structure/ParagraphJoiner.h"
 #include "layout/structure/SectionMaker.h"
 #include "layout/structure/TableJoiner.h"
+#include "layout/truepage/TruePageDocument.h"
 
 namespace orvane::layout {
 namespace {
-
-void checkMode(LayoutMode mode) {
-    if (mode == LayoutMode::TruePage)
-        throw Failure(FailureCode::NotSupported, "the true page layout is not supported");
-}
 
 /// What the mode keeps of the flowing document.
 document::Document inMode(LayoutMode mode, document::Document flowing) {
@@ -56,10 +52,11 @@ std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentC
 document::Document layoutDocument(std::vector<PageText> pages, const DocumentFacts& facts, const LayoutRequest& request,
                                   const LayoutParameters& parameters, const JobObserver& observer,
                                   Diagnostics& diagnostics) {
-    checkMode(request.mode);
     if (request.removeImages)
         for (PageText& page : pages)
             page.figures.clear();
+    if (request.mode == LayoutMode::TruePage)
+        return truePageDocument(std::move(pages), facts, request, parameters, observer, diagnostics);
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);
     FoundNotes notes = takeNotes(pages, context, parameters);

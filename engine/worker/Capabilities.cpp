@@ -18,10 +18,12 @@ struct Capability {
     Format format;
 };
 
-constexpr std::array<Capability, 9> kCapabilities{{
+constexpr std::array<Capability, 11> kCapabilities{{
     {Layout::Flowing, Format::Docx},
     {Layout::Flowing, Format::Rtf},
     {Layout::Flowing, Format::Doc},
+    {Layout::TruePage, Format::Docx},
+    {Layout::TruePage, Format::Rtf},
     {Layout::Continuous, Format::Docx},
     {Layout::Continuous, Format::Rtf},
     {Layout::Continuous, Format::Doc},

@@ -1,6 +1,7 @@
 #include "layout/assembly/DocumentAssembler.h"
 
 #include "layout/assembly/BlockAssembler.h"
+#include "layout/assembly/DocumentMetadata.h"
 #include "layout/assembly/NumberingAssembler.h"
 #include "layout/assembly/SpacingFinder.h"
 
@@ -9,18 +10,6 @@
 
 namespace orvane::layout {
 namespace {
-
-document::Metadata metadataOf(const pdf::Metadata& source) {
-    document::Metadata metadata;
-    metadata.title = source.title;
-    metadata.author = source.author;
-    metadata.subject = source.subject;
-    metadata.keywords = source.keywords;
-    metadata.language = source.language;
-    metadata.created = source.created;
-    metadata.modified = source.modified;
-    return metadata;
-}
 
 /// The flows that styles and spacing are found for: the body first, then the running texts of each section.
 class FlowSet {

@@ -59,17 +59,26 @@ document::Block paragraphWith(document::Picture picture, const DraftBlock& place
 
 } // namespace
 
-document::Block assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context) {
-    document::Picture picture = pictureOf(draft.figure, context.draft.pages[place.page].number);
-    if (draft.isInline)
-        return paragraphWith(std::move(picture), place, context);
+document::Figure floatingFigure(const Figure& source, int page) {
+    document::Picture picture = pictureOf(source, page);
     document::Figure figure;
     figure.origin = picture.origin;
-    figure.placement.x = emuFromPoints(draft.figure.box.left);
-    figure.placement.y = emuFromPoints(draft.figure.box.top);
-    figure.placement.wrapping = draft.figure.isBackground ? document::Wrapping::BehindText : document::Wrapping::Square;
-    figure.placement.zOrder = static_cast<int>(draft.figure.paintOrder);
+    // A picture is placed as it stands before it is turned, about its middle.
+    const Emu left = emuFromPoints(source.box.centerX()), top = emuFromPoints(source.box.centerY());
+    figure.placement.x = Emu(left.value - picture.width.value / 2);
+    figure.placement.y = Emu(top.value - picture.height.value / 2);
+    figure.placement.zOrder = static_cast<int>(source.paintOrder);
     figure.content = std::move(picture);
+    return figure;
+}
+
+document::Block assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context) {
+    const int page = context.draft.pages[place.page].number;
+    if (draft.isInline)
+        return paragraphWith(pictureOf(draft.figure, page), place, context);
+    document::Figure figure = floatingFigure(draft.figure, page);
+    if (draft.figure.isBackground)
+        figure.placement.wrapping = document::Wrapping::BehindText;
     return {std::move(figure)};
 }
 

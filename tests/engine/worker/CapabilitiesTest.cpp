@@ -15,6 +15,11 @@ TEST(Capabilities, HasThreeLayoutsInEachFormat) {
             EXPECT_NO_THROW(requireSupported(layout, format));
 }
 
+TEST(Capabilities, HasTruePageWhereTheFormatHasTextBoxes) {
+    EXPECT_NO_THROW(requireSupported(Layout::TruePage, Format::Docx));
+    EXPECT_NO_THROW(requireSupported(Layout::TruePage, Format::Rtf));
+}
+
 TEST(Capabilities, NamesWhatIsMissing) {
     struct Row {
         Layout layout;

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "document/Document.h"
+#include "pdf/PdfDocument.h"
+
+namespace orvane::layout {
+
+/// What the file says of itself, in the document's words.
+document::Metadata metadataOf(const pdf::Metadata& source);
+
+} // namespace orvane::layout
