@@ -12,6 +12,8 @@ using Piece = PictureGroup::Piece;
 
 /// How far edges of pieces may be apart: producers round what they place. Units: pixels.
 constexpr double kEdgeTolerance = 0.75;
+/// The same for small pieces, as a share of their size: lest one pixel pass for a larger one.
+constexpr double kEdgeShare = 0.1;
 /// As for any picture.
 constexpr std::int64_t kMaxPixels = 300'000'000;
 
@@ -49,20 +51,25 @@ bool areAlike(const PaintedPicture& a, const PaintedPicture& b) {
     return a.isStencil == b.isStencil && a.coding == b.coding && a.components == b.components && a.bits == b.bits;
 }
 
+double toleranceOf(int pixels) {
+    return std::min(kEdgeTolerance, kEdgeShare * pixels);
+}
+
 /// Whether the pixels of `b` are as large as those of `raster` and lie in the same direction.
 bool hasSameSteps(const Raster& raster, const PaintedPicture& b) {
     const Point origin = raster.pixelAt({b.matrix.e, b.matrix.f});
     const Point right = raster.pixelAt({b.matrix.e + b.matrix.a, b.matrix.f + b.matrix.b});
     const Point below = raster.pixelAt({b.matrix.e + b.matrix.c, b.matrix.f + b.matrix.d});
-    const auto isNear = [](double value, double wanted) { return std::abs(value - wanted) <= kEdgeTolerance; };
-    return isNear(right.x - origin.x, b.width) && isNear(right.y - origin.y, 0) && isNear(below.x - origin.x, 0) &&
-           isNear(below.y - origin.y, b.height);
+    const double sideways = toleranceOf(b.width);
+    const double downwards = toleranceOf(b.height);
+    return std::abs(right.x - origin.x - b.width) <= sideways && std::abs(right.y - origin.y) <= sideways &&
+           std::abs(below.x - origin.x) <= downwards && std::abs(below.y - origin.y - b.height) <= downwards;
 }
 
 /// Puts block `next` behind `block` where it continues it; along the rows or down the columns.
 bool appendRight(Block& block, const Block& next) {
-    if (block.height != next.height || std::abs(next.y - block.y) > kEdgeTolerance ||
-        std::abs(next.x - block.x - block.width) > kEdgeTolerance)
+    if (block.height != next.height || std::abs(next.y - block.y) > toleranceOf(next.height) ||
+        std::abs(next.x - block.x - block.width) > toleranceOf(next.width))
         return false;
     for (Piece piece : next.pieces) {
         piece.x += block.width;
@@ -73,8 +80,8 @@ bool appendRight(Block& block, const Block& next) {
 }
 
 bool appendBelow(Block& block, const Block& next) {
-    if (block.width != next.width || std::abs(next.x - block.x) > kEdgeTolerance ||
-        std::abs(next.y - block.y - block.height) > kEdgeTolerance)
+    if (block.width != next.width || std::abs(next.x - block.x) > toleranceOf(next.width) ||
+        std::abs(next.y - block.y - block.height) > toleranceOf(next.height))
         return false;
     for (Piece piece : next.pieces) {
         piece.y += block.height;

@@ -38,9 +38,9 @@ protected:
         return names;
     }
 
-    /// What GraphicsMagick, a program of other people, says of a file.
-    static std::string magick(const std::vector<std::string>& arguments) {
-        const auto result = tests::runProgram("/usr/bin/gm", arguments, {});
+    /// What ImageMagick, a program of other people, says of a file.
+    static std::string magick(const std::string& program, const std::vector<std::string>& arguments) {
+        const auto result = tests::runProgram("/usr/bin/" + program, arguments, {});
         EXPECT_EQ(result.exitCode, 0) << result.errorOutput;
         return result.output;
     }
@@ -63,15 +63,15 @@ TEST_F(ImagesProgram, WritesEveryFormatSoThatAnotherProgramReadsIt) {
         ASSERT_EQ(result.exitCode, 0) << row.format << result.errorOutput;
         EXPECT_THAT(filesIn(std::string("out-") + row.format), ElementsAre(row.file));
         const std::string file = folder + "/" + row.file;
-        EXPECT_THAT(magick({"identify", "-format", "%m %wx%h", file}), HasSubstr("2x1")) << row.format;
-        EXPECT_EQ(magick({"convert", file, "-depth", "8", "rgb:-"}), std::string("\xFF\0\0\0\0\xFF", 6)) << row.format;
+        EXPECT_THAT(magick("identify", {"-format", "%m %wx%h", file}), HasSubstr("2x1")) << row.format;
+        EXPECT_EQ(magick("convert", {file, "-depth", "8", "rgb:-"}), std::string("\xFF\0\0\0\0\xFF", 6)) << row.format;
     }
 }
 
 TEST_F(ImagesProgram, WritesLossyAndBilevelFormatsToo) {
     makeRedAndBlue("a.pdf");
     EXPECT_EQ(orvane({"images", path("a.pdf"), path("j"), "--format", "jpg"}).exitCode, 0);
-    EXPECT_EQ(magick({"identify", "-format", "%m %wx%h", path("j/a-p001-01.jpg")}).substr(0, 8), "JPEG 2x1");
+    EXPECT_EQ(magick("identify", {"-format", "%m %wx%h", path("j/a-p001-01.jpg")}).substr(0, 8), "JPEG 2x1");
     EXPECT_EQ(orvane({"images", path("a.pdf"), path("b"), "--format", "pbm"}).exitCode, 0);
     EXPECT_EQ(read("b/a-p001-01.pbm").substr(0, 7), "P4\n2 1\n");
 }

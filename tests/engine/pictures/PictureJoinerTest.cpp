@@ -21,7 +21,7 @@ PaintedPicture picture(const std::string& identity, int width, int height, doubl
 
 TEST(PictureJoiner, PutsStripsTogether) {
     const auto groups =
-        joinPieces({picture("1", 100, 16, 50, 20), picture("2", 100, 16, 50, 36.2), picture("3", 100, 5, 50, 51.9)});
+        joinPieces({picture("1", 100, 16, 50, 20), picture("2", 100, 16, 50, 36.2), picture("3", 100, 5, 50, 52.1)});
     ASSERT_EQ(groups.size(), 1u);
     EXPECT_EQ(groups[0].width, 100);
     EXPECT_EQ(groups[0].height, 37);

@@ -15,16 +15,22 @@ using document::Figure;
 using document::Frame;
 using document::Paragraph;
 
-struct Willing : JobObserver {
-    bool isCancelled() const override { return false; }
-};
-struct Unwilling : JobObserver {
-    bool isCancelled() const override { return true; }
+/// Lets the job go on, or not.
+class Starter : public JobObserver {
+public:
+    explicit Starter(bool hasCancelled)
+        : m_hasCancelled(hasCancelled) {}
+    void stageReached(JobStage, int, int) override {}
+    bool isCancelled() const override { return m_hasCancelled; }
+
+private:
+    bool m_hasCancelled;
 };
 
 Document documentOf(std::vector<PageText> pages) {
     Diagnostics diagnostics;
-    return truePageDocument(std::move(pages), {}, {LayoutMode::TruePage, false, false}, {}, Willing(), diagnostics);
+    return truePageDocument(std::move(pages), {}, {LayoutMode::TruePage, false, false}, {}, Starter(false),
+                            diagnostics);
 }
 
 template<typename T>
@@ -94,7 +100,7 @@ TEST(TruePageDocument, TurnsTextAsItWas) {
 TEST(TruePageDocument, StopsWhenToldTo) {
     Diagnostics diagnostics;
     EXPECT_THROW(
-        truePageDocument({makePage(1)}, {}, {LayoutMode::TruePage, false, false}, {}, Unwilling(), diagnostics),
+        truePageDocument({makePage(1)}, {}, {LayoutMode::TruePage, false, false}, {}, Starter(true), diagnostics),
         Failure);
 }
 
