@@ -44,6 +44,12 @@ bool shows(const RunningRow& row, const PageNumber& number) {
     });
 }
 
+/// Whether nothing but a number makes the row agree with those of other pages.
+bool restsOnNumber(const EdgeRows& edge, std::size_t row) {
+    return edge.matches[row] == RowMatch::Number ||
+           (edge.rows[row].skeleton == "#" && edge.rows[row].numbers.size() == 1);
+}
+
 /// Cuts characters `from` to `from + length` of a word out of its spans and returns the index of the span they now are;
 /// the word's number of spans when they lie in several spans.
 std::size_t isolate(Word& word, std::size_t from, std::size_t length) {
@@ -128,7 +134,7 @@ void leaveOtherNumbers(std::vector<EdgeRows>& edges, const std::vector<std::opti
     for (std::size_t page = 0; page < edges.size(); ++page) {
         EdgeRows& edge = edges[page];
         for (std::size_t i = 0; i < edge.taken; ++i)
-            if (edge.matches[i] == RowMatch::Number && numbers[page] && !shows(edge.rows[i], *numbers[page]))
+            if (restsOnNumber(edge, i) && numbers[page] && !shows(edge.rows[i], *numbers[page]))
                 trimTaken(edge, i);
     }
 }

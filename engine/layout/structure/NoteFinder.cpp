@@ -112,7 +112,7 @@ private:
     void takeArea(std::size_t page, const NoteArea& area, std::vector<bool>& isTaken) {
         const LineReferences matched = matchStarts(page, area);
         // Without a mark that the text has, the area may go on with the last note of the page before.
-        if (matched.empty() && (!area.starts.empty() || !followsNotes(page)))
+        if (matched.empty() && (!area.starts.empty() || !followsNotes(page) || !looksLikeLast(page, area)))
             return;
         takeLines(page, area, matched, isTaken);
     }
@@ -125,6 +125,14 @@ private:
         const LineReferences matched = matchStarts(page, *area);
         if (!matched.empty())
             takeLines(page, *area, matched, isTaken);
+    }
+
+    /// The rule is drawn like the one above the last notes, and the text below it is of their size.
+    bool looksLikeLast(std::size_t page, const NoteArea& area) const {
+        const Rule& rule = m_pages[page].rules[*area.rule];
+        const double size = m_pages[page].lines[area.lines.front()].fontSize;
+        return m_lastRule && std::abs(rule.to - rule.from - m_lastRule->to + m_lastRule->from) < rule.width &&
+               size == m_found.notes.back().content.lines.back().fontSize;
     }
 
     bool followsNotes(std::size_t page) const { return page > 0 && m_lastPage == page - 1; }
@@ -159,6 +167,7 @@ private:
         if (area.rule) {
             box.top = std::min(box.top, area.top);
             useRules(source, area.top);
+            m_lastRule = source.rules[*area.rule];
         }
         m_found.areas[page] = m_found.areas[page].united(box);
         m_lastPage = page;
@@ -197,6 +206,7 @@ private:
     std::vector<Reference> m_references;
     std::map<std::string, std::vector<std::size_t>> m_byMark; ///< indices into m_references
     FoundNotes m_found;
+    std::optional<Rule> m_lastRule;                        ///< above the notes taken last
     std::size_t m_lastPage = static_cast<std::size_t>(-2); ///< on which notes were taken last
 };
 

@@ -130,6 +130,15 @@ TEST(NoteFinder, GoesOnOnTheNextPage) {
     EXPECT_EQ(content.fonts.at(content.lines[1].words[0].spans[0].look.font).family, "Caladea");
 }
 
+TEST(NoteFinder, DoesNotGoOnBelowAnotherRule) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"}), pageWithText(2, {"more"})};
+    addNotes(pages[0], {"^1 A note"});
+    addNotes(pages[1], {"text in a shape"});
+    pages[1].rules[0].to -= 80;
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note\n");
+    EXPECT_EQ(pages[1].lines.size(), 2u);
+}
+
 TEST(NoteFinder, PutsAMarkThatStandsAsALineToItsText) {
     std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
     addNotes(pages[0], {});
