@@ -37,8 +37,8 @@ std::vector<std::string> textsOf(const std::vector<DraftBlock>& frames) {
 using Texts = std::vector<std::string>;
 
 TEST(FrameCutter, RegularLinesAreOneFrameAndEndByHand) {
-    const auto frames = framesOf({makeLine("one", 72, 100), makeLine("two", 72, 112), makeLine("six", 72, 124)});
-    EXPECT_EQ(textsOf(frames), (Texts{"one/two/six"}));
+    const auto frames = framesOf({makeLine("one", 72, 100), makeLine("three", 72, 112), makeLine("six", 72, 124)});
+    EXPECT_EQ(textsOf(frames), (Texts{"one/three/six"}));
     const ParagraphDraft& text = textOfFrame(frames[0]);
     EXPECT_EQ(text.hardBreaks, (std::vector<std::size_t>{0, 1}));
     EXPECT_EQ(text.leading, 12);
