@@ -88,9 +88,8 @@ class WordFile:
         if run.note:
             self.notes.append(run.note)
             return f'<w:r><w:rPr><w:vertAlign w:val="superscript"/></w:rPr><w:footnoteReference w:id="{len(self.notes)}"/></w:r>'
-        properties = ("<w:b/><w:bCs/>" if run.bold else "") + ("<w:i/><w:iCs/>" if run.italic else "")
-        if run.link:
-            properties += '<w:color w:val="1155CC"/><w:u w:val="single"/>'
+        properties = '<w:rStyle w:val="Hyperlink"/>' if run.link else ""
+        properties += ("<w:b/><w:bCs/>" if run.bold else "") + ("<w:i/><w:iCs/>" if run.italic else "")
         if self.document.rtl:
             properties += "<w:rtl/>"
         text = f"<w:r><w:rPr>{properties}</w:rPr>{'<w:br/>' if run.break_before else ''}{text_of(run.text)}</w:r>"
@@ -163,7 +162,8 @@ class WordFile:
         return f'<w:p><w:pPr>{bidi}<w:jc w:val="center"/></w:pPr>{runs}</w:p>'
 
     def footnotes(self):
-        notes = ""
+        # The rule above the notes is a note of its own, which word processors always write.
+        notes = '<w:footnote w:type="separator" w:id="-1"><w:p><w:r><w:separator/></w:r></w:p></w:footnote>'
         for number, text in enumerate(self.notes, 1):
             notes += (f'<w:footnote w:id="{number}"><w:p><w:r><w:rPr><w:vertAlign w:val="superscript"/></w:rPr><w:footnoteRef/></w:r>'
                       f'<w:r><w:rPr><w:sz w:val="18"/></w:rPr>{text_of(" " + text)}</w:r></w:p></w:footnote>')
@@ -196,7 +196,9 @@ class WordFile:
         return (f'<w:styles {ROOT}><w:docDefaults><w:rPrDefault><w:rPr><w:rFonts {fonts}/><w:sz w:val="{half_points}"/>'
                 f'<w:szCs w:val="{half_points}"/>{language}</w:rPr></w:rPrDefault></w:docDefaults>'
                 f'<w:style w:type="paragraph" w:default="1" w:styleId="Normal"><w:name w:val="Normal"/>'
-                f'<w:pPr><w:spacing w:after="120" w:line="264" w:lineRule="auto"/></w:pPr></w:style>{headings}</w:styles>')
+                f'<w:pPr><w:spacing w:after="120" w:line="264" w:lineRule="auto"/></w:pPr></w:style>{headings}'
+                '<w:style w:type="character" w:styleId="Hyperlink"><w:name w:val="Hyperlink"/>'
+                '<w:rPr><w:color w:val="1155CC"/><w:u w:val="single"/></w:rPr></w:style></w:styles>')
 
     def relations(self):
         entries = [(part, OFFICE + kind, target, "") for part, kind, target in (
