@@ -101,7 +101,8 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const Layo
     label.format = formatOf(marker->kind);
     label.labelStart = startOf(line.words[0].box, line, piece.column);
     label.textStart = startOf(line.words[1].box, line, piece.column);
-    const bool hangs = piece.text.firstLine < -parameters.lists.sameIndent;
+    // A single line shows no indent of the lines after it.
+    const bool hangs = piece.text.lines.size() > 1 && piece.text.firstLine < -parameters.lists.sameIndent;
     label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || hangs;
     if (label.format == NumberFormat::Bullet)
         label.bullet = marker->text;

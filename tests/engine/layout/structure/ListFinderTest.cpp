@@ -63,6 +63,7 @@ TEST(ListFinder, FindsLists) {
         {"another sign", {{"\u2022\tone"}, {"\u25AA\ttwo"}}, "0.0 1.0"},
         {"numbers that do not count", {{"3.\tone", 72}, {"7.\ttwo", 72}}, "- -"},
         {"a dash typed at the margin", {{"- one", 72}, {"- two", 72}}, "- -"},
+        {"speech", {{"\u2014 one", 72}, {"\u2014 two", 72}}, "- -"},
         {"a single number", {{"2. one", 72}}, "-"},
         {"headings", {{"1.\tAims", 72, ParagraphRole::Heading}, {"2.\tMeans", 72, ParagraphRole::Heading}}, "- -"},
         {"numerals of Han", {{"\u4E00\u3001\tone"}, {"\u4E8C\u3001\ttwo"}}, "- -"},
