@@ -7,6 +7,7 @@
 #include "layout/assembly/PlainTextDocument.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/running/RunningHeads.h"
+#include "layout/structure/ContentsFinder.h"
 #include "layout/structure/DraftBuilder.h"
 #include "layout/structure/HeadingFinder.h"
 #include "layout/structure/ListFinder.h"
@@ -64,6 +65,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     joinParagraphs(draft, context, parameters);
     joinTables(draft, context, parameters);
     makeNotes(draft, std::move(notes), context, parameters, diagnostics);
+    findContents(draft, parameters);
     findHeadings(draft, facts, context, parameters, diagnostics);
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);

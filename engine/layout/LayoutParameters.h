@@ -453,6 +453,14 @@ struct LayoutParameters {
             0.3; ///< of the lower of the two; a line that shares more height with a figure stands beside it
     } readingOrder;
 
+    /// ContentsFinder: tables of contents.
+    struct Contents {
+        std::size_t fewestEntries = 3; ///< that follow each other
+        double sureShare = 0.6;        ///< of the entries that must have a leader, or name what stands elsewhere
+        double sameIndent = 3.0;       ///< points; entries that start this near to each other are of one level
+        int deepestLevel = 9;          ///< that word processors know
+    } contents;
+
     /// FrameCutter, FrameAssembler: text where it stood.
     struct TruePage {
         double widestBlank = 1.8;         ///< of the font size; text behind a wider gap has a place of its own

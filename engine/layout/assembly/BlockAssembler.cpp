@@ -5,6 +5,7 @@
 #include "layout/assembly/TableAssembler.h"
 #include "layout/fonts/LineMetrics.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orvane::layout {
@@ -70,6 +71,15 @@ AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& con
     return assembled;
 }
 
+/// Puts an entry into the table of contents that the blocks end with, or into one of its own.
+void addEntry(std::vector<document::Block>& blocks, bool isContents, document::Paragraph entry, int level) {
+    if (!isContents)
+        blocks.push_back({document::TableOfContents{1, 1, {}}});
+    auto& contents = std::get<document::TableOfContents>(blocks.back().value);
+    contents.lastLevel = std::max(contents.lastLevel, level);
+    contents.entries.push_back(std::move(entry));
+}
+
 } // namespace
 
 std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts, const AssemblyContext& context) {
@@ -83,7 +93,15 @@ std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts
 std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, const AssemblyContext& context) {
     std::vector<document::Block> finished;
     finished.reserve(blocks.size());
+    bool isContents = false;
     for (AssembledBlock& block : blocks) {
+        const DraftParagraph* draft = block.draftParagraph();
+        const bool isEntry = draft && draft->role == ParagraphRole::ContentsEntry;
+        if (isEntry)
+            addEntry(finished, isContents, std::move(*block.paragraph()), draft->level);
+        isContents = isEntry;
+        if (isEntry)
+            continue;
         if (std::holds_alternative<document::Table>(block.block.value))
             fillCells(block, context);
         finished.push_back(std::move(block.block));
