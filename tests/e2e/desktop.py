@@ -9,6 +9,7 @@ import tempfile
 import time
 
 PATIENCE = 60  # seconds until something that has to happen counts as failed; the machine may be busy
+CLOSING_PATIENCE = 2  # seconds that a window may take to close before a key is pressed again
 TOOLS = ("Xvfb", "openbox", "xdotool", "xprop", "gm", "qpdf", "lowriter")
 TITLE = "Tavrelion-PDF to Word Converter"
 
@@ -23,6 +24,16 @@ def wait_for(what, condition, patience=PATIENCE):
         if time.monotonic() > end:
             raise AssertionError(f"not within {patience} seconds: {what}")
         time.sleep(0.05)
+
+
+def happens(condition, patience):
+    """Whether the condition comes true in that time."""
+    end = time.monotonic() + patience
+    while not condition():
+        if time.monotonic() > end:
+            return False
+        time.sleep(0.05)
+    return True
 
 
 def missing_tools():
