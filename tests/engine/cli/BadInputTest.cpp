@@ -58,8 +58,8 @@ TEST_F(BadInput, SavesWhatIsLeftOfATruncatedFile) {
     EXPECT_EQ(result.exitCode, 0) << result.errorOutput;
     EXPECT_THAT(result.output, HasSubstr("2 pages"));
 
-    write("stub.pdf", bytes.substr(0, 40));
-    expectRefused({"convert", path("stub.pdf"), path("stub.docx")}, 4, "stub.pdf");
+    write("cut-short.pdf", bytes.substr(0, 40));
+    expectRefused({"convert", path("cut-short.pdf"), path("cut-short.docx")}, 4, "cut-short.pdf");
 }
 
 TEST_F(BadInput, RefusesTargetsThatCannotBeWritten) {
