@@ -20,7 +20,7 @@ constexpr char kDoNotKeepPicture[] = "no_char_spacing.gif";
 } // namespace
 
 frmCharSpacing::frmCharSpacing(FormRegistry& registry, PagePorts ports)
-    : WizardPage(registry, std::move(ports), "frmCharSpacing", "picMain", Closing::AsksFirst)
+    : SteppingPage(registry, std::move(ports), "frmCharSpacing", "picMain", Closing::AsksFirst)
     , imgcharcterSpacing(frame().picture("imgcharcterSpacing")) {
     frame().title("lblCharacterSpacing", "Character Spacing");
     frame().sentence("lblInfo1");
@@ -30,10 +30,7 @@ frmCharSpacing::frmCharSpacing(FormRegistry& registry, PagePorts ports)
     cboCharSpacingType->setObjectName("cboCharSpacingType");
     cboCharSpacingType->hide();
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
-    cmdLast = frame().button("cmdLast", "Last >>");
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    addSteps();
     connectHandlers();
 }
 
@@ -41,10 +38,6 @@ void frmCharSpacing::connectHandlers() {
     connect(optCharSpaceYes, &OptionButton::turnedTrue, this, &frmCharSpacing::optCharSpaceYes_Click);
     connect(optCharSpaceNo, &OptionButton::turnedTrue, this, &frmCharSpacing::optCharSpaceNo_Click);
     connect(cboCharSpacingType, &DropDownList::itemSelected, this, &frmCharSpacing::cboCharSpacingType_Click);
-    connect(cmdBack, &QPushButton::clicked, this, &frmCharSpacing::cmdBack_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmCharSpacing::cmdCancel_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &frmCharSpacing::cmdNext_Click);
-    connect(cmdLast, &QPushButton::clicked, this, &frmCharSpacing::cmdLast_Click);
 }
 
 void frmCharSpacing::Form_Load() {

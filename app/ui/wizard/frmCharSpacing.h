@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ui/wizard/WizardPage.h"
+#include "ui/wizard/SteppingPage.h"
 
 class DropDownList;
 
 /// Asks whether character spacing is kept: intCharSpac (0 keeps it) and the text that the summary shows for it.
-class frmCharSpacing : public WizardPage {
+class frmCharSpacing : public SteppingPage {
     Q_OBJECT
 
 public:
@@ -20,10 +20,10 @@ private:
     void optCharSpaceYes_Click();
     void optCharSpaceNo_Click();
     void cboCharSpacingType_Click(int position);
-    void cmdBack_Click();
-    void cmdCancel_Click();
-    void cmdNext_Click();
-    void cmdLast_Click();
+    void cmdBack_Click() override;
+    void cmdCancel_Click() override;
+    void cmdNext_Click() override;
+    void cmdLast_Click() override;
 
     void selectStoredSpacing();
     void store();
@@ -32,8 +32,4 @@ private:
     OptionButton* optCharSpaceYes;
     OptionButton* optCharSpaceNo;
     DropDownList* cboCharSpacingType; ///< never shown; acts only when code selects an item
-    QPushButton* cmdBack;
-    QPushButton* cmdNext;
-    QPushButton* cmdLast;
-    QPushButton* cmdCancel;
 };

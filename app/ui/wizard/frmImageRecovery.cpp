@@ -18,27 +18,20 @@ constexpr std::int16_t kAnchor = 1;
 } // namespace
 
 frmImageRecovery::frmImageRecovery(FormRegistry& registry, PagePorts ports)
-    : WizardPage(registry, std::move(ports), "frmImageRecovery", "picMain", Closing::AsksFirst)
+    : SteppingPage(registry, std::move(ports), "frmImageRecovery", "picMain", Closing::AsksFirst)
     , Image1(frame().picture("Image1")) {
     frame().title("lblimageRecovery", "Image Recovery");
     frame().sentence("lblImgRecInfo");
     optAutoAnchor = frame().option("optAutoAnchor", "Automatic Anchoring");
     optRemImg = frame().option("optRemImg", "Remove ");
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
-    cmdLast = frame().button("cmdLast", "Last >>");
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    addSteps();
     connectHandlers();
 }
 
 void frmImageRecovery::connectHandlers() {
     connect(optAutoAnchor, &OptionButton::turnedTrue, this, &frmImageRecovery::optAutoAnchor_Click);
     connect(optRemImg, &OptionButton::turnedTrue, this, &frmImageRecovery::optRemImg_Click);
-    connect(cmdBack, &QPushButton::clicked, this, &frmImageRecovery::cmdBack_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmImageRecovery::cmdCancel_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &frmImageRecovery::cmdNext_Click);
-    connect(cmdLast, &QPushButton::clicked, this, &frmImageRecovery::cmdLast_Click);
 }
 
 void frmImageRecovery::Form_Load() {

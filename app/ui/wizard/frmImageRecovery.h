@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ui/wizard/WizardPage.h"
+#include "ui/wizard/SteppingPage.h"
 
 /// Asks what happens to the images of the PDF: intRecoverImg. In the modes without images the answer is forced.
-class frmImageRecovery : public WizardPage {
+class frmImageRecovery : public SteppingPage {
     Q_OBJECT
 
 public:
@@ -17,10 +17,10 @@ private:
     void connectHandlers();
     void optAutoAnchor_Click();
     void optRemImg_Click();
-    void cmdBack_Click();
-    void cmdCancel_Click();
-    void cmdNext_Click();
-    void cmdLast_Click();
+    void cmdBack_Click() override;
+    void cmdCancel_Click() override;
+    void cmdNext_Click() override;
+    void cmdLast_Click() override;
 
     void selectStoredTreatment();
     void store();
@@ -31,8 +31,4 @@ private:
     Picture* Image1;
     OptionButton* optAutoAnchor;
     OptionButton* optRemImg;
-    QPushButton* cmdBack;
-    QPushButton* cmdNext;
-    QPushButton* cmdLast;
-    QPushButton* cmdCancel;
 };

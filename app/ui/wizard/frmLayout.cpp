@@ -30,7 +30,7 @@ constexpr int kWordSize = 32; ///< pixels, of the picture of a document
 } // namespace
 
 frmLayout::frmLayout(FormRegistry& registry, PagePorts ports)
-    : WizardPage(registry, std::move(ports), "frmLayout", "picMain", Closing::AsksAndLeavesEnding)
+    : SteppingPage(registry, std::move(ports), "frmLayout", "picMain", Closing::AsksAndLeavesEnding)
     , imgPDF(frame().picture("imgPDF")) {
     QLabel* title = frame().label("lblLayoutOptions");
     title->setProperty("role", "title");
@@ -46,20 +46,13 @@ frmLayout::frmLayout(FormRegistry& registry, PagePorts ports)
         m_choices[mode] = {option, frame().description(kDesigns[mode].description, *option), kDesigns[mode].picture};
     }
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
-    cmdLast = frame().button("cmdLast", "Last >>");
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    addSteps();
     connectHandlers();
 }
 
 void frmLayout::connectHandlers() {
     for (const Choice& choice : m_choices)
         connect(choice.option, &OptionButton::turnedTrue, this, [this, &choice] { option_Click(choice); });
-    connect(cmdBack, &QPushButton::clicked, this, &frmLayout::cmdBack_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmLayout::cmdCancel_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &frmLayout::cmdNext_Click);
-    connect(cmdLast, &QPushButton::clicked, this, &frmLayout::cmdLast_Click);
 }
 
 void frmLayout::Form_Load() {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ui/wizard/WizardPage.h"
+#include "ui/wizard/SteppingPage.h"
 
 #include <array>
 
 /// Asks how the document is to be rebuilt: intReconstMode, and the text that the summary shows for it.
-class frmLayout : public WizardPage {
+class frmLayout : public SteppingPage {
     Q_OBJECT
 
 public:
@@ -24,18 +24,14 @@ private:
 
     void connectHandlers();
     void option_Click(const Choice& choice);
-    void cmdBack_Click();
-    void cmdCancel_Click();
-    void cmdNext_Click();
-    void cmdLast_Click();
+    void cmdBack_Click() override;
+    void cmdCancel_Click() override;
+    void cmdNext_Click() override;
+    void cmdLast_Click() override;
 
     void selectStoredMode();
     void store();
 
     std::array<Choice, 5> m_choices; ///< by intReconstMode
     Picture* imgPDF;
-    QPushButton* cmdBack;
-    QPushButton* cmdNext;
-    QPushButton* cmdLast;
-    QPushButton* cmdCancel;
 };

@@ -30,7 +30,7 @@ QString folderOf(const QString& path) {
 } // namespace
 
 frmOutputOptions::frmOutputOptions(FormRegistry& registry, PagePorts ports)
-    : WizardPage(registry, std::move(ports), "frmOutputOptions", "Picture1", Closing::EndsAtOnce)
+    : SteppingPage(registry, std::move(ports), "frmOutputOptions", "Picture1", Closing::EndsAtOnce)
     , imgPages(frame().picture("imgPages")) {
     addOutputFields();
     addPageFields();
@@ -38,10 +38,7 @@ frmOutputOptions::frmOutputOptions(FormRegistry& registry, PagePorts ports)
     chkOpenDocEditing->setObjectName("chkOpenDocEditing");
     frame().add(chkOpenDocEditing);
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
-    cmdLast = frame().button("cmdLast", "Last >>");
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    addSteps();
     cmdNext->setEnabled(false);
     cmdLast->setEnabled(false);
     connectHandlers();
@@ -85,10 +82,6 @@ void frmOutputOptions::connectHandlers() {
     // The label stands for its option, as on the other pages; it has no logic of its own here.
     connect(findChild<LinkLabel*>("lblAllPages"), &LinkLabel::clicked, this, [this] { chkAllPages->setValue(true); });
     connect(cmdBrowse, &QPushButton::clicked, this, &frmOutputOptions::cmdBrowse_Click);
-    connect(cmdBack, &QPushButton::clicked, this, &frmOutputOptions::cmdBack_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmOutputOptions::cmdCancel_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &frmOutputOptions::cmdNext_Click);
-    connect(cmdLast, &QPushButton::clicked, this, &frmOutputOptions::cmdLast_Click);
 }
 
 void frmOutputOptions::Form_Load() {

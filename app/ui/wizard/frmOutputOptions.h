@@ -1,12 +1,12 @@
 #pragma once
 
-#include "ui/wizard/WizardPage.h"
+#include "ui/wizard/SteppingPage.h"
 
 class QCheckBox;
 
 /// The first page of the long road through the conversion wizard: the output file, and a choice of pages by two plain
 /// numbers. frmPageRange asks for the pages once more as a list; neither page reads the other's fields.
-class frmOutputOptions : public WizardPage {
+class frmOutputOptions : public SteppingPage {
     Q_OBJECT
 
 public:
@@ -24,10 +24,10 @@ private:
     void chkAllPages_Click();
     void chkFromTo_Click();
     void cmdBrowse_Click();
-    void cmdBack_Click();
-    void cmdCancel_Click();
-    void cmdNext_Click();
-    void cmdLast_Click();
+    void cmdBack_Click() override;
+    void cmdCancel_Click() override;
+    void cmdNext_Click() override;
+    void cmdLast_Click() override;
 
     enum class PageBoxes { Enabled, Disabled };
     void setPageBoxes(PageBoxes state);
@@ -46,8 +46,4 @@ private:
     QLabel* lblTo = nullptr;
     QLineEdit* txtTo = nullptr;
     QCheckBox* chkOpenDocEditing = nullptr;
-    QPushButton* cmdBack;
-    QPushButton* cmdNext;
-    QPushButton* cmdLast;
-    QPushButton* cmdCancel;
 };

@@ -20,16 +20,13 @@ constexpr std::int16_t kListOfPages = 1;
 } // namespace
 
 frmPageRange::frmPageRange(FormRegistry& registry, PagePorts ports)
-    : WizardPage(registry, std::move(ports), "frmPageRange", "picMain", Closing::AsksFirst)
+    : SteppingPage(registry, std::move(ports), "frmPageRange", "picMain", Closing::AsksFirst)
     , imgPages(frame().picture("imgPages")) {
     frame().title("lblPageRangeImage", "Page Range");
     frame().sentence("lblPageRangeAll", "Which pages of the PDF document");
     m_pages.addTo(frame());
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
-    cmdLast = frame().button("cmdLast", "Last >>");
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    addSteps();
     connectHandlers();
 }
 
@@ -38,10 +35,6 @@ void frmPageRange::connectHandlers() {
     connect(m_pages.chkFromTo, &OptionButton::turnedTrue, this, &frmPageRange::chkFromTo_Click);
     connect(m_pages.lblAllPages, &LinkLabel::clicked, this, &frmPageRange::lblAllPages_Click);
     connect(m_pages.lblFrom, &LinkLabel::clicked, this, &frmPageRange::lblFrom_Click);
-    connect(cmdBack, &QPushButton::clicked, this, &frmPageRange::cmdBack_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmPageRange::cmdCancel_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &frmPageRange::cmdNext_Click);
-    connect(cmdLast, &QPushButton::clicked, this, &frmPageRange::cmdLast_Click);
 }
 
 void frmPageRange::Form_Load() {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ui/wizard/PageListChoice.h"
-#include "ui/wizard/WizardPage.h"
+#include "ui/wizard/SteppingPage.h"
 
 /// The last question of the conversion wizard: all pages, or a list of pages. Fills strPageRange and intConvertFrom.
-class frmPageRange : public WizardPage {
+class frmPageRange : public SteppingPage {
     Q_OBJECT
 
 public:
@@ -20,17 +20,13 @@ private:
     void chkFromTo_Click();
     void lblAllPages_Click();
     void lblFrom_Click();
-    void cmdBack_Click();
-    void cmdCancel_Click();
-    void cmdNext_Click();
-    void cmdLast_Click();
+    void cmdBack_Click() override;
+    void cmdCancel_Click() override;
+    void cmdNext_Click() override;
+    void cmdLast_Click() override;
 
     void store();
 
     Picture* imgPages;
     PageListChoice m_pages;
-    QPushButton* cmdBack;
-    QPushButton* cmdNext;
-    QPushButton* cmdLast;
-    QPushButton* cmdCancel;
 };
