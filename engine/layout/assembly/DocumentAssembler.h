@@ -2,6 +2,7 @@
 
 #include "layout/DocumentContext.h"
 #include "layout/Layout.h"
+#include "layout/LayoutParameters.h"
 #include "layout/structure/DocumentDraft.h"
 
 namespace orvane::layout {

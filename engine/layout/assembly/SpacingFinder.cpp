@@ -55,7 +55,7 @@ bool floats(const AssembledBlock& block) {
 }
 
 /// Collects the gaps of blocks that follow each other in one column, those in cells too.
-void collectGaps(std::vector<AssembledBlock>& blocks, const LayoutParameters::Spacing& limits,
+void collectGaps(std::vector<AssembledBlock>& blocks, const AssemblyParameters::Spacing& limits,
                  std::vector<BlockGap>& gaps) {
     AssembledBlock* upper = nullptr;
     for (AssembledBlock& lower : blocks) {
@@ -75,7 +75,7 @@ void collectGaps(std::vector<AssembledBlock>& blocks, const LayoutParameters::Sp
 /// Finds the spaces that belong to the styles.
 class StyleSpacing {
 public:
-    StyleSpacing(const std::vector<BlockGap>& gaps, const LayoutParameters::Spacing& limits)
+    StyleSpacing(const std::vector<BlockGap>& gaps, const AssemblyParameters::Spacing& limits)
         : m_gaps(gaps)
         , m_limits(limits) {}
 
@@ -133,7 +133,7 @@ private:
     }
 
     const std::vector<BlockGap>& m_gaps;
-    const LayoutParameters::Spacing& m_limits;
+    const AssemblyParameters::Spacing& m_limits;
 };
 
 void takeStyleSpacing(std::vector<BlockFlow>& flows, const std::vector<Style>& styles) {
@@ -168,7 +168,7 @@ void setParagraphGap(Paragraph& upper, Paragraph& lower, Twips gap, Twips tolera
     lower.properties.spaceBefore = std::min(lower.properties.spaceBefore, gap);
 }
 
-void setGap(const BlockGap& gap, const LayoutParameters::Spacing& limits) {
+void setGap(const BlockGap& gap, const AssemblyParameters::Spacing& limits) {
     Paragraph* upper = gap.upper->paragraph();
     Paragraph* lower = gap.lower->paragraph();
     const Twips space = twipsFromPoints(gap.points);
@@ -216,7 +216,7 @@ void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& conte
 } // namespace
 
 void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, const AssemblyContext& context) {
-    const LayoutParameters::Spacing& limits = context.parameters.spacing;
+    const AssemblyParameters::Spacing& limits = context.parameters.spacing;
     std::vector<BlockGap> gaps;
     for (BlockFlow& flow : flows) {
         forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind) { measure(block, context); });

@@ -93,7 +93,7 @@ void chooseField(StyleGroup& group, T ParagraphProperties::*field) {
 }
 
 /// Likewise for a length, which is measured and so never quite the same.
-void chooseLength(StyleGroup& group, Twips ParagraphProperties::*field, const LayoutParameters::Styles& limits) {
+void chooseLength(StyleGroup& group, Twips ParagraphProperties::*field, const AssemblyParameters::Styles& limits) {
     // Of a single line only the first edge is seen, so longer paragraphs are asked first.
     std::vector<const ParagraphProperties*> formats = formatsOf(group, 2);
     if (formats.empty())
@@ -142,7 +142,7 @@ bool isNear(Twips a, Twips b, double points) {
     return std::abs(a.value - b.value) <= twipsFromPoints(points).value;
 }
 
-bool isNear(const LineSpacing& a, const LineSpacing& b, const LayoutParameters::Styles& limits) {
+bool isNear(const LineSpacing& a, const LineSpacing& b, const AssemblyParameters::Styles& limits) {
     if (a.rule != b.rule)
         return false;
     return a.rule == LineSpacingRule::Multiple ? std::abs(a.multiple - b.multiple) <= limits.sameMultiple
@@ -150,7 +150,7 @@ bool isNear(const LineSpacing& a, const LineSpacing& b, const LayoutParameters::
 }
 
 /// Gives a paragraph those values of its style that it cannot be told from.
-void snapToStyle(AssembledBlock& block, const Style& style, const LayoutParameters::Styles& limits) {
+void snapToStyle(AssembledBlock& block, const Style& style, const AssemblyParameters::Styles& limits) {
     ParagraphProperties& format = block.paragraph()->properties;
     const ParagraphProperties& usual = style.paragraph;
     const bool isSingleLine = lineCount(block) == 1;
@@ -179,7 +179,7 @@ void snapToStyle(AssembledBlock& block, const Style& style, const LayoutParamete
         format.indentEnd = usual.indentEnd;
 }
 
-void chooseFormat(StyleGroup& group, const LayoutParameters::Styles& limits) {
+void chooseFormat(StyleGroup& group, const AssemblyParameters::Styles& limits) {
     chooseAlignment(group);
     if (group.style.id != "ListParagraph") {
         chooseLength(group, &ParagraphProperties::indentStart, limits);

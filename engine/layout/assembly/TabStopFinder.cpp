@@ -30,7 +30,7 @@ std::vector<Segment> segmentsOf(const Line& line, const ColumnSpan& column, std:
     return segments;
 }
 
-TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const LayoutParameters::Tabs& limits) {
+TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const AssemblyParameters::Tabs& limits) {
     const bool endsAtEdge = isLast && std::abs(segment.end - columnWidth) <= limits.edgeTolerance;
     if (endsAtEdge || segment.leader != document::TabLeader::None)
         return {twipsFromPoints(endsAtEdge ? columnWidth : segment.end), TabAlignment::End, segment.leader};
@@ -43,7 +43,7 @@ TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const La
 } // namespace
 
 std::vector<TabStop> findTabStops(const DraftParagraph& paragraph, const LayoutParameters& parameters) {
-    const LayoutParameters::Tabs& limits = parameters.tabs;
+    const AssemblyParameters::Tabs& limits = parameters.tabs;
     std::vector<TabStop> stops;
     std::size_t skipped = paragraph.labelWords;
     for (const DraftPiece& piece : paragraph.pieces) {

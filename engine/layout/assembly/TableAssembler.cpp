@@ -16,7 +16,8 @@ struct CellMargins {
 };
 
 /// The smallest spaces that are seen, as far as they are usual.
-CellMargins cellMargins(const DraftTable& draft, const FontCatalog& fonts, const LayoutParameters::TableCells& limits) {
+CellMargins cellMargins(const DraftTable& draft, const FontCatalog& fonts,
+                        const AssemblyParameters::TableCells& limits) {
     CellMargins margins{limits.usualMargin, limits.largestMargin, limits.largestMargin};
     for (const DraftCell& cell : draft.cells) {
         const Rect& box = cell.cell.box;

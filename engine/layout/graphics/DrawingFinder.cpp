@@ -28,7 +28,7 @@ Rect seenBox(const pdf::Path& path, const pdf::PageContent& page) {
 class DrawingBuilder {
 public:
     DrawingBuilder(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
-                   const LayoutParameters::Drawings& limits)
+                   const GraphicsParameters::Drawings& limits)
         : m_page(page)
         , m_isRuling(isRuling)
         , m_text(text)
@@ -159,13 +159,13 @@ private:
     const pdf::PageContent& m_page;
     const std::vector<bool>& m_isRuling;
     PageText& m_text;
-    const LayoutParameters::Drawings& m_limits;
+    const GraphicsParameters::Drawings& m_limits;
     std::vector<Figure> m_drawings;
 };
 
 } // namespace
 
-bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const LayoutParameters::Drawings& limits) {
+bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
     return std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
         return box.contains(Point{line.box.centerX(), line.box.centerY()}) &&
                line.words.size() >= limits.wordsOfProse && line.box.width() >= limits.proseShare * box.width();
@@ -192,7 +192,7 @@ void labelDrawings(PageText& text) {
 }
 
 std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
-                                 const LayoutParameters& parameters, Diagnostics&) {
+                                 const GraphicsParameters& parameters, Diagnostics&) {
     return DrawingBuilder(page, isRuling, text, parameters.drawings).build();
 }
 

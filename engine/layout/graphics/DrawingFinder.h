@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Diagnostic.h"
-#include "layout/LayoutParameters.h"
+#include "layout/graphics/GraphicsParameters.h"
 #include "layout/text/PageText.h"
 
 namespace orvane::layout {
@@ -11,10 +11,10 @@ namespace orvane::layout {
 /// running text is a background. Requires: `isRuling` tells for each path of the page whether it is nothing but rules
 /// and grounds.
 std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
-                                 const LayoutParameters& parameters, Diagnostics& diagnostics);
+                                 const GraphicsParameters& parameters, Diagnostics& diagnostics);
 
 /// Whether running text lies in `box`, so that what is painted there is a decoration rather than a picture with labels.
-bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const LayoutParameters::Drawings& limits);
+bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits);
 
 /// Tells the lines within a drawing that they are its labels (Line::figure), and lets the drawing say their words to
 /// readers who cannot see it.

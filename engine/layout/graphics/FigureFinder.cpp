@@ -35,7 +35,7 @@ bool isUpright(const Matrix& matrix) {
     return matrix.b == 0 && matrix.c == 0 && matrix.a > 0 && matrix.d > 0;
 }
 
-Figure figureOf(const pdf::PageContent& page, const pdf::Picture& picture, const LayoutParameters::Pictures& limits) {
+Figure figureOf(const pdf::PageContent& page, const pdf::Picture& picture, const GraphicsParameters::Pictures& limits) {
     Figure figure;
     const Rect pageBox{0, 0, page.width, page.height};
     figure.box = picture.box.intersected(picture.clip).intersected(pageBox);
@@ -56,14 +56,14 @@ Figure figureOf(const pdf::PageContent& page, const pdf::Picture& picture, const
     return figure;
 }
 
-bool isWorthShowing(const Figure& figure, const pdf::Picture& picture, const LayoutParameters::Pictures& limits) {
+bool isWorthShowing(const Figure& figure, const pdf::Picture& picture, const GraphicsParameters::Pictures& limits) {
     return picture.visibility == Visibility::Visible && !figure.box.isEmpty() &&
            std::max(figure.box.width(), figure.box.height()) >= limits.smallest &&
            (picture.pixelWidth > 1 || picture.pixelHeight > 1);
 }
 
 /// Pictures that touch each other edge to edge, or lie in each other, as one figure that is painted as a whole.
-std::vector<Figure> joinTiles(std::vector<Figure> figures, const LayoutParameters::Pictures& limits) {
+std::vector<Figure> joinTiles(std::vector<Figure> figures, const GraphicsParameters::Pictures& limits) {
     BoxGroups groups(limits.tileGap);
     for (const Figure& figure : figures)
         groups.add(figure.box);
@@ -88,11 +88,11 @@ std::vector<Figure> joinTiles(std::vector<Figure> figures, const LayoutParameter
     return joined;
 }
 
-bool coversPage(const Rect& box, const pdf::PageContent& page, const LayoutParameters::Pictures& limits) {
+bool coversPage(const Rect& box, const pdf::PageContent& page, const GraphicsParameters::Pictures& limits) {
     return box.area() >= limits.backgroundShare * page.width * page.height;
 }
 
-std::vector<Figure> findPictures(const pdf::PageContent& page, const LayoutParameters::Pictures& limits) {
+std::vector<Figure> findPictures(const pdf::PageContent& page, const GraphicsParameters::Pictures& limits) {
     std::vector<Figure> backgrounds, pictures;
     for (const pdf::Picture& picture : page.pictures) {
         Figure figure = figureOf(page, picture, limits);
@@ -112,7 +112,7 @@ std::vector<Figure> findPictures(const pdf::PageContent& page, const LayoutParam
 } // namespace
 
 void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
-                 const LayoutParameters& parameters, Diagnostics& diagnostics) {
+                 const GraphicsParameters& parameters, Diagnostics& diagnostics) {
     text.figures = findPictures(page, parameters.pictures);
     for (Figure& figure : text.figures)
         figure.isBackground |= liesUnderText(figure.box, text.lines, parameters.drawings);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Diagnostic.h"
-#include "layout/LayoutParameters.h"
+#include "layout/graphics/GraphicsParameters.h"
 #include "layout/text/PageText.h"
 
 namespace orvane::layout {
@@ -11,6 +11,6 @@ namespace orvane::layout {
 /// background. Paths that are no rules and grounds become drawings, one for each group that stands together. Requires:
 /// `text` has lines, rules and grounds; `isRuling` tells for each path whether it is nothing but rules and grounds.
 void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
-                 const LayoutParameters& parameters, Diagnostics& diagnostics);
+                 const GraphicsParameters& parameters, Diagnostics& diagnostics);
 
 } // namespace orvane::layout

@@ -10,7 +10,7 @@
 namespace orvane::layout {
 namespace {
 
-document::BorderKind kindOf(const pdf::StrokeStyle& stroke, const LayoutParameters::Rules& limits) {
+document::BorderKind kindOf(const pdf::StrokeStyle& stroke, const GraphicsParameters::Rules& limits) {
     if (stroke.dash.empty() || std::all_of(stroke.dash.begin(), stroke.dash.end(), [](double d) { return d <= 0; }))
         return document::BorderKind::Single;
     return stroke.dash.front() <= limits.dotLength * std::max(stroke.width, limits.thinnest)
@@ -21,7 +21,7 @@ document::BorderKind kindOf(const pdf::StrokeStyle& stroke, const LayoutParamete
 /// Turns the paths of a page into single pieces of rules and into grounds.
 class PathReader {
 public:
-    PathReader(const pdf::PageContent& page, const LayoutParameters::Rules& limits, RuledPage& result)
+    PathReader(const pdf::PageContent& page, const GraphicsParameters::Rules& limits, RuledPage& result)
         : m_page(page)
         , m_limits(limits)
         , m_result(result) {}
@@ -114,12 +114,12 @@ private:
     }
 
     const pdf::PageContent& m_page;
-    const LayoutParameters::Rules& m_limits;
+    const GraphicsParameters::Rules& m_limits;
     RuledPage& m_result;
 };
 
 /// White rectangles on the bare page say nothing; on a ground they are one of their own.
-void dropPaper(std::vector<Ground>& grounds, const pdf::PageContent& page, const LayoutParameters::Rules& limits) {
+void dropPaper(std::vector<Ground>& grounds, const pdf::PageContent& page, const GraphicsParameters::Rules& limits) {
     CoverageGrid colored(page.width, page.height, limits.coverCell);
     std::erase_if(grounds, [&](const Ground& ground) {
         const bool isPaper = ground.opacity <= 0 || (ground.color == kWhite && colored.coveredShare(ground.box) <= 0);
@@ -131,7 +131,7 @@ void dropPaper(std::vector<Ground>& grounds, const pdf::PageContent& page, const
 
 } // namespace
 
-RuledPage findRules(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics&) {
+RuledPage findRules(const pdf::PageContent& page, const GraphicsParameters& parameters, Diagnostics&) {
     RuledPage result;
     PathReader(page, parameters.rules, result).read();
     std::erase_if(result.rules, [](const Rule& rule) { return rule.color == kWhite; });

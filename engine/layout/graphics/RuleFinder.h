@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Diagnostic.h"
-#include "layout/LayoutParameters.h"
+#include "layout/graphics/GraphicsParameters.h"
 #include "layout/text/PageText.h"
 
 namespace orvane::layout {
@@ -16,6 +16,6 @@ struct RuledPage {
 /// Reads rules and grounds from the page's paths: straight strokes, thin filled rectangles, the four sides of stroked
 /// rectangles. Pieces that continue each other become one rule; rows of short pieces a dashed or dotted one; close
 /// pairs a double one.
-RuledPage findRules(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics);
+RuledPage findRules(const pdf::PageContent& page, const GraphicsParameters& parameters, Diagnostics& diagnostics);
 
 } // namespace orvane::layout

@@ -31,13 +31,13 @@ void absorb(Rule& rule, const Rule& next) {
     rule.paintOrder = std::min(rule.paintOrder, next.paintOrder);
 }
 
-bool isAlike(const Rule& a, const Rule& b, const LayoutParameters::Rules& limits) {
+bool isAlike(const Rule& a, const Rule& b, const GraphicsParameters::Rules& limits) {
     return a.color == b.color && a.kind == b.kind &&
            std::abs(a.width - b.width) <= std::max(limits.widthChange, 0.5 * std::min(a.width, b.width));
 }
 
 /// Short pieces at even distances, one after the other from `first`; returns one past the last of them.
-std::size_t endOfDashes(const std::vector<Rule>& rules, std::size_t first, const LayoutParameters::Rules& limits) {
+std::size_t endOfDashes(const std::vector<Rule>& rules, std::size_t first, const GraphicsParameters::Rules& limits) {
     std::size_t last = first + 1;
     if (last >= rules.size())
         return last;
@@ -57,7 +57,7 @@ std::size_t endOfDashes(const std::vector<Rule>& rules, std::size_t first, const
 }
 
 /// Joins the pieces of one line, which are sorted by where they begin.
-void joinPieces(std::vector<Rule> pieces, const LayoutParameters::Rules& limits, std::vector<Rule>& joined) {
+void joinPieces(std::vector<Rule> pieces, const GraphicsParameters::Rules& limits, std::vector<Rule>& joined) {
     for (std::size_t i = 0; i < pieces.size();) {
         Rule rule = pieces[i];
         const std::size_t dashEnd = endOfDashes(pieces, i, limits);
@@ -80,7 +80,7 @@ void joinPieces(std::vector<Rule> pieces, const LayoutParameters::Rules& limits,
 }
 
 /// Rules whose positions are (nearly) one, joined where they continue each other.
-std::vector<Rule> joinCollinear(const std::vector<Rule>& rules, const LayoutParameters::Rules& limits) {
+std::vector<Rule> joinCollinear(const std::vector<Rule>& rules, const GraphicsParameters::Rules& limits) {
     std::vector<Rule> joined;
     for (std::size_t first = 0; first < rules.size();) {
         std::size_t last = first + 1;
@@ -98,7 +98,7 @@ std::vector<Rule> joinCollinear(const std::vector<Rule>& rules, const LayoutPara
     return joined;
 }
 
-bool isPair(const Rule& a, const Rule& b, const LayoutParameters::Rules& limits) {
+bool isPair(const Rule& a, const Rule& b, const GraphicsParameters::Rules& limits) {
     const double distance = b.position - a.position;
     return a.direction == b.direction && a.color == b.color && a.kind == BorderKind::Single &&
            b.kind == BorderKind::Single && distance > 0 && distance <= limits.doubleDistance &&
@@ -107,7 +107,7 @@ bool isPair(const Rule& a, const Rule& b, const LayoutParameters::Rules& limits)
 }
 
 /// Close pairs become one double rule in their middle.
-void joinPairs(std::vector<Rule>& rules, const LayoutParameters::Rules& limits) {
+void joinPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits) {
     std::vector<bool> isGone(rules.size(), false);
     for (std::size_t i = 0; i < rules.size(); ++i) {
         if (isGone[i])
@@ -131,8 +131,8 @@ void joinPairs(std::vector<Rule>& rules, const LayoutParameters::Rules& limits) 
 
 } // namespace
 
-void mergeRules(std::vector<Rule>& rules, const LayoutParameters& parameters) {
-    const LayoutParameters::Rules& limits = parameters.rules;
+void mergeRules(std::vector<Rule>& rules, const GraphicsParameters& parameters) {
+    const GraphicsParameters::Rules& limits = parameters.rules;
     sortByPosition(rules);
     rules = joinCollinear(rules, limits);
     sortByPosition(rules);

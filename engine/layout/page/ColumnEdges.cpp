@@ -16,7 +16,7 @@ struct End {
 };
 
 /// The outermost position near which enough lines end.
-double outermostEdge(std::vector<End> ends, const LayoutParameters::Regions& parameters) {
+double outermostEdge(std::vector<End> ends, const PageParameters::Regions& parameters) {
     if (ends.size() < parameters.minimumEdgeLines)
         return std::max_element(ends.begin(), ends.end(),
                                 [](const End& a, const End& b) { return a.position < b.position; })
@@ -41,7 +41,7 @@ double rightEdgeOf(const Line& line) {
     return last.empty() || !mayHang(last.back()) ? line.box.right : line.box.right - line.fontSize;
 }
 
-ColumnSpan findColumnEdges(std::span<const Line> lines, const LayoutParameters::Regions& parameters) {
+ColumnSpan findColumnEdges(std::span<const Line> lines, const PageParameters::Regions& parameters) {
     std::vector<End> lefts;
     std::vector<End> rights;
     for (const Line& line : lines) {

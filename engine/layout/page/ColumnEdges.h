@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/page/PageLayout.h"
+#include "layout/page/PageParameters.h"
 
 #include <span>
 
@@ -10,7 +10,7 @@ namespace orvane::layout {
 /// The edges between which a column's text is set. Lines that stick out on their own do not move them, nor does a full
 /// stop that East Asian text lets hang beyond the edge.
 /// Requires: at least one line.
-ColumnSpan findColumnEdges(std::span<const Line> lines, const LayoutParameters::Regions& parameters);
+ColumnSpan findColumnEdges(std::span<const Line> lines, const PageParameters::Regions& parameters);
 
 /// The line's right edge, without East Asian punctuation that may hang beyond the column.
 double rightEdgeOf(const Line& line);

@@ -131,14 +131,14 @@ struct Side {
     }
     /// How much of the column its lines cover: prose fills most of it, labels and values do not.
     double fill() const { return rows > 0 && extent > 0 ? inkWidth / (extent * rows) : 0; }
-    bool isColumn(double fontSize, const LayoutParameters::Regions& parameters) const {
+    bool isColumn(double fontSize, const PageParameters::Regions& parameters) const {
         return fill() >= parameters.minimumFill && extent >= parameters.minimumColumn * fontSize;
     }
 };
 
 /// Cuts the strip to where both sides have text, and counts it. False when it parts no columns.
 bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fontSize,
-                 const LayoutParameters::Regions& parameters) {
+                 const PageParameters::Regions& parameters) {
     Side left;
     Side right;
     for (const Piece& piece : pieces) {
@@ -163,7 +163,7 @@ bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fon
 } // namespace
 
 std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::span<const Rect> walls,
-                                             const LayoutParameters::Regions& parameters) {
+                                             const PageParameters::Regions& parameters) {
     if (static_cast<int>(lines.size()) < 2)
         return std::nullopt;
     const double fontSize = medianFontSize(lines);

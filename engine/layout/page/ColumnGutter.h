@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/page/PageLayout.h"
+#include "layout/page/PageParameters.h"
 
 #include <optional>
 #include <span>
@@ -21,6 +21,6 @@ struct ColumnGutter {
 /// word of theirs touches it. `walls` are things that stop a gutter: tables and pictures. Requires: `lines` upright,
 /// from top to bottom.
 std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::span<const Rect> walls,
-                                             const LayoutParameters::Regions& parameters);
+                                             const PageParameters::Regions& parameters);
 
 } // namespace orvane::layout

@@ -27,7 +27,7 @@ std::size_t nearestRegion(const Rect& box, const PageRegions& page) {
 }
 
 ObjectPlace placeOne(const Rect& box, std::size_t object, const PageRegions& page,
-                     const LayoutParameters::ReadingOrder& parameters) {
+                     const PageParameters::ReadingOrder& parameters) {
     ObjectPlace place{object, page.regions.size(), 0, true};
     if (page.regions.empty())
         return place;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/LayoutParameters.h"
 #include "layout/page/RegionFinder.h"
 
 #include <span>

@@ -11,7 +11,7 @@ namespace {
 /// Turns the tree of parts into the flat list of regions.
 class Flattener {
 public:
-    Flattener(const DocumentContext& context, const LayoutParameters::Regions& parameters)
+    Flattener(const DocumentContext& context, const PageParameters::Regions& parameters)
         : m_context(context)
         , m_parameters(parameters) {}
 
@@ -98,7 +98,7 @@ private:
     }
 
     const DocumentContext& m_context;
-    const LayoutParameters::Regions& m_parameters;
+    const PageParameters::Regions& m_parameters;
     PageRegions m_result;
 };
 

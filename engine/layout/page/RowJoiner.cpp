@@ -22,7 +22,7 @@ bool isBefore(const Line& a, const Line& b) {
 
 } // namespace
 
-std::vector<Line> joinRows(std::vector<Line> lines, const LayoutParameters::Paragraphs& parameters) {
+std::vector<Line> joinRows(std::vector<Line> lines, const ParagraphParameters::Paragraphs& parameters) {
     std::vector<Line> rows;
     for (std::size_t from = 0; from < lines.size();) {
         std::size_t to = from + 1;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
+#include "layout/paragraphs/ParagraphParameters.h"
 #include "layout/text/PageText.h"
 
 #include <vector>
@@ -9,6 +9,6 @@ namespace orvane::layout {
 
 /// Joins lines of one column that stand side by side on a baseline into one line with a tabulator between them.
 /// Requires: `lines` upright, from top to bottom.
-std::vector<Line> joinRows(std::vector<Line> lines, const LayoutParameters::Paragraphs& parameters);
+std::vector<Line> joinRows(std::vector<Line> lines, const ParagraphParameters::Paragraphs& parameters);
 
 } // namespace orvane::layout

@@ -5,7 +5,7 @@
 namespace orvane::layout {
 
 JustifiedLines::JustifiedLines(std::span<const Line> lines, std::span<const LineMeasure> measures,
-                               const LayoutParameters::Paragraphs& parameters)
+                               const ParagraphParameters::Paragraphs& parameters)
     : m_parameters(parameters) {
     if (!lines.empty())
         m_step = 2 * parameters.edgeTolerance * lines.front().fontSize;

@@ -13,7 +13,7 @@ namespace orvane::layout {
 class JustifiedLines {
 public:
     JustifiedLines(std::span<const Line> lines, std::span<const LineMeasure> measures,
-                   const LayoutParameters::Paragraphs& parameters);
+                   const ParagraphParameters::Paragraphs& parameters);
 
     /// True when lines of this size that start at `startGap` are nearly all spread to the edge, as long as their
     /// paragraph goes on.
@@ -28,7 +28,7 @@ private:
     using Class = std::pair<long, long>;
     Class classOf(double startGap, double fontSize) const;
 
-    const LayoutParameters::Paragraphs& m_parameters;
+    const ParagraphParameters::Paragraphs& m_parameters;
     double m_step = 1; ///< points; starts are counted in classes of this width
     std::map<Class, Count> m_counts;
 };

@@ -115,7 +115,7 @@ void readEnds(const Line& line, std::span<const pdf::Font> fonts, LineMeasure& m
 }
 
 LineMeasure measure(const Line& line, ColumnSpan column, const ParagraphContext& context,
-                    const LayoutParameters& parameters) {
+                    const ParagraphParameters& parameters) {
     LineMeasure result;
     const ColumnSpan room = roomOf(line, column, context.obstacles);
     const double left = line.box.left - room.left;
@@ -141,7 +141,7 @@ LineMeasure measure(const Line& line, ColumnSpan column, const ParagraphContext&
 } // namespace
 
 std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan column, const ParagraphContext& context,
-                                      const LayoutParameters& parameters) {
+                                      const ParagraphParameters& parameters) {
     std::vector<LineMeasure> measures;
     measures.reserve(lines.size());
     for (const Line& line : lines)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/page/PageLayout.h"
 #include "layout/paragraphs/ListMarker.h"
+#include "layout/paragraphs/ParagraphParameters.h"
 
 #include <optional>
 #include <span>
@@ -46,7 +46,7 @@ struct LineMeasure {
 
 /// Measures lines against their column.
 std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan column, const ParagraphContext& context,
-                                      const LayoutParameters& parameters);
+                                      const ParagraphParameters& parameters);
 
 /// True when the first word of `next` would have had room in `free` points behind the last word of `before`.
 bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double free, double slack);

@@ -184,7 +184,7 @@ std::optional<ListMarker> readSign(std::u32string_view word) {
 
 } // namespace
 
-std::optional<ListMarker> findListMarker(const Line& line, const LayoutParameters::Markers& parameters) {
+std::optional<ListMarker> findListMarker(const Line& line, const ParagraphParameters::Markers& parameters) {
     if (line.words.size() < 2 && (line.words.empty() || textOf(line.words[0]).size() < 4))
         return std::nullopt;
     const Word& first = line.words[0];

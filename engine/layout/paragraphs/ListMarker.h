@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
+#include "layout/paragraphs/ParagraphParameters.h"
 #include "layout/text/PageText.h"
 
 #include <optional>
@@ -31,7 +31,7 @@ struct ListMarker {
 };
 
 /// The marker that the line starts with, if its first word can be one. Whether it is one, its neighbours tell.
-std::optional<ListMarker> findListMarker(const Line& line, const LayoutParameters::Markers& parameters);
+std::optional<ListMarker> findListMarker(const Line& line, const ParagraphParameters::Markers& parameters);
 
 /// True when `next` is what a list that has come to `before` goes on with.
 bool isSuccessor(const ListMarker& before, const ListMarker& next);

@@ -8,7 +8,7 @@ namespace {
 
 /// True when `next` may be set in the same block as the line above it.
 bool isSameBlock(std::span<const Line> lines, std::span<const LineMeasure> measures, std::size_t first,
-                 std::size_t next, const ParagraphContext& context, const LayoutParameters::Paragraphs& parameters) {
+                 std::size_t next, const ParagraphContext& context, const ParagraphParameters::Paragraphs& parameters) {
     const Line& above = lines[next - 1];
     const Line& line = lines[next];
     const double distance = line.baseline - above.baseline;
@@ -27,7 +27,7 @@ bool isSameBlock(std::span<const Line> lines, std::span<const LineMeasure> measu
 
 /// Several lines end at the edge exactly, their blanks spread to reach it, or (without blanks) more than chance allows.
 bool isSpreadTo(double edge, std::span<const LineMeasure> block, double flush,
-                const LayoutParameters::Paragraphs& parameters) {
+                const ParagraphParameters::Paragraphs& parameters) {
     int spread = 0;
     int flushLines = 0;
     for (const LineMeasure& line : block) {
@@ -41,7 +41,7 @@ bool isSpreadTo(double edge, std::span<const LineMeasure> block, double flush,
 
 /// Measured against the edge, most lines are full, and the sentences of most of those go on.
 bool isProseTo(double edge, std::span<const Line> lines, std::span<const LineMeasure> block, double slack,
-               const LayoutParameters::Paragraphs& parameters) {
+               const ParagraphParameters::Paragraphs& parameters) {
     int full = 0;
     int goingOn = 0;
     for (std::size_t i = 0; i + 1 < block.size(); ++i) {
@@ -59,7 +59,7 @@ bool isProseTo(double edge, std::span<const Line> lines, std::span<const LineMea
 } // namespace
 
 void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measures, const ParagraphContext& context,
-                     const LayoutParameters::Paragraphs& parameters) {
+                     const ParagraphParameters::Paragraphs& parameters) {
     for (std::size_t first = 0; first < lines.size();) {
         std::size_t end = first + 1;
         while (end < lines.size() && isSameBlock(lines, measures, first, end, context, parameters))

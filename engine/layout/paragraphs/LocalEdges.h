@@ -10,6 +10,6 @@ namespace orvane::layout {
 /// measures them against it: blanks spread to one edge tell it, or sentences that go on from line to line though the
 /// column has room.
 void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measures, const ParagraphContext& context,
-                     const LayoutParameters::Paragraphs& parameters);
+                     const ParagraphParameters::Paragraphs& parameters);
 
 } // namespace orvane::layout

@@ -13,7 +13,7 @@ constexpr double kSizeStep = 0.5;
 } // namespace
 
 NaturalLeading::NaturalLeading(std::span<const Line> lines, std::span<const LineMeasure> measures,
-                               const ParagraphContext& context, const LayoutParameters::Paragraphs& parameters)
+                               const ParagraphContext& context, const ParagraphParameters::Paragraphs& parameters)
     : m_parameters(parameters)
     , m_bodyRatio(context.bodyFontSize > 0 ? context.bodyLeading / context.bodyFontSize : 1.2) {
     std::vector<std::pair<double, double>> samples;

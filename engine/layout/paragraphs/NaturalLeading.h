@@ -12,7 +12,7 @@ namespace orvane::layout {
 class NaturalLeading {
 public:
     NaturalLeading(std::span<const Line> lines, std::span<const LineMeasure> measures, const ParagraphContext& context,
-                   const LayoutParameters::Paragraphs& parameters);
+                   const ParagraphParameters::Paragraphs& parameters);
 
     /// True when lines of one paragraph may be so far apart.
     bool allows(double fontSize, double distance) const;
@@ -27,7 +27,7 @@ private:
 
     void keepTrustworthy(std::vector<Cluster> clusters);
 
-    const LayoutParameters::Paragraphs& m_parameters;
+    const ParagraphParameters::Paragraphs& m_parameters;
     double m_bodyRatio; ///< leading of the body text, of its font size
     std::vector<Cluster> m_learnt;
 };

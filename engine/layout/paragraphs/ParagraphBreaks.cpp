@@ -14,7 +14,7 @@ namespace {
 class BreakFinder {
 public:
     BreakFinder(std::span<const Line> lines, std::span<const LineMeasure> measures, const ParagraphContext& context,
-                const LayoutParameters::Paragraphs& parameters)
+                const ParagraphParameters::Paragraphs& parameters)
         : m_lines(lines)
         , m_measures(measures)
         , m_parameters(parameters)
@@ -221,7 +221,7 @@ private:
 
     std::span<const Line> m_lines;
     std::span<const LineMeasure> m_measures;
-    const LayoutParameters::Paragraphs& m_parameters;
+    const ParagraphParameters::Paragraphs& m_parameters;
     NaturalLeading m_leading;
     JustifiedLines m_justified;
     std::size_t m_first = 0;
@@ -231,7 +231,7 @@ private:
 } // namespace
 
 PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next, double fontSize,
-                              const LayoutParameters::Paragraphs& parameters) {
+                              const ParagraphParameters::Paragraphs& parameters) {
     const double tolerance = parameters.edgeTolerance * fontSize;
     const double indent = parameters.minimumCenterIndent * fontSize;
     if (std::abs(before.startGap - next.startGap) <= tolerance)
@@ -251,7 +251,7 @@ PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next
 }
 
 std::vector<BreakReason> findBreaks(std::span<const Line> lines, std::span<const LineMeasure> measures,
-                                    const ParagraphContext& context, const LayoutParameters& parameters) {
+                                    const ParagraphContext& context, const ParagraphParameters& parameters) {
     return BreakFinder(lines, measures, context, parameters.paragraphs).run();
 }
 

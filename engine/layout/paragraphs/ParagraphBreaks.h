@@ -25,11 +25,11 @@ enum class BreakReason : std::uint8_t {
 /// Tells for each line whether it starts a paragraph, and why.
 /// Requires: `lines` from top to bottom, `measures` one for each.
 std::vector<BreakReason> findBreaks(std::span<const Line> lines, std::span<const LineMeasure> measures,
-                                    const ParagraphContext& context, const LayoutParameters& parameters);
+                                    const ParagraphContext& context, const ParagraphParameters& parameters);
 
 /// How two lines that follow each other are set against the column.
 enum class PairAlignment : std::uint8_t { Start, Center, End };
 PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next, double fontSize,
-                              const LayoutParameters::Paragraphs& parameters);
+                              const ParagraphParameters::Paragraphs& parameters);
 
 } // namespace orvane::layout

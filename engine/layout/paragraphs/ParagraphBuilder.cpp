@@ -7,7 +7,7 @@
 namespace orvane::layout {
 
 std::vector<ParagraphDraft> buildParagraphs(std::span<const Line> lines, ColumnSpan column,
-                                            const ParagraphContext& context, const LayoutParameters& parameters) {
+                                            const ParagraphContext& context, const ParagraphParameters& parameters) {
     std::vector<LineMeasure> measures = measureLines(lines, column, context, parameters);
     applyLocalEdges(lines, measures, context, parameters.paragraphs);
     const std::vector<BreakReason> breaks = findBreaks(lines, measures, context, parameters);

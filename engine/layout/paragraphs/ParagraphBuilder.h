@@ -12,6 +12,6 @@ namespace orvane::layout {
 /// its first word had no room there, and when nothing else (a label, space, look, indent) tells a new start. Requires:
 /// `lines` from top to bottom.
 std::vector<ParagraphDraft> buildParagraphs(std::span<const Line> lines, ColumnSpan column,
-                                            const ParagraphContext& context, const LayoutParameters& parameters);
+                                            const ParagraphContext& context, const ParagraphParameters& parameters);
 
 } // namespace orvane::layout

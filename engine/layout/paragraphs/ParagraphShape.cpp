@@ -36,7 +36,8 @@ bool isEndAligned(std::span<const LineMeasure> measures, double tolerance, doubl
 }
 
 /// All lines but the last end at one edge, and so exactly or with such wide blanks that it is no chance.
-bool isJustified(std::span<const LineMeasure> measures, double flush, const LayoutParameters::Paragraphs& parameters) {
+bool isJustified(std::span<const LineMeasure> measures, double flush,
+                 const ParagraphParameters::Paragraphs& parameters) {
     if (measures.size() < 2)
         return false;
     int stretched = 0;
@@ -50,7 +51,7 @@ bool isJustified(std::span<const LineMeasure> measures, double flush, const Layo
 }
 
 Alignment findAlignment(std::span<const LineMeasure> measures, double fontSize,
-                        const LayoutParameters::Paragraphs& parameters) {
+                        const ParagraphParameters::Paragraphs& parameters) {
     const double tolerance = parameters.edgeTolerance * fontSize;
     const double indent = parameters.minimumCenterIndent * fontSize;
     if (isJustified(measures, parameters.flushTolerance * fontSize, parameters))
@@ -91,7 +92,7 @@ double leadingOf(std::span<const Line> lines, const ParagraphContext& context) {
 } // namespace
 
 void shapeParagraph(ParagraphDraft& paragraph, std::span<const LineMeasure> measures, const ParagraphContext& context,
-                    const LayoutParameters::Paragraphs& parameters) {
+                    const ParagraphParameters::Paragraphs& parameters) {
     paragraph.box = {};
     for (const Line& line : paragraph.lines)
         paragraph.box = paragraph.box.united(line.box);

@@ -23,7 +23,7 @@ double distance(const RunningRow& outer, const RunningRow& inner) {
 
 class EdgeReader {
 public:
-    EdgeReader(const std::vector<PageText>& pages, PageEdge edge, const LayoutParameters::RunningHeads& limits)
+    EdgeReader(const std::vector<PageText>& pages, PageEdge edge, const RunningParameters::RunningHeads& limits)
         : m_pages(pages)
         , m_limits(limits)
         , m_usualSize(usualFontSize(pages)) {
@@ -118,7 +118,7 @@ private:
     }
 
     const std::vector<PageText>& m_pages;
-    const LayoutParameters::RunningHeads& m_limits;
+    const RunningParameters::RunningHeads& m_limits;
     double m_usualSize;
     std::vector<EdgeRows> m_edges;
 };
@@ -126,7 +126,7 @@ private:
 } // namespace
 
 std::vector<EdgeRows> readEdgeRows(const std::vector<PageText>& pages, PageEdge edge,
-                                   const LayoutParameters::RunningHeads& parameters) {
+                                   const RunningParameters::RunningHeads& parameters) {
     return EdgeReader(pages, edge, parameters).read();
 }
 

@@ -16,7 +16,7 @@ struct EdgeRows {
 
 /// Compares the rows at one edge of each page with those of the two pages before and the two after.
 std::vector<EdgeRows> readEdgeRows(const std::vector<PageText>& pages, PageEdge edge,
-                                   const LayoutParameters::RunningHeads& parameters);
+                                   const RunningParameters::RunningHeads& parameters);
 
 /// How far apart the pages are whose heads are compared: odd and even pages may differ.
 inline constexpr std::ptrdiff_t kRunningReach = 2;

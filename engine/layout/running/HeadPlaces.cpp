@@ -19,7 +19,7 @@ double textStart(const EdgeRows& edge) {
     return edge.taken < edge.rows.size() ? edge.rows[edge.taken].fromEdge : std::numeric_limits<double>::infinity();
 }
 
-bool standsAlike(const RunningRow& a, const RunningRow& b, const LayoutParameters::RunningHeads& limits) {
+bool standsAlike(const RunningRow& a, const RunningRow& b, const RunningParameters::RunningHeads& limits) {
     const double place = limits.samePosition;
     return std::abs(a.fromEdge - b.fromEdge) <= place && std::abs(a.fontSize - b.fontSize) <= limits.sameSize &&
            (std::abs(a.box.left - b.box.left) <= place || std::abs(a.box.right - b.box.right) <= place ||
@@ -34,7 +34,7 @@ void trimTaken(EdgeRows& edge, std::size_t count) {
         --edge.taken;
 }
 
-void leaveTextPlaces(std::vector<EdgeRows>& edges, const LayoutParameters::RunningHeads& parameters) {
+void leaveTextPlaces(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters) {
     std::vector<double> texts, heads;
     for (const EdgeRows& edge : edges) {
         if (edge.taken < edge.rows.size())
@@ -58,7 +58,7 @@ void leaveTextPlaces(std::vector<EdgeRows>& edges, const LayoutParameters::Runni
     }
 }
 
-void takeOwnHeads(std::vector<EdgeRows>& edges, const LayoutParameters::RunningHeads& parameters) {
+void takeOwnHeads(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters) {
     std::vector<const RunningRow*> heads;
     double text = std::numeric_limits<double>::infinity();
     for (const EdgeRows& edge : edges)

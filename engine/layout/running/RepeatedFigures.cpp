@@ -16,7 +16,7 @@ bool isSamePlace(const Rect& a, const Rect& b, double tolerance) {
 
 class FigureComparer {
 public:
-    FigureComparer(const std::vector<PageText>& pages, const LayoutParameters::RunningHeads& limits)
+    FigureComparer(const std::vector<PageText>& pages, const RunningParameters::RunningHeads& limits)
         : m_pages(pages)
         , m_limits(limits) {}
 
@@ -44,14 +44,14 @@ public:
 
 private:
     const std::vector<PageText>& m_pages;
-    const LayoutParameters::RunningHeads& m_limits;
+    const RunningParameters::RunningHeads& m_limits;
 };
 
 } // namespace
 
 std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<PageText>& pages,
                                                           const std::vector<BodyRange>& bodies,
-                                                          const LayoutParameters::RunningHeads& parameters) {
+                                                          const RunningParameters::RunningHeads& parameters) {
     const FigureComparer comparer(pages, parameters);
     std::vector<std::vector<std::size_t>> repeated(pages.size());
     for (std::size_t page = 0; page < pages.size(); ++page) {

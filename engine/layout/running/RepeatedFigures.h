@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
+#include "layout/running/RunningParameters.h"
 #include "layout/text/PageText.h"
 
 #include <cstddef>
@@ -18,6 +18,6 @@ struct BodyRange {
 /// Within the text (`bodies`, one for each page) more pages must agree.
 std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<PageText>& pages,
                                                           const std::vector<BodyRange>& bodies,
-                                                          const LayoutParameters::RunningHeads& parameters);
+                                                          const RunningParameters::RunningHeads& parameters);
 
 } // namespace orvane::layout

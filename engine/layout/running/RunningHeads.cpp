@@ -123,7 +123,7 @@ char sideOf(const RunningRow& row, double pageWidth, double tolerance) {
     return std::abs(left - right) <= tolerance ? 'c' : left < right ? 'l' : 'r';
 }
 
-std::string keyOf(const EdgeRows& edge, double pageWidth, const LayoutParameters::RunningHeads& limits) {
+std::string keyOf(const EdgeRows& edge, double pageWidth, const RunningParameters::RunningHeads& limits) {
     std::string key;
     for (std::size_t i = 0; i < edge.taken; ++i) {
         // What stands beside a page number may change from page to page.
@@ -134,7 +134,7 @@ std::string keyOf(const EdgeRows& edge, double pageWidth, const LayoutParameters
     return key;
 }
 
-void takeHeads(PageText& page, const PageEdges& edges, const LayoutParameters::RunningHeads& limits,
+void takeHeads(PageText& page, const PageEdges& edges, const RunningParameters::RunningHeads& limits,
                PageRunningHeads& heads) {
     const auto prepare = [&](const EdgeRows& edge, std::optional<RunningHead>& head) {
         if (edge.taken == 0)
@@ -157,7 +157,7 @@ void takeHeads(PageText& page, const PageEdges& edges, const LayoutParameters::R
 /// Whether most pages would hold nothing any more: a document of one numbered line a page, or of forms that are all
 /// alike.
 bool wouldEatTheText(const std::vector<PageText>& pages, const std::vector<PageEdges>& edges,
-                     const LayoutParameters::RunningHeads& limits) {
+                     const RunningParameters::RunningHeads& limits) {
     std::size_t written = 0, emptied = 0;
     for (std::size_t i = 0; i < pages.size(); ++i) {
         const std::vector<bool> isHeader = linesTaken(pages[i], edges[i].top),
@@ -180,11 +180,11 @@ int greatest(const std::vector<std::optional<PageNumber>>& numbers) {
 
 } // namespace
 
-std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const LayoutParameters& parameters) {
+std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const RunningParameters& parameters) {
     std::vector<PageRunningHeads> heads(pages.size());
     if (pages.size() < 2)
         return heads;
-    const LayoutParameters::RunningHeads& limits = parameters.runningHeads;
+    const RunningParameters::RunningHeads& limits = parameters.runningHeads;
     std::vector<EdgeRows> tops = readEdgeRows(pages, PageEdge::Top, limits);
     std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
     const auto numbers = readPageNumbers(tops, bottoms);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/running/PageNumbers.h"
+#include "layout/running/RunningParameters.h"
 #include "layout/text/PageText.h"
 
 #include <optional>
@@ -26,6 +26,6 @@ struct PageRunningHeads {
 /// Takes what repeats over pages near their edges out of `pages`: rows are peeled off from the edge inwards, each
 /// compared with those of the next and the second next page (heads of odd and even pages differ) and with the ones
 /// before; page numbers count. Pictures and rules that belong to them come along. Returns one entry a page.
-std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const LayoutParameters& parameters);
+std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const RunningParameters& parameters);
 
 } // namespace orvane::layout

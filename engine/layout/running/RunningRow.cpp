@@ -146,7 +146,7 @@ bool standsAlike(const RowNumber& a, const RowNumber& b, double tolerance) {
 } // namespace
 
 std::vector<RunningRow> rowsFromEdge(const PageText& page, PageEdge edge,
-                                     const LayoutParameters::RunningHeads& parameters) {
+                                     const RunningParameters::RunningHeads& parameters) {
     std::vector<RunningRow> rows;
     for (const std::size_t index : linesFromEdge(page, edge, parameters.reach)) {
         const Line& line = page.lines[index];
@@ -174,7 +174,7 @@ std::vector<std::size_t> countingNumbers(const RunningRow& row, const RunningRow
 }
 
 RowMatch matchRows(const RunningRow& row, const RunningRow& later, int pages,
-                   const LayoutParameters::RunningHeads& parameters) {
+                   const RunningParameters::RunningHeads& parameters) {
     if (std::abs(row.fromEdge - later.fromEdge) > parameters.samePosition ||
         std::abs(row.fontSize - later.fontSize) > parameters.sameSize)
         return RowMatch::None;

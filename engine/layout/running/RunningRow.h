@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
+#include "layout/running/RunningParameters.h"
 #include "layout/text/PageText.h"
 
 #include <optional>
@@ -37,7 +37,7 @@ struct RunningRow {
 
 /// The rows of the page from that edge inwards, as far as running heads may reach.
 std::vector<RunningRow> rowsFromEdge(const PageText& page, PageEdge edge,
-                                     const LayoutParameters::RunningHeads& parameters);
+                                     const RunningParameters::RunningHeads& parameters);
 
 /// How two rows of different pages agree.
 enum class RowMatch : unsigned char {
@@ -48,7 +48,7 @@ enum class RowMatch : unsigned char {
 
 /// Compares a row with one that stands `pages` pages later.
 RowMatch matchRows(const RunningRow& row, const RunningRow& later, int pages,
-                   const LayoutParameters::RunningHeads& parameters);
+                   const RunningParameters::RunningHeads& parameters);
 
 /// Indices into both rows' numbers of those that count the pages.
 std::vector<std::size_t> countingNumbers(const RunningRow& row, const RunningRow& later, int pages);

@@ -37,7 +37,7 @@ double floorOf(const DocumentDraft& draft, std::size_t page, int band, const Rec
 } // namespace
 
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
-                const LayoutParameters::PageSetup& parameters) {
+                const StructureParameters::PageSetup& parameters) {
     const DraftBlock* before = nullptr;
     for (std::size_t i = range.first; i < range.last; ++i) {
         DraftBlock& block = draft.blocks[i];

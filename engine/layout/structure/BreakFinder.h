@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/structure/DocumentDraft.h"
 #include "layout/structure/PageFill.h"
+#include "layout/structure/StructureParameters.h"
 
 #include <vector>
 
@@ -17,6 +17,6 @@ struct BlockRange {
 
 /// Marks blocks that start a page or a column though there was room for them on the page or in the column before.
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
-                const LayoutParameters::PageSetup& parameters);
+                const StructureParameters::PageSetup& parameters);
 
 } // namespace orvane::layout

@@ -12,7 +12,7 @@ bool startsBefore(const ColumnSpan& a, const ColumnSpan& b) {
 
 /// Columns of one width that start where the seen ones start; empty when there are none.
 std::vector<ColumnSpan> equalColumns(const std::vector<ColumnSpan>& seen, const Rect& area,
-                                     const LayoutParameters::PageSetup& limits) {
+                                     const StructureParameters::PageSetup& limits) {
     const auto count = static_cast<double>(seen.size());
     // From one column's start to the next.
     const double step = (seen.back().left - seen.front().left) / (count - 1);
@@ -33,7 +33,7 @@ std::vector<ColumnSpan> equalColumns(const std::vector<ColumnSpan>& seen, const 
 } // namespace
 
 std::vector<ColumnSpan> fitColumns(const std::vector<ColumnSpan>& seen, const Rect& area,
-                                   const LayoutParameters::PageSetup& parameters) {
+                                   const StructureParameters::PageSetup& parameters) {
     if (seen.size() < 2)
         return {{area.left, area.right}};
     const bool isRightToLeft = seen.front().left > seen.back().left;

@@ -70,7 +70,7 @@ double startOf(const DraftParagraph& paragraph) {
 }
 
 /// Marks the entries, the level of each by how far it is indented among the others.
-void markEntries(const std::vector<Entry>& run, const LayoutParameters::Contents& limits) {
+void markEntries(const std::vector<Entry>& run, const StructureParameters::Contents& limits) {
     std::vector<double> starts;
     for (const Entry& entry : run)
         starts.push_back(startOf(*entry.paragraph));
@@ -89,7 +89,7 @@ void markEntries(const std::vector<Entry>& run, const LayoutParameters::Contents
 
 class RunCollector {
 public:
-    RunCollector(const DocumentDraft& draft, const LayoutParameters::Contents& limits)
+    RunCollector(const DocumentDraft& draft, const StructureParameters::Contents& limits)
         : m_titles(titlesOf(draft))
         , m_limits(limits) {}
 
@@ -117,7 +117,7 @@ private:
     }
 
     std::unordered_set<std::string> m_titles;
-    const LayoutParameters::Contents& m_limits;
+    const StructureParameters::Contents& m_limits;
     std::vector<Entry> m_run;
 };
 

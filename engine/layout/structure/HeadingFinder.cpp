@@ -40,14 +40,14 @@ double sizeOf(const DraftParagraph& paragraph) {
     return paragraph.firstLine().fontSize;
 }
 
-bool isTitleLike(const DraftParagraph& paragraph, double size, const LayoutParameters::Headings& limits) {
+bool isTitleLike(const DraftParagraph& paragraph, double size, const StructureParameters::Headings& limits) {
     return paragraph.role == ParagraphRole::Body && sizeOf(paragraph) >= size - 0.5 &&
            paragraph.pieces.front().text.lines.size() <= static_cast<std::size_t>(limits.maximumLines) &&
            !comparableWithoutNumber(textOf(paragraph)).empty();
 }
 
 /// The title is what the first page shows in the document's largest letters, once and before any heading.
-void findTitle(DocumentDraft& draft, const DocumentContext& context, const LayoutParameters::Headings& limits) {
+void findTitle(DocumentDraft& draft, const DocumentContext& context, const StructureParameters::Headings& limits) {
     std::vector<DraftParagraph*> paragraphs;
     double largest = 0;
     for (DraftBlock& block : draft.blocks)

@@ -191,7 +191,7 @@ private:
     DocumentDraft& m_draft;
     const DocumentContext& m_context;
     const LayoutParameters& m_parameters;
-    const LayoutParameters::Headings& m_limits;
+    const StructureParameters::Headings& m_limits;
     HeadingLook m_body;
     std::size_t m_wordCount = 0;
     std::vector<Candidate> m_candidates;

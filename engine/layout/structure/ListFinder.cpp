@@ -24,7 +24,7 @@ void groupFlow(std::vector<DraftBlock>& blocks, const LayoutParameters& paramete
 
 /// Whether so many items, with labels like these, are a list. A single number, or a blank behind the label at the edge
 /// of the text, is as likely to be something that was typed.
-bool isList(const std::vector<const ListItem*>& run, const LayoutParameters::Lists& limits) {
+bool isList(const std::vector<const ListItem*>& run, const StructureParameters::Lists& limits) {
     const bool isStrong =
         std::any_of(run.begin(), run.end(), [](const ListItem* item) { return item->label.isStrong; });
     const ListLabel& first = run.front()->label;
@@ -35,7 +35,7 @@ bool isList(const std::vector<const ListItem*>& run, const LayoutParameters::Lis
     return isStrong || first.labelStart > limits.sameIndent;
 }
 
-void dropDoubtfulRuns(ListGroup& group, const LayoutParameters::Lists& limits) {
+void dropDoubtfulRuns(ListGroup& group, const StructureParameters::Lists& limits) {
     std::map<std::size_t, std::vector<const ListItem*>> runs;
     for (const ListItem& item : group.items)
         runs[item.run].push_back(&item);

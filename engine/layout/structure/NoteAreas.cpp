@@ -17,7 +17,7 @@ struct Interval {
 /// Finds the areas of one page. Lines are sorted once, so that each rule costs no more than what stands below it.
 class AreaFinder {
 public:
-    AreaFinder(const PageText& page, const DocumentContext& context, const LayoutParameters::Notes& limits)
+    AreaFinder(const PageText& page, const DocumentContext& context, const StructureParameters::Notes& limits)
         : m_page(page)
         , m_context(context)
         , m_limits(limits) {
@@ -143,19 +143,19 @@ private:
 
     const PageText& m_page;
     const DocumentContext& m_context;
-    const LayoutParameters::Notes& m_limits;
+    const StructureParameters::Notes& m_limits;
     std::vector<std::size_t> m_lines; ///< indices of upright lines by baseline
 };
 
 } // namespace
 
 std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext& context,
-                                    const LayoutParameters::Notes& parameters) {
+                                    const StructureParameters::Notes& parameters) {
     return AreaFinder(page, context, parameters).run();
 }
 
 std::optional<NoteArea> wholePageOfNotes(const PageText& page, const DocumentContext& context,
-                                         const LayoutParameters::Notes& parameters) {
+                                         const StructureParameters::Notes& parameters) {
     return AreaFinder(page, context, parameters).wholePage();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "layout/DocumentContext.h"
-#include "layout/LayoutParameters.h"
+#include "layout/structure/StructureParameters.h"
 #include "layout/text/PageText.h"
 
 #include <cstddef>
@@ -28,11 +28,11 @@ struct NoteArea {
 
 /// The areas below short rules, column by column from the left, those of a column from the top.
 std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext& context,
-                                    const LayoutParameters::Notes& parameters);
+                                    const StructureParameters::Notes& parameters);
 
 /// The whole page as one area, as endnotes stand that fill pages of their own; nullopt when it does not start with a
 /// raised mark, or holds larger text.
 std::optional<NoteArea> wholePageOfNotes(const PageText& page, const DocumentContext& context,
-                                         const LayoutParameters::Notes& parameters);
+                                         const StructureParameters::Notes& parameters);
 
 } // namespace orvane::layout

@@ -29,7 +29,7 @@ bool isNumeral(const std::string& mark) {
 
 class NoteTaker {
 public:
-    NoteTaker(std::vector<PageText>& pages, const DocumentContext& context, const LayoutParameters::Notes& limits)
+    NoteTaker(std::vector<PageText>& pages, const DocumentContext& context, const StructureParameters::Notes& limits)
         : m_pages(pages)
         , m_context(context)
         , m_limits(limits) {
@@ -201,7 +201,7 @@ private:
 
     std::vector<PageText>& m_pages;
     const DocumentContext& m_context;
-    const LayoutParameters::Notes& m_limits;
+    const StructureParameters::Notes& m_limits;
     std::vector<std::vector<NoteArea>> m_areas; ///< by page
     std::vector<Reference> m_references;
     std::map<std::string, std::vector<std::size_t>> m_byMark; ///< indices into m_references

@@ -2,6 +2,7 @@
 
 #include "base/Diagnostic.h"
 #include "layout/DocumentContext.h"
+#include "layout/LayoutParameters.h"
 #include "layout/structure/DocumentDraft.h"
 #include "layout/structure/NoteFinder.h"
 

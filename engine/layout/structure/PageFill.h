@@ -1,6 +1,5 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/fonts/FontCatalog.h"
 #include "layout/structure/DocumentDraft.h"
 

@@ -10,7 +10,7 @@ namespace orvane::layout {
 namespace {
 
 double findTop(const std::vector<PageFill>& fills, std::size_t firstPage, std::size_t lastPage,
-               const LayoutParameters::PageSetup& limits) {
+               const StructureParameters::PageSetup& limits) {
     std::vector<double> tops;
     for (std::size_t i = firstPage; i <= lastPage; ++i)
         if (!fills[i].isEmpty)
@@ -27,7 +27,7 @@ double findTop(const std::vector<PageFill>& fills, std::size_t firstPage, std::s
 
 /// The lower edge: below all that stands on the pages, above where the next page's first line would have had room.
 double findBottom(const std::vector<PageFill>& fills, std::size_t firstPage, std::size_t lastPage, double pageHeight,
-                  double top, const LayoutParameters::PageSetup& limits) {
+                  double top, const StructureParameters::PageSetup& limits) {
     double lowest = 0;
     for (std::size_t i = firstPage; i <= lastPage; ++i)
         lowest = std::max(lowest, fills[i].bottom);
@@ -48,7 +48,7 @@ double findBottom(const std::vector<PageFill>& fills, std::size_t firstPage, std
 
 Rect findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, std::size_t firstPage,
                   std::size_t lastPage, const LayoutParameters& parameters) {
-    const LayoutParameters::PageSetup& limits = parameters.pageSetup;
+    const StructureParameters::PageSetup& limits = parameters.pageSetup;
     const TextEdges edges = findTextEdges(draft, firstPage, lastPage, parameters);
     const double top = findTop(fills, firstPage, lastPage, limits);
     const PageLayout& page = draft.pages[firstPage];

@@ -19,7 +19,7 @@ LineMeasure measureOne(const Line& line, ColumnSpan column, const ParagraphConte
 }
 
 bool isOneParagraphsLook(const ParagraphDraft& a, const ParagraphDraft& b,
-                         const LayoutParameters::Paragraphs& parameters) {
+                         const ParagraphParameters::Paragraphs& parameters) {
     const Line& before = a.lines.back();
     const Line& next = b.lines.front();
     return before.angle == next.angle && before.isVertical == next.isVertical &&
@@ -58,7 +58,7 @@ bool mayRunOn(const PlacedParagraph& last, const ParagraphContext& context, cons
 
 bool runsOn(const PlacedParagraph& last, const PlacedParagraph& next, const ParagraphContext& context,
             const LayoutParameters& parameters) {
-    const LayoutParameters::Paragraphs& limits = parameters.paragraphs;
+    const ParagraphParameters::Paragraphs& limits = parameters.paragraphs;
     const Line& line = last.paragraph.lines.back();
     const Line& start = next.paragraph.lines.front();
     if (line.words.empty() || start.words.empty() || !isOneParagraphsLook(last.paragraph, next.paragraph, limits))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/LayoutParameters.h"
 #include "layout/page/PageLayout.h"
 #include "layout/paragraphs/LineMeasures.h"
 

@@ -18,7 +18,7 @@ bool hasColumnRules(const PageText& page) {
 }
 
 /// Makes one line of what stands on one baseline: in a running head gaps are tabulators, not columns.
-void joinRows(PageText& page, const LayoutParameters::RunningHeads& limits) {
+void joinRows(PageText& page, const RunningParameters::RunningHeads& limits) {
     if (hasColumnRules(page))
         return; // a table, whose cells part the lines
     std::stable_sort(page.lines.begin(), page.lines.end(),

@@ -65,7 +65,7 @@ public:
 private:
     /// Appends `next` to `table` if it goes on with it.
     bool append(DraftTable& table, DraftTable& next, std::size_t page) {
-        const LayoutParameters::Tables& limits = m_parameters.tables;
+        const TableParameters::Tables& limits = m_parameters.tables;
         const auto columns = shareColumns(table, next, limits.joinedEdge);
         if (!columns || table.table.isRuled != next.table.isRuled)
             return false;

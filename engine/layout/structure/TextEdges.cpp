@@ -132,7 +132,7 @@ private:
     }
 
     const DocumentDraft& m_draft;
-    const LayoutParameters::PageSetup& m_limits;
+    const StructureParameters::PageSetup& m_limits;
     std::vector<LineEdge> m_edges;
     Rect m_objects;
     double m_pageWidth = 0;

@@ -24,7 +24,7 @@ struct ColumnPieces {
 class AlignedJudge {
 public:
     AlignedJudge(const PageText& page, const AlignedRows& aligned, AlignedEvidence evidence,
-                 const LayoutParameters::Tables& parameters)
+                 const TableParameters::Tables& parameters)
         : m_page(page)
         , m_aligned(aligned)
         , m_evidence(evidence)
@@ -228,7 +228,7 @@ private:
     const PageText& m_page;
     const AlignedRows& m_aligned;
     AlignedEvidence m_evidence;
-    const LayoutParameters::Tables& m_parameters;
+    const TableParameters::Tables& m_parameters;
     std::vector<ColumnPieces> m_columns;
     double m_pieceCount = 0;
     double m_crossingCount = 0;
@@ -237,7 +237,7 @@ private:
 } // namespace
 
 TableVerdict judgeAlignedTable(const PageText& page, const AlignedRows& aligned, AlignedEvidence evidence,
-                               const LayoutParameters::Tables& parameters) {
+                               const TableParameters::Tables& parameters) {
     return AlignedJudge(page, aligned, evidence, parameters).judge();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/tables/AlignedGrid.h"
+#include "layout/tables/TableParameters.h"
 #include "layout/tables/TableVerdict.h"
 #include "layout/text/PageText.h"
 
@@ -15,6 +15,6 @@ enum class AlignedEvidence {
 
 /// Judges rows of words that stand in columns.
 TableVerdict judgeAlignedTable(const PageText& page, const AlignedRows& aligned, AlignedEvidence evidence,
-                               const LayoutParameters::Tables& parameters);
+                               const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

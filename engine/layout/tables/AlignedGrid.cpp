@@ -56,7 +56,7 @@ bool isBulletOf(const TextPiece& piece, const TextPiece& text, const std::vector
 /// Whether a gap of columns lies between two words of a piece, and the words are such as stand in two cells: numbers,
 /// or words with more than a blank between them.
 bool isCutBetween(const Line& line, std::size_t index, std::size_t lineIndex, const ColumnGap& gap,
-                  const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+                  const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     const Rect& before = line.words[index - 1].box;
     const Rect& after = line.words[index].box;
     const Rect& left = before.left < after.left ? before : after;
@@ -70,7 +70,7 @@ bool isCutBetween(const Line& line, std::size_t index, std::size_t lineIndex, co
 
 /// Cuts the pieces of a row where gaps lie between their words.
 void cutAtGaps(PieceRow& row, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
-               const LayoutParameters::Tables& parameters) {
+               const TableParameters::Tables& parameters) {
     std::vector<TextPiece> pieces;
     for (const TextPiece& piece : row.pieces) {
         const Line& line = lines[piece.line];

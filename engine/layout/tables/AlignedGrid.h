@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/LayoutParameters.h"
 #include "layout/tables/ColumnGaps.h"
 #include "layout/tables/RowGrouper.h"
 #include "layout/tables/TableGrid.h"

@@ -43,7 +43,7 @@ private:
 
 /// Joins the rules of one position, [first, last) of `order`, where they touch or overlap.
 void mergeGroup(const std::vector<Rule>& rules, std::vector<std::size_t>::iterator first,
-                std::vector<std::size_t>::iterator last, const LayoutParameters::Tables& parameters,
+                std::vector<std::size_t>::iterator last, const TableParameters::Tables& parameters,
                 std::vector<BorderLine>& lines) {
     std::sort(first, last, [&](std::size_t a, std::size_t b) {
         return std::tie(rules[a].from, rules[a].position, a) < std::tie(rules[b].from, rules[b].position, b);
@@ -68,7 +68,7 @@ void mergeGroup(const std::vector<Rule>& rules, std::vector<std::size_t>::iterat
 
 } // namespace
 
-std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const LayoutParameters::Tables& parameters) {
+std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters) {
     std::vector<std::size_t> order;
     for (std::size_t i = 0; i < rules.size(); ++i)
         if (!rules[i].isUsed)
@@ -90,7 +90,7 @@ std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const
 
 document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
                              RuleDirection direction, double position, double from, double to,
-                             const LayoutParameters::Tables& parameters) {
+                             const TableParameters::Tables& parameters) {
     // The side takes the look that covers most of it.
     std::map<std::size_t, double> coverByRule;
     double covered = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
+#include "layout/tables/TableParameters.h"
 #include "layout/text/PageText.h"
 
 #include <vector>
@@ -20,11 +20,11 @@ struct BorderLine {
 };
 
 /// The lines that the page's rules make, horizontal ones first, each direction by position.
-std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const LayoutParameters::Tables& parameters);
+std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters);
 
 /// What is drawn along one side of a cell; BorderKind::None where the rules do not cover it.
 document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
                              RuleDirection direction, double position, double from, double to,
-                             const LayoutParameters::Tables& parameters);
+                             const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

@@ -9,7 +9,7 @@ namespace orvane::layout {
 namespace {
 
 /// The rows of the page that may belong to a table: running text and what lies within drawings is left out.
-std::vector<PieceRow> candidateRows(const PageText& page, const LayoutParameters::Tables& parameters) {
+std::vector<PieceRow> candidateRows(const PageText& page, const TableParameters::Tables& parameters) {
     std::vector<TextPiece> pieces = cutIntoPieces(page.lines, parameters);
     const std::vector<char> isProse = markProse(pieces, parameters);
     std::vector<TextPiece> kept;
@@ -26,7 +26,7 @@ std::vector<PieceRow> candidateRows(const PageText& page, const LayoutParameters
 /// Grows a table downwards from a row with at least two pieces.
 class RegionGrower {
 public:
-    RegionGrower(const std::vector<PieceRow>& rows, const LayoutParameters::Tables& parameters)
+    RegionGrower(const std::vector<PieceRow>& rows, const TableParameters::Tables& parameters)
         : m_rows(rows)
         , m_parameters(parameters) {}
 
@@ -83,7 +83,7 @@ private:
     }
 
     const std::vector<PieceRow>& m_rows;
-    const LayoutParameters::Tables& m_parameters;
+    const TableParameters::Tables& m_parameters;
     std::vector<PieceRow> m_region;
     std::vector<ColumnGap> m_gaps;
     double m_leastSpace = 1e9;

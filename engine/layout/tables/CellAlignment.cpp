@@ -66,7 +66,7 @@ std::optional<Alignment> keptEdge(const Edges& edges, double tolerance) {
 }
 
 /// What a cell's own gaps say: text in the middle, or at the right.
-Alignment alignmentByGaps(const Edges& edges, double tolerance, const LayoutParameters::Tables& parameters) {
+Alignment alignmentByGaps(const Edges& edges, double tolerance, const TableParameters::Tables& parameters) {
     const double left = edges.left.low;
     const double right = edges.right.low;
     const double difference = std::max(2 * tolerance, parameters.centerShare * (left + right));
@@ -101,7 +101,7 @@ double fontSizeOf(const TableDraft& table) {
 
 /// What a cell's own lines say about it, and failing that its column, and failing that its gaps.
 Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofColumn, double tolerance,
-                          const LayoutParameters::Tables& parameters) {
+                          const TableParameters::Tables& parameters) {
     if (const auto kept = keptEdge(own, tolerance))
         return *kept;
     return ofColumn ? *ofColumn : alignmentByGaps(own, tolerance, parameters);
@@ -120,7 +120,7 @@ void setAlignment(ParagraphDraft& paragraph, Alignment alignment, const Rect& ce
 
 } // namespace
 
-void alignAcross(TableDraft& table, const ColumnRooms& rooms, const LayoutParameters::Tables& parameters) {
+void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParameters::Tables& parameters) {
     const double tolerance = parameters.edgeTolerance * fontSizeOf(table);
     std::vector<Edges> columns(table.columnEdges.size());
     const auto isOfColumn = [&](const CellDraft& cell) { return cell.columnSpan == 1 && cell.row >= table.headerRows; };
@@ -140,7 +140,7 @@ void alignAcross(TableDraft& table, const ColumnRooms& rooms, const LayoutParame
     }
 }
 
-void alignUpright(TableDraft& table, const LayoutParameters::Tables& parameters) {
+void alignUpright(TableDraft& table, const TableParameters::Tables& parameters) {
     for (CellDraft& cell : table.cells) {
         Range extent;
         double fontSize = 0;

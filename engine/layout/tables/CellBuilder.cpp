@@ -95,7 +95,7 @@ CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> li
 TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, TableEdges edges,
                       const std::vector<BorderLine>& lines, std::vector<TableDraft> nested,
                       const ParagraphContext& context, const LayoutParameters& parameters) {
-    const LayoutParameters::Tables& limits = parameters.tables;
+    const TableParameters::Tables& limits = parameters.tables;
     TableDraft table;
     table.box = grid.box();
     table.columnEdges = grid.columnEdges;

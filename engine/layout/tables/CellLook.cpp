@@ -29,7 +29,7 @@ Color seenColor(const Ground& ground) {
 } // namespace
 
 void drawBorders(TableDraft& table, std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
-                 const LayoutParameters::Tables& parameters) {
+                 const TableParameters::Tables& parameters) {
     const std::vector<BorderLine> own = linesWithin(lines, table.box.inflated(parameters.lineSnap));
     const auto along = [&](RuleDirection direction, double position, double from, double to) {
         return borderAlong(rules, own, direction, position, from, to, parameters);
@@ -46,7 +46,7 @@ void drawBorders(TableDraft& table, std::vector<Rule>& rules, const std::vector<
             rules[index].isUsed = true;
 }
 
-void shadeCells(TableDraft& table, std::vector<Ground>& grounds, const LayoutParameters::Tables& parameters) {
+void shadeCells(TableDraft& table, std::vector<Ground>& grounds, const TableParameters::Tables& parameters) {
     std::vector<Ground*> own;
     for (Ground& ground : grounds)
         if (!ground.isUsed && ground.box.intersects(table.box))

@@ -14,7 +14,7 @@ bool isUpright(const Line& line) {
 }
 
 /// Joins two lines of one baseline in the order they are read.
-Line joinInOrder(Line a, Line b, const LayoutParameters::Tables& parameters) {
+Line joinInOrder(Line a, Line b, const TableParameters::Tables& parameters) {
     const bool aIsFirst = (a.box.left <= b.box.left) != a.isRightToLeft;
     Line& first = aIsFirst ? a : b;
     Line& second = aIsFirst ? b : a;
@@ -23,7 +23,7 @@ Line joinInOrder(Line a, Line b, const LayoutParameters::Tables& parameters) {
     return std::move(first);
 }
 
-std::vector<Line> joinLinesOfOneBaseline(std::vector<Line> lines, const LayoutParameters::Tables& parameters) {
+std::vector<Line> joinLinesOfOneBaseline(std::vector<Line> lines, const TableParameters::Tables& parameters) {
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
     std::vector<Line> joined;
     for (Line& line : lines) {

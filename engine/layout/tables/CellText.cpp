@@ -30,7 +30,7 @@ void appendRemains(const Line& line, const std::vector<char>& isTaken, std::vect
     }
 }
 
-bool straddles(const Rect& word, const Rect& cell, double fontSize, const LayoutParameters::Tables& parameters) {
+bool straddles(const Rect& word, const Rect& cell, double fontSize, const TableParameters::Tables& parameters) {
     const double sideways = parameters.straddle * fontSize;
     // A text's box is taller than its ink, and tight rows cut into it.
     const double upright = word.height() * parameters.straddleHeight;
@@ -40,8 +40,7 @@ bool straddles(const Rect& word, const Rect& cell, double fontSize, const Layout
 
 } // namespace
 
-CellText assignWords(const std::vector<Line>& lines, const TableGrid& grid,
-                     const LayoutParameters::Tables& parameters) {
+CellText assignWords(const std::vector<Line>& lines, const TableGrid& grid, const TableParameters::Tables& parameters) {
     CellText text;
     text.wordsOfCell.resize(grid.cells.size());
     const std::vector<int> cover = coverOf(grid);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/tables/TableGrid.h"
+#include "layout/tables/TableParameters.h"
 #include "layout/text/PageText.h"
 
 #include <vector>
@@ -22,7 +22,7 @@ struct CellText {
 };
 
 /// Requires: the grid is tiled.
-CellText assignWords(const std::vector<Line>& lines, const TableGrid& grid, const LayoutParameters::Tables& parameters);
+CellText assignWords(const std::vector<Line>& lines, const TableGrid& grid, const TableParameters::Tables& parameters);
 
 /// Moves the words of each cell out of `lines`: what stands in one line of the page and one cell becomes one line;
 /// words that belong to no cell stay, the rest of a cut line keeping its place.

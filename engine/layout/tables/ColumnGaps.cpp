@@ -125,7 +125,7 @@ ColumnGap clearestPart(const ColumnGap& gap, std::span<const PieceRow> rows) {
     return clearest;
 }
 
-std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters) {
+std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     const auto rowCount = static_cast<double>(rows.size());
     const int allowed = static_cast<int>(parameters.crossedRowShare * rowCount);
     double fontSize = 0;
@@ -144,7 +144,7 @@ std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const LayoutPar
 }
 
 /// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
-std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters) {
+std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     std::vector<PieceRow> telling;
     for (const PieceRow& row : rows)
         if (row.pieces.size() > 1)
@@ -160,7 +160,7 @@ std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const LayoutPa
 
 } // namespace
 
-std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters) {
+std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     return gapsAmong(tellingRows(rows, parameters), parameters);
 }
 

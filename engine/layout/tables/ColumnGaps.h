@@ -15,7 +15,7 @@ struct ColumnGap {
 
 /// The gaps that part the pieces of `rows` into columns, left to right. Few rows may cross a gap: headings over several
 /// columns.
-std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const LayoutParameters::Tables& parameters);
+std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters);
 
 /// Whether the piece reaches over the gap.
 inline bool crosses(const TextPiece& piece, const ColumnGap& gap) {

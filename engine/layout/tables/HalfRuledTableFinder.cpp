@@ -16,7 +16,7 @@ struct Band {
 };
 
 std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
-                          const LayoutParameters::Tables& parameters) {
+                          const TableParameters::Tables& parameters) {
     std::vector<Band> bands;
     for (std::size_t i = 0; i + 1 < stack.size(); ++i) {
         const Rect box{std::min(stack[i].left, stack[i + 1].left) - parameters.endSnap, stack[i].y,
@@ -42,7 +42,7 @@ struct BandRun {
 };
 
 /// Takes bands from `first` on for as long as the columns of what was taken remain.
-BandRun growRun(const std::vector<Band>& bands, std::size_t first, const LayoutParameters::Tables& parameters) {
+BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TableParameters::Tables& parameters) {
     BandRun run{first, first, {}};
     std::vector<PieceRow> rows;
     std::size_t mostGaps = 0;
@@ -86,7 +86,7 @@ Rect boxOf(const AlignedRows& aligned) {
 
 /// Whether the texts take up most of the rules' length: those of a page's head and foot are longer than the table
 /// between them.
-bool fillsRules(const BandRun& run, const RuleLevel& level, const LayoutParameters::Tables& parameters) {
+bool fillsRules(const BandRun& run, const RuleLevel& level, const TableParameters::Tables& parameters) {
     return boxOf(run.aligned).width() >= parameters.ruleFill * (level.right - level.left);
 }
 
@@ -111,7 +111,7 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
 
 std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
                                           const LayoutParameters& parameters) {
-    const LayoutParameters::Tables& limits = parameters.tables;
+    const TableParameters::Tables& limits = parameters.tables;
     const std::vector<TextPiece> pieces = cutIntoPieces(page.lines, limits);
     std::vector<TableGrid> grids;
     for (const RuleStack& stack : findRuleStacks(lines, limits)) {

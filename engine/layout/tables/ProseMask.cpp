@@ -10,7 +10,7 @@ namespace orvane::layout {
 namespace {
 
 /// Whether `below` may be the next line of the text that `above` belongs to.
-bool followsOn(const TextPiece& above, const TextPiece& below, const LayoutParameters::Tables& parameters) {
+bool followsOn(const TextPiece& above, const TextPiece& below, const TableParameters::Tables& parameters) {
     const double size = std::max(above.fontSize, below.fontSize);
     const double pitch = below.baseline - above.baseline;
     if (pitch < parameters.rowSnap * size || pitch > parameters.proseLeading * size)
@@ -23,7 +23,7 @@ bool followsOn(const TextPiece& above, const TextPiece& below, const LayoutParam
 }
 
 bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& lines,
-                   const LayoutParameters::Tables& parameters) {
+                   const TableParameters::Tables& parameters) {
     if (static_cast<int>(lines.size()) < parameters.proseLines - 1)
         return false;
     double words = 0;
@@ -42,7 +42,7 @@ bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::
 
 } // namespace
 
-std::vector<char> markProse(const std::vector<TextPiece>& pieces, const LayoutParameters::Tables& parameters) {
+std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TableParameters::Tables& parameters) {
     std::vector<std::size_t> order(pieces.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(),

@@ -8,6 +8,6 @@ namespace orvane::layout {
 
 /// For each piece whether it is a line of running text: one of several long lines one below the other that fill their
 /// column.
-std::vector<char> markProse(const std::vector<TextPiece>& pieces, const LayoutParameters::Tables& parameters);
+std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

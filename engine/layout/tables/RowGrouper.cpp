@@ -23,7 +23,7 @@ bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
 class GroupBuilder {
 public:
     GroupBuilder(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
-                 const LayoutParameters::Tables& parameters)
+                 const TableParameters::Tables& parameters)
         : m_rows(rows)
         , m_gaps(gaps)
         , m_lines(lines)
@@ -111,7 +111,7 @@ private:
     std::span<const PieceRow> m_rows;
     const std::vector<ColumnGap>& m_gaps;
     const std::vector<Line>& m_lines;
-    const LayoutParameters::Tables& m_parameters;
+    const TableParameters::Tables& m_parameters;
     std::vector<RowContent> m_contents;
     std::map<int, double> m_columnRights;
     double m_leastPitch = 0;
@@ -120,7 +120,7 @@ private:
 } // namespace
 
 std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
-                                const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+                                const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     return GroupBuilder(rows, gaps, lines, parameters).join();
 }
 

@@ -15,6 +15,6 @@ struct RowGroup {
 /// Joins rows of text into rows of a table: a row that holds only the rest of texts which the row above began belongs
 /// to it.
 std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
-                                const std::vector<Line>& lines, const LayoutParameters::Tables& parameters);
+                                const std::vector<Line>& lines, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

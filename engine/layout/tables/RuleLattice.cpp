@@ -38,7 +38,7 @@ std::size_t nearestIndex(const std::vector<double>& positions, double value) {
 /// table without its outer border.
 std::vector<double> edgePositions(const std::vector<const BorderLine*>& along,
                                   const std::vector<const BorderLine*>& across,
-                                  const LayoutParameters::Tables& parameters) {
+                                  const TableParameters::Tables& parameters) {
     std::vector<double> values;
     for (const BorderLine* line : along)
         values.push_back(line->position);
@@ -62,7 +62,7 @@ std::vector<double> edgePositions(const std::vector<const BorderLine*>& along,
 
 /// Calls `mark(i)` for every interval of `edges` that the line covers.
 void forCoveredIntervals(const BorderLine& line, const std::vector<double>& edges,
-                         const LayoutParameters::Tables& parameters, const std::function<void(std::size_t)>& mark) {
+                         const TableParameters::Tables& parameters, const std::function<void(std::size_t)>& mark) {
     const auto start = std::upper_bound(edges.begin(), edges.end(), line.from);
     std::size_t i = start == edges.begin() ? 0 : static_cast<std::size_t>(start - edges.begin()) - 1;
     for (; i + 1 < edges.size() && edges[i] < line.to; ++i) {
@@ -76,7 +76,7 @@ void forCoveredIntervals(const BorderLine& line, const std::vector<double>& edge
 }
 
 bool coversAnInterval(const BorderLine& line, const std::vector<double>& edges,
-                      const LayoutParameters::Tables& parameters) {
+                      const TableParameters::Tables& parameters) {
     bool covers = false;
     forCoveredIntervals(line, edges, parameters, [&](std::size_t) { covers = true; });
     return covers;
@@ -87,7 +87,7 @@ bool coversAnInterval(const BorderLine& line, const std::vector<double>& edges,
 class LatticeBuilder {
 public:
     LatticeBuilder(const std::vector<BorderLine>& lines, const LineGroup& group,
-                   const LayoutParameters::Tables& parameters)
+                   const TableParameters::Tables& parameters)
         : m_parameters(parameters) {
         for (const std::size_t i : group)
             (lines[i].direction == RuleDirection::Horizontal ? m_horizontal : m_vertical).push_back(&lines[i]);
@@ -131,7 +131,7 @@ private:
         }
     }
 
-    const LayoutParameters::Tables& m_parameters;
+    const TableParameters::Tables& m_parameters;
     std::vector<const BorderLine*> m_horizontal;
     std::vector<const BorderLine*> m_vertical;
     RuleLattice m_lattice;
@@ -166,7 +166,7 @@ std::vector<GridCell> cutIntoRectangles(const std::vector<Run>& runs) {
 } // namespace
 
 std::vector<LineGroup> groupCrossingLines(const std::vector<BorderLine>& lines,
-                                          const LayoutParameters::Tables& parameters) {
+                                          const TableParameters::Tables& parameters) {
     const auto firstVertical = std::find_if(
         lines.begin(), lines.end(), [](const BorderLine& line) { return line.direction == RuleDirection::Vertical; });
     const auto isAbove = [](const BorderLine& line, double y) { return line.position < y; };
@@ -190,7 +190,7 @@ std::vector<LineGroup> groupCrossingLines(const std::vector<BorderLine>& lines,
 }
 
 std::optional<RuleLattice> buildLattice(const std::vector<BorderLine>& lines, const LineGroup& group,
-                                        const LayoutParameters::Tables& parameters) {
+                                        const TableParameters::Tables& parameters) {
     return LatticeBuilder(lines, group, parameters).build();
 }
 

@@ -13,7 +13,7 @@ using LineGroup = std::vector<std::size_t>;
 
 /// Sorts the lines into groups that hang together. Lines that meet nothing are left out.
 std::vector<LineGroup> groupCrossingLines(const std::vector<BorderLine>& lines,
-                                          const LayoutParameters::Tables& parameters);
+                                          const TableParameters::Tables& parameters);
 
 /// The rows and columns that a group of lines draws, and which sides of their places are drawn.
 struct RuleLattice {
@@ -30,7 +30,7 @@ struct RuleLattice {
 
 /// Lays the lattice of a group; nothing when the lines make no place, or far more than a table has.
 std::optional<RuleLattice> buildLattice(const std::vector<BorderLine>& lines, const LineGroup& group,
-                                        const LayoutParameters::Tables& parameters);
+                                        const TableParameters::Tables& parameters);
 
 /// A grid and how well its lines told it.
 struct LatticeGrid {

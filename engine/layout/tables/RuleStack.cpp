@@ -7,7 +7,7 @@ namespace {
 
 /// Joins lines of one height, [first, last) of `order`, whose ends are near.
 void appendLevels(const std::vector<BorderLine>& lines, std::vector<std::size_t>::iterator first,
-                  std::vector<std::size_t>::iterator last, const LayoutParameters::Tables& parameters,
+                  std::vector<std::size_t>::iterator last, const TableParameters::Tables& parameters,
                   std::vector<RuleLevel>& levels) {
     std::sort(first, last, [&](std::size_t a, std::size_t b) { return lines[a].from < lines[b].from; });
     const std::size_t oldCount = levels.size();
@@ -20,7 +20,7 @@ void appendLevels(const std::vector<BorderLine>& lines, std::vector<std::size_t>
     }
 }
 
-std::vector<RuleLevel> findLevels(const std::vector<BorderLine>& lines, const LayoutParameters::Tables& parameters) {
+std::vector<RuleLevel> findLevels(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
     std::vector<std::size_t> order;
     for (std::size_t i = 0; i < lines.size(); ++i)
         if (lines[i].direction == RuleDirection::Horizontal)
@@ -52,8 +52,7 @@ std::vector<RuleStack> partByEdge(RuleStack levels, const Edge& edge, double sna
 
 } // namespace
 
-std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines,
-                                      const LayoutParameters::Tables& parameters) {
+std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
     const auto leftOf = [](const RuleLevel& level) { return level.left; };
     const auto rightOf = [](const RuleLevel& level) { return level.right; };
     std::vector<RuleStack> stacks;

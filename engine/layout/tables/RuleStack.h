@@ -18,6 +18,6 @@ struct RuleLevel {
 using RuleStack = std::vector<RuleLevel>;
 
 /// The stacks of two and more levels that the horizontal lines make.
-std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, const LayoutParameters::Tables& parameters);
+std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

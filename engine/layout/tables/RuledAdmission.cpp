@@ -5,13 +5,13 @@
 namespace orvane::layout {
 namespace {
 
-bool hasStraddlingWords(const CellText& text, const LayoutParameters::Tables& parameters) {
+bool hasStraddlingWords(const CellText& text, const TableParameters::Tables& parameters) {
     const double allowed = parameters.straddlingShare * static_cast<double>(text.wordCount);
     return static_cast<double>(text.straddlingCount) > allowed;
 }
 
 /// Whether some row or column is filled well enough to be the head of a table.
-bool hasFilledRowOrColumn(const TableGrid& grid, const CellText& text, const LayoutParameters::Tables& parameters) {
+bool hasFilledRowOrColumn(const TableGrid& grid, const CellText& text, const TableParameters::Tables& parameters) {
     struct Count {
         int cells = 0;
         int filled = 0;
@@ -34,7 +34,7 @@ bool hasFilledRowOrColumn(const TableGrid& grid, const CellText& text, const Lay
 
 /// Whether the rows that hold text are lower than it.
 bool isTooFlat(const std::vector<Line>& lines, const TableGrid& grid, const CellText& text,
-               const LayoutParameters::Tables& parameters) {
+               const TableParameters::Tables& parameters) {
     int flat = 0;
     int filled = 0;
     for (std::size_t i = 0; i < grid.cells.size(); ++i) {
@@ -48,7 +48,7 @@ bool isTooFlat(const std::vector<Line>& lines, const TableGrid& grid, const Cell
 }
 
 /// Whether a drawing (no picture) lies over several cells.
-bool isDrawnOver(const PageText& page, const TableGrid& grid, const LayoutParameters::Tables& parameters) {
+bool isDrawnOver(const PageText& page, const TableGrid& grid, const TableParameters::Tables& parameters) {
     const Rect box = grid.box();
     return std::any_of(page.figures.begin(), page.figures.end(), [&](const Figure& figure) {
         if (figure.isBackground || figure.paths.empty() || !figure.box.intersects(box))
@@ -61,7 +61,7 @@ bool isDrawnOver(const PageText& page, const TableGrid& grid, const LayoutParame
 }
 
 bool isPageFrame(const PageText& page, const TableGrid& grid, const CellText& text,
-                 const LayoutParameters::Tables& parameters) {
+                 const TableParameters::Tables& parameters) {
     for (std::size_t i = 0; i < grid.cells.size(); ++i) {
         const bool isLarge = grid.boxOf(grid.cells[i]).area() > parameters.frameCellShare * page.width * page.height;
         const auto words = static_cast<double>(text.wordsOfCell[i].size());
@@ -74,7 +74,7 @@ bool isPageFrame(const PageText& page, const TableGrid& grid, const CellText& te
 } // namespace
 
 TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const CellText& text,
-                             const GridEvidence& evidence, const LayoutParameters::Tables& parameters) {
+                             const GridEvidence& evidence, const TableParameters::Tables& parameters) {
     const auto cellCount = static_cast<double>(grid.cells.size());
     if (grid.cells.size() < 2)
         return TableVerdict::SinglePlace;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/tables/CellText.h"
 #include "layout/tables/TableGrid.h"
+#include "layout/tables/TableParameters.h"
 #include "layout/tables/TableVerdict.h"
 #include "layout/text/PageText.h"
 
@@ -15,6 +15,6 @@ struct GridEvidence {
 
 /// Judges a grid drawn with rules.
 TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const CellText& text,
-                             const GridEvidence& evidence, const LayoutParameters::Tables& parameters);
+                             const GridEvidence& evidence, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

@@ -6,7 +6,7 @@
 namespace orvane::layout {
 
 std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
-                                      const LayoutParameters::Tables& parameters) {
+                                      const TableParameters::Tables& parameters) {
     std::vector<TableGrid> grids;
     for (const LineGroup& group : groupCrossingLines(lines, parameters)) {
         const auto lattice = buildLattice(lines, group, parameters);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/tables/BorderLines.h"
 #include "layout/tables/TableGrid.h"
+#include "layout/tables/TableParameters.h"
 #include "layout/text/PageText.h"
 
 #include <vector>
@@ -11,6 +11,6 @@ namespace orvane::layout {
 
 /// The grids on a page that its rules draw and that are tables.
 std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
-                                      const LayoutParameters::Tables& parameters);
+                                      const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

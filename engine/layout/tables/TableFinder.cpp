@@ -27,7 +27,7 @@ std::vector<TableDraft> takeNested(std::vector<TableDraft>& found, const TableGr
 
 std::vector<TableDraft> findTables(PageText& page, const DocumentContext& context, const LayoutParameters& parameters,
                                    Diagnostics&) {
-    const LayoutParameters::Tables& limits = parameters.tables;
+    const TableParameters::Tables& limits = parameters.tables;
     const ParagraphContext around{context.bodyFontSize, context.bodyLeading, page.fonts};
     std::vector<TableDraft> tables;
     const auto take = [&](std::vector<TableGrid> grids, const std::vector<BorderLine>& lines, TableEdges edges) {

@@ -63,7 +63,7 @@ int countLeading(const std::vector<RowLook>& looks, const Predicate& isHead) {
 /// The leading rows that have the mark, if they stand out: few, and few of the others have it too.
 template<typename Predicate>
 int leadingThatStandOut(const std::vector<RowLook>& looks, const Predicate& hasMark,
-                        const LayoutParameters::Tables& parameters) {
+                        const TableParameters::Tables& parameters) {
     const int leading = countLeading(looks, hasMark);
     const auto all = static_cast<int>(std::count_if(looks.begin(), looks.end(), hasMark));
     const int others = static_cast<int>(looks.size()) - leading;
@@ -74,7 +74,7 @@ int leadingThatStandOut(const std::vector<RowLook>& looks, const Predicate& hasM
 
 } // namespace
 
-int countHeaderRows(const TableDraft& table, const LayoutParameters::Tables& parameters) {
+int countHeaderRows(const TableDraft& table, const TableParameters::Tables& parameters) {
     if (table.rowEdges.size() < 3)
         return 0;
     const std::vector<RowLook> looks = looksOf(table);

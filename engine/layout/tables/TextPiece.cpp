@@ -13,7 +13,7 @@ double gapBetween(const Rect& word, const Rect& next) {
 
 /// The widest gap that may be a blank. The narrowest one of the line tells how far its blanks were stretched to fill
 /// it.
-double widestBlank(const Line& line, const LayoutParameters::Tables& parameters) {
+double widestBlank(const Line& line, const TableParameters::Tables& parameters) {
     double narrowest = 1e9;
     for (std::size_t i = 1; i < line.words.size(); ++i)
         if (line.words[i].gapBefore == Gap::Space)
@@ -33,7 +33,7 @@ void addTo(PieceRow& row, TextPiece piece) {
     row.pieces.push_back(std::move(piece));
 }
 
-bool standsBeside(const PieceRow& row, const TextPiece& piece, const LayoutParameters::Tables& parameters) {
+bool standsBeside(const PieceRow& row, const TextPiece& piece, const TableParameters::Tables& parameters) {
     if (piece.baseline - row.lastBaseline <= parameters.rowSnap * piece.fontSize)
         return true;
     bool hasNeighbour = false;
@@ -58,7 +58,7 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
     return piece;
 }
 
-std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const LayoutParameters::Tables& parameters) {
+std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     std::vector<TextPiece> pieces;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const Line& line = lines[i];
@@ -77,7 +77,7 @@ std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const Layou
     return pieces;
 }
 
-std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const LayoutParameters::Tables& parameters) {
+std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const TableParameters::Tables& parameters) {
     std::stable_sort(pieces.begin(), pieces.end(),
                      [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
     std::vector<PieceRow> rows;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
+#include "layout/tables/TableParameters.h"
 #include "layout/text/PageText.h"
 
 #include <span>
@@ -30,11 +30,11 @@ struct PieceRow {
 };
 
 /// Cuts upright lines at their wide gaps.
-std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const LayoutParameters::Tables& parameters);
+std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters);
 
 /// Puts pieces side by side whose baselines agree, or whose boxes do so much overlap that one stands beside the middle
 /// of two others; the rows come top to bottom.
-std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const LayoutParameters::Tables& parameters);
+std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const TableParameters::Tables& parameters);
 
 /// Words [first, end) of a line as a piece.
 TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end);

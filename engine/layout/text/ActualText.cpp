@@ -74,7 +74,7 @@ void replace(const std::u32string& text, const std::vector<Cluster*>& members) {
 } // namespace
 
 void applyActualTexts(std::vector<Cluster>& clusters, const std::vector<pdf::Mark>& marks,
-                      const LayoutParameters& parameters, Diagnostics&) {
+                      const TextParameters& parameters, Diagnostics&) {
     std::map<int, std::vector<Cluster*>> membersOfMark;
     for (Cluster& cluster : clusters)
         if (const int mark = speakingMark(marks, cluster.mark); mark >= 0)

@@ -22,7 +22,7 @@ double roundedTo(double value, double step) {
 }
 
 Look lookOf(const pdf::Font& font, const pdf::Glyph& glyph, const SelectedGlyph& selected,
-            const LayoutParameters::Clusters& limits) {
+            const TextParameters::Clusters& limits) {
     Look look;
     look.font = glyph.font;
     look.size = roundedTo(glyph.fontSize, limits.sizeStep);
@@ -68,7 +68,7 @@ std::u32string textOf(const pdf::Glyph& glyph, const pdf::Font& font) {
 }
 
 Cluster makeCluster(const pdf::PageContent& page, const SelectedGlyph& selected, std::uint32_t frameIndex,
-                    const TextFrame& frame, const LayoutParameters::Clusters& limits) {
+                    const TextFrame& frame, const TextParameters::Clusters& limits) {
     const pdf::Glyph& glyph = page.glyphs[selected.index];
     const pdf::Font& font = fontOf(page, glyph);
     Cluster cluster;
@@ -91,7 +91,7 @@ double depthInside(const Cluster& base, const Cluster& mark) {
     return std::min(position - base.start, base.end - position);
 }
 
-bool canCarry(const Cluster& base, const Cluster& mark, const LayoutParameters::Clusters& limits) {
+bool canCarry(const Cluster& base, const Cluster& mark, const TextParameters::Clusters& limits) {
     return base.frame == mark.frame && !base.text.empty() && !isBlank(base.text) && !isMarkOnly(base.text) &&
            std::abs(base.baseline - mark.baseline) <= limits.markRise * base.size &&
            depthInside(base, mark) >= -limits.markReach * base.size;
@@ -100,7 +100,7 @@ bool canCarry(const Cluster& base, const Cluster& mark, const LayoutParameters::
 /// Joins marks to the letter before or after them in paint order, whichever they stand on.
 class MarkJoiner {
 public:
-    MarkJoiner(std::vector<Cluster>& clusters, const LayoutParameters::Clusters& limits)
+    MarkJoiner(std::vector<Cluster>& clusters, const TextParameters::Clusters& limits)
         : m_clusters(clusters)
         , m_limits(limits) {}
 
@@ -179,7 +179,7 @@ private:
     }
 
     std::vector<Cluster>& m_clusters;
-    const LayoutParameters::Clusters& m_limits;
+    const TextParameters::Clusters& m_limits;
 };
 
 /// A glyph that the file does not tell the character of, or only by an encoding of signs.
@@ -194,7 +194,7 @@ bool isUnknown(const Cluster& cluster, const pdf::PageContent& page) {
 /// Unknown glyphs between Arabic letters that touch them are the strokes by which a line was stretched: they say
 /// nothing.
 void dropStretching(std::vector<Cluster>& clusters, const pdf::PageContent& page,
-                    const LayoutParameters::Clusters& limits) {
+                    const TextParameters::Clusters& limits) {
     const auto isJoined = [&](const Cluster& left, const Cluster& right) {
         return left.frame == right.frame && std::abs(left.baseline - right.baseline) <= limits.touch * left.size &&
                std::max(right.start - left.end, left.start - right.end) <= limits.touch * left.size;
@@ -228,7 +228,7 @@ void flattenShapeless(std::vector<Cluster>& clusters) {
 } // namespace
 
 std::vector<Cluster> buildClusters(const pdf::PageContent& page, const GlyphSelection& selection,
-                                   const FrameSelection& frames, const LayoutParameters& parameters,
+                                   const FrameSelection& frames, const TextParameters& parameters,
                                    Diagnostics& diagnostics) {
     std::vector<Cluster> clusters;
     clusters.reserve(selection.glyphs.size());

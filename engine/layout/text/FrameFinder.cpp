@@ -33,8 +33,8 @@ double median(std::vector<double>& values) {
 } // namespace
 
 FrameSelection findFrames(const pdf::PageContent& page, const GlyphSelection& selection,
-                          const LayoutParameters& parameters, Diagnostics&) {
-    const LayoutParameters::Frames& limits = parameters.frames;
+                          const TextParameters& parameters, Diagnostics&) {
+    const TextParameters::Frames& limits = parameters.frames;
     FrameSelection result;
     std::map<std::pair<bool, double>, std::uint32_t> known;
     std::vector<std::vector<double>> skews;

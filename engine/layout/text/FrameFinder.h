@@ -14,6 +14,6 @@ struct FrameSelection {
 /// Groups glyphs by the direction of their baselines. Directions close to level or plumb are taken as such, with one
 /// common skew.
 FrameSelection findFrames(const pdf::PageContent& page, const GlyphSelection& selection,
-                          const LayoutParameters& parameters, Diagnostics& diagnostics);
+                          const TextParameters& parameters, Diagnostics& diagnostics);
 
 } // namespace orvane::layout

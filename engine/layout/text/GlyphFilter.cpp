@@ -19,7 +19,7 @@ bool saysTheSame(const pdf::Glyph& a, const pdf::Glyph& b) {
 /// Finds glyphs that were painted before at nearly the same place.
 class DuplicateFinder {
 public:
-    explicit DuplicateFinder(const LayoutParameters::Glyphs& limits)
+    explicit DuplicateFinder(const TextParameters::Glyphs& limits)
         : m_limits(limits) {}
 
     /// The earlier selected glyph that `glyph` repeats, as an index into the selection; -1 for none.
@@ -62,11 +62,11 @@ private:
 
     static constexpr double kCell = 8; ///< points; reach is kept below it, so four cells are enough to look into
 
-    const LayoutParameters::Glyphs& m_limits;
+    const TextParameters::Glyphs& m_limits;
     std::unordered_multimap<std::size_t, std::size_t> m_cells;
 };
 
-CoverageGrid coverByPictures(const pdf::PageContent& page, const LayoutParameters::Glyphs& limits) {
+CoverageGrid coverByPictures(const pdf::PageContent& page, const TextParameters::Glyphs& limits) {
     CoverageGrid grid(page.width, page.height, limits.coverCell);
     for (const pdf::Picture& picture : page.pictures) {
         const Rect seen = picture.box.intersected(picture.clip);
@@ -76,7 +76,7 @@ CoverageGrid coverByPictures(const pdf::PageContent& page, const LayoutParameter
     return grid;
 }
 
-CoverageGrid coverByVisibleText(const pdf::PageContent& page, const LayoutParameters::Glyphs& limits) {
+CoverageGrid coverByVisibleText(const pdf::PageContent& page, const TextParameters::Glyphs& limits) {
     CoverageGrid grid(page.width, page.height, limits.coverCell);
     for (const pdf::Glyph& glyph : page.glyphs)
         if (glyph.visibility == Visibility::Visible)
@@ -86,7 +86,7 @@ CoverageGrid coverByVisibleText(const pdf::PageContent& page, const LayoutParame
 
 /// Two paintings of one glyph: what the second one tells about the first.
 void mergeDuplicate(const pdf::PageContent& page, SelectedGlyph& kept, std::uint32_t later,
-                    const LayoutParameters::Glyphs& limits) {
+                    const TextParameters::Glyphs& limits) {
     const pdf::Glyph& first = page.glyphs[kept.index];
     const pdf::Glyph& second = page.glyphs[later];
     const double distance = std::hypot(first.origin.x - second.origin.x, first.origin.y - second.origin.y);
@@ -99,15 +99,15 @@ void mergeDuplicate(const pdf::PageContent& page, SelectedGlyph& kept, std::uint
         kept.index = later;
 }
 
-bool isWorthReading(const pdf::Glyph& glyph, const LayoutParameters::Glyphs& limits) {
+bool isWorthReading(const pdf::Glyph& glyph, const TextParameters::Glyphs& limits) {
     return glyph.fontSize >= limits.minimumSize && std::isfinite(glyph.origin.x) && std::isfinite(glyph.origin.y) &&
            std::isfinite(glyph.advance);
 }
 
 } // namespace
 
-GlyphSelection filterGlyphs(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics&) {
-    const LayoutParameters::Glyphs& limits = parameters.glyphs;
+GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& parameters, Diagnostics&) {
+    const TextParameters::Glyphs& limits = parameters.glyphs;
     const CoverageGrid pictures = coverByPictures(page, limits);
     const CoverageGrid visibleText = coverByVisibleText(page, limits);
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Diagnostic.h"
-#include "layout/LayoutParameters.h"
+#include "layout/text/TextParameters.h"
 #include "pdf/PageContent.h"
 
 #include <cstdint>
@@ -25,6 +25,6 @@ struct GlyphSelection {
 /// Chooses what takes part in the text: visible glyphs, and invisible ones where a picture covers them and nothing
 /// visible was written in their place. Glyphs painted again at nearly the same place (shadows, bold by painting) count
 /// once.
-GlyphSelection filterGlyphs(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics);
+GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& parameters, Diagnostics& diagnostics);
 
 } // namespace orvane::layout

@@ -26,7 +26,7 @@ double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t
 
 GutterFinder::GutterFinder(const std::vector<TextRow>& rows, const std::vector<TextFrame>& frames,
                            const std::vector<Rule>& rules, const std::vector<Ground>& grounds,
-                           const LayoutParameters& parameters)
+                           const TextParameters& parameters)
     : m_rows(rows)
     , m_limits(parameters.gutters)
     , m_wallsOfFrame(frames.size()) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/text/TextDraft.h"
+#include "layout/text/TextParameters.h"
 
 #include <vector>
 
@@ -25,7 +25,7 @@ class GutterFinder {
 public:
     /// Requires: `rows` are sorted by frame and baseline, and outlive this.
     GutterFinder(const std::vector<TextRow>& rows, const std::vector<TextFrame>& frames, const std::vector<Rule>& rules,
-                 const std::vector<Ground>& grounds, const LayoutParameters& parameters);
+                 const std::vector<Ground>& grounds, const TextParameters& parameters);
 
     const std::vector<RowRun>& runsOf(std::size_t row) const { return m_runs[row]; }
     /// Whether the gap before run `run` of row `row` is a gutter.
@@ -50,7 +50,7 @@ private:
                 int& rightOnly) const;
 
     const std::vector<TextRow>& m_rows;
-    const LayoutParameters::Gutters& m_limits;
+    const TextParameters::Gutters& m_limits;
     std::vector<std::vector<RowRun>> m_runs;
     std::vector<std::vector<Wall>> m_wallsOfFrame; ///< sorted by position
 };

@@ -44,7 +44,7 @@ struct Run {
     std::size_t dots = 0; ///< an ellipsis counts three
 };
 
-Run runAt(const std::vector<Cluster>& clusters, std::size_t first, const LayoutParameters::Leaders& limits) {
+Run runAt(const std::vector<Cluster>& clusters, std::size_t first, const TextParameters::Leaders& limits) {
     const TabLeader leader = leaderOf(clusters[first]);
     Run run{first, first, 0};
     for (std::size_t i = first; i < clusters.size() && leaderOf(clusters[i]) == leader; ++i) {
@@ -60,7 +60,7 @@ Run runAt(const std::vector<Cluster>& clusters, std::size_t first, const LayoutP
 /// Characters from `begin` on, up to a wide gap. With a second run of the same character in between, more than any
 /// target has.
 template<typename Iterator>
-std::size_t charactersUpToGap(Iterator begin, Iterator end, char32_t leader, const LayoutParameters::Leaders& limits) {
+std::size_t charactersUpToGap(Iterator begin, Iterator end, char32_t leader, const TextParameters::Leaders& limits) {
     std::size_t characters = 0;
     for (auto cluster = begin; cluster != end; ++cluster) {
         if (cluster != begin && std::max(cluster->start - std::prev(cluster)->end,
@@ -76,7 +76,7 @@ std::size_t charactersUpToGap(Iterator begin, Iterator end, char32_t leader, con
 
 /// A run is a leader when little follows it, and that ends the row or stands well apart from what comes next. In a
 /// right-to-left row what follows stands to the left.
-bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, const LayoutParameters::Leaders& limits) {
+bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
     const bool isRightToLeft = std::any_of(clusters.begin(), clusters.end(), [](const Cluster& cluster) {
         return isRightToLeftLetter(cluster.text.front());
     });
@@ -90,8 +90,8 @@ bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, cons
 
 } // namespace
 
-void findLeaders(TextRow& row, const LayoutParameters& parameters) {
-    const LayoutParameters::Leaders& limits = parameters.leaders;
+void findLeaders(TextRow& row, const TextParameters& parameters) {
+    const TextParameters::Leaders& limits = parameters.leaders;
     std::vector<Cluster>& clusters = row.clusters;
     std::vector<bool> isGone(clusters.size(), false);
     for (std::size_t i = 0; i < clusters.size();) {

@@ -47,7 +47,7 @@ TextRow lineOf(TextRow& row, std::size_t first, std::size_t last) {
 
 std::vector<TextRow> buildLines(std::vector<TextRow> rows, const std::vector<TextFrame>& frames,
                                 const std::vector<Rule>& rules, const std::vector<Ground>& grounds,
-                                const LayoutParameters& parameters, Diagnostics&) {
+                                const TextParameters& parameters, Diagnostics&) {
     sortByBaseline(rows);
     for (TextRow& row : rows)
         findLeaders(row, parameters);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Diagnostic.h"
-#include "layout/LayoutParameters.h"
 #include "layout/text/TextDraft.h"
+#include "layout/text/TextParameters.h"
 
 namespace orvane::layout {
 
@@ -11,6 +11,6 @@ namespace orvane::layout {
 /// `rules` and `grounds` are those of the page.
 std::vector<TextRow> buildLines(std::vector<TextRow> rows, const std::vector<TextFrame>& frames,
                                 const std::vector<Rule>& rules, const std::vector<Ground>& grounds,
-                                const LayoutParameters& parameters, Diagnostics& diagnostics);
+                                const TextParameters& parameters, Diagnostics& diagnostics);
 
 } // namespace orvane::layout

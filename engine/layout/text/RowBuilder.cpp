@@ -51,7 +51,7 @@ struct PlacedCluster {
 /// their own.
 class RowAssembler {
 public:
-    RowAssembler(const LayoutParameters::Rows& limits, std::vector<TextRow>& rows)
+    RowAssembler(const TextParameters::Rows& limits, std::vector<TextRow>& rows)
         : m_limits(limits)
         , m_rows(rows) {}
 
@@ -143,14 +143,14 @@ private:
         0.2; ///< of its width; the word after a blank may begin before the blank's end
     static constexpr double kScriptTouch = 0.1; ///< of the font size; scripts that only touch follow each other
 
-    const LayoutParameters::Rows& m_limits;
+    const TextParameters::Rows& m_limits;
     std::vector<TextRow>& m_rows;
 };
 
 } // namespace
 
-std::vector<TextRow> buildRows(std::vector<Cluster> clusters, const LayoutParameters& parameters, Diagnostics&) {
-    const LayoutParameters::Rows& limits = parameters.rows;
+std::vector<TextRow> buildRows(std::vector<Cluster> clusters, const TextParameters& parameters, Diagnostics&) {
+    const TextParameters::Rows& limits = parameters.rows;
     std::vector<TextStrip> strips = cutStrips(std::move(clusters), parameters);
     sortByBaseline(strips);
     joinScripts(strips, parameters);

@@ -19,7 +19,7 @@ struct Host {
 
 /// How `script` would stand at `host` by its height alone; nothing when it is no script of it.
 std::optional<VerticalPosition> positionAt(const TextStrip& script, const TextStrip& host,
-                                           const LayoutParameters::Scripts& limits) {
+                                           const TextParameters::Scripts& limits) {
     const double ratio = script.size / host.size;
     if (ratio < limits.smallestRatio || ratio > limits.largestRatio)
         return std::nullopt;
@@ -36,7 +36,7 @@ double gapBetween(const TextStrip& a, const TextStrip& b) {
     return std::max(a.start, b.start) - std::min(a.end, b.end);
 }
 
-bool standsAt(const TextStrip& script, const TextStrip& host, const LayoutParameters::Scripts& limits) {
+bool standsAt(const TextStrip& script, const TextStrip& host, const TextParameters::Scripts& limits) {
     const double gap = gapBetween(script, host);
     const double reach = script.start >= host.start ? limits.reachAfter : limits.reachBefore;
     return gap <= reach * host.size && gap >= -limits.overlap * host.size;
@@ -57,7 +57,7 @@ void visitNear(const std::vector<TextStrip>& strips, std::size_t i, double reach
 }
 
 std::optional<Host> findHost(const std::vector<TextStrip>& strips, std::size_t i,
-                             const LayoutParameters::Scripts& limits) {
+                             const TextParameters::Scripts& limits) {
     const TextStrip& script = strips[i];
     std::optional<Host> best;
     if (script.isBlank() || script.inkCount > limits.longestScript)
@@ -76,7 +76,7 @@ std::optional<Host> findHost(const std::vector<TextStrip>& strips, std::size_t i
 }
 
 /// A single large letter whose baseline is that of a later line and whose top is that of the first one.
-bool isDropCap(const TextStrip& cap, const TextStrip& firstLine, const LayoutParameters::Scripts& limits) {
+bool isDropCap(const TextStrip& cap, const TextStrip& firstLine, const TextParameters::Scripts& limits) {
     const double depth = cap.baseline - firstLine.baseline;
     const double gap = firstLine.start - cap.end;
     const double capTop = cap.baseline - limits.capitalHeight * cap.size;
@@ -88,7 +88,7 @@ bool isDropCap(const TextStrip& cap, const TextStrip& firstLine, const LayoutPar
 }
 
 /// Moves drop caps to the first line they stand at.
-void joinDropCaps(std::vector<TextStrip>& strips, const LayoutParameters::Scripts& limits) {
+void joinDropCaps(std::vector<TextStrip>& strips, const TextParameters::Scripts& limits) {
     std::vector<std::pair<std::size_t, std::size_t>> found;
     for (std::size_t i = 0; i < strips.size(); ++i) {
         const TextStrip& cap = strips[i];
@@ -116,8 +116,8 @@ void joinDropCaps(std::vector<TextStrip>& strips, const LayoutParameters::Script
 
 } // namespace
 
-void joinScripts(std::vector<TextStrip>& strips, const LayoutParameters& parameters) {
-    const LayoutParameters::Scripts& limits = parameters.scripts;
+void joinScripts(std::vector<TextStrip>& strips, const TextParameters& parameters) {
+    const TextParameters::Scripts& limits = parameters.scripts;
     // Hosts are looked for before anything moves, so that the order of the strips holds meanwhile.
     std::vector<std::optional<Host>> hosts(strips.size());
     for (std::size_t i = 0; i < strips.size(); ++i)

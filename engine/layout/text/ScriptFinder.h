@@ -8,6 +8,6 @@ namespace orvane::layout {
 /// clusters take Look::verticalPosition, the host's size as Look::size and the host's baseline. Drop caps are found on
 /// the way: their strip takes the baseline of its first line. Requires: `strips` are sorted by frame and baseline; they
 /// are no longer afterwards.
-void joinScripts(std::vector<TextStrip>& strips, const LayoutParameters& parameters);
+void joinScripts(std::vector<TextStrip>& strips, const TextParameters& parameters);
 
 } // namespace orvane::layout

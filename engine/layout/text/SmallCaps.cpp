@@ -18,7 +18,7 @@ struct Sizes {
 };
 
 /// Looks for a word that begins with a capital and goes on in smaller ones.
-Sizes findSizes(const std::vector<Cluster>& clusters, const LayoutParameters::SmallCaps& limits) {
+Sizes findSizes(const std::vector<Cluster>& clusters, const TextParameters::SmallCaps& limits) {
     for (std::size_t i = 1; i < clusters.size(); ++i) {
         const Cluster& capital = clusters[i - 1];
         const Cluster& small = clusters[i];
@@ -36,8 +36,8 @@ Sizes findSizes(const std::vector<Cluster>& clusters, const LayoutParameters::Sm
 
 } // namespace
 
-void findSmallCaps(TextRow& line, const LayoutParameters& parameters) {
-    const LayoutParameters::SmallCaps& limits = parameters.smallCaps;
+void findSmallCaps(TextRow& line, const TextParameters& parameters) {
+    const TextParameters::SmallCaps& limits = parameters.smallCaps;
     std::vector<Cluster>& clusters = line.clusters;
     const Sizes sizes = findSizes(clusters, limits);
     if (sizes.capital == 0)

@@ -17,7 +17,7 @@ constexpr char32_t kSoftHyphen = 0xAD;
 /// Collects clusters of one look into a span.
 class SpanCollector {
 public:
-    SpanCollector(const TextFrame& frame, const LayoutParameters::Spans& limits)
+    SpanCollector(const TextFrame& frame, const TextParameters::Spans& limits)
         : m_frame(&frame)
         , m_limits(&limits) {}
 
@@ -69,7 +69,7 @@ private:
     static constexpr double kHairline = 0.01;
 
     const TextFrame* m_frame; // pointers, so that a collector can be assigned
-    const LayoutParameters::Spans* m_limits;
+    const TextParameters::Spans* m_limits;
     std::u32string m_text;
     Look m_look;
     Rect m_box;
@@ -92,7 +92,7 @@ void settleHyphens(std::vector<Cluster>& clusters) {
 }
 
 /// Words of the clusters, which are in logical order.
-std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, const LayoutParameters::Spans& limits) {
+std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, const TextParameters::Spans& limits) {
     std::vector<Word> words;
     SpanCollector collector(frame, limits);
     std::size_t rightToLeft = 0, count = 0;
@@ -125,7 +125,7 @@ std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, co
 }
 
 Line lineOf(TextRow row, const TextFrame& frame, const pdf::PageContent& page, const DirectionCount& directions,
-            const LayoutParameters::Spans& limits) {
+            const TextParameters::Spans& limits) {
     Line line;
     line.fontSize = row.fontSize;
     line.angle = frame.angle;
@@ -149,7 +149,7 @@ Line lineOf(TextRow row, const TextFrame& frame, const pdf::PageContent& page, c
 } // namespace
 
 std::vector<Line> finishLines(std::vector<TextRow> rows, const std::vector<TextFrame>& frames,
-                              const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics&) {
+                              const pdf::PageContent& page, const TextParameters& parameters, Diagnostics&) {
     DirectionCount directions;
     for (const TextRow& row : rows)
         directions.add(row.clusters);

@@ -11,7 +11,7 @@ namespace {
 using document::BorderKind;
 using document::UnderlineKind;
 
-UnderlineKind underlineOf(const Rule& rule, double size, const LayoutParameters::Decoration& limits) {
+UnderlineKind underlineOf(const Rule& rule, double size, const TextParameters::Decoration& limits) {
     switch (rule.kind) {
     case BorderKind::Double:
         return UnderlineKind::Double;
@@ -41,7 +41,7 @@ struct Stretch {
 class Decorator {
 public:
     Decorator(const std::vector<TextFrame>& frames, std::vector<Rule>& rules, std::vector<Ground>& grounds,
-              const std::vector<pdf::Link>& links, const LayoutParameters::Decoration& limits)
+              const std::vector<pdf::Link>& links, const TextParameters::Decoration& limits)
         : m_frames(frames)
         , m_rules(rules)
         , m_grounds(grounds)
@@ -151,7 +151,7 @@ private:
     std::vector<Rule>& m_rules;
     std::vector<Ground>& m_grounds;
     const std::vector<pdf::Link>& m_links;
-    const LayoutParameters::Decoration& m_limits;
+    const TextParameters::Decoration& m_limits;
     BoxIndex m_ruleIndex;
     BoxIndex m_groundIndex;
     BoxIndex m_linkIndex;
@@ -160,7 +160,7 @@ private:
 } // namespace
 
 void decorateText(std::vector<TextRow>& lines, const std::vector<TextFrame>& frames, std::vector<Rule>& rules,
-                  std::vector<Ground>& grounds, const std::vector<pdf::Link>& links, const LayoutParameters& parameters,
+                  std::vector<Ground>& grounds, const std::vector<pdf::Link>& links, const TextParameters& parameters,
                   Diagnostics&) {
     Decorator decorator(frames, rules, grounds, links, parameters.decoration);
     for (TextRow& line : lines)

@@ -8,7 +8,7 @@
 namespace orvane::layout {
 namespace {
 
-bool continues(const TextStrip& strip, const Cluster& next, const LayoutParameters::Rows& limits) {
+bool continues(const TextStrip& strip, const Cluster& next, const TextParameters::Rows& limits) {
     const Cluster& last = strip.clusters.back();
     const double size = std::min(last.size, next.size);
     const double gap = next.start - last.end;
@@ -41,7 +41,7 @@ TextStrip stripOf(Cluster cluster) {
 
 } // namespace
 
-std::vector<TextStrip> cutStrips(std::vector<Cluster> clusters, const LayoutParameters& parameters) {
+std::vector<TextStrip> cutStrips(std::vector<Cluster> clusters, const TextParameters& parameters) {
     std::vector<TextStrip> strips;
     for (Cluster& cluster : clusters) {
         if (!strips.empty() && continues(strips.back(), cluster, parameters.rows))

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layout/LayoutParameters.h"
 #include "layout/text/TextDraft.h"
+#include "layout/text/TextParameters.h"
 
 namespace orvane::layout {
 
@@ -21,6 +21,6 @@ struct TextStrip {
 };
 
 /// Cuts the clusters, which come in paint order, into strips.
-std::vector<TextStrip> cutStrips(std::vector<Cluster> clusters, const LayoutParameters& parameters);
+std::vector<TextStrip> cutStrips(std::vector<Cluster> clusters, const TextParameters& parameters);
 
 } // namespace orvane::layout

@@ -62,7 +62,7 @@ double quantile(std::vector<double>& values, double share) {
 /// Decides over the gaps of one stretch of a row, in which letters are spaced alike.
 class Stretch {
 public:
-    Stretch(std::vector<Cluster>& clusters, std::size_t first, std::size_t last, const LayoutParameters::Words& limits)
+    Stretch(std::vector<Cluster>& clusters, std::size_t first, std::size_t last, const TextParameters::Words& limits)
         : m_clusters(clusters)
         , m_first(first)
         , m_last(last)
@@ -144,13 +144,13 @@ private:
     std::vector<Cluster>& m_clusters;
     std::size_t m_first;
     std::size_t m_last;
-    const LayoutParameters::Words& m_limits;
+    const TextParameters::Words& m_limits;
     bool m_hasBlanks = false;
 };
 
 /// East Asian text stands closer to its label than its characters to those of other scripts; the label is a word still,
 /// unless it ends in a digit, which has that little gap behind it anyway.
-void partLabel(std::vector<Cluster>& clusters, const LayoutParameters::Words& limits) {
+void partLabel(std::vector<Cluster>& clusters, const TextParameters::Words& limits) {
     std::u32string label;
     for (std::size_t i = 0; i + 1 < clusters.size() && label.size() < limits.longestLabel; ++i) {
         label += clusters[i].text;
@@ -165,7 +165,7 @@ void partLabel(std::vector<Cluster>& clusters, const LayoutParameters::Words& li
     }
 }
 
-void findGapsOf(TextRow& row, const LayoutParameters::Words& limits) {
+void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
     std::vector<Cluster>& clusters = row.clusters;
     const double rowLetterGap = Stretch(clusters, 0, clusters.size(), limits).findLetterGap().value_or(0);
     std::size_t first = 0;
@@ -190,7 +190,7 @@ void findGapsOf(TextRow& row, const LayoutParameters::Words& limits) {
 
 } // namespace
 
-std::vector<TextRow> findWordGaps(std::vector<TextRow> rows, const LayoutParameters& parameters, Diagnostics&) {
+std::vector<TextRow> findWordGaps(std::vector<TextRow> rows, const TextParameters& parameters, Diagnostics&) {
     for (TextRow& row : rows) {
         takeOutBlanks(row);
         if (!row.clusters.empty())

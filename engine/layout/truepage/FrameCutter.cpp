@@ -24,7 +24,7 @@ double startOf(const Rect& box, bool isRightToLeft) {
 /// Cuts lines of one paragraph where text behind a tabulator has a place of its own.
 class TabCutter {
 public:
-    TabCutter(const std::vector<Line>& lines, const LayoutParameters::TruePage& parameters)
+    TabCutter(const std::vector<Line>& lines, const TruePageParameters::TruePage& parameters)
         : m_parameters(parameters) {
         for (const Line& line : lines)
             m_starts.push_back(startOf(line.box, line.isRightToLeft));
@@ -60,14 +60,14 @@ private:
                            [&](double other) { return std::abs(other - start) <= m_parameters.edgeTolerance; });
     }
 
-    const LayoutParameters::TruePage& m_parameters;
+    const TruePageParameters::TruePage& m_parameters;
     std::vector<double> m_starts;
 };
 
 /// Lines one below the other that one paragraph can hold, and what it would have to be like.
 class LineGroup {
 public:
-    LineGroup(Line line, const LayoutParameters::TruePage& parameters)
+    LineGroup(Line line, const TruePageParameters::TruePage& parameters)
         : m_parameters(parameters) {
         m_isOpen = isFlat(line);
         m_lines.push_back(std::move(line));
@@ -158,7 +158,7 @@ private:
                            [this](const Line& line) { return isSame(endOf(line), endOf(m_lines.front())); });
     }
 
-    const LayoutParameters::TruePage& m_parameters;
+    const TruePageParameters::TruePage& m_parameters;
     std::vector<Line> m_lines;
     Sides m_sides;
     double m_pitch = 0;
@@ -166,7 +166,7 @@ private:
 };
 
 /// Groups the lines of one paragraph, the newest group first: a label before a tabulator stays alone.
-std::vector<ParagraphDraft> cutParagraph(ParagraphDraft paragraph, const LayoutParameters::TruePage& parameters) {
+std::vector<ParagraphDraft> cutParagraph(ParagraphDraft paragraph, const TruePageParameters::TruePage& parameters) {
     const TabCutter cutter(paragraph.lines, parameters);
     std::vector<LineGroup> groups;
     for (Line& line : paragraph.lines)
@@ -183,7 +183,7 @@ std::vector<ParagraphDraft> cutParagraph(ParagraphDraft paragraph, const LayoutP
     return cut;
 }
 
-void addFrames(std::vector<DraftBlock> blocks, const LayoutParameters::TruePage& parameters,
+void addFrames(std::vector<DraftBlock> blocks, const TruePageParameters::TruePage& parameters,
                std::vector<DraftBlock>& frames) {
     for (DraftBlock& block : blocks) {
         if (auto* table = std::get_if<DraftTable>(&block.value)) {
@@ -206,7 +206,7 @@ void addFrames(std::vector<DraftBlock> blocks, const LayoutParameters::TruePage&
 
 } // namespace
 
-std::vector<DraftBlock> cutIntoFrames(std::vector<DraftBlock> blocks, const LayoutParameters::TruePage& parameters) {
+std::vector<DraftBlock> cutIntoFrames(std::vector<DraftBlock> blocks, const TruePageParameters::TruePage& parameters) {
     std::vector<DraftBlock> frames;
     addFrames(std::move(blocks), parameters, frames);
     return frames;

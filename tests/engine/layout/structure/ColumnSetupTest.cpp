@@ -6,7 +6,7 @@ namespace orvane::layout {
 namespace {
 
 const Rect kArea{72, 72, 523, 770};
-const LayoutParameters::PageSetup kLimits;
+const StructureParameters::PageSetup kLimits;
 
 TEST(ColumnSetup, FindsColumnsOfEqualWidth) {
     // Ragged lines end before the edges of columns of 213.5 points with 24 between them.

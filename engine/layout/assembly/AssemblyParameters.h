@@ -1,0 +1,51 @@
+#pragma once
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `assembly`: what is written into the document. A field says its unit, its meaning and what
+/// taught its value.
+struct AssemblyParameters {
+    /// TextAssembler: from spans to runs.
+    struct Text {
+        double naturalScale = 0.02; ///< of the natural width; glyphs stretched by less are taken as natural
+    } text;
+
+    /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
+    struct Spacing {
+        double lowestMultiple = 0.7;      ///< line spacing below this is an exact height
+        double highestMultiple = 3.5;     ///< likewise above
+        double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
+        double smallestIndent = 1.0;      ///< points; less is noise
+        double sameGap = 0.6;             ///< points; gaps between paragraphs that differ by less are one
+        double largestGap = 250.0; ///< points; what is more is an empty part of the page, not space after a paragraph
+        double usualShare = 0.25;  ///< of the gaps behind a style's paragraphs that must agree to be the style's
+    } spacing;
+
+    /// TabStopFinder.
+    struct Tabs {
+        double edgeTolerance = 2.0;   ///< points; text that ends this near the column's edge was set against it
+        double centerTolerance = 2.0; ///< points; likewise for its middle
+        double sameStop = 2.0;        ///< points; stops nearer to each other are one
+    } tabs;
+
+    /// StyleMaker: what differs by less than this has the style's value.
+    struct Styles {
+        double sameIndent = 1.0;     ///< points
+        double sameMultiple = 0.016; ///< of single spacing
+        double sameHeight = 0.3;     ///< points; of lines of an exact height
+    } styles;
+
+    /// TableAssembler.
+    struct TableCells {
+        double usualMargin = 5.4;   ///< points; between a cell's side and its text, unless less is seen
+        double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
+    } tableCells;
+
+    /// FigureAssembler.
+    struct Figures {
+        double alignmentTolerance =
+            3.0; ///< points; a picture this near to the middle or edge of its column was set there
+    } figures;
+};
+
+} // namespace orvane::layout

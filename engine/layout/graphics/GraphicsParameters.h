@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `graphics`: paths and pictures. A field says its unit, its meaning and what taught its
+/// value.
+struct GraphicsParameters {
+    /// RuleFinder and RuleMerger: lines drawn on the page.
+    struct Rules {
+        double straightness = 0.5;       ///< points; how far the ends of a line may be off level
+        double thickest = 3.2;           ///< points; broader bars are grounds
+        double thinnest = 0.1;           ///< points; width given to hairlines
+        double slenderness = 2;          ///< length against width of a filled rectangle that is a rule
+        double sameLine = 0.4;           ///< points; pieces this close in position are on one line
+        double joinGap = 1.0;            ///< points; pieces this close continue each other
+        double widthChange = 0.3;        ///< points; pieces of one rule differ no more in width
+        double longestDash = 12;         ///< points; of a dash and of the gap between dashes
+        double dashEvenness = 0.25;      ///< how much dashes may differ
+        unsigned fewestDashes = 4;       ///< pieces in a row that are one dashed rule
+        double dotLength = 1.6;          ///< of the width; shorter dashes are dots
+        double doubleDistance = 3;       ///< points; between the middles of a double rule's lines
+        double doubleAgainstWidth = 1.2; ///< of the width; closer lines are one broad one
+        double shortestDouble = 6;       ///< points
+        std::size_t pairReach = 64;      ///< rules looked at for the second one of a pair
+        double coverCell = 2;            ///< points; grain at which a white rectangle is told to lie on a ground
+    } rules;
+
+    /// DrawingFinder: groups of paths that are drawings.
+    struct Drawings {
+        double gap = 5;               ///< points; shapes of one drawing lie this close
+        double smallest = 8;          ///< points; the longer side of what is worth a figure
+        double backgroundShare = 0.5; ///< of the page; larger shapes are decoration
+        double reach = 2;             ///< points; how far rules and grounds of a drawing may stick out of it
+        double growth = 12;           ///< points; axes stand this close to the curve that they measure
+        double insideShare = 0.5;     ///< of a rule's or ground's sides that must lie within
+        int growthPasses = 3;         ///< times that axes and bars are looked for around a drawing
+        double overlapShare = 0.5;    ///< of the smaller drawing; with more in common two are one
+        unsigned wordsOfProse = 8;    ///< words of a line that is no label
+        double proseShare = 0.4;      ///< of the drawing's width; shorter lines may be notes at a shape
+    } drawings;
+
+    /// FigureFinder: pictures.
+    struct Pictures {
+        double smallest = 3;           ///< points; the longer side of a picture that is no spacer
+        double leastCrop = 0.005;      ///< of a side; less is rounding
+        double tileGap = 0.75;         ///< points; strips and tiles of one picture lie this close
+        double backgroundShare = 0.85; ///< of the page
+    } pictures;
+};
+
+} // namespace orvane::layout

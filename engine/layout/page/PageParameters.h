@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `page`: columns and reading order. A field says its unit, its meaning and what taught its
+/// value.
+struct PageParameters {
+    /// ColumnGutter, RegionFinder: where columns are.
+    struct Regions {
+        double narrowGutter = 0.7; ///< of the font size; narrower gaps never part columns
+        double wideGutter = 1.5;   ///< of the font size; from here on few rows are enough to believe in it
+        int minimumRows = 3;       ///< rows on each side of a wide gutter
+        int minimumRowsNarrow = 6; ///< rows on each side of a narrow one: blanks of justified lines meet by chance
+        double minimumColumn = 8;  ///< of the font size; narrower columns are labels, not prose
+        double minimumFill = 0.55; ///< share of the column that its rows cover; less is labels and values, not prose
+        double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
+        std::size_t minimumEdgeLines = 10; ///< with fewer lines in a column each may be as wide as it
+        double edgeShare =
+            0.04; ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...
+        std::size_t edgeLines = 3;       ///< ... but never more than so many
+        double edgeReach = 1.0;          ///< of the font size; lines that end this near to each other end at one edge
+        int maximumDepth = 8;            ///< how often parts are parted again
+        std::size_t maximumStrips = 200; ///< empty strips followed at once
+    } regions;
+
+    /// ReadingOrder: where tables and figures come among the lines.
+    struct ReadingOrder {
+        double besideShare =
+            0.3; ///< of the lower of the two; a line that shares more height with a figure stands beside it
+    } readingOrder;
+};
+
+} // namespace orvane::layout

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `structure`: what paragraphs are to the whole document. A field says its unit, its meaning
+/// and what taught its value.
+struct StructureParameters {
+    /// TextEdges, PageSetup, SectionMaker: paper, margins, columns, page breaks.
+    struct PageSetup {
+        double sameSize = 1.5;          ///< points; paper sizes that differ by less are one
+        double sameEdge = 1.5;          ///< points; lines that start this near start at one edge
+        double edgeShare = 0.03;        ///< of the lines that must start at an edge for it to be the margin
+        int flushLines = 5;             ///< so many justified lines show the end edge
+        double blank = 0.25;            ///< of the font size; the blank before a word that had no room
+        double roomSlack = 0.5;         ///< points; a line may be this much longer than measured
+        double breakSlack = 1.0;        ///< points; likewise for pages
+        double tidyTolerance = 0.4;     ///< points; a margin this near to a round number is meant to be it
+        double usualMargin = 72.0;      ///< points; of pages that show none
+        double sameColumn = 12.0;       ///< points; columns of bands that differ by less are those of one section
+        double smallestColumnGap = 6.0; ///< points; between columns
+        double startRoom = 6.0; ///< points; with so much room left on the page before, a page was started by hand
+    } pageSetup;
+
+    /// HeadingFinder, HeadingStyles: headings where only their looks tell them.
+    struct Headings {
+        int maximumLines = 3;
+        int maximumLength = 160;    ///< characters
+        double lookShare = 0.85;    ///< of the characters that one look must have to be the paragraph's
+        double largerSize = 1.12;   ///< of the body text's size; from there on letters are larger
+        double wordShare = 0.12;    ///< of the document's words; a look with more is not that of headings
+        double crowdedShare = 0.34; ///< of a look's paragraphs that may be followed by another of the same look
+        double titleSize = 1.35;    ///< of the body text's size
+        int titleParagraphs = 3;    ///< more in the largest letters are no title
+    } headings;
+
+    /// ListLabel, ListGroups, ListFinder.
+    struct Lists {
+        double sameIndent = 3.0; ///< points; labels or texts that start this near to each other are of one level
+    } lists;
+
+    /// ContentsFinder: tables of contents.
+    struct Contents {
+        std::size_t fewestEntries = 3; ///< that follow each other
+        double sureShare = 0.6;        ///< of the entries that must have a leader, or name what stands elsewhere
+        double sameIndent = 3.0;       ///< points; entries that start this near to each other are of one level
+        int deepestLevel = 9;          ///< that word processors know
+    } contents;
+
+    /// NoteAreas, NoteFinder: footnotes and endnotes.
+    struct Notes {
+        double shortestRule = 0.07;   ///< of the page's width; of the rule above the notes
+        double longestRule = 0.45;    ///< likewise
+        double largestGap = 30.0;     ///< points; between the rule and the first note
+        double largestSize = 1.05;    ///< of the body text's size
+        double edgeTolerance = 12.0;  ///< points; the rule starts this near to where the text starts
+        double columnReach = 120.0;   ///< points; text this far above the rule tells the columns
+        double narrowestColumn = 0.2; ///< of the page's width
+    } notes;
+};
+
+} // namespace orvane::layout

@@ -1,0 +1,97 @@
+#pragma once
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `tables`: what is drawn as a grid, and what words set as one. A field says its unit, its
+/// meaning and what taught its value.
+struct TableParameters {
+    /// TableFinder and its stages: what is drawn as a grid, and what words set as one.
+    struct Tables {
+        // The drawn grid. Producers paint borders cell by cell, so ends and positions differ by about a border's width.
+        double joinGap = 3.0;  ///< points; rules that end this near to each other or to a crossing meet
+        double lineSnap = 3.0; ///< points; parallel rules this near have no room for text between them: one line
+        double minimumLineLength = 4.0; ///< points; shorter ones are dots, ticks, corners
+        double minimumCellSide = 5.0;   ///< points; lines that overshoot the outermost crossing line by less end there
+        double missingShare = 0.1;      ///< of a cell's side that may be undrawn for the side to count as drawn
+        double doubledShare = 0.8; ///< of its length that a line must have a second rule beside it to be a double line
+        double borderCover = 0.6;  ///< of a cell's side that rules must cover to be its border
+        int maximumPlaces = 20000; ///< rows times columns; beyond it stand maps and charts
+
+        // Words and cells.
+        double straddle = 0.5;         ///< of the font size; how far a word may reach beyond its cell sideways
+        double straddleHeight = 0.35;  ///< of the text's height; how far it may reach beyond its cell up or down
+        double straddleShare = 0.3;    ///< of a word outside the grid that must lie within for it to be straddling
+        double straddlingShare = 0.03; ///< of a table's words that may straddle
+
+        // What is no table.
+        double forcedShare = 0.15;     ///< of the cells that may come out of shapes that are no rectangles
+        double filledShare = 0.5;      ///< of the cells of some row or column that must hold text
+        double minimumRowHeight = 0.8; ///< of the font size; a lower row has no room for its text
+        double flatShare = 0.3;        ///< of the filled cells that may be lower than their text
+        double figureShare = 0.9;      ///< of a drawing's part within the table that must lie in one cell
+        double frameCellShare = 0.4;   ///< of the page; a cell larger than this ...
+        double frameWordShare = 0.7; ///< ... that holds this much of the table's words makes it a frame around the page
+
+        // Words in columns.
+        double pieceGap = 0.6;      ///< of the font size; a wider gap in a line may part two cells ...
+        double blankStretch = 2.0;  ///< ... unless the line's narrowest blank is stretched: not less than this times it
+        double widestStretch = 1.0; ///< of the font size; blanks are stretched no further
+        double textMargin = 5.4;    ///< points; what a column without rules begins before its text
+        double bulletShare = 0.8;   ///< of a column that are bullets for it to be part of the next column
+        double rowSnap = 0.3;       ///< of the font size; baselines this near stand side by side
+        double minimumColumnGap = 0.4; ///< of the font size; narrower strips between words are word spaces in line
+        int minimumRowsParted = 2;     ///< rows with words on both sides of a gap; fewer say nothing about columns
+        double crossedRowShare = 0.2;  ///< of the rows that may have a text over a gap: headings over several columns
+        double keptGapShare = 0.6;     ///< of the gaps that must remain when more rows join
+        double wrapPitch = 1.5;        ///< of the font size; lines of one text stand no farther apart
+        double samePitch = 1.1;        ///< of the smallest line distance in a table; larger ones part rows
+        double besideOverlap = 0.4;    ///< of a text's height that stands beside another for both to be in one row
+
+        double maximumRowSpace = 1.5; ///< of the font size; rows of a table stand no farther apart ...
+        double rowSpaceGrowth = 1.6;  ///< ... or no farther than this times the smallest space in the table
+
+        // Rules between rows only.
+        double ruleFill = 0.75; ///< of the rules' length that the texts between them must take up
+        double levelGap = 20.0; ///< points; rules of one height with a larger gap belong to two tables
+        double endSnap = 6.0;   ///< points; rules above each other whose ends differ by less belong together
+
+        // Words in columns that are no table.
+        double crossingPieceShare = 0.25; ///< of the pieces that may reach over a gap
+        double leaderRowShare = 0.4;      ///< of the rows that lead to a page number: contents
+        double labelShare = 0.7;          ///< of the first column that are list labels: a list
+        double keyShare = 0.6;            ///< of the first column that ends in a colon: keys and values
+        int proseLines = 4;               ///< lines; fewer are no running text
+        double proseWords = 4.0;          ///< words a line, on average
+        double narrowProseWords = 2.5;    ///< words a line where every column is full of words
+        double proseFill = 0.8;           ///< of the column's width; a longer line is full
+        double proseFullShare = 0.6;      ///< of the lines that must be full in running text
+        double proseLeading = 1.8;        ///< of the font size; lines of running text stand no farther apart
+        double proseWidth = 12.0;         ///< of the font size; narrower texts are no running text
+        double codeShare = 0.7;           ///< of the rows that are set in a typewriter font: a listing
+        double filledRowShare = 0.5;      ///< of the rows that must have two filled cells
+        double columnEdge = 0.5;          ///< of the font size; text edges of a column that differ by less are one
+        double keptEdgeShare = 0.7;       ///< of a column's texts that must keep an edge where nothing is drawn
+        double keptEdgeShareRuled = 0.5;  ///< the same where rules part the rows
+        double raggedShare = 0.34;        ///< of the columns that may keep none
+        double numericShare = 0.6;        ///< of a column's texts that are numbers: a column of numbers
+
+        // The look of cells.
+        double shadingCover = 0.6;   ///< of a cell that a ground must cover to be its shading
+        double edgeTolerance = 0.15; ///< of the font size; text edges that differ by less are aligned
+        double centerShare = 0.15;   ///< of the room beside a text that may be more on one side than on the other
+        double uprightRoom = 0.8; ///< of the font size; with less room above and below, upright alignment shows nothing
+        double uprightTolerance = 0.35; ///< of the font size; room above and below that differs by less is equal
+        double baselineSnap = 0.2;      ///< of the font size; baselines in a cell this near are one line
+        double tabGap = 0.8;            ///< of the font size; a wider gap between words of one line is a tab
+        double paragraphPitch = 1.6;    ///< of the font size; lines of a cell farther apart are two paragraphs
+        double blankWidth = 0.25;       ///< of the font size; the blank before a word that did not fit
+        int maximumHeaderRows = 4;      ///< more rows that look alike are no head
+        double headerLikeShare = 0.25;  ///< of the other rows that may look like the head
+
+        // One table of the parts on several pages.
+        double joinedEdge = 3.0;       ///< points; column edges of two parts that differ by less are one
+        double labelledRowShare = 0.8; ///< of the rows that must have a label for one without to be no row
+    } tables;
+};
+
+} // namespace orvane::layout

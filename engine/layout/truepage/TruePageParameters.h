@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `truepage`: text where it stood. A field says its unit, its meaning and what taught its
+/// value.
+struct TruePageParameters {
+    /// FrameCutter, FrameAssembler: text where it stood.
+    struct TruePage {
+        double widestBlank = 1.8;         ///< of the font size; text behind a wider gap has a place of its own
+        double lowestPitch = 0.6;         ///< of the font size; lines nearer to each other stand side by side
+        double highestPitch = 2.5;        ///< likewise; lines farther apart are of two paragraphs
+        double pitchTolerance = 0.5;      ///< points; distances of lines that differ by more are no pitch
+        double edgeTolerance = 1.0;       ///< points; edges of lines that differ by less are one
+        double largestFirstLine = 4.0;    ///< of the font size; by how much a first line is indented, or hangs
+        std::size_t fewestFlushLines = 3; ///< lines with two flush edges that are justified rather than alike by chance
+        double tightSpacing =
+            0.005; ///< of the font size; letters drawn nearer to each other than that need their spacing
+        double roomForOtherFonts = 0.6; ///< of the text's width; where nothing is known of the widths of the font
+        double room = 0.12;             ///< of the text's width; other fonts may need so much more
+        double leastRoom = 6.0;         ///< points; likewise
+    } truePage;
+};
+
+} // namespace orvane::layout
