@@ -158,9 +158,14 @@ private:
         if (position == Position::WithinLine && word.gapBefore == Gap::Tab)
             m_builder.add({document::Tab{blankBetween(m_before->properties, properties)}}, gapLink);
         else if (join == LineJoin::Blank)
-            m_builder.addText(" ", blankBetween(m_before->properties, properties), gapLink);
+            m_builder.addText(blanksBefore(word, position), blankBetween(m_before->properties, properties), gapLink);
         else if (join == LineJoin::DropHyphen)
             m_builder.dropLastCharacter();
+    }
+
+    /// Behind a line's end one blank is enough: more of them are not seen there.
+    static std::string blanksBefore(const Word& word, Position position) {
+        return std::string(position == Position::WithinLine ? static_cast<std::size_t>(word.blanksBefore) : 1, ' ');
     }
 
     /// What counts there by itself, in a running head.

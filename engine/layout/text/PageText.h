@@ -55,6 +55,7 @@ struct Word {
     std::vector<Span> spans;
     Rect box;
     Gap gapBefore = Gap::Space;
+    int blanksBefore = 1;            ///< of a Gap::Space: some people type two after a full stop
     document::TabLeader leaderBefore = document::TabLeader::None; ///< what fills a Gap::Tab
     bool isRightToLeft = false;
 };

@@ -112,6 +112,7 @@ std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, co
             rightToLeft = count = 0;
             words.emplace_back();
             words.back().gapBefore = cluster.gapBefore.kind;
+            words.back().blanksBefore = cluster.gapBefore.blanks;
             words.back().leaderBefore = cluster.gapBefore.leader;
         } else if (!collector.takes(cluster, isRightToLeft)) {
             finishSpan();

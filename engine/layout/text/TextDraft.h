@@ -65,6 +65,7 @@ struct ClusterGap {
     double width = 0;         ///< points along the row; negative where they overlap
     double letterSpacing = 0; ///< points; what the letters around it are apart
     bool hasBlank = false;    ///< a blank was painted in between
+    int blanks = 1;           ///< of a Gap::Space: that were painted
     bool endsWord = false;
     Gap kind = Gap::None;
     document::TabLeader leader = document::TabLeader::None;

@@ -9,22 +9,25 @@
 namespace orvane::layout {
 namespace {
 
+constexpr int kMostBlanks = 1000; ///< between two words; more are a slip of whoever made the file
+
 /// Takes the blanks out, leaving a note of them at the cluster that follows.
 void takeOutBlanks(TextRow& row) {
     std::vector<Cluster> ink;
     ink.reserve(row.clusters.size());
-    bool hasBlank = false;
+    int blanks = 0;
     for (Cluster& cluster : row.clusters) {
         if (isBlank(cluster.text)) {
-            hasBlank = true;
+            blanks = std::min(kMostBlanks, blanks + static_cast<int>(cluster.text.size()));
             continue;
         }
         cluster.gapBefore = {};
         if (!ink.empty()) {
             cluster.gapBefore.width = cluster.start - ink.back().end;
-            cluster.gapBefore.hasBlank = hasBlank;
+            cluster.gapBefore.hasBlank = blanks > 0;
+            cluster.gapBefore.blanks = std::max(1, blanks);
         }
-        hasBlank = false;
+        blanks = 0;
         ink.push_back(std::move(cluster));
     }
     row.clusters = std::move(ink);
@@ -165,6 +168,16 @@ void partLabel(std::vector<Cluster>& clusters, const TextParameters::Words& limi
     }
 }
 
+/// Blanks that lie on top of each other, or that more was painted of than there is room for, were not typed.
+void countBlanks(std::vector<Cluster>& clusters, double narrowest) {
+    for (std::size_t i = 1; i < clusters.size(); ++i) {
+        ClusterGap& gap = clusters[i].gapBefore;
+        const double blank = narrowest * std::min(clusters[i - 1].spaceWidth, clusters[i].spaceWidth);
+        const int room = blank > 0 ? static_cast<int>(std::min<double>(gap.ownWidth() / blank, kMostBlanks)) : 1;
+        gap.blanks = std::clamp(gap.blanks, 1, std::max(1, room));
+    }
+}
+
 void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
     std::vector<Cluster>& clusters = row.clusters;
     const double rowLetterGap = Stretch(clusters, 0, clusters.size(), limits).findLetterGap().value_or(0);
@@ -184,6 +197,7 @@ void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
     if (row.dropCapLines > 0 && clusters.size() > 1 && !clusters[1].gapBefore.hasBlank)
         clusters[1].gapBefore.endsWord = false;
     partLabel(clusters, limits);
+    countBlanks(clusters, limits.narrowestBlank);
     for (Cluster& cluster : clusters)
         cluster.gapBefore.kind = cluster.gapBefore.endsWord ? Gap::Space : Gap::None;
 }

@@ -29,6 +29,15 @@ TEST(TextAssembler, JoinsWordsAndLinesWithBlanks) {
     EXPECT_EQ(text(draftOf({makeLine("one two", 72, 100), makeLine("three", 72, 112)})), "p Normal \"one two three\"");
 }
 
+TEST(TextAssembler, KeepsBlanksThatWereTypedTwice) {
+    DocumentDraft draft = draftOf({makeLine("End. New end.", 72, 100), makeLine("Next", 72, 112)});
+    for (Line& line : paragraphOf(draft).lines)
+        for (Word& word : line.words)
+            if (word.gapBefore == Gap::Space || &word == &line.words.front())
+                word.blanksBefore = 2;
+    EXPECT_EQ(text(draft), "p Normal \"End.  New  end. Next\"") << "one is enough where a line ends";
+}
+
 TEST(TextAssembler, ResolvesHyphensAtLineEnds) {
     EXPECT_EQ(text(draftOf({makeLine("con-", 72, 100), makeLine("version", 72, 112)})), "p Normal \"conversion\"");
     EXPECT_EQ(text(draftOf({makeLine("East-", 72, 100), makeLine("West", 72, 112)})), "p Normal \"East-West\"");

@@ -32,6 +32,18 @@ TEST(WordBuilder, TakesBlanksThatWerePaintedApartFromTheWords) {
     EXPECT_THAT(linesOf(page), ElementsAre("One two"));
 }
 
+TEST(WordBuilder, CountsTheBlanksThatHaveRoom) {
+    PageContentBuilder page;
+    const double end = page.text(72, 100, "End.  New", 12);
+    page.text(72, 130, "End. ", 12);
+    page.text(72 + PageContentBuilder::widthOf("End.", 12), 130, " New", 12);
+    EXPECT_GT(end, 72);
+    const PageText text = tests::read(page);
+    ASSERT_EQ(text.lines.size(), 2u);
+    EXPECT_EQ(text.lines[0].words.at(1).blanksBefore, 2);
+    EXPECT_EQ(text.lines[1].words.at(1).blanksBefore, 1) << "two blanks on top of each other";
+}
+
 TEST(WordBuilder, IgnoresBlanksThatLeaveNoRoom) {
     PageContentBuilder page;
     const double end = page.text(72, 100, "to", 12);
