@@ -1,5 +1,6 @@
 #include "layout/assembly/DocumentAssembler.h"
 
+#include "layout/assembly/BlankPages.h"
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
 #include "layout/assembly/NumberingAssembler.h"
@@ -32,11 +33,14 @@ public:
     std::vector<document::Section> takeSections() {
         std::vector<AssembledBlock> body = std::move(m_flows[m_next++].blocks);
         std::vector<document::Section> sections;
+        BlankPages blankPages(body, m_context);
         for (std::size_t i = 0; i < m_draft.sections.size(); ++i) {
             const bool isLast = i + 1 == m_draft.sections.size();
             const std::size_t end = isLast ? body.size() : m_draft.sections[i + 1].firstBlock;
             document::Section section = m_draft.sections[i].setup;
-            section.blocks = finishBlocks(take(body, m_draft.sections[i].firstBlock, end), m_context);
+            std::vector<AssembledBlock> blocks = take(body, m_draft.sections[i].firstBlock, end);
+            blankPages.keep(blocks, section.start, isLast ? 0 : pageOf(body, i + 1));
+            section.blocks = finishBlocks(std::move(blocks), m_context);
             section.header = takeRunning(m_draft.sections[i].header);
             section.footer = takeRunning(m_draft.sections[i].footer);
             sections.push_back(std::move(section));
@@ -53,6 +57,12 @@ public:
     }
 
 private:
+    /// The page on which a section starts; 0 where that is not known.
+    std::size_t pageOf(const std::vector<AssembledBlock>& body, std::size_t section) const {
+        const std::size_t first = m_draft.sections[section].firstBlock;
+        return first < body.size() && body[first].draft ? body[first].draft->page : 0;
+    }
+
     void add(FlowKind kind, const std::vector<DraftBlock>& blocks) {
         m_flows.push_back({kind, assembleBlocks(blocks, m_context)});
     }

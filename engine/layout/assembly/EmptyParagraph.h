@@ -1,0 +1,10 @@
+#pragma once
+
+#include "layout/assembly/TextAssembler.h"
+
+namespace orvane::layout {
+
+/// A paragraph with nothing in it, as high as a line of body text.
+document::Paragraph emptyParagraph(const AssemblyContext& context);
+
+} // namespace orvane::layout
