@@ -15,6 +15,7 @@ struct PageFill {
     bool isSplit = false;       ///< a paragraph goes on from the page before
     std::size_t firstBlock = 0; ///< that starts on the page; index into the blocks
     bool hasFirstBlock = false;
+    double gap = 0;  ///< what mostly stands between such blocks as the page's first and the one before it
     double need = 0; ///< of room for the first thing on the page, so much that it may start on the page before
 };
 

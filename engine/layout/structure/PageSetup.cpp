@@ -35,7 +35,7 @@ double findBottom(const std::vector<PageFill>& fills, std::size_t firstPage, std
         return pageHeight - limits.usualMargin;
     double highest = pageHeight;
     for (std::size_t i = firstPage; i < lastPage; ++i) {
-        const double wouldEnd = fills[i].bottom + fills[i + 1].need;
+        const double wouldEnd = fills[i].bottom + fills[i + 1].gap + fills[i + 1].need;
         if (!fills[i].isEmpty && !fills[i + 1].isEmpty && wouldEnd > lowest)
             highest = std::min(highest, wouldEnd);
     }
