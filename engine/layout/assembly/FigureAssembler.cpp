@@ -1,5 +1,7 @@
 #include "layout/assembly/FigureAssembler.h"
 
+#include "layout/structure/BlockColumn.h"
+
 #include <cmath>
 #include <numbers>
 
@@ -37,14 +39,6 @@ document::Alignment alignmentIn(const ColumnSpan& column, const Rect& box, doubl
     return left > tolerance && std::abs(right) <= tolerance ? document::Alignment::End : document::Alignment::Start;
 }
 
-ColumnSpan columnOf(const DraftBlock& place, const DocumentDraft& draft) {
-    const std::vector<Band>& bands = draft.pages[place.page].bands;
-    const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
-    if (band < bands.size() && column < bands[band].columns.size())
-        return bands[band].columns[column];
-    return {place.box.left, place.box.right};
-}
-
 document::Block paragraphWith(document::Picture picture, const DraftBlock& place, const AssemblyContext& context) {
     const ColumnSpan column = columnOf(place, context.draft);
     document::Paragraph paragraph;
@@ -53,6 +47,7 @@ document::Block paragraphWith(document::Picture picture, const DraftBlock& place
     if (paragraph.properties.alignment == document::Alignment::Start)
         paragraph.properties.indentStart = twipsFromPoints(std::max(0.0, place.box.left - column.left));
     paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
+    paragraph.markProperties.size = kPictureMarkSize;
     paragraph.inlines.push_back({std::move(picture)});
     return {std::move(paragraph)};
 }

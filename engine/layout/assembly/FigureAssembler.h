@@ -4,6 +4,10 @@
 
 namespace orvane::layout {
 
+/// Size of the mark of a paragraph that holds a picture alone. Some word processors leave room for the mark's
+/// descenders below the picture, some do not; with a mark this small both set what follows at one place.
+constexpr HalfPoints kPictureMarkSize{2};
+
 /// The figure's picture where it stood on page `page`, text around it.
 document::Figure floatingFigure(const Figure& source, int page);
 

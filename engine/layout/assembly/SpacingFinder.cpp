@@ -1,7 +1,9 @@
 #include "layout/assembly/SpacingFinder.h"
 
-#include "layout/fonts/FontTable.h"
-#include "layout/fonts/LineMetrics.h"
+#include "layout/assembly/BlockPlace.h"
+#include "layout/assembly/CellRoom.h"
+#include "layout/assembly/KeepRelease.h"
+#include "layout/assembly/LineTightener.h"
 #include "layout/support/Tally.h"
 
 #include <algorithm>
@@ -23,54 +25,6 @@ struct BlockGap {
     AssembledBlock* lower = nullptr;
     double points = 0;
 };
-
-/// Below a picture that stands on a line, room is left for the descenders of the paragraph's mark.
-double markDescent(const AssemblyContext& context) {
-    constexpr double kUsualDescent = 0.2;
-    const auto families = fontFamilies();
-    const auto family = std::ranges::find(families, context.fonts.mainFamily(ScriptClass::Simple), &FontFamily::name);
-    const bool isKnown = family != families.end() && family->descent > 0;
-    return (isKnown ? family->descent : kUsualDescent) * context.document.bodyFontSize;
-}
-
-void measure(AssembledBlock& block, const AssemblyContext& context) {
-    const DraftParagraph* draft = block.draftParagraph();
-    if (!draft) {
-        if (block.paragraph())
-            block.bottom += markDescent(context);
-        return;
-    }
-    const document::LineSpacing& spacing = block.paragraph()->properties.lineSpacing;
-    const DraftPiece& last = draft->pieces.back();
-    const std::size_t firstPage = draft->pieces.front().page;
-    block.top = draft->firstLine().baseline -
-                spacedExtent(extentOf(draft->firstLine(), firstPage, context.fonts), spacing).ascent;
-    block.bottom = draft->lastLine().baseline +
-                   spacedExtent(extentOf(draft->lastLine(), last.page, context.fonts), spacing).descent;
-}
-
-bool floats(const AssembledBlock& block) {
-    return std::holds_alternative<document::Figure>(block.block.value) ||
-           std::holds_alternative<document::Frame>(block.block.value);
-}
-
-/// Collects the gaps of blocks that follow each other in one column, those in cells too.
-void collectGaps(std::vector<AssembledBlock>& blocks, const AssemblyParameters::Spacing& limits,
-                 std::vector<BlockGap>& gaps) {
-    AssembledBlock* upper = nullptr;
-    for (AssembledBlock& lower : blocks) {
-        for (std::vector<AssembledBlock>& cell : lower.cells)
-            collectGaps(cell, limits, gaps);
-        if (floats(lower) || !lower.draft)
-            continue;
-        if (upper && upper->lastPage == lower.draft->page && lower.top > upper->top) {
-            const double gap = lower.top - upper->bottom;
-            if (gap <= limits.largestGap)
-                gaps.push_back({upper, &lower, std::max(0.0, gap)});
-        }
-        upper = &lower;
-    }
-}
 
 /// Finds the spaces that belong to the styles.
 class StyleSpacing {
@@ -95,6 +49,8 @@ private:
         for (const BlockGap& gap : m_gaps) {
             const Paragraph* first = gap.upper->paragraph();
             const Paragraph* second = gap.lower->paragraph();
+            if (gap.points > m_limits.largestGap)
+                continue;
             if (!first || !second || (!upper.empty() && first->style != upper) ||
                 (!lower.empty() && second->style != lower) ||
                 (first->style == second->style) != (neighbour == Neighbour::Same))
@@ -217,10 +173,16 @@ void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& conte
 
 void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, const AssemblyContext& context) {
     const AssemblyParameters::Spacing& limits = context.parameters.spacing;
+    for (BlockFlow& flow : flows)
+        forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind) { measureLines(block, context); });
+    tightenLines(flows, styles, context);
     std::vector<BlockGap> gaps;
     for (BlockFlow& flow : flows) {
-        forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind) { measure(block, context); });
-        collectGaps(flow.blocks, limits, gaps);
+        forEachBlock(flow.blocks, flow.kind,
+                     [&](AssembledBlock& block, FlowKind) { fitCellRoom(block, context.parameters.tableCells); });
+        forEachPair(flow.blocks, [&gaps](AssembledBlock& upper, AssembledBlock& lower) {
+            gaps.push_back({&upper, &lower, std::max(0.0, lower.top - upper.bottom)});
+        });
     }
     StyleSpacing(gaps, limits).set(styles);
     takeStyleSpacing(flows, styles);
@@ -228,9 +190,12 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
         forEachBlock(flow.blocks, flow.kind, [](AssembledBlock& block, FlowKind) { trimCells(block); });
     for (const BlockGap& gap : gaps)
         setGap(gap, limits);
-    for (BlockFlow& flow : flows)
-        if (flow.kind == FlowKind::Body)
-            setPageTops(flow.blocks, context);
+    for (BlockFlow& flow : flows) {
+        if (flow.kind != FlowKind::Body)
+            continue;
+        setPageTops(flow.blocks, context);
+        releaseKeeps(flow.blocks);
+    }
 }
 
 } // namespace orvane::layout

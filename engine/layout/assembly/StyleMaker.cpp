@@ -130,10 +130,10 @@ std::optional<LineSpacing> usualLineSpacing(const StyleGroup& group) {
     return spacing ? std::optional(*spacing) : std::nullopt;
 }
 
-/// What a style is taken to have whose paragraphs are all of one line: body text's multiple, but in tables single
-/// spacing, which word processors' own table styles set.
+/// What a style is taken to have whose paragraphs are all of one line: body text's multiple, but single spacing in
+/// tables, running heads and notes, for which word processors' own styles set that.
 LineSpacing inheritedLineSpacing(const StyleGroup& group, const LineSpacing& body) {
-    if (group.place == FlowKind::Cell || body.rule != LineSpacingRule::Multiple)
+    if (group.place != FlowKind::Body || body.rule != LineSpacingRule::Multiple)
         return {};
     return body;
 }

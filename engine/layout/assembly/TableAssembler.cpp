@@ -1,44 +1,23 @@
 #include "layout/assembly/TableAssembler.h"
 
 #include "layout/assembly/BlockAssembler.h"
-#include "layout/structure/BlockExtent.h"
+#include "layout/assembly/EmptyParagraph.h"
+#include "layout/structure/BlockColumn.h"
 
 #include <algorithm>
 
 namespace orvane::layout {
 namespace {
 
-/// Space between the cells' edges and their text, the same for all cells of a table.
-struct CellMargins {
-    double side = 0;
-    double top = 0;
-    double bottom = 0;
-};
-
-/// The smallest spaces that are seen, as far as they are usual.
-CellMargins cellMargins(const DraftTable& draft, const FontCatalog& fonts,
-                        const AssemblyParameters::TableCells& limits) {
-    CellMargins margins{limits.usualMargin, limits.largestMargin, limits.largestMargin};
-    for (const DraftCell& cell : draft.cells) {
-        const Rect& box = cell.cell.box;
+/// The smallest space between the cells' sides and their text, as far as it is usual; the same for all cells of a
+/// table.
+double sideMargin(const DraftTable& draft, const AssemblyParameters::TableCells& limits) {
+    double margin = limits.usualMargin;
+    for (const DraftCell& cell : draft.cells)
         for (const DraftBlock& block : cell.blocks)
             if (block.paragraph())
-                margins.side = std::min({margins.side, block.box.left - box.left, box.right - block.box.right});
-        if (cell.blocks.empty())
-            continue;
-        margins.top = std::min(margins.top, extentOf(cell.blocks.front(), fonts).top - box.top);
-        margins.bottom = std::min(margins.bottom, box.bottom - extentOf(cell.blocks.back(), fonts).bottom);
-    }
-    return {std::max(0.0, margins.side), std::max(0.0, margins.top), std::max(0.0, margins.bottom)};
-}
-
-/// What a cell holds that has nothing in it.
-document::Block emptyParagraph(const AssemblyContext& context) {
-    document::Paragraph paragraph;
-    paragraph.style = "Normal";
-    paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
-    paragraph.markProperties.size = halfPointsFromPoints(context.document.bodyFontSize);
-    return {std::move(paragraph)};
+                margin = std::min({margin, block.box.left - cell.cell.box.left, cell.cell.box.right - block.box.right});
+    return std::max(0.0, margin);
 }
 
 /// Indents count from the text's edge; in the draft they count from the cell's.
@@ -60,7 +39,7 @@ std::vector<AssembledBlock> assembleCellBlocks(const DraftCell& cell, Twips marg
     return blocks;
 }
 
-document::TableCell cellOf(const CellDraft& draft, const CellMargins& margins) {
+document::TableCell cellOf(const CellDraft& draft, Twips margin) {
     document::TableCell cell;
     cell.column = draft.column;
     cell.columnSpan = draft.columnSpan;
@@ -69,21 +48,16 @@ document::TableCell cellOf(const CellDraft& draft, const CellMargins& margins) {
     cell.shading = draft.shading;
     cell.alignment = draft.alignment;
     cell.direction = draft.direction;
-    cell.marginLeft = cell.marginRight = twipsFromPoints(margins.side);
-    cell.marginTop = twipsFromPoints(margins.top);
-    cell.marginBottom = twipsFromPoints(margins.bottom);
+    cell.marginLeft = cell.marginRight = margin;
     return cell;
 }
 
 /// How far the table's start edge stands from that of its column.
 double indentOf(const DraftBlock& place, const TableDraft& table, const DocumentDraft& draft) {
-    const std::vector<double>& columnEdges = table.columnEdges;
-    const std::vector<Band>& bands = draft.pages[place.page].bands;
-    const auto band = static_cast<std::size_t>(place.band), column = static_cast<std::size_t>(place.column);
-    if (columnEdges.empty() || band >= bands.size() || column >= bands[band].columns.size())
+    if (table.columnEdges.empty())
         return 0;
-    const ColumnSpan& text = bands[band].columns[column];
-    return table.isRightToLeft ? text.right - columnEdges.back() : columnEdges.front() - text.left;
+    const ColumnSpan column = columnOf(place, draft);
+    return table.isRightToLeft ? column.right - table.columnEdges.back() : table.columnEdges.front() - column.left;
 }
 
 /// A draft counts columns from the left; a table that is read from the right has its first column there.
@@ -116,10 +90,10 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     table.indent = twipsFromPoints(indentOf(place, draft.table, context.draft));
 
     AssembledBlock assembled;
-    const CellMargins margins = cellMargins(draft, context.fonts, context.parameters.tableCells);
+    const Twips margin = twipsFromPoints(sideMargin(draft, context.parameters.tableCells));
     for (const DraftCell& cell : draft.cells) {
-        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margins));
-        assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margins.side), context));
+        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margin));
+        assembled.cells.push_back(assembleCellBlocks(cell, margin, context));
     }
     assembled.block.value = std::move(table);
     return assembled;
@@ -133,7 +107,7 @@ void fillCells(AssembledBlock& assembled, const AssemblyContext& context) {
             cell.blocks = finishBlocks(std::move(*inside++), context);
             // A cell ends with a paragraph, whatever else stands in it.
             if (cell.blocks.empty() || !std::holds_alternative<document::Paragraph>(cell.blocks.back().value))
-                cell.blocks.push_back(emptyParagraph(context));
+                cell.blocks.push_back({emptyParagraph(context)});
         }
     }
     if (table.isRightToLeft)

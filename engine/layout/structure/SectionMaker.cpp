@@ -145,10 +145,17 @@ private:
         const std::vector<ColumnSpan> columns = fitColumns(seen, area, m_parameters.pageSetup);
         section.setup.columns = columnWidths(columns);
         section.setup.hasColumnSeparator = hasSeparator;
-        for (std::size_t i = from; i < to; ++i)
-            if (DraftParagraph* paragraph = m_draft.blocks[i].paragraph())
+        const auto columnAt = [&columns](int index) {
+            return columns[std::min(static_cast<std::size_t>(index), columns.size() - 1)];
+        };
+        for (std::size_t i = from; i < to; ++i) {
+            DraftBlock& block = m_draft.blocks[i];
+            if (DraftParagraph* paragraph = block.paragraph())
                 for (DraftPiece& piece : paragraph->pieces)
-                    piece.column = columns[std::min(static_cast<std::size_t>(piece.columnIndex), columns.size() - 1)];
+                    piece.column = columnAt(piece.columnIndex);
+            else
+                block.sectionColumn = columnAt(block.column);
+        }
     }
 
     DocumentDraft& m_draft;

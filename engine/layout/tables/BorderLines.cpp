@@ -119,7 +119,9 @@ document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<B
                                          [](const auto& a, const auto& b) { return a.second < b.second; });
     const Rule& rule = rules[widest->first];
     border.kind = isDouble ? document::BorderKind::Double : rule.kind;
-    border.width = std::max(EighthPoints(2), eighthPointsFromPoints(rule.width));
+    // A double border's width is that of each of its lines, and of the gap between them.
+    const double width = rule.kind == document::BorderKind::Double ? rule.width / 3 : rule.width;
+    border.width = std::max(EighthPoints(2), eighthPointsFromPoints(width));
     border.color = rule.color;
     return border;
 }

@@ -13,6 +13,7 @@ constexpr double kLine = 12.207;
 using tests::documentOf;
 using tests::draftOfLines;
 using tests::makeBlock;
+using tests::makeDraft;
 using tests::makeLine;
 using tests::makeParagraph;
 using tests::makePictureBlock;
@@ -82,13 +83,48 @@ TEST(SpacingFinder, LetsItemsStandCloseWithSpaceBehindTheList) {
         EXPECT_EQ(paragraphAt(document, i).properties, item);
 }
 
-TEST(SpacingFinder, LeavesRoomForTheMarkBelowAPicture) {
-    // The top of the text is 2 points below the picture: the descenders of the picture's paragraph take that.
-    DocumentDraft draft = draftOfLines({{"below", 231.5}});
+TEST(SpacingFinder, CountsTheSpaceBelowAPictureFromItsEdge) {
+    DocumentDraft draft = draftOfLines({{"below", 251.5}});
     draft.blocks.insert(draft.blocks.begin(), makePictureBlock({72, 120, 272, 220}));
-    EXPECT_EQ(paragraphAt(documentOf(draft), 0).properties.spaceAfter, Twips(0));
-    draft.blocks[1] = makeBlock(makeParagraph({makeLine("below", 72, 251.5)}));
-    EXPECT_NEAR(pointsFromTwips(paragraphAt(documentOf(draft), 0).properties.spaceAfter), 19.3, 0.5);
+    const auto document = documentOf(draft);
+    EXPECT_NEAR(pointsFromTwips(paragraphAt(document, 0).properties.spaceAfter), 251.5 - 9.71 - 220, 0.1);
+    EXPECT_LE(paragraphAt(document, 0).markProperties.size, HalfPoints(2)) << "else its descenders add to the space";
+}
+
+TEST(SpacingFinder, KeepsTheEmptyPartOfAPage) {
+    const auto document = documentOf(draftOfLines({{"title", 100}, {"far below", 600}}));
+    EXPECT_NEAR(pointsFromTwips(paragraphAt(document, 0).properties.spaceAfter), 500 - kLine, 0.1);
+    EXPECT_EQ(styleOf(document, "Normal").paragraph.spaceAfter, Twips(0)) << "no style has so much";
+}
+
+/// Two paragraphs of three lines with half as much space again between the lines, and two headings close above text.
+DocumentDraft draftOfCloseHeadings(double headingPitch) {
+    const double step = 1.5 * kLine;
+    DocumentDraft draft = makeDraft(1);
+    double baseline = 100;
+    for (int part = 0; part < 2; ++part) {
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Heading", 72, baseline)})));
+        draft.blocks.back().paragraph()->role = ParagraphRole::Heading;
+        draft.blocks.back().paragraph()->level = 1;
+        baseline += headingPitch;
+        draft.blocks.push_back(
+            makeBlock(makeParagraph({makeLine("one", 72, baseline), makeLine("two", 72, baseline + step),
+                                     makeLine("three", 72, baseline + 2 * step)})));
+        baseline += 2 * step + 60;
+    }
+    return draft;
+}
+
+TEST(SpacingFinder, GivesSingleLinesTheSpacingOfBodyTextWhereThereIsRoom) {
+    const auto document = documentOf(draftOfCloseHeadings(2 * kLine));
+    EXPECT_DOUBLE_EQ(styleOf(document, "Heading1").paragraph.lineSpacing.multiple, 1.5);
+}
+
+TEST(SpacingFinder, TakesLineSpacingFromSingleLinesThatStandCloseAboveOthers) {
+    const auto document = documentOf(draftOfCloseHeadings(1.2 * kLine));
+    EXPECT_DOUBLE_EQ(styleOf(document, "Heading1").paragraph.lineSpacing.multiple, 1);
+    EXPECT_NEAR(pointsFromTwips(styleOf(document, "Heading1").paragraph.spaceAfter), 0.2 * kLine, 0.15);
+    EXPECT_DOUBLE_EQ(styleOf(document, "Normal").paragraph.lineSpacing.multiple, 1.5);
 }
 
 } // namespace

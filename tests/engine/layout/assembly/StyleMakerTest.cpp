@@ -70,6 +70,17 @@ TEST(StyleMaker, GivesSingleLinesTheLineSpacingOfTheRest) {
     EXPECT_DOUBLE_EQ(paragraphAt(document, 1).properties.lineSpacing.multiple, 1.5);
 }
 
+TEST(StyleMaker, SetsRunningHeadsInSingleSpacing) {
+    DocumentDraft draft = draftOfLines({});
+    draft.blocks.push_back(
+        makeBlock(makeParagraph({makeLine("one", 72, 100), makeLine("two", 72, 118.3), makeLine("three", 72, 136.6)})));
+    DraftSection& section = draft.sections.emplace_back();
+    section.footer.standard = {makeBlock(makeParagraph({makeLine("1", 72, 800)}))};
+    const auto document = documentOf(draft);
+    EXPECT_DOUBLE_EQ(styleOf(document, "Normal").paragraph.lineSpacing.multiple, 1.5);
+    EXPECT_DOUBLE_EQ(styleOf(document, "Footer").paragraph.lineSpacing.multiple, 1);
+}
+
 TEST(StyleMaker, LeavesPicturesTheirHeight) {
     DocumentDraft draft = draftOfLines({});
     draft.blocks.push_back(makeBlock(makeParagraph({makeLine("one two", 72, 100), makeLine("three", 72, 109.7)})));

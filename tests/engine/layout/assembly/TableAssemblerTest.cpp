@@ -62,5 +62,32 @@ TEST(TableAssembler, CountsColumnsFromTheSideWhereReadingStarts) {
     EXPECT_EQ(fromRight.indent, Twips(1020)) << "from the text's right edge at 523 points";
 }
 
+TEST(TableAssembler, MeasuresTheIndentFromTheColumnOfTheSection) {
+    DocumentDraft draft = draftOfTable(Reading::FromLeft);
+    draft.blocks[0].sectionColumn = ColumnSpan{90, 500};
+    const document::Document document = tests::documentOf(draft);
+    EXPECT_EQ(std::get<document::Table>(document.sections.at(0).blocks.at(0).value).indent, Twips(1640));
+}
+
+TEST(TableAssembler, LeavesTheBordersTheirRoom) {
+    DocumentDraft draft = draftOfTable(Reading::FromLeft);
+    // The lines reach from 2.29 points below the rows' upper edges to 5.5 above the lower ones.
+    const document::Document plain = tests::documentOf(draft);
+    const auto& cell = std::get<document::Table>(plain.sections.at(0).blocks.at(0).value).rows[0].cells[0];
+    EXPECT_NEAR(pointsFromTwips(cell.marginTop), 2.29, 0.05);
+    EXPECT_NEAR(pointsFromTwips(cell.marginBottom), 5.5, 0.05);
+
+    const document::Border thick{document::BorderKind::Single, EighthPoints(16), {}, 0};
+    const document::Border doubled{document::BorderKind::Double, EighthPoints(6), {}, 0};
+    for (DraftCell& drafted : std::get<DraftTable>(draft.blocks[0].value).cells) {
+        drafted.cell.borders.top = thick;
+        drafted.cell.borders.bottom = doubled;
+    }
+    const document::Document bordered = tests::documentOf(draft);
+    const auto& between = std::get<document::Table>(bordered.sections.at(0).blocks.at(0).value).rows[0].cells[0];
+    EXPECT_NEAR(pointsFromTwips(between.marginTop), 2.29 - 1, 0.05) << "half of the border lies within the row";
+    EXPECT_NEAR(pointsFromTwips(between.marginBottom), 5.5 - 1.125, 0.05) << "likewise of two lines and their gap";
+}
+
 } // namespace
 } // namespace orvane::layout

@@ -1,0 +1,61 @@
+#include "layout/assembly/CellRoom.h"
+
+#include <algorithm>
+
+namespace orvane::layout {
+namespace {
+
+/// How far a border reaches from the line between two rows to either side.
+double reachOf(const document::Border& border) {
+    const double width = static_cast<double>(border.width.value) / 8;
+    switch (border.kind) {
+    case document::BorderKind::None:
+        return 0;
+    case document::BorderKind::Double:
+        return 1.5 * width; // two lines and a gap as wide
+    default:
+        return width / 2;
+    }
+}
+
+/// Space above and below the text.
+struct Room {
+    double above = 0;
+    double below = 0;
+};
+
+/// Whether the distances of the cell's text from its borders say anything: it stands upright, and on one page.
+bool isMeasured(const CellDraft& cell, const std::vector<AssembledBlock>& blocks) {
+    return !blocks.empty() && cell.direction == document::TextDirection::Horizontal && blocks.front().draft &&
+           blocks.back().draft && blocks.front().draft->page == blocks.back().lastPage;
+}
+
+Room smallestRoom(const AssembledBlock& table, const DraftTable& draft, const AssemblyParameters::TableCells& limits) {
+    Room room{limits.largestMargin, limits.largestMargin};
+    for (std::size_t i = 0; i < draft.cells.size() && i < table.cells.size(); ++i) {
+        const CellDraft& cell = draft.cells[i].cell;
+        const std::vector<AssembledBlock>& blocks = table.cells[i];
+        if (!isMeasured(cell, blocks))
+            continue;
+        room.above = std::min(room.above, blocks.front().top - cell.box.top - reachOf(cell.borders.top));
+        room.below = std::min(room.below, cell.box.bottom - reachOf(cell.borders.bottom) - blocks.back().bottom);
+    }
+    return {std::max(0.0, room.above), std::max(0.0, room.below)};
+}
+
+} // namespace
+
+void fitCellRoom(AssembledBlock& table, const AssemblyParameters::TableCells& limits) {
+    auto* target = std::get_if<document::Table>(&table.block.value);
+    if (!target || !table.draft)
+        return;
+    const Room room = smallestRoom(table, std::get<DraftTable>(table.draft->value), limits);
+    for (document::TableRow& row : target->rows) {
+        for (document::TableCell& cell : row.cells) {
+            cell.marginTop = twipsFromPoints(room.above);
+            cell.marginBottom = twipsFromPoints(room.below);
+        }
+    }
+}
+
+} // namespace orvane::layout

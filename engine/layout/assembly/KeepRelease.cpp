@@ -1,0 +1,30 @@
+#include "layout/assembly/KeepRelease.h"
+
+#include "layout/assembly/BlockPlace.h"
+
+namespace orvane::layout {
+namespace {
+
+/// Whether a page or column holds just one line of a paragraph that has more.
+bool leavesALineAlone(const DraftParagraph& paragraph) {
+    const std::vector<DraftPiece>& pieces = paragraph.pieces;
+    return pieces.size() > 1 && (pieces.front().text.lines.size() == 1 || pieces.back().text.lines.size() == 1);
+}
+
+} // namespace
+
+void releaseKeeps(std::vector<AssembledBlock>& body) {
+    AssembledBlock* upper = nullptr;
+    for (AssembledBlock& lower : body) {
+        if (hasNoPlace(lower))
+            continue;
+        const DraftParagraph* draft = lower.draftParagraph();
+        if (draft && leavesALineAlone(*draft))
+            lower.paragraph()->properties.hasWidowControl = false;
+        if (upper && upper->paragraph() && upper->lastPage < lower.draft->page)
+            upper->paragraph()->properties.keepWithNext = false;
+        upper = &lower;
+    }
+}
+
+} // namespace orvane::layout
