@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layout/assembly/AssemblyParameters.h"
+#include "layout/fonts/FontParameters.h"
 #include "layout/graphics/GraphicsParameters.h"
 #include "layout/page/PageParameters.h"
 #include "layout/paragraphs/ParagraphParameters.h"
@@ -20,6 +21,7 @@ struct LayoutParameters : TextParameters,
                           TableParameters,
                           ParagraphParameters,
                           StructureParameters,
+                          FontParameters,
                           AssemblyParameters,
                           TruePageParameters {
     /// DocumentAnalyser: what most of the document looks like.

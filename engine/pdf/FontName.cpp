@@ -105,6 +105,18 @@ std::string withoutSubsetPrefix(std::string_view name) {
     return std::string(name);
 }
 
+bool isMadeUpFontName(std::string_view name) {
+    const std::string own = withoutSubsetPrefix(name);
+    std::string key;
+    for (const char c : own.substr(0, own.find_first_of(",-")))
+        // Bytes beyond ASCII are letters: names of East Asian fonts are written in their own script.
+        if (isAlpha(c) || isDigit(c) || static_cast<unsigned char>(c) >= 0x80)
+            key += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    const auto letters = std::count_if(key.begin(), key.end(), [](char c) { return !isDigit(c); });
+    return letters < 3 || key.starts_with("cidfont") || key.starts_with("type3") || key.starts_with("gd0") ||
+           key.starts_with("untitled") || key.starts_with("unnamed");
+}
+
 FontNameStyle styleFromFontName(std::string_view name) {
     if (const auto style = styleFromTexName(name))
         return *style;

@@ -5,6 +5,7 @@
 #include "pdf/DocumentMetadata.h"
 #include "pdf/DocumentOpener.h"
 #include "pdf/DoublePainting.h"
+#include "pdf/FaceLook.h"
 #include "pdf/FormReader.h"
 #include "pdf/LinkReader.h"
 #include "pdf/MaskedPictures.h"
@@ -44,11 +45,13 @@ struct PdfDocument::Impl {
     std::unique_ptr<::PDFDoc> document;
     PictureCache pictures;
     UnicodeRepair unicode;
+    FaceLook faces;
 
     explicit Impl(OpenDocument open)
         : bytes(std::move(open.bytes))
         , document(std::move(open.document))
-        , unicode(*document->getXRef()) {}
+        , unicode(*document->getXRef())
+        , faces(*document->getXRef()) {}
 
     /// What the page's content paints, in its final form.
     PageContent play(::Page& page, const PageReadOptions& options, Diagnostics& diagnostics, TimeBudget& budget,
@@ -62,6 +65,7 @@ struct PdfDocument::Impl {
         PageReader reader({*document, content, pictures, options.pictures, diagnostics, budget});
         playPage(page, *document, reader, budget, repair);
         unicode.repair(content, reader.glyphs().sources(), diagnostics);
+        faces.apply(content, reader.glyphs().sources());
         dropDoublePaintedGlyphs(content);
         composeAccents(content);
         if (options.pictures)

@@ -101,7 +101,7 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
                                     const LayoutRequest& request, const LayoutParameters& parameters,
                                     Diagnostics& diagnostics) {
     const LinkTargets links(draft, facts.outline, diagnostics);
-    const FontCatalog fonts(draft);
+    const FontCatalog fonts(draft, parameters, request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths);
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     FlowSet flows(draft, assembly);
     document::Document document;

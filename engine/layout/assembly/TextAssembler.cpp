@@ -208,7 +208,8 @@ void setFamilies(RunProperties& run, const Span& span, const MappedFont& font, c
 RunProperties runProperties(const Span& span, std::size_t page, const AssemblyContext& context) {
     const Look& look = span.look;
     RunProperties run;
-    setFamilies(run, span, context.fonts.font(page, look.font), context.fonts);
+    const MappedFont& font = context.fonts.font(page, look.font);
+    setFamilies(run, span, font, context.fonts);
     run.size = halfPointsFromPoints(look.size);
     run.color = look.color;
     run.highlight = look.highlight;
@@ -219,8 +220,8 @@ RunProperties runProperties(const Span& span, std::size_t page, const AssemblyCo
     run.isStruck = look.isStruck;
     run.isSmallCaps = look.isSmallCaps;
     run.isOutlined = look.isOutlined;
-    if (std::abs(look.horizontalScale - 1) > context.parameters.text.naturalScale)
-        run.widthPercent = static_cast<int>(std::lround(look.horizontalScale * 100));
+    const bool isStretched = std::abs(look.horizontalScale - 1) > context.parameters.text.naturalScale;
+    run.widthPercent = static_cast<int>(std::lround((isStretched ? look.horizontalScale : 1) * font.widthPercent));
     if (context.request.keepCharacterSpacing)
         run.characterSpacing = twipsFromPoints(look.characterSpacing);
     return run;

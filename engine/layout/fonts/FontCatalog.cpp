@@ -7,13 +7,14 @@
 
 namespace orvane::layout {
 
-FontCatalog::FontCatalog(const DocumentDraft& draft)
+FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& parameters, Tracking tracking)
     : m_unknown(mapFont(pdf::Font{})) {
     for (const PageLayout& page : draft.pages) {
         m_fonts.emplace_back();
         for (const pdf::Font& font : page.fonts)
             m_fonts.back().push_back(mapFont(font));
     }
+    fitFonts(m_fonts, draft, tracking, parameters.fontFit);
     std::array<std::map<std::string, std::size_t>, 3> counts;
     forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {
         for (const DraftPiece& piece : paragraph.pieces)

@@ -1,6 +1,6 @@
 #include "layout/fonts/FontMapper.h"
 
-#include "layout/fonts/FontTable.h"
+#include "pdf/FontName.h"
 
 #include <algorithm>
 #include <array>
@@ -101,18 +101,12 @@ std::string joined(const std::vector<std::string>& words, std::string_view separ
     return out;
 }
 
-/// A name that a program made up for want of one: "F1", "TT5E", "CIDFont+F3", "g_d0_f2".
-bool saysNothing(const std::vector<std::string>& words) {
-    const std::string key = lowered(joined(words, ""));
-    const auto letters = std::count_if(key.begin(), key.end(), [](char c) { return !isDigit(c); });
-    return letters < 3 || key.starts_with("cidfont") || key.starts_with("type3") || key.starts_with("gd0") ||
-           key.starts_with("untitled") || key.starts_with("unnamed");
-}
-
 MappedFont fromFamily(const FontFamily& family) {
     MappedFont font;
     font.family = family.name;
+    font.kind = family.kind;
     font.isSymbol = family.kind == FontClass::Symbol;
+    font.isFamilyKnown = true;
     if (family.ascent > 0) {
         font.ascent = family.ascent;
         font.descent = family.descent;
@@ -151,9 +145,13 @@ std::optional<MappedFont> findKnown(std::string key) {
     return std::nullopt;
 }
 
+FontClass kindOf(const pdf::Font& font) {
+    return font.isFixedPitch ? FontClass::Fixed : font.isSerif ? FontClass::Serif : FontClass::Sans;
+}
+
 MappedFont usualFontOfKind(const pdf::Font& font) {
-    const char* family = font.isFixedPitch ? "couriernew" : font.isSerif ? "timesnewroman" : "arial";
-    return knownFonts().at(family);
+    const FontClass kind = kindOf(font);
+    return standIn(kind == FontClass::Fixed ? "Courier New" : kind == FontClass::Serif ? "Times New Roman" : "Arial");
 }
 
 /// The line that the file itself tells of, where it is believable.
@@ -172,18 +170,28 @@ std::string fontKey(std::string_view name) {
     return lowered(joined(familyWords(name), ""));
 }
 
+MappedFont standIn(std::string_view family) {
+    MappedFont font = knownFonts().at(fontKey(family));
+    font.isFamilyKnown = false;
+    font.isStandIn = true;
+    return font;
+}
+
 MappedFont mapFont(const pdf::Font& font) {
     for (const std::string& name : {font.name, font.family})
         if (const auto known = name.empty() ? std::nullopt : findKnown(fontKey(name)))
             return *known;
     const std::vector<std::string> words = familyWords(font.family.empty() ? font.name : font.family);
-    if (font.isType3 || saysNothing(words))
+    if (words.empty() || font.isType3 || pdf::isMadeUpFontName(font.family.empty() ? font.name : font.family))
         return usualFontOfKind(font);
     MappedFont mapped;
+    mapped.kind = kindOf(font);
     // A family name with blanks in it is written by people and stays as it is.
     mapped.family = font.family.find(' ') != std::string::npos ? font.family : joined(words, " ");
     mapped.isSymbol = font.isSymbolic && (lowered(mapped.family).find("symbol") != std::string::npos ||
                                           lowered(mapped.family).find("dingbat") != std::string::npos);
+    if (mapped.isSymbol)
+        mapped.kind = FontClass::Symbol;
     takeLineFromFile(mapped, font);
     return mapped;
 }

@@ -96,7 +96,7 @@ void makeRunningText(DocumentDraft& draft, DraftSection& section, const RunningS
         section.header.firstPage = blocksOf(heads[scheme.firstPage].header).value_or(std::vector<DraftBlock>{});
         section.footer.firstPage = blocksOf(heads[scheme.firstPage].footer).value_or(std::vector<DraftBlock>{});
     }
-    const FontCatalog fonts(draft);
+    const FontCatalog fonts(draft, parameters);
     const double height = draft.pages[scheme.standard].height;
     setDistance(section.setup.headerDistance, section.header, fonts, Side::Header, height);
     setDistance(section.setup.footerDistance, section.footer, fonts, Side::Footer, height);

@@ -22,7 +22,7 @@ public:
         , m_context(context)
         , m_parameters(parameters)
         , m_diagnostics(diagnostics)
-        , m_fills(measurePages(draft, FontCatalog(draft))) {}
+        , m_fills(measurePages(draft, FontCatalog(draft, parameters))) {}
 
     void run() {
         std::size_t block = 0;

@@ -41,7 +41,8 @@ bool hasNaturalWidths(const ParagraphDraft& text, std::size_t page, const Assemb
             for (const Span& span : word.spans) {
                 const bool isTight =
                     span.look.characterSpacing < -context.parameters.truePage.tightSpacing * span.look.size;
-                if (isTight || !context.fonts.font(page, span.look.font).isLineKnown)
+                const MappedFont& font = context.fonts.font(page, span.look.font);
+                if (isTight || !font.isLineKnown || font.isStandIn || font.widthPercent != 100)
                     return false;
             }
     return true;

@@ -98,7 +98,7 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
     const DocumentContext context = analyseDocument(pages, parameters);
     DocumentDraft draft = draftOf(pages, context, parameters, observer, diagnostics);
     const LinkTargets links(draft, facts.outline, diagnostics);
-    const FontCatalog fonts(draft);
+    const FontCatalog fonts(draft, parameters, request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths);
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     std::vector<BlockFlow> flows;
     flows.push_back({FlowKind::Body, assembleBlocks(draft.blocks, assembly)});

@@ -77,7 +77,10 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
     DocumentDraft linked = draft;
     Diagnostics diagnostics;
     const LinkTargets links(linked, {}, diagnostics);
-    const FontCatalog fonts(linked);
+    // The widths of made letters say nothing about families.
+    FontParameters noFit;
+    noFit.fontFit.leastCoverage = 2;
+    const FontCatalog fonts(linked, noFit);
     const LayoutParameters parameters;
     const DocumentContext context;
     document::Document document;

@@ -11,13 +11,13 @@ using document::LineSpacing;
 using document::LineSpacingRule;
 
 /// Three lines of Carlito at 10 points, whose single spacing is 12.21 points.
-LineSpacing spacingAt(double leading, const char* font = "Carlito") {
+LineSpacing spacingAt(double leading, const char* font = "Carlito", const char* word = "word") {
     DocumentDraft draft = tests::makeDraft(1);
     draft.pages[0].fonts[0].name = draft.pages[0].fonts[0].family = font;
-    draft.blocks.push_back(tests::makeBlock(
-        tests::makeParagraph({tests::makeLine("one", 72, 100), tests::makeLine("two", 72, 100 + leading),
-                              tests::makeLine("three", 72, 100 + 2 * leading)})));
-    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft), {}).value();
+    draft.blocks.push_back(
+        tests::makeBlock(tests::makeParagraph({tests::makeLine(word, 72, 100), tests::makeLine(word, 72, 100 + leading),
+                                               tests::makeLine(word, 72, 100 + 2 * leading)})));
+    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft, FontParameters()), {}).value();
 }
 
 TEST(LineMetrics, ReadsTheMultipleThatTheAuthorChose) {
@@ -27,8 +27,8 @@ TEST(LineMetrics, ReadsTheMultipleThatTheAuthorChose) {
     EXPECT_NEAR(spacingAt(17.3).multiple, 1.417, 0.001) << "an odd one is kept";
 }
 
-TEST(LineMetrics, SetsExactHeightsForUnknownFonts) {
-    const LineSpacing spacing = spacingAt(17.3, "Nobodys Sans");
+TEST(LineMetrics, SetsExactHeightsForFontsThatNothingStandsInFor) {
+    const LineSpacing spacing = spacingAt(17.3, "Nobodys Sans", "ქართული");
     EXPECT_EQ(spacing.rule, LineSpacingRule::Exact);
     EXPECT_EQ(spacing.height, Twips(346));
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+
+namespace orvane::layout {
+
+/// Thresholds of the folder `fonts`: families of the document for fonts of the PDF. A field says its unit, its meaning
+/// and what taught its value.
+struct FontParameters {
+    /// FontFitter: families that stand in for fonts that word processors do not have.
+    struct FontFit {
+        double leastCoverage = 0.8; ///< of a font's characters; a family that knows the widths of fewer is not its kin
+        std::size_t leastCharacters = 12; ///< fewer say nothing about widths
+        std::size_t mostSamples = 2000;   ///< pieces of text of one face; more make the result no better
+        double leastStretch = 0.02;       ///< of the natural width; less is kerning
+        double greatestStretch =
+            0.3;                  ///< of the natural width; letters drawn out by more are no longer those of the family
+        double stretchCost = 0.3; ///< of the error in widths that a stretch of the same share counts as
+        double faceDifference = 0.03; ///< of the natural width; faces of a family this close are stretched alike
+    } fontFit;
+};
+
+} // namespace orvane::layout
