@@ -7,6 +7,7 @@
 #include "layout/assembly/PlainTextDocument.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/running/RunningHeads.h"
+#include "layout/structure/AddressLinks.h"
 #include "layout/structure/ContentsFinder.h"
 #include "layout/structure/DraftBuilder.h"
 #include "layout/structure/HeadingFinder.h"
@@ -69,6 +70,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     findHeadings(draft, facts, context, parameters, diagnostics);
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);
+    linkPrintedAddresses(draft);
     return inMode(request.mode, assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics));
 }
 

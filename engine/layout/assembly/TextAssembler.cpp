@@ -86,6 +86,22 @@ bool sameTarget(const std::optional<LinkTarget>& a, const std::optional<LinkTarg
     return a && b && a->uri == b->uri && a->bookmark == b->bookmark;
 }
 
+/// Whether an address that the link leads to was cut by the end of a line between the two words.
+bool isCutAddress(const std::optional<LinkTarget>& link, const std::string& last, const std::string& next) {
+    constexpr std::size_t kEnough = 8; // bytes on each side that tell the place
+    constexpr std::string_view kStops = ".,;:!?)";
+    if (!link || link->uri.empty() || last.empty() || next.empty())
+        return false;
+    const std::string_view start = std::string_view(next).substr(0, kEnough);
+    const std::size_t end = start.find_last_not_of(kStops);
+    if (end == std::string_view::npos)
+        return false;
+    const std::string around =
+        last.substr(last.size() - std::min(last.size(), kEnough)) + std::string(start, 0, end + 1);
+    // Words alone may meet in an address by chance: "the" "report" in "a.example/thereport".
+    return around.find_first_of("/.:?&=#%_-@") != std::string::npos && link->uri.find(around) != std::string::npos;
+}
+
 /// Goes through a paragraph's words and keeps what the next one needs to know of the one before.
 class ParagraphReader {
 public:
@@ -150,7 +166,9 @@ private:
             return;
         }
         LineJoin join = LineJoin::Blank;
-        if (position == Position::StartsLine)
+        if (position == Position::StartsLine && isCutAddress(gapLink, m_before->text, textOf(word)))
+            join = LineJoin::Nothing;
+        else if (position == Position::StartsLine)
             join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary,
                                   m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined);
         else if (word.gapBefore == Gap::None)

@@ -4,6 +4,7 @@
 #include "layout/running/HeadPlaces.h"
 #include "layout/support/Tally.h"
 #include "layout/text/LineText.h"
+#include "layout/text/SpanPart.h"
 
 #include <algorithm>
 #include <map>
@@ -61,27 +62,7 @@ std::size_t isolate(Word& word, std::size_t from, std::size_t length) {
             continue;
         }
         const std::size_t begin = from - start, end = begin + length;
-        if (end > text.size())
-            break;
-        const Span whole = word.spans[i];
-        const auto part = [&](std::size_t a, std::size_t b) {
-            Span span = whole;
-            span.text = utf8FromUtf32(std::u32string_view(text).substr(a, b - a));
-            const double width = whole.box.width() / static_cast<double>(text.size());
-            span.box.left = whole.box.left + width * static_cast<double>(a);
-            span.box.right = whole.box.left + width * static_cast<double>(b);
-            return span;
-        };
-        std::vector<Span> parts;
-        if (begin > 0)
-            parts.push_back(part(0, begin));
-        const std::size_t isolated = i + parts.size();
-        parts.push_back(part(begin, end));
-        if (end < text.size())
-            parts.push_back(part(end, text.size()));
-        word.spans.erase(word.spans.begin() + static_cast<std::ptrdiff_t>(i));
-        word.spans.insert(word.spans.begin() + static_cast<std::ptrdiff_t>(i), parts.begin(), parts.end());
-        return isolated;
+        return end > text.size() ? word.spans.size() : partSpan(word, i, begin, end);
     }
     return word.spans.size();
 }

@@ -12,6 +12,8 @@
 #include "write/docx/RunXml.h"
 #include "write/docx/TextXml.h"
 
+#include <algorithm>
+
 namespace orvane::write::docx {
 namespace {
 
@@ -69,13 +71,23 @@ private:
         }
         const XmlElement hyperlink(m_xml, "w:hyperlink");
         if (anchor.empty())
-            m_xml.attribute({"r:id", m_story.relationships.add("hyperlink", uri, TargetMode::External)});
+            leadOutside(uri);
         else
             m_xml.attribute({"w:anchor", anchor});
         m_xml.attribute({"w:history", 1});
         m_isInLink = true;
         write(link.inlines);
         m_isInLink = false;
+    }
+
+    /// The place within what the address names is written beside it, as word processors do.
+    void leadOutside(const std::string& uri) {
+        const std::size_t sign = std::min(uri.find('#'), uri.size());
+        const std::string place = sign < uri.size() ? uri.substr(sign + 1) : std::string();
+        const std::string& address = sign > 0 ? uri.substr(0, sign) : uri;
+        m_xml.attribute({"r:id", m_story.relationships.add("hyperlink", address, TargetMode::External)});
+        if (sign > 0 && !place.empty())
+            m_xml.attribute({"w:anchor", place});
     }
 
     void writeOne(const Bookmark& bookmark) {

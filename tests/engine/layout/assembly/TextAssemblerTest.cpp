@@ -90,6 +90,24 @@ TEST(TextAssembler, LeadsInnerLinksToBookmarks) {
     EXPECT_EQ(tests::textOfParagraph(draft, 1), "p Normal bookmark(_Ref000001) \"target\"");
 }
 
+TEST(TextAssembler, JoinsAddressesThatALinesEndCut) {
+    const struct {
+        const char* why;
+        const char* first;
+        const char* second;
+        const char* shown;
+    } rows[] = {{"at a sign", "http://a.example/b/", "report", "http://a.example/b/report"},
+                {"at a hyphen", "http://a.example/b/re-", "port", "http://a.example/b/re-port"},
+                {"words that the address has too", "the", "report", "the report"}};
+    for (const auto& row : rows) {
+        DocumentDraft draft = draftOf({makeLine(row.first, 72, 100), makeLine(row.second, 72, 114)});
+        draft.pages[0].links.push_back({{}, "http://a.example/b/report+http://a.example/b/re-port+thereport", {}});
+        for (Line& line : paragraphOf(draft).lines)
+            line.words[0].spans[0].look.link = 0;
+        EXPECT_NE(text(draft).find(std::string("[ \"") + row.shown + "\" ]"), std::string::npos) << row.why;
+    }
+}
+
 TEST(TextAssembler, RefersToNotes) {
     DocumentDraft draft = draftOf({makeLine("see 1 there", 72, 100)});
     Span& mark = paragraphOf(draft).lines[0].words[1].spans[0];

@@ -48,13 +48,31 @@ TEST(InlineXml, EscapesWhatAnAddressMayNotHold) {
         {"https://a.example/\u00FC", "https://a.example/%C3%BC"},
         {"https://a.example/%41", "https://a.example/%41"},
         {"https://a.example/100%", "https://a.example/100%25"},
-        {"https://a.example/#a#b", "https://a.example/#a%23b"},
         {"https://a.example/\"<>\\", "https://a.example/%22%3C%3E%5C"},
         {"https://a.example/?q=1&r=2", "https://a.example/?q=1&r=2"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(targetsOf(WrittenDocument(documentOf(paragraph({link(row.uri, "", "a")})))),
                   std::string(row.address) + "\n");
+}
+
+TEST(InlineXml, PartsThePlaceOffAnAddress) {
+    struct Row {
+        const char* uri;
+        const char* address;
+        const char* place;
+    };
+    const Row rows[] = {
+        {"https://a.example/b#c", "https://a.example/b\n", "c\n"},
+        {"https://a.example/#a#b", "https://a.example/\n", "a%23b\n"},
+        {"https://a.example/b#", "https://a.example/b\n", ""},
+        {"#c", "#c\n", ""},
+    };
+    for (const Row& row : rows) {
+        const WrittenDocument written(documentOf(paragraph({link(row.uri, "", "a")})));
+        EXPECT_EQ(targetsOf(written), row.address) << row.uri;
+        EXPECT_EQ(written.body("//w:hyperlink/@w:anchor"), row.place) << row.uri;
+    }
 }
 
 TEST(InlineXml, LeavesOutAnAddressThatIsTooLong) {
