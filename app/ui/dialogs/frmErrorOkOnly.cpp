@@ -1,6 +1,6 @@
 #include "ui/dialogs/frmErrorOkOnly.h"
 
-#include "i18n/Captions.h"
+#include "ui/form/WindowTexts.h"
 #include "ui_frmErrorOkOnly.h"
 
 #include <QDir>
@@ -26,8 +26,7 @@ void frmErrorOkOnly::connectHandlers() {
 }
 
 void frmErrorOkOnly::Form_Load() {
-    SelectLanguage(m_ports.languages, m_ports.records.settings.intLanguageID);
-    GetControlCaptions(m_ports.languages, *this);
+    captionWindow(m_ports.languages, *this);
     m_ui->imgError->load(QDir(m_ports.languages.applicationFolder).filePath("images/W95MBX03.ICO"));
     for (MessageText* text : findChildren<MessageText*>())
         text->takeWindowColour();

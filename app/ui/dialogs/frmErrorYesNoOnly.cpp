@@ -1,10 +1,10 @@
 #include "ui/dialogs/frmErrorYesNoOnly.h"
 
-#include "i18n/Captions.h"
 #include "i18n/Controls.h"
 #include "services/ErrorTrap.h"
 #include "ui/dialogs/AlreadyExistsQuestion.h"
 #include "ui/dialogs/MessageSelection.h"
+#include "ui/form/WindowTexts.h"
 #include "ui_frmErrorYesNoOnly.h"
 
 #include <QDir>
@@ -36,8 +36,7 @@ void frmErrorYesNoOnly::connectHandlers() {
 }
 
 void frmErrorYesNoOnly::Form_Load() {
-    SelectLanguage(m_ports.languages, m_ports.records.settings.intLanguageID);
-    GetControlCaptions(m_ports.languages, *this);
+    captionWindow(m_ports.languages, *this);
     m_ui->imgError->load(QDir(m_ports.languages.applicationFolder).filePath("images/W95MBX02.ICO"));
     // lblAlreadyExists, a label, has the window's background by nature.
     for (MessageText* text : findChildren<MessageText*>())

@@ -4,6 +4,7 @@
 #include "i18n/Captions.h"
 #include "ui/form/KeyPress.h"
 #include "ui/form/OptionButton.h"
+#include "ui/form/WindowTexts.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -78,12 +79,11 @@ void frmPromptPages::connectHandlers() {
 }
 
 void frmPromptPages::Form_Load() {
-    SelectLanguage(m_ports.languages, m_ports.records.settings.intLanguageID);
-    GetControlCaptions(m_ports.languages, *this);
-    chkAllPages->setAccessibleName(lblAllPages->text());
-    chkFromTo->setAccessibleName(lblFrom->text());
-    txtFrom->setAccessibleName(lblFrom->text());
-    txtTo->setAccessibleName(lblTo->text());
+    captionWindow(m_ports.languages, *this);
+    chkAllPages->setAccessibleName(withoutMnemonic(lblAllPages->text()));
+    chkFromTo->setAccessibleName(withoutMnemonic(lblFrom->text()));
+    txtFrom->setAccessibleName(withoutMnemonic(lblFrom->text()));
+    txtTo->setAccessibleName(withoutMnemonic(lblTo->text()));
 }
 
 void frmPromptPages::disablePageBoxes() {

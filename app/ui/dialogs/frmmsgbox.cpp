@@ -1,6 +1,6 @@
 #include "ui/dialogs/frmmsgbox.h"
 
-#include "i18n/Captions.h"
+#include "ui/form/WindowTexts.h"
 #include "ui_frmmsgbox.h"
 
 #include <QDir>
@@ -22,8 +22,7 @@ void frmmsgbox::connectHandlers() {
 }
 
 void frmmsgbox::Form_Load() {
-    SelectLanguage(m_ports.languages, m_ports.records.settings.intLanguageID);
-    GetControlCaptions(m_ports.languages, *this);
+    captionWindow(m_ports.languages, *this);
 }
 
 void frmmsgbox::cmdOK_Click() {

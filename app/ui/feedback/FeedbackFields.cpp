@@ -1,5 +1,7 @@
 #include "ui/feedback/FeedbackFields.h"
 
+#include "ui/form/AccessKeys.h"
+
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -43,11 +45,13 @@ FeedbackFields::FeedbackFields(QWidget& window) {
     left->addStretch();
     addTexts(*right);
     addButtons(window);
+    assignAccessKeys(window);
 }
 
 void FeedbackFields::addQuestion(QVBoxLayout& column, const QString& text, QWidget* answer, QWidget* named) {
-    auto* question = new QLabel(text, m_frame);
     QWidget* focused = named ? named : answer;
+    auto* question = new QLabel(text, m_frame);
+    question->setObjectName("lbl" + focused->objectName());
     question->setBuddy(focused);
     focused->setAccessibleName(text);
     column.addWidget(question);
@@ -95,6 +99,7 @@ void FeedbackFields::addRatings(QVBoxLayout& column) {
     cmbEasy = addList(column, "3. Rate ease of use of the application:", "cmbEasy",
                       {"Easy", "Very Easy", "Not User Friendly", "Cumbersome", "Other"});
     txtEasy = addText(column, "If you have selected 'Other' in the drop-down menu, please comment:", "txtEasy");
+    txtEasy->setFixedHeight(kTextHeight); // the free texts at the right take what room there is
     cmbPerformance = addList(column, "4. How was the system performance?", "cmbPerformance",
                              {"Good", "Average", "Poor", "Excellent"});
     cmbFunctionality =

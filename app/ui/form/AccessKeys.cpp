@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QRadioButton>
 
 #include <map>
 #include <optional>
@@ -44,24 +45,43 @@ QString writtenCaption(const Caption& caption) {
     return written;
 }
 
-bool takesAccessKey(const QWidget& control) {
-    if (const auto* label = qobject_cast<const QLabel*>(&control))
-        return label->buddy() && (label->buddy()->focusPolicy() & Qt::TabFocus);
+bool hasCaption(const QWidget& control) {
     const auto* button = qobject_cast<const QAbstractButton*>(&control);
     return button && !button->text().isEmpty();
 }
 
-/// The places of a caption that can be its key, the best first: those asked for, starts of words, then all others.
-std::vector<qsizetype> candidates(const Caption& caption) {
+/// Of a group of options the Tab key stops at the chosen one only, but the arrow keys reach all.
+bool isReachedByKeyboard(const QWidget& control) {
+    return (control.focusPolicy() & Qt::TabFocus) || qobject_cast<const QRadioButton*>(&control);
+}
+
+bool takesAccessKey(const QWidget& control, const QWidget& window) {
+    const QWidget& container = *control.parentWidget();
+    if (&container != &window && !container.isVisibleTo(&window))
+        return false;
+    if (const auto* label = qobject_cast<const QLabel*>(&control))
+        return label->buddy() && isReachedByKeyboard(*label->buddy()) && !hasCaption(*label->buddy());
+    return hasCaption(control);
+}
+
+/// Which letters can be keys. Many keyboards need two presses for one with an accent.
+enum class Letters { Plain, All };
+
+/// The places of a caption that can be its key, the best first: the one asked for, starts of words, then all others.
+std::vector<qsizetype> candidates(const Caption& caption, Letters letters) {
     std::vector<qsizetype> places;
     if (caption.mark)
         places.push_back(*caption.mark);
     const QString& text = caption.text;
+    const auto serves = [&](QChar character) {
+        return character.isLetterOrNumber() &&
+               (letters == Letters::All || character.decompositionTag() == QChar::NoDecomposition);
+    };
     for (qsizetype i = 0; i < text.size(); ++i)
-        if (text[i].isLetterOrNumber() && (i == 0 || text[i - 1].isSpace()))
+        if (serves(text[i]) && (i == 0 || text[i - 1].isSpace()))
             places.push_back(i);
     for (qsizetype i = 0; i < text.size(); ++i)
-        if (text[i].isLetterOrNumber())
+        if (serves(text[i]))
             places.push_back(i);
     return places;
 }
@@ -74,13 +94,18 @@ public:
         : m_captions(captions) {}
 
     void deal(std::size_t caption) {
-        std::set<QChar> tried;
-        m_captions[caption].mark = place(caption, tried);
+        std::optional<qsizetype> mark;
+        for (const Letters letters : {Letters::Plain, Letters::All}) {
+            std::set<QChar> tried;
+            if (!mark)
+                mark = place(caption, letters, tried);
+        }
+        m_captions[caption].mark = mark;
     }
 
 private:
-    std::optional<qsizetype> place(std::size_t caption, std::set<QChar>& tried) {
-        const std::vector<qsizetype> places = candidates(m_captions[caption]);
+    std::optional<qsizetype> place(std::size_t caption, Letters letters, std::set<QChar>& tried) {
+        const std::vector<qsizetype> places = candidates(m_captions[caption], letters);
         const auto keyAt = [&](qsizetype i) { return m_captions[caption].text[i].toUpper(); };
         for (const qsizetype i : places)
             if (m_owners.emplace(keyAt(i), caption).second)
@@ -89,7 +114,7 @@ private:
             if (!tried.insert(keyAt(i)).second)
                 continue;
             const std::size_t owner = m_owners[keyAt(i)];
-            if (const auto elsewhere = place(owner, tried)) {
+            if (const auto elsewhere = place(owner, letters, tried)) {
                 m_captions[owner].mark = elsewhere;
                 m_owners[keyAt(i)] = caption;
                 return i;
@@ -108,7 +133,7 @@ void assignAccessKeys(QWidget& window) {
     std::vector<QWidget*> controls;
     std::vector<Caption> captions;
     for (QWidget* control : controlsOf(window))
-        if (takesAccessKey(*control)) {
+        if (takesAccessKey(*control, window)) {
             controls.push_back(control);
             captions.push_back(readCaption(captionOf(*control)));
         }

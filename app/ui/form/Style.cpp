@@ -46,6 +46,7 @@ QLabel[role="status"] { font-size: 12pt; }
 QLabel[role="heading"] { font-weight: 600; }
 QLineEdit { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
             background: palette(base); }
+QPlainTextEdit[frameShape="6"] { border: 1px solid palette(midlight); border-radius: 4px; padding: 2px 4px; }
 QLineEdit[role="shown"] { min-height: 20px; border: none; padding: 0; background: transparent; }
 QPushButton { min-height: 26px; min-width: 88px; padding: 0 12px; border: 2px solid palette(midlight); border-radius: 4px;
               background: palette(button); color: palette(button-text); }
@@ -62,7 +63,8 @@ QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, 
 QRadioButton::indicator:disabled { border-color: palette(midlight); }
 QCheckBox, QRadioButton { min-height: 24px; spacing: 8px; }
 QCheckBox:focus, QRadioButton:focus { border: 2px solid palette(text); border-radius: 4px; }
-QPushButton:focus, QLineEdit:focus, QTextEdit:focus, QComboBox:focus, QListView:focus { border: 2px solid palette(text); }
+QPushButton:focus, QLineEdit:focus, QTextEdit:focus, QPlainTextEdit[frameShape="6"]:focus,
+QComboBox:focus, QListView:focus { border: 2px solid palette(text); }
 QPushButton:disabled { color: palette(mid); }
 QProgressBar { min-height: 16px; max-height: 16px; border: 1px solid palette(midlight); border-radius: 4px;
                background: palette(base); text-align: center; }

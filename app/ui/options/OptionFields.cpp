@@ -1,6 +1,10 @@
 #include "ui/options/OptionFields.h"
 
+#include "i18n/Captions.h"
+
 #include <QGridLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -57,6 +61,7 @@ QGridLayout* OptionFields::addCard() {
     grid->setVerticalSpacing(kGap / 2);
     grid->setColumnStretch(1, 1);
     Picture1->layout()->addWidget(card);
+    m_cards << grid;
     return grid;
 }
 
@@ -155,6 +160,20 @@ void OptionFields::addFoot() {
     row->addWidget(cmdOK);
     row->addWidget(cmdCancel);
     m_window.layout()->addWidget(foot);
+}
+
+void OptionFields::followLabels() {
+    int width = 0;
+    for (QLabel* label : Picture1->findChildren<QLabel*>()) {
+        if (!label->buddy())
+            continue;
+        width = std::max(width, label->sizeHint().width());
+        label->buddy()->setAccessibleName(withoutMnemonic(label->text()));
+    }
+    for (QGridLayout* card : m_cards)
+        card->setColumnMinimumWidth(0, width);
+    cmdBrwDestiFolder->setAccessibleName(txtShow->accessibleName());
+    cmdBrwLogFile->setAccessibleName(txtLogPath->accessibleName());
 }
 
 QList<QWidget*> OptionFields::fieldsWithHelp() const {

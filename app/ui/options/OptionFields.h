@@ -46,6 +46,10 @@ public:
     /// The fields that have a help line.
     QList<QWidget*> fieldsWithHelp() const;
 
+    /// What follows from the labels' texts: the fields of both cards start at one line, and each field, also the button
+    /// behind it, is called by its label.
+    void followLabels();
+
 private:
     QGridLayout* addCard();
     QLabel* addHeading(QGridLayout& card, const char* name, const char* caption);
@@ -62,4 +66,5 @@ private:
     Control* make(const char* name) const;
 
     QWidget& m_window;
+    QList<QGridLayout*> m_cards;
 };

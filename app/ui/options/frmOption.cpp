@@ -6,6 +6,7 @@
 #include "settings/FactorySettings.h"
 #include "settings/SettingsFile.h"
 #include "settings/SettingsRecord.h"
+#include "ui/form/AccessKeys.h"
 #include "ui/form/ClosePrompt.h"
 #include "ui/form/FirstField.h"
 #include "ui/form/FormRegistry.h"
@@ -92,9 +93,8 @@ void frmOption::applyCaptions() {
     m_fields.cboLaunchMSWord->setListIndex(settings().intLauchMs);
     m_fields.cmdBrwLogFile->setText("...");
     m_fields.cmdBrwDestiFolder->setText("...");
-    for (QLabel* label : findChildren<QLabel*>())
-        if (label->buddy())
-            label->buddy()->setAccessibleName(withoutMnemonic(label->text()));
+    assignAccessKeys(*this);
+    m_fields.followLabels();
 }
 
 void frmOption::fitFormatListToWord() {

@@ -2,6 +2,7 @@
 
 #include "core/LockedFile.h"
 #include "i18n/Captions.h"
+#include "ui/form/WindowTexts.h"
 #include "ui_frmPassword.h"
 
 #include <QDir>
@@ -31,8 +32,7 @@ void frmPassword::connectHandlers() {
 }
 
 void frmPassword::Form_Load() {
-    SelectLanguage(m_ports.languages, m_ports.records.settings.intLanguageID);
-    GetControlCaptions(m_ports.languages, *this);
+    captionWindow(m_ports.languages, *this);
 }
 
 void frmPassword::showWanted(PasswordPrompt::Password wanted) {

@@ -5,6 +5,7 @@
 #include "core/ProgressLoading.h"
 #include "i18n/CaptionWidths.h"
 #include "i18n/Captions.h"
+#include "ui/form/AccessKeys.h"
 #include "ui/form/FormRegistry.h"
 #include "ui_frmProgress.h"
 
@@ -100,6 +101,7 @@ void frmProgress::Form_Load() {
     SelectLanguage(m_languages, m_run.records.settings.intLanguageID);
     GetControlCaptions(m_languages, *this);
     WrapButtonCaptions(*this);
+    assignAccessKeys(*this);
     m_ui->fraGeneral->setTitle({});
     m_ui->fraDetails->setTitle({});
     captionTabsAndList();

@@ -1,5 +1,6 @@
 #include "ui/wizard/PageFrame.h"
 
+#include "i18n/Captions.h"
 #include "ui/form/LinkLabel.h"
 #include "ui/form/OptionButton.h"
 #include "ui/form/Picture.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr QSize kPageSize{760, 500};
 constexpr QSize kPictureSize{232, 300};
 constexpr int kMargin = 24;
+constexpr int kInnerMargin = 2; ///< that a text box keeps free before its text
 constexpr int kGap = 8;
 constexpr char kNamedBy[] = "namedBy"; ///< property: the object name of the label that stands for a control
 constexpr int kIndent = 28;            ///< of a description, so that it stands below its option's caption
@@ -76,22 +78,24 @@ QLabel* PageFrame::label(const char* name, const char* caption) const {
     return label;
 }
 
-QLineEdit* PageFrame::textBox(const char* name, const QLabel& label) const {
+QLineEdit* PageFrame::textBox(const char* name, QLabel& label) const {
     auto* box = new QLineEdit(m_column->parentWidget());
     box->setObjectName(name);
     nameBy(*box, label);
     return box;
 }
 
-void PageFrame::nameBy(QWidget& control, const QLabel& label) {
+void PageFrame::nameBy(QWidget& control, QLabel& label) {
     control.setProperty(kNamedBy, label.objectName());
+    if (!label.buddy())
+        label.setBuddy(&control);
 }
 
 void PageFrame::nameControls(const QWidget& page) {
     for (QWidget* control : page.findChildren<QWidget*>()) {
         const QString label = control->property(kNamedBy).toString();
         if (!label.isEmpty())
-            control->setAccessibleName(page.findChild<QLabel*>(label)->text());
+            control->setAccessibleName(withoutMnemonic(page.findChild<QLabel*>(label)->text()));
     }
 }
 
@@ -173,17 +177,20 @@ void PageFrame::line(QLabel* title, const QList<QWidget*>& parts) {
     title->setWordWrap(true);
     auto* row = new QHBoxLayout;
     row->setSpacing(kGap);
-    for (QWidget* part : parts)
-        row->addWidget(part, qobject_cast<Picture*>(part) ? 0 : 1);
+    for (QWidget* part : parts) {
+        const auto* text = qobject_cast<QLabel*>(part);
+        row->addWidget(part, text && text->wordWrap() ? 1 : 0);
+    }
     const int number = m_lines->rowCount();
-    m_lines->addWidget(title, number, 0, Qt::AlignTop);
+    m_lines->addWidget(title, number, 0, Qt::AlignVCenter);
     m_lines->addLayout(row, number, 1);
 }
 
-QLineEdit* PageFrame::shownText(const char* name, const QLabel& label) const {
+QLineEdit* PageFrame::shownText(const char* name, QLabel& label) const {
     QLineEdit* box = textBox(name, label);
     box->setReadOnly(true);
     box->setFrame(false);
+    box->setTextMargins(-kInnerMargin, 0, 0, 0); // its text starts where those of labels do
     box->setProperty("role", "shown");
     box->setFocusPolicy(Qt::ClickFocus);
     return box;

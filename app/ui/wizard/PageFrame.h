@@ -43,10 +43,10 @@ public:
     /// Which widget of a row takes the room that is left.
     enum class Stretch { First, Last, None };
     void row(const QList<QWidget*>& widgets, Stretch stretch = Stretch::Last);
-    /// A line of a summary: a title, and behind it what it says, of which the last visible part takes the room.
+    /// A line of a summary: a title, and behind it what it says, of which a text that wraps takes the room.
     void line(QLabel* title, const QList<QWidget*>& parts);
     /// A text box that only shows, without a frame.
-    QLineEdit* shownText(const char* name, const QLabel& label) const;
+    QLineEdit* shownText(const char* name, QLabel& label) const;
     /// A small picture in a line. Units: pixels.
     Picture* icon(const char* name, int size) const;
 
@@ -63,10 +63,11 @@ public:
 
     /// A label with its text; `text` is the caption until the language file replaces it.
     QLabel* label(const char* name, const char* caption = "") const;
-    /// `label`: what a screen reader calls the box, in the language of the moment.
-    QLineEdit* textBox(const char* name, const QLabel& label) const;
-    /// Lets a label stand for a control that has no caption.
-    static void nameBy(QWidget& control, const QLabel& label);
+    /// `label`: stands for the box, which has no caption.
+    QLineEdit* textBox(const char* name, QLabel& label) const;
+    /// Lets a label stand for a control that has no caption: a screen reader calls the control by its text, in the
+    /// language of the moment, and its access key leads there. A label that names several controls leads to the first.
+    static void nameBy(QWidget& control, QLabel& label);
     /// Gives the controls their names anew, after the labels got their texts.
     static void nameControls(const QWidget& page);
 

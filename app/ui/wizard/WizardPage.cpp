@@ -1,9 +1,9 @@
 #include "ui/wizard/WizardPage.h"
 
-#include "i18n/Captions.h"
 #include "ui/form/ClosePrompt.h"
 #include "ui/form/FirstField.h"
 #include "ui/form/Picture.h"
+#include "ui/form/WindowTexts.h"
 #include "ui/links/LinkBar.h"
 
 namespace {
@@ -25,8 +25,7 @@ WizardPage::WizardPage(FormRegistry& registry, PagePorts ports, const char* name
 }
 
 void WizardPage::applyLanguage() {
-    SelectLanguage(m_ports.languages, settings().intLanguageID);
-    GetControlCaptions(m_ports.languages, *this);
+    captionWindow(m_ports.languages, *this);
     PageFrame::nameControls(*this);
 }
 

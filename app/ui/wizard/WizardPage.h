@@ -21,7 +21,7 @@ protected:
     /// `name`: the window's name, also in the error log.
     WizardPage(FormRegistry& registry, PagePorts ports, const char* name, const char* backgroundName, Closing closing);
 
-    /// SelectLanguage and GetControlCaptions. Rewrites every text box and empties every list.
+    /// The texts of the language of the moment. Rewrites every text box and empties every list.
     void applyLanguage();
 
     /// Tells the main window that a wizard was left while a command line was pending, so that its activation does not

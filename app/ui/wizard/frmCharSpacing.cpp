@@ -1,5 +1,6 @@
 #include "ui/wizard/frmCharSpacing.h"
 
+#include "i18n/Captions.h"
 #include "ui/form/DropDownList.h"
 #include "ui/form/OptionButton.h"
 #include "ui/form/Picture.h"
@@ -81,11 +82,11 @@ void frmCharSpacing::store() {
     // From here on the summary shows the option's own caption, no longer the "yes" or "no" of the settings.
     if (optCharSpaceYes->value()) {
         settings().intCharSpac = kKeep;
-        job().strCharSpacing = optCharSpaceYes->text();
+        job().strCharSpacing = withoutMnemonic(optCharSpaceYes->text());
     }
     if (optCharSpaceNo->value()) {
         settings().intCharSpac = kDoNotKeep;
-        job().strCharSpacing = optCharSpaceNo->text();
+        job().strCharSpacing = withoutMnemonic(optCharSpaceNo->text());
     }
 }
 

@@ -62,8 +62,8 @@ void frmOutputOptions::addPageFields() {
     frame().row({chkAllPages, frame().optionLabel("lblAllPages", "All Pages", *chkAllPages)});
     chkFromTo = frame().captionlessOption("chkFromTo");
     lblFrom = frame().label("lblFrom");
-    PageFrame::nameBy(*chkFromTo, *lblFrom);
     txtFrom = frame().textBox("txtFrom", *lblFrom);
+    PageFrame::nameBy(*chkFromTo, *lblFrom);
     lblTo = frame().label("lblTo");
     txtTo = frame().textBox("txtTo", *lblTo);
     for (QLineEdit* box : {txtFrom, txtTo}) {

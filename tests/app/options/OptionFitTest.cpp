@@ -1,5 +1,6 @@
 #include "OptionFixture.h"
 
+#include "app/support/AccessKeys.h"
 #include "app/support/TextRoom.h"
 #include "ui/form/Style.h"
 
@@ -32,6 +33,33 @@ TEST_F(OptionFit, NoTextIsCutInAnyLanguage) {
         expectNothingOverlaps(*window, languageFileNames(i).options);
         window->hide();
     }
+}
+
+TEST_F(OptionFit, EveryControlHasAnAccessKeyOfItsOwnInEveryLanguage) {
+    for (std::int16_t i = 0; i < kLanguageCount; ++i) {
+        records.settings.intLanguageID = i;
+        open();
+        expectAccessKeys(*window, languageFileNames(i).options);
+        window->hide();
+    }
+}
+
+TEST_F(OptionFit, TheFieldsOfBothCardsStartAtOneLine) {
+    for (std::int16_t i = 0; i < kLanguageCount; ++i) {
+        records.settings.intLanguageID = i;
+        open();
+        QApplication::processEvents();
+        const auto left = [this](const char* field) { return part<QWidget>(field).mapTo(window.get(), QPoint()).x(); };
+        EXPECT_EQ(left("cboUserInterfaceLang"), left("cboReconstructionMode")) << languageFileNames(i).options;
+        window->hide();
+    }
+}
+
+TEST_F(OptionFit, AScreenReaderCallsEachFieldAndBrowseButtonByItsLabel) {
+    open();
+    EXPECT_EQ(part<QWidget>("cboUseWizard").accessibleName(), "Turn on Wizard");
+    EXPECT_EQ(part<QWidget>("cmdBrwLogFile").accessibleName(), "Log File Folder");
+    EXPECT_EQ(part<QWidget>("cmdBrwDestiFolder").accessibleName(), "Destination Folder");
 }
 
 TEST_F(OptionFit, TheListOfControlsHasEveryControlAndNoOther) {

@@ -4,6 +4,7 @@
 #include "app/support/PageFakes.h"
 #include "app/support/RunFakes.h"
 #include "app/support/ScratchHome.h"
+#include "i18n/Captions.h"
 #include "ui/form/FormRegistry.h"
 #include "ui/options/frmOption.h"
 

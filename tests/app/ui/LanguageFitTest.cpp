@@ -1,3 +1,4 @@
+#include "app/support/AccessKeys.h"
 #include "app/support/MainFixture.h"
 #include "i18n/Controls.h"
 #include "ui/application/LanguageStatusTexts.h"
@@ -181,6 +182,29 @@ TEST_F(LanguageFit, ThePasswordWindowShowsItsWholeText) {
             note(kWidestMessage - form->width(), language + " frmPassword (width)");
         }
         form->unload();
+    });
+}
+
+TEST_F(LanguageFit, EveryControlHasAnAccessKeyOfItsOwn) {
+    const auto check = [](Form& form, const QString& language) {
+        form.show();
+        expectAccessKeys(form, language);
+        form.unload();
+    };
+    inEveryLanguage([&](const QString& language) {
+        expectAccessKeys(*mainForm(), language);
+        mainForm()->hide();
+        const auto progress = progressForm();
+        expectAccessKeys(*progress, language);
+        progress->Form::unload();
+        const std::vector<std::shared_ptr<Form>> messages{
+            registry.obtain<frmErrorOkOnly>(ports), registry.obtain<frmErrorYesNoOnly>(ports),
+            registry.obtain<frmmsgbox>(ports),
+            registry.obtain<frmPassword>(PasswordPorts{records, languages, mainWindow, [] {}})};
+        for (const auto& message : messages) {
+            message->load();
+            check(*message, language);
+        }
     });
 }
 

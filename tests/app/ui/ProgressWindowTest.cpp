@@ -2,6 +2,7 @@
 #include "app/support/ShippedLanguages.h"
 #include "app/support/Standstill.h"
 #include "core/QtEventLoop.h"
+#include "i18n/Captions.h"
 #include "services/LinkActions.h"
 #include "ui/form/FormRegistry.h"
 #include "ui/form/LinkLabel.h"
@@ -215,7 +216,7 @@ TEST_F(ProgressWindow, CarriesTheFiveLinks) {
     window.carryLinks(actions);
     for (const char* name : {"lblHelp", "lblOnline", "lblOtherProducts", "lblQuickTour", "lblWebsite"}) {
         auto& label = child<LinkLabel>(name);
-        EXPECT_EQ(label.text(), GetCaption(languages, name)) << "not shortened";
+        EXPECT_EQ(withoutMnemonic(label.text()), GetCaption(languages, name)) << "not shortened";
         opener.opened.clear();
         QTest::mouseClick(&label, Qt::LeftButton);
         QTest::keyClick(&label, Qt::Key_Return);

@@ -1,5 +1,6 @@
 #include "PageFixture.h"
 
+#include "app/support/AccessKeys.h"
 #include "app/support/TextRoom.h"
 #include "ui/dialogs/frmPromptPages.h"
 #include "ui/form/Style.h"
@@ -64,6 +65,34 @@ TEST_F(PageFit, NoTextOfThePagePromptIsCutInAnyLanguage) {
         expectNothingOverlaps(*window, language);
         window->unload();
     });
+}
+
+TEST_F(PageFit, EveryControlHasAnAccessKeyOfItsOwnInEveryLanguage) {
+    inEveryLanguage([this](const QString& language) {
+        for (const QString& page : kPages) {
+            expectAccessKeys(show(page), language);
+            hide(page);
+        }
+        const auto prompt = registry.obtain<frmPromptPages>(PromptPagesPorts{records, languages, refusals, messageBox});
+        prompt->showForm();
+        expectAccessKeys(*prompt, language);
+        prompt->unload();
+    });
+}
+
+TEST_F(PageFit, TheAccessKeysOfOptionsWithoutACaptionChooseThem) {
+    for (const char* page : {"frmPageRange", "frmImageFormatOutput"}) {
+        show(page).activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form(page).get()));
+        for (const auto& [label, chosen] :
+             {std::pair{"lblFrom", "chkFromTo"}, std::pair{"lblAllPages", "chkAllPages"}}) {
+            const QChar key = accessKeyIn(captionOf(control(page, label)));
+            QTest::keyClick(form(page).get(), key.toLatin1(), Qt::AltModifier);
+            EXPECT_TRUE(option(page, chosen).value()) << page << '.' << label;
+            EXPECT_EQ(form(page)->focusWidget(), &option(page, chosen)) << page << '.' << label;
+        }
+        hide(page);
+    }
 }
 
 TEST_F(PageFit, TheListOfControlsHasEveryControlOfThePagesAndNoOther) {

@@ -1,5 +1,6 @@
 #include "PageFixture.h"
 
+#include "i18n/Captions.h"
 #include "i18n/Controls.h"
 #include "ui/extract/frmFinishExtractImages.h"
 #include "ui/extract/frmImageFormatOutput.h"
@@ -67,7 +68,7 @@ QString PageFixture::text(const QString& window, const QString& name) {
     QWidget& shown = control(window, name);
     if (const auto* box = qobject_cast<QLineEdit*>(&shown))
         return box->text();
-    return captionOf(shown);
+    return withoutMnemonic(captionOf(shown));
 }
 
 void PageFixture::setText(const QString& window, const QString& name, const QString& text) {
