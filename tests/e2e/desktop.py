@@ -10,7 +10,7 @@ import time
 
 PATIENCE = 60  # seconds until something that has to happen counts as failed; the machine may be busy
 CLOSING_PATIENCE = 2  # seconds that a window may take to close before a key is pressed again
-TOOLS = ("Xvfb", "openbox", "xdotool", "xprop", "gm", "qpdf", "lowriter")
+TOOLS = ("Xvfb", "openbox", "xdotool", "xprop", "xwininfo", "gm", "qpdf", "lowriter")
 TITLE = "Tavrelion-PDF to Word Converter"
 
 
@@ -110,6 +110,16 @@ class Desktop:
                 found.append(Window(number, int(size[1]), int(size[2])))
         return found
 
+    def popup(self):
+        """The menu or list that is open: a window that the window manager leaves alone. It takes the keys while it is up."""
+        def find():
+            for number in self.run("xdotool", "search", "--onlyvisible", "--class", "tavrelion").split():
+                facts = self.run("xwininfo", "-id", number)
+                if "Override Redirect State: yes" in facts:
+                    return Window(number, *(int(re.search(rf"{side}: (\d+)", facts)[1]) for side in ("Width", "Height")))
+            return None
+        return wait_for("a menu or a list", find)
+
     def act(self, window, *command):
         """Brings the window to the front and goes on; a window that has gone is left in peace, and so are all others."""
         self.run("xdotool", "windowactivate", "--sync", window.number, *command)
@@ -122,6 +132,17 @@ class Desktop:
 
     def click(self, window, x, y):
         self.act(window, "mousemove", "--window", window.number, str(x), str(y), "click", "1")
+
+    def popup_key(self, key):
+        """Presses a key in the menu or list that is open."""
+        self.popup()
+        self.run("xdotool", "key", "--clearmodifiers", key)
+
+    def popup_click(self, row, rows):
+        """Clicks on one of so many rows of about one height of the menu or list that is open."""
+        popup = self.popup()
+        self.run("xdotool", "mousemove", "--window", popup.number, str(popup.width // 2),
+                 str((2 * row + 1) * popup.height // (2 * rows)), "click", "1")
 
     def close_by_box(self, window):
         """As the cross in the title bar does, by the key of the window manager."""

@@ -11,18 +11,37 @@ def _page_text(page):
     return "BT /F1 10 Tf 60 780 Td\n" + "\n".join(lines) + "\nET"
 
 
+def _stream(entries, content):
+    return f"<< {entries} /Length {len(content)} >>\nstream\n{content}\nendstream"
+
+
 def write_pdf(path, pages=1):
     """A PDF of so many pages of text."""
-    objects = ["<< /Type /Catalog /Pages 2 0 R >>", None, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>"]
-    kids = []
-    for page in range(1, pages + 1):
-        text = _page_text(page)
-        objects.append(f"<< /Length {len(text)} >>\nstream\n{text}\nendstream")
-        objects.append(f"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] /Contents {len(objects)} 0 R"
-                       " /Resources << /Font << /F1 3 0 R >> >> >>")
-        kids.append(f"{len(objects)} 0 R")
-    objects[1] = f"<< /Type /Pages /Count {pages} /Kids [{' '.join(kids)}] >>"
+    font = "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>"
+    _write_pages(path, font, [(_page_text(page), "/Font << /F1 3 0 R >>") for page in range(1, pages + 1)])
 
+
+def write_pdf_with_picture(path, width, height):
+    """A PDF of one page with a picture of that size in pixels, all of it green."""
+    picture = _stream(f"/Type /XObject /Subtype /Image /Width {width} /Height {height} /ColorSpace /DeviceRGB"
+                      " /BitsPerComponent 8 /Filter /ASCIIHexDecode", "2E8B57" * width * height + ">")
+    _write_pages(path, picture, [("q 400 0 0 300 90 400 cm /P Do Q", "/XObject << /P 3 0 R >>")])
+
+
+def _write_pages(path, shared, pages):
+    """A PDF of pages, each given by its content and its resources; the shared object is number 3."""
+    objects = ["<< /Type /Catalog /Pages 2 0 R >>", None, shared]
+    kids = []
+    for content, resources in pages:
+        objects.append(_stream("", content))
+        objects.append(f"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] /Contents {len(objects)} 0 R"
+                       f" /Resources << {resources} >> >>")
+        kids.append(f"{len(objects)} 0 R")
+    objects[1] = f"<< /Type /Pages /Count {len(kids)} /Kids [{' '.join(kids)}] >>"
+    _write_objects(path, objects)
+
+
+def _write_objects(path, objects):
     body = b"%PDF-1.7\n"
     offsets = []
     for number, content in enumerate(objects, 1):
