@@ -1,4 +1,5 @@
 """A screen of the tests' own with a window manager, and the application on it, worked by keys and clicks."""
+import contextlib
 import os
 import pathlib
 import re
@@ -223,6 +224,18 @@ class Program:
     def workers(self):
         """The conversions that are at work for this program."""
         return self.processes("orvane-worker")
+
+    @contextlib.contextmanager
+    def held_work(self):
+        """The conversion stands still meanwhile, so that it cannot end before the user acts."""
+        workers = wait_for("the work", self.workers)
+        for worker in workers:
+            os.kill(worker, signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            for worker in workers:
+                os.kill(worker, signal.SIGCONT)
 
     def main(self):
         return self.wait("the main window", lambda window: window.is_main)

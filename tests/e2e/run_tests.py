@@ -32,10 +32,13 @@ class RunTest(DesktopTest):
         self.assertEqual([path.name for path in self.program.documents.iterdir() if "long" in path.name], [])
 
     def test_goes_on_when_cancelling_is_taken_back(self):
-        self.start(self.pdf("long.pdf", pages=60))
+        self.start(self.pdf("long.pdf", pages=300))
         progress = self.program.progress()
-        self.desktop.keys(progress, "Escape")
-        self.desktop.keys(self.program.message(), "alt+n")
+        with self.program.held_work():
+            self.desktop.keys(progress, "Escape")
+            question = self.program.message()
+            self.desktop.keys(question, "alt+n")
+            self.program.wait_gone(question)
         self.decline_opening()
         self.wait_for_document(self.document("long.docx"))
 

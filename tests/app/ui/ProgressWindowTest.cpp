@@ -211,7 +211,7 @@ struct NotingOpener : SystemOpener {
 
 TEST_F(ProgressWindow, CarriesTheFiveLinks) {
     NotingOpener opener;
-    LinkActions actions(opener, TAVRELION_SOURCE_FOLDER);
+    LinkActions actions(opener, TAVRELION_PROGRAM_FOLDER);
     frmProgress& window = start();
     window.carryLinks(actions);
     for (const char* name : {"lblHelp", "lblOnline", "lblOtherProducts", "lblQuickTour", "lblWebsite"}) {
@@ -274,7 +274,8 @@ TEST_F(SlowEngine, NeverHoldsTheWindowsUp) {
         EXPECT_TRUE(waitFor([this] { return journal.contains("ShowCompleted"); }));
     });
     EXPECT_GE(script.statusCalls, 2);
-    EXPECT_LT(standstill, 100);
+    // A call that holds the windows up does so for its whole length; what is well below it is the machine's own doing.
+    EXPECT_LT(standstill, kSlowness / 2);
 }
 
 } // namespace
