@@ -1,5 +1,8 @@
-// draw-picture SOURCE.svg TARGET.gif|.jpg WIDTH HEIGHT: renders a drawing to a picture file of that size on white. A
-// tool of the build.
+// draw-picture SOURCE.svg TARGET.gif|.jpg WIDTH HEIGHT: renders a drawing to a picture file of that size on white.
+// draw-picture SOURCE.svg TARGET.ICO SIZE...: renders it to an icon file of these sizes on nothing.
+// A tool of the build.
+
+#include "IconFile.h"
 
 #include <Magick++.h>
 
@@ -9,25 +12,26 @@
 
 #include <cstdio>
 #include <stdexcept>
+#include <vector>
 
 namespace {
 
 constexpr unsigned kColours = 256; ///< of a GIF
 constexpr unsigned kQuality = 92;  ///< of a JPEG, out of 100
 
-QImage drawn(const QString& source, QSize size) {
+QImage drawn(const QString& source, QSize size, QImage::Format format, QColor ground) {
     QSvgRenderer drawing(source);
     if (!drawing.isValid() || size.isEmpty())
         throw std::runtime_error("cannot draw " + source.toStdString());
-    QImage picture(size, QImage::Format_RGB888);
-    picture.fill(Qt::white);
+    QImage picture(size, format);
+    picture.fill(ground);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     drawing.render(&painter);
     return picture;
 }
 
-void write(const QImage& picture, const std::string& target) {
+void writePicture(const QImage& picture, const std::string& target) {
     // The rows of the drawing program may be padded; those of the writer are not.
     std::string pixels;
     for (int y = 0; y < picture.height(); ++y)
@@ -45,16 +49,36 @@ void write(const QImage& picture, const std::string& target) {
     image.write(target);
 }
 
+void drawIcon(const QString& source, const std::string& target, const std::vector<int>& sizes) {
+    std::vector<QImage> pictures;
+    for (const int size : sizes)
+        pictures.push_back(drawn(source, {size, size}, QImage::Format_ARGB32, Qt::transparent));
+    writeIcon(pictures, QString::fromStdString(target));
+}
+
+void drawPicture(const QString& source, const std::string& target, const std::vector<int>& sizes) {
+    if (sizes.size() != 2)
+        throw std::runtime_error("a picture has one width and one height");
+    writePicture(drawn(source, {sizes[0], sizes[1]}, QImage::Format_RGB888, Qt::white), target);
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 5) {
-        std::fputs("usage: draw-picture SOURCE.svg TARGET.gif|.jpg WIDTH HEIGHT\n", stderr);
+    if (argc < 4) {
+        std::fputs("usage: draw-picture SOURCE.svg TARGET.gif|.jpg WIDTH HEIGHT\n"
+                   "       draw-picture SOURCE.svg TARGET.ICO SIZE...\n",
+                   stderr);
         return 2;
     }
     try {
         Magick::InitializeMagick(argv[0]);
-        write(drawn(QString::fromLocal8Bit(argv[1]), QSize(std::stoi(argv[3]), std::stoi(argv[4]))), argv[2]);
+        const std::string target = argv[2];
+        std::vector<int> sizes;
+        for (int i = 3; i < argc; ++i)
+            sizes.push_back(std::stoi(argv[i]));
+        const auto draw = target.ends_with(".ICO") ? &drawIcon : &drawPicture;
+        draw(QString::fromLocal8Bit(argv[1]), target, sizes);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "draw-picture: %s\n", error.what());
         return 1;

@@ -21,7 +21,7 @@ protected:
         page = new QFrame;
         column->addWidget(bar);
         column->addWidget(page, 1);
-        bar->connectLinks(actions, QString(TAVRELION_SOURCE_FOLDER) + "/images");
+        bar->connectLinks(actions, QString(TAVRELION_PROGRAM_FOLDER) + "/images");
         window.resize(760, 300);
         window.show();
     }

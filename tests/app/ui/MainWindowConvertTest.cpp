@@ -77,7 +77,7 @@ TEST_F(MainWindowCommand, ChecksInOneOrder) {
     EXPECT_EQ(journalled().value(0).left(16), "Failed to load <") << "the language files before all";
     EXPECT_TRUE(window().isVisible());
     EXPECT_TRUE(records.flags.blnCloseRequested);
-    languages.applicationFolder = TAVRELION_SOURCE_FOLDER;
+    languages.applicationFolder = TAVRELION_PROGRAM_FOLDER;
     click("lblConvert");
     EXPECT_EQ(journalled(), QStringList{"message"}) << "the page range before the file";
     EXPECT_TRUE(records.flags.blnCloseRequested);
@@ -224,7 +224,7 @@ TEST_F(MainWindowCommand, ExtractChecksInTheSameOrderButNoExtensionAndNoEmptyRan
     breakLanguages();
     click("lblExtimgWiz");
     EXPECT_EQ(journalled().value(0).left(16), "Failed to load <");
-    languages.applicationFolder = TAVRELION_SOURCE_FOLDER;
+    languages.applicationFolder = TAVRELION_PROGRAM_FOLDER;
     click("lblExtimgWiz");
     EXPECT_EQ(journalled(), QStringList{"refuse pages lblpgformat"});
     EXPECT_TRUE(records.flags.blnCloseRequested);

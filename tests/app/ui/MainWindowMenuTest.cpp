@@ -75,7 +75,7 @@ TEST_F(MainWindowMenu, ConvertUsingWizardStartsAtTheOutputPage) {
         languages.applicationFolder = "/nowhere"; // neither the language files nor the pages are checked
         setText("txtFrom", "1,,2");
         entry("mnuconvwiz").trigger();
-        languages.applicationFolder = TAVRELION_SOURCE_FOLDER;
+        languages.applicationFolder = TAVRELION_PROGRAM_FOLDER;
         EXPECT_EQ(journalled(), QStringList{"frmOutputOptions"});
         EXPECT_FALSE(window().isVisible());
         EXPECT_FALSE(records.flags.blnCloseRequested);

@@ -287,7 +287,7 @@ TEST_F(MessageDialogs, HaveTheirIconsAndDoWithoutThem) {
     EXPECT_FALSE(loaded<frmErrorYesNoOnly>()->findChild<Picture*>("imgError")->isEmpty());
     EXPECT_FALSE(loaded<frmmsgbox>()->findChild<Picture*>("Image1")->isEmpty());
     Picture picture;
-    picture.load(TAVRELION_SOURCE_FOLDER "/images/none.ICO");
+    picture.load(TAVRELION_PROGRAM_FOLDER "/images/none.ICO");
     EXPECT_TRUE(picture.isEmpty());
 }
 
