@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <stdexcept>
 
 namespace tavrelion::tests {
 
@@ -13,8 +14,11 @@ class FakeFolderDialog : public FolderDialog {
 public:
     QString folder;
     QStringList titles;
+    bool failsToOpen = false;
     QString BrowseFolder(QWidget&, const QString& title) override {
         titles << title;
+        if (failsToOpen)
+            throw std::runtime_error("the folder picker is gone");
         return folder;
     }
 };
