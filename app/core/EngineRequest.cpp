@@ -1,7 +1,9 @@
 #include "core/EngineRequest.h"
 
 #include "core/BoundedList.h"
+#include "core/OutputDerivation.h"
 #include "core/ProgressRun.h"
+#include "core/ReconstructionMode.h"
 #include "core/Staging.h"
 
 namespace run {
@@ -14,21 +16,12 @@ constexpr char kApplicationName[] = "Tavrelion";
 constexpr char kMakerAddress[] = "https://tavrelion.example/";
 constexpr char kRegistryKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\qvl";
 
-// Values of intReconstMode.
-constexpr std::int16_t kModeTruePage = 0;
-constexpr std::int16_t kModeContinuous = 1;
-constexpr std::int16_t kModePlainText = 2;
-constexpr std::int16_t kModeFlowing = 3;
-
-// Values of intOutputFormat.
-constexpr std::int16_t kFormatDoc = 0;
-constexpr std::int16_t kFormatDocx = 2;
-
 std::int32_t flagsOfDocument(const AppSettings& settings) {
     std::int32_t flags = 0;
-    if (settings.intOutputFormat == kFormatDoc || settings.intOutputFormat == kFormatDocx)
+    if (settings.intOutputFormat == output_format::kDoc || settings.intOutputFormat == output_format::kDocx)
         flags += flag::kWordFormat;
-    if (settings.intReconstMode == kModeTruePage || settings.intReconstMode == kModeFlowing) {
+    if (settings.intReconstMode == reconstruction_mode::kTruePage ||
+        settings.intReconstMode == reconstruction_mode::kFlowingText) {
         if (settings.intRecoverImg == 0)
             flags += flag::kRemoveImages;
         if (settings.intCharSpac == 0)
@@ -57,7 +50,7 @@ std::int32_t GetConversionFlags(const ProgressRun& run) {
     flags += flagsOfPasswords(run);
     if (queue.lngSelectedBound < upperBound(queue.strSelectedFiles))
         flags += flag::kLaterFileOfSelection;
-    if (settings.intOutputFormat == kFormatDocx)
+    if (settings.intOutputFormat == output_format::kDocx)
         flags += flag::kDocx;
     return flags;
 }
@@ -66,11 +59,11 @@ std::int16_t layoutCode(const ProgressRun& run) {
     if (run.records.flags.intRunKind == run_kind::kExtractImages)
         return layout_code::kImages;
     switch (run.records.settings.intReconstMode) {
-    case kModeTruePage:
+    case reconstruction_mode::kTruePage:
         return layout_code::kTruePage;
-    case kModeContinuous:
+    case reconstruction_mode::kContinuous:
         return layout_code::kContinuous;
-    case kModePlainText:
+    case reconstruction_mode::kPlainText:
         return layout_code::kPlainText;
     default:
         return layout_code::kFlowing;

@@ -62,6 +62,14 @@ QString outputShownInItsFolder(const SharedRecords& records, QString& strOutputN
     return records.job.strOutputFile + strOutputName;
 }
 
+QString withFormat(const QString& path, std::int16_t intOutputFormat) {
+    const QString found = extensionIn(path);
+    const QString wanted = extensionOf(intOutputFormat);
+    if (wanted.isEmpty() || !hasDocumentExtension(path) || found.toLower() == wanted)
+        return path;
+    return QString(path).replace(found, wanted);
+}
+
 bool hasDocumentExtension(const QString& path) {
     static const QStringList kExtensions{".doc", ".rtf", ".docx"};
     return kExtensions.contains(extensionIn(path).toLower());

@@ -54,5 +54,9 @@ QString outputShownAtActivation(const SharedRecords& records, QString& strOutput
 /// The same where strOutputFile holds a folder instead of a document: the new name directly behind it.
 QString outputShownInItsFolder(const SharedRecords& records, QString& strOutputName);
 
+/// The path of a document with the extension of another format, as a change of the settings asks for it. The old
+/// extension's text is replaced wherever it stands in the path, in its own letter case; other paths stay as they are.
+QString withFormat(const QString& path, std::int16_t intOutputFormat);
+
 /// Whether a path ends, from its last dot, in the extension of a document: .doc, .rtf or .docx in any letter case.
 bool hasDocumentExtension(const QString& path);

@@ -6,6 +6,12 @@
 
 /// A first and a last page in two boxes, as two windows ask for them. The boxes take digits only.
 
+/// Values of ConversionJob::intUseFromTo. Any other than kGiven counts as kNotGiven, too.
+namespace page_numbers {
+inline constexpr std::int16_t kGiven = 0;
+inline constexpr std::int16_t kNotGiven = -1;
+} // namespace page_numbers
+
 /// What is wrong with the pair; the values are named for the controls that hold the refusals.
 enum class PageNumberFault { None, IncompleteRange, IncorrectRange, PageRangeZero };
 

@@ -22,6 +22,10 @@ QString folderOf(const QString& path) {
     return path.left(end);
 }
 
+QString folderWithSeparator(const QString& path) {
+    return path.left(path.lastIndexOf(QDir::separator()) + 1);
+}
+
 QString stemOf(const QString& name) {
     const auto point = name.lastIndexOf('.');
     return point < 0 ? name : name.left(point);

@@ -10,6 +10,9 @@ QString nameOf(const QString& path);
 /// What stands before the last separator. Errors: throws when there is none.
 QString folderOf(const QString& path);
 
+/// The same with the separator; nothing when there is none.
+QString folderWithSeparator(const QString& path);
+
 /// The text before its last point; the whole text when there is none.
 QString stemOf(const QString& name);
 

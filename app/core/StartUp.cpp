@@ -1,10 +1,10 @@
 #include "core/StartUp.h"
 
+#include "core/OutputDerivation.h"
 #include "services/ErrorTrap.h"
 
 namespace {
 
-constexpr std::int16_t kFormatRtf = 1;
 constexpr std::chrono::milliseconds kMainWindowDelay{250};
 
 } // namespace
@@ -12,7 +12,7 @@ constexpr std::chrono::milliseconds kMainWindowDelay{250};
 void StartUp(SharedRecords& records, StartUpSteps& steps) {
     steps.LoadSettings();
     if (steps.IsMSWordInstalled() == 0)
-        records.settings.intOutputFormat = kFormatRtf;
+        records.settings.intOutputFormat = output_format::kRtf;
     // The second load puts a stored format back over the forced one; users without a word processor rely on their
     // choice.
     steps.LoadSettings();

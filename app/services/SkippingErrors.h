@@ -1,11 +1,14 @@
 #pragma once
 
-/// Runs a statement whose failure nobody hears of: it is passed over, and the next one runs.
-template<typename Statement>
-void skippingErrors(Statement&& statement) {
-    try {
-        statement();
-    } catch (...) {
-        // Skipped.
-    }
+/// Runs statements whose failure nobody hears of: one that fails is passed over, and the next one runs.
+template<typename... Statements>
+void skippingErrors(Statements&&... statements) {
+    const auto run = [](auto& statement) {
+        try {
+            statement();
+        } catch (...) {
+            // Skipped.
+        }
+    };
+    (run(statements), ...);
 }

@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr std::int16_t kTrue = -1;
 constexpr int kMargin = 24;
 constexpr int kGap = 8;
 constexpr int kNumberBoxWidth = 72;
@@ -122,11 +121,11 @@ void frmPromptPages::takePages() {
         const PageNumberFault fault = checkPageNumbers(txtFrom->text(), txtTo->text());
         if (fault != PageNumberFault::None)
             return m_ports.refusals.refuse(refusalOf(fault));
-        job.intUseFromTo = 0;
+        job.intUseFromTo = page_numbers::kGiven;
         job.intPageFrom = pageNumberOf(txtFrom->text());
         job.intPageTo = pageNumberOf(txtTo->text());
     }
     if (chkAllPages->value())
-        job.intUseFromTo = kTrue;
+        job.intUseFromTo = page_numbers::kNotGiven;
     unload();
 }

@@ -1,4 +1,5 @@
 #include "core/OutputDerivation.h"
+#include "core/PageNumberPair.h"
 #include "core/Paths.h"
 #include "core/ProgressRun.h"
 #include "services/ErrorTrap.h"
@@ -11,10 +12,6 @@
 namespace {
 
 constexpr int kShortestFolder = 3; ///< characters, of "C:\"
-
-// Values of ConversionJob::intUseFromTo, which counts as true from non-zero.
-constexpr std::int16_t kUsesFromTo = 0;
-constexpr std::int16_t kUsesAllPages = -1;
 
 /// The format of an extension as a run takes it: what is neither DOCX nor DOC is RTF, other than in the save dialog.
 std::int16_t runFormat(const QString& extension) {
@@ -78,9 +75,9 @@ bool frmMain::CollectMainOptions() {
     skippingErrors([this] { rememberOutputFolder(); });
     job.strOutputShown = m_ui->lblOutputFormatDoc->text();
     if (m_ui->chkFromTo->value())
-        job.intUseFromTo = kUsesFromTo;
+        job.intUseFromTo = page_numbers::kGiven;
     if (m_ui->chkAllPages->value()) {
-        job.intUseFromTo = kUsesAllPages;
+        job.intUseFromTo = page_numbers::kNotGiven;
         records.settings.intPromptPageRange = 0;
     }
     job.strPageRange = m_ui->txtFrom->text().trimmed();
@@ -128,7 +125,7 @@ void frmMain::handImagesOver() {
         job.strPageRange = m_ui->txtFrom->text().trimmed();
     m_ports.nextWindows.setImagePages(job.strPageRange, records.settings.intConvertFrom);
     const QString output = m_ui->txtfilepathOutput->text();
-    job.strImageFolder = hasDocumentExtension(output) ? output.left(output.lastIndexOf(QDir::separator()) + 1) : output;
+    job.strImageFolder = hasDocumentExtension(output) ? folderWithSeparator(output) : output;
     m_ports.nextWindows.showImageFormatOutput();
     hide();
 }

@@ -84,7 +84,7 @@ void frmMain::takeSavedName(const QString& fileName) {
     if (m_ports.IsMSWordInstalled() == 0 && extensionIn(strOutputFile).toLower() != ".rtf") {
         m_ports.messageBox.tell(UserMessages::Icon::Information, "MS Word not installed. Only rtf format allowed.",
                                 kWindowTitle);
-        strOutputFile = strOutputFile.left(strOutputFile.lastIndexOf('.')) + ".rtf";
+        strOutputFile = stemOf(strOutputFile) + ".rtf";
     }
     showSavedName();
 }

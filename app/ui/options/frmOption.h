@@ -35,7 +35,9 @@ private:
     void applyCaptions();
     void fitFormatListToWord();
     void showConverterLists();
+    void takePagesOfMainWindow();
     void fillEmptyLogPath();
+    void showFirstDestination();
     void showDestination();
     void takeLists();
     void takePageChoice();
@@ -43,6 +45,8 @@ private:
 
     AppSettings& settings() const { return m_ports.records.settings; }
     ConversionJob& job() const { return m_ports.records.job; }
+
+    static constexpr char kLogName[] = "tavrelion.log";
 
     OptionPorts m_ports;
     OptionFields m_fields;

@@ -132,5 +132,22 @@ TEST(Paths, CutsAtTheLastSeparatorAndDot) {
     EXPECT_EQ(withoutExtension("abc"), "");
 }
 
+TEST(OutputDerivation, GivesAPathTheExtensionOfAnotherFormatWhereverTheOldOneStands) {
+    struct Row {
+        const char* path;
+        std::int16_t format;
+        const char* result;
+        const char* why;
+    };
+    for (const Row& row : {Row{"/out/a.doc", 2, "/out/a.docx", "DOCX"}, Row{"/out/a.DOC", 2, "/out/a.docx", "capitals"},
+                           Row{"/out/a.rtf", 2, "/out/a.docx", "from RTF"}, Row{"/out/a.docx", 1, "/out/a.rtf", "RTF"},
+                           Row{"/out/a.doc", 1, "/out/a.rtf", "RTF"}, Row{"/out/a.docx", 0, "/out/a.doc", "DOC"},
+                           Row{"/out/a.rtf", 0, "/out/a.doc", "DOC"}, Row{"/out/a.doc", 0, "/out/a.doc", "is one"},
+                           Row{"/my.doc/a.doc", 1, "/my.rtf/a.rtf", "throughout the path"},
+                           Row{"/my.doc/a.DOC", 1, "/my.doc/a.rtf", "in its own letter case"},
+                           Row{"/out/a.txt", 2, "/out/a.txt", "another extension"}, Row{"/out/", 1, "/out/", "none"}})
+        EXPECT_EQ(withFormat(row.path, row.format), row.result) << row.path << ": " << row.why;
+}
+
 } // namespace
 } // namespace tavrelion::tests

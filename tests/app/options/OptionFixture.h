@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <stdexcept>
+
 namespace tavrelion::tests {
 
 /// The real window in English over records of a test's own.
@@ -34,7 +36,7 @@ protected:
 
     void open() {
         window = registry.obtain<frmOption>(OptionPorts{records, languages, messageBox, eventLoop, folderDialog, links,
-                                                        mainWindow, [this] { return wordInstalled; },
+                                                        mainWindow, [this] { return isWordInstalled(); },
                                                         [this] { return wordYear; }});
         window->showForm();
     }
@@ -74,7 +76,13 @@ protected:
     FakeOpener opener;
     LinkActions links{opener, "/opt/tavrelion"};
     FakeMainWindow mainWindow;
+    std::int16_t isWordInstalled() const {
+        if (failsToFindWord)
+            throw std::runtime_error("the registry is gone");
+        return wordInstalled;
+    }
     std::int16_t wordInstalled = 1;
+    bool failsToFindWord = false;
     std::int16_t wordYear = 2010;
     QStringList told;
     LanguageTable languages{
