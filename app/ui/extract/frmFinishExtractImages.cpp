@@ -1,5 +1,6 @@
 #include "ui/extract/frmFinishExtractImages.h"
 
+#include "core/ProgressRun.h"
 #include "services/ErrorTrap.h"
 #include "ui/extract/frmImageFormatOutput.h"
 #include "ui/form/Picture.h"
@@ -7,12 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-
-namespace {
-
-constexpr std::int16_t kExtractImages = 2;
-
-} // namespace
 
 frmFinishExtractImages::frmFinishExtractImages(FormRegistry& registry, PagePorts ports)
     : WizardPage(registry, std::move(ports), "frmFinishExtractImages", "Picture1", Closing::AsksFirst) {
@@ -28,11 +23,11 @@ frmFinishExtractImages::frmFinishExtractImages(FormRegistry& registry, PagePorts
     lblFromVal = frame().shownText("lblFromVal", *lblFrom);
     frame().line(frame().label("lblPageRange", "Page range to convert:"), {lblAllPages, lblFrom, lblFromVal});
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >");
+    cmdBack = frame().button(PageFrame::Button::Back);
+    cmdNext = frame().button(PageFrame::Button::Next);
     cmdNext->setEnabled(false);
-    cmdFinish = frame().button("cmdFinish", "Finish", PageFrame::Key::Enter);
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    cmdFinish = frame().button(PageFrame::Button::Finish);
+    cmdCancel = frame().button(PageFrame::Button::Cancel);
     connectHandlers();
 }
 
@@ -69,9 +64,8 @@ void frmFinishExtractImages::cmdFinish_click() {
     // With a double n here, unlike the window's own name: support searches logs for both spellings.
     const ErrorTrap trap("frmFinnishExtractImages", "cmdFinish_click");
     trap([this] {
-        records().flags.intRunKind = kExtractImages;
-        if (!records().flags.blnCloseRequested)
-            goToProgress();
+        records().flags.intRunKind = run_kind::kExtractImages;
+        goToProgress();
     });
 }
 
@@ -81,6 +75,5 @@ void frmFinishExtractImages::cmdBack_Click() {
 }
 
 void frmFinishExtractImages::cmdCancel_Click() {
-    markCancelled();
-    goToMain();
+    leaveWizard();
 }

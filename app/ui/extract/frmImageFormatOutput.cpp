@@ -1,5 +1,6 @@
 #include "ui/extract/frmImageFormatOutput.h"
 
+#include "services/SkippingErrors.h"
 #include "ui/extract/ImageTypeList.h"
 #include "ui/extract/frmFinishExtractImages.h"
 #include "ui/form/DropDownList.h"
@@ -12,15 +13,12 @@
 #include <QPushButton>
 
 frmImageFormatOutput::frmImageFormatOutput(FormRegistry& registry, PagePorts ports)
-    : WizardPage(registry, std::move(ports), "frmImageFormatOutput", "Picture1", Closing::AsksFirst) {
+    : SteppingPage(registry, std::move(ports), "frmImageFormatOutput", "Picture1", Closing::AsksFirst) {
     addFormatFields();
     addFolderFields();
     addPageFields();
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdNext = frame().button("cmdNext", "Next >", PageFrame::Key::Enter);
-    cmdLast = frame().button("cmdLast", "Last >>");
-    cmdCancel = frame().button("cmdCancel", "Cancel", PageFrame::Key::Escape);
+    addSteps();
     for (QPushButton* button : {cmdBack, cmdNext, cmdLast})
         button->setEnabled(false);
     connectHandlers();
@@ -60,15 +58,9 @@ void frmImageFormatOutput::addPageFields() {
 }
 
 void frmImageFormatOutput::connectHandlers() {
-    connect(m_pages.chkAllPages, &OptionButton::turnedTrue, this, &frmImageFormatOutput::chkAllPages_Click);
-    connect(m_pages.chkFromTo, &OptionButton::turnedTrue, this, &frmImageFormatOutput::chkFromTo_Click);
-    connect(m_pages.lblAllPages, &LinkLabel::clicked, this, &frmImageFormatOutput::lblAllPages_Click);
-    connect(m_pages.lblFrom, &LinkLabel::clicked, this, &frmImageFormatOutput::lblFrom_Click);
+    m_pages.connectHandlers([this] { chkAllPages_Click(); }, [this] { chkFromTo_Click(); });
     connect(txtFileBrowsePath, &QLineEdit::textChanged, this, &frmImageFormatOutput::txtFileBrowsePath_Change);
     connect(cmdBrowse, &QPushButton::clicked, this, &frmImageFormatOutput::cmdBrowse_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmImageFormatOutput::cmdCancel_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &frmImageFormatOutput::cmdNext_Click);
-    connect(cmdLast, &QPushButton::clicked, this, &frmImageFormatOutput::cmdLast_Click);
 }
 
 void frmImageFormatOutput::chooseAllPages() {
@@ -87,8 +79,10 @@ QString frmImageFormatOutput::captionOfSameSourceImages() {
 }
 
 void frmImageFormatOutput::Form_Load() {
-    if (ports().mainWindow.chkAllPages())
-        m_pages.chkAllPages->setValue(true);
+    skippingErrors([this] {
+        if (ports().mainWindow.chkAllPages())
+            m_pages.chkAllPages->setValue(true);
+    });
     if (intExtractFromTo != 0) {
         m_pages.chkFromTo->setValue(true);
         m_pages.lblFrom->setEnabled(true);
@@ -138,16 +132,6 @@ void frmImageFormatOutput::chkFromTo_Click() {
     intExtractFromTo = 1;
 }
 
-void frmImageFormatOutput::lblAllPages_Click() {
-    m_pages.chkAllPages->setValue(true);
-    chkAllPages_Click();
-}
-
-void frmImageFormatOutput::lblFrom_Click() {
-    m_pages.chkFromTo->setValue(true);
-    chkFromTo_Click();
-}
-
 void frmImageFormatOutput::enableForward(const QString& path) {
     cmdNext->setEnabled(!path.isEmpty());
     cmdLast->setEnabled(!path.isEmpty());
@@ -163,7 +147,8 @@ void frmImageFormatOutput::lblFileBrowsePath_Change() {
 
 void frmImageFormatOutput::cmdBrowse_Click() {
     const auto alive = held();
-    QString folder = ports().folderDialog.BrowseFolder(*this, "Browse Folder");
+    QString folder; // stays empty when the dialog fails
+    skippingErrors([&] { folder = ports().folderDialog.BrowseFolder(*this, "Browse Folder"); });
     // A folder whose name the system could not put into its code page comes back with this mark.
     if (folder.contains('?'))
         folder = records().flags.strHomeFolder;

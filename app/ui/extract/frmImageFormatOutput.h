@@ -1,14 +1,14 @@
 #pragma once
 
 #include "ui/wizard/PageListChoice.h"
-#include "ui/wizard/WizardPage.h"
+#include "ui/wizard/SteppingPage.h"
 
 class DropDownList;
 
 /// The first page of the extraction wizard: image format, folder and pages. Format and folder go to the run by the
 /// shared records. The pages stay in this window: the run takes those that the main window set before, and what is
 /// entered here is only shown again on the finish page. It is not to be wired to the run.
-class frmImageFormatOutput : public WizardPage {
+class frmImageFormatOutput : public SteppingPage {
     Q_OBJECT
 
 public:
@@ -34,17 +34,15 @@ private:
     void connectHandlers();
     void chkAllPages_Click();
     void chkFromTo_Click();
-    void lblAllPages_Click();
-    void lblFrom_Click();
     void txtFileBrowsePath_Change();
     void lblFileBrowsePath_Change();
     void cmdBrowse_Click();
-    void cmdCancel_Click();
-    void cmdNext_Click();
-    void cmdLast_Click();
+    void cmdBack_Click() override {} ///< disabled: nothing stands before this page
+    void cmdCancel_Click() override;
+    void cmdNext_Click() override;
+    void cmdLast_Click() override;
 
     void FillImageTypeList();
-    void selectStoredFormat();
     void enableForward(const QString& path);
     enum class Blanks { Count, DoNotCount };
     void store(Blanks blanks);
@@ -55,8 +53,4 @@ private:
     QLabel* lblFileBrowsePath = nullptr;
     QPushButton* cmdBrowse = nullptr;
     PageListChoice m_pages;
-    QPushButton* cmdBack;
-    QPushButton* cmdNext;
-    QPushButton* cmdLast;
-    QPushButton* cmdCancel;
 };

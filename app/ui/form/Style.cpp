@@ -52,6 +52,7 @@ QPushButton { min-height: 26px; min-width: 88px; padding: 0 12px; border: 2px so
               background: palette(button); color: palette(button-text); }
 QPushButton[role="browse"] { min-width: 20px; padding: 0 4px; }
 QPushButton:default { background: #0078D4; border-color: #0078D4; color: #FFFFFF; }
+QPushButton:default:disabled { background: palette(button); border-color: palette(midlight); color: palette(mid); }
 QPushButton:default:focus { border-color: palette(text); }
 QComboBox { min-height: 28px; border: 1px solid palette(midlight); border-radius: 4px; padding: 0 8px;
             background: palette(base); }

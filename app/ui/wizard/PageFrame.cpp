@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <array>
+
 namespace {
 
 // Units: pixels.
@@ -22,6 +24,16 @@ constexpr int kInnerMargin = 2; ///< that a text box keeps free before its text
 constexpr int kGap = 8;
 constexpr char kNamedBy[] = "namedBy"; ///< property: the object name of the label that stands for a control
 constexpr int kIndent = 28;            ///< of a description, so that it stands below its option's caption
+
+struct ButtonDesign {
+    const char* name;
+    const char* caption;
+};
+constexpr std::array<ButtonDesign, 5> kButtons{{{"cmdBack", "< Back"},
+                                                {"cmdNext", "Next >"},
+                                                {"cmdLast", "Last >>"},
+                                                {"cmdFinish", "Finish"},
+                                                {"cmdCancel", "Cancel"}}};
 
 QFrame* frameOf(QWidget& parent, const char* role) {
     auto* frame = new QFrame(&parent);
@@ -217,11 +229,12 @@ void PageFrame::stretch() {
     m_column->addStretch();
 }
 
-QPushButton* PageFrame::button(const char* name, const char* caption, Key key) {
-    auto* button = new QPushButton(caption, m_foot);
-    button->setObjectName(name);
-    button->setDefault(key == Key::Enter);
-    button->setProperty("escape", key == Key::Escape);
+QPushButton* PageFrame::button(Button which) {
+    const ButtonDesign& design = kButtons[static_cast<std::size_t>(which)];
+    auto* button = new QPushButton(design.caption, m_foot);
+    button->setObjectName(design.name);
+    button->setDefault(which == Button::Next || which == Button::Finish);
+    button->setProperty("escape", which == Button::Cancel);
     m_foot->layout()->addWidget(button);
     return button;
 }

@@ -57,9 +57,9 @@ public:
     /// What is left of the height stays empty here.
     void stretch();
 
-    /// What a button at the foot is to the keys Enter and Escape.
-    enum class Key { None, Enter, Escape };
-    QPushButton* button(const char* name, const char* caption, Key key = Key::None);
+    /// The buttons at the foot, in the order in which they stand there. Enter presses Next or Finish, Escape Cancel.
+    enum class Button { Back, Next, Last, Finish, Cancel };
+    QPushButton* button(Button which);
 
     /// A label with its text; `text` is the caption until the language file replaces it.
     QLabel* label(const char* name, const char* caption = "") const;

@@ -36,6 +36,25 @@ void PageListChoice::addTo(PageFrame& frame) {
     onKeyPress(*txtFrom, [box = txtFrom](int& keyCode) { filterPageRangeKey(keyCode, box->text()); });
 }
 
+void PageListChoice::connectHandlers(std::function<void()> chkAllPages_Click, std::function<void()> chkFromTo_Click) {
+    m_chkAllPages_Click = std::move(chkAllPages_Click);
+    m_chkFromTo_Click = std::move(chkFromTo_Click);
+    QObject::connect(chkAllPages, &OptionButton::turnedTrue, chkAllPages, [this] { m_chkAllPages_Click(); });
+    QObject::connect(chkFromTo, &OptionButton::turnedTrue, chkFromTo, [this] { m_chkFromTo_Click(); });
+    QObject::connect(lblAllPages, &LinkLabel::clicked, lblAllPages, [this] { lblAllPages_Click(); });
+    QObject::connect(lblFrom, &LinkLabel::clicked, lblFrom, [this] { lblFrom_Click(); });
+}
+
+void PageListChoice::lblAllPages_Click() const {
+    chkAllPages->setValue(true);
+    m_chkAllPages_Click();
+}
+
+void PageListChoice::lblFrom_Click() const {
+    chkFromTo->setValue(true);
+    m_chkFromTo_Click();
+}
+
 bool PageListChoice::ValidatePageRange(PageRangeRules rules, Refusals& refusals) const {
     if (chkAllPages->value())
         return true;

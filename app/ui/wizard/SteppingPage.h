@@ -15,7 +15,7 @@ protected:
     virtual void cmdBack_Click() = 0;
     virtual void cmdNext_Click() = 0;
     virtual void cmdLast_Click() = 0;
-    virtual void cmdCancel_Click() = 0;
+    virtual void cmdCancel_Click();
 
     QPushButton* cmdBack = nullptr;
     QPushButton* cmdNext = nullptr;

@@ -1,5 +1,6 @@
 #include "ui/wizard/WizardPage.h"
 
+#include "services/SkippingErrors.h"
 #include "ui/form/ClosePrompt.h"
 #include "ui/form/FirstField.h"
 #include "ui/form/Picture.h"
@@ -34,13 +35,27 @@ void WizardPage::markCancelled() {
         records().flags.intWizardCancelled = 1;
 }
 
-void WizardPage::goToMain() {
+void WizardPage::handOver(const std::function<void()>& showNext, Errors errors) {
     const auto alive = held();
-    m_ports.mainWindow.show();
+    if (errors == Errors::PassedOver)
+        skippingErrors(showNext);
+    else
+        showNext();
     hide();
 }
 
+void WizardPage::goToMain(Errors errors) {
+    handOver([this] { m_ports.mainWindow.show(); }, errors);
+}
+
+void WizardPage::leaveWizard(Errors errors) {
+    markCancelled();
+    goToMain(errors);
+}
+
 void WizardPage::goToProgress() {
+    if (records().flags.blnCloseRequested)
+        return;
     const auto alive = held();
     hide();
     m_ports.startRun();

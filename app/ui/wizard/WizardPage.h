@@ -33,15 +33,19 @@ protected:
     std::shared_ptr<Page> page() {
         return registry().template obtain<Page>(m_ports);
     }
+    /// What becomes of an error of the window that comes up. The handlers of some pages pass over what fails and go on;
+    /// where there is no such protection, the error is the platform's to end the program by.
+    enum class Errors { PassedOver, Unhandled };
+
     /// Shows the page of that kind, then hides this one.
     template<typename Page>
-    void goTo() {
-        const auto alive = held();
-        page<Page>()->showForm();
-        hide();
+    void goTo(Errors errors = Errors::PassedOver) {
+        handOver([this] { page<Page>()->showForm(); }, errors);
     }
-    void goToMain();
-    /// Hides this page and shows the progress window.
+    void goToMain(Errors errors = Errors::PassedOver);
+    /// What Cancel does on most pages: marks the wizard as cancelled and goes to the main window.
+    void leaveWizard(Errors errors = Errors::PassedOver);
+    /// Hides this page and shows the progress window, unless the program is asked to close.
     void goToProgress();
 
     /// Shows a picture from the folder of pictures; one that is missing leaves the old one.
@@ -58,6 +62,8 @@ protected:
     AppSettings& settings() const { return m_ports.records.settings; }
 
 private:
+    void handOver(const std::function<void()>& showNext, Errors errors);
+
     PagePorts m_ports;
     PageFrame m_frame;
     Closing m_closing;

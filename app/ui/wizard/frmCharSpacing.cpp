@@ -94,11 +94,6 @@ void frmCharSpacing::cmdBack_Click() {
     goTo<frmImageRecovery>();
 }
 
-void frmCharSpacing::cmdCancel_Click() {
-    markCancelled();
-    goToMain();
-}
-
 void frmCharSpacing::cmdNext_Click() {
     store();
     goTo<frmPageRange>();

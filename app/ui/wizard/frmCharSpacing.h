@@ -21,7 +21,6 @@ private:
     void optCharSpaceNo_Click();
     void cboCharSpacingType_Click(int position);
     void cmdBack_Click() override;
-    void cmdCancel_Click() override;
     void cmdNext_Click() override;
     void cmdLast_Click() override;
 

@@ -1,8 +1,8 @@
 #include "ui/wizard/frmImageRecovery.h"
 
+#include "core/ReconstructionMode.h"
 #include "ui/form/OptionButton.h"
 #include "ui/form/Picture.h"
-#include "ui/wizard/ReconstructionMode.h"
 #include "ui/wizard/frmCharSpacing.h"
 #include "ui/wizard/frmLayout.h"
 #include "ui/wizard/frmOutputSummary.h"
@@ -96,13 +96,13 @@ void frmImageRecovery::store() {
 
 void frmImageRecovery::cmdBack_Click() {
     store();
-    goTo<frmLayout>();
+    goTo<frmLayout>(Errors::Unhandled);
 }
 
 void frmImageRecovery::cmdCancel_Click() {
     markCancelled();
     settings().intRecoverImg = m_intRecoverImgEntry;
-    goToMain();
+    goToMain(Errors::Unhandled);
 }
 
 void frmImageRecovery::cmdNext_Click() {

@@ -97,11 +97,6 @@ void frmLayout::cmdBack_Click() {
     goToMain();
 }
 
-void frmLayout::cmdCancel_Click() {
-    markCancelled();
-    goToMain();
-}
-
 void frmLayout::cmdNext_Click() {
     store();
     goTo<frmImageRecovery>();

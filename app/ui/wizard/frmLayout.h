@@ -25,7 +25,6 @@ private:
     void connectHandlers();
     void option_Click(const Choice& choice);
     void cmdBack_Click() override;
-    void cmdCancel_Click() override;
     void cmdNext_Click() override;
     void cmdLast_Click() override;
 

@@ -1,6 +1,8 @@
 #include "ui/wizard/frmOutputOptions.h"
 
+#include "core/OutputDerivation.h"
 #include "core/PageNumberPair.h"
+#include "core/Paths.h"
 #include "services/SkippingErrors.h"
 #include "ui/form/KeyPress.h"
 #include "ui/form/LinkLabel.h"
@@ -10,22 +12,13 @@
 #include "ui/wizard/frmOutputSummary.h"
 
 #include <QCheckBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 
 namespace {
 
-constexpr std::int16_t kFormatDoc = 0;
-constexpr std::int16_t kFormatRtf = 1;
-constexpr std::int16_t kTrue = -1;
 constexpr int kLongestNumber = 4; ///< characters: keeps both numbers within their fields
 constexpr int kNumberBoxWidth = 72;
-
-/// The part of a path before its last separator; nothing without one.
-QString folderOf(const QString& path) {
-    return path.left(std::max<qsizetype>(path.lastIndexOf(QDir::separator()), 0));
-}
 
 } // namespace
 
@@ -152,9 +145,11 @@ void frmOutputOptions::chkFromTo_Click() {
 
 void frmOutputOptions::cmdBrowse_Click() {
     const auto alive = held();
-    skippingErrors([this] {
-        const auto file = ports().fileDialogs.save(
-            {"Save As", folderOf(job().strOutputFile), "DOC Files (*.doc)|*.doc|RTF Files (*.rtf)|*.rtf", 0, {}});
+    QString folder; // stays empty for a path without one
+    skippingErrors([&] { folder = folderOf(job().strOutputFile); });
+    skippingErrors([&] {
+        const auto file =
+            ports().fileDialogs.save({"Save As", folder, "DOC Files (*.doc)|*.doc|RTF Files (*.rtf)|*.rtf", 0, {}});
         if (!file)
             return;
         const QString extension = file->right(4);
@@ -182,12 +177,12 @@ void frmOutputOptions::store() {
     settings().strRecentFolder = job().strOutputFile;
     job().strOutputShown = lblOutputFormatDoc->text();
     if (chkFromTo->value()) {
-        job().intUseFromTo = 0;
+        job().intUseFromTo = page_numbers::kGiven;
         job().intPageFrom = pageNumberOf(txtFrom->text());
         job().intPageTo = pageNumberOf(txtTo->text());
     }
     if (chkAllPages->value()) {
-        job().intUseFromTo = kTrue;
+        job().intUseFromTo = page_numbers::kNotGiven;
         settings().intPromptPageRange = 0;
     }
 }
@@ -200,12 +195,11 @@ void frmOutputOptions::storeOpening() {
 }
 
 void frmOutputOptions::cmdBack_Click() {
-    goToMain();
+    goToMain(Errors::Unhandled);
 }
 
 void frmOutputOptions::cmdCancel_Click() {
-    markCancelled();
-    goToMain();
+    leaveWizard(Errors::Unhandled);
 }
 
 void frmOutputOptions::cmdNext_Click() {
@@ -213,9 +207,9 @@ void frmOutputOptions::cmdNext_Click() {
     if (!pagesPass())
         return;
     store();
-    settings().intOutputFormat = lblOutputFormatDoc->text() == ".doc" ? kFormatDoc : kFormatRtf;
+    settings().intOutputFormat = lblOutputFormatDoc->text() == ".doc" ? output_format::kDoc : output_format::kRtf;
     storeOpening();
-    goTo<frmLayout>();
+    goTo<frmLayout>(Errors::Unhandled);
 }
 
 void frmOutputOptions::cmdLast_Click() {
@@ -226,5 +220,5 @@ void frmOutputOptions::cmdLast_Click() {
     // goes on to the layout, and the short way keeps the stored one.
     store();
     storeOpening();
-    goTo<frmOutputSummary>();
+    goTo<frmOutputSummary>(Errors::Unhandled);
 }

@@ -1,9 +1,11 @@
 #include "ui/wizard/frmOutputSummary.h"
 
+#include "core/PageNumberPair.h"
+#include "core/ProgressRun.h"
+#include "core/ReconstructionMode.h"
 #include "services/ErrorTrap.h"
 #include "settings/SettingsFile.h"
 #include "ui/form/Picture.h"
-#include "ui/wizard/ReconstructionMode.h"
 #include "ui/wizard/ShownPath.h"
 #include "ui/wizard/frmPageRange.h"
 
@@ -14,8 +16,6 @@
 
 namespace {
 
-constexpr std::int16_t kTrue = -1;
-constexpr std::int16_t kConvert = 1;
 constexpr int kImage9Size = 20;
 
 void showShortened(QLineEdit& box, const QString& path) {
@@ -32,8 +32,8 @@ frmOutputSummary::frmOutputSummary(FormRegistry& registry, PagePorts ports)
     frame().title("lblOutputSummary");
     addLines();
     frame().stretch();
-    cmdBack = frame().button("cmdBack", "< Back");
-    cmdFinish = frame().button("cmdFinish", "Finish", PageFrame::Key::Enter);
+    cmdBack = frame().button(PageFrame::Button::Back);
+    cmdFinish = frame().button(PageFrame::Button::Finish);
     connectHandlers();
 }
 
@@ -98,7 +98,7 @@ void frmOutputSummary::showAllPages() {
 void frmOutputSummary::Form_Load() {
     applyLanguage();
     showPaths();
-    if (job().intUseFromTo != kTrue) {
+    if (job().intUseFromTo != page_numbers::kNotGiven) {
         // The fields of the page prompt, of the first visit only; the activation writes its own over most of them.
         lblAllPages->hide();
         lblFromVal->setText(QString::number(settings().intConvertFrom));
@@ -143,13 +143,12 @@ void frmOutputSummary::cmdFinish_Click() {
     // Written with a small s here, unlike the window's own name: support searches logs for both spellings.
     const ErrorTrap trap("frmOutputsummary", "cmdFinish_Click");
     trap([this] {
-        records().flags.intRunKind = kConvert;
+        records().flags.intRunKind = run_kind::kConvert;
         UpdateSettings(records());
-        if (!records().flags.blnCloseRequested)
-            goToProgress();
+        goToProgress();
     });
 }
 
 void frmOutputSummary::cmdBack_Click() {
-    goTo<frmPageRange>();
+    goTo<frmPageRange>(Errors::Unhandled);
 }

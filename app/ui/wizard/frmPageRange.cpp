@@ -1,9 +1,9 @@
 #include "ui/wizard/frmPageRange.h"
 
+#include "core/ReconstructionMode.h"
 #include "ui/form/LinkLabel.h"
 #include "ui/form/OptionButton.h"
 #include "ui/form/Picture.h"
-#include "ui/wizard/ReconstructionMode.h"
 #include "ui/wizard/frmCharSpacing.h"
 #include "ui/wizard/frmImageRecovery.h"
 #include "ui/wizard/frmOutputSummary.h"
@@ -31,10 +31,7 @@ frmPageRange::frmPageRange(FormRegistry& registry, PagePorts ports)
 }
 
 void frmPageRange::connectHandlers() {
-    connect(m_pages.chkAllPages, &OptionButton::turnedTrue, this, &frmPageRange::chkAllPages_Click);
-    connect(m_pages.chkFromTo, &OptionButton::turnedTrue, this, &frmPageRange::chkFromTo_Click);
-    connect(m_pages.lblAllPages, &LinkLabel::clicked, this, &frmPageRange::lblAllPages_Click);
-    connect(m_pages.lblFrom, &LinkLabel::clicked, this, &frmPageRange::lblFrom_Click);
+    m_pages.connectHandlers([this] { chkAllPages_Click(); }, [this] { chkFromTo_Click(); });
 }
 
 void frmPageRange::Form_Load() {
@@ -72,18 +69,6 @@ void frmPageRange::chkFromTo_Click() {
     loadPicture(*imgPages, "pages_from_to.gif");
 }
 
-// A click on a label runs the logic once more where its option was on already.
-
-void frmPageRange::lblAllPages_Click() {
-    m_pages.chkAllPages->setValue(true);
-    chkAllPages_Click();
-}
-
-void frmPageRange::lblFrom_Click() {
-    m_pages.chkFromTo->setValue(true);
-    chkFromTo_Click();
-}
-
 /// The list as it was typed, blanks included.
 void frmPageRange::store() {
     job().strPageRange = m_pages.txtFrom->text();
@@ -96,14 +81,13 @@ void frmPageRange::store() {
 void frmPageRange::cmdBack_Click() {
     store(); // whatever the box holds; the next activation shows it again
     if (reconstruction_mode::isTextOnly(settings().intReconstMode))
-        goTo<frmImageRecovery>();
+        goTo<frmImageRecovery>(Errors::Unhandled);
     else
-        goTo<frmCharSpacing>();
+        goTo<frmCharSpacing>(Errors::Unhandled);
 }
 
 void frmPageRange::cmdCancel_Click() {
-    markCancelled();
-    goToMain();
+    leaveWizard(Errors::Unhandled);
 }
 
 void frmPageRange::cmdNext_Click() {

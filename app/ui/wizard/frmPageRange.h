@@ -18,8 +18,6 @@ private:
     void connectHandlers();
     void chkAllPages_Click();
     void chkFromTo_Click();
-    void lblAllPages_Click();
-    void lblFrom_Click();
     void cmdBack_Click() override;
     void cmdCancel_Click() override;
     void cmdNext_Click() override;

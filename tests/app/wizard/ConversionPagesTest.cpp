@@ -4,7 +4,6 @@
 #include "ui/form/Picture.h"
 #include "ui/wizard/frmImageRecovery.h"
 
-#include <QLabel>
 #include <QTest>
 
 namespace tavrelion::tests {
@@ -56,10 +55,10 @@ TEST_F(LayoutPage, CancelBringsTheOldOptionBackAtTheNextShowing) {
 }
 
 TEST_F(LayoutPage, ADescriptionWithoutATextGivesAnEmptyCaption) {
+    useOwnLanguageFile([](const QString& line) { return !line.contains("\"lblTableText1\""); });
     records.settings.intReconstMode = 4;
     records.job.strLayoutCaption = "old";
     show("frmLayout");
-    control<QLabel>("frmLayout", "lblTableText1").clear(); // as after a pass over a file without an entry
     click("frmLayout", "cmdNext");
     EXPECT_EQ(records.job.strLayoutCaption, "");
     EXPECT_EQ(records.settings.intReconstMode, 4);

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace tavrelion::tests {
 namespace {
@@ -101,6 +102,15 @@ TEST_F(FormatPage, NextAndLastFollowThePathBoxInBothDirections) {
     setText(kPage, "txtFileBrowsePath", "");
     for (const char* button : {"cmdNext", "cmdLast"})
         EXPECT_FALSE(control(kPage, button).isEnabled()) << button;
+}
+
+TEST_F(FormatPage, AFolderDialogThatFailsCountsAsCancelled) {
+    show(kPage);
+    folderDialog.failsToOpen = true;
+    setText(kPage, "txtFileBrowsePath", "typed");
+    EXPECT_NO_THROW(control<QPushButton>(kPage, "cmdBrowse").click());
+    EXPECT_EQ(text(kPage, "txtFileBrowsePath"), "/out/");
+    EXPECT_EQ(records.job.strImageFolder, "/out/");
 }
 
 struct PageList {

@@ -13,6 +13,8 @@
 #include "ui/wizard/frmPageRange.h"
 
 #include <QAbstractButton>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -87,6 +89,19 @@ void PageFixture::click(const QString& window, const QString& name) {
 
 void PageFixture::type(const QString& window, const QString& box, const QString& keys) {
     QTest::keyClicks(&control(window, box), keys);
+}
+
+void PageFixture::useOwnLanguageFile(const std::function<bool(const QString& line)>& keeps) {
+    QFile shipped(TAVRELION_PROGRAM_FOLDER "/XML/english.xml");
+    QDir(home()).mkpath("XML");
+    QFile own(path("XML/english.xml"));
+    if (!shipped.open(QIODevice::ReadOnly) || !own.open(QIODevice::WriteOnly))
+        qFatal("a test cannot copy the language file");
+    while (!shipped.atEnd())
+        if (const QByteArray line = shipped.readLine(); keeps(QString::fromUtf8(line)))
+            own.write(line);
+    own.close();
+    languages.applicationFolder = home();
 }
 
 QStringList PageFixture::shownWindows() {

@@ -44,6 +44,9 @@ protected:
     /// Types into a box, key by key.
     void type(const QString& window, const QString& box, const QString& keys);
 
+    /// An application folder of the test's own with the lines of the English file for which the condition holds.
+    void useOwnLanguageFile(const std::function<bool(const QString& line)>& keeps);
+
     /// The windows that the user sees: pages, and frmMain and frmProgress if they were shown since the last call.
     QStringList shownWindows();
 

@@ -2,8 +2,8 @@
 
 #include "ui/extract/frmImageFormatOutput.h"
 
-#include <QAbstractButton>
 #include <QFile>
+#include <QPushButton>
 
 #include <ostream>
 
@@ -229,6 +229,29 @@ TEST_F(Transitions, CancelWithoutACommandLineLeavesTheMarkAlone) {
     show("frmLayout");
     click("frmLayout", "cmdCancel");
     EXPECT_EQ(records.flags.intWizardCancelled, 1);
+}
+
+TEST_F(Transitions, PagesPassOverAMainWindowThatFailsToComeUp) {
+    mainWindow.whenShown = [] { throw std::runtime_error("the main window is gone"); };
+    for (const auto& [window, button] :
+         {std::pair{"frmLayout", "cmdBack"}, std::pair{"frmLayout", "cmdCancel"},
+          std::pair{"frmCharSpacing", "cmdCancel"}, std::pair{"frmImageFormatOutput", "cmdCancel"},
+          std::pair{"frmFinishExtractImages", "cmdCancel"}}) {
+        show(window);
+        EXPECT_NO_THROW(control<QPushButton>(window, button).click()) << window << '.' << button;
+        EXPECT_FALSE(form(window)->isVisible()) << window << '.' << button << ": the next statement runs";
+    }
+}
+
+TEST_F(Transitions, WithoutProtectionTheErrorOfTheMainWindowIsThePlatforms) {
+    mainWindow.whenShown = [] { throw std::runtime_error("the main window is gone"); };
+    for (const auto& [window, button] :
+         {std::pair{"frmOutputOptions", "cmdBack"}, std::pair{"frmOutputOptions", "cmdCancel"},
+          std::pair{"frmImageRecovery", "cmdCancel"}, std::pair{"frmPageRange", "cmdCancel"}}) {
+        show(window);
+        EXPECT_THROW(control<QPushButton>(window, button).click(), std::runtime_error) << window << '.' << button;
+        EXPECT_TRUE(form(window)->isVisible()) << window << '.' << button;
+    }
 }
 
 TEST_F(Transitions, TheButtonsWithoutBehaviourAreDisabled) {
