@@ -163,12 +163,27 @@ private:
     std::vector<Figure> m_drawings;
 };
 
+/// Whether so many words of the line follow each other with no more than blanks between them, over `width` or more. The
+/// labels of an axis stand in one line, too, but apart.
+bool hasProse(const Line& line, double width, const GraphicsParameters::Drawings& limits) {
+    Rect run;
+    unsigned words = 0;
+    for (const Word& word : line.words) {
+        const bool isApart = words == 0 || word.gapBefore == Gap::Tab;
+        run = isApart ? word.box : run.united(word.box);
+        words = isApart ? 1 : words + 1;
+        if (words >= limits.wordsOfProse && run.width() >= width)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
     return std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
         return box.contains(Point{line.box.centerX(), line.box.centerY()}) &&
-               line.words.size() >= limits.wordsOfProse && line.box.width() >= limits.proseShare * box.width();
+               hasProse(line, limits.proseShare * box.width(), limits);
     });
 }
 

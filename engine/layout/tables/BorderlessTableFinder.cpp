@@ -95,7 +95,7 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
     aligned.rows.assign(rows.begin() + static_cast<std::ptrdiff_t>(first),
                         rows.begin() + static_cast<std::ptrdiff_t>(end));
     aligned.gaps = findTableColumns(aligned.rows, lines, parameters);
-    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, parameters.tables);
+    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, RowsPart::Any, parameters.tables);
     // What follows the last full row and is no part of it is other text.
     while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&
            aligned.rows.back().pieces.size() == 1) {

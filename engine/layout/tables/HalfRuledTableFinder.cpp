@@ -1,18 +1,25 @@
 #include "layout/tables/HalfRuledTableFinder.h"
 
 #include "layout/tables/AlignedAdmission.h"
+#include "layout/tables/OpenBands.h"
 #include "layout/tables/RuleStack.h"
+#include "layout/tables/RuledAdmission.h"
 
 #include <algorithm>
+#include <optional>
+#include <set>
 
 namespace orvane::layout {
 namespace {
 
-/// The rows of text between two levels of a stack.
+/// Rows of text between two levels of a stack, or beyond its ends.
 struct Band {
     double top = 0;
     double bottom = 0;
     std::vector<PieceRow> rows;
+    bool hasRuleAbove = true;
+    bool hasRuleBelow = true;
+    std::size_t level = 0; ///< index of a level that it touches
 };
 
 std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
@@ -25,9 +32,30 @@ std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& 
         for (const TextPiece& piece : pieces)
             if (box.contains(Point{piece.box.centerX(), piece.box.centerY()}))
                 within.push_back(piece);
-        bands.push_back({box.top, box.bottom, groupIntoRows(std::move(within), parameters)});
+        bands.push_back({box.top, box.bottom, groupIntoRows(std::move(within), parameters), true, true, i});
     }
     return bands;
+}
+
+/// Adds the head above the first rule and the rows below the last one, where the stack is open there: every row below
+/// is a band of its own.
+void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+                  const TableParameters::Tables& parameters, std::vector<Band>& bands) {
+    std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
+    // A rule below the head, or one at each side of it, leaves the table open; more rules close it with their last.
+    const bool isOpenBelow = stack.size() == 1 ? !head.empty()
+                                               : stack.size() == 2 && static_cast<int>(bands.front().rows.size()) <=
+                                                                          parameters.maximumHeaderRows;
+    if (!head.empty()) {
+        const double top = head.front().box.top;
+        bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0});
+    }
+    double top = stack.back().y;
+    for (PieceRow& row : isOpenBelow ? rowsBelow(stack.back(), pieces, parameters) : std::vector<PieceRow>{}) {
+        const double bottom = row.box.bottom;
+        bands.push_back({top, bottom, {std::move(row)}, top == stack.back().y, false, stack.size() - 1});
+        top = bottom;
+    }
 }
 
 bool isHeadingOnly(const Band& band) {
@@ -58,7 +86,8 @@ BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TablePa
         run.end = i + 1;
     }
     // A heading between two tables, a note below: what stands across all columns at the run's ends is no part of it.
-    while (run.end > run.first && isHeadingOnly(bands[run.end - 1]))
+    // Below the last rule it may be the rest of a text; see dropNotes().
+    while (run.end > run.first && bands[run.end - 1].hasRuleBelow && isHeadingOnly(bands[run.end - 1]))
         --run.end;
     return run;
 }
@@ -69,11 +98,29 @@ void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, co
         run.aligned.rows.insert(run.aligned.rows.end(), bands[i].rows.begin(), bands[i].rows.end());
     run.aligned.gaps = findTableColumns(run.aligned.rows, lines, parameters);
     std::size_t start = 0;
-    for (std::size_t i = run.first; i < run.end; ++i) {
-        const std::span rows = std::span(run.aligned.rows).subspan(start, bands[i].rows.size());
-        for (RowGroup group : groupRows(rows, run.aligned.gaps, lines, parameters.tables))
+    for (std::size_t i = run.first; i < run.end;) {
+        std::size_t count = bands[i].rows.size();
+        for (++i; i < run.end && !bands[i].hasRuleAbove; ++i)
+            count += bands[i].rows.size();
+        const std::span rows = std::span(run.aligned.rows).subspan(start, count);
+        const bool isHead = start == 0 && i < run.end && static_cast<int>(count) <= parameters.tables.maximumHeaderRows;
+        for (RowGroup group :
+             groupRows(rows, run.aligned.gaps, lines, isHead ? RowsPart::Head : RowsPart::Any, parameters.tables))
             run.aligned.groups.push_back({group.first + start, group.end + start});
-        start += bands[i].rows.size();
+        start += count;
+    }
+}
+
+/// Takes texts alone in their rows off the open end of a run, unless they go on from the row above.
+void dropNotes(const std::vector<Band>& bands, BandRun& run) {
+    AlignedRows& aligned = run.aligned;
+    while (!aligned.groups.empty() && !bands[run.end - 1].hasRuleBelow) {
+        const std::span rows = std::span(aligned.rows).subspan(aligned.groups.back().first);
+        if (std::any_of(rows.begin(), rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; }))
+            return;
+        run.end -= rows.size(); // one band a row
+        aligned.rows.resize(aligned.groups.back().first);
+        aligned.groups.pop_back();
     }
 }
 
@@ -90,6 +137,30 @@ bool fillsRules(const BandRun& run, const RuleLevel& level, const TableParameter
     return boxOf(run.aligned).width() >= parameters.ruleFill * (level.right - level.left);
 }
 
+/// Whether a rule lies right below the head, or rules close the run above and below.
+enum class Frame { Closed, Headed, None };
+
+Frame frameOf(const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run) {
+    if (bands[run.first].hasRuleAbove && bands[run.end - 1].hasRuleBelow)
+        return Frame::Closed;
+    const bool startsStack = run.first == 0 && (!bands.front().hasRuleAbove || stack.size() > 1);
+    return startsStack && bands.front().hasRuleBelow ? Frame::Headed : Frame::None;
+}
+
+/// Whether the first band has a text in each column but the first, which may need no head.
+bool isHeaded(const std::vector<Band>& bands, const BandRun& run) {
+    std::set<int> headed;
+    for (std::size_t i = 0; i < bands[run.first].rows.size(); ++i) {
+        for (const TextPiece& piece : run.aligned.rows[i].pieces) {
+            const ColumnRange range = columnsOf(piece, run.aligned.gaps);
+            for (int column = range.first; column <= range.last; ++column)
+                headed.insert(column);
+        }
+    }
+    headed.insert(0);
+    return headed.size() == run.aligned.gaps.size() + 1;
+}
+
 /// The edges that rules draw lie on them, the outer ones too.
 void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run) {
     std::size_t group = 0;
@@ -97,14 +168,44 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
     for (std::size_t i = run.first; i < run.end; ++i) {
         while (group < run.aligned.groups.size() && run.aligned.groups[group].first < start)
             ++group;
-        if (!bands[i].rows.empty() && group < run.aligned.groups.size())
+        const bool startsGroup = group < run.aligned.groups.size() && run.aligned.groups[group].first == start;
+        if (!bands[i].rows.empty() && bands[i].hasRuleAbove && startsGroup)
             grid.rowEdges[group] = bands[i].top;
         start += bands[i].rows.size();
     }
-    grid.rowEdges.back() = bands[run.end - 1].bottom;
+    if (bands[run.end - 1].hasRuleBelow)
+        grid.rowEdges.back() = bands[run.end - 1].bottom;
     const Rect text = boxOf(run.aligned);
-    grid.columnEdges.front() = std::min(text.left, stack[run.first].left);
-    grid.columnEdges.back() = std::max(text.right, stack[run.first].right);
+    const RuleLevel& level = stack[bands[run.first].level];
+    grid.columnEdges.front() = std::min(text.left, level.left);
+    grid.columnEdges.back() = std::max(text.right, level.right);
+}
+
+/// The grid of a run, cut to what belongs to it; nothing when it is no table.
+std::optional<TableGrid> gridOfRun(const PageText& page, const RuleStack& stack, const std::vector<Band>& bands,
+                                   const LayoutParameters& parameters, BandRun& run) {
+    const TableParameters::Tables& limits = parameters.tables;
+    if (run.end == run.first || frameOf(stack, bands, run) == Frame::None)
+        return std::nullopt;
+    alignRun(bands, page.lines, parameters, run);
+    dropNotes(bands, run);
+    if (run.aligned.groups.empty() || !fillsRules(run, stack[bands[run.first].level], limits))
+        return std::nullopt;
+    if (frameOf(stack, bands, run) == Frame::Headed && !isHeaded(bands, run))
+        return std::nullopt;
+    if (judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) != TableVerdict::Table)
+        return std::nullopt;
+    TableGrid grid = gridOf(run.aligned, limits.textMargin);
+    snapToRules(grid, stack, bands, run);
+    return isDrawnOver(page, grid, limits) ? std::nullopt : std::optional(std::move(grid));
+}
+
+/// The stacks with most levels first: the more rules agree, the surer they are those of a table.
+std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
+    std::vector<RuleStack> stacks = findRuleStacks(lines, parameters);
+    std::stable_sort(stacks.begin(), stacks.end(),
+                     [](const RuleStack& a, const RuleStack& b) { return a.size() > b.size(); });
+    return stacks;
 }
 
 } // namespace
@@ -112,25 +213,24 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
 std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
                                           const LayoutParameters& parameters) {
     const TableParameters::Tables& limits = parameters.tables;
-    const std::vector<TextPiece> pieces = cutIntoPieces(page.lines, limits);
+    std::vector<TextPiece> pieces = cutIntoPieces(page.lines, limits);
+    std::stable_sort(pieces.begin(), pieces.end(),
+                     [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
     std::vector<TableGrid> grids;
-    for (const RuleStack& stack : findRuleStacks(lines, limits)) {
-        const std::vector<Band> bands = bandsOf(stack, pieces, limits);
+    for (const RuleStack& stack : sortedStacks(lines, limits)) {
+        std::vector<Band> bands = bandsOf(stack, pieces, limits);
+        addOpenBands(stack, pieces, limits, bands);
         for (std::size_t first = 0; first < bands.size();) {
             BandRun run{first, first, {}};
             if (!bands[first].rows.empty() && !isHeadingOnly(bands[first]))
                 run = growRun(bands, first, limits);
-            bool isTable = false;
-            if (run.end > run.first) {
-                alignRun(bands, page.lines, parameters, run);
-                isTable = fillsRules(run, stack[first], limits) &&
-                          judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) == TableVerdict::Table;
-            }
-            if (isTable) {
-                grids.push_back(gridOf(run.aligned, limits.textMargin));
-                snapToRules(grids.back(), stack, bands, run);
-            }
-            first = isTable ? run.end : first + 1;
+            std::optional<TableGrid> grid = gridOfRun(page, stack, bands, parameters, run);
+            first = grid ? run.end : first + 1;
+            const bool isNew = grid && std::none_of(grids.begin(), grids.end(), [&](const TableGrid& other) {
+                                   return other.box().intersects(grid->box());
+                               });
+            if (isNew)
+                grids.push_back(std::move(*grid));
         }
     }
     return grids;

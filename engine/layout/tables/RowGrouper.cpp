@@ -23,7 +23,7 @@ bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
 class GroupBuilder {
 public:
     GroupBuilder(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
-                 const TableParameters::Tables& parameters)
+                 RowsPart part, const TableParameters::Tables& parameters)
         : m_rows(rows)
         , m_gaps(gaps)
         , m_lines(lines)
@@ -32,13 +32,14 @@ public:
             m_contents.push_back(contentOf(row));
         measureColumns();
         measurePitch();
+        countHead(part);
     }
 
     std::vector<RowGroup> join() const {
         std::vector<RowGroup> groups;
         std::set<int> filled;
         for (std::size_t i = 0; i < m_rows.size(); ++i) {
-            if (i == 0 || !goesOn(i, filled)) {
+            if (i == 0 || !(i < m_headRows ? goesOnInHead(i) : goesOn(i, filled))) {
                 groups.push_back({i, i});
                 filled.clear();
             }
@@ -79,6 +80,32 @@ private:
         }
     }
 
+    /// The rows that may be the head: those before the first with numbers, if there is one.
+    void countHead(RowsPart part) {
+        const auto numbers = std::find_if(m_contents.begin(), m_contents.end(),
+                                          [](const RowContent& content) { return content.hasNumber; });
+        const auto count = static_cast<std::size_t>(numbers - m_contents.begin());
+        if (part == RowsPart::Head)
+            m_headRows = m_contents.size();
+        else if (numbers != m_contents.end() && count <= static_cast<std::size_t>(m_parameters.maximumHeaderRows))
+            m_headRows = count;
+    }
+
+    /// Whether row `i` of the head holds further lines of the texts above, which end or begin at one height.
+    bool goesOnInHead(std::size_t i) const {
+        const RowContent& above = m_contents[i - 1];
+        const RowContent& content = m_contents[i];
+        const double pitch = m_rows[i].baseline - m_rows[i - 1].lastBaseline;
+        if (pitch > m_parameters.wrapPitch * m_rows[i].fontSize || content.hasSpan || above.hasSpan ||
+            content.isBold != above.isBold)
+            return false;
+        const auto stands = [](const RowContent& inner, const RowContent& outer) {
+            return std::all_of(inner.byColumn.begin(), inner.byColumn.end(),
+                               [&](const auto& text) { return outer.byColumn.count(text.first) > 0; });
+        };
+        return stands(content, above) || stands(above, content);
+    }
+
     /// Whether row `i` stands so close below the one before as lines of one text do.
     bool isTight(std::size_t i) const {
         const double pitch = m_rows[i].baseline - m_rows[i - 1].lastBaseline;
@@ -115,13 +142,15 @@ private:
     std::vector<RowContent> m_contents;
     std::map<int, double> m_columnRights;
     double m_leastPitch = 0;
+    std::size_t m_headRows = 0;
 };
 
 } // namespace
 
 std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
-                                const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
-    return GroupBuilder(rows, gaps, lines, parameters).join();
+                                const std::vector<Line>& lines, RowsPart part,
+                                const TableParameters::Tables& parameters) {
+    return GroupBuilder(rows, gaps, lines, part, parameters).join();
 }
 
 } // namespace orvane::layout

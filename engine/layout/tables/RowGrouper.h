@@ -12,9 +12,16 @@ struct RowGroup {
     std::size_t end = 0;
 };
 
+/// What is known of rows of text before they are joined.
+enum class RowsPart {
+    Any,  ///< the rows before the first numbers may be the head of the table
+    Head, ///< a rule parts them from the rows below
+};
+
 /// Joins rows of text into rows of a table: a row that holds only the rest of texts which the row above began belongs
-/// to it.
+/// to it. Lines of a head belong together where one of them has texts in all columns of the other.
 std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
-                                const std::vector<Line>& lines, const TableParameters::Tables& parameters);
+                                const std::vector<Line>& lines, RowsPart part,
+                                const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

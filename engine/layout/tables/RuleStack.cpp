@@ -58,8 +58,6 @@ std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, cons
     std::vector<RuleStack> stacks;
     for (RuleStack& sameLeft : partByEdge(findLevels(lines, parameters), leftOf, parameters.endSnap)) {
         for (RuleStack& stack : partByEdge(std::move(sameLeft), rightOf, parameters.endSnap)) {
-            if (stack.size() < 2)
-                continue;
             std::sort(stack.begin(), stack.end(), [](const RuleLevel& a, const RuleLevel& b) { return a.y < b.y; });
             stacks.push_back(std::move(stack));
         }

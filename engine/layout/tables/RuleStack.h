@@ -17,7 +17,7 @@ struct RuleLevel {
 /// Levels of one extent, from top to bottom.
 using RuleStack = std::vector<RuleLevel>;
 
-/// The stacks of two and more levels that the horizontal lines make.
+/// The stacks that the horizontal lines make; many have one level only.
 std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

@@ -47,7 +47,8 @@ bool isTooFlat(const std::vector<Line>& lines, const TableGrid& grid, const Cell
     return flat > parameters.flatShare * filled;
 }
 
-/// Whether a drawing (no picture) lies over several cells.
+} // namespace
+
 bool isDrawnOver(const PageText& page, const TableGrid& grid, const TableParameters::Tables& parameters) {
     const Rect box = grid.box();
     return std::any_of(page.figures.begin(), page.figures.end(), [&](const Figure& figure) {
@@ -59,6 +60,8 @@ bool isDrawnOver(const PageText& page, const TableGrid& grid, const TableParamet
         });
     });
 }
+
+namespace {
 
 bool isPageFrame(const PageText& page, const TableGrid& grid, const CellText& text,
                  const TableParameters::Tables& parameters) {

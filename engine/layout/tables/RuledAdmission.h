@@ -17,4 +17,7 @@ struct GridEvidence {
 TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const CellText& text,
                              const GridEvidence& evidence, const TableParameters::Tables& parameters);
 
+/// Whether a drawing (no picture) lies over several cells: the labels of a chart stand in rows and columns, too.
+bool isDrawnOver(const PageText& page, const TableGrid& grid, const TableParameters::Tables& parameters);
+
 } // namespace orvane::layout

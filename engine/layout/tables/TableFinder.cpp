@@ -6,6 +6,7 @@
 #include "layout/tables/RuledTableFinder.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane::layout {
 namespace {
@@ -21,6 +22,28 @@ std::vector<TableDraft> takeNested(std::vector<TableDraft>& found, const TableGr
         return isWithin;
     });
     return nested;
+}
+
+/// The grids of one column, taken out of `grids`: their texts may show columns that no rule draws.
+std::vector<TableGrid> takeSingleColumns(std::vector<TableGrid>& grids) {
+    const auto first =
+        std::stable_partition(grids.begin(), grids.end(), [](const TableGrid& grid) { return grid.columns() > 1; });
+    std::vector<TableGrid> single(std::make_move_iterator(first), std::make_move_iterator(grids.end()));
+    grids.erase(first, grids.end());
+    return single;
+}
+
+/// Where both were found, a stack of boxes is a table by its texts' columns only if they are many enough: texts at both
+/// sides of a box or two are none.
+void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& halfRuled) {
+    const auto overlapsAny = [](const TableGrid& grid, const std::vector<TableGrid>& others) {
+        return std::any_of(others.begin(), others.end(),
+                           [&](const TableGrid& other) { return other.box().intersects(grid.box()); });
+    };
+    std::erase_if(halfRuled, [&](const TableGrid& grid) {
+        return grid.columns() <= 2 && grid.rows() <= 3 && overlapsAny(grid, stacked);
+    });
+    std::erase_if(stacked, [&](const TableGrid& grid) { return overlapsAny(grid, halfRuled); });
 }
 
 } // namespace
@@ -41,9 +64,14 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
         }
     };
     const std::vector<BorderLine> lines = collectBorderLines(page.rules, limits);
-    take(findRuledGrids(page, lines, limits), lines, TableEdges::Ruled);
+    std::vector<TableGrid> ruled = findRuledGrids(page, lines, limits);
+    std::vector<TableGrid> stacked = takeSingleColumns(ruled);
+    take(std::move(ruled), lines, TableEdges::Ruled);
     const std::vector<BorderLine> others = collectBorderLines(page.rules, limits);
-    take(findHalfRuledGrids(page, others, parameters), others, TableEdges::HalfRuled);
+    std::vector<TableGrid> halfRuled = findHalfRuledGrids(page, others, parameters);
+    chooseBetween(stacked, halfRuled);
+    take(std::move(halfRuled), others, TableEdges::HalfRuled);
+    take(std::move(stacked), others, TableEdges::Ruled);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;

@@ -50,10 +50,18 @@ struct TableParameters {
         double maximumRowSpace = 1.5; ///< of the font size; rows of a table stand no farther apart ...
         double rowSpaceGrowth = 1.6;  ///< ... or no farther than this times the smallest space in the table
 
+        // Rows and columns of a drawn grid between which no rule is drawn.
+        int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them
+        double numberedShare = 0.8; ///< of a cell's lines that must be numbers for it to list them
+
         // Rules between rows only.
-        double ruleFill = 0.75; ///< of the rules' length that the texts between them must take up
-        double levelGap = 20.0; ///< points; rules of one height with a larger gap belong to two tables
-        double endSnap = 6.0;   ///< points; rules above each other whose ends differ by less belong together
+        double ruleFill = 0.75;       ///< of the rules' length that the texts between them must take up
+        double levelGap = 20.0;       ///< points; rules of one height with a larger gap belong to two tables
+        double endSnap = 6.0;         ///< points; rules above each other whose ends differ by less belong together
+        double headReach = 10.0;      ///< of the font size; no head above the first rule is higher
+        double headSpace = 0.8;       ///< of the font size; its lines, and the rule below them, are this close
+        double bodyReach = 10.0;      ///< of the font size; rows below the last rule are not farther apart
+        double openProseShare = 0.55; ///< of the last rule's length; a text alone in its row that is longer runs on
 
         // Words in columns that are no table.
         double crossingPieceShare = 0.25; ///< of the pieces that may reach over a gap

@@ -62,6 +62,21 @@ TEST(FigureFinder, MarksWhatLiesBehindThePageOrItsText) {
     EXPECT_TRUE(read(poster).figures.at(0).isBackground);
 }
 
+// The labels below the axis stand in one line but say nothing together.
+TEST(FigureFinder, TakesTheLabelsOfAnAxisForNoText) {
+    PageContentBuilder page;
+    for (int i = 0; i < 24; ++i)
+        page.line({60.0 + i * 18, 200.0 - i}, {78.0 + i * 18, 199.0 - i});
+    page.horizontalRule(55, 500, 210);
+    page.verticalRule(55, 120, 230);
+    for (int i = 0; i < 9; ++i)
+        page.text(60.0 + i * 50, 220, "Jan " + std::to_string(i), 6);
+    page.horizontalRule(55, 500, 230);
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_FALSE(text.figures[0].isBackground);
+}
+
 TEST(FigureFinder, MakesOneDrawingOfShapesThatStandTogether) {
     PageContentBuilder page;
     page.disk({120, 120}, 20);

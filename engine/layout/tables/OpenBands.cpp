@@ -1,0 +1,77 @@
+#include "layout/tables/OpenBands.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orvane::layout {
+namespace {
+
+bool isBetweenEnds(const PieceRow& row, const RuleLevel& level, const TableParameters::Tables& parameters) {
+    return row.box.left >= level.left - parameters.endSnap && row.box.right <= level.right + parameters.endSnap;
+}
+
+std::vector<TextPiece>::const_iterator firstBelow(const std::vector<TextPiece>& pieces, double y) {
+    return std::lower_bound(pieces.begin(), pieces.end(), y,
+                            [](const TextPiece& piece, double at) { return piece.baseline < at; });
+}
+
+bool meets(const TextPiece& piece, const RuleLevel& level) {
+    return piece.box.right > level.left && piece.box.left < level.right;
+}
+
+} // namespace
+
+std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                const TableParameters::Tables& parameters) {
+    std::vector<TextPiece> above;
+    double reach = 0;
+    for (auto piece = std::make_reverse_iterator(firstBelow(pieces, level.y)); piece != pieces.rend(); ++piece) {
+        if (above.empty())
+            reach = parameters.headReach * piece->fontSize;
+        if (piece->baseline < level.y - reach)
+            break;
+        if (meets(*piece, level))
+            above.push_back(*piece);
+    }
+    const std::vector<PieceRow> rows = groupIntoRows(std::move(above), parameters);
+    double bottom = level.y;
+    auto first = rows.end();
+    while (first != rows.begin()) {
+        const PieceRow& row = *(first - 1);
+        const bool isNear = bottom - row.box.bottom <= parameters.headSpace * row.fontSize;
+        if (!isNear || row.pieces.size() < 2 || !isBetweenEnds(row, level, parameters))
+            break;
+        bottom = row.box.top;
+        --first;
+    }
+    if (rows.end() - first > parameters.maximumHeaderRows)
+        return {};
+    return {first, rows.end()};
+}
+
+std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                const TableParameters::Tables& parameters) {
+    std::vector<TextPiece> below;
+    double last = level.y;
+    for (auto piece = firstBelow(pieces, level.y); piece != pieces.end(); ++piece) {
+        if (piece->baseline > last + parameters.bodyReach * piece->fontSize)
+            break;
+        if (!meets(*piece, level))
+            continue;
+        last = piece->baseline;
+        below.push_back(*piece);
+    }
+    std::vector<PieceRow> rows = groupIntoRows(std::move(below), parameters);
+    double bottom = level.y;
+    const auto end = std::find_if(rows.begin(), rows.end(), [&](const PieceRow& row) {
+        const bool isFar = row.box.top - bottom > parameters.maximumRowSpace * row.fontSize;
+        const bool runsOn =
+            row.pieces.size() == 1 && row.box.width() > parameters.openProseShare * (level.right - level.left);
+        bottom = row.box.bottom;
+        return isFar || runsOn || !isBetweenEnds(row, level, parameters);
+    });
+    rows.erase(end, rows.end());
+    return rows;
+}
+
+} // namespace orvane::layout

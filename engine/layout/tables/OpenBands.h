@@ -1,0 +1,20 @@
+#pragma once
+
+#include "layout/tables/RuleStack.h"
+#include "layout/tables/TextPiece.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// The rows of texts side by side that stand right above a rule, between its ends: the head of a table that has no rule
+/// above it. `pieces` are sorted by their baselines.
+std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                const TableParameters::Tables& parameters);
+
+/// The rows below a rule, between its ends, for as long as they follow each other closely and are no running text: the
+/// body of a table that has no rule below it. `pieces` are sorted by their baselines.
+std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                const TableParameters::Tables& parameters);
+
+} // namespace orvane::layout

@@ -1,0 +1,175 @@
+#include "layout/tables/RowParter.h"
+
+#include "layout/tables/CellPieces.h"
+#include "layout/tables/RowGrouper.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::layout {
+namespace {
+
+/// A cell that lies in one drawn row.
+struct BandCell {
+    std::size_t cell = 0; ///< index into TableGrid::cells
+    std::vector<TextPiece> pieces;
+    bool isListing = false;
+};
+
+/// The rows that the texts of one drawn row make.
+struct TextRows {
+    std::vector<double> tops; ///< y of the edges above all but the first
+    std::vector<double> baselines;
+};
+
+/// Finds the rows within one drawn row.
+class BandReader {
+public:
+    BandReader(const TableGrid& grid, const std::vector<Line>& lines, const TableParameters::Tables& parameters)
+        : m_grid(grid)
+        , m_lines(lines)
+        , m_parameters(parameters) {}
+
+    TextRows read(std::vector<BandCell>& cells) const {
+        std::vector<TextPiece> listed;
+        int numbers = 0;
+        int unwrapped = 0;
+        for (BandCell& cell : cells) {
+            const bool isOfNumbers = isColumnOfNumbers(cell.pieces);
+            const bool isWrapped = isMostlyWrapped(cell);
+            cell.isListing = isLongEnough(cell.pieces) && (isOfNumbers || !isWrapped);
+            if (!cell.isListing)
+                continue;
+            listed.insert(listed.end(), cell.pieces.begin(), cell.pieces.end());
+            numbers += isOfNumbers;
+            unwrapped += !isWrapped;
+        }
+        // Numbers that fill their column may be one list that was broken at the cell's side; two such are not.
+        if (numbers == 0 || (numbers == 1 && unwrapped == 0))
+            return {};
+        return rowsOf(groupIntoRows(std::move(listed), m_parameters));
+    }
+
+private:
+    bool isLongEnough(const std::vector<TextPiece>& pieces) const {
+        return groupIntoRows(pieces, m_parameters).size() >= static_cast<std::size_t>(m_parameters.fewestPartedRows);
+    }
+
+    /// Whether most lines were so long that the next word had no room in the cell, or go on in lower case.
+    bool isMostlyWrapped(const BandCell& cell) const {
+        const double right = m_grid.boxOf(m_grid.cells[cell.cell]).right;
+        int wrapped = 0;
+        for (std::size_t i = 1; i < cell.pieces.size(); ++i) {
+            const TextPiece& piece = cell.pieces[i];
+            const Word& word = m_lines[piece.line].words[piece.firstWord];
+            const double room = right - m_parameters.textMargin - cell.pieces[i - 1].box.right;
+            const char first = word.spans.front().text.empty() ? 0 : word.spans.front().text.front();
+            wrapped +=
+                word.box.width() + m_parameters.blankWidth * piece.fontSize > room || (first >= 'a' && first <= 'z');
+        }
+        return 2 * wrapped > static_cast<int>(cell.pieces.size()) - 1;
+    }
+
+    bool isColumnOfNumbers(const std::vector<TextPiece>& pieces) const {
+        const auto numbers = std::count_if(pieces.begin(), pieces.end(),
+                                           [&](const TextPiece& piece) { return isNumeric(piece, m_lines); });
+        return !pieces.empty() &&
+               static_cast<double>(numbers) >= m_parameters.numberedShare * static_cast<double>(pieces.size());
+    }
+
+    TextRows rowsOf(const std::vector<PieceRow>& rows) const {
+        const auto parted =
+            std::count_if(rows.begin(), rows.end(), [&](const PieceRow& row) { return columnCount(row) >= 2; });
+        if (static_cast<double>(parted) < m_parameters.filledRowShare * static_cast<double>(rows.size()))
+            return {};
+        TextRows found;
+        Rect above;
+        for (const RowGroup& group :
+             groupRows(rows, edgesAsGaps(rows.front().fontSize), m_lines, RowsPart::Any, m_parameters)) {
+            Rect box;
+            for (std::size_t i = group.first; i < group.end; ++i) {
+                box = box.united(rows[i].box);
+                found.baselines.push_back(rows[i].baseline);
+            }
+            if (group.first > 0)
+                found.tops.push_back((above.bottom + box.top) / 2);
+            above = box;
+        }
+        return found;
+    }
+
+    std::size_t columnCount(const PieceRow& row) const {
+        std::vector<int> columns;
+        for (const TextPiece& piece : row.pieces)
+            columns.push_back(intervalAt(m_grid.columnEdges, piece.box.centerX()));
+        std::sort(columns.begin(), columns.end());
+        return static_cast<std::size_t>(std::unique(columns.begin(), columns.end()) - columns.begin());
+    }
+
+    /// The drawn edges as gaps wide enough for texts that reach a little over them.
+    std::vector<ColumnGap> edgesAsGaps(double fontSize) const {
+        const double slack = m_parameters.straddle * fontSize;
+        std::vector<ColumnGap> gaps;
+        for (std::size_t i = 1; i + 1 < m_grid.columnEdges.size(); ++i)
+            gaps.push_back({m_grid.columnEdges[i] - slack, m_grid.columnEdges[i] + slack});
+        return gaps;
+    }
+
+    const TableGrid& m_grid;
+    const std::vector<Line>& m_lines;
+    const TableParameters::Tables& m_parameters;
+};
+
+/// Whether a cell is parted with the rows: its lines stand in rows, and it is no label beside all of them.
+bool followsRows(const BandCell& cell, const TextRows& rows, const TableParameters::Tables& parameters) {
+    if (cell.isListing)
+        return true;
+    const std::vector<PieceRow> texts = groupIntoRows(cell.pieces, parameters);
+    return texts.size() > 1 && std::all_of(texts.begin(), texts.end(), [&](const PieceRow& text) {
+               return std::any_of(rows.baselines.begin(), rows.baselines.end(), [&](double baseline) {
+                   return std::abs(baseline - text.baseline) <= parameters.rowSnap * text.fontSize;
+               });
+           });
+}
+
+} // namespace
+
+TableGrid partAtTextRows(const TableGrid& grid, const std::vector<Line>& lines,
+                         const TableParameters::Tables& parameters) {
+    std::vector<std::vector<BandCell>> bands(static_cast<std::size_t>(grid.rows()));
+    std::vector<std::vector<TextPiece>> pieces = piecesByCell(lines, grid, parameters);
+    for (std::size_t i = 0; i < grid.cells.size(); ++i)
+        if (grid.cells[i].rowSpan == 1)
+            bands[static_cast<std::size_t>(grid.cells[i].row)].push_back({i, std::move(pieces[i]), false});
+
+    const BandReader reader(grid, lines, parameters);
+    std::vector<int> newRow; // of each old row, and of what follows the last
+    std::vector<char> isParted(grid.cells.size(), 0);
+    TableGrid parted{grid.columnEdges, {}, {}};
+    for (std::size_t row = 0; row < bands.size(); ++row) {
+        newRow.push_back(static_cast<int>(parted.rowEdges.size()));
+        parted.rowEdges.push_back(grid.rowEdges[row]);
+        const TextRows rows = reader.read(bands[row]);
+        parted.rowEdges.insert(parted.rowEdges.end(), rows.tops.begin(), rows.tops.end());
+        for (const BandCell& cell : bands[row])
+            isParted[cell.cell] = !rows.tops.empty() && followsRows(cell, rows, parameters);
+    }
+    newRow.push_back(static_cast<int>(parted.rowEdges.size()));
+    parted.rowEdges.push_back(grid.rowEdges.back());
+
+    for (std::size_t i = 0; i < grid.cells.size(); ++i) {
+        const GridCell& cell = grid.cells[i];
+        const int first = newRow[static_cast<std::size_t>(cell.row)];
+        const int end = newRow[static_cast<std::size_t>(cell.row + cell.rowSpan)];
+        for (int row = first; isParted[i] && row < end; ++row)
+            parted.cells.push_back({row, cell.column, 1, cell.columnSpan});
+        if (!isParted[i])
+            parted.cells.push_back({first, cell.column, end - first, cell.columnSpan});
+    }
+    std::sort(parted.cells.begin(), parted.cells.end(), [](const GridCell& a, const GridCell& b) {
+        return a.row != b.row ? a.row < b.row : a.column < b.column;
+    });
+    return parted;
+}
+
+} // namespace orvane::layout

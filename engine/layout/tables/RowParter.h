@@ -1,0 +1,15 @@
+#pragma once
+
+#include "layout/tables/TableGrid.h"
+#include "layout/tables/TableParameters.h"
+#include "layout/text/PageText.h"
+
+namespace orvane::layout {
+
+/// Parts the drawn rows in which several cells list numbers line by line: tables that draw rules around groups of rows
+/// only. A cell that does not follow the lines spans them.
+/// Requires: the grid is tiled.
+TableGrid partAtTextRows(const TableGrid& grid, const std::vector<Line>& lines,
+                         const TableParameters::Tables& parameters);
+
+} // namespace orvane::layout
