@@ -97,7 +97,7 @@ private:
 
     void close(const Strip& strip, double bottom) {
         if (bottom > strip.top)
-            m_closed.push_back({strip.left, strip.right, strip.top, bottom, 0});
+            m_closed.push_back({strip.left, strip.right, strip.top, bottom});
     }
 
     double m_narrowest;
@@ -181,6 +181,8 @@ std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::s
         if (weighGutter(gutter, pieces, fontSize, parameters) && (!best || gutter.rows > best->rows))
             best = gutter;
     }
+    if (best)
+        best->fontSize = fontSize;
     return best;
 }
 

@@ -12,9 +12,10 @@ namespace orvane::layout {
 struct ColumnGutter {
     double left = 0;
     double right = 0;
-    double top = 0;    ///< where text on both sides begins
-    double bottom = 0; ///< where text on one side ends
-    int rows = 0;      ///< lines on the side that has fewer
+    double top = 0;      ///< where text on both sides begins
+    double bottom = 0;   ///< where text on one side ends
+    int rows = 0;        ///< lines on the side that has fewer
+    double fontSize = 0; ///< of most lines around it
 };
 
 /// The strip that parts the most lines, if there are columns at all. Lines may still lead across a gutter as long as no

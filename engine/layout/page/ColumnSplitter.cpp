@@ -58,6 +58,51 @@ void addPart(PagePart& parent, PagePart child) {
         parent.parts.push_back(std::move(child));
 }
 
+struct Rows {
+    double top = 1e9;
+    double bottom = -1e9;
+    std::size_t lines = 0;
+
+    void add(const Rect& box) {
+        top = std::min(top, box.top);
+        bottom = std::max(bottom, box.bottom);
+        ++lines;
+    }
+};
+
+void addRows(const PagePart& part, Rows& rows) {
+    for (const Line& line : part.lines)
+        rows.add(line.box);
+    for (const PagePart& child : part.parts)
+        addRows(child, rows);
+}
+
+/// Where a column is columns itself for the most part, under or over something that leads across them.
+std::optional<Rows> rowsOfColumnsWithin(const PagePart& column) {
+    if (column.kind != Kind::Slices)
+        return std::nullopt;
+    Rows all;
+    addRows(column, all);
+    for (const PagePart& slice : column.parts) {
+        Rows rows;
+        addRows(slice, rows);
+        if (slice.kind == Kind::Columns && 2 * rows.lines > all.lines)
+            return rows;
+    }
+    return std::nullopt;
+}
+
+/// The height without text between the lines that end above `y` and those that begin below it.
+double blankAt(std::span<const Line> lines, double y) {
+    double above = -1e9, below = 1e9;
+    for (const Line& line : lines)
+        if (line.box.centerY() < y)
+            above = std::max(above, line.box.bottom);
+        else
+            below = std::min(below, line.box.top);
+    return below - above;
+}
+
 class ColumnSplitter {
 public:
     ColumnSplitter(std::span<const Rect> walls, const LayoutParameters& parameters)
@@ -75,9 +120,11 @@ public:
         // Words of uneven height may weigh for a gutter that their lines lie beside.
         if (pieces.left.empty() || pieces.right.empty())
             return leaf(std::move(lines));
-        PagePart columns{Kind::Columns, {}, {}};
-        addPart(columns, split(std::move(pieces.left), depth + 1));
-        addPart(columns, split(std::move(pieces.right), depth + 1));
+        PagePart columns = splitSides(pieces, depth);
+        if (narrowToColumnsWithin(*gutter, columns, lines)) {
+            pieces = sortLines(lines, *gutter);
+            columns = splitSides(pieces, depth);
+        }
         if (pieces.above.empty() && pieces.below.empty())
             return columns;
         PagePart slices{Kind::Slices, {}, {}};
@@ -93,6 +140,34 @@ private:
     struct Pieces {
         std::vector<Line> above, left, right, below;
     };
+
+    PagePart splitSides(const Pieces& pieces, int depth) const {
+        PagePart columns{Kind::Columns, {}, {}};
+        addPart(columns, split(pieces.left, depth + 1));
+        addPart(columns, split(pieces.right, depth + 1));
+        return columns;
+    }
+
+    /// A title over two of three columns leaves a gutter beside it; the columns are three from where all of them begin.
+    /// True when the gutter has become lower.
+    bool narrowToColumnsWithin(ColumnGutter& gutter, const PagePart& columns, std::span<const Line> lines) const {
+        const double blank = m_parameters.regions.sliceBlank * gutter.fontSize;
+        bool isNarrowed = false;
+        for (const PagePart& column : columns.parts) {
+            const std::optional<Rows> rows = rowsOfColumnsWithin(column);
+            if (!rows)
+                continue;
+            if (rows->top > gutter.top && blankAt(lines, rows->top) >= blank) {
+                gutter.top = rows->top;
+                isNarrowed = true;
+            }
+            if (rows->bottom < gutter.bottom && blankAt(lines, rows->bottom) >= blank) {
+                gutter.bottom = rows->bottom;
+                isNarrowed = true;
+            }
+        }
+        return isNarrowed;
+    }
 
     PagePart leaf(std::vector<Line> lines) const {
         return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}};

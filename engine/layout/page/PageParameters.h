@@ -16,6 +16,7 @@ struct PageParameters {
         double minimumColumn = 8;  ///< of the font size; narrower columns are labels, not prose
         double minimumFill = 0.55; ///< share of the column that its rows cover; less is labels and values, not prose
         double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
+        double sliceBlank = 1.0;   ///< of the font size; where less is blank across the page, columns run on
         std::size_t minimumEdgeLines = 10; ///< with fewer lines in a column each may be as wide as it
         double edgeShare =
             0.04; ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...

@@ -72,6 +72,13 @@ TEST(PageLayouter, ReadsColumnsOneAfterTheOther) {
           "nine ten eleven .   sixteen seventee    side of the page."},
          left + "|" + right + "|A third column ... stands at the righ side of the page.",
          "three columns"},
+        {{"A title over two of these columns ...   Number 85", "", "",
+          "one two three fou   Nine ten eleven t   A third column ...",
+          "five six seven ei   thirteen fourtee    stands at the righ",
+          "nine ten eleven .   sixteen seventee    side of the page."},
+         "A title over two of these columns ...\tNumber 85=" + left + "|" + right +
+             "|A third column ... stands at the righ side of the page.",
+         "a title over two of three columns"},
         {{"Name:        Miller", "Street:      Long St.", "Town:        Springf."},
          "Name:\tMiller/Street:\tLong St./Town:\tSpringf.",
          "labels and values are read row by row"},
