@@ -19,7 +19,7 @@ std::string readAll(::Stream& stream) {
 }
 
 bool hasTransparency(const PictureSource& source) {
-    return source.mask || source.colorKey;
+    return source.mask || source.colorKey || source.opacityChannel != OpacityChannel::None;
 }
 
 /// What the two values of a bilevel picture look like: 1 when the upper one is light, 0 when it is dark, nothing when

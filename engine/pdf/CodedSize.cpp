@@ -1,6 +1,7 @@
 #include "pdf/CodedSize.h"
 
 #include "pdf/Jbig2Size.h"
+#include "pdf/Jpeg2000Header.h"
 #include "pdf/JpegHeader.h"
 
 #include <string>
@@ -14,35 +15,14 @@ namespace {
 /// Headers stand at the start; what precedes them (profiles, dictionaries of symbols) is seldom longer.
 constexpr int kHeaderReach = 1 << 18;
 
-std::int64_t number(std::string_view bytes, std::size_t at, std::size_t length) {
-    std::int64_t value = 0;
-    for (std::size_t i = 0; i < length; ++i)
-        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
-    return value;
-}
-
 std::optional<PixelSize> ofJpeg(std::string_view bytes) {
     const auto header = readJpegHeader(bytes);
     return header ? std::optional(PixelSize{header->width, header->height}) : std::nullopt;
 }
 
-/// The SIZ segment, which follows the start of the codestream. Source: ITU-T T.800, A.5.1.
 std::optional<PixelSize> ofJpeg2000(std::string_view bytes) {
-    const std::size_t start = bytes.find("\xFF\x4F\xFF\x51");
-    if (start == std::string_view::npos || start + 24 > bytes.size())
-        return std::nullopt;
-    const std::size_t size = start + 8;
-    return PixelSize{number(bytes, size, 4) - number(bytes, size + 8, 4),
-                     number(bytes, size + 4, 4) - number(bytes, size + 12, 4)};
-}
-
-std::string startOf(::Stream& stream) {
-    std::string bytes(kHeaderReach, '\0');
-    stream.reset();
-    const int got = stream.doGetChars(kHeaderReach, reinterpret_cast<unsigned char*>(bytes.data()));
-    stream.close();
-    bytes.resize(static_cast<std::size_t>(got > 0 ? got : 0));
-    return bytes;
+    const auto header = readJpeg2000Header(bytes);
+    return header ? std::optional(PixelSize{header->width, header->height}) : std::nullopt;
 }
 
 /// The symbols that several pictures share stand in a stream of their own.
@@ -54,9 +34,9 @@ std::string startOf(::Stream& stream) {
 }
 
 std::optional<PixelSize> ofJbig2(::Stream& stream, ::Stream& coded) {
-    const auto own = largestJbig2Size(startOf(coded));
+    const auto own = largestJbig2Size(codedStart(coded));
     const ::Object shared = sharedSymbols(stream);
-    const auto ofShared = shared.isStream() ? largestJbig2Size(startOf(*shared.getStream())) : std::nullopt;
+    const auto ofShared = shared.isStream() ? largestJbig2Size(codedStart(*shared.getStream())) : std::nullopt;
     if (!own || (ofShared && ofShared->width * ofShared->height > own->width * own->height))
         return ofShared;
     return own;
@@ -64,15 +44,24 @@ std::optional<PixelSize> ofJbig2(::Stream& stream, ::Stream& coded) {
 
 } // namespace
 
+std::string codedStart(::Stream& stream) {
+    std::string bytes(kHeaderReach, '\0');
+    stream.reset();
+    const int got = stream.doGetChars(kHeaderReach, reinterpret_cast<unsigned char*>(bytes.data()));
+    stream.close();
+    bytes.resize(static_cast<std::size_t>(got > 0 ? got : 0));
+    return bytes;
+}
+
 std::optional<PixelSize> codedSize(::Stream& stream) {
     ::Stream* coded = stream.getNextStream();
     if (!coded)
         return std::nullopt;
     switch (stream.getKind()) {
     case strDCT:
-        return ofJpeg(startOf(*coded));
+        return ofJpeg(codedStart(*coded));
     case strJPX:
-        return ofJpeg2000(startOf(*coded));
+        return ofJpeg2000(codedStart(*coded));
     case strJBIG2:
         return ofJbig2(stream, *coded);
     default:

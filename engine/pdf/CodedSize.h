@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 class Stream;
 
@@ -16,5 +17,8 @@ struct PixelSize {
 /// the PDF need not have said; nothing for other codings and where no size is found. Reads the start of the data and
 /// resets it.
 std::optional<PixelSize> codedSize(::Stream& stream);
+
+/// The first part of a stream's data, as far as headers reach. Resets the stream.
+std::string codedStart(::Stream& stream);
 
 } // namespace orvane::pdf

@@ -1,6 +1,7 @@
 #include "pdf/MaskedPictures.h"
 
 #include "base/PngEncoder.h"
+#include "pdf/MaskOnlyDevice.h"
 #include "pdf/PageSpace.h"
 
 #include <algorithm>
@@ -10,9 +11,7 @@
 #include <fmt/format.h>
 
 #include <Annot.h>
-#include <GfxState.h>
 #include <Page.h>
-#include <SplashOutputDev.h>
 #include <splash/SplashBitmap.h>
 
 namespace orvane::pdf {
@@ -24,105 +23,24 @@ constexpr double kMaxPixels = 16e6;
 constexpr std::chrono::seconds kTimeBudget{5}; ///< for all masked pictures of a page
 
 /// Paints one picture of a page, and what soft masks are made of, and nothing else.
-class OnePictureDevice : public ::SplashOutputDev {
+class OnePictureDevice : public MaskOnlyDevice {
 public:
     /// `scale` is pixels a point.
     OnePictureDevice(SplashColorPtr paper, const Picture& wanted, double scale)
-        : SplashOutputDev(splashModeRGB8, 1, false, paper)
+        : MaskOnlyDevice(paper)
         , m_wanted(wanted)
         , m_scale(scale) {}
 
-    void drawChar(GfxState* state, double x, double y, double dx, double dy, double originX, double originY,
-                  CharCode code, int byteCount, const Unicode* unicode, int unicodeLength) override {
-        if (isInMask())
-            SplashOutputDev::drawChar(state, x, y, dx, dy, originX, originY, code, byteCount, unicode, unicodeLength);
-    }
-    bool beginType3Char(GfxState* state, double x, double y, double dx, double dy, CharCode code,
-                        const Unicode* unicode, int unicodeLength) override {
-        return !isInMask() || SplashOutputDev::beginType3Char(state, x, y, dx, dy, code, unicode, unicodeLength);
-    }
-    void stroke(GfxState* state) override {
-        if (isInMask())
-            SplashOutputDev::stroke(state);
-    }
-    void fill(GfxState* state) override {
-        if (isInMask())
-            SplashOutputDev::fill(state);
-    }
-    void eoFill(GfxState* state) override {
-        if (isInMask())
-            SplashOutputDev::eoFill(state);
-    }
     bool tilingPatternFill(GfxState* state, Gfx* gfx, Catalog* catalog, GfxTilingPattern* pattern, const double* matrix,
                            int x0, int y0, int x1, int y1, double xStep, double yStep) override {
-        if (isInMask())
-            return SplashOutputDev::tilingPatternFill(state, gfx, catalog, pattern, matrix, x0, y0, x1, y1, xStep,
-                                                      yStep);
-        return x1 - x0 > 1 || y1 - y0 > 1; // a single cell may hold the picture
-    }
-    bool useShadedFills(int type) override { return !isInMask() || SplashOutputDev::useShadedFills(type); }
-    bool functionShadedFill(GfxState* state, GfxFunctionShading* shading) override {
-        return !isInMask() || SplashOutputDev::functionShadedFill(state, shading);
-    }
-    bool axialShadedFill(GfxState* state, GfxAxialShading* shading, double from, double to) override {
-        return !isInMask() || SplashOutputDev::axialShadedFill(state, shading, from, to);
-    }
-    bool radialShadedFill(GfxState* state, GfxRadialShading* shading, double from, double to) override {
-        return !isInMask() || SplashOutputDev::radialShadedFill(state, shading, from, to);
-    }
-    bool gouraudTriangleShadedFill(GfxState* state, GfxGouraudTriangleShading* shading) override {
-        return !isInMask() || SplashOutputDev::gouraudTriangleShadedFill(state, shading);
-    }
-    bool patchMeshShadedFill(GfxState* state, GfxPatchMeshShading* shading) override {
-        return !isInMask() || SplashOutputDev::patchMeshShadedFill(state, shading);
-    }
-
-    void drawImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height, bool isInverted,
-                       bool interpolate, bool isInline) override {
-        if (isPainted(*state, reference))
-            SplashOutputDev::drawImageMask(state, reference, stream, width, height, isInverted, interpolate, isInline);
-        else
-            OutputDev::drawImageMask(state, reference, stream, width, height, isInverted, interpolate, isInline);
-    }
-    void drawImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                   GfxImageColorMap* colors, bool interpolate, const int* colorKey, bool isInline) override {
-        if (isPainted(*state, reference))
-            SplashOutputDev::drawImage(state, reference, stream, width, height, colors, interpolate, colorKey,
-                                       isInline);
-        else
-            OutputDev::drawImage(state, reference, stream, width, height, colors, interpolate, colorKey, isInline);
-    }
-    void drawMaskedImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                         GfxImageColorMap* colors, bool interpolate, ::Stream* maskStream, int maskWidth,
-                         int maskHeight, bool isMaskInverted, bool interpolateMask) override {
-        if (isPainted(*state, reference))
-            SplashOutputDev::drawMaskedImage(state, reference, stream, width, height, colors, interpolate, maskStream,
-                                             maskWidth, maskHeight, isMaskInverted, interpolateMask);
-    }
-    void drawSoftMaskedImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
-                             GfxImageColorMap* colors, bool interpolate, ::Stream* maskStream, int maskWidth,
-                             int maskHeight, GfxImageColorMap* maskColors, bool interpolateMask) override {
-        if (isPainted(*state, reference))
-            SplashOutputDev::drawSoftMaskedImage(state, reference, stream, width, height, colors, interpolate,
-                                                 maskStream, maskWidth, maskHeight, maskColors, interpolateMask);
-    }
-
-    void beginTransparencyGroup(GfxState* state, const double* box, GfxColorSpace* blendingSpace, bool isIsolated,
-                                bool isKnockout, bool isForSoftMask) override {
-        m_groups.push_back(isForSoftMask);
-        SplashOutputDev::beginTransparencyGroup(state, box, blendingSpace, isIsolated, isKnockout, isForSoftMask);
-    }
-    void endTransparencyGroup(GfxState* state) override {
-        if (!m_groups.empty())
-            m_groups.pop_back();
-        SplashOutputDev::endTransparencyGroup(state);
+        const bool isSingleCell = x1 - x0 <= 1 && y1 - y0 <= 1; // may hold the picture
+        return (isInMask() || !isSingleCell) &&
+               MaskOnlyDevice::tilingPatternFill(state, gfx, catalog, pattern, matrix, x0, y0, x1, y1, xStep, yStep);
     }
 
 private:
-    bool isInMask() const { return std::find(m_groups.begin(), m_groups.end(), true) != m_groups.end(); }
-
-    bool isPainted(const GfxState& state, const ::Object* reference) const {
-        return isInMask() || (objectNumberOf(reference) == m_wanted.objectNumber && isAsLargeAsWanted(state));
+    bool isWanted(const GfxState& state, const ::Object* reference) override {
+        return objectNumberOf(reference) == m_wanted.objectNumber && isAsLargeAsWanted(state);
     }
     static int objectNumberOf(const ::Object* reference) {
         return reference && reference->isRef() ? reference->getRefNum() : 0;
@@ -138,7 +56,6 @@ private:
 
     const Picture& m_wanted;
     double m_scale;
-    std::vector<bool> m_groups; ///< open ones; true for soft masks
 };
 
 /// What a slice of the page shows of one picture on a ground of one grey, as rows of red, green, blue.

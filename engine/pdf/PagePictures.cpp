@@ -5,6 +5,10 @@
 #include "pdf/PagePicturesImpl.h"
 #include "pdf/PopplerRuntime.h"
 #include "pdf/SourceRows.h"
+#include "pdf/StateMaskPainter.h"
+
+#include <algorithm>
+#include <chrono>
 
 #include <Object.h>
 #include <PDFDoc.h>
@@ -14,6 +18,9 @@ namespace orvane::pdf {
 namespace {
 
 using MaskKind = CollectedPicture::MaskKind;
+
+/// For the masks of the graphics state over all pictures of a page.
+constexpr std::chrono::milliseconds kMaskTime{30'000};
 
 /// The streams of one picture, as long as it is read.
 class OpenStreams {
@@ -50,6 +57,7 @@ PictureSource sourceOf(const PaintedPicture& painted, const CollectedPicture& pi
     source.isInverted = picture.isInverted;
     source.stencilColor = picture.stencilColor;
     source.colorKey = picture.colorKey.empty() ? nullptr : picture.colorKey.data();
+    source.opacityChannel = picture.opacityChannel;
     if (streams.mask())
         source.mask = PictureMask{streams.mask(), picture.maskWidth, picture.maskHeight, picture.maskColors.get(),
                                   picture.isMaskInverted};
@@ -109,6 +117,19 @@ std::unique_ptr<PictureRows> PagePictures::open(std::size_t index, PictureColors
     return std::make_unique<OwningRows>(std::move(picture));
 }
 
+std::optional<StateMask> PagePictures::stateMask(std::size_t index) const {
+    const ComplaintCollector silence;
+    const auto start = std::chrono::steady_clock::now();
+    TimeBudget budget(std::max(kMaskTime - m_impl->maskTime, std::chrono::milliseconds(0)));
+    const CollectedPicture& collected = m_impl->collected[index];
+    std::optional<StateMask> mask;
+    if (!budget.isSpent())
+        mask = paintStateMask({m_impl->painted[index], collected.painting, collected.hasOwnSoftMask()}, *m_impl->page,
+                              m_impl->document, m_impl->repair, budget);
+    m_impl->maskTime += std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    return mask;
+}
+
 std::optional<CodedPicture> PagePictures::coded(std::size_t index) const {
     const ComplaintCollector silence;
     if (m_impl->painted[index].coding == PictureCoding::Samples)
@@ -117,7 +138,10 @@ std::optional<CodedPicture> PagePictures::coded(std::size_t index) const {
     const OpenStreams streams(collected, m_impl->document);
     if (!streams.picture())
         return std::nullopt;
-    return readCoded(sourceOf(m_impl->painted[index], collected, streams));
+    auto coded = readCoded(sourceOf(m_impl->painted[index], collected, streams));
+    if (coded && m_impl->painted[index].isUnderMask)
+        coded->isWhole = false;
+    return coded;
 }
 
 } // namespace orvane::pdf

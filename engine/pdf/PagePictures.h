@@ -3,6 +3,7 @@
 #include "base/Geometry.h"
 #include "base/PictureRows.h"
 #include "pdf/CodedPicture.h"
+#include "pdf/StateMask.h"
 
 #include <memory>
 #include <optional>
@@ -21,7 +22,8 @@ struct PaintedPicture {
     int components = 1; ///< of a pixel
     int bits = 1;       ///< of a component
     bool isStencil = false;
-    bool hasTransparency = false; ///< a mask, a soft mask or a colour key belongs to it
+    bool hasTransparency = false; ///< a mask, a soft mask or a colour key belongs to it or lies over it
+    bool isUnderMask = false;     ///< a soft mask of the graphics state lies over it
     PictureCoding coding = PictureCoding::Samples;
 };
 
@@ -45,9 +47,13 @@ public:
 
     const std::vector<PaintedPicture>& painted() const;
 
-    /// Opens a picture for reading, its transparency included. Nothing comes back, and `trouble` says why, when it is
-    /// beyond limits or has no data.
+    /// Opens a picture for reading, its own transparency included. Nothing comes back, and `trouble` says why, when it
+    /// is beyond limits or has no data.
     std::unique_ptr<PictureRows> open(std::size_t index, PictureColors colors, std::string& trouble) const;
+
+    /// What the soft mask of the graphics state leaves of a picture that is under one. Nothing comes back when painting
+    /// the masks takes too long.
+    std::optional<StateMask> stateMask(std::size_t index) const;
 
     /// The picture's own data, for a stream that holds a file format's data; nothing for others and for inline
     /// pictures.

@@ -49,6 +49,7 @@ void PageReader::drawImage(GfxState* state, ::Object* reference, ::Stream* strea
                            GfxImageColorMap* colors, bool, const int* colorKey, bool) {
     PictureSource source = sourceOf(stream, width, height, colors);
     source.colorKey = colorKey;
+    source.opacityChannel = opacityChannelOf(*stream, colors->getNumPixelComps());
     addPicture(*state, source, reference);
 }
 

@@ -82,7 +82,8 @@ struct PdfDocument::Impl {
         if (collector.oversizedInlines() > 0)
             diagnostics.add(DiagnosticKind::PictureUnreadable, page.getNum(),
                             fmt::format("{} inline pictures are too large", collector.oversizedInlines()));
-        return std::make_unique<PagePictures::Impl>(*document, collector.takePainted(), collector.takeCollected());
+        return std::make_unique<PagePictures::Impl>(
+            PagePictures::Impl{*document, &page, repair, collector.takePainted(), collector.takeCollected(), {}});
     }
 
     ::Page* page(int number) {
@@ -177,7 +178,8 @@ PagePictures PdfDocument::paintedPictures(int number, Diagnostics& diagnostics) 
     ::Page* page = m_impl->page(number);
     if (!page || !page->isOk()) {
         diagnostics.add(DiagnosticKind::PageUnreadable, number, "the page cannot be read");
-        return PagePictures(std::make_unique<PagePictures::Impl>(*m_impl->document));
+        return PagePictures(
+            std::make_unique<PagePictures::Impl>(PagePictures::Impl{*m_impl->document, nullptr, {}, {}, {}, {}}));
     }
     const ComplaintCollector complaints;
     TimeBudget budget(PageReadOptions().timeBudget);

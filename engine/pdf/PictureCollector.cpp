@@ -123,6 +123,8 @@ bool PictureCollector::readInline(const Painting& painting, CollectedPicture& pi
 }
 
 void PictureCollector::add(const Painting& painting, CollectedPicture picture) {
+    if (m_maskDepth == 0 && m_patternDepth == 0)
+        picture.painting = m_nextPainting++;
     PaintedPicture painted;
     painted.width = painting.width;
     painted.height = painting.height;
@@ -132,7 +134,8 @@ void PictureCollector::add(const Painting& painting, CollectedPicture picture) {
         painted.components = painting.colors->getNumPixelComps();
         painted.bits = painting.colors->getBits();
     }
-    painted.hasTransparency = picture.maskKind != CollectedPicture::MaskKind::None || !picture.colorKey.empty();
+    painted.hasTransparency = picture.maskKind != CollectedPicture::MaskKind::None || !picture.colorKey.empty() ||
+                              picture.opacityChannel != OpacityChannel::None;
     picture.colors = copyOf(painting.colors);
     if (painting.reference && painting.reference->isRef()) {
         picture.reference = painting.reference->getRef();
@@ -147,8 +150,24 @@ void PictureCollector::add(const Painting& painting, CollectedPicture picture) {
     }
     if (m_maskDepth > 0)
         return;
+    const bool isUnderMask = m_hasMask && !picture.hasOwnSoftMask();
     m_painted.push_back(std::move(painted));
     m_collected.push_back(std::move(picture));
+    if (isUnderMask)
+        coverFrom(m_painted.size() - 1);
+}
+
+void PictureCollector::coverFrom(std::size_t first) {
+    // A pattern's pictures stand once for all its cells, which lie anywhere under a mask.
+    if (m_maskDepth > 0 || m_patternDepth > 0)
+        return;
+    for (std::size_t i = first; i < m_painted.size(); ++i) {
+        if (m_painted[i].isUnderMask)
+            continue;
+        m_painted[i].isUnderMask = true;
+        m_painted[i].hasTransparency = true;
+        m_painted[i].identity += " masked";
+    }
 }
 
 void PictureCollector::drawImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
@@ -166,6 +185,7 @@ void PictureCollector::drawImage(GfxState* state, ::Object* reference, ::Stream*
     CollectedPicture picture;
     if (colorKey)
         picture.colorKey.assign(colorKey, colorKey + 2 * colors->getNumPixelComps());
+    picture.opacityChannel = opacityChannelOf(*stream, colors->getNumPixelComps());
     add({*state, reference, *stream, width, height, colors}, std::move(picture));
 }
 
@@ -193,15 +213,28 @@ void PictureCollector::drawSoftMaskedImage(GfxState* state, ::Object* reference,
 
 void PictureCollector::beginTransparencyGroup(GfxState*, const double*, GfxColorSpace*, bool, bool,
                                               bool isForSoftMask) {
-    m_groups.push_back(isForSoftMask);
+    m_groups.push_back({isForSoftMask, m_painted.size()});
     m_maskDepth += isForSoftMask ? 1 : 0;
 }
 
 void PictureCollector::endTransparencyGroup(GfxState*) {
     if (m_groups.empty())
         return;
-    m_maskDepth -= m_groups.back() ? 1 : 0;
+    m_endedGroup = m_groups.back();
+    m_maskDepth -= m_endedGroup.isSoftMask ? 1 : 0;
     m_groups.pop_back();
+}
+
+void PictureCollector::paintTransparencyGroup(GfxState*, const double*) {
+    if (m_hasMask)
+        coverFrom(m_endedGroup.firstPainted);
+}
+
+void PictureCollector::restoreState(GfxState*) {
+    if (m_maskLevels.empty())
+        return;
+    m_hasMask = m_maskLevels.back();
+    m_maskLevels.pop_back();
 }
 
 } // namespace orvane::pdf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pdf/OpacityChannel.h"
 #include "pdf/PagePictures.h"
 #include "pdf/PagePlayer.h"
 
@@ -27,6 +28,11 @@ struct CollectedPicture {
     int maskHeight = 0;
     bool isMaskInverted = false;
     std::unique_ptr<GfxImageColorMap> maskColors;
+    OpacityChannel opacityChannel = OpacityChannel::None;
+    int painting = 0; ///< counts all that the page paints, without what masks and patterns are made of
+
+    /// A picture's own soft mask overrides that of the graphics state. Source: ISO 32000-1, 11.6.5.3.
+    bool hasOwnSoftMask() const { return maskKind == MaskKind::Soft || opacityChannel != OpacityChannel::None; }
 };
 
 /// The output device that writes down which pictures a page paints. Text, paths and shadings are passed over.
@@ -69,8 +75,13 @@ public:
                                   bool isInverted, bool isInline, double* baseMatrix) override;
     void unsetSoftMaskFromImageMask(GfxState*, double*) override {}
 
+    void saveState(GfxState*) override { m_maskLevels.push_back(m_hasMask); }
+    void restoreState(GfxState*) override;
+    void setSoftMask(GfxState*, const double*, bool, Function*, GfxColor*) override { m_hasMask = true; }
+    void clearSoftMask(GfxState*) override { m_hasMask = false; }
     void beginTransparencyGroup(GfxState*, const double*, GfxColorSpace*, bool, bool, bool isForSoftMask) override;
     void endTransparencyGroup(GfxState*) override;
+    void paintTransparencyGroup(GfxState*, const double*) override;
 
 private:
     /// A painting as the library tells of it.
@@ -84,13 +95,25 @@ private:
     };
     void add(const Painting& painting, CollectedPicture picture);
     bool readInline(const Painting& painting, CollectedPicture& picture);
+    /// Notes that a soft mask lies over the pictures from `first` on.
+    void coverFrom(std::size_t first);
+
+    /// A transparency group.
+    struct Group {
+        bool isSoftMask = false;
+        std::size_t firstPainted = 0;
+    };
 
     ::PDFDoc& m_document;
     TimeBudget& m_budget;
     std::vector<PaintedPicture> m_painted;
     std::vector<CollectedPicture> m_collected;
-    std::vector<bool> m_groups; ///< open ones; true for soft masks
+    std::vector<Group> m_groups; ///< open ones
+    Group m_endedGroup;          ///< the last
     int m_maskDepth = 0;
+    bool m_hasMask = false; ///< a soft mask holds for what is painted
+    std::vector<bool> m_maskLevels;
+    int m_nextPainting = 0;
     int m_patternDepth = 0;
     std::set<int> m_patterns; ///< object numbers of those that were looked through
     std::size_t m_inlineBytes = 0;

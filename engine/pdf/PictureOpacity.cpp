@@ -6,8 +6,27 @@
 #include <algorithm>
 
 #include <GfxState.h>
+#include <Object.h>
+#include <Stream.h>
 
 namespace orvane::pdf {
+namespace {
+
+/// The ground of colours that the picture's own data blends; without a word about it, black.
+Color groundOfData(const PictureSource& source) {
+    const ::Object matte = source.stream->getDict()->lookup("Matte");
+    const int components = source.colors->getNumPixelComps();
+    if (!matte.isArray() || matte.arrayGetLength() != components)
+        return kBlack;
+    GfxColor color{};
+    for (int i = 0; i < components; ++i)
+        color.c[i] = dblToCol(matte.arrayGet(i).getNumWithDefaultValue(0));
+    GfxRGB rgb;
+    source.colors->getColorSpace()->getRGB(&color, &rgb);
+    return toColor(rgb);
+}
+
+} // namespace
 
 void applyColorKey(const PictureSource& source, const std::uint8_t* samples, std::vector<std::uint8_t>& alpha) {
     const int components = source.colors->getNumPixelComps();
@@ -46,7 +65,17 @@ void MaskRows::read(int y, int height, std::vector<std::uint8_t>& alpha) {
     }
 }
 
+void splitOpacity(const std::uint8_t* samples, int components, std::uint8_t* colors, std::vector<std::uint8_t>& alpha) {
+    for (std::uint8_t& opacity : alpha) {
+        colors = std::copy_n(samples, components, colors);
+        opacity = samples[components];
+        samples += components + 1;
+    }
+}
+
 std::optional<Color> matteOf(const PictureSource& source) {
+    if (source.opacityChannel == OpacityChannel::Blended)
+        return groundOfData(source);
     if (!source.mask || !source.mask->colors)
         return std::nullopt;
     const GfxColor* matte = source.mask->colors->getMatteColor();

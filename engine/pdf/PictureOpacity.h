@@ -15,6 +15,9 @@ namespace orvane::pdf {
 /// Source: ISO 32000-1, 8.9.6.4.
 void applyColorKey(const PictureSource& source, const std::uint8_t* samples, std::vector<std::uint8_t>& alpha);
 
+/// Parts a row of samples that hold their pixels' opacity behind `components` colours; `alpha` has one value a pixel.
+void splitOpacity(const std::uint8_t* samples, int components, std::uint8_t* colors, std::vector<std::uint8_t>& alpha);
+
 /// Reads the mask of a picture in the size in which the picture is read.
 class MaskRows {
 public:

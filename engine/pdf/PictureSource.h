@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Color.h"
+#include "pdf/OpacityChannel.h"
 
 #include <optional>
 #include <string>
@@ -29,6 +30,7 @@ struct PictureSource {
     Color stencilColor;
     const int* colorKey = nullptr; ///< ranges of samples that are transparent, two a component
     std::optional<PictureMask> mask;
+    OpacityChannel opacityChannel = OpacityChannel::None;
     std::string colorProfile; ///< ICC profile of the samples, where it is wanted and there is one
 };
 

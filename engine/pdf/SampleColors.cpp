@@ -23,8 +23,13 @@ bool isBlackAndWhite(const std::vector<Color>& table) {
 
 std::vector<Color> colorTable(GfxImageColorMap& colors) {
     std::vector<Color> table(std::size_t{1} << std::min(colors.getBits(), 8));
+    const auto calibrated = CalibratedColors::of(colors);
     for (std::size_t value = 0; value < table.size(); ++value) {
         const auto sample = static_cast<unsigned char>(value);
+        if (calibrated) {
+            table[value] = calibrated->at(sample);
+            continue;
+        }
         GfxRGB rgb;
         colors.getRGB(&sample, &rgb);
         table[value] = toColor(rgb);
@@ -49,6 +54,8 @@ SampleColors::SampleColors(const PictureSource& source)
         m_kind = isBlackAndWhite(m_table) ? PixelKind::Bilevel
                  : isGrayTable(m_table)   ? PixelKind::Gray
                                           : PixelKind::Palette;
+    } else {
+        m_calibrated = CalibratedColors::of(m_colors);
     }
 }
 
@@ -78,6 +85,8 @@ void SampleColors::readFull(const std::uint8_t* samples, std::uint8_t* row, int 
             row[x * 3 + 1] = color.green;
             row[x * 3 + 2] = color.blue;
         }
+    } else if (m_calibrated) {
+        m_calibrated->readRgb(samples, row, width);
     } else {
         m_colors.getRGBLine(const_cast<unsigned char*>(samples), row, width);
     }

@@ -2,9 +2,11 @@
 
 #include "base/Color.h"
 #include "base/PictureRows.h"
+#include "pdf/CalibratedColors.h"
 #include "pdf/PictureSource.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 class GfxImageColorMap;
@@ -39,6 +41,7 @@ private:
     PixelKind m_kind = PixelKind::Rgb;
     bool m_isOwnProfile; ///< the samples stay as they are, since their profile goes with them
     std::vector<Color> m_table;
+    std::optional<CalibratedColors> m_calibrated; ///< of three components
 };
 
 } // namespace orvane::pdf

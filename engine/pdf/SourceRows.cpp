@@ -100,6 +100,8 @@ public:
         , m_pixels(static_cast<std::size_t>(source.width) * 3)
         , m_keyed(static_cast<std::size_t>(source.width))
         , m_alpha(static_cast<std::size_t>(format().width)) {
+        if (source.opacityChannel != OpacityChannel::None)
+            m_split.resize(m_keyed.size() * static_cast<std::size_t>(source.colors->getNumPixelComps()));
         if (mask)
             m_mask.emplace(*mask);
     }
@@ -108,6 +110,10 @@ public:
         const std::uint8_t* samples = m_samples->at(m_next, format().height);
         std::fill(m_keyed.begin(), m_keyed.end(), static_cast<std::uint8_t>(samples ? 255 : 0));
         std::fill(m_alpha.begin(), m_alpha.end(), std::uint8_t{255});
+        if (samples && !m_split.empty()) {
+            splitOpacity(samples, m_source.colors->getNumPixelComps(), m_split.data(), m_keyed);
+            samples = m_split.data();
+        }
         if (samples) {
             m_colors.readFull(samples, m_pixels.data(), m_source.width);
             if (m_source.colorKey)
@@ -146,6 +152,7 @@ private:
     std::optional<Color> m_matte;
     std::vector<std::uint8_t> m_pixels; ///< the picture's own row
     std::vector<std::uint8_t> m_keyed;  ///< its opacity
+    std::vector<std::uint8_t> m_split;  ///< its samples, where their opacity stands between them
     std::vector<std::uint8_t> m_alpha;
     int m_next = 0;
 };
@@ -170,7 +177,9 @@ std::unique_ptr<PictureRows> openRows(const PictureSource& source, SampleDepth d
         return nullptr;
     const int components = source.colors ? source.colors->getNumPixelComps() : 1;
     const int bits = source.colors ? source.colors->getBits() : 1;
-    auto samples = std::make_unique<SampleRows>(*source.stream, source.width, source.height, components, bits);
+    const bool hasOpacity = source.opacityChannel != OpacityChannel::None;
+    auto samples = std::make_unique<SampleRows>(*source.stream, source.width, source.height,
+                                                components + (hasOpacity ? 1 : 0), bits);
     if (samples->isEmpty()) {
         trouble = "a picture's data cannot be read";
         return nullptr;
@@ -179,7 +188,7 @@ std::unique_ptr<PictureRows> openRows(const PictureSource& source, SampleDepth d
         return std::make_unique<StencilRows>(source, std::move(samples));
     const SampleColors colors(source);
     const PictureMask* mask = source.mask && isWithinLimits(*source.mask) ? &*source.mask : nullptr;
-    if (mask || source.colorKey)
+    if (mask || source.colorKey || hasOpacity)
         return std::make_unique<MaskedRows>(source, mask, colors, std::move(samples));
     PixelKind kind = colors.kind();
     if (depth == SampleDepth::Full && canStayDeep(source))

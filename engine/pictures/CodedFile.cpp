@@ -17,7 +17,7 @@ std::string extensionOf(const pdf::CodedPicture& picture) {
     case PictureCoding::Jbig2:
         return "jb2";
     case PictureCoding::Fax:
-        return canHoldFax(picture.fax) ? "tif" : "";
+        return canHoldFax(picture) ? "tif" : "";
     case PictureCoding::Samples:
         break;
     }

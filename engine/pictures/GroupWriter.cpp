@@ -2,6 +2,7 @@
 
 #include "pictures/CodedFile.h"
 #include "pictures/ConvertedRows.h"
+#include "pictures/FadedRows.h"
 #include "pictures/JoinedRows.h"
 #include "pictures/PictureWriter.h"
 
@@ -92,6 +93,11 @@ std::unique_ptr<PictureRows> GroupWriter::open(std::size_t index, pdf::PictureCo
     auto rows = m_pictures.open(index, colors, trouble);
     if (!rows)
         tell(DiagnosticKind::PictureUnreadable, trouble);
+    if (!rows || !m_pictures.painted()[index].isUnderMask)
+        return rows;
+    if (auto mask = m_pictures.stateMask(index))
+        return fadeRows(std::move(rows), std::move(*mask));
+    tell(DiagnosticKind::PictureSimplified, "a picture comes without the soft mask that lies over it");
     return rows;
 }
 

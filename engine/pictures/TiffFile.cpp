@@ -3,8 +3,10 @@
 #include "pictures/ConvertedRows.h"
 
 #include <algorithm>
+#include <bit>
 #include <memory>
 #include <new>
+#include <string_view>
 #include <vector>
 
 #include <tiffio.h>
@@ -133,6 +135,19 @@ void describePixels(TIFF* tiff, const PixelFormat& format) {
                      format.colorProfile.data());
 }
 
+/// Whether fax data begins with an end of a line: eleven zeros or more, and a one. Source: ITU-T T.4, 4.1.2.
+bool beginsWithEndOfLine(std::string_view bytes) {
+    constexpr int kLeastZeros = 11;
+    int zeros = 0;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte != 0)
+            return zeros + std::countl_zero(byte) >= kLeastZeros;
+        zeros += 8;
+    }
+    return false;
+}
+
 /// The library takes samples of 16 bits in the machine's order.
 void toMachineOrder(std::vector<std::uint8_t>& row) {
     for (std::size_t at = 0; at + 1 < row.size(); at += 2) {
@@ -162,9 +177,14 @@ void writeTiff(PictureRows& rows, const Resolution& resolution, OutputFile& file
     require(TIFFWriteDirectory(tiff.get()) == 1, file);
 }
 
-bool canHoldFax(const pdf::FaxParameters& fax) {
-    // Rows that begin at whole bytes have a name only where they are one-dimensional and bare.
-    return !fax.isByteAligned || (fax.k == 0 && !fax.hasEndOfLine);
+bool canHoldFax(const pdf::CodedPicture& picture) {
+    const pdf::FaxParameters& fax = picture.fax;
+    const bool hasEnds = beginsWithEndOfLine(picture.bytes);
+    if (fax.k < 0)
+        return !fax.isByteAligned;
+    // Readers look for group 3 rows behind ends of lines. Without these there is a name for one-dimensional rows that
+    // begin at whole bytes; with both the bytes are filled in another way than in a PDF.
+    return fax.isByteAligned ? fax.k == 0 && !fax.hasEndOfLine && !hasEnds : hasEnds;
 }
 
 void writeFaxTiff(const pdf::CodedPicture& picture, int height, const Resolution& resolution, OutputFile& file) {

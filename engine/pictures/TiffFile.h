@@ -15,7 +15,7 @@ void writeTiff(PictureRows& rows, const Resolution& resolution, OutputFile& file
 inline constexpr std::int64_t kMaxTiffBytes = 0xF0000000;
 
 /// Whether TIFF has a name for the way in which fax data is coded.
-bool canHoldFax(const pdf::FaxParameters& fax);
+bool canHoldFax(const pdf::CodedPicture& picture);
 
 /// Puts fax data into a TIFF file as it stands. Requires: canHoldFax().
 void writeFaxTiff(const pdf::CodedPicture& picture, int height, const Resolution& resolution, OutputFile& file);

@@ -1,5 +1,6 @@
 #include "Pixels.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -24,11 +25,22 @@ Pixels readPng(const std::vector<std::byte>& bytes) {
         ADD_FAILURE() << "not a PNG: " << image.message;
         return pixels;
     }
-    image.format = PNG_FORMAT_RGBA;
+    // The library takes 16 bits for linear light; read as such they stay as they are.
+    const bool isDeep = (image.format & PNG_FORMAT_FLAG_LINEAR) != 0;
+    image.format = isDeep ? PNG_FORMAT_LINEAR_RGB_ALPHA : PNG_FORMAT_RGBA;
     pixels.width = static_cast<int>(image.width);
     pixels.height = static_cast<int>(image.height);
-    pixels.rgba.resize(PNG_IMAGE_SIZE(image));
-    EXPECT_TRUE(png_image_finish_read(&image, nullptr, pixels.rgba.data(), 0, nullptr)) << image.message;
+    std::vector<std::uint8_t> read(PNG_IMAGE_SIZE(image));
+    EXPECT_TRUE(png_image_finish_read(&image, nullptr, read.data(), 0, nullptr)) << image.message;
+    if (!isDeep) {
+        pixels.rgba = std::move(read);
+        return pixels;
+    }
+    for (std::size_t at = 0; at + 1 < read.size(); at += 2) {
+        std::uint16_t sample = 0;
+        std::copy_n(read.begin() + static_cast<std::ptrdiff_t>(at), 2, reinterpret_cast<std::uint8_t*>(&sample));
+        pixels.rgba.push_back(static_cast<std::uint8_t>(sample >> 8));
+    }
     return pixels;
 }
 
