@@ -36,8 +36,21 @@ PictureCoding codingOf(const ::Stream& stream) {
     }
 }
 
-std::unique_ptr<GfxImageColorMap> copyOf(const GfxImageColorMap* colors) {
-    return std::unique_ptr<GfxImageColorMap>(colors ? colors->copy() : nullptr);
+/// The library's own copy reads beyond the tables of samples of 16 bits, which are as long as those of 8: such a map is
+/// made anew.
+std::unique_ptr<GfxImageColorMap> copyOf(GfxImageColorMap* colors) {
+    if (!colors || colors->getBits() <= 8)
+        return std::unique_ptr<GfxImageColorMap>(colors ? colors->copy() : nullptr);
+    auto* limits = new ::Array(nullptr);
+    for (int i = 0; i < colors->getNumPixelComps(); ++i) {
+        limits->add(::Object(colors->getDecodeLow(i)));
+        limits->add(::Object(colors->getDecodeHigh(i)));
+    }
+    ::Object decode(limits);
+    auto copy = std::make_unique<GfxImageColorMap>(colors->getBits(), &decode, colors->getColorSpace()->copy());
+    if (colors->getMatteColor())
+        copy->setMatteColor(colors->getMatteColor());
+    return copy;
 }
 
 Color fillColor(GfxState& state) {
