@@ -117,6 +117,18 @@ std::unique_ptr<PictureRows> PagePictures::open(std::size_t index, PictureColors
     return std::make_unique<OwningRows>(std::move(picture));
 }
 
+std::unique_ptr<PictureRows> PagePictures::openMask(std::size_t index) const {
+    const ComplaintCollector silence;
+    const CollectedPicture& collected = m_impl->collected[index];
+    auto picture = std::make_unique<OpenPicture>(OpenPicture{OpenStreams(collected, m_impl->document), {}, nullptr});
+    picture->source = sourceOf(m_impl->painted[index], collected, picture->streams);
+    if (picture->source.mask)
+        picture->rows = openMaskRows(*picture->source.mask);
+    if (!picture->rows)
+        return nullptr;
+    return std::make_unique<OwningRows>(std::move(picture));
+}
+
 std::optional<StateMask> PagePictures::stateMask(std::size_t index) const {
     const ComplaintCollector silence;
     const auto start = std::chrono::steady_clock::now();

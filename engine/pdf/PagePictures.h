@@ -51,6 +51,10 @@ public:
     /// is beyond limits or has no data.
     std::unique_ptr<PictureRows> open(std::size_t index, PictureColors colors, std::string& trouble) const;
 
+    /// Opens the mask that is a picture's own, in the mask's size: white is opaque. Nothing comes back where it has
+    /// none or that cannot be read.
+    std::unique_ptr<PictureRows> openMask(std::size_t index) const;
+
     /// What the soft mask of the graphics state leaves of a picture that is under one. Nothing comes back when painting
     /// the masks takes too long.
     std::optional<StateMask> stateMask(std::size_t index) const;

@@ -27,6 +27,9 @@ public:
     /// Opacity of the pixels of row `y` of `height`; above and below the mask's data all is opaque.
     void read(int y, int height, std::vector<std::uint8_t>& alpha);
 
+    bool isEmpty() const { return m_samples.isEmpty(); }
+    bool isCutShort() const { return m_samples.isCutShort(); }
+
 private:
     const PictureMask& m_mask;
     std::vector<Color> m_levels; ///< of a soft mask

@@ -157,6 +157,35 @@ private:
     int m_next = 0;
 };
 
+/// A mask as a picture of its own.
+class MaskPictureRows : public PictureRows {
+public:
+    explicit MaskPictureRows(const PictureMask& mask)
+        : PictureRows({mask.width,
+                       mask.height,
+                       mask.colors && mask.colors->getBits() > 1 ? PixelKind::Gray : PixelKind::Bilevel,
+                       {},
+                       {},
+                       {}})
+        , m_mask(mask)
+        , m_alpha(static_cast<std::size_t>(mask.width)) {}
+
+    bool isEmpty() const { return m_mask.isEmpty(); }
+
+    void read(std::uint8_t* row) override {
+        m_mask.read(m_next++, format().height, m_alpha);
+        const bool isBilevel = format().kind == PixelKind::Bilevel;
+        std::transform(m_alpha.begin(), m_alpha.end(), row,
+                       [&](std::uint8_t alpha) { return isBilevel ? static_cast<std::uint8_t>(alpha >> 7) : alpha; });
+    }
+    bool isCutShort() const override { return m_mask.isCutShort(); }
+
+private:
+    MaskRows m_mask;
+    std::vector<std::uint8_t> m_alpha;
+    int m_next = 0;
+};
+
 /// Samples of 16 bits can stay as they are where they are the very levels of grey or of red, green and blue.
 bool canStayDeep(const PictureSource& source) {
     if (source.colors->getBits() != 16 || !hasDefaultDecode(*source.colors))
@@ -194,6 +223,13 @@ std::unique_ptr<PictureRows> openRows(const PictureSource& source, SampleDepth d
     if (depth == SampleDepth::Full && canStayDeep(source))
         kind = components == 1 ? PixelKind::Gray16 : PixelKind::Rgb16;
     return std::make_unique<PlainRows>(source, colors, kind, std::move(samples));
+}
+
+std::unique_ptr<PictureRows> openMaskRows(const PictureMask& mask) {
+    if (!isWithinLimits(mask))
+        return nullptr;
+    auto rows = std::make_unique<MaskPictureRows>(mask);
+    return rows->isEmpty() ? nullptr : std::move(rows);
 }
 
 } // namespace orvane::pdf

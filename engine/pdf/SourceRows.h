@@ -18,4 +18,8 @@ enum class SampleDepth : std::uint8_t {
 /// Requires: `source` and what it points to outlive the rows.
 std::unique_ptr<PictureRows> openRows(const PictureSource& source, SampleDepth depth, std::string& trouble);
 
+/// Opens the opacity that a mask gives: Bilevel for a mask of 1 bit, otherwise Gray; white is opaque. Nothing comes
+/// back when it is beyond limits or has no data. Requires: `mask` and what it points to outlive the rows.
+std::unique_ptr<PictureRows> openMaskRows(const PictureMask& mask);
+
 } // namespace orvane::pdf

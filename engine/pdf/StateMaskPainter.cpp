@@ -113,7 +113,7 @@ std::optional<StateMask> paintStateMask(const MaskedPainting& painting, ::Page& 
     MaskTaker device(painting, slice, paper);
     device.startDoc(&document);
     playPage(page, document, device, budget, repair, slice, PlayedAnnotations::All);
-    if (!device.hasFound())
+    if (!device.hasFound() || budget.isSpent())
         return std::nullopt;
     Matrix matrix = picture.matrix;
     for (double* value : {&matrix.a, &matrix.b, &matrix.c, &matrix.d, &matrix.e, &matrix.f})

@@ -73,7 +73,14 @@ bool GroupWriter::passThrough(const std::string& name) {
 
 /// What a passed through file cannot hold stands in a picture of its own beside it.
 void GroupWriter::writeOpacity(const std::string& name) {
-    auto rows = open(m_group.pieces.front().index, pdf::PictureColors::Screen);
+    const std::size_t index = m_group.pieces.front().index;
+    // A mask alone is read without the picture, which is passed through for speed too.
+    if (!first().isUnderMask)
+        if (auto mask = m_pictures.openMask(index)) {
+            writeRows(std::move(mask), name);
+            return;
+        }
+    auto rows = open(index, pdf::PictureColors::Screen);
     if (rows && hasAlpha(rows->format()))
         writeRows(opacityRows(std::move(rows)), name);
 }
