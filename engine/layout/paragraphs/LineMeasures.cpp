@@ -74,7 +74,7 @@ double meanGap(const Line& line) {
             continue;
         const Rect& a = line.words[i - 1].box;
         const Rect& b = line.words[i].box;
-        total += std::max(b.left - a.right, a.left - b.right);
+        total += std::max(b.left - a.right, a.left - b.right) / line.words[i].blanksBefore;
         ++count;
     }
     return count > 0 ? total / count : 0;

@@ -47,8 +47,7 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
             const BlockEnd end = endOf(*before);
             const double room = floorOf(draft, end.page, end.band, range.area) - end.bottom;
             if (end.page < block.page)
-                block.startsPage = end.page + 1 < block.page ||
-                                   room > fills[block.page].gap + fills[block.page].need + parameters.startRoom;
+                block.startsPage = end.page + 1 < block.page || room > fills[block.page].need + parameters.startRoom;
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = room > block.box.height() + parameters.startRoom;
         }

@@ -8,9 +8,15 @@
 
 namespace orvane::layout {
 
-/// The area within which the pages `firstPage` to `lastPage` (indices) set their text; page space. Where nothing shows
+/// Where the text of some pages stands; page space.
+struct TextArea {
+    Rect box;        ///< within margins as people set them
+    ColumnSpan seen; ///< the edges as the text shows them, a hair off those of `box`; what indents are measured from
+};
+
+/// The area within which the pages `firstPage` to `lastPage` (indices) set their text. Where nothing shows
 /// an edge exactly it is chosen so that lines and pages break where they broke, as a round margin if one fits.
-Rect findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, std::size_t firstPage,
-                  std::size_t lastPage, const LayoutParameters& parameters);
+TextArea findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, std::size_t firstPage,
+                      std::size_t lastPage, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

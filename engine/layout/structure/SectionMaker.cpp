@@ -54,9 +54,9 @@ private:
 
     /// The sections of pages with one scheme: one, or several where the number of columns changes.
     void addSections(const RunningScheme& scheme, std::size_t first, std::size_t last) {
-        const Rect area = findTextArea(m_draft, m_fills, scheme.firstPage, scheme.lastPage, m_parameters);
+        const TextArea area = findTextArea(m_draft, m_fills, scheme.firstPage, scheme.lastPage, m_parameters);
         DraftSection section;
-        section.setup = setupOf(scheme, area);
+        section.setup = setupOf(scheme, area.box);
         makeRunningText(m_draft, section, scheme, m_heads, m_context, m_parameters, m_diagnostics);
         std::size_t from = first;
         do {
@@ -68,7 +68,7 @@ private:
             section.setup.firstPageNumber.reset();
             from = to;
         } while (from < last);
-        markBreaks(m_draft, m_fills, {first, last, area}, m_parameters.pageSetup);
+        markBreaks(m_draft, m_fills, {first, last, area.box}, m_parameters.pageSetup);
     }
 
     document::Section setupOf(const RunningScheme& scheme, const Rect& area) const {
@@ -130,7 +130,7 @@ private:
         return std::max(to, std::min(from + 1, last));
     }
 
-    void setColumns(DraftSection& section, std::size_t from, std::size_t to, const Rect& area) {
+    void setColumns(DraftSection& section, std::size_t from, std::size_t to, const TextArea& area) {
         std::vector<ColumnSpan> seen;
         bool hasSeparator = false;
         for (std::size_t i = from; i < to; ++i) {
@@ -142,7 +142,7 @@ private:
             const std::vector<Band>& bands = m_draft.pages[m_draft.blocks[i].page].bands;
             hasSeparator = hasSeparator || (band < bands.size() && bands[band].hasSeparator);
         }
-        const std::vector<ColumnSpan> columns = fitColumns(seen, area, m_parameters.pageSetup);
+        const std::vector<ColumnSpan> columns = fitColumns(seen, area.box, m_parameters.pageSetup);
         section.setup.columns = columnWidths(columns);
         section.setup.hasColumnSeparator = hasSeparator;
         const auto columnAt = [&columns](int index) {
@@ -152,7 +152,7 @@ private:
             DraftBlock& block = m_draft.blocks[i];
             if (DraftParagraph* paragraph = block.paragraph())
                 for (DraftPiece& piece : paragraph->pieces)
-                    piece.column = columnAt(piece.columnIndex);
+                    piece.column = columns.size() == 1 ? area.seen : columnAt(piece.columnIndex);
             else
                 block.sectionColumn = columnAt(block.column);
         }

@@ -116,7 +116,8 @@ private:
             std::sort(flush.begin(), flush.end());
             return flush[static_cast<std::size_t>(m_limits.edgeShare * static_cast<double>(flush.size()))];
         }
-        const double highest = outermost(&LineEdge::end);
+        // A line as wide as its column to the last hair may find no room in another program.
+        const double highest = std::max(0.0, outermost(&LineEdge::end) - m_limits.roomSlack);
         double lowest = 0;
         for (const LineEdge& edge : m_edges)
             if (edge.room > 0 && edge.end != kNone && edge.end - edge.room < highest)
@@ -125,9 +126,14 @@ private:
     }
 
     TextEdges edgesOfObjects() const {
-        if (m_objects.isEmpty())
-            return {m_limits.usualMargin, m_pageWidth - m_limits.usualMargin};
-        const double margin = std::max(0.0, std::min(m_objects.left, m_pageWidth - m_objects.right));
+        double margin = m_limits.usualMargin;
+        if (!m_objects.isEmpty()) {
+            // A table that is wider than the text reaches far into a margin, or beyond the paper: the other side, or
+            // the usual width, tells more.
+            const auto [narrow, wide] = std::minmax({m_objects.left, m_pageWidth - m_objects.right});
+            const double least = margin / 4;
+            margin = narrow >= least ? narrow : wide >= least ? wide : margin;
+        }
         return {margin, m_pageWidth - margin};
     }
 

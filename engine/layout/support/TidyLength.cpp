@@ -27,13 +27,17 @@ double nearTidyLength(double length, double tolerance) {
     return length;
 }
 
-double tidyLength(double lowest, double highest, double preferred, double slack) {
+std::optional<double> tidyLengthWithin(double lowest, double highest, double preferred) {
     if (preferred >= lowest && preferred <= highest)
         return preferred;
     for (const double step : {kInch, kCentimetre, kInch / 2, kCentimetre / 2, kInch / 4})
         if (const auto tidy = roundNumber(lowest, highest, preferred, step); tidy && *tidy >= 0)
             return *tidy;
-    return lowest + std::min(slack, (highest - lowest) / 2);
+    return std::nullopt;
+}
+
+double tidyLength(double lowest, double highest, double preferred, double slack) {
+    return tidyLengthWithin(lowest, highest, preferred).value_or(lowest + std::min(slack, (highest - lowest) / 2));
 }
 
 } // namespace orvane::layout

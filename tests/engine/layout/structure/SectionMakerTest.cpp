@@ -47,6 +47,16 @@ TEST(SectionMaker, TakesMarginsFromTheText) {
     EXPECT_GE(setup.marginBottom, twipsFromPoints(842 - 746.5 - 12.2)) << "but no other line";
 }
 
+TEST(SectionMaker, AllowsForTheSpaceAboveWhatStartsAPage) {
+    DocumentDraft draft = makeDraft(2);
+    for (const std::size_t page : {0u, 1u})
+        for (double baseline = 90; baseline <= 770; baseline += 20)
+            addLine(draft, page, 72, baseline);
+    sectionsOf(draft);
+    // Without that space the margin would lie between 58 and 69 points, where nobody sets one.
+    EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginBottom), 56.7, 0.1) << "two centimetres";
+}
+
 TEST(SectionMaker, StartsASectionWhereThePaperTurns) {
     DocumentDraft draft = makeDraft(3);
     std::swap(draft.pages[1].width, draft.pages[1].height);

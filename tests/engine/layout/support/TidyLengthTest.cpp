@@ -16,6 +16,12 @@ TEST(TidyLength, TakesARoundNumberElse) {
     EXPECT_DOUBLE_EQ(tidyLength(60.1, 65, 90, 1), 61.1) << "not far from the lowest";
 }
 
+TEST(TidyLength, TellsWhereNothingIsRound) {
+    EXPECT_EQ(tidyLengthWithin(60, 80, 71.3), 71.3);
+    EXPECT_EQ(tidyLengthWithin(60, 80, 90), 72);
+    EXPECT_EQ(tidyLengthWithin(60.1, 65, 90), std::nullopt);
+}
+
 TEST(TidyLength, MovesOnlyNearLengths) {
     EXPECT_DOUBLE_EQ(nearTidyLength(71.8, 0.4), 72);
     EXPECT_NEAR(nearTidyLength(70.7, 0.4), 70.87, 0.01);
