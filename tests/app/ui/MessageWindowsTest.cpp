@@ -11,6 +11,7 @@
 #include "ui/form/Picture.h"
 
 #include <QApplication>
+#include <QImageReader>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -289,6 +290,21 @@ TEST_F(MessageDialogs, HaveTheirIconsAndDoWithoutThem) {
     Picture picture;
     picture.load(TAVRELION_PROGRAM_FOLDER "/images/none.ICO");
     EXPECT_TRUE(picture.isEmpty());
+}
+
+TEST_F(MessageDialogs, TheirIconsHaveAPictureForEveryScreen) {
+    for (const char* icon : {"W95MBX02.ICO", "W95MBX03.ICO"}) {
+        QImageReader reader(QString(TAVRELION_PROGRAM_FOLDER "/images/") + icon);
+        std::vector<int> sides;
+        do {
+            const QImage picture = reader.read();
+            sides.push_back(picture.width());
+            EXPECT_EQ(picture.width(), picture.height()) << icon;
+            EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0) << icon << ": nothing behind the drawing";
+            EXPECT_EQ(qAlpha(picture.pixel(picture.width() / 2, picture.height() / 2)), 255) << icon;
+        } while (reader.jumpToNextImage());
+        EXPECT_EQ(sides, (std::vector<int>{16, 24, 32, 48, 64})) << icon;
+    }
 }
 
 TEST_F(MessageDialogs, TheQuestionOfAnExistingFileIsBuiltFromThreeTexts) {

@@ -41,15 +41,22 @@ TEST_F(ClosingAPage, AsksOnAllPagesButTheFirst) {
     }
 }
 
-TEST_F(ClosingAPage, WithYesEndsTheProgram) {
+class ClosingWithYes : public ClosingAPage, public testing::WithParamInterface<QString> {};
+
+TEST_P(ClosingWithYes, EndsTheProgram) {
     messageBox.answer = UserMessages::Answer::Yes;
-    show("frmCharSpacing");
-    close("frmCharSpacing");
+    show(GetParam());
+    close(GetParam());
     EXPECT_TRUE(records.flags.blnCloseRequested);
     EXPECT_TRUE(registry.hasProgramEnded());
     EXPECT_EQ(eventLoop.yields, 1);
     EXPECT_TRUE(registry.loadedWindows().empty());
 }
+
+INSTANTIATE_TEST_SUITE_P(Pages, ClosingWithYes,
+                         testing::Values("frmImageRecovery", "frmCharSpacing", "frmPageRange", "frmOutputSummary",
+                                         "frmImageFormatOutput", "frmFinishExtractImages"),
+                         [](const auto& tested) { return tested.param.toStdString(); });
 
 TEST_F(ClosingAPage, TheLayoutPageLeavesTheEndToTheOtherWindows) {
     messageBox.answer = UserMessages::Answer::Yes;

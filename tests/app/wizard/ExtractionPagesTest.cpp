@@ -146,6 +146,19 @@ TEST_F(FormatPage, NextAndLastJudgeThePages) {
         }
 }
 
+TEST_F(FormatPage, AListThatIsRefusedAtOnceStoresNothing) {
+    show(kPage);
+    records.job.strImageFormat = "TIFF";
+    list().setListIndex(1);
+    setText(kPage, "txtFileBrowsePath", "/pictures");
+    choosePages("1-2-3");
+    for (const char* button : {"cmdNext", "cmdLast"}) {
+        click(kPage, button);
+        EXPECT_EQ(records.job.strImageFormat, "TIFF") << button;
+        EXPECT_EQ(records.job.strImageFolder, "/out/") << button;
+    }
+}
+
 TEST_F(FormatPage, FormatAndFolderStayStoredWhenThePagesAreRefusedLate) {
     show(kPage);
     list().setListIndex(1);
@@ -209,6 +222,14 @@ TEST_F(FormatPage, TheFinishPageShowsThePagesOfTheFormatPage) {
     click(kPage, "cmdNext");
     EXPECT_FALSE(control(kFinish, "lblFromVal").isVisible());
     EXPECT_TRUE(control(kFinish, "lblAllPages").isVisible());
+}
+
+TEST_F(FormatPage, BackOfTheFinishPageReadsTheFolderBack) {
+    show(kFinish);
+    setText(kFinish, "lblOutPath", "/elsewhere");
+    click(kFinish, "cmdBack");
+    EXPECT_EQ(records.job.strImageFolder, "/elsewhere");
+    EXPECT_EQ(text(kPage, "txtFileBrowsePath"), "/elsewhere");
 }
 
 TEST_F(FormatPage, FinishStartsAnImageRunAndSavesNoSettings) {

@@ -95,6 +95,17 @@ TEST_F(PageFit, TheAccessKeysOfOptionsWithoutACaptionChooseThem) {
     }
 }
 
+TEST_F(PageFit, AScreenReaderCallsControlsWithoutACaptionByTheirLabels) {
+    show("frmPageRange");
+    EXPECT_EQ(control("frmPageRange", "chkAllPages").accessibleName(), "All Pages");
+    EXPECT_EQ(control("frmPageRange", "txtFrom").accessibleName(), "Pages:");
+    show("frmImageFormatOutput");
+    EXPECT_EQ(control("frmImageFormatOutput", "txtFileBrowsePath").accessibleName(), "Save Images to:");
+    show("frmOutputOptions");
+    EXPECT_EQ(control("frmOutputOptions", "chkFromTo").accessibleName(), "Pages:");
+    EXPECT_EQ(control("frmOutputOptions", "txtTo").accessibleName(), "to");
+}
+
 TEST_F(PageFit, TheListOfControlsHasEveryControlOfThePagesAndNoOther) {
     for (const QString& page : kPages)
         EXPECT_EQ(controlsWithText(*form(page)), listedControls(TAVRELION_CONTROLS, page)) << page.toStdString();
