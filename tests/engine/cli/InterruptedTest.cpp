@@ -33,14 +33,6 @@ protected:
         return path("long.pdf");
     }
 
-    template<typename Condition>
-    static bool waitFor(Condition condition) {
-        const auto end = std::chrono::steady_clock::now() + 30s;
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(1ms);
-        return condition();
-    }
-
     std::vector<std::string> convertLong() const { return {"convert", path("long.pdf"), path("a.docx")}; }
 
     /// A copy of the program with a worker of the test's own beside it.

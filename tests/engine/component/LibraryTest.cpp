@@ -1,15 +1,6 @@
-#include "orvane/ConversionEngine.h"
-#include "support/Files.h"
-#include "support/PdfBuilder.h"
-#include "support/TemporaryFolder.h"
+#include "LoadedLibrary.h"
 #include "support/TestData.h"
 
-#include <gmock/gmock.h>
-
-#include <chrono>
-#include <thread>
-
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -17,65 +8,10 @@
 namespace orvane::component {
 namespace {
 
-using namespace std::chrono_literals;
 using testing::HasSubstr;
 namespace fs = std::filesystem;
 
-/// The built library, loaded and used as an application does.
-class Library : public testing::Test {
-protected:
-    static std::unique_ptr<ConversionEngine> createEngine(const fs::path& folder = ORVANE_BINARIES) {
-        void* library = dlopen((folder / "liborvane.so").c_str(), RTLD_NOW | RTLD_LOCAL);
-        if (library == nullptr)
-            throw std::runtime_error(dlerror());
-        const auto create = reinterpret_cast<OrvaneCreateEngineFunction>(dlsym(library, "OrvaneCreateEngine"));
-        return std::unique_ptr<ConversionEngine>(create());
-    }
-
-    ConversionRequest request() const {
-        ConversionRequest result;
-        result.sourcePath = file("a.pdf");
-        result.flags = flag::kAllPages | flag::kWordFormat | flag::kDocx;
-        result.targetPath = file("a.docx");
-        result.logPath = file("run.log");
-        result.temporaryFolder = file("scratch");
-        result.applicationName = "Tavrelion";
-        return result;
-    }
-
-    void makePdf(int pages) const {
-        tests::PdfBuilder pdf;
-        for (int page = 0; page < pages; ++page)
-            pdf.page("BT /F1 12 Tf 72 720 Td (A page with a line.) Tj ET");
-        pdf.write(file("a.pdf"));
-    }
-
-    static std::int16_t waitForEnd(ConversionEngine& engine) {
-        const auto end = std::chrono::steady_clock::now() + 60s;
-        std::int32_t first = 0;
-        std::int32_t second = 0;
-        std::int16_t finishCode = finish::kWorking;
-        while (finishCode == finish::kWorking && std::chrono::steady_clock::now() < end) {
-            engine.GetStatus(first, second, finishCode);
-            std::this_thread::sleep_for(5ms);
-        }
-        return finishCode;
-    }
-
-    template<typename Condition>
-    static bool waitFor(Condition condition) {
-        const auto end = std::chrono::steady_clock::now() + 60s;
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(5ms);
-        return condition();
-    }
-
-    std::string file(const std::string& name) const { return (m_folder.path() / name).string(); }
-    std::string read(const std::string& name) const { return tests::readFile(file(name)); }
-
-private:
-    tests::TemporaryFolder m_folder;
-};
+class Library : public LoadedLibrary {};
 
 TEST_F(Library, ConvertsAFile) {
     makePdf(3);

@@ -46,6 +46,22 @@ TEST(ConversionLog, TellsWhatWasConverted) {
     EXPECT_THAT(text, Not(HasSubstr("notes:")));
 }
 
+TEST(ConversionLog, TellsWhichPicturesWereTakenOut) {
+    Job job = jobOf();
+    job.layout = Layout::Images;
+    job.imageFormat = ImageFileFormat::Tiff;
+    LogRecord record = doneRecord();
+    record.pictures = {{"letter-p001-01.tif", 300, 200, {1, 2, 3, 7}, {{12, 0, 0}}},
+                       {"letter-p002-01.tif", 30, 20, {2}, {{13, 0, 0}, {14, 0, 10}}},
+                       {"a\nresult:   done.tif", 1, 1, {3}, {{15, 0, 0}}}};
+    const std::string text = formatLogRecord(job, record);
+    EXPECT_THAT(text, HasSubstr("options:  layout images, format tiff\n"));
+    EXPECT_THAT(text, HasSubstr("picture:  letter-p001-01.tif, 300 x 200 pixels, pages 1-3, 7\n"));
+    EXPECT_THAT(text, HasSubstr("picture:  letter-p002-01.tif, 30 x 20 pixels, page 2, 2 pieces\n"));
+    EXPECT_THAT(text, HasSubstr("picture:  a result:   done.tif, 1 x 1 pixels, page 3\n"));
+    EXPECT_THAT(text, HasSubstr("counts:   pictures 3 read, 2 written\n"));
+}
+
 TEST(ConversionLog, TellsWhyAConversionFailed) {
     LogRecord record;
     record.failure = Failed{FailureCode::NotAPdf, "no pages", {3, 17}};

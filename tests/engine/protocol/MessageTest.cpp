@@ -69,6 +69,18 @@ TEST(Message, FactsAboutASourceTravel) {
     EXPECT_EQ(page.label, "iv");
 }
 
+TEST(Message, PicturesTravelWithTheirPagesAndParts) {
+    const PictureReport copy =
+        copyOf(PictureReport{"Gr\u00fc\u00dfe-p001-01.png", 300, 200, {1, 4}, {{12, 0, 0}, {13, 0, 100}}});
+    EXPECT_EQ(copy.file, "Gr\u00fc\u00dfe-p001-01.png");
+    EXPECT_EQ(copy.width, 300);
+    EXPECT_EQ(copy.height, 200);
+    EXPECT_EQ(copy.pages, (std::vector<int>{1, 4}));
+    ASSERT_EQ(copy.parts.size(), 2u);
+    EXPECT_EQ(copy.parts[1].objectNumber, 13);
+    EXPECT_EQ(copy.parts[1].y, 100);
+}
+
 TEST(Message, CountsTravelWhole) {
     const Finished finished{{5'000'000'000, 4, 3, 2, 1, 0}, 17, 2.25};
     const Finished copy = copyOf(finished);
