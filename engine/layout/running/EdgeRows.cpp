@@ -37,24 +37,39 @@ public:
                 m_edges[i].matches.push_back(bestMatch(i, row));
         for (std::size_t i = 0; i < m_edges.size(); ++i)
             m_edges[i].taken = countTaken(i);
+        for (std::size_t i = 0; i < m_edges.size(); ++i)
+            for (std::size_t row = 0; row < m_edges[i].taken; ++row)
+                markRepeatedNumbers(i, m_edges[i].rows[row]);
         return std::move(m_edges);
     }
 
 private:
-    RowMatch bestMatch(std::size_t index, const RunningRow& row) const {
-        RowMatch best = RowMatch::None;
+    /// Calls `visit(match, other row)` for the rows of the pages nearby that agree with the row.
+    template<typename Visit>
+    void forMatches(std::size_t index, const RunningRow& row, const Visit& visit) const {
         for (std::ptrdiff_t by = -kRunningReach; by <= kRunningReach; ++by) {
             const auto other = static_cast<std::ptrdiff_t>(index) + by;
             if (by == 0 || other < 0 || other >= static_cast<std::ptrdiff_t>(m_edges.size()))
                 continue;
-            for (const RunningRow& otherRow : m_edges[static_cast<std::size_t>(other)].rows) {
-                const RowMatch match = matchOf(row, otherRow, static_cast<int>(by));
-                if (match == RowMatch::Text)
-                    return match;
-                best = match == RowMatch::Number ? match : best;
-            }
+            for (const RunningRow& otherRow : m_edges[static_cast<std::size_t>(other)].rows)
+                if (const RowMatch match = matchOf(row, otherRow, static_cast<int>(by)); match != RowMatch::None)
+                    visit(match, otherRow);
         }
+    }
+
+    RowMatch bestMatch(std::size_t index, const RunningRow& row) const {
+        RowMatch best = RowMatch::None;
+        forMatches(index, row,
+                   [&best](RowMatch match, const RunningRow&) { best = best == RowMatch::Text ? best : match; });
         return best;
+    }
+
+    void markRepeatedNumbers(std::size_t index, RunningRow& row) const {
+        forMatches(index, row, [&row](RowMatch match, const RunningRow& other) {
+            for (std::size_t i = 0; match == RowMatch::Text && i < std::min(row.numbers.size(), other.numbers.size());
+                 ++i)
+                row.numbers[i].isRepeated = row.numbers[i].isRepeated || row.numbers[i].value == other.numbers[i].value;
+        });
     }
 
     RowMatch matchOf(const RunningRow& row, const RunningRow& other, int by) const {
@@ -90,8 +105,11 @@ private:
         if (taken == edge.rows.size())
             return true;
         const RunningRow& next = edge.rows[taken];
-        return !isHeadOfTable(m_pages[index], last, next) &&
-               (isSure(index, last) || distance(last, next) >= m_limits.bodyGap * last.fontSize);
+        if (isHeadOfTable(m_pages[index], last, next))
+            return false;
+        const bool isTitleLike = last.lines.size() == 1 && edge.matches[taken - 1] == RowMatch::Text &&
+                                 std::abs(last.fontSize - next.fontSize) > m_limits.sameSize;
+        return isTitleLike || isSure(index, last) || distance(last, next) >= m_limits.bodyGap * last.fontSize;
     }
 
     /// Enough pages repeat it.

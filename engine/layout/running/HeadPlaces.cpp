@@ -7,11 +7,19 @@
 namespace orvane::layout {
 namespace {
 
+constexpr std::size_t kLongestFoot = 3;    ///< rows of a foot that only the first page has
+constexpr double kDeepestFoot = 120;       ///< points; the text of full pages ends no farther from the edge
+constexpr double kFullPage = 2;            ///< of the font size; full pages end within this of each other
 constexpr std::ptrdiff_t kFewestAlike = 2; ///< pages whose heads show the place of one that says something else
 
 /// How many of the ascending values lie in the range.
 std::ptrdiff_t countBetween(const std::vector<double>& sorted, double from, double to) {
     return std::upper_bound(sorted.begin(), sorted.end(), to) - std::lower_bound(sorted.begin(), sorted.end(), from);
+}
+
+/// More than one page, and enough of them against those that have a head.
+bool isMany(std::ptrdiff_t pages, std::ptrdiff_t pagesWithHead, double share) {
+    return pages > 1 && static_cast<double>(pages) >= share * static_cast<double>(pagesWithHead);
 }
 
 /// Where the text of the page starts, seen from the edge; infinite when nothing is near.
@@ -24,6 +32,14 @@ bool standsAlike(const RunningRow& a, const RunningRow& b, const RunningParamete
     return std::abs(a.fromEdge - b.fromEdge) <= place && std::abs(a.fontSize - b.fontSize) <= limits.sameSize &&
            (std::abs(a.box.left - b.box.left) <= place || std::abs(a.box.right - b.box.right) <= place ||
             std::abs(a.box.centerX() - b.box.centerX()) <= place);
+}
+
+/// The row is no part of the text behind it: it stands beside it, or away from it in letters of another size.
+bool isSetApart(const RunningRow& row, const RunningRow& next, const RunningParameters::RunningHeads& limits) {
+    const bool isBeside = overlap(row.box.left, row.box.right, next.box.left, next.box.right) <= 0;
+    const double gap = next.fromEdge - row.fromEdge - row.box.height();
+    return isBeside ||
+           (gap >= limits.bodyGap * row.fontSize && std::abs(row.fontSize - next.fontSize) > limits.sameSize);
 }
 
 } // namespace
@@ -50,8 +66,11 @@ void leaveTextPlaces(std::vector<EdgeRows>& edges, const RunningParameters::Runn
             const double place = inner.fromEdge;
             const auto pagesWithHead =
                 countBetween(heads, place - parameters.samePosition, place + parameters.samePosition);
-            const auto pagesWithText = countBetween(texts, 0, place + inner.box.height() / 2);
-            if (pagesWithText < pagesWithHead)
+            const double half = inner.box.height() / 2;
+            const auto pagesWithText = countBetween(texts, 0, place + half);
+            const bool isStartOfText =
+                isMany(countBetween(texts, place - half, place + half), pagesWithHead, parameters.textShare);
+            if (pagesWithText < pagesWithHead && !isStartOfText)
                 break;
             trimTaken(edge, edge.taken - 1);
         }
@@ -73,11 +92,37 @@ void takeOwnHeads(std::vector<EdgeRows>& edges, const RunningParameters::Running
         const auto alike = std::count_if(heads.begin(), heads.end(),
                                          [&](const RunningRow* head) { return standsAlike(row, *head, parameters); });
         const bool isBeforeText = row.fromEdge + row.box.height() <= text;
-        const bool hasTextBehind = edge.rows.size() == 1 || edge.rows[1].fromEdge >= text - parameters.samePosition;
-        if (alike < kFewestAlike || !isBeforeText || !hasTextBehind)
+        const bool isApart = edge.rows.size() == 1 || edge.rows[1].fromEdge >= text - parameters.samePosition ||
+                             isSetApart(row, edge.rows[1], parameters);
+        if (alike < kFewestAlike || !isBeforeText || !isApart)
             continue;
         edge.matches[0] = RowMatch::Text;
         edge.taken = 1;
+    }
+}
+
+void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters) {
+    EdgeRows& first = edges.front();
+    if (first.taken > 0)
+        return;
+    std::vector<double> texts;
+    for (std::size_t i = 1; i < edges.size(); ++i)
+        texts.push_back(textStart(edges[i]));
+    for (std::size_t count = 1; count <= std::min(first.rows.size(), kLongestFoot); ++count) {
+        const RunningRow& last = first.rows[count - 1];
+        std::vector<double> starts = texts;
+        if (count < first.rows.size())
+            starts.push_back(first.rows[count].fromEdge);
+        std::sort(starts.begin(), starts.end());
+        const double end = last.fromEdge + last.box.height();
+        // Several pages that are full to the same height show where the text ends.
+        const auto full = countBetween(starts, starts.front(), starts.front() + kFullPage * last.fontSize);
+        if (full < kFewestAlike || starts.front() > kDeepestFoot ||
+            end + parameters.ownFootGap * last.fontSize > starts.front())
+            continue;
+        std::fill_n(first.matches.begin(), count, RowMatch::Text);
+        first.taken = count;
+        return;
     }
 }
 

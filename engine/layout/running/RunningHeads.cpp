@@ -123,11 +123,23 @@ char sideOf(const RunningRow& row, double pageWidth, double tolerance) {
     return std::abs(left - right) <= tolerance ? 'c' : left < right ? 'l' : 'r';
 }
 
+/// The row's text with '#' for the numbers that count.
+std::string repeatedText(const RunningRow& row) {
+    std::string text;
+    std::size_t number = 0;
+    for (const char c : row.skeleton)
+        if (c == '#' && number < row.numbers.size() && row.numbers[number++].isRepeated)
+            text += std::to_string(row.numbers[number - 1].value);
+        else
+            text += c;
+    return text;
+}
+
 std::string keyOf(const EdgeRows& edge, double pageWidth, const RunningParameters::RunningHeads& limits) {
     std::string key;
     for (std::size_t i = 0; i < edge.taken; ++i) {
         // What stands beside a page number may change from page to page.
-        key += edge.matches[i] == RowMatch::Text ? edge.rows[i].skeleton : "~";
+        key += edge.matches[i] == RowMatch::Text ? repeatedText(edge.rows[i]) : "~";
         key += sideOf(edge.rows[i], pageWidth, limits.sameSide);
         key += '\n';
     }
@@ -193,6 +205,7 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         leaveTextPlaces(*edges, limits);
         takeOwnHeads(*edges, limits);
     }
+    takeFirstFoot(bottoms, limits);
 
     std::vector<PageEdges> edges;
     std::vector<BodyRange> bodies;

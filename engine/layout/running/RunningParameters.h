@@ -7,18 +7,21 @@ namespace orvane::layout {
 struct RunningParameters {
     /// RunningHeads: what repeats at the head and foot of pages.
     struct RunningHeads {
-        double reach = 0.34;        ///< of the page's height; nothing farther from the edge is a running head
-        double firstReach = 0.2;    ///< of the page's height; within which the outermost row stands
-        int maximumRows = 12;       ///< from one edge
-        double sameRow = 0.3;       ///< of the font size; baselines this near are one row
-        double samePosition = 2.0;  ///< points; rows of two pages this near stand in one place
-        double sameSize = 0.6;      ///< points; of their fonts
-        double chainGap = 30.0;     ///< points; rows of one head are not farther apart
-        double bodyGap = 0.35;      ///< of the font size; between a head and the text, where few pages repeat it
-        int surePages = 3;          ///< a head that so many pages repeat may touch the text
-        double headingSize = 1.3;   ///< of the document's usual size; larger rows that count are headings
-        double sameSide = 12.0;     ///< points; distances to both sides of the page that differ by less: a centred row
-        double sidePart = 5.0;      ///< points; a rule this far within a row crosses it
+        double reach = 0.34;       ///< of the page's height; nothing farther from the edge is a running head
+        double firstReach = 0.2;   ///< of the page's height; within which the outermost row stands
+        int maximumRows = 12;      ///< from one edge
+        double sameRow = 0.3;      ///< of the font size; baselines this near are one row
+        double samePosition = 2.0; ///< points; rows of two pages this near stand in one place
+        double sameSize = 0.6;     ///< points; of their fonts
+        double chainGap = 30.0;    ///< points; rows of one head are not farther apart
+        double bodyGap = 0.35;     ///< of the font size; between a head and the text, where few pages repeat it
+        int surePages = 3;         ///< a head that so many pages repeat may touch the text
+        double headingSize = 1.3;  ///< of the document's usual size; larger rows that count are headings
+        double sameSide = 12.0;    ///< points; distances to both sides of the page that differ by less: a centred row
+        double sidePart = 5.0;     ///< points; a rule this far within a row crosses it
+        double ownFootGap = 1.5;   ///< of the font size; between a foot that only the first page has and all text
+        double textShare =
+            0.25; ///< of the pages with a head; where as many others start their text in its place, it is text
         double bodilessShare = 0.5; ///< of the pages; where more would be left empty, what repeats is the text
     } runningHeads;
 };

@@ -22,6 +22,7 @@ struct RowNumber {
     double left = 0; ///< of the word
     double right = 0;
     bool standsAlone = false; ///< nothing but it, and signs around it, between two gaps of the row
+    bool isRepeated = false;  ///< a page nearby has the same number in its place
 };
 
 /// The lines of a page on one baseline, as what may repeat on the next page.

@@ -1,6 +1,7 @@
 #include "layout/structure/NoteAreas.h"
 
 #include "layout/structure/NoteMark.h"
+#include "layout/structure/NoteText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,7 +64,28 @@ public:
         return area;
     }
 
+    std::optional<NoteArea> foot() const {
+        std::size_t first = m_lines.size();
+        while (first > 0 && line(m_lines[first - 1]).fontSize <= m_limits.footSize * m_context.bodyFontSize)
+            --first;
+        NoteArea area;
+        for (std::size_t i = first; first > 0 && i < m_lines.size(); ++i) {
+            const bool isBesideLast = i > first && standBeside(line(m_lines[i - 1]), line(m_lines[i])) &&
+                                      !isMarkOf(line(m_lines[i - 1]), line(m_lines[i]));
+            if (isBesideLast || !addLine(area, m_lines[i]))
+                return std::nullopt;
+        }
+        if (area.starts.empty())
+            return std::nullopt;
+        startWith(area, area.starts.front().line, m_page);
+        return area;
+    }
+
 private:
+    static bool standBeside(const Line& a, const Line& b) {
+        return 2 * overlap(a.box.top, a.box.bottom, b.box.top, b.box.bottom) > std::min(a.box.height(), b.box.height());
+    }
+
     const Line& line(std::size_t index) const { return m_page.lines[index]; }
 
     bool mayPartNotes(const Rule& rule) const {
@@ -152,6 +174,19 @@ private:
 std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext& context,
                                     const StructureParameters::Notes& parameters) {
     return AreaFinder(page, context, parameters).run();
+}
+
+std::optional<NoteArea> notesAtFoot(const PageText& page, const DocumentContext& context,
+                                    const StructureParameters::Notes& parameters) {
+    return AreaFinder(page, context, parameters).foot();
+}
+
+void startWith(NoteArea& area, std::size_t line, const PageText& page) {
+    area.lines.erase(area.lines.begin(), std::find(area.lines.begin(), area.lines.end(), line));
+    const auto isBefore = [line](const NoteStart& start) { return start.line != line; };
+    area.starts.erase(area.starts.begin(), std::find_if_not(area.starts.begin(), area.starts.end(), isBefore));
+    area.left = page.lines[line].box.left;
+    area.top = page.lines[line].box.top;
 }
 
 std::optional<NoteArea> wholePageOfNotes(const PageText& page, const DocumentContext& context,

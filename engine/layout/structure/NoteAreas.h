@@ -30,9 +30,17 @@ struct NoteArea {
 std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext& context,
                                     const StructureParameters::Notes& parameters);
 
+/// The small text at the foot of the page, below larger text, from the first line on that starts with a mark; nullopt
+/// without one, or where lines stand side by side. No rule parts it from the text.
+std::optional<NoteArea> notesAtFoot(const PageText& page, const DocumentContext& context,
+                                    const StructureParameters::Notes& parameters);
+
 /// The whole page as one area, as endnotes stand that fill pages of their own; nullopt when it does not start with a
 /// raised mark, or holds larger text.
 std::optional<NoteArea> wholePageOfNotes(const PageText& page, const DocumentContext& context,
                                          const StructureParameters::Notes& parameters);
+
+/// Leaves out what stands above that line, one of its own.
+void startWith(NoteArea& area, std::size_t line, const PageText& page);
 
 } // namespace orvane::layout

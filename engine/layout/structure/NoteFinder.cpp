@@ -20,6 +20,7 @@ struct Reference {
     std::size_t page = 0;
     Rect box;
     std::string text;
+    bool isAlone = false; ///< on a line by itself, where only its size shows that it is raised
     bool isTaken = false;
 };
 
@@ -47,6 +48,8 @@ public:
                 takeArea(i, area, isTaken);
             if (m_lastPage != i)
                 takeWholePage(i, isTaken);
+            if (m_lastPage != i)
+                takeFoot(i, isTaken);
             removeTaken(m_pages[i], isTaken);
         }
         std::stable_sort(m_found.notes.begin(), m_found.notes.end(),
@@ -57,7 +60,8 @@ public:
 private:
     using LineReferences = std::map<std::size_t, Reference*>; ///< by the line with which the note starts
 
-    /// The raised marks in the text of a page; those at the start of a line are of notes, not of the text.
+    /// The raised marks in the text of a page; those at the start of a line are of notes, not of the text. In the areas
+    /// of notes they are "m²", or notes on notes, which word processors do not have.
     void collectReferences(std::size_t index) {
         const PageText& page = m_pages[index];
         std::vector<bool> isInArea(page.lines.size(), false);
@@ -69,20 +73,26 @@ private:
                 for (const Span& span : word.spans) {
                     const bool startsText = &word == &page.lines[i].words.front() && &span == &word.spans.front() &&
                                             (page.lines[i].words.size() > 1 || word.spans.size() > 1);
-                    if (isRaisedMark(span) && !startsText)
-                        addReference(index, span, isInArea[i]);
+                    if (!isInArea[i] && isRaisedMark(span) && !startsText)
+                        addReference({index, span.box, span.text, false, false});
+                    else if (!isInArea[i] && isLoneMark(page.lines[i], span))
+                        addReference({index, span.box, span.text, true, false});
                 }
     }
 
-    void addReference(std::size_t page, const Span& span, bool isInNote) {
-        if (isInNote)
-            return; // "m²" in a note, or a note on a note, which word processors do not have
-        m_byMark[bareMark(span.text)].push_back(m_references.size());
-        m_references.push_back({page, span.box, span.text, false});
+    bool isLoneMark(const Line& line, const Span& span) const {
+        return line.words.size() == 1 && line.words.front().spans.size() == 1 && isNoteMark(span.text) &&
+               line.fontSize <= m_limits.loneMarkSize * m_context.bodyFontSize;
     }
 
-    /// The reference with that mark on the page; else, for endnotes, on a page before.
+    void addReference(Reference reference) {
+        m_byMark[bareMark(reference.text)].push_back(m_references.size());
+        m_references.push_back(std::move(reference));
+    }
+
+    /// The reference with that mark on the page, rather a raised one; else, for endnotes, on a page before.
     Reference* referenceTo(const std::string& mark, std::size_t page) {
+        Reference* alone = nullptr;
         Reference* before = nullptr;
         const auto found = m_byMark.find(mark);
         if (found == m_byMark.end())
@@ -91,12 +101,19 @@ private:
             Reference& reference = m_references[index];
             if (reference.isTaken || reference.page > page)
                 continue;
-            if (reference.page == page)
+            if (reference.page == page && !reference.isAlone)
                 return &reference;
-            if (!before)
-                before = &reference;
+            Reference*& other = reference.page == page ? alone : before;
+            if (!other && (reference.page == page || !reference.isAlone))
+                other = &reference;
         }
-        return before;
+        return alone ? alone : before;
+    }
+
+    /// The reference with that mark on the page, above `bottom`.
+    Reference* referenceAbove(const std::string& mark, std::size_t page, double bottom) {
+        Reference* reference = referenceTo(mark, page);
+        return reference && reference->page == page && reference->box.top < bottom ? reference : nullptr;
     }
 
     LineReferences matchStarts(std::size_t page, const NoteArea& area) {
@@ -125,6 +142,26 @@ private:
         const LineReferences matched = matchStarts(page, *area);
         if (!matched.empty())
             takeLines(page, *area, matched, isTaken);
+    }
+
+    /// Some word processors draw no rule above notes, or one that is lost in the file; then the marks alone tell them.
+    void takeFoot(std::size_t page, std::vector<bool>& isTaken) {
+        auto area = notesAtFoot(m_pages[page], m_context, m_limits);
+        if (!area)
+            return;
+        const auto first = std::find_if(area->starts.begin(), area->starts.end(), [&](const NoteStart& start) {
+            return referenceAbove(start.mark, page, area->top) != nullptr;
+        });
+        if (first == area->starts.end())
+            return;
+        startWith(*area, first->line, m_pages[page]);
+        LineReferences matched;
+        for (const NoteStart& start : area->starts)
+            if (Reference* reference = referenceAbove(start.mark, page, area->top)) {
+                reference->isTaken = true;
+                matched[start.line] = reference;
+            }
+        takeLines(page, *area, matched, isTaken);
     }
 
     /// The rule is drawn like the one above the last notes, and the text below it is of their size.
@@ -185,10 +222,23 @@ private:
     }
 
     FoundNote& startNote(std::size_t page, const Reference& reference) {
+        if (reference.isAlone)
+            raise(m_pages[reference.page], reference.box);
         const bool isEndnote = reference.page < page || isNumeral(bareMark(reference.text));
         m_found.notes.push_back({isEndnote ? NoteKind::Endnote : NoteKind::Footnote, reference.text, reference.page,
                                  reference.box, pageForNote(m_pages[page])});
         return m_found.notes.back();
+    }
+
+    /// Makes the mark look like the others, by which it is known later.
+    void raise(PageText& page, const Rect& box) const {
+        for (Line& line : page.lines)
+            for (Word& word : line.words)
+                for (Span& span : word.spans)
+                    if (span.box == box) {
+                        span.look.verticalPosition = document::VerticalPosition::Superscript;
+                        span.look.size = m_context.bodyFontSize;
+                    }
     }
 
     static void removeTaken(PageText& page, const std::vector<bool>& isTaken) {

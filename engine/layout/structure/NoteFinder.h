@@ -25,9 +25,10 @@ struct FoundNotes {
     std::vector<Rect> areas; ///< for each page, where its notes stood, with the rule above them; empty without notes
 };
 
-/// Takes the notes out of `pages`: text below a short rule, or on pages of its own, that starts with marks which the
-/// text refers to in raised characters. Notes whose references stand on pages before, or whose marks are Roman
-/// numerals, are endnotes. What nothing refers to stays in the text.
+/// Takes the notes out of `pages`: text below a short rule, small text at the foot of a page, or text on pages of its
+/// own, that starts with marks which the text refers to in raised characters, or in small ones that stand alone. Notes
+/// whose references stand on pages before, or whose marks are Roman numerals, are endnotes. What nothing refers to
+/// stays in the text.
 FoundNotes takeNotes(std::vector<PageText>& pages, const DocumentContext& context, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

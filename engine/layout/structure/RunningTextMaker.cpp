@@ -5,6 +5,8 @@
 #include "layout/structure/DraftBuilder.h"
 #include "layout/text/LineText.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -42,16 +44,6 @@ void joinRows(PageText& page, const RunningParameters::RunningHeads& limits) {
     page.lines = std::move(rows);
 }
 
-/// The head's blocks, on a page of their own.
-std::vector<DraftBlock> layoutHead(DocumentDraft& draft, const RunningHead& head, const DocumentContext& context,
-                                   const LayoutParameters& parameters, Diagnostics& diagnostics) {
-    PageText content = head.content;
-    joinRows(content, parameters.runningHeads);
-    std::vector<DraftBlock> blocks = addPage(draft, layoutPage(std::move(content), context, parameters, diagnostics));
-    draft.fields.back() = head.fields;
-    return blocks;
-}
-
 enum class Side { Header, Footer };
 
 /// How near the blocks come to the page's edge; infinite without blocks in the flow.
@@ -79,25 +71,38 @@ void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog&
 
 } // namespace
 
-void makeRunningText(DocumentDraft& draft, DraftSection& section, const RunningScheme& scheme,
-                     const std::vector<PageRunningHeads>& heads, const DocumentContext& context,
-                     const LayoutParameters& parameters, Diagnostics& diagnostics) {
-    const auto blocksOf = [&](const std::optional<RunningHead>& head) {
-        return head ? std::optional(layoutHead(draft, *head, context, parameters, diagnostics)) : std::nullopt;
-    };
-    section.header.standard = blocksOf(heads[scheme.standard].header);
-    section.footer.standard = blocksOf(heads[scheme.standard].footer);
+RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningHead>& head, char side) {
+    if (!head)
+        return std::nullopt;
+    const std::string key =
+        fmt::format("{} {:.0f} {:.0f} {}", side, head->content.width, head->content.height, head->key);
+    if (const auto made = m_made.find(key); made != m_made.end())
+        return made->second;
+    PageText content = head->content;
+    joinRows(content, m_parameters.runningHeads);
+    std::vector<DraftBlock> blocks =
+        addPage(m_draft, layoutPage(std::move(content), m_context, m_parameters, m_diagnostics));
+    m_draft.fields.back() = head->fields;
+    m_made.emplace(key, blocks);
+    return blocks;
+}
+
+void RunningTextMaker::make(DraftSection& section, const RunningScheme& scheme) {
+    const auto header = [&](std::size_t page) { return blocksOf(m_heads[page].header, 'h'); };
+    const auto footer = [&](std::size_t page) { return blocksOf(m_heads[page].footer, 'f'); };
+    section.header.standard = header(scheme.standard);
+    section.footer.standard = footer(scheme.standard);
     // Where one kind of page has its own heads, having none is a choice as well.
     if (scheme.even) {
-        section.header.evenPages = blocksOf(heads[*scheme.even].header).value_or(std::vector<DraftBlock>{});
-        section.footer.evenPages = blocksOf(heads[*scheme.even].footer).value_or(std::vector<DraftBlock>{});
+        section.header.evenPages = header(*scheme.even).value_or(std::vector<DraftBlock>{});
+        section.footer.evenPages = footer(*scheme.even).value_or(std::vector<DraftBlock>{});
     }
     if (scheme.hasOwnFirstPage) {
-        section.header.firstPage = blocksOf(heads[scheme.firstPage].header).value_or(std::vector<DraftBlock>{});
-        section.footer.firstPage = blocksOf(heads[scheme.firstPage].footer).value_or(std::vector<DraftBlock>{});
+        section.header.firstPage = header(scheme.firstPage).value_or(std::vector<DraftBlock>{});
+        section.footer.firstPage = footer(scheme.firstPage).value_or(std::vector<DraftBlock>{});
     }
-    const FontCatalog fonts(draft, parameters);
-    const double height = draft.pages[scheme.standard].height;
+    const FontCatalog fonts(m_draft, m_parameters);
+    const double height = m_draft.pages[scheme.standard].height;
     setDistance(section.setup.headerDistance, section.header, fonts, Side::Header, height);
     setDistance(section.setup.footerDistance, section.footer, fonts, Side::Footer, height);
 }

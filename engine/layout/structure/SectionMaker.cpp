@@ -21,7 +21,7 @@ public:
         , m_heads(heads)
         , m_context(context)
         , m_parameters(parameters)
-        , m_diagnostics(diagnostics)
+        , m_runningText(draft, heads, context, parameters, diagnostics)
         , m_fills(measurePages(draft, FontCatalog(draft, parameters))) {}
 
     void run() {
@@ -57,7 +57,7 @@ private:
         const TextArea area = findTextArea(m_draft, m_fills, scheme.firstPage, scheme.lastPage, m_parameters);
         DraftSection section;
         section.setup = setupOf(scheme, area.box);
-        makeRunningText(m_draft, section, scheme, m_heads, m_context, m_parameters, m_diagnostics);
+        m_runningText.make(section, scheme);
         std::size_t from = first;
         do {
             const std::size_t to = endOfColumns(from, last);
@@ -162,7 +162,7 @@ private:
     const std::vector<PageRunningHeads>& m_heads;
     const DocumentContext& m_context;
     const LayoutParameters& m_parameters;
-    Diagnostics& m_diagnostics;
+    RunningTextMaker m_runningText;
     std::vector<PageFill> m_fills;
 };
 

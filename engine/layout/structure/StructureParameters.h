@@ -57,6 +57,8 @@ struct StructureParameters {
         double edgeTolerance = 12.0;  ///< points; the rule starts this near to where the text starts
         double columnReach = 120.0;   ///< points; text this far above the rule tells the columns
         double narrowestColumn = 0.2; ///< of the page's width
+        double footSize = 0.92;       ///< of the body text's size; notes with no rule above them are smaller
+        double loneMarkSize = 0.7;    ///< likewise; a mark on a line by itself, beside a picture for instance
     } notes;
 };
 

@@ -138,6 +138,72 @@ TEST(RunningHeads, LeavesWhatStandsOtherwiseThanTheHeads) {
     }
 }
 
+TEST(RunningHeads, TakesTheFirstPagesOwnHeadWhereItsTextComesNear) {
+    const struct {
+        const char* why;
+        Line text;
+        const char* header;
+    } rows[] = {{"of another size", makeLine("Title", 72, 74, {.size = 16}), "Draft"},
+                {"beside it", makeLine("Title", 300, 56), "Draft"},
+                {"a line like it", makeLine("more of this", 72, 64), ""}};
+    for (const auto& row : rows) {
+        auto pages = pagesWith(4, [&](PageText& page, int number) {
+            page.lines.push_back(makeLine(number == 1 ? "Draft" : "Annual report", 72, 50));
+            if (number == 1)
+                page.lines.push_back(row.text);
+        });
+        EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].header), row.header) << row.why;
+    }
+}
+
+TEST(RunningHeads, TakesALineOfAnotherSizeThatTouchesTheText) {
+    for (const double size : {8.0, 10.0}) {
+        auto pages = pagesWith(
+            2, [&](PageText& page, int) { page.lines.push_back(makeLine("Annual report", 72, 91, {.size = size})); });
+        EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].header), size == 8 ? "Annual report" : "");
+    }
+}
+
+TEST(RunningHeads, LeavesWhatRepeatsWhereSomePagesStartTheirText) {
+    auto pages = pagesWith(8, [](PageText& page, int number) {
+        if (number < 3)
+            page.lines.push_back(makeLine(fmt::format("Text {}", char('a' + number)), 72, 82));
+        else
+            page.lines.push_back(makeLine("Year\tSum", 72, 80));
+    });
+    for (const PageRunningHeads& heads : takeRunningHeads(pages, {}))
+        EXPECT_FALSE(heads.header);
+}
+
+TEST(RunningHeads, TakesAFootThatOnlyTheFirstPageHas) {
+    const struct {
+        const char* why;
+        double baseline;
+        int page;
+        const char* footer;
+    } rows[] = {{"below the text of all pages", 790, 1, "The authors"},
+                {"as near as lines of the text", 760, 1, ""},
+                {"on a later page", 790, 2, ""}};
+    for (const auto& row : rows) {
+        auto pages = pagesWith(4, [&](PageText& page, int number) {
+            page.lines.push_back(makeLine(fmt::format("the end of {}", char('a' + number)), 72, 740));
+            if (number == row.page)
+                page.lines.push_back(makeLine("The authors", 72, row.baseline));
+        });
+        const auto heads = takeRunningHeads(pages, {});
+        EXPECT_EQ(linesOf(heads[static_cast<std::size_t>(row.page) - 1].footer), row.footer) << row.why;
+    }
+}
+
+TEST(RunningHeads, SayAnotherThingWithAnotherNumberThatDoesNotCount) {
+    auto pages = pagesWith(6, [](PageText& page, int number) {
+        page.lines.push_back(makeLine(fmt::format("Chapter {}\t{}", number < 4 ? 1 : 2, number), 72, 50));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(heads[0].header->key, heads[2].header->key);
+    EXPECT_NE(heads[2].header->key, heads[3].header->key);
+}
+
 TEST(RunningHeads, LeavesWhatRepeatsWhereOtherPagesHaveTheirText) {
     auto pages = pagesWith(9, [](PageText& page, int number) {
         page.lines.push_back(makeLine("Annual report", 72, 50));

@@ -109,13 +109,54 @@ TEST(NoteFinder, LeavesWhatNothingRefersTo) {
     }
 }
 
-TEST(NoteFinder, WantsTheRuleAndSmallText) {
-    std::vector<PageText> pages{pageWithText(1, {"a word^1"}), pageWithText(2, {"a word^1"})};
+TEST(NoteFinder, WantsSmallText) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
     addNotes(pages[0], {"^1 A note"});
-    pages[0].rules.clear();
-    addNotes(pages[1], {"^1 A note"});
-    pages[1].lines.back().fontSize = 14;
+    pages[0].lines.back().fontSize = 14;
     EXPECT_EQ(notesOf(take(pages)), "");
+}
+
+TEST(NoteFinder, KnowsNotesAtTheFootByTheirMarksWithoutARule) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1 and", "another^2 word"})};
+    addNotes(pages[0], {"Source: a table", "^1 The first note", "goes on", "^2 The second"});
+    pages[0].rules.clear();
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 The first note goes on\nfoot 2@1: 2 The second\n");
+    ASSERT_EQ(pages[0].lines.size(), 3u);
+    EXPECT_EQ(textOf(pages[0].lines[2]), "Source: a table");
+}
+
+TEST(NoteFinder, LeavesTextAtTheFootThatIsNoNote) {
+    struct Row {
+        const char* why;
+        std::vector<Line> foot;
+    };
+    const Row kRows[] = {
+        {"it is as large as the text", {makeNotedLine("^1 A note", 72, 712, 10)}},
+        {"nothing refers to it", {makeNotedLine("^2 A note", 72, 712, 8)}},
+        {"text follows it", {makeNotedLine("^1 A note", 72, 712, 8), makeLine("more", 72, 730)}},
+        {"it stands in columns", {makeNotedLine("^1 A cell", 72, 712, 8), makeNotedLine("another cell", 300, 712, 8)}}};
+    for (const Row& row : kRows) {
+        std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
+        pages[0].lines.insert(pages[0].lines.end(), row.foot.begin(), row.foot.end());
+        EXPECT_EQ(notesOf(take(pages)), "") << row.why;
+    }
+}
+
+TEST(NoteFinder, KnowsAMarkThatStandsAlone) {
+    std::vector<PageText> pages{pageWithText(1, {"some text"})};
+    pages[0].lines.push_back(makeLine("1", 300, 200, {5}));
+    addNotes(pages[0], {"^1 A note on the picture"});
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note on the picture\n");
+    EXPECT_EQ(pages[0].lines[1].words[0].spans[0].look.verticalPosition, VerticalPosition::Superscript);
+}
+
+TEST(NoteFinder, PrefersARaisedMarkToOneThatStandsAlone) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
+    pages[0].lines.insert(pages[0].lines.begin(), makeLine("1", 300, 80, {5}));
+    addNotes(pages[0], {"^1 A note"});
+    const FoundNotes found = take(pages);
+    ASSERT_EQ(found.notes.size(), 1u);
+    EXPECT_EQ(found.notes[0].referenceBox, pages[0].lines[1].words[1].spans[1].box);
 }
 
 TEST(NoteFinder, GoesOnOnTheNextPage) {

@@ -69,6 +69,22 @@ TEST(SectionMaker, StartsASectionWhereThePaperTurns) {
     EXPECT_EQ(draft.sections[2].firstBlock, 2u);
 }
 
+TEST(SectionMaker, MakesHeadsThatShowTheSameOnce) {
+    const char* kKeys[] = {"same", "same", "other", "other", "same", "same"};
+    DocumentDraft draft = makeDraft(6);
+    std::vector<PageRunningHeads> heads(6);
+    for (std::size_t page = 0; page < 6; ++page) {
+        addLine(draft, page, 72, 84);
+        heads[page].header = RunningHead{tests::makePage(1), {}, kKeys[page]};
+        heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
+    }
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 3u);
+    const auto pageOf = [&](std::size_t section) { return draft.sections[section].header.standard->front().page; };
+    EXPECT_EQ(pageOf(0), pageOf(2));
+    EXPECT_NE(pageOf(0), pageOf(1));
+}
+
 TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     DocumentDraft draft = makeDraft(3);
     fillPage(draft, 0, 300);
