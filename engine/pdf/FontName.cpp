@@ -60,7 +60,7 @@ constexpr std::array kWeightWords{
     WeightWord{"demi", 600},       WeightWord{"semi", 600},       WeightWord{"bold", 700},
     WeightWord{"bd", 700},         WeightWord{"bolditalic", 700}, WeightWord{"boldoblique", 700},
     WeightWord{"boldmt", 700},     WeightWord{"extrabold", 800},  WeightWord{"ultrabold", 800},
-    WeightWord{"heavy", 800},      WeightWord{"black", 900},
+    WeightWord{"heavy", 800},      WeightWord{"black", 900},      WeightWord{"medi", 700}, // as URW shortens its bold
 };
 constexpr std::array<std::string_view, 9> kItalicWords{"italic",  "oblique", "ital",       "it",         "obl",
                                                        "slanted", "kursiv",  "bolditalic", "boldoblique"};

@@ -18,12 +18,13 @@ struct Capability {
     Format format;
 };
 
-constexpr std::array<Capability, 11> kCapabilities{{
+constexpr std::array<Capability, 12> kCapabilities{{
     {Layout::Flowing, Format::Docx},
     {Layout::Flowing, Format::Rtf},
     {Layout::Flowing, Format::Doc},
     {Layout::TruePage, Format::Docx},
     {Layout::TruePage, Format::Rtf},
+    {Layout::TruePage, Format::Doc},
     {Layout::Continuous, Format::Docx},
     {Layout::Continuous, Format::Rtf},
     {Layout::Continuous, Format::Doc},

@@ -230,4 +230,15 @@ std::optional<double> advanceOf(std::string_view family, FontFace face, char32_t
     return width > 0 ? std::optional(width * kThousandth * faces->scale) : std::nullopt;
 }
 
+std::optional<double> naturalWidth(std::u32string_view text, std::string_view family, FontFace face) {
+    double sum = 0;
+    for (const char32_t character : text) {
+        const std::optional<double> advance = advanceOf(family, face, character);
+        if (!advance)
+            return std::nullopt;
+        sum += *advance;
+    }
+    return sum > 0 ? std::optional(sum) : std::nullopt;
+}
+
 } // namespace orvane::layout

@@ -20,4 +20,7 @@ bool hasKnownWidths(std::string_view family);
 /// neither Latin, Cyrillic nor usual punctuation. Letters with accents are as wide as those without.
 std::optional<double> advanceOf(std::string_view family, FontFace face, char32_t character);
 
+/// Natural width of a text. Units: em. Unset when a character's width is not known.
+std::optional<double> naturalWidth(std::u32string_view text, std::string_view family, FontFace face);
+
 } // namespace orvane::layout

@@ -66,18 +66,6 @@ struct Fit {
     std::size_t characters = 0; ///< measured
 };
 
-/// Natural width in a family. Units: em. Unset when a character's width is not known.
-std::optional<double> naturalWidth(std::u32string_view text, std::string_view family, FontFace face) {
-    double sum = 0;
-    for (const char32_t character : text) {
-        const std::optional<double> advance = advanceOf(family, face, character);
-        if (!advance)
-            return std::nullopt;
-        sum += *advance;
-    }
-    return sum > 0 ? std::optional(sum) : std::nullopt;
-}
-
 struct Measured {
     double width = 0;
     double natural = 0;

@@ -33,23 +33,19 @@ double pitchOf(const ParagraphDraft& text, const LineExtent& extent) {
     return text.leading > 0 ? text.leading : extent.height();
 }
 
-/// True when a word processor sets the lines as wide as they are: the font's widths are those of its family, and
-/// nothing was drawn together to fit.
-bool hasNaturalWidths(const ParagraphDraft& text, std::size_t page, const AssemblyContext& context) {
+/// True when the widths of all fonts are those of a family, so that the lines are as wide as they were fitted to be.
+bool areWidthsKnown(const ParagraphDraft& text, std::size_t page, const AssemblyContext& context) {
     for (const Line& line : text.lines)
         for (const Word& word : line.words)
-            for (const Span& span : word.spans) {
-                const bool isTight =
-                    span.look.characterSpacing < -context.parameters.truePage.tightSpacing * span.look.size;
-                const MappedFont& font = context.fonts.font(page, span.look.font);
-                if (isTight || !font.isLineKnown || font.isStandIn || font.widthPercent != 100)
+            for (const Span& span : word.spans)
+                if (!context.fonts.font(page, span.look.font).isLineKnown)
                     return false;
-            }
     return true;
 }
 
-/// Level lines: `room` is added where the text may grow to.
-FrameBox levelBox(const ParagraphDraft& text, const LineExtent& extent, double room) {
+/// Level lines: `room` is added where the text may grow to, up to the page's edge: word processors push boxes that
+/// reach over it back onto the page.
+FrameBox levelBox(const ParagraphDraft& text, const LineExtent& extent, double room, double pageWidth) {
     const double pitch = pitchOf(text, extent);
     const double top = text.lines.front().baseline - spacedExtent(extent, exactly(pitch)).ascent;
     Rect box{text.box.left, top, text.box.right, top + pitch * static_cast<double>(text.lines.size())};
@@ -61,6 +57,8 @@ FrameBox levelBox(const ParagraphDraft& text, const LineExtent& extent, double r
     } else if (text.alignment != Alignment::Justified) {
         (growsLeft ? box.left : box.right) += growsLeft ? -room : room;
     }
+    box.left = std::max(box.left, std::min(text.box.left, 0.0));
+    box.right = std::min(box.right, std::max(text.box.right, pageWidth));
     return {box, 0, {}};
 }
 
@@ -134,11 +132,11 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     const Line& first = text.lines.front();
     const auto& parameters = context.parameters.truePage;
     const LineExtent extent = extentOf(first, piece.page, context.fonts);
-    const bool isNatural = hasNaturalWidths(text, piece.page, context);
-    const double roomShare = isNatural ? parameters.room : parameters.roomForOtherFonts;
+    const bool isKnown = areWidthsKnown(text, piece.page, context);
+    const double roomShare = isKnown ? parameters.room : parameters.roomForOtherFonts;
     const double room = std::max(parameters.leastRoom, roomShare * text.box.width());
     // Lines that may turn out too wide must not be held between two edges.
-    if (text.alignment == Alignment::Justified && !isNatural)
+    if (text.alignment == Alignment::Justified && !isKnown)
         text.alignment = Alignment::Start;
 
     document::Paragraph& paragraph = *block.paragraph();
@@ -150,7 +148,7 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     } else if (first.angle != 0) {
         place(frame, turnedBox(first, extent, roomShare));
     } else {
-        place(frame, levelBox(text, extent, room));
+        place(frame, levelBox(text, extent, room, context.draft.pages[piece.page].width));
         paragraph.properties.alignment = text.alignment;
         paragraph.properties.indentStart = twipsFromPoints(text.indentStart);
         paragraph.properties.firstLine = twipsFromPoints(text.firstLine);

@@ -10,6 +10,7 @@
 #include "layout/truepage/Backdrop.h"
 #include "layout/truepage/FrameAssembler.h"
 #include "layout/truepage/FrameCutter.h"
+#include "layout/truepage/LineFitter.h"
 
 #include <algorithm>
 #include <iterator>
@@ -98,7 +99,9 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
     const DocumentContext context = analyseDocument(pages, parameters);
     DocumentDraft draft = draftOf(pages, context, parameters, observer, diagnostics);
     const LinkTargets links(draft, facts.outline, diagnostics);
-    const FontCatalog fonts(draft, parameters, request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths);
+    const Tracking tracking = request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths;
+    const FontCatalog fonts(draft, parameters, tracking);
+    fitLines(draft.blocks, fonts, tracking, parameters.truePage);
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     std::vector<BlockFlow> flows;
     flows.push_back({FlowKind::Body, assembleBlocks(draft.blocks, assembly)});

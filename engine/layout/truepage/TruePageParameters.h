@@ -16,11 +16,16 @@ struct TruePageParameters {
         double edgeTolerance = 1.0;       ///< points; edges of lines that differ by less are one
         double largestFirstLine = 4.0;    ///< of the font size; by how much a first line is indented, or hangs
         std::size_t fewestFlushLines = 3; ///< lines with two flush edges that are justified rather than alike by chance
-        double tightSpacing =
-            0.005; ///< of the font size; letters drawn nearer to each other than that need their spacing
-        double roomForOtherFonts = 0.6; ///< of the text's width; where nothing is known of the widths of the font
-        double room = 0.12;             ///< of the text's width; other fonts may need so much more
-        double leastRoom = 6.0;         ///< points; likewise
+        double roomForOtherFonts = 0.6;   ///< of the text's width; where nothing is known of the widths of the font
+        double room = 0.12;               ///< of the text's width; other fonts may need so much more
+        double leastRoom = 6.0;           ///< points; likewise
+        // LineFitter
+        double fitSlack = 0.006;     ///< of the line's width; one that fills its box by more may not fit into it
+        double leastStretch = 0.025; ///< of the width; text is not stretched by less
+        double narrowest = 0.6;      ///< of the natural width; text that needs less is no fit
+        double widest = 1.3;         ///< likewise
+        double usualBlank = 0.25;    ///< em; where nothing is known of the font's blank
+        std::size_t longestSign = 2; ///< characters; so much of a family of unknown widths harms no line
     } truePage;
 };
 

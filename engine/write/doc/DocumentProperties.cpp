@@ -17,6 +17,7 @@ constexpr int kFirstNote = 1 << 2;
 constexpr int kDefaultTab = 720;
 constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
+constexpr int kJustifiesLinesThatBreak = 1 << 13; ///< Source: [MS-DOC] 2.9.34 (Copts60, fExpShRtn)
 constexpr std::size_t kNoteNumbers = 492; ///< where the formats of the notes' numbers stand
 constexpr int kDecimal = 0;
 constexpr int kLowerRoman = 2;
@@ -79,10 +80,10 @@ std::string propertySet(const std::vector<Property>& properties) {
 
 std::string documentProperties(Pages pages) {
     Bytes bytes;
-    bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0)).u16(kFirstNote).zeros(6);
-    bytes.u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
+    bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0)).u16(kFirstNote).zeros(4);
+    bytes.u16(kJustifiesLinesThatBreak).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
     bytes.u16(kFirstNote).u16(kEndnotesAtDocumentEnd | kLowerRoman << kLowerRomanPlace).zeros(82 - bytes.size());
-    bytes.u16(kSize100).zeros(kNoteNumbers - bytes.size());
+    bytes.u16(kSize100).u16(kJustifiesLinesThatBreak).zeros(kNoteNumbers - bytes.size());
     bytes.u16(kDecimal).u16(kLowerRoman);
     bytes.zeros(kPropertiesSize - bytes.size());
     return bytes.str();

@@ -52,6 +52,8 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     writeDocumentPage(rtf, first);
     rtf.word("deftab", kDefaultTab);
     rtf.word("widowctrl");
+    // Lines that end by hand are justified like others, as in the other formats.
+    rtf.word("expshrtn");
     rtf.word("ftnbj");
     rtf.word("aenddoc");
     rtf.word("aftnnrlc");

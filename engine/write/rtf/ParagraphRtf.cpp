@@ -43,6 +43,17 @@ void writeProperties(Story& story, const Paragraph& paragraph, const Style& styl
     writeRunProperties(story.state, rtf, style.run, plainRun(), ScriptUse::Complex);
 }
 
+/// Boxes of text stand first: a reader that finds a picture before them parts the paragraph there, and with it the
+/// page. What lies above what is told by its number, not by the order in the file.
+void writeFloats(Story& story, const std::vector<const Block*>& floats) {
+    for (const Block* block : floats)
+        if (std::holds_alternative<Frame>(block->value))
+            writeFloat(story, *block);
+    for (const Block* block : floats)
+        if (!std::holds_alternative<Frame>(block->value))
+            writeFloat(story, *block);
+}
+
 } // namespace
 
 void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoad& load) {
@@ -55,8 +66,7 @@ void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoa
     const std::span<const Inline> inlines = paragraph.inlines;
     const std::size_t breaks = leadingBreaks(paragraph);
     writeInlines(story, inlines.first(breaks), style.run);
-    for (const Block* block : load.floats)
-        writeFloat(story, *block);
+    writeFloats(story, load.floats);
     if (load.writeLead)
         load.writeLead();
     writeInlines(story, inlines.subspan(breaks), style.run);

@@ -100,9 +100,8 @@ TEST_F(BadInput, EndsWhenTheDiskIsFullOfPictures) {
     EXPECT_FALSE(exists("a.docx"));
 }
 
-TEST_F(BadInput, RefusesWhatDoesNotExistYetOrMakesNoSense) {
+TEST_F(BadInput, RefusesWhatMakesNoSense) {
     const std::string source = makePdf("a.pdf", 3);
-    expectRefused({"convert", source, path("a.doc"), "--layout", "true-page"}, 2, "\"true-page\" is not available");
     expectRefused({"convert", source, "--pages", "4-9"}, 2, "4-9");
     expectRefused({"convert", source, "--pages", "0"}, 2, "\"0\"");
     expectRefused({"convert", source, path("a.txt")}, 2, "a.txt");

@@ -28,6 +28,7 @@ TEST(FontName, TellsTheStyleByWholeWords) {
         {"Italia", 0, false},
         {"Blackadder", 0, false},
         {"CMBX10", 700, false},
+        {"NimbusRomNo9L-MediItal", 700, true},
         {"CMTI8", 0, true},
         {"CMR10", 0, false},
         {"SFBX1200", 700, false},

@@ -9,15 +9,10 @@ namespace {
 using protocol::Format;
 using protocol::Layout;
 
-TEST(Capabilities, HasThreeLayoutsInEachFormat) {
-    for (const Layout layout : {Layout::Flowing, Layout::Continuous, Layout::PlainText})
+TEST(Capabilities, HasEachLayoutInEachFormat) {
+    for (const Layout layout : {Layout::Flowing, Layout::TruePage, Layout::Continuous, Layout::PlainText})
         for (const Format format : {Format::Docx, Format::Rtf, Format::Doc})
             EXPECT_NO_THROW(requireSupported(layout, format));
-}
-
-TEST(Capabilities, HasTruePageWhereTheFormatHasTextBoxes) {
-    EXPECT_NO_THROW(requireSupported(Layout::TruePage, Format::Docx));
-    EXPECT_NO_THROW(requireSupported(Layout::TruePage, Format::Rtf));
 }
 
 TEST(Capabilities, NamesWhatIsMissing) {
@@ -28,7 +23,7 @@ TEST(Capabilities, NamesWhatIsMissing) {
     };
     const Row rows[] = {
         {Layout::Images, Format::Docx, "\"images\""},
-        {Layout::TruePage, Format::Doc, "\"true-page\""},
+        {Layout::Images, Format::Doc, "\"images\""},
     };
     for (const Row& row : rows) {
         try {

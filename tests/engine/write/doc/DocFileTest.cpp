@@ -57,6 +57,12 @@ TEST(DocFile, TellsWhatTheDocumentSaysOfItself) {
     EXPECT_THAT(summary, HasSubstr(std::string("\x40\0\0\0\x80\x96\x98\0\0\0\0\0", 12)));
 }
 
+TEST(DocFile, JustifiesLinesThatEndByHand) {
+    const std::string properties = WrittenDoc(documentOf("a")).read().table(31);
+    EXPECT_EQ(properties.substr(8, 2), std::string("\0\x20", 2));
+    EXPECT_EQ(properties.substr(84, 2), std::string("\0\x20", 2)) << "what later editions read";
+}
+
 TEST(DocFile, IsRefusedWhereNothingCanBeWritten) {
     const TemporaryFolder folder;
     const PictureStore pictures(folder.path());

@@ -54,6 +54,15 @@ TEST(RtfPicture, IsCutFromItsWholeSize) {
                     .has("\\picwgoal8000\\pichgoal2000\\picscalex50\\picscaley50\\piccropl4000"));
 }
 
+TEST(RtfPicture, StandsBehindTheBoxesOfItsParagraph) {
+    const Stored stored(pngPicture(8, 4, kBlack));
+    Frame frame;
+    frame.blocks = {{paragraph("boxed")}};
+    const std::string text =
+        WrittenRtf(documentOf({{Figure{stored.picture, {}, {}}}, {frame}, {paragraph("a")}}), stored.pictures).text();
+    EXPECT_LT(text.find("boxed"), text.find("\\pngblip")) << "a reader parts the paragraph after a picture";
+}
+
 TEST(RtfPicture, IsToldOfWhenItIsMissing) {
     Picture missing;
     missing.id.value = 3;

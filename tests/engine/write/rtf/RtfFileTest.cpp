@@ -14,6 +14,10 @@ namespace {
 using namespace document;
 using testing::IsEmpty;
 
+TEST(RtfFile, JustifiesLinesThatEndByHand) {
+    EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\expshrtn"));
+}
+
 TEST(RtfFile, IsWholeForADocumentThatHasOneOfEverything) {
     const TemporaryFolder folder;
     PictureStore pictures(folder.path());
