@@ -1,6 +1,7 @@
 #include "write/doc/DocFile.h"
 
 #include "write/doc/BlockDoc.h"
+#include "write/doc/CommentDoc.h"
 #include "write/doc/DocLists.h"
 #include "write/doc/DocumentProperties.h"
 #include "write/doc/FieldDoc.h"
@@ -38,10 +39,12 @@ std::vector<WrittenSection> writeBody(DocState& state) {
         endParagraph(story, i + 1 == sections.size() ? ParagraphEnd::Paragraph : ParagraphEnd::Section);
         written.push_back({state.body.length(), sectionProperties(sections[i], state.diagnostics)});
     }
-    // The last paragraph mark of these texts belongs to no note and no box.
+    // The last paragraph mark of these texts belongs to no note, no comment and no box.
     for (NoteTexts* notes : {&state.footnotes, &state.endnotes})
         if (!notes->references.empty())
             endPlainParagraph(notes->text);
+    if (!state.comments.references.empty())
+        endPlainParagraph(state.comments.text);
     if (!state.textBoxes.starts.empty())
         endPlainParagraph(state.textBoxes.text);
     return written;
@@ -116,6 +119,10 @@ void addNotes(TableStream& table, const DocState& state) {
     const NoteTables endnotes = noteTables(state.endnotes, state.body.length());
     table.add(TablePart::EndnoteReferences, endnotes.references);
     table.add(TablePart::EndnoteTexts, endnotes.texts);
+    const CommentTables comments = commentTables(state.comments, state.body.length());
+    table.add(TablePart::CommentReferences, comments.references);
+    table.add(TablePart::CommentTexts, comments.texts);
+    table.add(TablePart::CommentAuthors, comments.authors);
 }
 
 /// Which shape each box of text belongs to, and that none goes on in another. The last entry is for the paragraph mark
@@ -149,6 +156,7 @@ void addFields(TableStream& table, const DocState& state, const RunningTexts& ru
     table.add(TablePart::BodyFields, fieldTable(state.body));
     table.add(TablePart::RunningTextFields, fieldTable(running.text));
     table.add(TablePart::FootnoteFields, fieldTable(state.footnotes.text));
+    table.add(TablePart::CommentFields, fieldTable(state.comments.text));
     table.add(TablePart::EndnoteFields, fieldTable(state.endnotes.text));
     table.add(TablePart::TextBoxFields, fieldTable(state.textBoxes.text));
 }
@@ -172,6 +180,7 @@ StoryText wholeText(const DocState& state, const RunningTexts& running) {
     StoryText text = state.body;
     text.append(state.footnotes.text);
     text.append(running.text);
+    text.append(state.comments.text);
     text.append(state.endnotes.text);
     text.append(state.textBoxes.text);
     // Where the body is not all, one more paragraph mark ends the file.
@@ -219,7 +228,8 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.add(TablePart::DocumentProperties, documentProperties(running.hasEvenPages ? Pages::Facing : Pages::Alike));
     table.add(TablePart::Pieces, pieces(text.length()));
 
-    const TextLengths lengths{state.body.length(), state.footnotes.text.length(), running.text.length(),
+    const TextLengths lengths{state.body.length(),          state.footnotes.text.length(),
+                              running.text.length(),        state.comments.text.length(),
                               state.endnotes.text.length(), state.textBoxes.text.length()};
     std::vector<CompoundStream> streams;
     const auto mainSize = main.position() + static_cast<std::uint32_t>(tail.size());

@@ -41,10 +41,22 @@ struct TextBoxes {
     StoryText text;
 };
 
+/// Comments in the order of their marks.
+struct CommentTexts {
+    struct Reference {
+        std::uint32_t place = 0;
+        std::u16string initials;
+        std::size_t author = 0; ///< index into `authors`
+    };
+    std::vector<Reference> references;
+    std::vector<std::uint32_t> starts; ///< in `text`
+    std::vector<std::u16string> authors;
+    StoryText text;
+};
+
 /// What has been told of only once.
 struct ToldOf {
     bool drawing = false;
-    bool comment = false;
     bool background = false;
 };
 
@@ -57,7 +69,8 @@ struct DocState {
         , styles(source)
         , styleNumbers(source, styles)
         , pictures(store, data)
-        , isNoteWritten(source.notes.size()) {}
+        , isNoteWritten(source.notes.size())
+        , isCommentWritten(source.comments.size()) {}
 
     const document::Document& document;
     Diagnostics& diagnostics;
@@ -70,16 +83,18 @@ struct DocState {
     StoryText body;
     NoteTexts footnotes;
     NoteTexts endnotes;
+    CommentTexts comments;
     TextBoxes textBoxes;
     std::vector<FloatingObject> floatingObjects;
     std::set<std::string> bookmarkNames;
     std::vector<NamedPlace> bookmarks;
-    std::vector<bool> isNoteWritten; ///< by index into Document::notes
+    std::vector<bool> isNoteWritten;    ///< by index into Document::notes
+    std::vector<bool> isCommentWritten; ///< by index into Document::comments
     ToldOf toldOf;
 };
 
 /// What a text may hold depends on where it stands.
-enum class StoryKind { Body, RunningText, Note, TextBox };
+enum class StoryKind { Body, RunningText, Note, Comment, TextBox };
 
 /// The paragraph that has not ended yet; what ends it depends on what follows.
 struct OpenParagraph {
@@ -97,6 +112,7 @@ struct Story {
     int flattenedTables = 0; ///< tables around that became paragraphs
     std::optional<OpenParagraph> open{};
     std::vector<std::size_t> displacedNotes{};
+    std::vector<std::size_t> displacedComments{}; ///< of a text box, which cannot hold them
 };
 
 } // namespace orvane::write::doc

@@ -21,7 +21,7 @@
 ///   [x] text boxes over the body, with text, tables and pictures in the line
 ///   [-] what floats in headers, footers, notes and text boxes is part of their text
 ///   [ ] drawings, and pictures behind the text, in headers, footers, notes and text boxes
-///   [ ] comments
+///   [-] comments, with their authors; without the time
 ///   [-] notes in headers and notes become paragraphs there; the format has them in the body only
 ///   [x] links, bookmarks, page fields, table of contents
 ///   [x] footnotes, endnotes, with marks of their own or counted

@@ -38,8 +38,8 @@ std::string fileInformation(const TextLengths& lengths, const TableStream& table
     fib.u32(kFileInformationSize).u32(textEnd);
     fib.u16(kShortNumbers).zeros(2 * (kShortNumbers - 1)).u16(kUsEnglish);
     fib.u16(kLongNumbers).u32(streamSize).zeros(8);
-    fib.u32(lengths.body).u32(lengths.footnotes).u32(lengths.runningTexts).zeros(8).u32(lengths.endnotes);
-    fib.u32(lengths.textBoxes).zeros(4 * (kLongNumbers - 10));
+    fib.u32(lengths.body).u32(lengths.footnotes).u32(lengths.runningTexts).zeros(4).u32(lengths.comments);
+    fib.u32(lengths.endnotes).u32(lengths.textBoxes).zeros(4 * (kLongNumbers - 10));
     fib.u16(static_cast<std::int64_t>(TableStream::kCount));
     for (std::size_t i = 0; i < TableStream::kCount; ++i)
         fib.u32(table.placeOf(i).first).u32(table.placeOf(i).second);

@@ -13,6 +13,8 @@ enum class TablePart {
     Styles = 1,
     FootnoteReferences = 2,
     FootnoteTexts = 3,
+    CommentReferences = 4,
+    CommentTexts = 5,
     Sections = 6,
     RunningTexts = 11,
     Looks = 12,
@@ -21,11 +23,13 @@ enum class TablePart {
     BodyFields = 16,
     RunningTextFields = 17,
     FootnoteFields = 18,
+    CommentFields = 19,
     BookmarkNames = 21,
     BookmarkStarts = 22,
     BookmarkEnds = 23,
     DocumentProperties = 31,
     Pieces = 33,
+    CommentAuthors = 36,
     BodyAnchors = 40,
     EndnoteReferences = 46,
     EndnoteTexts = 47,
@@ -43,6 +47,7 @@ struct TextLengths {
     std::uint32_t body = 0;
     std::uint32_t footnotes = 0;
     std::uint32_t runningTexts = 0;
+    std::uint32_t comments = 0;
     std::uint32_t endnotes = 0;
     std::uint32_t textBoxes = 0;
 };

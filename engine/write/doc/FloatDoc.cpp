@@ -1,6 +1,7 @@
 #include "write/doc/FloatDoc.h"
 
 #include "write/doc/BlockDoc.h"
+#include "write/doc/CommentDoc.h"
 #include "write/doc/NoteDoc.h"
 #include "write/doc/ParagraphDoc.h"
 
@@ -36,13 +37,16 @@ void writeFigure(Story& story, const Figure& figure) {
     writeParagraph(story, paragraph, {});
 }
 
-/// Writes the text of a box, and tells its number.
-int writeBox(DocState& state, const Frame& frame) {
+/// Writes the text of a box, and tells its number. Comments stand beside the box.
+int writeBox(Story& around, const Frame& frame) {
+    DocState& state = around.state;
     state.textBoxes.starts.push_back(state.textBoxes.text.length());
     Story story{state, state.textBoxes.text, StoryKind::TextBox};
     writeBlocks(story, frame.blocks);
     writeDisplacedNotes(story);
     endParagraph(story, ParagraphEnd::Paragraph);
+    for (const std::size_t comment : story.displacedComments)
+        writeCommentReference(around, {comment});
     return static_cast<int>(state.textBoxes.starts.size());
 }
 
@@ -66,7 +70,7 @@ void writeAnchor(Story& story, const Block& block) {
     object.frame = std::get_if<Frame>(&block.value);
     story.text.add({&character::kFloatingObject, 1}, PropertyList().add(sprm::kCFSpec, 1).bytes());
     if (object.frame)
-        object.box = writeBox(story.state, *object.frame);
+        object.box = writeBox(story, *object.frame);
     story.state.floatingObjects.push_back(object);
 }
 

@@ -2,6 +2,7 @@
 
 #include "write/LinkNames.h"
 #include "write/ParagraphParts.h"
+#include "write/doc/CommentDoc.h"
 #include "write/doc/FieldDoc.h"
 #include "write/doc/NoteDoc.h"
 #include "write/doc/RunDoc.h"
@@ -111,11 +112,7 @@ private:
 
     void writeOne(const NoteReference& reference) { writeNoteReference(m_story, reference, m_base); }
 
-    void writeOne(const CommentReference&) {
-        if (!std::exchange(m_story.state.toldOf.comment, true))
-            m_story.state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
-                                          "comments are left out of DOC documents");
-    }
+    void writeOne(const CommentReference& reference) { writeCommentReference(m_story, reference); }
 
     void writeOne(const Field& field) {
         startField(m_story, kindOf(field), fieldInstruction(field));

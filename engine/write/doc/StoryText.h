@@ -14,6 +14,7 @@ inline constexpr char16_t kPicture = 0x01;
 inline constexpr char16_t kNote = 0x02;
 inline constexpr char16_t kSeparator = 0x03;
 inline constexpr char16_t kContinuationSeparator = 0x04;
+inline constexpr char16_t kComment = 0x05;
 inline constexpr char16_t kCellEnd = 0x07;
 inline constexpr char16_t kFloatingObject = 0x08;
 inline constexpr char16_t kTab = 0x09;

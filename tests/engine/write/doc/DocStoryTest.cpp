@@ -60,6 +60,23 @@ TEST(DocNote, IsTextInAHeader) {
     EXPECT_THAT(doc.read().text(), HasSubstr("a*\\0dnote\\0d"));
 }
 
+TEST(DocComment, StandsBesideTheBoxThatItIsIn) {
+    Frame frame;
+    frame.blocks = {{paragraph({text("boxed"), {CommentReference{0}}})}};
+    Document document = documentOf({{frame}, {paragraph("a")}});
+    document.comments = {{"Ada", "", {{paragraph("why")}}}};
+    EXPECT_EQ(WrittenDoc(document).read().text(), "\\08\\05a\\0d\\05why\\0d\\0dboxed\\0d\\0d\\0d");
+}
+
+TEST(DocComment, IsToldOfWhereTheFormatHasNone) {
+    Document document = documentOf("body");
+    document.comments = {{"Ada", "", {{paragraph("why")}}}};
+    document.sections[0].header.standard = {{paragraph({text("head"), {CommentReference{0}}})}};
+    const WrittenDoc doc(document);
+    EXPECT_EQ(doc.read().text().find("why"), std::string::npos);
+    EXPECT_EQ(doc.diagnostics().entries().size(), 1u);
+}
+
 TEST(DocSection, HasRunningTextsForKindsOfPages) {
     Document document = documentOf("body");
     Section& page = document.sections[0];

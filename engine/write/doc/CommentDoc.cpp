@@ -1,0 +1,88 @@
+#include "write/doc/CommentDoc.h"
+
+#include "write/Initials.h"
+#include "write/doc/BlockDoc.h"
+#include "write/doc/NoteDoc.h"
+#include "write/doc/ParagraphDoc.h"
+
+#include <algorithm>
+
+namespace orvane::write::doc {
+namespace {
+
+using namespace document;
+
+constexpr std::size_t kInitialsLength = 9;
+constexpr std::size_t kLongestAuthor = 255;
+constexpr std::int64_t kNoRange = 0xFFFFFFFF;
+
+void addMark(StoryText& text) {
+    text.add({&character::kComment, 1}, PropertyList().add(sprm::kCFSpec, 1).bytes());
+}
+
+std::size_t authorIndex(CommentTexts& comments, const std::u16string& author) {
+    const auto found = std::find(comments.authors.begin(), comments.authors.end(), author);
+    const auto index = static_cast<std::size_t>(found - comments.authors.begin());
+    if (index == comments.authors.size())
+        comments.authors.push_back(author);
+    return index;
+}
+
+void writeComment(DocState& state, const Comment& comment, std::uint32_t place) {
+    CommentTexts& comments = state.comments;
+    const std::u16string author = utf16FromUtf8(comment.author).substr(0, kLongestAuthor);
+    comments.references.push_back(
+        {place, utf16FromUtf8(initialsOf(comment.author)).substr(0, kInitialsLength), authorIndex(comments, author)});
+    comments.starts.push_back(comments.text.length());
+    Story story{state, comments.text, StoryKind::Comment};
+    writeBlocks(story, comment.blocks, {[&] { addMark(story.text); }});
+    writeDisplacedNotes(story);
+    endParagraph(story, ParagraphEnd::Paragraph);
+}
+
+} // namespace
+
+void writeCommentReference(Story& story, const CommentReference& reference) {
+    DocState& state = story.state;
+    if (reference.comment >= state.isCommentWritten.size() || state.isCommentWritten[reference.comment])
+        return;
+    if (story.kind == StoryKind::TextBox) {
+        story.displacedComments.push_back(reference.comment);
+        return;
+    }
+    if (story.kind != StoryKind::Body) {
+        state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
+                              "a comment in a header, a footer, a note or a comment was left out");
+        return;
+    }
+    state.isCommentWritten[reference.comment] = true;
+    const std::uint32_t place = story.text.length();
+    addMark(story.text);
+    writeComment(state, state.document.comments[reference.comment], place);
+}
+
+CommentTables commentTables(const CommentTexts& comments, std::uint32_t bodyLength) {
+    if (comments.references.empty())
+        return {};
+    Bytes places;
+    Bytes entries;
+    for (const CommentTexts::Reference& reference : comments.references) {
+        places.u32(reference.place);
+        std::u16string initials = reference.initials;
+        entries.u16(static_cast<std::int64_t>(initials.size()));
+        initials.resize(kInitialsLength);
+        entries.characters(initials).u16(static_cast<std::int64_t>(reference.author)).zeros(4).u32(kNoRange);
+    }
+    places.u32(bodyLength);
+    Bytes texts;
+    for (const std::uint32_t start : comments.starts)
+        texts.u32(start);
+    // The last paragraph mark of the text belongs to no comment.
+    texts.u32(comments.text.length() - 1).u32(comments.text.length());
+    Bytes authors;
+    for (const std::u16string& author : comments.authors)
+        authors.u16(static_cast<std::int64_t>(author.size())).characters(author);
+    return {places.str() + entries.str(), texts.str(), authors.str()};
+}
+
+} // namespace orvane::write::doc
