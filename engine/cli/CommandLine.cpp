@@ -135,6 +135,12 @@ void addImages(CLI::App& app, ImagesOptions& options) {
     command.add_flag("--json", options.json, "Print a JSON object instead of text");
 }
 
+void addDump(CLI::App& app, DumpOptions& options) {
+    CLI::App& command =
+        *app.add_subcommand("dump", "List the structures of a binary document as text:\n  orvane dump FILE.doc");
+    command.add_option("FILE", options.file, "The DOC, of an edition from 97 on")->required()->type_name("");
+}
+
 /// What the option types cannot say; empty when all is well.
 std::string findContradiction(const ConvertOptions& options) {
     if (!options.outputFolder && options.files.size() > 2)
@@ -149,6 +155,7 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
     InfoOptions info;
     InspectOptions inspect;
     ImagesOptions images;
+    DumpOptions dump;
     CLI::App app("Orvane converts PDF files to word processor documents.", "orvane");
     app.set_version_flag("--version", "orvane " ORVANE_VERSION);
     app.require_subcommand(1);
@@ -157,6 +164,7 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
     addImages(app, images);
     addInfo(app, info);
     addInspect(app, inspect);
+    addDump(app, dump);
     for (CLI::App* command : app.get_subcommands({}))
         command->footer(exitCodeHelp());
     try {
@@ -169,6 +177,8 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
         return Command(info);
     if (app.got_subcommand("inspect"))
         return Command(inspect);
+    if (app.got_subcommand("dump"))
+        return Command(dump);
     if (app.got_subcommand("images"))
         return Command(images);
     if (const std::string contradiction = findContradiction(convert); !contradiction.empty()) {

@@ -41,6 +41,11 @@ struct InspectOptions {
     std::string passwordFile;
 };
 
+/// `orvane dump` as it was typed.
+struct DumpOptions {
+    std::string file;
+};
+
 /// `orvane images` as it was typed.
 struct ImagesOptions {
     std::string file;
@@ -52,7 +57,7 @@ struct ImagesOptions {
     bool json = false;
 };
 
-using Command = std::variant<ConvertOptions, InfoOptions, InspectOptions, ImagesOptions>;
+using Command = std::variant<ConvertOptions, InfoOptions, InspectOptions, ImagesOptions, DumpOptions>;
 
 /// Either a command, or the code to leave with: the help was asked for and written to `out`, or the line was wrong, and
 /// `err` got why.

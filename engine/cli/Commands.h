@@ -25,4 +25,7 @@ ExitCode info(const InfoOptions& options, const Streams& streams);
 /// `orvane inspect`.
 ExitCode inspect(const InspectOptions& options, const Streams& streams);
 
+/// `orvane dump`.
+ExitCode dump(const DumpOptions& options, const Streams& streams);
+
 } // namespace orvane::cli

@@ -16,10 +16,11 @@ ENGINE = {
     "layout": {"base", "pdf", "document"},
     "pictures": {"base", "pdf"},
     "write": {"base", "document"},
+    "read": {"base"},
     "protocol": {"base"},
     "worker": {"base", "pdf", "document", "layout", "pictures", "write", "protocol"},
     "component": {"base", "protocol", "orvane"},
-    "cli": {"base", "protocol"},
+    "cli": {"base", "protocol", "read"},
 }
 APP = {
     "platform": set(),

@@ -22,5 +22,7 @@ int main(int argc, char** argv) {
         return static_cast<int>(cli::inspect(*inspect, streams));
     if (const auto* images = std::get_if<cli::ImagesOptions>(&command))
         return static_cast<int>(cli::images(*images, streams));
+    if (const auto* dump = std::get_if<cli::DumpOptions>(&command))
+        return static_cast<int>(cli::dump(*dump, streams));
     return static_cast<int>(cli::info(std::get<cli::InfoOptions>(command), streams));
 }

@@ -77,6 +77,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
         {"convert", "a.pdf", "--pages"},
         {"convert", "a.pdf", "--faster"},
         {"info"},
+        {"dump"},
         {"info", "a.pdf", "b.pdf"},
     };
     for (const auto& line : lines) {
