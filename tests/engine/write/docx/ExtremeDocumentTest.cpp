@@ -1,8 +1,8 @@
-#include "DocumentBuilder.h"
-#include "TestPicture.h"
+#include "ExtremeDocuments.h"
 #include "WrittenDocument.h"
 
 #include "support/docx/DocxCheck.h"
+#include "write/docx/DocxWriter.h"
 
 #include <gmock/gmock.h>
 
@@ -12,32 +12,18 @@ namespace {
 using namespace document;
 
 TEST(ExtremeDocument, HasATableOfFiftyThousandCells) {
-    Table table;
-    table.columnWidths.assign(50, Twips(200));
-    for (int row = 0; row < 1000; ++row) {
-        TableRow cells;
-        for (int column = 0; column < 50; ++column)
-            cells.cells.push_back(cell("x", column));
-        table.rows.push_back(std::move(cells));
-    }
-    const WrittenDocument written(documentOf({{table}}));
-    EXPECT_EQ(written.count("//w:tc"), 50000u);
-    EXPECT_THAT(faultsOfDocx(written.file()), testing::IsEmpty());
+    const Document document = documentOf({{largeTable(1000, 50)}});
+    const auto duration = durationOf([&] {
+        const WrittenDocument written(document);
+        EXPECT_EQ(written.count("//w:tc"), 50000u);
+        EXPECT_THAT(faultsOfDocx(written.file()), testing::IsEmpty());
+    });
+    EXPECT_LT(duration, kLongEnough);
 }
 
 TEST(ExtremeDocument, HasTablesWithinTablesBeyondWhatReadersTake) {
     constexpr int kDepth = 500;
-    Table table;
-    table.rows.resize(1);
-    table.rows[0].cells.push_back(cell("innermost"));
-    for (int depth = 1; depth < kDepth; ++depth) {
-        Table outer;
-        outer.rows.resize(1);
-        outer.rows[0].cells.push_back(cell("x"));
-        outer.rows[0].cells[0].blocks.push_back({std::move(table)});
-        table = std::move(outer);
-    }
-    const WrittenDocument written(documentOf({{std::move(table)}}));
+    const WrittenDocument written(documentOf({{nestedTables(kDepth)}}));
     EXPECT_EQ(written.count("//w:t"), static_cast<std::size_t>(kDepth)) << "no text is lost";
     // XML readers commonly give up at 256.
     EXPECT_EQ(written.count("//*[count(ancestor::*) > 200]"), 0u);
@@ -48,22 +34,30 @@ TEST(ExtremeDocument, HasTablesWithinTablesBeyondWhatReadersTake) {
 TEST(ExtremeDocument, ShowsTenThousandPicturesOfTwoKinds) {
     const TemporaryFolder folder;
     PictureStore pictures(folder.path());
-    const PictureId ids[] = {pictures.add(pngPicture(2, 2, kBlack)), pictures.add(pngPicture(2, 2, kWhite))};
-    std::vector<Block> blocks;
-    for (std::size_t i = 0; i < 10000; ++i) {
-        Picture shown;
-        shown.id = ids[i % 2];
-        shown.width = shown.height = Emu(100000);
-        if (i % 3 == 0)
-            blocks.push_back({Figure{shown, {}, {}}});
-        else
-            blocks.push_back({paragraph({{shown}})});
-    }
-    const WrittenDocument written(documentOf(std::move(blocks)), pictures);
-    EXPECT_EQ(written.count("//w:drawing"), 10000u);
-    EXPECT_EQ(written.select("word/_rels/document.xml.rels", "//Relationship[contains(@Type, '/image')]/@Target"),
-              "media/image1.png\nmedia/image2.png\n");
+    const Document document = manyPictures(pictures, 10000);
+    const auto duration = durationOf([&] {
+        const WrittenDocument written(document, pictures);
+        EXPECT_EQ(written.count("//w:drawing"), 10000u);
+        EXPECT_EQ(written.select("word/_rels/document.xml.rels", "//Relationship[contains(@Type, '/image')]/@Target"),
+                  "media/image1.png\nmedia/image2.png\n");
+        EXPECT_THAT(faultsOfDocx(written.file()), testing::IsEmpty());
+    });
+    EXPECT_LT(duration, kLongEnough);
+}
+
+TEST(ExtremeDocument, LeavesOutWhatNoFormatCanHold) {
+    const WrittenDocument written(awkwardText());
     EXPECT_THAT(faultsOfDocx(written.file()), testing::IsEmpty());
+    for (const char* word : {"before", "within", "behind"})
+        EXPECT_EQ(written.count("//w:t[contains(., '" + std::string(word) + "')]"), 1u) << word;
+}
+
+TEST(ExtremeDocument, IsWrittenWhereTheNameHasBlanksAndOtherLetters) {
+    const TemporaryFolder folder;
+    const std::filesystem::path target = folder.path() / u8"ein Name \u00E4 \u4E2D\u6587.docx";
+    Diagnostics diagnostics;
+    write::writeDocx(documentOf("words"), PictureStore(folder.path()), target, diagnostics);
+    EXPECT_THAT(faultsOfDocx(target), testing::IsEmpty());
 }
 
 TEST(ExtremeDocument, HasNumbersBeyondWhatTheFormatTakes) {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """check_words.py --reader KIND [PROGRAM] FILE...: a reader finds the words of the sample document in each file, in order.
 
-KIND is soffice, unrtf, antiword, catdoc or cat. Prints the first word that is missing and exits with 1 where there is one.
+KIND is soffice, unrtf, antiword, catdoc, wv, poi or cat. Prints the first word that is missing and exits with 1 where there is one.
 """
 import pathlib
 import re
@@ -36,8 +36,17 @@ def texts_by_soffice(program, files):
 def text_by(kind, program, file):
     if kind == "cat":
         return pathlib.Path(file).read_text(encoding="utf-8")
-    options = {"unrtf": ["--text"], "antiword": ["-m", "UTF-8.txt"], "catdoc": ["-d", "utf-8"]}[kind]
-    output = subprocess.run([program, *options, file], check=True, capture_output=True).stdout
+    options = {
+        "unrtf": ["--text"],
+        "antiword": ["-m", "UTF-8.txt"],
+        "catdoc": ["-d", "utf-8"],
+        "wv": ["-x", "/usr/share/wv/wvText.xml"],
+        "poi": ["org.apache.poi.hwpf.extractor.WordExtractor"],
+    }[kind]
+    # Some leave files where they are started.
+    with tempfile.TemporaryDirectory() as folder:
+        command = [program, *options, str(pathlib.Path(file).resolve())]
+        output = subprocess.run(command, check=True, capture_output=True, cwd=folder).stdout
     return output.decode("utf-8", errors="replace")
 
 
