@@ -150,12 +150,22 @@ private:
         return m_sides.endsAlike ? Alignment::End : Alignment::Start;
     }
 
-    /// True when all lines but the last end at one edge.
+    /// True when all lines but the last end at one edge, most of them exactly: typesetters let hyphens and full stops
+    /// stand out over it.
     bool isFlush() const {
         if (m_lines.size() < m_parameters.fewestFlushLines)
             return false;
-        return std::all_of(m_lines.begin(), std::prev(m_lines.end()),
-                           [this](const Line& line) { return isSame(endOf(line), endOf(m_lines.front())); });
+        std::vector<double> ends;
+        for (const Line& line : m_lines)
+            ends.push_back(endOf(line));
+        ends.pop_back();
+        const auto middle = ends.begin() + static_cast<std::ptrdiff_t>(ends.size() / 2);
+        std::nth_element(ends.begin(), middle, ends.end());
+        const double edge = *middle;
+        const double farthest = m_parameters.protrusion * m_lines.front().fontSize;
+        const auto exact = std::count_if(ends.begin(), ends.end(), [&](double end) { return isSame(end, edge); });
+        return 2 * static_cast<std::size_t>(exact) >= ends.size() &&
+               std::all_of(ends.begin(), ends.end(), [&](double end) { return std::abs(end - edge) <= farthest; });
     }
 
     const TruePageParameters::TruePage& m_parameters;

@@ -16,9 +16,10 @@ struct TruePageParameters {
         double edgeTolerance = 1.0;       ///< points; edges of lines that differ by less are one
         double largestFirstLine = 4.0;    ///< of the font size; by how much a first line is indented, or hangs
         std::size_t fewestFlushLines = 3; ///< lines with two flush edges that are justified rather than alike by chance
-        double roomForOtherFonts = 0.6;   ///< of the text's width; where nothing is known of the widths of the font
-        double room = 0.12;               ///< of the text's width; other fonts may need so much more
-        double leastRoom = 6.0;           ///< points; likewise
+        double protrusion = 0.4;        ///< of the font size; by how much hyphens and full stops stand out over an edge
+        double roomForOtherFonts = 0.6; ///< of the text's width; where nothing is known of the widths of the font
+        double room = 0.12;             ///< of the text's width; other fonts may need so much more
+        double leastRoom = 6.0;         ///< points; likewise
         // LineFitter
         double fitSlack = 0.006;     ///< of the line's width; one that fills its box by more may not fit into it
         double leastStretch = 0.025; ///< of the width; text is not stretched by less

@@ -107,5 +107,19 @@ TEST(FrameCutter, TakesTheTextOfCells) {
     EXPECT_EQ(textsOf(cutIntoFrames(std::move(blocks), LayoutParameters().truePage)), (Texts{"a", "b"}));
 }
 
+TEST(FrameCutter, HyphensMayStandOutOverAFlushEdge) {
+    // Letters are five points wide.
+    const auto alignmentOf = [](double farther) {
+        std::vector<Line> lines;
+        for (int i = 0; i < 5; ++i)
+            lines.push_back(lineOf(i == 4 ? 10 : 40, 72, 100 + 12 * i));
+        for (Rect* box : {&lines[1].box, &lines[1].words[0].box, &lines[1].words[0].spans[0].box})
+            box->right += farther;
+        return textOfFrame(framesOf(std::move(lines))[0]).alignment;
+    };
+    EXPECT_EQ(alignmentOf(2.5), Alignment::Justified);
+    EXPECT_EQ(alignmentOf(6), Alignment::Start);
+}
+
 } // namespace
 } // namespace orvane::layout::tests
