@@ -6,6 +6,7 @@
 #include "layout/assembly/DocumentAssembler.h"
 #include "layout/assembly/PlainTextDocument.h"
 #include "layout/page/PageLayouter.h"
+#include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
 #include "layout/structure/AddressLinks.h"
 #include "layout/structure/ContentsFinder.h"
@@ -45,6 +46,7 @@ std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentC
         if (observer.isCancelled())
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         layouts.push_back(layoutPage(std::move(page), context, parameters, diagnostics));
+        findParagraphBorders(layouts.back(), parameters.paragraphBorders);
     }
     return layouts;
 }

@@ -47,6 +47,17 @@ void takeListIndents(const document::NumberingLevel& level, std::size_t lines, d
     }
 }
 
+/// What is drawn above the first piece and below the last, and along the first.
+void takeBorders(const DraftParagraph& paragraph, document::ParagraphProperties& format) {
+    const ParagraphDraft& first = paragraph.pieces.front().text;
+    format.borders = first.borders;
+    format.borders.bottom = paragraph.pieces.back().text.borders.bottom;
+    format.shading = first.shading;
+    // Word processors draw no rule between paragraphs with equal borders unless told so.
+    if (format.borders.top.kind == document::BorderKind::None && format.borders.left.kind == document::BorderKind::None)
+        format.betweenBorder = format.borders.bottom;
+}
+
 } // namespace
 
 document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
@@ -62,6 +73,7 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
         takeListIndents(
             numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],
             first.text.lines.size(), parameters.lists.sameIndent, format);
+    takeBorders(paragraph, format);
     format.tabs = findTabStops(paragraph, parameters);
     return format;
 }

@@ -20,6 +20,8 @@ struct ParagraphDraft {
     bool startsParagraph = true; ///< false: goes on from the column or page before
     bool endsParagraph = true;   ///< false: its last line is full and the text goes on in the next column or page
     std::vector<std::size_t> hardBreaks; ///< indices of lines that the author ended by hand
+    document::Borders borders;           ///< what is drawn around it
+    std::optional<Color> shading;
 };
 
 struct PageBlock;
@@ -85,6 +87,8 @@ struct PageLayout {
     std::vector<pdf::Mark> marks;
     std::vector<Band> bands;
     std::vector<PageBlock> blocks;
+    std::vector<Rule> freeRules; ///< that are neither of a table nor of words
+    std::vector<Ground> freeGrounds;
 };
 
 } // namespace orvane::layout

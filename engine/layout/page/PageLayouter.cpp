@@ -28,6 +28,7 @@ public:
         findColumns();
         fillColumns();
         joinColumns();
+        leaveFreeRules();
         return std::move(m_layout);
     }
 
@@ -170,6 +171,13 @@ private:
         }
         if (last && lastBlock == &m_layout.blocks.back())
             last->endsParagraph = !mayRunOn({*last, spanOf(*lastBlock)}, paragraphContext(), m_parameters);
+    }
+
+    void leaveFreeRules() {
+        std::copy_if(m_page.rules.begin(), m_page.rules.end(), std::back_inserter(m_layout.freeRules),
+                     [](const Rule& rule) { return !rule.isUsed; });
+        std::copy_if(m_page.grounds.begin(), m_page.grounds.end(), std::back_inserter(m_layout.freeGrounds),
+                     [](const Ground& ground) { return !ground.isUsed; });
     }
 
     ColumnSpan spanOf(const PageBlock& block) const {

@@ -5,6 +5,14 @@ namespace orvane::layout {
 /// Thresholds of the folder `paragraphs`: from lines to paragraphs. A field says its unit, its meaning and what taught
 /// its value.
 struct ParagraphParameters {
+    /// BorderFinder: what is drawn around paragraphs.
+    struct Borders {
+        double edgeTolerance = 1.0; ///< of the font size; a rule that ends this near to a paragraph's edge ends there
+        double overhang = 1.0;      ///< points by which letters may reach over what is drawn around them
+        double greatestSpace = 31;  ///< points between text and border. Source: ISO/IEC 29500-1, 17.3.1.7
+        double pageShare = 0.8;     ///< of the page; larger grounds are the page's
+    } paragraphBorders;
+
     /// LineMeasures, ParagraphBreaks, ParagraphShape: lines of one column become paragraphs.
     struct Paragraphs {
         double edgeTolerance = 0.25;  ///< of the font size; edges closer than this are one edge

@@ -1,6 +1,7 @@
 #include "layout/structure/RunningTextMaker.h"
 
 #include "layout/page/PageLayouter.h"
+#include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/structure/BlockExtent.h"
 #include "layout/structure/DraftBuilder.h"
 #include "layout/text/LineText.h"
@@ -80,8 +81,9 @@ RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningH
         return made->second;
     PageText content = head->content;
     joinRows(content, m_parameters.runningHeads);
-    std::vector<DraftBlock> blocks =
-        addPage(m_draft, layoutPage(std::move(content), m_context, m_parameters, m_diagnostics));
+    PageLayout page = layoutPage(std::move(content), m_context, m_parameters, m_diagnostics);
+    findParagraphBorders(page, m_parameters.paragraphBorders);
+    std::vector<DraftBlock> blocks = addPage(m_draft, std::move(page));
     m_draft.fields.back() = head->fields;
     m_made.emplace(key, blocks);
     return blocks;

@@ -1,0 +1,160 @@
+#include "layout/paragraphs/ParagraphBorders.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <span>
+
+namespace orvane::layout {
+namespace {
+
+using document::Alignment;
+using document::Border;
+using document::BorderKind;
+
+// Source: ISO/IEC 29500-1, 17.3.4 (attribute sz of a border).
+constexpr EighthPoints kThinnest{2};
+constexpr EighthPoints kThickest{96};
+
+/// A paragraph, and from where to where a word processor draws its borders.
+struct Placed {
+    ParagraphDraft* paragraph = nullptr;
+    ColumnSpan edges;
+    bool isInColumns = false; ///< beside other columns
+};
+
+/// The paragraph's own edges. Lines that are centred or set against the end keep to their column's.
+ColumnSpan edgesOf(const ParagraphDraft& paragraph, ColumnSpan column) {
+    if (paragraph.alignment == Alignment::Center || paragraph.alignment == Alignment::End)
+        return column;
+    const double start = paragraph.indentStart + std::min(0.0, paragraph.firstLine);
+    return paragraph.lines.front().isRightToLeft ? ColumnSpan{column.left + paragraph.indentEnd, column.right - start}
+                                                 : ColumnSpan{column.left + start, column.right - paragraph.indentEnd};
+}
+
+bool isDrawn(const Border& border) {
+    return border.kind != BorderKind::None;
+}
+
+class BorderFinder {
+public:
+    BorderFinder(PageLayout& layout, const ParagraphParameters::Borders& parameters)
+        : m_layout(layout)
+        , m_parameters(parameters) {
+        for (PageBlock& block : layout.blocks) {
+            auto* paragraph = std::get_if<ParagraphDraft>(&block.value);
+            if (!paragraph || paragraph->lines.front().angle != 0 || paragraph->lines.front().isVertical)
+                continue;
+            const Band& band = layout.bands[static_cast<std::size_t>(block.band)];
+            m_paragraphs.push_back({paragraph,
+                                    edgesOf(*paragraph, band.columns[static_cast<std::size_t>(block.column)]),
+                                    band.columns.size() > 1});
+        }
+    }
+
+    void run() {
+        for (const Ground& ground : m_layout.freeGrounds)
+            shade(ground);
+        for (const Rule& rule : m_layout.freeRules)
+            if (rule.direction == RuleDirection::Horizontal)
+                lineHorizontally(rule);
+            else
+                lineVertically(rule);
+        closeBoxes();
+    }
+
+private:
+    /// The smallest ground that holds the paragraph whole is the one that is seen around it.
+    void shade(const Ground& ground) {
+        if (ground.box.width() * ground.box.height() > m_parameters.pageShare * m_layout.width * m_layout.height)
+            return;
+        for (const Placed& placed : m_paragraphs)
+            if (ground.box.inflated(m_parameters.overhang).contains(placed.paragraph->box))
+                placed.paragraph->shading = ground.color;
+    }
+
+    double tolerance(const Placed& placed) const {
+        return m_parameters.edgeTolerance * placed.paragraph->lines.front().fontSize;
+    }
+    bool hasEdges(const Placed& placed, const Rule& rule) const {
+        return std::abs(placed.edges.left - rule.from) <= tolerance(placed) &&
+               std::abs(placed.edges.right - rule.to) <= tolerance(placed);
+    }
+    Border borderOf(const Rule& rule, double distance) const {
+        Border border;
+        border.kind = rule.kind == BorderKind::None ? BorderKind::Single : rule.kind;
+        border.width = std::clamp(eighthPointsFromPoints(rule.width), kThinnest, kThickest);
+        border.color = rule.color;
+        border.spacePoints = static_cast<int>(std::lround(std::clamp(distance, 0.0, m_parameters.greatestSpace)));
+        return border;
+    }
+
+    /// A rule belongs to the nearer of the paragraphs above and below it that are as wide as it.
+    void lineHorizontally(const Rule& rule) {
+        const double upper = rule.position - rule.width / 2, lower = rule.position + rule.width / 2;
+        const Placed* nearest = nullptr;
+        double distance = m_parameters.greatestSpace;
+        for (const Placed& placed : m_paragraphs) {
+            const Rect& box = placed.paragraph->box;
+            const double gap = box.centerY() < rule.position ? upper - box.bottom : box.top - lower;
+            if (gap >= -m_parameters.overhang && gap < distance && hasEdges(placed, rule)) {
+                distance = gap;
+                nearest = &placed;
+            }
+        }
+        if (!nearest)
+            return;
+        ParagraphDraft& paragraph = *nearest->paragraph;
+        (paragraph.box.centerY() < rule.position ? paragraph.borders.bottom : paragraph.borders.top) =
+            borderOf(rule, distance);
+    }
+
+    /// A rule beside paragraphs, along all of each.
+    void lineVertically(const Rule& rule) {
+        for (const Placed& placed : m_paragraphs) {
+            const Rect& box = placed.paragraph->box;
+            // Between columns it parts them and belongs to neither.
+            if (placed.isInColumns || rule.from > box.top + m_parameters.overhang ||
+                rule.to < box.bottom - m_parameters.overhang)
+                continue;
+            const double left = placed.edges.left - rule.position, right = rule.position - placed.edges.right;
+            if (left >= -m_parameters.overhang && left <= m_parameters.greatestSpace)
+                placed.paragraph->borders.left = borderOf(rule, left);
+            else if (right >= -m_parameters.overhang && right <= m_parameters.greatestSpace)
+                placed.paragraph->borders.right = borderOf(rule, right);
+        }
+    }
+
+    /// Paragraphs within one box have all of its sides: word processors draw what follows each other with equal borders
+    /// as one.
+    void closeBoxes() {
+        for (std::size_t first = 0; first < m_paragraphs.size();) {
+            std::size_t end = first + 1;
+            if (isBetweenSides(first))
+                while (end < m_paragraphs.size() && isBetweenSides(end) && !isDrawn(bordersAt(end - 1).bottom) &&
+                       !isDrawn(bordersAt(end).top))
+                    ++end;
+            document::Borders sides = bordersAt(first);
+            sides.bottom = bordersAt(end - 1).bottom;
+            for (std::size_t i = first; end - first > 1 && i < end; ++i)
+                m_paragraphs[i].paragraph->borders = sides;
+            first = end;
+        }
+    }
+    const document::Borders& bordersAt(std::size_t index) const { return m_paragraphs[index].paragraph->borders; }
+    bool isBetweenSides(std::size_t index) const {
+        return isDrawn(bordersAt(index).left) && isDrawn(bordersAt(index).right);
+    }
+
+    PageLayout& m_layout;
+    const ParagraphParameters::Borders& m_parameters;
+    std::vector<Placed> m_paragraphs;
+};
+
+} // namespace
+
+void findParagraphBorders(PageLayout& layout, const ParagraphParameters::Borders& parameters) {
+    BorderFinder(layout, parameters).run();
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,116 @@
+#include "layout/paragraphs/ParagraphBorders.h"
+
+#include "engine/layout/LineArt.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::BorderKind;
+
+/// A page with one column of 72 to 523 points and a paragraph of one line at each of the baselines.
+PageLayout pageWith(const std::vector<double>& baselines) {
+    PageLayout page;
+    page.width = 595;
+    page.height = 842;
+    page.bands.push_back({72, 770, {{72, 523}}, false});
+    for (const double baseline : baselines) {
+        ParagraphDraft paragraph;
+        paragraph.lines.push_back(tests::makeLine("a line of text", 72, baseline));
+        paragraph.box = paragraph.lines.front().box;
+        page.blocks.emplace_back().value = std::move(paragraph);
+    }
+    return page;
+}
+
+Rule horizontal(double y, double from = 72, double to = 523) {
+    Rule rule;
+    rule.position = y;
+    rule.from = from;
+    rule.to = to;
+    return rule;
+}
+
+Rule vertical(double x, double from, double to) {
+    Rule rule = horizontal(x, from, to);
+    rule.direction = RuleDirection::Vertical;
+    return rule;
+}
+
+const ParagraphDraft& at(const PageLayout& page, std::size_t index) {
+    return std::get<ParagraphDraft>(page.blocks[index].value);
+}
+
+/// The sides that are drawn: "tblr".
+std::string sides(const PageLayout& page, std::size_t index) {
+    const document::Borders& borders = at(page, index).borders;
+    std::string text;
+    text += borders.top.kind == BorderKind::None ? "" : "t";
+    text += borders.bottom.kind == BorderKind::None ? "" : "b";
+    text += borders.left.kind == BorderKind::None ? "" : "l";
+    text += borders.right.kind == BorderKind::None ? "" : "r";
+    return text;
+}
+
+PageLayout found(PageLayout page) {
+    findParagraphBorders(page, {});
+    return page;
+}
+
+TEST(ParagraphBorders, ARuleBelongsToTheNearerParagraph) {
+    PageLayout page = pageWith({100, 150});
+    page.freeRules = {horizontal(110)};
+    page = found(std::move(page));
+    EXPECT_EQ(sides(page, 0), "b");
+    EXPECT_EQ(sides(page, 1), "");
+    EXPECT_EQ(at(page, 0).borders.bottom.spacePoints, 8) << "from the letters' feet at 102 to the rule's upper edge";
+    page = pageWith({100, 150});
+    page.freeRules = {horizontal(135)};
+    page = found(std::move(page));
+    EXPECT_EQ(sides(page, 0) + "|" + sides(page, 1), "|t");
+}
+
+TEST(ParagraphBorders, ARuleOfAnotherLengthOrFarAwayIsNone) {
+    PageLayout page = pageWith({100});
+    page.freeRules = {horizontal(110, 72, 300), horizontal(160)};
+    EXPECT_EQ(sides(found(std::move(page)), 0), "");
+}
+
+TEST(ParagraphBorders, CentredLinesHaveTheEdgesOfTheirColumn) {
+    PageLayout page = pageWith({100});
+    auto& paragraph = std::get<ParagraphDraft>(page.blocks[0].value);
+    paragraph.alignment = document::Alignment::Center;
+    paragraph.indentStart = 180;
+    page.freeRules = {horizontal(110)};
+    EXPECT_EQ(sides(found(std::move(page)), 0), "b");
+}
+
+TEST(ParagraphBorders, WhatABoxHoldsHasAllItsSides) {
+    PageLayout page = pageWith({100, 120, 140, 200});
+    page.freeRules = {horizontal(85, 68, 527), horizontal(150, 68, 527), vertical(68, 85, 150), vertical(527, 85, 150)};
+    page = found(std::move(page));
+    for (const std::size_t index : {0U, 1U, 2U})
+        EXPECT_EQ(sides(page, index), "tblr") << index;
+    EXPECT_EQ(at(page, 0).borders, at(page, 2).borders);
+    EXPECT_EQ(sides(page, 3), "");
+}
+
+TEST(ParagraphBorders, ARuleBetweenColumnsBelongsToNone) {
+    PageLayout page = pageWith({100});
+    page.bands[0].columns = {{72, 280}, {300, 523}};
+    page.freeRules = {vertical(290, 80, 300)};
+    EXPECT_EQ(sides(found(std::move(page)), 0), "");
+}
+
+TEST(ParagraphBorders, AGroundIsShading) {
+    PageLayout page = pageWith({100, 200});
+    const Color grey(0xEE, 0xEE, 0xEE), blue(0, 0, 0xFF);
+    page.freeGrounds = {{{0, 0, 595, 842}, blue, 1, false, 0}, {{60, 80, 530, 120}, grey, 1, false, 0}};
+    page = found(std::move(page));
+    EXPECT_EQ(at(page, 0).shading, grey);
+    EXPECT_EQ(at(page, 1).shading, std::nullopt) << "the ground of the whole page is not the paragraph's";
+}
+
+} // namespace
+} // namespace orvane::layout
