@@ -47,6 +47,7 @@ struct RunProperties {
     bool isOutlined = false;
     bool isHidden = false;
     bool isRightToLeft = false;
+    bool isEastAsian = false;         ///< signs that fonts of several scripts have (quotes, dashes, dots) are East Asian
     std::string language;             ///< BCP 47; empty for the document's
 
     bool operator==(const RunProperties&) const = default;

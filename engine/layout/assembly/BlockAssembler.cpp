@@ -14,7 +14,8 @@ namespace {
 /// The look of the paragraph mark is that of the last word, as if it had been typed on.
 document::RunProperties markProperties(const DraftParagraph& paragraph, const AssemblyContext& context) {
     const Line& line = paragraph.lastLine();
-    document::RunProperties mark = runProperties(line.words.back().spans.back(), paragraph.pieces.back().page, context);
+    document::RunProperties mark = runProperties(line.words.back().spans.back(), paragraph.pieces.back().page,
+                                                 ScriptFamilies(paragraph, context.fonts), context);
     mark.underline = document::UnderlineKind::None;
     mark.verticalPosition = document::VerticalPosition::Baseline;
     mark.highlight.reset();

@@ -39,7 +39,7 @@ document::Numbering assembleNumbering(const DraftNumbering& draft, const Assembl
         if (!draft.labels[i])
             continue;
         document::NumberingLevel& level = numbering.levels[i];
-        level.run = runProperties(draft.labels[i]->span, draft.labels[i]->page, context);
+        level.run = runProperties(draft.labels[i]->span, draft.labels[i]->page, ScriptFamilies(context.fonts), context);
         if (level.format == document::NumberFormat::Bullet)
             useSymbolFont(level);
     }

@@ -71,6 +71,8 @@ void chooseRun(StyleGroup& group) {
         countRuns(member->paragraph()->inlines, looks);
     if (const RunProperties* look = looks.heaviest())
         group.style.run = *look;
+    // That is a matter of single characters, which a style has none of.
+    group.style.run.isEastAsian = false;
 }
 
 /// The format of members of at least `lines` lines.

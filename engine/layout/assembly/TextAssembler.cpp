@@ -1,6 +1,8 @@
 #include "layout/assembly/TextAssembler.h"
 
+#include "base/Utf8.h"
 #include "layout/paragraphs/HyphenResolver.h"
+#include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -107,7 +109,8 @@ class ParagraphReader {
 public:
     ParagraphReader(const DraftParagraph& paragraph, const AssemblyContext& context)
         : m_paragraph(paragraph)
-        , m_context(context) {}
+        , m_context(context)
+        , m_families(paragraph, context.fonts) {}
 
     std::vector<Inline> read() {
         for (const std::string& name : m_paragraph.bookmarks)
@@ -143,7 +146,7 @@ private:
             return;
         for (std::size_t i = 0; i < word.spans.size(); ++i) {
             const Span& span = word.spans[i];
-            const RunProperties properties = runProperties(span, page, m_context);
+            const RunProperties properties = runProperties(span, page, m_families, m_context);
             const auto link = m_context.links.target(page, span.look.link);
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
@@ -174,9 +177,9 @@ private:
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
         if (position == Position::WithinLine && word.gapBefore == Gap::Tab)
-            m_builder.add({document::Tab{blankBetween(m_before->properties, properties)}}, gapLink);
+            m_builder.add({document::Tab{blankBefore(properties)}}, gapLink);
         else if (join == LineJoin::Blank)
-            m_builder.addText(blanksBefore(word, position), blankBetween(m_before->properties, properties), gapLink);
+            m_builder.addText(blanksBefore(word, position), blankBefore(properties), gapLink);
         else if (join == LineJoin::DropHyphen)
             m_builder.dropLastCharacter();
     }
@@ -184,6 +187,13 @@ private:
     /// Behind a line's end one blank is enough: more of them are not seen there.
     static std::string blanksBefore(const Word& word, Position position) {
         return std::string(position == Position::WithinLine ? static_cast<std::size_t>(word.blanksBefore) : 1, ' ');
+    }
+
+    RunProperties blankBefore(const RunProperties& properties) const {
+        RunProperties blank = blankBetween(m_before->properties, properties);
+        if (properties.isRightToLeft != m_before->properties.isRightToLeft)
+            blank.isRightToLeft = m_paragraph.firstLine().isRightToLeft;
+        return blank;
     }
 
     /// What counts there by itself, in a running head.
@@ -205,29 +215,38 @@ private:
 
     const DraftParagraph& m_paragraph;
     const AssemblyContext& m_context;
+    ScriptFamilies m_families;
     InlineBuilder m_builder;
     std::size_t m_wordCount = 0;
     std::optional<Before> m_before;
     bool m_isBroken = false;
 };
 
-void setFamilies(RunProperties& run, const Span& span, const MappedFont& font, const FontCatalog& fonts) {
+bool hasLetterOrDigit(std::string_view text) {
+    const std::u32string characters = utf32FromUtf8(text);
+    return std::any_of(characters.begin(), characters.end(), [](char32_t c) { return isLetter(c) || isDigit(c); });
+}
+
+void setFamilies(RunProperties& run, const Span& span, const MappedFont& font, const ScriptFamilies& families) {
     const ScriptClass kind = scriptClassOf(span.text);
-    // All three are set, so that a text of mixed scripts is one run and text typed into it later looks like the rest.
-    run.fontFamily = kind == ScriptClass::Simple ? font.family : fonts.mainFamily(ScriptClass::Simple);
-    run.eastAsianFontFamily = kind == ScriptClass::EastAsian ? font.family : fonts.mainFamily(ScriptClass::EastAsian);
-    run.complexFontFamily = kind == ScriptClass::Complex ? font.family : fonts.mainFamily(ScriptClass::Complex);
+    run.fontFamily = kind == ScriptClass::Simple ? font.family : families[ScriptClass::Simple];
+    run.eastAsianFontFamily = kind == ScriptClass::EastAsian ? font.family : families[ScriptClass::EastAsian];
+    run.complexFontFamily = kind == ScriptClass::Complex ? font.family : families[ScriptClass::Complex];
     if (run.fontFamily.empty())
         run.fontFamily = font.family;
+    // Quotes and dashes between ideographs are of their font and width.
+    run.isEastAsian = kind == ScriptClass::EastAsian ||
+                      (font.family == families[ScriptClass::EastAsian] && !hasLetterOrDigit(span.text));
 }
 
 } // namespace
 
-RunProperties runProperties(const Span& span, std::size_t page, const AssemblyContext& context) {
+RunProperties runProperties(const Span& span, std::size_t page, const ScriptFamilies& families,
+                            const AssemblyContext& context) {
     const Look& look = span.look;
     RunProperties run;
     const MappedFont& font = context.fonts.font(page, look.font);
-    setFamilies(run, span, font, context.fonts);
+    setFamilies(run, span, font, families);
     run.size = halfPointsFromPoints(look.size);
     run.color = look.color;
     run.highlight = look.highlight;
@@ -238,6 +257,7 @@ RunProperties runProperties(const Span& span, std::size_t page, const AssemblyCo
     run.isStruck = look.isStruck;
     run.isSmallCaps = look.isSmallCaps;
     run.isOutlined = look.isOutlined;
+    run.isRightToLeft = span.isRightToLeft;
     const bool isStretched = std::abs(look.horizontalScale - 1) > context.parameters.text.naturalScale;
     run.widthPercent = static_cast<int>(std::lround((isStretched ? look.horizontalScale : 1) * font.widthPercent));
     if (context.request.keepCharacterSpacing)

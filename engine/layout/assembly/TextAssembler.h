@@ -4,6 +4,7 @@
 #include "layout/Layout.h"
 #include "layout/LayoutParameters.h"
 #include "layout/assembly/LinkTargets.h"
+#include "layout/assembly/ScriptFamilies.h"
 #include "layout/fonts/FontCatalog.h"
 #include "layout/structure/DocumentDraft.h"
 
@@ -25,7 +26,8 @@ struct AssemblyContext {
 /// resolved), tabs, breaks made by hand, links, bookmarks. Label words are left out.
 std::vector<document::Inline> assembleText(const DraftParagraph& paragraph, const AssemblyContext& context);
 
-/// How a span's characters look, in the document's words.
-document::RunProperties runProperties(const Span& span, std::size_t page, const AssemblyContext& context);
+/// How a span's characters look, in the document's words. `families` are those around it.
+document::RunProperties runProperties(const Span& span, std::size_t page, const ScriptFamilies& families,
+                                      const AssemblyContext& context);
 
 } // namespace orvane::layout

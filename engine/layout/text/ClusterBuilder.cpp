@@ -191,18 +191,31 @@ bool isUnknown(const Cluster& cluster, const pdf::PageContent& page) {
            (page.glyphs[cluster.glyph].isUnicodeGuessed && !isLetter(character) && !isDigit(character));
 }
 
-/// Unknown glyphs between Arabic letters that touch them are the strokes by which a line was stretched: they say
-/// nothing.
+/// The same sign, painted over the end of the one before: no text does that.
+bool overlapsItsTwin(const Cluster& sign, const Cluster& twin, const TextParameters::Clusters& limits) {
+    return sign.text == twin.text && sign.frame == twin.frame && !isLetter(sign.text.front()) &&
+           !isDigit(sign.text.front()) && !isBlank(sign.text) &&
+           overlap(sign.start, sign.end, twin.start, twin.end) > limits.touch * sign.size;
+}
+
+/// Unknown or overlapping signs between Arabic letters that touch them are the strokes by which a line was stretched:
+/// they say nothing.
 void dropStretching(std::vector<Cluster>& clusters, const pdf::PageContent& page,
                     const TextParameters::Clusters& limits) {
+    // Of two strokes at nearly one place the later was left out as the earlier one's repetition, so a little is
+    // missing.
+    const double reach = 2 * limits.touch;
     const auto isJoined = [&](const Cluster& left, const Cluster& right) {
         return left.frame == right.frame && std::abs(left.baseline - right.baseline) <= limits.touch * left.size &&
-               std::max(right.start - left.end, left.start - right.end) <= limits.touch * left.size;
+               std::max(right.start - left.end, left.start - right.end) <= reach * left.size;
+    };
+    const auto isStroke = [&](std::size_t i) {
+        return isUnknown(clusters[i], page) || overlapsItsTwin(clusters[i], clusters[i - 1], limits) ||
+               (i + 1 < clusters.size() && overlapsItsTwin(clusters[i], clusters[i + 1], limits));
     };
     for (std::size_t i = 1; i + 1 < clusters.size(); ++i) {
         std::size_t last = i;
-        while (last < clusters.size() && isUnknown(clusters[last], page) &&
-               isJoined(clusters[last - 1], clusters[last]))
+        while (last < clusters.size() && isStroke(last) && isJoined(clusters[last - 1], clusters[last]))
             ++last;
         if (last == i)
             continue;

@@ -10,6 +10,7 @@ namespace orvane::layout {
 struct LogicalLine {
     std::vector<Cluster> clusters;   ///< gapBefore is what lies before each one in this order
     std::vector<bool> isRightToLeft; ///< parallel to `clusters`
+    std::vector<bool> isNumber;      ///< likewise: a digit, or what belongs to a number
     bool isBaseRightToLeft = false;
 };
 
@@ -22,8 +23,8 @@ struct DirectionCount {
 };
 
 /// Brings a line from the order on the page, left to right, into logical order, so that a word processor that lays it
-/// out again gets the same page. `page` decides for lines that have letters of both directions in like numbers. Source:
-/// Unicode Standard Annex #9, run backwards.
+/// out again gets the same page. `page` decides for lines that have letters of both directions in like numbers.
+/// Brackets still say what the file says: see settleBrackets(). Source: Unicode Standard Annex #9, run backwards.
 LogicalLine toLogicalOrder(std::vector<Cluster> clusters, const DirectionCount& page);
 
 } // namespace orvane::layout

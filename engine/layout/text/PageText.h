@@ -42,6 +42,7 @@ struct Span {
     Rect box;
     double baseline = 0;
     int mark = -1;                   ///< index into PageText::marks
+    bool isRightToLeft = false;      ///< typed as right-to-left text, be it a number or punctuation within it
 };
 
 /// What lies between a word and the one before it on the line.

@@ -1,6 +1,7 @@
 #include "layout/text/SpanBuilder.h"
 
 #include "base/Utf8.h"
+#include "layout/text/BracketSides.h"
 #include "layout/text/LineText.h"
 #include "layout/text/LogicalOrder.h"
 
@@ -53,6 +54,7 @@ public:
         span.box = m_box;
         span.baseline = pageBaseline(*m_frame, m_baseline);
         span.mark = m_mark;
+        span.isRightToLeft = m_isRightToLeft;
         const double spacing = m_count > 1 ? m_spacing / static_cast<double>(m_count - 1) : 0;
         if (std::abs(spacing) >= m_limits->leastSpacing * m_size)
             span.look.characterSpacing = std::round(spacing / m_limits->spacingStep) * m_limits->spacingStep;
@@ -106,7 +108,8 @@ std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, co
     };
     for (std::size_t i = 0; i < logical.clusters.size(); ++i) {
         const Cluster& cluster = logical.clusters[i];
-        const bool isRightToLeft = logical.isRightToLeft[i];
+        // Numbers in right-to-left text are typed along with it.
+        const bool isRightToLeft = logical.isRightToLeft[i] || (logical.isBaseRightToLeft && logical.isNumber[i]);
         if (i == 0 || cluster.gapBefore.kind != Gap::None) {
             finishSpan();
             rightToLeft = count = 0;
@@ -118,14 +121,21 @@ std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, co
             finishSpan();
         }
         collector.add(cluster, isRightToLeft);
-        rightToLeft += isRightToLeft;
+        rightToLeft += logical.isRightToLeft[i];
         ++count;
     }
     finishSpan();
     return words;
 }
 
-Line lineOf(TextRow row, const TextFrame& frame, const pdf::PageContent& page, const DirectionCount& directions,
+double startOf(const std::vector<Cluster>& clusters) {
+    double start = clusters.front().start;
+    for (const Cluster& cluster : clusters)
+        start = std::min(start, cluster.start);
+    return start;
+}
+
+Line lineOf(const TextRow& row, const LogicalLine& logical, const TextFrame& frame, const pdf::PageContent& page,
             const TextParameters::Spans& limits) {
     Line line;
     line.fontSize = row.fontSize;
@@ -134,32 +144,43 @@ Line lineOf(TextRow row, const TextFrame& frame, const pdf::PageContent& page, c
     line.dropCapLines = row.dropCapLines;
     line.baseline = SpanCollector::pageBaseline(frame, row.baseline);
     line.firstPaintOrder = std::numeric_limits<std::uint32_t>::max();
-    for (const Cluster& cluster : row.clusters)
+    for (const Cluster& cluster : logical.clusters)
         line.firstPaintOrder = std::min(line.firstPaintOrder, page.glyphs[cluster.glyph].paintOrder);
     if (frame.angle != std::round(frame.angle / 90) * 90)
-        line.baseline = frame.toPage({row.clusters.front().start, row.baseline}).y;
-
-    settleHyphens(row.clusters);
-    const LogicalLine logical = toLogicalOrder(std::move(row.clusters), directions);
+        line.baseline = frame.toPage({startOf(logical.clusters), row.baseline}).y;
     line.words = wordsOf(logical, frame, limits);
     measureAnew(line);
     line.isRightToLeft = logical.isBaseRightToLeft;
     return line;
 }
 
+/// The lines in logical order, each parallel to its row, whose clusters are moved out.
+std::vector<LogicalLine> inLogicalOrder(std::vector<TextRow>& rows) {
+    DirectionCount directions;
+    for (const TextRow& row : rows)
+        directions.add(row.clusters);
+    std::vector<LogicalLine> lines;
+    lines.reserve(rows.size());
+    BracketCount brackets;
+    for (TextRow& row : rows) {
+        settleHyphens(row.clusters);
+        const LogicalLine& line = lines.emplace_back(toLogicalOrder(std::move(row.clusters), directions));
+        brackets.add(line.clusters, line.isRightToLeft);
+    }
+    for (LogicalLine& line : lines)
+        settleBrackets(line.clusters, line.isRightToLeft, brackets);
+    return lines;
+}
+
 } // namespace
 
 std::vector<Line> finishLines(std::vector<TextRow> rows, const std::vector<TextFrame>& frames,
                               const pdf::PageContent& page, const TextParameters& parameters, Diagnostics&) {
-    DirectionCount directions;
-    for (const TextRow& row : rows)
-        directions.add(row.clusters);
+    const std::vector<LogicalLine> logical = inLogicalOrder(rows);
     std::vector<Line> lines;
     lines.reserve(rows.size());
-    for (TextRow& row : rows) {
-        const TextFrame& frame = frames[row.frame];
-        lines.push_back(lineOf(std::move(row), frame, page, directions, parameters.spans));
-    }
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        lines.push_back(lineOf(rows[i], logical[i], frames[rows[i].frame], page, parameters.spans));
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) {
         return std::tie(a.box.top, a.box.left) < std::tie(b.box.top, b.box.left);
     });

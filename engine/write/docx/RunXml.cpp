@@ -122,6 +122,8 @@ private:
         const auto isNew = [&](std::size_t i) { return !wanted[i].empty() && wanted[i] != present[i]; };
 
         const XmlElement fonts(m_xml, "w:rFonts", EmptyElement::Omit);
+        if (m_value.isEastAsian)
+            m_xml.attribute({"w:hint", "eastAsia"});
         if (isNew(0)) {
             m_xml.attribute({"w:ascii", wanted[0]});
             m_xml.attribute({"w:hAnsi", wanted[0]});

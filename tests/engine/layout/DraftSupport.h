@@ -72,8 +72,9 @@ inline DraftBlock makePictureBlock(const Rect& box) {
     return block;
 }
 
-/// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.
-inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index, const LayoutRequest& request = {}) {
+/// The runs of the draft's paragraph `index`.
+inline std::vector<document::Inline> inlinesOfParagraph(const DocumentDraft& draft, std::size_t index,
+                                                        const LayoutRequest& request = {}) {
     DocumentDraft linked = draft;
     Diagnostics diagnostics;
     const LinkTargets links(linked, {}, diagnostics);
@@ -83,6 +84,11 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
     const FontCatalog fonts(linked, noFit);
     const LayoutParameters parameters;
     const DocumentContext context;
+    return assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters});
+}
+
+/// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.
+inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index, const LayoutRequest& request = {}) {
     document::Document document;
     document.styles.push_back(
         {.id = "Normal", .name = "Normal", .basedOn = {}, .next = {}, .paragraph = {}, .run = {}});
@@ -90,8 +96,7 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
     document.styles[0].run.size = HalfPoints(20);
     document::Paragraph paragraph;
     paragraph.style = "Normal";
-    paragraph.inlines =
-        assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters});
+    paragraph.inlines = inlinesOfParagraph(draft, index, request);
     return document::dump(paragraph, document);
 }
 

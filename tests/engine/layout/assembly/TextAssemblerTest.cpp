@@ -61,6 +61,35 @@ TEST(TextAssembler, PartsRunsWhereTheLookChanges) {
     EXPECT_EQ(text(draft), "p Normal \"a \" \"bold \"{b} \"word\"");
 }
 
+const document::Text& textAt(const std::vector<document::Inline>& inlines, std::size_t index) {
+    return std::get<document::Text>(inlines.at(index).value);
+}
+
+TEST(TextAssembler, GivesEachScriptTheFontOfTheParagraph) {
+    DocumentDraft draft = draftOf({makeLine("\u05D0\u05D1 , \u05D2\u05D3", 72, 100)});
+    pdf::Font hebrew;
+    hebrew.name = "David";
+    draft.pages[0].fonts.push_back(hebrew);
+    Line& line = paragraphOf(draft).lines[0];
+    for (Word& word : line.words)
+        word.spans[0].isRightToLeft = true;
+    for (const std::size_t word : {0u, 2u})
+        line.words[word].spans[0].look.font = static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+    const auto inlines = tests::inlinesOfParagraph(draft, 0);
+    ASSERT_EQ(inlines.size(), 1u) << "the comma, of another font, is no run of its own";
+    EXPECT_TRUE(textAt(inlines, 0).properties.isRightToLeft);
+    EXPECT_EQ(textAt(inlines, 0).properties.complexFontFamily, "David");
+    EXPECT_EQ(textAt(inlines, 0).properties.fontFamily, "Calibri");
+}
+
+TEST(TextAssembler, TellsEastAsianTextFromLatinText) {
+    const DocumentDraft draft = draftOf({makeLine("\u6771\u4EAC Tokyo", 72, 100)});
+    const auto inlines = tests::inlinesOfParagraph(draft, 0);
+    ASSERT_EQ(inlines.size(), 2u);
+    EXPECT_TRUE(textAt(inlines, 0).properties.isEastAsian);
+    EXPECT_FALSE(textAt(inlines, 1).properties.isEastAsian);
+}
+
 TEST(TextAssembler, UnderlinesBlanksOnlyBetweenUnderlinedWords) {
     DocumentDraft draft = draftOf({makeLine("a b c", 72, 100)});
     for (const std::size_t word : {0u, 1u})

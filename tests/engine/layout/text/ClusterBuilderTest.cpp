@@ -56,6 +56,24 @@ TEST(ClusterBuilder, DropsThemAlsoWherePaintedFromTheRight) {
     EXPECT_THAT(linesOf(page), ElementsAre("\u0628\u0647"));
 }
 
+TEST(ClusterBuilder, DropsStrokesThatAreCalledASign) {
+    PageContentBuilder page;
+    page.glyph(72, 100, U"\u0647", 7, 14);
+    for (const double x : {78.5, 82.5, 86.5})
+        page.glyph(x, 100, U"\"", 5, 14);
+    page.glyph(91, 100, U"\u0628", 4, 14);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u0628\u0647"));
+}
+
+TEST(ClusterBuilder, KeepsSignsBesideEachOther) {
+    PageContentBuilder page;
+    page.glyph(72, 100, U"\u0647", 7, 14);
+    page.glyph(79, 100, U".", 3, 14);
+    page.glyph(82, 100, U".", 3, 14);
+    page.glyph(85, 100, U"\u0628", 4, 14);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u0628..\u0647"));
+}
+
 TEST(ClusterBuilder, ReadsSignsThatAreCalledLetters) {
     PageContentBuilder page;
     const std::uint32_t signs = page.font([] {

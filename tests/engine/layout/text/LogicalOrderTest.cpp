@@ -53,6 +53,52 @@ TEST(LogicalOrder, TurnsBracketsByTheirShapeOrAsTyped) {
     EXPECT_EQ(textOf(lineOf("\u05D3\u05D2 )\u05D1\u05D0(")), "(\u05D0\u05D1) \u05D2\u05D3");
 }
 
+/// A line of strings, painted one after the other; each stands on the left of the one before it, as in right-to-left
+/// text.
+Line lineOfStrings(const std::vector<std::string>& strings) {
+    PageContentBuilder page;
+    page.text(72, 700, "\u05D0\u05D1\u05D2\u05D3\u05D4\u05D5\u05D6\u05D7\u05D8\u05D9\u05DB\u05DC\u05DE\u05E0", 12);
+    double x = 400;
+    for (const std::string& text : strings) {
+        x -= PageContentBuilder::widthOf(text, 12);
+        page.text(x, 100, text, 12);
+    }
+    return read(page).lines.at(0);
+}
+
+TEST(LogicalOrder, KeepsWhatWasPaintedAsOneStringTogether) {
+    struct Row {
+        std::vector<std::string> strings; ///< in the order of painting, which is that of reading
+        const char* logical;
+        const char* why;
+    };
+    const Row rows[] = {
+        {{"\u05D1\u05D0", " ", "MHz 1 164-960", " ", "\u05D3\u05D2"},
+         "\u05D0\u05D1 MHz 1 164-960 \u05D2\u05D3",
+         "numbers behind a Latin word"},
+        {{"\u05D1\u05D0", " ", "1 164", " ", "\u05D3\u05D2"},
+         "\u05D0\u05D1 1 164 \u05D2\u05D3",
+         "a number with a blank"},
+        {{"\u05D1\u05D0", " ", "M.[A]", " ", "\u05D3\u05D2"},
+         "\u05D0\u05D1 M.[A] \u05D2\u05D3",
+         "a bracket at the end of a name"},
+        {{"\u05D1\u05D0", " ", "2012", "."}, "\u05D0\u05D1 2012.", "a full stop that was painted behind its number"},
+        {{"\u05D1\u05D0", "(", "1", ")", " \u05D3\u05D2"},
+         "\u05D0\u05D1(1) \u05D2\u05D3",
+         "brackets without gaps that say what was typed"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(textOf(lineOfStrings(row.strings)), row.logical) << row.why;
+}
+
+TEST(LogicalOrder, TakesNumbersAndPunctuationForPartOfTheTextAroundThem) {
+    const Line line = lineOf("\u05D3\u05D2 ,2024 Hello \u05D1\u05D0");
+    ASSERT_EQ(textOf(line), "\u05D0\u05D1 Hello 2024, \u05D2\u05D3");
+    EXPECT_FALSE(line.words[1].spans[0].isRightToLeft);
+    ASSERT_EQ(line.words[2].spans.size(), 1u);
+    EXPECT_TRUE(line.words[2].spans[0].isRightToLeft);
+}
+
 TEST(LogicalOrder, TellsTheDirectionOfEachWord) {
     const Line line = lineOf("\u05D3\u05D2 Hello \u05D1\u05D0");
     ASSERT_EQ(line.words.size(), 3u);

@@ -56,6 +56,7 @@ TEST(RunXml, WritesEachPropertyThatDiffers) {
         {"<w:rFonts w:ascii='Arial' w:hAnsi='Arial' w:eastAsia='Arial' w:cs='Arial'/>",
          [](RunProperties& p) { p.fontFamily = "Arial"; }},
         {"<w:rFonts w:eastAsia='SimSun'/>", [](RunProperties& p) { p.eastAsianFontFamily = "SimSun"; }},
+        {"<w:rFonts w:hint='eastAsia'/>", [](RunProperties& p) { p.isEastAsian = true; }},
     };
     for (const Row& row : rows) {
         RunProperties properties;
