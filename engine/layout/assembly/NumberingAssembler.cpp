@@ -19,6 +19,7 @@ constexpr SymbolBullet kSymbolBullets[] = {
     {"\u25A0", "Wingdings", "\uF06E"}, {"\u2713", "Wingdings", "\uF0FC"}, {"\u2714", "Wingdings", "\uF0FC"},
     {"\u27A2", "Wingdings", "\uF0D8"}, {"\u2756", "Wingdings", "\uF076"}, {"\u2794", "Wingdings", "\uF0E8"},
     {"\u25C6", "Wingdings", "\uF075"}, {"\u2751", "Wingdings", "\uF071"}, {"\u25A1", "Wingdings", "\uF0A8"},
+    {"\uFFFD", "Symbol", "\uF0B7"}, // nobody can name it, but it is a bullet
 };
 
 /// Signs come in many fonts; those that a font for symbols has are set in it, so that they look the same everywhere.

@@ -6,6 +6,7 @@
 #include <unicode/uchar.h>
 
 #include <algorithm>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -48,6 +49,36 @@ bool clingsToWordBefore(char32_t character) {
     }
 }
 
+/// A letter of a script without capitals: Hebrew, Arabic, Han, Hangul, Thai.
+bool isCaselessLetter(char32_t character) {
+    const auto type = u_charType(static_cast<UChar32>(character));
+    return type == U_OTHER_LETTER || type == U_MODIFIER_LETTER;
+}
+
+bool isSentenceEnd(const std::u32string& word) {
+    for (std::size_t i = word.size(); i-- > 0;) {
+        if (std::u32string_view(U".!?:;。！？：；؟۔؛").find(word[i]) != std::u32string_view::npos)
+            return true;
+        // Closing quotes and brackets stand behind the full stop.
+        if (u_isalnum(static_cast<UChar32>(word[i])))
+            return false;
+    }
+    return false;
+}
+
+/// A line of strokes or dots, to write on or to part what stands above from what stands below.
+bool isFillerLine(const Line& line) {
+    constexpr std::size_t kShortest = 5;
+    std::size_t length = 0;
+    for (const Word& word : line.words)
+        for (const char32_t character : utf32FromUtf8(textOf(word))) {
+            if (std::u32string_view(U"_.…-–—=*·~").find(character) == std::u32string_view::npos)
+                return false;
+            ++length;
+        }
+    return length >= kShortest;
+}
+
 /// How many characters of the word have to move together to the line above.
 std::size_t firstUnitLength(const std::u32string& word) {
     std::size_t length = 1;
@@ -82,6 +113,7 @@ double meanGap(const Line& line) {
 
 void readWords(const Line& line, LineMeasure& measure) {
     measure.isBold = true;
+    measure.isFiller = isFillerLine(line);
     measure.smallestSize = measure.largestSize = line.fontSize;
     measure.startsBold = line.words.front().spans.front().look.isBold;
     measure.endsBold = line.words.back().spans.back().look.isBold;
@@ -111,6 +143,9 @@ void readEnds(const Line& line, std::span<const pdf::Font> fonts, LineMeasure& m
     measure.startsWithoutBlanks = isWithoutBlanks(first[0]);
     measure.endsInHan = measure.endsWithoutBlanks && u_isalpha(static_cast<UChar32>(last.back()));
     measure.startsInHan = measure.startsWithoutBlanks && u_isalpha(static_cast<UChar32>(first[0]));
+    measure.endsCaseless = isCaselessLetter(last.back());
+    measure.startsCaseless = isCaselessLetter(first[0]);
+    measure.endsSentence = isSentenceEnd(last);
     measure.startsLowerCase = u_islower(static_cast<UChar32>(first[0]));
 }
 
@@ -155,7 +190,7 @@ bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double 
 }
 
 bool sentenceGoesOn(const LineMeasure& before, const LineMeasure& next) {
-    return next.startsLowerCase || (before.endsInHan && next.startsInHan);
+    return next.startsLowerCase || (before.endsCaseless && next.startsCaseless);
 }
 
 } // namespace orvane::layout

@@ -42,6 +42,10 @@ struct LineMeasure {
     bool startsLowerCase = false;
     bool endsInHan = false; ///< its last character is a letter of such a script, no punctuation
     bool startsInHan = false;
+    bool endsCaseless = false; ///< its last character is a letter of a script without capitals
+    bool startsCaseless = false;
+    bool endsSentence = false; ///< with a full stop or the like, be it within quotes or brackets
+    bool isFiller = false;     ///< nothing but strokes or dots: a line to write on
 };
 
 /// Measures lines against their column.
@@ -51,7 +55,7 @@ std::vector<LineMeasure> measureLines(std::span<const Line> lines, ColumnSpan co
 /// True when the first word of `next` would have had room in `free` points behind the last word of `before`.
 bool wouldHaveFitted(const LineMeasure& before, const LineMeasure& next, double free, double slack);
 
-/// True when the sentence of `before` goes on in `next`: in lower case, or within East Asian text.
+/// True when the sentence of `before` goes on in `next`: in lower case, or within a script without capitals.
 bool sentenceGoesOn(const LineMeasure& before, const LineMeasure& next);
 
 } // namespace orvane::layout

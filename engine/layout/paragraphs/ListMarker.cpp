@@ -20,9 +20,10 @@ bool isIn(std::u32string_view set, char32_t character) {
     return set.find(character) != std::u32string_view::npos;
 }
 
-/// Wingdings and its kind: bullets in fonts without Unicode come out in the private use area.
-bool isPrivateUse(char32_t character) {
-    return character >= 0xE000 && character <= 0xF8FF;
+/// Wingdings and its kind: bullets in fonts without Unicode come out in the private use area, or as a sign that nobody
+/// can name.
+bool isNameless(char32_t character) {
+    return (character >= 0xE000 && character <= 0xF8FF) || character == 0xFFFD;
 }
 
 int romanValue(std::u32string_view text) {
@@ -168,10 +169,10 @@ std::optional<ListMarker> readEastAsian(std::u32string_view word) {
 
 std::optional<ListMarker> readSign(std::u32string_view word) {
     ListMarker marker;
-    if (isIn(kBullets, word[0]) || isPrivateUse(word[0])) {
+    if (isIn(kBullets, word[0]) || isNameless(word[0])) {
         marker.isWholeWord = word.size() == 1;
         // Some signs are also punctuation within words; glued to letters only the plain bullets are markers.
-        if (word.size() > 1 && !isIn(U"•▪■●○◦‣・", word[0]) && !isPrivateUse(word[0]))
+        if (word.size() > 1 && !isIn(U"•▪■●○◦‣・", word[0]) && !isNameless(word[0]))
             return std::nullopt;
         return marker;
     }

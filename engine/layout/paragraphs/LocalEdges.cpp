@@ -39,21 +39,75 @@ bool isSpreadTo(double edge, std::span<const LineMeasure> block, double flush,
     return spread >= parameters.flushLines || flushLines > parameters.flushLines + 1;
 }
 
-/// Measured against the edge, most lines are full, and the sentences of most of those go on.
-bool isProseTo(double edge, std::span<const Line> lines, std::span<const LineMeasure> block, double slack,
-               const ParagraphParameters::Paragraphs& parameters) {
+/// How many lines are full, and how many go on, when measured against another edge.
+struct ProseCount {
+    int pairs = 0;
     int full = 0;
     int goingOn = 0;
-    for (std::size_t i = 0; i + 1 < block.size(); ++i) {
-        if (wouldHaveFitted(block[i], block[i + 1], block[i].endGap - edge, slack))
-            continue;
+
+    void add(const Line& line, const LineMeasure& before, const LineMeasure& next, double edge, double slack) {
+        ++pairs;
+        if (wouldHaveFitted(before, next, before.endGap - edge, slack))
+            return;
         ++full;
         // Single words below each other are as often a list.
-        const bool isText = lines[i].words.size() > 1 || block[i].endsInHan;
-        goingOn += isText && sentenceGoesOn(block[i], block[i + 1]) ? 1 : 0;
+        const bool isText = line.words.size() > 1 || before.endsInHan;
+        goingOn += isText && sentenceGoesOn(before, next) ? 1 : 0;
     }
-    return goingOn >= parameters.flushLines && goingOn >= parameters.proseShare * full &&
-           full >= parameters.proseShare * static_cast<double>(block.size() - 1);
+    /// Most lines are full, and the sentences of most of those go on.
+    bool isProse(const ParagraphParameters::Paragraphs& parameters) const {
+        return goingOn >= parameters.flushLines && goingOn >= parameters.proseShare * full &&
+               full >= parameters.proseShare * pairs;
+    }
+};
+
+bool isProseTo(double edge, std::span<const Line> lines, std::span<const LineMeasure> block, double slack,
+               const ParagraphParameters::Paragraphs& parameters) {
+    ProseCount count;
+    for (std::size_t i = 0; i + 1 < block.size(); ++i)
+        count.add(lines[i], block[i], block[i + 1], edge, slack);
+    return count.isProse(parameters);
+}
+
+double nearestEnd(std::span<const LineMeasure> lines) {
+    double edge = lines[0].endGap;
+    for (const LineMeasure& line : lines)
+        edge = std::min(edge, line.endGap);
+    return edge;
+}
+
+void setEdge(std::span<LineMeasure> lines, double edge) {
+    for (LineMeasure& line : lines) {
+        line.endGap -= edge;
+        line.endInset += edge;
+    }
+}
+
+/// Paragraphs of one indent that follow each other, with space between them, share their edge: alone each may be too
+/// short to show it. Asked only of scripts without capitals, as elsewhere code and verse go on in lower case too.
+void applyCommonEdges(std::span<const Line> lines, std::span<LineMeasure> measures, const ParagraphContext& context,
+                      const ParagraphParameters::Paragraphs& parameters) {
+    for (std::size_t first = 0, end = 0; first < lines.size(); first = end) {
+        const double size = lines[first].fontSize;
+        const auto belongs = [&](std::size_t i) {
+            return std::abs(measures[i].startGap - measures[first].startGap) <= parameters.edgeTolerance * size &&
+                   lines[i].angle == lines[first].angle &&
+                   std::max(lines[i].fontSize, size) <= parameters.sizeChange * std::min(lines[i].fontSize, size);
+        };
+        end = first + 1;
+        while (end < lines.size() && belongs(end))
+            ++end;
+        const auto stretch = measures.subspan(first, end - first);
+        const double edge = nearestEnd(stretch);
+        if (edge <= parameters.ownEdge * size || measures[first].startGap <= parameters.ownEdge * size)
+            continue;
+        ProseCount count;
+        for (std::size_t i = first + 1; i < end; ++i)
+            if (isSameBlock(lines, measures, i - 1, i, context, parameters) && measures[i - 1].endsCaseless)
+                count.add(lines[i - 1], measures[i - 1], measures[i], edge, parameters.fitSlack * size);
+        if (count.isProse(parameters))
+            setEdge(stretch, edge);
+    }
 }
 
 } // namespace
@@ -66,20 +120,15 @@ void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measure
             ++end;
         const auto block = measures.subspan(first, end - first);
         const double size = lines[first].fontSize;
-        double edge = block[0].endGap;
-        for (const LineMeasure& line : block)
-            edge = std::min(edge, line.endGap);
+        const double edge = nearestEnd(block);
         const bool isOwnEdge = block.size() > 1 && edge > parameters.ownEdge * size &&
                                (isSpreadTo(edge, block, parameters.flushTolerance * size, parameters) ||
                                 isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters));
-        for (LineMeasure& line : block) {
-            if (!isOwnEdge)
-                break;
-            line.endGap -= edge;
-            line.endInset = edge;
-        }
+        if (isOwnEdge)
+            setEdge(block, edge);
         first = end;
     }
+    applyCommonEdges(lines, measures, context, parameters);
 }
 
 } // namespace orvane::layout

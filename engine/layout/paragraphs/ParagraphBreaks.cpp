@@ -87,6 +87,8 @@ private:
         const double distance = distanceAbove(next);
         if (distance > m_parameters.maximumLeading * size)
             return true;
+        if (sentenceRunsOn(next))
+            return false;
         // What the paragraph did so far is the best witness, then the line below, then the rest of the column.
         if (next - m_first >= 2) {
             const double usual =
@@ -98,6 +100,16 @@ private:
                 return true;
         }
         return !runsOnAtSameDistance(next, distance) && !m_leading.allows(size, distance);
+    }
+
+    /// The line above is full, and what it says goes on here in a way that no paragraph starts.
+    bool sentenceRunsOn(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        const bool goesOn = line.startsLowerCase || (above.endsInHan && line.startsInHan);
+        return goesOn && !above.endsSentence && above.endGap <= m_parameters.endAligned * above.width &&
+               !looksDifferent(next) &&
+               !wouldHaveFitted(above, line, above.endGap, m_parameters.fitSlack * m_lines[next].fontSize);
     }
 
     /// The line below runs on of itself, and is as far from `next` as this is from the line above.
@@ -127,7 +139,9 @@ private:
                            [](const LineMeasure& line) { return line.isBold; });
     }
 
-    bool isContentsRow(std::size_t next) const { return m_measures[next - 1].hasLeader; }
+    bool isContentsRow(std::size_t next) const {
+        return m_measures[next - 1].hasLeader || m_measures[next - 1].isFiller != m_measures[next].isFiller;
+    }
 
     bool isRowLikeTheOneAbove(std::size_t next) const {
         const LineMeasure& above = m_measures[next - 1];
@@ -140,6 +154,9 @@ private:
             return false;
         const LineMeasure& line = m_measures[next];
         const LineMeasure& first = m_measures[m_first];
+        if (sentenceRunsOn(next) && std::abs(line.startGap - m_measures[next - 1].startGap) <=
+                                        m_parameters.maximumFirstLine * m_lines[next].fontSize)
+            return false;
         if (next - m_first >= 2)
             return !sameEdge(line.startGap, m_measures[next - 1].startGap, next);
         const double step = line.startGap - first.startGap;
@@ -152,6 +169,9 @@ private:
             step <= m_parameters.maximumFirstLine * m_lines[next].fontSize)
             return false;
         if (first.marker && sameEdge(line.startGap, first.textStart, next))
+            return false;
+        // A term, a tabulator, and what is said of it.
+        if (first.tabStart && sameEdge(line.startGap, *first.tabStart, next))
             return false;
         // A step to the right hangs below the first line when more lines follow at that edge; else it is a new first
         // line.
@@ -174,6 +194,9 @@ private:
             break;
         case PairAlignment::Center:
             free = before.startGap + before.endGap;
+            // About a middle of its own the nearer edge of the column ends the room.
+            if (const double shift = std::abs(before.startGap - before.endGap); shift > 2 * tolerance(next))
+                free -= shift;
             break;
         case PairAlignment::End:
             free = before.startGap;
@@ -193,7 +216,8 @@ private:
     bool followsShortLine(std::size_t next) const {
         const LineMeasure& above = m_measures[next - 1];
         const double flush = m_parameters.flushTolerance * m_lines[next].fontSize;
-        if (above.endGap <= 2 * flush || above.meanGap > m_parameters.stretchedGap * above.blank)
+        if (above.endGap <= 2 * flush || above.meanGap > m_parameters.stretchedGap * above.blank ||
+            sentenceRunsOn(next))
             return false;
         if (static_cast<int>(next - 1 - m_first) < m_parameters.flushLines)
             return m_justified.isJustified(above.startGap, m_lines[next - 1].fontSize);
@@ -240,6 +264,11 @@ PairAlignment alignmentOfPair(const LineMeasure& before, const LineMeasure& next
         return std::abs(line.startGap - line.endGap) <= 2 * tolerance;
     };
     if (isCentered(before) && isCentered(next))
+        return PairAlignment::Center;
+    // Where text boxes and tables are narrower than the column, lines are centred about another middle.
+    const double shift = (before.startGap - before.endGap) - (next.startGap - next.endGap);
+    if (std::abs(shift) <= tolerance && std::abs(before.startGap - next.startGap) > 2 * indent &&
+        before.startGap > tolerance && next.startGap > tolerance)
         return PairAlignment::Center;
     const auto isAtEnd = [&](const LineMeasure& line) {
         return std::abs(line.endGap) <= tolerance &&

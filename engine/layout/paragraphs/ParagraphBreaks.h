@@ -15,7 +15,7 @@ enum class BreakReason : std::uint8_t {
     Marker,    ///< a list item starts
     Leading,   ///< there is space between the two
     Look,      ///< size or weight of whole lines changes
-    Leader,    ///< rows of a table of contents
+    Leader,    ///< rows of a table of contents, lines to write on
     Row,       ///< it has a tabulator to the same place as the line before: labels and values
     Indent,    ///< its edge is not that of the paragraph
     Fitted,    ///< its first word would have fitted behind the line before

@@ -1,10 +1,5 @@
 #include "layout/structure/ParagraphContinuation.h"
 
-#include "base/Utf8.h"
-#include "layout/text/LineText.h"
-
-#include <unicode/uchar.h>
-
 #include <algorithm>
 #include <cmath>
 
@@ -25,20 +20,6 @@ bool isOneParagraphsLook(const ParagraphDraft& a, const ParagraphDraft& b,
     return before.angle == next.angle && before.isVertical == next.isVertical &&
            before.isRightToLeft == next.isRightToLeft &&
            std::max(before.fontSize, next.fontSize) <= parameters.sizeChange * std::min(before.fontSize, next.fontSize);
-}
-
-/// A sentence that has not come to its end does not end its paragraph.
-bool endsSentence(const Line& line) {
-    const std::u32string word = utf32FromUtf8(textOf(line.words.back()));
-    for (std::size_t i = word.size(); i-- > 0;) {
-        const char32_t c = word[i];
-        if (std::u32string_view(U".!?:;。！？：；؟۔").find(c) != std::u32string_view::npos)
-            return true;
-        // Closing quotes and brackets stand behind the full stop.
-        if (u_isalnum(static_cast<UChar32>(c)))
-            return false;
-    }
-    return false;
 }
 
 } // namespace
@@ -73,8 +54,9 @@ bool runsOn(const PlacedParagraph& last, const PlacedParagraph& next, const Para
     const bool startsIndented = after.startGap > last.paragraph.indentStart + limits.edgeTolerance * size;
     if (startsIndented && last.paragraph.alignment != Alignment::Center)
         return false;
-    // A full last line of a finished sentence before a capital may be either; without a sign of going on it is an end.
-    return after.startsLowerCase || before.endsWithHyphen || !endsSentence(line) ||
+    // A sentence that has not come to its end does not end its paragraph. A full last line of a finished sentence
+    // before a capital may be either; without a sign of going on it is an end.
+    return after.startsLowerCase || before.endsWithHyphen || !before.endsSentence ||
            (last.paragraph.alignment == Alignment::Justified && before.meanGap > limits.stretchedGap * before.blank);
 }
 

@@ -66,9 +66,46 @@ TEST(ParagraphBuilder, JoinsTheLinesOfAParagraph) {
          {"Doe, J.: The long title of some book that is worth reading and more of it.",
           "Roe, R.: Another book and its title."},
          "a bibliography hangs below its first lines"},
+        {{"Deadline:\tThe day on which the", "          work ends."},
+         {"Deadline:\tThe day on which the work ends."},
+         "what is said of a term hangs at its tabulator"},
+        {{"The quick brown fox jumps over", "       the lazy dog."},
+         {"The quick brown fox jumps over the lazy dog."},
+         "a sentence goes on behind a full line, however the next one stands"},
+        {{"______________________________", "Signature of the applicant"},
+         {"______________________________", "Signature of the applicant"},
+         "a line to write on"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(textsOf(build(row.art, 31)), row.expected) << row.why;
+}
+
+TEST(ParagraphBuilder, GoesOnBelowAFullLineThoughTheLinesStandFarApart) {
+    std::vector<Line> lines = linesFromArt({"The quick brown fox jumps over", "the lazy dog.",
+                                            "Another one starts here and it", "goes on to the next line, too."});
+    lines.push_back(makeLine("The quick brown fox jumps over", 0, 172));
+    lines.push_back(makeLine("the lazy dog.", 0, 196));
+    const auto paragraphs = buildParagraphs(lines, artColumn(30), kContext, {});
+    ASSERT_EQ(paragraphs.size(), 3U);
+    EXPECT_EQ(paragraphs[2].lines.size(), 2U);
+}
+
+TEST(ParagraphBuilder, SharesTheEdgeOfIndentedParagraphsWithSpaceBetween) {
+    const std::string letters = "\u05D0\u05D1\u05D2\u05D3";
+    const std::string full = letters + " " + letters + " " + letters + " " + letters + " " + letters;
+    std::vector<Line> lines;
+    for (int paragraph = 0; paragraph < 3; ++paragraph) {
+        lines.push_back(makeLine(full, 20, 100 + 50 * paragraph));
+        lines.push_back(makeLine(letters + ".", 20, 112 + 50 * paragraph));
+    }
+    EXPECT_EQ(buildParagraphs(lines, {0, lines[0].box.right + 60}, kContext, {}).size(), 3U)
+        << "each first line has room for the word below it, but none uses it";
+}
+
+TEST(ParagraphBuilder, CentersLinesAboutAMiddleOfTheirOwn) {
+    const auto paragraphs = build({"          The quick brown fox", "               jumps"}, 45);
+    EXPECT_EQ(paragraphs.size(), 2U) << "there was room in the upper line";
+    EXPECT_EQ(build({"  The quick brown fox jumps over the", "               lazy dog of it"}, 40).size(), 1U);
 }
 
 TEST(ParagraphBuilder, KeepsDoubleSpacedLinesTogether) {

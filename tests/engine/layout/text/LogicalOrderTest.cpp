@@ -83,7 +83,7 @@ TEST(LogicalOrder, KeepsWhatWasPaintedAsOneStringTogether) {
          "\u05D0\u05D1 M.[A] \u05D2\u05D3",
          "a bracket at the end of a name"},
         {{"\u05D1\u05D0", " ", "2012", "."}, "\u05D0\u05D1 2012.", "a full stop that was painted behind its number"},
-        {{"\u05D1\u05D0", "(", "1", ")", " \u05D3\u05D2"},
+        {{"\u05D1\u05D0", "(", "1", ")", " ", "\u05D3\u05D2"},
          "\u05D0\u05D1(1) \u05D2\u05D3",
          "brackets without gaps that say what was typed"},
     };
