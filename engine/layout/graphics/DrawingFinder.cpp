@@ -1,5 +1,7 @@
 #include "layout/graphics/DrawingFinder.h"
 
+#include "layout/graphics/BarFinder.h"
+#include "layout/graphics/ConnectorFinder.h"
 #include "layout/tables/CellComponents.h"
 #include "layout/text/LineText.h"
 
@@ -28,18 +30,21 @@ Rect seenBox(const pdf::Path& path, const pdf::PageContent& page) {
 class DrawingBuilder {
 public:
     DrawingBuilder(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
-                   const GraphicsParameters::Drawings& limits)
+                   const GraphicsParameters& parameters)
         : m_page(page)
         , m_isRuling(isRuling)
         , m_text(text)
-        , m_limits(limits) {}
+        , m_limits(parameters.drawings)
+        , m_barLimits(parameters.bars) {}
 
     std::vector<Figure> build() {
         groupPaths();
         dropSpecks();
+        takeBars();
         for (int pass = 0; pass < m_limits.growthPasses && takeRulesAndGrounds(); ++pass) {
         }
         uniteOverlapping();
+        uniteConnected();
         for (Figure& drawing : m_drawings)
             drawing.isBackground = isPageWide(drawing.box) || liesUnderText(drawing.box, m_text.lines, m_limits);
         useUpRulesAndGrounds();
@@ -83,6 +88,22 @@ private:
         std::erase_if(m_drawings, [&](const Figure& drawing) {
             return std::max(drawing.box.width(), drawing.box.height()) < m_limits.smallest;
         });
+    }
+
+    /// Charts of bars may be nothing but grounds and rules.
+    void takeBars() {
+        for (const Rect& bars : findBars(m_text, m_barLimits)) {
+            Figure drawing;
+            drawing.box = bars;
+            drawing.needsPainting = true;
+            for (std::size_t i = 0; i < m_page.paths.size(); ++i)
+                if (m_isRuling[i] && m_page.paths[i].fill && bars.intersects(m_page.paths[i].box))
+                    drawing.paths.push_back(i);
+            if (drawing.paths.empty())
+                continue;
+            drawing.paintOrder = m_page.paths[drawing.paths.front()].paintOrder;
+            m_drawings.push_back(std::move(drawing));
+        }
     }
 
     Figure drawingOf(std::size_t path, const Rect& box) const {
@@ -137,11 +158,32 @@ private:
                 united.push_back(std::move(drawing));
                 continue;
             }
-            host->box = host->box.united(drawing.box);
-            host->paintOrder = std::min(host->paintOrder, drawing.paintOrder);
-            host->paths.insert(host->paths.end(), drawing.paths.begin(), drawing.paths.end());
+            takeOver(*host, drawing);
         }
         m_drawings = std::move(united);
+    }
+
+    /// Shapes and what leads from one to the other are one drawing, unless text runs through it.
+    void uniteConnected() {
+        std::vector<bool> isGone(m_drawings.size(), false);
+        for (const ConnectedDrawings& connected : findConnected(m_drawings, m_text.rules, m_limits)) {
+            if (isPageWide(connected.box) || liesUnderText(connected.box, m_text.lines, m_limits))
+                continue;
+            Figure& host = m_drawings[connected.drawings.front()];
+            host.box = connected.box;
+            for (std::size_t i = 1; i < connected.drawings.size(); ++i) {
+                takeOver(host, m_drawings[connected.drawings[i]]);
+                isGone[connected.drawings[i]] = true;
+            }
+        }
+        std::size_t index = 0;
+        std::erase_if(m_drawings, [&](const Figure&) { return isGone[index++]; });
+    }
+
+    static void takeOver(Figure& host, const Figure& other) {
+        host.box = host.box.united(other.box);
+        host.paintOrder = std::min(host.paintOrder, other.paintOrder);
+        host.paths.insert(host.paths.end(), other.paths.begin(), other.paths.end());
     }
 
     void useUpRulesAndGrounds() {
@@ -160,6 +202,7 @@ private:
     const std::vector<bool>& m_isRuling;
     PageText& m_text;
     const GraphicsParameters::Drawings& m_limits;
+    const GraphicsParameters::Bars& m_barLimits;
     std::vector<Figure> m_drawings;
 };
 
@@ -208,7 +251,7 @@ void labelDrawings(PageText& text) {
 
 std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
                                  const GraphicsParameters& parameters, Diagnostics&) {
-    return DrawingBuilder(page, isRuling, text, parameters.drawings).build();
+    return DrawingBuilder(page, isRuling, text, parameters).build();
 }
 
 } // namespace orvane::layout

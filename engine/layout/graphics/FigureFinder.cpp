@@ -109,6 +109,26 @@ std::vector<Figure> findPictures(const pdf::PageContent& page, const GraphicsPar
     return pictures;
 }
 
+/// Makes one figure of a picture and the drawing over it, which is painted as a whole.
+void uniteWithDrawings(std::vector<Figure>& pictures, const std::vector<Figure>& drawings, double overlapShare) {
+    for (const Figure& drawing : drawings) {
+        const auto host = std::find_if(pictures.begin(), pictures.end(), [&](const Figure& picture) {
+            const double smaller = std::min(picture.box.area(), drawing.box.area());
+            return !picture.isBackground && !drawing.isBackground &&
+                   picture.box.intersected(drawing.box).area() > overlapShare * smaller;
+        });
+        if (host == pictures.end()) {
+            pictures.push_back(drawing);
+            continue;
+        }
+        Figure united = drawing;
+        united.box = united.box.united(host->box);
+        united.paintOrder = std::min(united.paintOrder, host->paintOrder);
+        united.alternateText = host->alternateText;
+        *host = std::move(united);
+    }
+}
+
 } // namespace
 
 void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,
@@ -116,8 +136,8 @@ void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling
     text.figures = findPictures(page, parameters.pictures);
     for (Figure& figure : text.figures)
         figure.isBackground |= liesUnderText(figure.box, text.lines, parameters.drawings);
-    std::vector<Figure> drawings = findDrawings(page, isRuling, text, parameters, diagnostics);
-    std::move(drawings.begin(), drawings.end(), std::back_inserter(text.figures));
+    uniteWithDrawings(text.figures, findDrawings(page, isRuling, text, parameters, diagnostics),
+                      parameters.drawings.overlapShare);
     std::stable_sort(text.figures.begin(), text.figures.end(),
                      [](const Figure& a, const Figure& b) { return a.paintOrder < b.paintOrder; });
     labelDrawings(text);

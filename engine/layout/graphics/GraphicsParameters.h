@@ -39,7 +39,17 @@ struct GraphicsParameters {
         double overlapShare = 0.5;    ///< of the smaller drawing; with more in common two are one
         unsigned wordsOfProse = 8;    ///< words of a line that is no label
         double proseShare = 0.4;      ///< of the drawing's width; shorter lines may be notes at a shape
+        double touch = 2.0;           ///< points; a line ends this near to the shape it leads to
+        double shapesACrossing = 4;   ///< shapes for each crossing of the lines between them; tables cross more often
     } drawings;
+
+    /// BarFinder: the bars of charts.
+    struct Bars {
+        double sameEdge = 1.0;  ///< points; bars stand on one line, and are alike in breadth, within this
+        int fewestBars = 3;     ///< fewer may be anything ...
+        int fewestLengths = 3;  ///< ... and grounds of few lengths are cells
+        double widestGap = 6.0; ///< of the breadth; between bars of one chart
+    } bars;
 
     /// FigureFinder: pictures.
     struct Pictures {

@@ -46,7 +46,7 @@ public:
             return TableVerdict::TooSmall;
         if (isContents())
             return TableVerdict::Contents;
-        if (isList())
+        if (isList() || isListInColumns())
             return TableVerdict::List;
         if (isKeyValues())
             return TableVerdict::KeyValues;
@@ -120,6 +120,17 @@ private:
         const bool isSymbol = text.size() <= 3 && (!isAscii(text.front()) || text == "-" || text == "*" || text == "o");
         const bool isNumber = text.size() <= 6 && (text.back() == '.' || text.back() == ')');
         return isSymbol || isNumber;
+    }
+
+    /// Whether most rows begin some column with a bullet: a list in columns.
+    bool isListInColumns() const {
+        return m_evidence == AlignedEvidence::Alignment &&
+               shareOfRows([&](const PieceRow& row) {
+                   return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
+                       return isBullet(textOf(
+                           pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines()));
+                   });
+               }) > m_parameters.labelShare;
     }
 
     bool isList() const {

@@ -1,8 +1,6 @@
 #include "layout/tables/AlignedGrid.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -47,9 +45,7 @@ Rect boxOf(const AlignedRows& aligned, const RowGroup& group) {
 /// A bullet right before its text. Signs that also fill columns of their own, such as check marks, are none here.
 bool isBulletOf(const TextPiece& piece, const TextPiece& text, const std::vector<Line>& lines,
                 const LayoutParameters& parameters) {
-    static constexpr std::array<std::string_view, 9> kBullets{"\u2022", "\u25E6", "\u25AA", "\u25CF", "\u25CB",
-                                                              "\u25A0", "\u2023", "\u00B7", "o"};
-    return piece.wordCount() == 1 && std::ranges::find(kBullets, textOf(piece, lines)) != kBullets.end() &&
+    return piece.wordCount() == 1 && isBullet(textOf(piece, lines)) &&
            text.box.left - piece.box.right <= parameters.gutters.labelGap * piece.fontSize;
 }
 

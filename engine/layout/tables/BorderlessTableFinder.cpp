@@ -38,6 +38,7 @@ public:
         m_region = {m_rows[first]};
         m_gaps.clear();
         m_leastSpace = 1e9;
+        m_lastFull = m_rows[first].pieces.size();
         std::size_t end = first;
         for (std::size_t i = first + 1; i < m_rows.size() && isNear(i); ++i) {
             if (isMulti(i) ? !takeMulti(i) : !takeSingle(i))
@@ -53,10 +54,17 @@ private:
     /// Whether the space above the row is no larger than between rows of one table.
     bool isNear(std::size_t i) {
         const double space = m_rows[i].box.top - m_rows[i - 1].box.bottom;
-        const double usual = std::max(m_leastSpace < 1e8 ? m_leastSpace * m_parameters.rowSpaceGrowth : 0.0,
-                                      m_parameters.maximumRowSpace * m_rows[i].fontSize);
+        const double usual =
+            std::max(m_leastSpace < 1e8 ? m_leastSpace * m_parameters.rowSpaceGrowth : 0.0,
+                     (isFull(i) ? m_parameters.widestRowSpace : m_parameters.maximumRowSpace) * m_rows[i].fontSize);
         m_leastSpace = std::min(m_leastSpace, std::max(space, 0.0));
         return space <= usual;
+    }
+
+    /// Whether the row, and the last one with texts side by side, hold many: these may stand farther apart.
+    bool isFull(std::size_t i) const {
+        return std::min(m_rows[i].pieces.size(), m_lastFull) >= m_parameters.fullRow &&
+               m_rows[i].pieces.size() + 1 >= m_lastFull;
     }
 
     /// A row with several pieces joins while the columns stay.
@@ -69,6 +77,7 @@ private:
             return false;
         }
         m_gaps = std::move(gaps);
+        m_lastFull = m_rows[i].pieces.size();
         return true;
     }
 
@@ -87,6 +96,7 @@ private:
     std::vector<PieceRow> m_region;
     std::vector<ColumnGap> m_gaps;
     double m_leastSpace = 1e9;
+    std::size_t m_lastFull = 0; ///< pieces in the last row that has several
 };
 
 AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, std::size_t end,

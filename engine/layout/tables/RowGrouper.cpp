@@ -12,6 +12,7 @@ struct RowContent {
     std::map<int, const TextPiece*> byColumn;
     bool hasSpan = false;
     bool hasNumber = false;
+    bool isOfNumbers = false; ///< a third of the texts: a head may hold a number, too
     bool isBold = true;
 };
 
@@ -53,13 +54,17 @@ public:
 private:
     RowContent contentOf(const PieceRow& row) const {
         RowContent content;
+        std::size_t numbers = 0;
         for (const TextPiece& piece : row.pieces) {
             const ColumnRange range = columnsOf(piece, m_gaps);
             content.byColumn.try_emplace(range.first, &piece);
             content.hasSpan = content.hasSpan || range.first != range.last;
-            content.hasNumber = content.hasNumber || isNumeric(piece, m_lines);
+            numbers += isNumeric(piece, m_lines);
             content.isBold = content.isBold && m_lines[piece.line].words[piece.firstWord].spans.front().look.isBold;
         }
+        content.hasNumber = numbers > 0;
+        content.isOfNumbers = numbers > 0 && static_cast<double>(numbers) >=
+                                                 m_parameters.headNumberShare * static_cast<double>(row.pieces.size());
         return content;
     }
 
@@ -83,7 +88,7 @@ private:
     /// The rows that may be the head: those before the first with numbers, if there is one.
     void countHead(RowsPart part) {
         const auto numbers = std::find_if(m_contents.begin(), m_contents.end(),
-                                          [](const RowContent& content) { return content.hasNumber; });
+                                          [](const RowContent& content) { return content.isOfNumbers; });
         const auto count = static_cast<std::size_t>(numbers - m_contents.begin());
         if (part == RowsPart::Head)
             m_headRows = m_contents.size();

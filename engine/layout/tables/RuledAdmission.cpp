@@ -63,8 +63,14 @@ bool isDrawnOver(const PageText& page, const TableGrid& grid, const TableParamet
 
 namespace {
 
+/// A frame around the page has a cell or two for its head beside the one that holds the text; more are the fields of a
+/// form or of minutes.
 bool isPageFrame(const PageText& page, const TableGrid& grid, const CellText& text,
                  const TableParameters::Tables& parameters) {
+    const auto filled = std::count_if(text.wordsOfCell.begin(), text.wordsOfCell.end(),
+                                      [](const std::vector<WordPlace>& words) { return !words.empty(); });
+    if (filled > parameters.mostFrameCells)
+        return false;
     for (std::size_t i = 0; i < grid.cells.size(); ++i) {
         const bool isLarge = grid.boxOf(grid.cells[i]).area() > parameters.frameCellShare * page.width * page.height;
         const auto words = static_cast<double>(text.wordsOfCell[i].size());

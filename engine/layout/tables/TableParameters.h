@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 namespace orvane::layout {
 
 /// Thresholds of the folder `tables`: what is drawn as a grid, and what words set as one. A field says its unit, its
@@ -31,6 +33,7 @@ struct TableParameters {
         double figureShare = 0.9;      ///< of a drawing's part within the table that must lie in one cell
         double frameCellShare = 0.4;   ///< of the page; a cell larger than this ...
         double frameWordShare = 0.7; ///< ... that holds this much of the table's words makes it a frame around the page
+        int mostFrameCells = 6;      ///< cells with text of such a frame; more are the fields of a form
 
         // Words in columns.
         double pieceGap = 0.6;      ///< of the font size; a wider gap in a line may part two cells ...
@@ -49,6 +52,8 @@ struct TableParameters {
 
         double maximumRowSpace = 1.5; ///< of the font size; rows of a table stand no farther apart ...
         double rowSpaceGrowth = 1.6;  ///< ... or no farther than this times the smallest space in the table
+        double widestRowSpace = 4.0;  ///< of the font size; rows of many texts stand no farther apart
+        std::size_t fullRow = 4;      ///< texts side by side that are many
 
         // Rows and columns of a drawn grid between which no rule is drawn.
         int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them
@@ -82,6 +87,7 @@ struct TableParameters {
         double keptEdgeShareRuled = 0.5;  ///< the same where rules part the rows
         double raggedShare = 0.34;        ///< of the columns that may keep none
         double numericShare = 0.6;        ///< of a column's texts that are numbers: a column of numbers
+        double headNumberShare = 0.33;    ///< of the texts in a row; with more numbers it is not of the head
 
         // The look of cells.
         double shadingCover = 0.6;   ///< of a cell that a ground must cover to be its shading

@@ -1,6 +1,7 @@
 #include "layout/tables/TextPiece.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace orvane::layout {
@@ -91,6 +92,12 @@ std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const TablePa
         std::sort(row.pieces.begin(), row.pieces.end(),
                   [](const TextPiece& a, const TextPiece& b) { return a.box.left < b.box.left; });
     return rows;
+}
+
+bool isBullet(std::string_view text) {
+    static constexpr std::array<std::string_view, 9> kBullets{"\u2022", "\u25E6", "\u25AA", "\u25CF", "\u25CB",
+                                                              "\u25A0", "\u2023", "\u00B7", "o"};
+    return std::ranges::find(kBullets, text) != kBullets.end();
 }
 
 std::string textOf(const TextPiece& piece, const std::vector<Line>& lines) {

@@ -4,6 +4,8 @@
 #include "layout/text/PageText.h"
 
 #include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace orvane::layout {
@@ -41,6 +43,10 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
 
 /// Whether every word of the piece is a number, an amount, a date or stands for none (a dash).
 bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines);
+
+/// Whether the text is a sign that begins the items of a list. Signs that also fill columns of their own, such as check
+/// marks, are none here.
+bool isBullet(std::string_view text);
 
 /// The words of the piece, parted by blanks.
 std::string textOf(const TextPiece& piece, const std::vector<Line>& lines);

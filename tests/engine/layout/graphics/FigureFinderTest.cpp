@@ -77,6 +77,37 @@ TEST(FigureFinder, TakesTheLabelsOfAnAxisForNoText) {
     EXPECT_FALSE(text.figures[0].isBackground);
 }
 
+TEST(FigureFinder, MakesAChartOfBarsADrawing) {
+    PageContentBuilder page;
+    const Color blue{20, 40, 200};
+    for (int i = 0; i < 5; ++i)
+        page.filledRectangle({100.0 + i * 30, 200.0 - i * 17, 115.0 + i * 30, 250}, blue);
+    page.horizontalRule(90, 260, 250);
+    page.horizontalRule(90, 260, 200);
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_TRUE(text.figures[0].needsPainting);
+    EXPECT_NEAR(text.figures[0].box.left, 90, 0.5);
+}
+
+TEST(FigureFinder, TakesShadedCellsForNoBars) {
+    PageContentBuilder page;
+    const Color grey{220, 220, 220};
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 4; ++column)
+            page.filledRectangle({100.0 + column * 60, 100.0 + row * 20, 160.0 + column * 60, 120.0 + row * 20}, grey);
+    EXPECT_THAT(read(page).figures, SizeIs(0));
+}
+
+TEST(FigureFinder, MakesOneDrawingOfShapesThatLinesConnect) {
+    PageContentBuilder page;
+    page.disk({120, 120}, 20);
+    page.disk({120, 300}, 20);
+    page.verticalRule(120, 140, 280);
+    page.disk({400, 500}, 10);
+    EXPECT_THAT(read(page).figures, SizeIs(2));
+}
+
 TEST(FigureFinder, MakesOneDrawingOfShapesThatStandTogether) {
     PageContentBuilder page;
     page.disk({120, 120}, 20);
