@@ -30,6 +30,8 @@ struct PageParameters {
     struct ReadingOrder {
         double besideShare =
             0.3; ///< of the lower of the two; a line that shares more height with a figure stands beside it
+        double acrossShare = 0.25; ///< of a column; what covers as much of two leads across them
+        double bandSlack = 0.5; ///< of the body's font size; what reaches no farther into the lines stands above them
     } readingOrder;
 };
 

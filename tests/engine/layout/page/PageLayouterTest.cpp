@@ -128,6 +128,21 @@ TEST(PageLayouter, PutsFiguresIntoTheirPlace) {
     EXPECT_EQ(describe(layoutArt({"Text"}, {ground})), "[figure]/Text") << "backgrounds come first";
 }
 
+TEST(PageLayouter, MakesABandOfWhatLeadsAcrossColumns) {
+    const std::vector<std::string> columns = {"one two three fou   Nine ten eleven t",
+                                              "five six seven ei   thirteen fourtee",
+                                              "nine ten eleven .   sixteen seventee"};
+    const std::string text = "one two three fou five six seven ei nine ten eleven .|Nine ten eleven t thirteen fourtee "
+                             "sixteen seventee";
+    Figure above, below, narrow;
+    above.box = {0, 20, 185, 80};
+    below.box = {0, 140, 185, 200};
+    narrow.box = {0, 20, 80, 80};
+    EXPECT_EQ(describe(layoutArt(columns, {above, below})), "[inline figure]=" + text + "=[inline figure]");
+    EXPECT_EQ(layoutArt(columns, {above}).bands[0].columns.size(), 1U);
+    EXPECT_EQ(describe(layoutArt(columns, {narrow})), "[inline figure]/" + text) << "as wide as its column";
+}
+
 TEST(PageLayouter, KeepsTurnedTextOutOfTheColumns) {
     PageText page = makePage(1);
     page.lines = linesFromArt({"The quick brown fox jumps over", "the lazy dog."});
