@@ -5,13 +5,6 @@
 #include <utility>
 
 namespace orvane::pdf {
-namespace {
-
-bool isPrivate(char32_t c) {
-    return (c >= 0xE000 && c < 0xF900) || c >= 0xF0000;
-}
-
-} // namespace
 
 FontProgram::FontProgram(const std::vector<unsigned char>& bytes) {
     if (FT_Init_FreeType(&m_library) == 0 &&
@@ -42,7 +35,7 @@ void FontProgram::addFromCharacterMap(GlyphTexts& texts) const {
     for (FT_ULong character = FT_Get_First_Char(m_face, &glyph); glyph != 0;
          character = FT_Get_Next_Char(m_face, character, &glyph))
         // The first of several is the plain one: U+0020 comes before U+00A0.
-        if (!isPrivate(static_cast<char32_t>(character)) && character >= 0x20)
+        if (!isPrivateUse(static_cast<char32_t>(character)) && character >= 0x20)
             texts.try_emplace(glyph, withoutLigature(static_cast<char32_t>(character)));
 }
 

@@ -15,9 +15,6 @@
 namespace orvane::pdf {
 namespace {
 
-bool isPrivate(char32_t c) {
-    return (c >= 0xE000 && c < 0xF900) || c >= 0xF0000;
-}
 bool isBlank(char32_t c) {
     return c == '\t' || c == '\n' || c == '\r';
 }
@@ -25,7 +22,7 @@ bool isBlank(char32_t c) {
 bool isSayable(char32_t c) {
     const bool isControl = c < 0x20 || (c >= 0x7F && c < 0xA0);
     const bool isNoCharacter = c == 0xFFFD || c > 0x10FFFF || (c & 0xFFFE) == 0xFFFE || (c >= 0xD800 && c < 0xE000);
-    return !isControl && !isNoCharacter && !isPrivate(c);
+    return !isControl && !isNoCharacter && !isPrivateUse(c);
 }
 
 bool isSayable(const std::u32string& text) {

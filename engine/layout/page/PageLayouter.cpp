@@ -2,13 +2,12 @@
 
 #include "layout/page/ReadingOrder.h"
 #include "layout/page/RegionFinder.h"
+#include "layout/page/WideObjects.h"
 #include "layout/paragraphs/ParagraphBuilder.h"
 #include "layout/structure/ParagraphContinuation.h"
 #include "layout/tables/TableFinder.h"
 
 #include <algorithm>
-#include <optional>
-#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -29,7 +28,7 @@ public:
         takeFigures();
         findColumns();
         fillColumns();
-        partWideObjects();
+        partWideObjects(m_layout, m_context.bodyFontSize, m_parameters.readingOrder);
         joinColumns();
         leaveFreeRules();
         return std::move(m_layout);
@@ -139,71 +138,6 @@ private:
         m_layout.blocks.push_back(std::move(block));
     }
 
-    /// What leads across columns above or below all of their lines is a band of its own.
-    void partWideObjects() {
-        std::vector<PageBlock>& blocks = m_layout.blocks;
-        std::stable_sort(blocks.begin(), blocks.end(), [&](const PageBlock& a, const PageBlock& b) {
-            return std::pair(a.band, sideOfColumns(a)) < std::pair(b.band, sideOfColumns(b));
-        });
-        std::vector<Side> sides;
-        for (const PageBlock& block : blocks)
-            sides.push_back(sideOfColumns(block));
-        if (std::all_of(sides.begin(), sides.end(), [](Side side) { return side == Side::Within; }))
-            return;
-        std::vector<Band> bands;
-        for (std::size_t i = 0; i < blocks.size();) {
-            const int band = blocks[i].band;
-            std::optional<int> columns;
-            for (; i < blocks.size() && blocks[i].band == band; ++i) {
-                const bool isWide = sides[i] != Side::Within;
-                if (isWide || !columns)
-                    bands.push_back(isWide ? wideBand(blocks[i]) : bandOf(blocks[i]));
-                const int last = static_cast<int>(bands.size()) - 1;
-                if (!isWide && !columns)
-                    columns = last;
-                blocks[i].band = isWide ? last : *columns;
-                blocks[i].column = isWide ? 0 : blocks[i].column;
-            }
-        }
-        m_layout.bands = std::move(bands);
-    }
-
-    enum class Side : std::int8_t { Above, Within, Below };
-
-    /// Where a table or picture in the flow that leads across the columns of its band stands to their lines.
-    Side sideOfColumns(const PageBlock& block) const {
-        const Band& band = bandOf(block);
-        const Rect box = boxInFlow(block);
-        const double slack = m_parameters.readingOrder.bandSlack * m_context.bodyFontSize;
-        const bool isAbove = box.bottom <= band.top + slack;
-        if (box.isEmpty() || band.columns.size() < 2 || (!isAbove && box.top < band.bottom - slack))
-            return Side::Within;
-        const double least = m_parameters.readingOrder.acrossShare;
-        const auto covered = std::count_if(band.columns.begin(), band.columns.end(), [&](const ColumnSpan& column) {
-            return overlap(box.left, box.right, column.left, column.right) >= least * (column.right - column.left);
-        });
-        return covered < 2 ? Side::Within : isAbove ? Side::Above : Side::Below;
-    }
-
-    /// Empty for paragraphs and what floats.
-    static Rect boxInFlow(const PageBlock& block) {
-        if (const auto* table = std::get_if<TableDraft>(&block.value))
-            return table->box;
-        const auto* figure = std::get_if<FigureDraft>(&block.value);
-        return figure && figure->isInline ? figure->figure.box : Rect{};
-    }
-
-    /// One column over all those of the block's band.
-    Band wideBand(const PageBlock& block) const {
-        const Rect box = boxInFlow(block);
-        ColumnSpan span{box.left, box.right};
-        for (const ColumnSpan& column : bandOf(block).columns)
-            span = {std::min(span.left, column.left), std::max(span.right, column.right)};
-        return {box.top, box.bottom, {span}, false};
-    }
-
-    const Band& bandOf(const PageBlock& block) const { return m_layout.bands[static_cast<std::size_t>(block.band)]; }
-
     void addParagraphs(const Region& region, std::size_t from, std::size_t to, std::span<const Rect> obstacles) {
         if (from >= to)
             return;
@@ -249,7 +183,7 @@ private:
     }
 
     ColumnSpan spanOf(const PageBlock& block) const {
-        return bandOf(block).columns[static_cast<std::size_t>(block.column)];
+        return m_layout.bands[static_cast<std::size_t>(block.band)].columns[static_cast<std::size_t>(block.column)];
     }
 
     ParagraphContext paragraphContext() const {

@@ -26,6 +26,7 @@ TEST(RtfExtreme, HasATableOfFiftyThousandCells) {
 TEST(RtfExtreme, HasTablesWithinTablesBeyondWhatReadersTake) {
     const WrittenRtf rtf(documentOf({{nestedTables(500)}}));
     EXPECT_TRUE(rtf.has("innermost"));
+    EXPECT_EQ(rtf.count("{x}"), 499u) << "no text is lost";
     EXPECT_FALSE(rtf.has("\\itap11"));
     EXPECT_EQ(faultOfRtf(rtf.text()), "");
     EXPECT_EQ(rtf.diagnostics().entries().size(), 1u) << "told once, not for each table";

@@ -49,39 +49,6 @@ TEST(RtfFile, IsWholeWithoutSectionsAndStyles) {
     EXPECT_THAT(faultOfRtf(WrittenRtf(Document{}).text()), IsEmpty());
 }
 
-TEST(RtfFile, HoldsTablesOfFiftyThousandCells) {
-    Table table;
-    table.columnWidths.assign(50, Twips(200));
-    for (int row = 0; row < 1000; ++row) {
-        TableRow cells;
-        for (int column = 0; column < 50; ++column)
-            cells.cells.push_back(cell("x", column));
-        table.rows.push_back(std::move(cells));
-    }
-    const WrittenRtf rtf(documentOf({{std::move(table)}}));
-    EXPECT_EQ(rtf.count("\\cell}"), 50000u);
-    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
-}
-
-TEST(RtfFile, HoldsTablesWithinTablesBeyondWhatReadersTake) {
-    constexpr int kDepth = 500;
-    Table table;
-    table.rows.resize(1);
-    table.rows[0].cells.push_back(cell("innermost"));
-    for (int depth = 1; depth < kDepth; ++depth) {
-        Table outer;
-        outer.rows.resize(1);
-        outer.rows[0].cells.push_back(cell("x"));
-        outer.rows[0].cells[0].blocks.push_back({std::move(table)});
-        table = std::move(outer);
-    }
-    const WrittenRtf rtf(documentOf({{std::move(table)}}));
-    EXPECT_EQ(rtf.count("{x}"), static_cast<std::size_t>(kDepth - 1)) << "no text is lost";
-    EXPECT_FALSE(rtf.has("\\itap11"));
-    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
-    EXPECT_EQ(rtf.diagnostics().entries().size(), 1u) << "told once, not for each table";
-}
-
 TEST(RtfFile, HoldsNumbersBeyondWhatTheFormatTakes) {
     constexpr int kHuge = 2000000000;
     RunProperties look;

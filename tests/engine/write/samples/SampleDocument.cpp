@@ -1,18 +1,16 @@
 #include "SampleDocument.h"
 
 #include "DocumentBuilder.h"
+#include "SampleDrawings.h"
+#include "SampleStyles.h"
 #include "TestPicture.h"
-
-#include <fmt/format.h>
 
 namespace orvane::tests {
 namespace {
 
 using namespace document;
 
-constexpr Color kBlue{0x1F, 0x4E, 0x79};
 constexpr Color kYellow{0xFF, 0xFF, 0x00};
-constexpr Color kPale{0xDD, 0xEB, 0xF7};
 
 Emu points(double value) {
     return emuFromPoints(value);
@@ -34,64 +32,13 @@ public:
         m_document.metadata = {
             "Everything: <one> & \"all\"", "Ada \u00C9xample",         "A sample", "docx, sample", "en-GB",
             "2024-02-29T08:30:00Z",        "2024-03-01T09:00:00+01:00"};
-        addStyles();
-        addLists();
+        m_document.styles = sampleStyles(m_normal, m_run);
+        m_document.numberings = sampleNumberings(m_run);
         m_document.sections = {textSection(), columnSection(), landscapeSection(), rightToLeftSection()};
         return m_document;
     }
 
 private:
-    // ---- styles and lists ----
-
-    void addStyles() {
-        m_document.styles.push_back({"Normal", "Normal", "", "", m_normal, m_run});
-        for (int level = 1; level <= 3; ++level) {
-            Style heading{
-                fmt::format("Heading{}", level), fmt::format("heading {}", level), "Normal", "Normal", m_normal, m_run};
-            heading.run.isBold = true;
-            heading.run.color = kBlue;
-            heading.run.size = HalfPoints(38 - 6 * level);
-            heading.paragraph.outlineLevel = level;
-            heading.paragraph.keepWithNext = true;
-            heading.paragraph.spaceBefore = Twips(240);
-            m_document.styles.push_back(heading);
-        }
-        Style quote{"Zitat_gro\u00DF", "Zitat gro\u00DF", "Normal", "", m_normal, m_run};
-        quote.run.isItalic = true;
-        quote.paragraph.indentStart = quote.paragraph.indentEnd = Twips(720);
-        m_document.styles.push_back(quote);
-        Style entry{"TOC1", "toc 1", "Normal", "", m_normal, m_run};
-        entry.paragraph.tabs = {{Twips(9026), TabAlignment::End, TabLeader::Dots}};
-        m_document.styles.push_back(entry);
-        Style footnote{"FootnoteText", "footnote text", "Normal", "", m_normal, m_run};
-        footnote.run.size = HalfPoints(18);
-        footnote.paragraph.spaceAfter = Twips(0);
-        m_document.styles.push_back(footnote);
-    }
-
-    void addLists() {
-        Numbering bullets;
-        for (int level = 0; level < 2; ++level) {
-            NumberingLevel item;
-            item.format = NumberFormat::Bullet;
-            item.text = level == 0 ? "\u2022" : "\u2013";
-            item.indentStart = Twips(360 + 360 * level);
-            item.firstLine = Twips(-360);
-            bullets.levels.push_back(item);
-        }
-        Numbering numbers;
-        for (int level = 0; level < 3; ++level) {
-            NumberingLevel item;
-            item.text = level == 0 ? "%1." : level == 1 ? "%1.%2" : "%1.%2.%3";
-            item.indentStart = Twips(500 + 500 * level);
-            item.firstLine = Twips(-500);
-            item.run = m_run;
-            item.run->isBold = true;
-            numbers.levels.push_back(item);
-        }
-        m_document.numberings = {bullets, numbers, numbers};
-    }
-
     // ---- small pieces ----
 
     Paragraph styled(const StyleId& id, std::vector<Inline> inlines) const {
@@ -327,7 +274,7 @@ private:
         for (int i = 0; i < 12; ++i)
             much += filler;
         result.blocks = {
-            {floatingPicture()}, {plain(much)}, {shapes()},      {line()},
+            {floatingPicture()}, {plain(much)}, {boxAndDrop()},  {slopedLine()},
             {frame()},           {plain(much)}, {turnedFrame()}, {plain({{Break{BreakKind::Column}}, words(filler)})}};
         return result;
     }
@@ -344,68 +291,6 @@ private:
                             points(0),
                             points(0),
                             1};
-        return figure;
-    }
-
-    static Shape shape(std::vector<Shape::Segment> segments, double width, double height) {
-        Shape result;
-        result.width = points(width);
-        result.height = points(height);
-        result.segments = std::move(segments);
-        return result;
-    }
-
-    static Shape::Segment to(Shape::Verb verb, std::initializer_list<double> xy) {
-        Shape::Segment segment{verb, {}};
-        std::size_t i = 0;
-        for (const double value : xy)
-            segment.xy[i++] = points(value);
-        return segment;
-    }
-
-    static Figure shapes() {
-        using Verb = Shape::Verb;
-        Shape box = shape({to(Verb::Move, {0, 0}), to(Verb::Line, {80, 0}), to(Verb::Line, {80, 50}),
-                           to(Verb::Line, {0, 50}), to(Verb::Close, {})},
-                          80, 50);
-        box.fill = kPale;
-        box.line = ShapeLine{kBlue, points(2), BorderKind::Dashed};
-        Shape drop = shape({to(Verb::Move, {0, 20}), to(Verb::Curve, {0, 0, 40, 0, 40, 20}), to(Verb::Line, {20, 50}),
-                            to(Verb::Close, {})},
-                           40, 50);
-        drop.x = points(60);
-        drop.y = points(10);
-        drop.fill = Color{0xC0, 0x00, 0x00};
-        drop.opacity = 0.5;
-        Figure figure{Drawing{points(100), points(60), {box, drop}, "A box and a drop"}, {}, {}};
-        figure.placement = {HorizontalAnchor::Margin,
-                            VerticalAnchor::Margin,
-                            points(0),
-                            points(560),
-                            Wrapping::TopAndBottom,
-                            {},
-                            {},
-                            {},
-                            {},
-                            2};
-        return figure;
-    }
-
-    static Figure line() {
-        using Verb = Shape::Verb;
-        Shape rule = shape({to(Verb::Move, {0, 40}), to(Verb::Line, {120, 0})}, 120, 40);
-        rule.line = ShapeLine{Color{0x70, 0xAD, 0x47}, points(3), BorderKind::Single};
-        Figure figure{Drawing{points(120), points(40), {rule}, ""}, {}, {}};
-        figure.placement = {HorizontalAnchor::Page,
-                            VerticalAnchor::Page,
-                            points(380),
-                            points(700),
-                            Wrapping::BehindText,
-                            {},
-                            {},
-                            {},
-                            {},
-                            3};
         return figure;
     }
 
