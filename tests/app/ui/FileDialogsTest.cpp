@@ -6,7 +6,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QItemSelectionModel>
 #include <QLineEdit>
+#include <QListView>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -65,6 +67,24 @@ TEST_F(SystemDialog, OpensSeveralFilesAsFolderAndNames) {
     typeAndAccept("\"c d.pdf\" \"a.pdf\"");
     const QChar nul(u'\0');
     EXPECT_EQ(dialogs.open(openRequest), home() + nul + "c d.pdf" + nul + "a.pdf");
+}
+
+TEST_F(SystemDialog, OpensEveryTypedFileWhateverRowsAreSelected) {
+    whenOpen([](QFileDialog& dialog) {
+        auto& list = *dialog.findChild<QListView*>("listView")->selectionModel();
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"c d.pdf\" \"a.pdf\"");
+        const QSignalBlocker blocker(list);
+        list.select(list.selectedRows().front(), QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    const QChar nul(u'\0');
+    EXPECT_EQ(dialogs.open(openRequest), home() + nul + "c d.pdf" + nul + "a.pdf");
+}
+
+TEST(QuotedFiles, TakesNamesOfTheFolderAndFullPaths) {
+    EXPECT_EQ(quotedFiles("\"a b.pdf\" \"/elsewhere/c.pdf\"", QDir("/home/in")),
+              QStringList({"/home/in/a b.pdf", "/elsewhere/c.pdf"}));
+    EXPECT_EQ(quotedFiles("a.pdf", QDir("/home/in")), QStringList()) << "one name needs no quotes";
 }
 
 TEST_F(SystemDialog, CancelGivesNothing) {
