@@ -63,10 +63,10 @@ bool isCutText(DraftCell& above, DraftCell& below) {
 }
 
 bool haveSamePlaces(const std::vector<DraftCell*>& above, const std::vector<DraftCell*>& below) {
-    return std::equal(
-        above.begin(), above.end(), below.begin(), below.end(), [](const DraftCell* a, const DraftCell* b) {
-            return a->cell.column == b->cell.column && a->cell.columnSpan == b->cell.columnSpan && b->cell.rowSpan == 1;
-        });
+    return std::equal(above.begin(), above.end(), below.begin(), below.end(),
+                      [](const DraftCell* a, const DraftCell* b) {
+                          return a->cell.column == b->cell.column && a->cell.columnSpan == b->cell.columnSpan;
+                      });
 }
 
 /// In how many of the table's rows the first cell has text.
@@ -127,9 +127,26 @@ void joinRows(DraftTable& table, DraftTable& next, const ParagraphContext& conte
         }
         blocks.insert(blocks.end(), std::make_move_iterator(first), std::make_move_iterator(more.end()));
         above[i]->cell.borders.bottom = below[i]->cell.borders.bottom;
+        above[i]->cell.rowSpan += below[i]->cell.rowSpan - 1;
     }
     table.table.rowEdges.back() += next.table.rowEdges[1] - next.table.rowEdges[0];
     dropFirstRows(next, 1);
+}
+
+void joinMergedCells(DraftTable& table, DraftTable& next) {
+    const std::vector<DraftCell*> above = lastRowOf(table);
+    std::erase_if(next.cells, [&](const DraftCell& below) {
+        if (below.cell.row > 0 || below.cell.rowSpan < 2 || !below.blocks.empty())
+            return false;
+        const auto same = std::find_if(above.begin(), above.end(), [&](const DraftCell* cell) {
+            return cell->cell.column == below.cell.column && cell->cell.columnSpan == below.cell.columnSpan;
+        });
+        if (same == above.end() || (*same)->cell.rowSpan < 2 || (*same)->blocks.empty())
+            return false;
+        (*same)->cell.rowSpan += below.cell.rowSpan;
+        (*same)->cell.borders.bottom = below.cell.borders.bottom;
+        return true;
+    });
 }
 
 } // namespace orvane::layout

@@ -14,4 +14,8 @@ bool goesOnWithRow(DraftTable& table, DraftTable& next, const ParagraphContext& 
 /// Moves the first row of `next` into the last one of `table`, texts that run on into their paragraphs.
 void joinRows(DraftTable& table, DraftTable& next, const ParagraphContext& context, const LayoutParameters& parameters);
 
+/// Lets the merged cells that end `table` go on in the empty merged cells that begin `next`: a label beside the rows of
+/// two pages. Requires: the rows of `next` are appended to `table` afterwards.
+void joinMergedCells(DraftTable& table, DraftTable& next);
+
 } // namespace orvane::layout

@@ -80,6 +80,8 @@ private:
         const ParagraphContext around{m_context.bodyFontSize, m_context.bodyLeading, m_draft.pages[page].fonts, {}};
         if (goesOnWithRow(table, next, around, m_parameters))
             joinRows(table, next, around, m_parameters);
+        else
+            joinMergedCells(table, next);
         appendRows(table, next);
         return true;
     }

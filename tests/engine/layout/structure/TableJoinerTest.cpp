@@ -21,7 +21,7 @@ void addRule(PageText& page, RuleDirection direction, double position, double fr
 }
 
 /// What a test says about a page with one ruled table: rows of 40 points, columns of 100 points from `left` on; lines
-/// of a cell are parted by '/'.
+/// of a cell are parted by '/'. A cell of "^" belongs to the one above.
 struct TablePage {
     Rows rows;
     double left = 72;
@@ -36,12 +36,19 @@ PageLayout layoutOf(const TablePage& source, int number) {
     const auto columns = static_cast<int>(source.rows.front().size());
     for (int i = 0; i <= columns; ++i)
         addRule(page, RuleDirection::Vertical, source.left + 100 * i, top, bottom);
-    for (std::size_t i = 0; i <= source.rows.size(); ++i)
-        addRule(page, RuleDirection::Horizontal, top + 40 * static_cast<double>(i), source.left,
-                source.left + 100 * columns);
+    for (std::size_t i = 0; i <= source.rows.size(); ++i) {
+        for (int column = 0; column < columns; ++column) {
+            if (i < source.rows.size() && source.rows[i][static_cast<std::size_t>(column)] == "^")
+                continue;
+            addRule(page, RuleDirection::Horizontal, top + 40 * static_cast<double>(i), source.left + 100 * column,
+                    source.left + 100 * (column + 1));
+        }
+    }
     for (std::size_t row = 0; row < source.rows.size(); ++row) {
         for (std::size_t column = 0; column < source.rows[row].size(); ++column) {
             double baseline = top + 40 * static_cast<double>(row) + 12;
+            if (source.rows[row][column] == "^")
+                continue;
             std::stringstream text(source.rows[row][column]);
             for (std::string line; std::getline(text, line, '/'); baseline += 12)
                 page.lines.push_back(makeLine(line, source.left + 4 + 100 * static_cast<double>(column), baseline,
@@ -77,6 +84,7 @@ std::string textOf(const DraftCell& cell) {
 }
 
 /// The tables of the pages after joining: rows parted by '/', cells by '|', header rows marked by '*', tables by " & ".
+/// A cell over several rows tells how many.
 std::string joinedTables(const std::vector<TablePage>& sources) {
     std::vector<PageLayout> pages;
     for (const TablePage& source : sources)
@@ -96,6 +104,7 @@ std::string joinedTables(const std::vector<TablePage>& sources) {
                     continue;
                 out += isFirst ? "" : "|";
                 out += textOf(cell);
+                out += cell.cell.rowSpan > 1 ? ":" + std::to_string(cell.cell.rowSpan) : "";
                 isFirst = false;
             }
         }
@@ -136,6 +145,22 @@ TEST(TableJoiner, MakesARowWholeThatThePageBreakCut) {
     EXPECT_EQ(joinedTables({{{{"Key", "Text"}, {"one", "words of a long/text that goes on"}}},
                             {{{"", "behind the page/break"}, {"two", "short"}}}}),
               "Key|Text/one|words of a long text that goes on behind the page break/two|short");
+}
+
+TEST(TableJoiner, MakesARowWholeBesideALabelOfSeveralRows) {
+    EXPECT_EQ(joinedTables({{{{"Rye", "1911"}, {"^", "the harvest of the/county of Lund and"}}},
+                            {{{"", "around it"}, {"^", "1913"}}}}),
+              "Rye:3|1911/the harvest of the county of Lund and around it/1913");
+}
+
+TEST(TableJoiner, LetsALabelGoOnBesideTheRowsOfTheNextPage) {
+    EXPECT_EQ(joinedTables({{{{"Rye", "1911"}, {"^", "1912"}}}, {{{"", "1913"}, {"^", "1914"}, {"Oats", "1915"}}}}),
+              "Rye:4|1911/1912/1913/1914/Oats|1915");
+}
+
+TEST(TableJoiner, LeavesACellAloneThatIsEmptyInOneRow) {
+    EXPECT_EQ(joinedTables({{{{"Rye", "1911"}, {"^", "1912"}}}, {{{"", "1913"}, {"Oats", "1914"}}}}),
+              "Rye:2|1911/1912/|1913/Oats|1914");
 }
 
 TEST(TableJoiner, KeepsRowsOfSingleWordsThatFillTheirCells) {
