@@ -96,6 +96,8 @@ std::string dumpTable(const TableDraft& table) {
                                   table.columnEdges.size() - 1, table.rowEdges.size() - 1);
     if (table.headerRows > 0)
         out += fmt::format(" {} head", table.headerRows);
+    if (table.isRightToLeft)
+        out += " from the right";
     out += "\n";
     for (const CellDraft& cell : table.cells)
         out += dumpCell(cell);

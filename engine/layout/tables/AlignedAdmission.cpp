@@ -133,8 +133,18 @@ private:
                }) > m_parameters.labelShare;
     }
 
+    /// The column that is read first.
+    const ColumnPieces& labels() const {
+        const auto rightToLeft = std::count_if(m_aligned.rows.begin(), m_aligned.rows.end(), [&](const PieceRow& row) {
+            return std::any_of(row.pieces.begin(), row.pieces.end(),
+                               [&](const TextPiece& piece) { return lines()[piece.line].isRightToLeft; });
+        });
+        const bool isRightToLeft = 2 * static_cast<std::size_t>(rightToLeft) > m_aligned.rows.size();
+        return isRightToLeft ? m_columns.back() : m_columns.front();
+    }
+
     bool isList() const {
-        return m_columns.size() == 2 && shareOfPieces(m_columns.front(), [&](const TextPiece* piece) {
+        return m_columns.size() == 2 && shareOfPieces(labels(), [&](const TextPiece* piece) {
                                             return isLabel(textOf(*piece, lines()));
                                         }) > m_parameters.labelShare;
     }
@@ -142,9 +152,8 @@ private:
     bool isKeyValues() const {
         if (m_columns.size() != 2 || m_evidence == AlignedEvidence::Rules)
             return false;
-        return shareOfPieces(m_columns.front(), [&](const TextPiece* piece) {
-                   return textOf(*piece, lines()).back() == ':';
-               }) > m_parameters.keyShare;
+        return shareOfPieces(labels(), [&](const TextPiece* piece) { return textOf(*piece, lines()).back() == ':'; }) >
+               m_parameters.keyShare;
     }
 
     double wordsPerPiece(const ColumnPieces& column) const {

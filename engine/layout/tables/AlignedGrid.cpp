@@ -78,9 +78,11 @@ void cutAtGaps(PieceRow& row, const std::vector<ColumnGap>& gaps, const std::vec
             if (!isCut)
                 continue;
             pieces.push_back(pieceOf(line, piece.line, first, i));
+            pieces.back().filledCell = piece.filledCell;
             first = i;
         }
         pieces.push_back(pieceOf(line, piece.line, first, piece.endWord));
+        pieces.back().filledCell = piece.filledCell;
     }
     std::sort(pieces.begin(), pieces.end(),
               [](const TextPiece& a, const TextPiece& b) { return a.box.left < b.box.left; });

@@ -1,5 +1,7 @@
 #include "layout/tables/BorderLines.h"
 
+#include "layout/tables/CheckBoxes.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -69,9 +71,10 @@ void mergeGroup(const std::vector<Rule>& rules, std::vector<std::size_t>::iterat
 } // namespace
 
 std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters) {
+    const std::vector<char> isOfCheckBox = markCheckBoxes(rules, parameters);
     std::vector<std::size_t> order;
     for (std::size_t i = 0; i < rules.size(); ++i)
-        if (!rules[i].isUsed)
+        if (!rules[i].isUsed && !isOfCheckBox[i])
             order.push_back(i);
     std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
         return std::tie(rules[a].direction, rules[a].position, a) < std::tie(rules[b].direction, rules[b].position, b);

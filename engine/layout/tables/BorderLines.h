@@ -19,7 +19,7 @@ struct BorderLine {
     double length() const { return to - from; }
 };
 
-/// The lines that the page's rules make, horizontal ones first, each direction by position.
+/// The lines that the page's rules make, horizontal ones first, each direction by position. Check boxes are left out.
 std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters);
 
 /// What is drawn along one side of a cell; BorderKind::None where the rules do not cover it.

@@ -1,9 +1,13 @@
 #include "layout/tables/CellBuilder.h"
 
+#include "base/Utf8.h"
+#include "layout/paragraphs/LineMeasures.h"
 #include "layout/tables/CellAlignment.h"
 #include "layout/tables/CellLook.h"
 #include "layout/tables/CellParagraphs.h"
 #include "layout/tables/TableHead.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,16 +67,25 @@ void takeFigures(TableDraft& table, std::vector<Figure>& figures) {
     });
 }
 
-bool isMostlyRightToLeft(const std::vector<std::vector<Line>>& linesOfCell) {
-    std::size_t words = 0;
+bool hasLetters(const Line& line) {
+    return std::any_of(line.words.begin(), line.words.end(), [](const Word& word) {
+        const std::u32string text = utf32FromUtf8(textOf(word));
+        return std::any_of(text.begin(), text.end(), [](char32_t c) { return isLetter(c); });
+    });
+}
+
+/// Whether the first column stands at the right. Cells count alike, however long their texts are; numbers say nothing,
+/// and units beside them little: a cell with right-to-left text is one of these.
+bool isReadFromRight(const std::vector<std::vector<Line>>& linesOfCell, const DocumentContext& context) {
     std::size_t rightToLeft = 0;
+    std::size_t leftToRight = 0;
     for (const std::vector<Line>& lines : linesOfCell) {
-        for (const Line& line : lines) {
-            words += line.words.size();
-            rightToLeft += line.isRightToLeft ? line.words.size() : 0;
-        }
+        const bool isRightToLeft =
+            std::any_of(lines.begin(), lines.end(), [](const Line& line) { return line.isRightToLeft; });
+        rightToLeft += isRightToLeft;
+        leftToRight += !isRightToLeft && std::any_of(lines.begin(), lines.end(), hasLetters);
     }
-    return 2 * rightToLeft > words;
+    return rightToLeft == leftToRight ? context.isRightToLeft : rightToLeft > leftToRight;
 }
 
 CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> lines, const ColumnRooms& rooms,
@@ -94,19 +107,20 @@ CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> li
 
 TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, TableEdges edges,
                       const std::vector<BorderLine>& lines, std::vector<TableDraft> nested,
-                      const ParagraphContext& context, const LayoutParameters& parameters) {
+                      const DocumentContext& context, const LayoutParameters& parameters) {
     const TableParameters::Tables& limits = parameters.tables;
+    const ParagraphContext around{context.bodyFontSize, context.bodyLeading, page.fonts};
     TableDraft table;
     table.box = grid.box();
     table.columnEdges = grid.columnEdges;
     table.rowEdges = grid.rowEdges;
     table.isRuled = edges != TableEdges::Aligned;
     std::vector<std::vector<Line>> linesOfCell = takeWords(page.lines, text);
-    table.isRightToLeft = isMostlyRightToLeft(linesOfCell);
+    table.isRightToLeft = isReadFromRight(linesOfCell, context);
     const ColumnRooms rooms(grid, linesOfCell, edges);
     for (std::size_t i = 0; i < grid.cells.size(); ++i)
         table.cells.push_back(
-            buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms, context, parameters));
+            buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms, around, parameters));
     drawBorders(table, page.rules, lines, limits);
     shadeCells(table, page.grounds, limits);
     table.headerRows = countHeaderRows(table, limits);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "layout/DocumentContext.h"
 #include "layout/LayoutParameters.h"
 #include "layout/page/PageLayout.h"
-#include "layout/paragraphs/LineMeasures.h"
 #include "layout/tables/BorderLines.h"
 #include "layout/tables/CellText.h"
 #include "layout/tables/ColumnRooms.h"
@@ -16,6 +16,6 @@ namespace orvane::layout {
 /// and grounds.
 TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& text, TableEdges edges,
                       const std::vector<BorderLine>& lines, std::vector<TableDraft> nested,
-                      const ParagraphContext& context, const LayoutParameters& parameters);
+                      const DocumentContext& context, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

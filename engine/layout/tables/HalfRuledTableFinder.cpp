@@ -19,8 +19,40 @@ struct Band {
     std::vector<PieceRow> rows;
     bool hasRuleAbove = true;
     bool hasRuleBelow = true;
-    std::size_t level = 0; ///< index of a level that it touches
+    std::size_t level = 0;   ///< index of a level that it touches
+    bool isFollowed = false; ///< by running text, which ends the table
 };
+
+/// Whether the row holds a line of running text: over the columns of the others, and over most of the rules' length.
+bool isRunningLine(const PieceRow& row, const RuleLevel& level, const std::vector<ColumnGap>& gaps,
+                   const TableParameters::Tables& parameters) {
+    if (row.pieces.size() != 1 || row.box.width() < parameters.openProseShare * (level.right - level.left))
+        return false;
+    const ColumnRange range = columnsOf(row.pieces.front(), gaps);
+    return range.first == 0 && range.last > 0;
+}
+
+/// Cuts a band where lines of running text follow each other in it: a paragraph between two tables.
+void appendParts(Band band, const RuleLevel& level, const TableParameters::Tables& parameters,
+                 std::vector<Band>& bands) {
+    const std::vector<ColumnGap> gaps = findColumnGaps(band.rows, parameters);
+    const auto first =
+        std::adjacent_find(band.rows.begin(), band.rows.end(), [&](const PieceRow& row, const PieceRow& next) {
+            return isRunningLine(row, level, gaps, parameters) && isRunningLine(next, level, gaps, parameters);
+        });
+    if (first == band.rows.begin() || first == band.rows.end()) {
+        bands.push_back(std::move(band));
+        return;
+    }
+    const auto end = std::find_if(first, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
+    Band rest{first->box.top, band.bottom, {end, band.rows.end()}, false, band.hasRuleBelow, band.level, false};
+    band.rows.erase(first, band.rows.end());
+    band.bottom = band.rows.back().box.bottom;
+    band.hasRuleBelow = false;
+    band.isFollowed = true;
+    bands.push_back(std::move(band));
+    bands.push_back(std::move(rest));
+}
 
 std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
                           const TableParameters::Tables& parameters) {
@@ -32,7 +64,8 @@ std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& 
         for (const TextPiece& piece : pieces)
             if (box.contains(Point{piece.box.centerX(), piece.box.centerY()}))
                 within.push_back(piece);
-        bands.push_back({box.top, box.bottom, groupIntoRows(std::move(within), parameters), true, true, i});
+        appendParts({box.top, box.bottom, groupIntoRows(std::move(within), parameters), true, true, i, false}, stack[i],
+                    parameters, bands);
     }
     return bands;
 }
@@ -48,12 +81,12 @@ void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces,
                                                                           parameters.maximumHeaderRows;
     if (!head.empty()) {
         const double top = head.front().box.top;
-        bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0});
+        bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0, false});
     }
     double top = stack.back().y;
     for (PieceRow& row : isOpenBelow ? rowsBelow(stack.back(), pieces, parameters) : std::vector<PieceRow>{}) {
         const double bottom = row.box.bottom;
-        bands.push_back({top, bottom, {std::move(row)}, top == stack.back().y, false, stack.size() - 1});
+        bands.push_back({top, bottom, {std::move(row)}, top == stack.back().y, false, stack.size() - 1, false});
         top = bottom;
     }
 }
@@ -84,6 +117,8 @@ BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TablePa
             break;
         mostGaps = std::max(mostGaps, gaps.size());
         run.end = i + 1;
+        if (bands[i].isFollowed)
+            break;
     }
     // A heading between two tables, a note below: what stands across all columns at the run's ends is no part of it.
     // Below the last rule it may be the rest of a text; see dropNotes().
@@ -114,7 +149,7 @@ void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, co
 /// Takes texts alone in their rows off the open end of a run, unless they go on from the row above.
 void dropNotes(const std::vector<Band>& bands, BandRun& run) {
     AlignedRows& aligned = run.aligned;
-    while (!aligned.groups.empty() && !bands[run.end - 1].hasRuleBelow) {
+    while (!aligned.groups.empty() && !bands[run.end - 1].hasRuleBelow && !bands[run.end - 1].isFollowed) {
         const std::span rows = std::span(aligned.rows).subspan(aligned.groups.back().first);
         if (std::any_of(rows.begin(), rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; }))
             return;
@@ -213,7 +248,7 @@ std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& lines, const 
 std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
                                           const LayoutParameters& parameters) {
     const TableParameters::Tables& limits = parameters.tables;
-    std::vector<TextPiece> pieces = cutIntoPieces(page.lines, limits);
+    std::vector<TextPiece> pieces = cutIntoPieces(page, limits);
     std::stable_sort(pieces.begin(), pieces.end(),
                      [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
     std::vector<TableGrid> grids;

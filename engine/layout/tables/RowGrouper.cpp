@@ -16,6 +16,9 @@ struct RowContent {
     bool isBold = true;
 };
 
+/// What the filled cells say of two rows.
+enum class FilledVerdict { Same, Other, Unknown };
+
 bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
     const std::string& text = lines[piece.line].words[piece.firstWord].spans.front().text;
     return !text.empty() && text.front() >= 'a' && text.front() <= 'z';
@@ -33,6 +36,7 @@ public:
             m_contents.push_back(contentOf(row));
         measureColumns();
         measurePitch();
+        countRowsOfFilledCells();
         countHead(part);
     }
 
@@ -40,7 +44,7 @@ public:
         std::vector<RowGroup> groups;
         std::set<int> filled;
         for (std::size_t i = 0; i < m_rows.size(); ++i) {
-            if (i == 0 || !(i < m_headRows ? goesOnInHead(i) : goesOn(i, filled))) {
+            if (i == 0 || !goesOnFromAbove(i, filled)) {
                 groups.push_back({i, i});
                 filled.clear();
             }
@@ -52,6 +56,47 @@ public:
     }
 
 private:
+    bool goesOnFromAbove(std::size_t i, const std::set<int>& filled) const {
+        switch (compareFilledCells(i)) {
+        case FilledVerdict::Same:
+            return true;
+        case FilledVerdict::Other:
+            return false;
+        case FilledVerdict::Unknown:
+            break;
+        }
+        return i < m_headRows ? goesOnInHead(i) : goesOn(i, filled);
+    }
+
+    void countRowsOfFilledCells() {
+        for (const PieceRow& row : m_rows) {
+            std::set<int> cells;
+            for (const TextPiece& piece : row.pieces)
+                cells.insert(piece.filledCell);
+            for (const int cell : cells)
+                ++m_rowsOfFilledCell[cell];
+        }
+    }
+
+    /// Whether rows i - 1 and `i` have texts in one filled cell, or in two of one column. What is filled from top to
+    /// bottom is a column, no cell.
+    FilledVerdict compareFilledCells(std::size_t i) const {
+        FilledVerdict result = FilledVerdict::Unknown;
+        for (const auto& [column, piece] : m_contents[i].byColumn) {
+            const auto above = m_contents[i - 1].byColumn.find(column);
+            if (piece->filledCell < 0 || above == m_contents[i - 1].byColumn.end() || above->second->filledCell < 0)
+                continue;
+            if (above->second->filledCell != piece->filledCell) {
+                result = FilledVerdict::Other;
+                continue;
+            }
+            const std::size_t rows = m_rowsOfFilledCell.at(piece->filledCell);
+            if (rows < m_rows.size() && rows <= static_cast<std::size_t>(m_parameters.maximumHeaderRows))
+                return FilledVerdict::Same;
+        }
+        return result;
+    }
+
     RowContent contentOf(const PieceRow& row) const {
         RowContent content;
         std::size_t numbers = 0;
@@ -145,6 +190,7 @@ private:
     const std::vector<Line>& m_lines;
     const TableParameters::Tables& m_parameters;
     std::vector<RowContent> m_contents;
+    std::map<int, std::size_t> m_rowsOfFilledCell;
     std::map<int, double> m_columnRights;
     double m_leastPitch = 0;
     std::size_t m_headRows = 0;

@@ -6,6 +6,7 @@
 #include "layout/tables/RuledTableFinder.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace orvane::layout {
@@ -33,15 +34,29 @@ std::vector<TableGrid> takeSingleColumns(std::vector<TableGrid>& grids) {
     return single;
 }
 
-/// Where both were found, a stack of boxes is a table by its texts' columns only if they are many enough: texts at both
-/// sides of a box or two are none.
-void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& halfRuled) {
+/// Whether rules close the grid at both sides.
+bool isInBox(const TableGrid& grid, const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
+    const Rect box = grid.box();
+    const auto isClosedAt = [&](double x) {
+        return std::any_of(lines.begin(), lines.end(), [&](const BorderLine& line) {
+            return line.direction == RuleDirection::Vertical && std::abs(line.position - x) <= parameters.endSnap &&
+                   overlap(line.from, line.to, box.top, box.bottom) >= parameters.borderCover * box.height();
+        });
+    };
+    return isClosedAt(box.left) && isClosedAt(box.right);
+}
+
+/// A box, or a stack of them, is a table by its texts' columns only if these are many enough: texts at both sides of a
+/// box or two are none.
+void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& halfRuled,
+                   const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
     const auto overlapsAny = [](const TableGrid& grid, const std::vector<TableGrid>& others) {
         return std::any_of(others.begin(), others.end(),
                            [&](const TableGrid& other) { return other.box().intersects(grid.box()); });
     };
     std::erase_if(halfRuled, [&](const TableGrid& grid) {
-        return grid.columns() <= 2 && grid.rows() <= 3 && overlapsAny(grid, stacked);
+        return grid.columns() <= 2 && grid.rows() <= 3 &&
+               (overlapsAny(grid, stacked) || isInBox(grid, lines, parameters));
     });
     std::erase_if(stacked, [&](const TableGrid& grid) { return overlapsAny(grid, halfRuled); });
 }
@@ -51,7 +66,6 @@ void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& half
 std::vector<TableDraft> findTables(PageText& page, const DocumentContext& context, const LayoutParameters& parameters,
                                    Diagnostics&) {
     const TableParameters::Tables& limits = parameters.tables;
-    const ParagraphContext around{context.bodyFontSize, context.bodyLeading, page.fonts};
     std::vector<TableDraft> tables;
     const auto take = [&](std::vector<TableGrid> grids, const std::vector<BorderLine>& lines, TableEdges edges) {
         // The smallest first: a table within a cell is found before the one around it.
@@ -60,7 +74,7 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
         for (const TableGrid& grid : grids) {
             const CellText text = assignWords(page.lines, grid, limits);
             std::vector<TableDraft> nested = takeNested(tables, grid);
-            tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), around, parameters));
+            tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), context, parameters));
         }
     };
     const std::vector<BorderLine> lines = collectBorderLines(page.rules, limits);
@@ -69,7 +83,7 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     take(std::move(ruled), lines, TableEdges::Ruled);
     const std::vector<BorderLine> others = collectBorderLines(page.rules, limits);
     std::vector<TableGrid> halfRuled = findHalfRuledGrids(page, others, parameters);
-    chooseBetween(stacked, halfRuled);
+    chooseBetween(stacked, halfRuled, others, limits);
     take(std::move(halfRuled), others, TableEdges::HalfRuled);
     take(std::move(stacked), others, TableEdges::Ruled);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);

@@ -5,14 +5,16 @@
 namespace orvane::layout {
 namespace {
 
-/// What a row's text and ground look like.
+/// What a row's text and ground look like. Bold texts tell of a head only where the column below is not bold: labels
+/// are bold all the way down.
 struct RowLook {
     int filledCells = 0;
     int boldCells = 0;
     int shadedCells = 0;
     int cells = 0;
+    bool hasPlainBelow = false; ///< the column of some bold text is not bold all the way down
 
-    bool isBold() const { return filledCells > 0 && boldCells == filledCells; }
+    bool isBold() const { return filledCells > 0 && boldCells == filledCells && hasPlainBelow; }
     bool isShaded() const { return cells > 0 && shadedCells == cells; }
 };
 
@@ -33,15 +35,32 @@ bool isBold(const CellDraft& cell, bool& hasText) {
     return bold && hasText;
 }
 
+/// What stands in one column, from the bottom up to where the reader has come.
+struct ColumnLook {
+    int filledCells = 0;
+    int boldCells = 0;
+
+    bool isBoldAllTheWay() const { return filledCells > 0 && boldCells == filledCells; }
+};
+
 std::vector<RowLook> looksOf(const TableDraft& table) {
     std::vector<RowLook> looks(table.rowEdges.size() - 1);
-    for (const CellDraft& cell : table.cells) {
-        RowLook& look = looks[static_cast<std::size_t>(cell.row)];
+    std::vector<ColumnLook> below(table.columnEdges.size() - 1);
+    // The cells stand by rows.
+    for (auto cell = table.cells.rbegin(); cell != table.cells.rend(); ++cell) {
+        RowLook& look = looks[static_cast<std::size_t>(cell->row)];
         bool hasText = false;
-        look.boldCells += isBold(cell, hasText);
+        const bool isBoldCell = isBold(*cell, hasText);
+        look.boldCells += isBoldCell;
         look.filledCells += hasText;
-        look.shadedCells += cell.shading.has_value();
+        look.shadedCells += cell->shading.has_value();
         ++look.cells;
+        for (int i = cell->column; i < cell->column + cell->columnSpan; ++i) {
+            ColumnLook& column = below[static_cast<std::size_t>(i)];
+            look.hasPlainBelow = look.hasPlainBelow || (isBoldCell && !column.isBoldAllTheWay());
+            column.filledCells += hasText;
+            column.boldCells += isBoldCell;
+        }
     }
     return looks;
 }

@@ -17,7 +17,11 @@ struct TableParameters {
         double missingShare = 0.1;      ///< of a cell's side that may be undrawn for the side to count as drawn
         double doubledShare = 0.8; ///< of its length that a line must have a second rule beside it to be a double line
         double borderCover = 0.6;  ///< of a cell's side that rules must cover to be its border
-        int maximumPlaces = 20000; ///< rows times columns; beyond it stand maps and charts
+        double smallestCheckBox = 5.0; ///< points; the side of a square that may be one to tick
+        double largestCheckBox = 16.0; ///< points; larger squares are cells
+        double checkBoxSnap = 1.5;     ///< points; how far the ends of its sides may miss each other
+        double checkBoxTouch = 0.6;    ///< points; rules this near to a side's end go on from it
+        int maximumPlaces = 20000;     ///< rows times columns; beyond it stand maps and charts
 
         // Words and cells.
         double straddle = 0.5;         ///< of the font size; how far a word may reach beyond its cell sideways
@@ -54,6 +58,10 @@ struct TableParameters {
         double rowSpaceGrowth = 1.6;  ///< ... or no farther than this times the smallest space in the table
         double widestRowSpace = 4.0;  ///< of the font size; rows of many texts stand no farther apart
         std::size_t fullRow = 4;      ///< texts side by side that are many
+
+        // Cells that grounds show.
+        double filledSnap = 1.5; ///< points; edges of grounds that differ by less meet
+        double filledRoom = 1.5; ///< points; between where two filled cells meet and the words beside
 
         // Rows and columns of a drawn grid between which no rule is drawn.
         int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them

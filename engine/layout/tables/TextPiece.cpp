@@ -1,5 +1,7 @@
 #include "layout/tables/TextPiece.h"
 
+#include "layout/tables/FilledCells.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -59,7 +61,12 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
     return piece;
 }
 
-std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+namespace {
+
+/// Cuts upright lines at their wide gaps and where `isCut` says so of the boxes of two words, the left one first.
+template<typename Predicate>
+std::vector<TextPiece> cutLines(const std::vector<Line>& lines, const TableParameters::Tables& parameters,
+                                const Predicate& isCut) {
     std::vector<TextPiece> pieces;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const Line& line = lines[i];
@@ -68,13 +75,32 @@ std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const Table
         const double widest = widestBlank(line, parameters);
         std::size_t first = 0;
         for (std::size_t j = 1; j < line.words.size(); ++j) {
-            if (line.words[j].gapBefore != Gap::Tab && gapBetween(line.words[j - 1].box, line.words[j].box) <= widest)
+            const Rect& before = line.words[j - 1].box;
+            const Rect& after = line.words[j].box;
+            const bool isLeftFirst = before.left <= after.left;
+            if (line.words[j].gapBefore != Gap::Tab && gapBetween(before, after) <= widest &&
+                !isCut(isLeftFirst ? before : after, isLeftFirst ? after : before))
                 continue;
             pieces.push_back(pieceOf(line, i, first, j));
             first = j;
         }
         pieces.push_back(pieceOf(line, i, first, line.words.size()));
     }
+    return pieces;
+}
+
+} // namespace
+
+std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    return cutLines(lines, parameters, [](const Rect&, const Rect&) { return false; });
+}
+
+std::vector<TextPiece> cutIntoPieces(const PageText& page, const TableParameters::Tables& parameters) {
+    const FilledCells cells(page.grounds, parameters);
+    std::vector<TextPiece> pieces = cutLines(
+        page.lines, parameters, [&](const Rect& left, const Rect& right) { return cells.meetBetween(left, right); });
+    for (TextPiece& piece : pieces)
+        piece.filledCell = cells.cellAt(piece.box);
     return pieces;
 }
 

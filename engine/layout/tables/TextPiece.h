@@ -18,6 +18,7 @@ struct TextPiece {
     Rect box;
     double baseline = 0;
     double fontSize = 0;
+    int filledCell = -1; ///< that it stands in, by number; see FilledCells
 
     std::size_t wordCount() const { return endWord - firstWord; }
 };
@@ -33,6 +34,9 @@ struct PieceRow {
 
 /// Cuts upright lines at their wide gaps.
 std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters);
+
+/// Cuts the page's upright lines at their wide gaps and where two filled cells meet.
+std::vector<TextPiece> cutIntoPieces(const PageText& page, const TableParameters::Tables& parameters);
 
 /// Puts pieces side by side whose baselines agree, or whose boxes do so much overlap that one stands beside the middle
 /// of two others; the rows come top to bottom.

@@ -67,9 +67,12 @@ private:
     bool readLook(std::istream& in) {
         m_look = {};
         m_angle = 0;
+        m_isRightToLeft = false;
         for (std::string word; in >> word;) {
             if (word == "bold")
                 m_look.isBold = true;
+            else if (word == "right-to-left")
+                m_isRightToLeft = true;
             else if (word == "turned")
                 in >> m_angle;
             else
@@ -90,6 +93,9 @@ private:
 
     void addLine(Line line) {
         line.firstPaintOrder = m_paintOrder++;
+        line.isRightToLeft = m_isRightToLeft;
+        for (Word& word : line.words)
+            word.isRightToLeft = m_isRightToLeft;
         m_case.page.lines.push_back(std::move(line));
     }
 
@@ -248,6 +254,7 @@ private:
     TableCase m_case = emptyCase();
     LineLook m_look;
     double m_angle = 0;
+    bool m_isRightToLeft = false;
     std::uint32_t m_paintOrder = 1;
     bool m_isExpecting = false;
 };

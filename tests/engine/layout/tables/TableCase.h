@@ -12,6 +12,7 @@
 ///     line 64 | 50 Name | 150 12.5              the same as one line with tabs
 ///     text 50 64 Some words                     one line
 ///     look bold 12 turned 270                   for the text that follows; "look" alone goes back to 10 points upright
+///     look right-to-left                        the text that follows reads from the right
 ///     font Courier fixed                        another font for the text that follows; "fixed" is a typewriter's
 ///     h 60 50 250                               a horizontal rule at y 60 from x 50 to x 250; "double", "dashed",
 ///     width 2 may follow v 50 60 90                                a vertical rule at x 50 grid 50 150 250 / 60 75 90
