@@ -1,0 +1,79 @@
+#include "engine/layout/PageContentBuilder.h"
+#include "engine/layout/PageReading.h"
+#include "layout/tables/TableFinder.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <ctime>
+
+/// Pages of 20,000 path segments go through all stages that look at paths: bars, rules, figures, tables.
+namespace orvane::layout::tests {
+namespace {
+
+using pdf::tests::PageContentBuilder;
+
+/// Of the processor, so that other work on the machine does not count.
+constexpr double kMostSeconds = 2;
+
+double secondsFor(const PageContentBuilder& page) {
+    const std::clock_t start = std::clock();
+    PageText text = read(page);
+    Diagnostics diagnostics;
+    findTables(text, {}, {}, diagnostics);
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+TEST(PageOfPaths, TakesLittleTimeAsAMapOfShortLines) {
+    PageContentBuilder page;
+    for (int i = 0; i < 20000; ++i) {
+        const double x = 20 + (i * 37) % 550;
+        const double y = 20 + (i * 91) % 800;
+        page.line({x, y}, {x + 3 * std::cos(i), y + 3 * std::sin(i)});
+    }
+    EXPECT_LT(secondsFor(page), kMostSeconds);
+}
+
+TEST(PageOfPaths, TakesLittleTimeAsAPlanOfLinesAcrossAndDown) {
+    PageContentBuilder page;
+    for (int i = 0; i < 10000; ++i) {
+        const double across = 20 + (i * 37) % 5000 * 0.1;
+        const double along = 20 + (i * 53) % 400;
+        page.horizontalRule(along, along + 100, across);
+        page.verticalRule(across, along, along + 100);
+    }
+    EXPECT_LT(secondsFor(page), kMostSeconds);
+}
+
+TEST(PageOfPaths, TakesLittleTimeAsATablePaintedCellByCell) {
+    PageContentBuilder page;
+    for (int row = 0; row < 160; ++row) {
+        for (int column = 0; column < 25; ++column) {
+            const Rect cell{20 + 22.0 * column, 20 + 5.0 * row, 42 + 22.0 * column, 25 + 5.0 * row};
+            page.filledRectangle(cell, {220, 230, static_cast<std::uint8_t>(row)});
+            page.strokedRectangle(cell, 0.25);
+            page.text(cell.left + 1, cell.bottom - 1, "1.2", 3);
+        }
+    }
+    EXPECT_LT(secondsFor(page), kMostSeconds) << "4,000 cells";
+}
+
+TEST(PageOfPaths, TakesLittleTimeAsABarChart) {
+    PageContentBuilder page;
+    for (int i = 0; i < 5000; ++i) {
+        const double x = 20 + 0.11 * i;
+        page.filledRectangle({x, 800.0 - (i * 31) % 700, x + 0.1, 800}, {30, 60, 120});
+    }
+    EXPECT_LT(secondsFor(page), kMostSeconds) << "5,000 bars";
+}
+
+TEST(PageOfPaths, TakesLittleTimeAsAFormOfBoxesToTick) {
+    PageContentBuilder page;
+    for (int row = 0; row < 80; ++row)
+        for (int column = 0; column < 60; ++column)
+            page.strokedRectangle({20 + 9.0 * column, 20 + 10.0 * row, 26 + 9.0 * column, 26 + 10.0 * row});
+    EXPECT_LT(secondsFor(page), kMostSeconds) << "4,800 boxes";
+}
+
+} // namespace
+} // namespace orvane::layout::tests
