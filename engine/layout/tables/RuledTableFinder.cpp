@@ -1,6 +1,7 @@
 #include "layout/tables/RuledTableFinder.h"
 
 #include "layout/tables/ColumnParter.h"
+#include "layout/tables/NestedGrids.h"
 #include "layout/tables/RowParter.h"
 #include "layout/tables/RuleLattice.h"
 #include "layout/tables/RuledAdmission.h"
@@ -13,6 +14,10 @@ bool isTable(const PageText& page, const TableGrid& grid, int forcedCells, const
     return judgeRuledTable(page, grid, text, {forcedCells}, parameters) == TableVerdict::Table;
 }
 
+bool hasWords(const PageText& page, const TableGrid& grid, const TableParameters::Tables& parameters) {
+    return assignWords(page.lines, grid, parameters).wordCount > 0;
+}
+
 } // namespace
 
 std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
@@ -23,7 +28,13 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
         if (!lattice)
             continue;
         LatticeGrid found = gridOf(*lattice);
-        if (!isTable(page, found.grid, found.forcedCells, parameters))
+        std::vector<TableGrid> nested = takeNestedGrids(found, *lattice, page.lines, parameters);
+        const bool isFound = isTable(page, found.grid, found.forcedCells, parameters);
+        // Within a cell a few empty fields are a table, too; in a box alone they must be one of their own.
+        for (TableGrid& inner : nested)
+            if (isFound ? hasWords(page, inner, parameters) : isTable(page, inner, 0, parameters))
+                grids.push_back(std::move(inner));
+        if (!isFound)
             continue;
         TableGrid parted = partAtTextRows(partAtColumns(found.grid, page.lines, parameters), page.lines, parameters);
         const bool isBetter = parted.cells != found.grid.cells && isTable(page, parted, 0, parameters);

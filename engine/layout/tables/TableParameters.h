@@ -21,6 +21,7 @@ struct TableParameters {
         double largestCheckBox = 16.0; ///< points; larger squares are cells
         double checkBoxSnap = 1.5;     ///< points; how far the ends of its sides may miss each other
         double checkBoxTouch = 0.6;    ///< points; rules this near to a side's end go on from it
+        double nestedMargin = 8.0;     ///< points; the empty strips beside a table within a cell are no wider
         int maximumPlaces = 20000;     ///< rows times columns; beyond it stand maps and charts
 
         // Words and cells.
@@ -59,9 +60,14 @@ struct TableParameters {
         double widestRowSpace = 4.0;  ///< of the font size; rows of many texts stand no farther apart
         std::size_t fullRow = 4;      ///< texts side by side that are many
 
+        // Rows of several lines with space between them.
+        double rowSpaceJump = 0.25;   ///< of the font size; by that much the least space between rows exceeds ...
+        double widestLineSpace = 0.5; ///< of the font size; ... the widest between lines, which is no larger
+
         // Cells that grounds show.
-        double filledSnap = 1.5; ///< points; edges of grounds that differ by less meet
-        double filledRoom = 1.5; ///< points; between where two filled cells meet and the words beside
+        double filledSnap = 1.5;      ///< points; edges of grounds that differ by less meet
+        double filledRoom = 1.5;      ///< points; between where two filled cells meet and the words beside
+        double filledTextShare = 0.8; ///< of the texts that must stand in filled cells for these to show the table
 
         // Rows and columns of a drawn grid between which no rule is drawn.
         int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them
