@@ -60,7 +60,7 @@ public:
             return TableVerdict::Empty;
         if (isRagged())
             return TableVerdict::Ragged;
-        if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn())
+        if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn() && !showsRows())
             return TableVerdict::TooSmall;
         return TableVerdict::Table;
     }
@@ -117,6 +117,8 @@ private:
     /// "1.", "a)", "(iv)", a bullet.
     static bool isLabel(const std::string& text) {
         const auto isAscii = [](char c) { return (static_cast<unsigned char>(c) & 0x80) == 0; };
+        if (text == "(" || text == "[") // a place to tick
+            return true;
         const bool isSymbol = text.size() <= 3 && (!isAscii(text.front()) || text == "-" || text == "*" || text == "o");
         const bool isNumber = text.size() <= 6 && (text.back() == '.' || text.back() == ')');
         return isSymbol || isNumber;
@@ -131,6 +133,17 @@ private:
                            pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines()));
                    });
                }) > m_parameters.labelShare;
+    }
+
+    /// Whether space between the rows, or filled cells, show a table as rules do, whatever stands in two columns.
+    bool showsRows() const { return m_aligned.areSpaced || isFilled(); }
+
+    bool isFilled() const {
+        double filled = 0;
+        for (const PieceRow& row : m_aligned.rows)
+            filled += static_cast<double>(std::count_if(row.pieces.begin(), row.pieces.end(),
+                                                        [](const TextPiece& piece) { return piece.filledCell >= 0; }));
+        return filled >= m_parameters.filledTextShare * m_pieceCount;
     }
 
     /// The column that is read first.
@@ -150,7 +163,7 @@ private:
     }
 
     bool isKeyValues() const {
-        if (m_columns.size() != 2 || m_evidence == AlignedEvidence::Rules)
+        if (m_columns.size() != 2 || m_evidence == AlignedEvidence::Rules || showsRows())
             return false;
         return shareOfPieces(labels(), [&](const TextPiece* piece) { return textOf(*piece, lines()).back() == ':'; }) >
                m_parameters.keyShare;

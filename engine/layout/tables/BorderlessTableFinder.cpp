@@ -2,6 +2,7 @@
 
 #include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/ProseMask.h"
+#include "layout/tables/SpacedRows.h"
 
 #include <algorithm>
 
@@ -105,6 +106,11 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
     aligned.rows.assign(rows.begin() + static_cast<std::ptrdiff_t>(first),
                         rows.begin() + static_cast<std::ptrdiff_t>(end));
     aligned.gaps = findTableColumns(aligned.rows, lines, parameters);
+    if (auto spaced = groupBySpace(aligned.rows, aligned.gaps, lines, parameters.tables)) {
+        aligned.groups = std::move(*spaced);
+        aligned.areSpaced = true;
+        return aligned;
+    }
     aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, RowsPart::Any, parameters.tables);
     // What follows the last full row and is no part of it is other text.
     while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&

@@ -19,6 +19,11 @@ struct RowContent {
 /// What the filled cells say of two rows.
 enum class FilledVerdict { Same, Other, Unknown };
 
+/// A word that ends with a hyphen; a dash alone stands for no value.
+bool isBroken(std::string_view word) {
+    return word.size() > 2 && word.ends_with('-');
+}
+
 bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
     const std::string& text = lines[piece.line].words[piece.firstWord].spans.front().text;
     return !text.empty() && text.front() >= 'a' && text.front() <= 'z';
@@ -116,8 +121,8 @@ private:
     void measureColumns() {
         for (const RowContent& content : m_contents) {
             for (const auto& [column, piece] : content.byColumn) {
-                double& right = m_columnRights.try_emplace(column, piece->box.right).first->second;
-                right = std::max(right, piece->box.right);
+                Rect& box = m_columnBoxes[column];
+                box = box.united(piece->box);
             }
         }
     }
@@ -166,15 +171,25 @@ private:
     bool isWrapped(const TextPiece& above, const TextPiece& piece, int column) const {
         if (startsLowerCase(piece, m_lines))
             return true;
-        const double firstWord = m_lines[piece.line].words[piece.firstWord].box.width();
-        const double room = m_columnRights.at(column) - above.box.right;
-        return firstWord + m_parameters.blankWidth * piece.fontSize > room;
+        return !hasRoomBehind(above, piece, m_columnBoxes.at(column), m_lines, m_parameters);
+    }
+
+    /// Whether all texts of `content` stand below one that ends with a hyphen.
+    bool isHyphenated(const RowContent& above, const RowContent& content) const {
+        return std::all_of(content.byColumn.begin(), content.byColumn.end(), [&](const auto& text) {
+            const auto before = above.byColumn.find(text.first);
+            return before != above.byColumn.end() && before->second->wordCount() == 1 &&
+                   isBroken(textOf(*before->second, m_lines));
+        });
     }
 
     bool goesOn(std::size_t i, const std::set<int>& filled) const {
         const RowContent& above = m_contents[i - 1];
         const RowContent& content = m_contents[i];
-        if (!isTight(i) || content.hasSpan || above.hasSpan || content.hasNumber || content.isBold != above.isBold)
+        if (!isTight(i) || content.hasSpan || above.hasSpan || content.isBold != above.isBold)
+            return false;
+        // Numbers stand in rows of their own, unless a hyphen says that they are the rest of one.
+        if (content.hasNumber && !isHyphenated(above, content))
             return false;
         for (const auto& [column, piece] : content.byColumn) {
             const auto before = above.byColumn.find(column);
@@ -191,7 +206,7 @@ private:
     const TableParameters::Tables& m_parameters;
     std::vector<RowContent> m_contents;
     std::map<int, std::size_t> m_rowsOfFilledCell;
-    std::map<int, double> m_columnRights;
+    std::map<int, Rect> m_columnBoxes; ///< around the texts of a column
     double m_leastPitch = 0;
     std::size_t m_headRows = 0;
 };

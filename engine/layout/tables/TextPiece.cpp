@@ -120,6 +120,13 @@ std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const TablePa
     return rows;
 }
 
+bool hasRoomBehind(const TextPiece& above, const TextPiece& piece, const Rect& column, const std::vector<Line>& lines,
+                   const TableParameters::Tables& parameters) {
+    const double firstWord = lines[piece.line].words[piece.firstWord].box.width();
+    const double room = lines[above.line].isRightToLeft ? above.box.left - column.left : column.right - above.box.right;
+    return firstWord + parameters.blankWidth * piece.fontSize <= room;
+}
+
 bool isBullet(std::string_view text) {
     static constexpr std::array<std::string_view, 9> kBullets{"\u2022", "\u25E6", "\u25AA", "\u25CF", "\u25CB",
                                                               "\u25A0", "\u2023", "\u00B7", "o"};

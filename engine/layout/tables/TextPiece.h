@@ -48,6 +48,11 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
 /// Whether every word of the piece is a number, an amount, a date or stands for none (a dash).
 bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines);
 
+/// Whether the first word of `piece` would have had room behind `above`, the text before it in a column with the texts
+/// within `column`.
+bool hasRoomBehind(const TextPiece& above, const TextPiece& piece, const Rect& column, const std::vector<Line>& lines,
+                   const TableParameters::Tables& parameters);
+
 /// Whether the text is a sign that begins the items of a list. Signs that also fill columns of their own, such as check
 /// marks, are none here.
 bool isBullet(std::string_view text);

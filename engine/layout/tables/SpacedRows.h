@@ -1,0 +1,18 @@
+#pragma once
+
+#include "layout/tables/ColumnGaps.h"
+#include "layout/tables/RowGrouper.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace orvane::layout {
+
+/// The rows of a table whose texts run over several lines, where the space between rows is clearly larger than the one
+/// between lines; nothing where it is not, or where the lines are no running texts.
+std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> lines, const std::vector<ColumnGap>& gaps,
+                                                  const std::vector<Line>& pageLines,
+                                                  const TableParameters::Tables& parameters);
+
+} // namespace orvane::layout
