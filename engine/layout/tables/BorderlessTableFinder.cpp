@@ -2,6 +2,7 @@
 
 #include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/ProseMask.h"
+#include "layout/tables/RuledAdmission.h"
 #include "layout/tables/SpacedRows.h"
 
 #include <algorithm>
@@ -136,8 +137,10 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
             rowCount = aligned.rows.size();
             isTable =
                 judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) == TableVerdict::Table;
+            TableGrid grid = gridOf(aligned, parameters.tables.textMargin);
+            isTable = isTable && !isDrawnOver(page, grid, parameters.tables);
             if (isTable)
-                grids.push_back(gridOf(aligned, parameters.tables.textMargin));
+                grids.push_back(std::move(grid));
         }
         first = isTable ? first + rowCount : first + 1;
     }
