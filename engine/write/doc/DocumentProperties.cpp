@@ -10,7 +10,7 @@
 namespace orvane::write::doc {
 namespace {
 
-constexpr std::size_t kPropertiesSize = 500; // Source: [MS-DOC] 2.7.5 (Dop97)
+constexpr std::size_t kPropertiesSize = 544; // Source: [MS-DOC] 2.7.6 (Dop2000)
 constexpr int kFacingPages = 0x01;
 constexpr int kNotesAtPageBottom = 1 << 5;
 constexpr int kFirstNote = 1 << 2;
@@ -19,6 +19,7 @@ constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
 constexpr int kJustifiesLinesThatBreak = 1 << 13; ///< Source: [MS-DOC] 2.9.34 (Copts60, fExpShRtn)
 constexpr std::size_t kNoteNumbers = 492;         ///< where the formats of the notes' numbers stand
+constexpr std::size_t kCompatibility = 508;       ///< Source: [MS-DOC] 2.7.6 (Dop2000, copts)
 constexpr int kDecimal = 0;
 constexpr int kLowerRoman = 2;
 constexpr int kLowerRomanPlace = 6;
@@ -84,8 +85,9 @@ std::string documentProperties(Pages pages) {
     bytes.u16(kJustifiesLinesThatBreak).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
     bytes.u16(kFirstNote).u16(kEndnotesAtDocumentEnd | kLowerRoman << kLowerRomanPlace).zeros(82 - bytes.size());
     bytes.u16(kSize100).u16(kJustifiesLinesThatBreak).zeros(kNoteNumbers - bytes.size());
-    bytes.u16(kDecimal).u16(kLowerRoman);
-    bytes.zeros(kPropertiesSize - bytes.size());
+    bytes.u16(kDecimal).u16(kLowerRoman).zeros(kCompatibility - bytes.size());
+    // What is not set here counts too: of the spaces between two paragraphs the larger is kept, not both.
+    bytes.u16(kJustifiesLinesThatBreak).zeros(kPropertiesSize - bytes.size());
     return bytes.str();
 }
 

@@ -9,7 +9,7 @@ namespace orvane::write::doc {
 enum class Pages { Alike, Facing };
 
 /// What holds for the whole document: kinds of pages, notes, tabulators.
-/// Source: [MS-DOC] 2.7 (Dop97).
+/// Source: [MS-DOC] 2.7.6 (Dop2000).
 std::string documentProperties(Pages pages);
 
 /// What the document says of itself, as a property set. No date but the document's own is written.

@@ -54,6 +54,8 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     rtf.word("widowctrl");
     // Lines that end by hand are justified like others, as in the other formats.
     rtf.word("expshrtn");
+    // So is it that of the spaces below one paragraph and above the next the larger counts.
+    rtf.word("htmautsp");
     rtf.word("ftnbj");
     rtf.word("aenddoc");
     rtf.word("aftnnrlc");

@@ -25,8 +25,11 @@ void writeStyle(RtfState& state, RtfStream& rtf, const Style& style) {
     rtf.word("s", state.numberOf(style));
     writeParagraphProperties(state, rtf, style.paragraph, parent ? parent->paragraph : kPlainParagraph);
     writeRunProperties(state, rtf, style.run, plainRun(), ScriptUse::Complex);
+    // Pairs of letters stand where their widths put them, as they do in the other formats where nothing is said.
     if (parent)
         rtf.word("sbasedon", state.numberOf(*parent));
+    else
+        rtf.word("kerning", 0);
     rtf.word("snext", state.numberOf(next));
     rtf.word("sqformat");
     rtf.text(styleName(style));

@@ -63,6 +63,15 @@ TEST(DocFile, JustifiesLinesThatEndByHand) {
     EXPECT_EQ(properties.substr(84, 2), std::string("\0\x20", 2)) << "what later editions read";
 }
 
+TEST(DocFile, KeepsTheLargerOfTwoSpacesBetweenParagraphs) {
+    // The bit that says otherwise stands behind what the edition of 97 has; readers take it for set where it is
+    // missing.
+    const std::string properties = WrittenDoc(documentOf("a")).read().table(31);
+    ASSERT_EQ(properties.size(), 544u);
+    EXPECT_EQ(properties[512] & 0x04, 0);
+    EXPECT_EQ(properties.substr(508, 2), std::string("\0\x20", 2)) << "lines that end by hand are justified still";
+}
+
 TEST(DocFile, IsRefusedWhereNothingCanBeWritten) {
     const TemporaryFolder folder;
     const PictureStore pictures(folder.path());

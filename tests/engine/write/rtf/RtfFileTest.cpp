@@ -18,6 +18,11 @@ TEST(RtfFile, JustifiesLinesThatEndByHand) {
     EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\expshrtn"));
 }
 
+TEST(RtfFile, SetsParagraphsAndLettersApartLikeTheOtherFormats) {
+    EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\htmautsp")) << "the larger of two spaces, not both";
+    EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\kerning0")) << "readers may kern where nothing is said";
+}
+
 TEST(RtfFile, IsWholeForADocumentThatHasOneOfEverything) {
     const TemporaryFolder folder;
     PictureStore pictures(folder.path());
