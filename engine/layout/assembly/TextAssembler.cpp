@@ -258,7 +258,9 @@ RunProperties runProperties(const Span& span, std::size_t page, const ScriptFami
     run.isSmallCaps = look.isSmallCaps;
     run.isOutlined = look.isOutlined;
     run.isRightToLeft = span.isRightToLeft;
-    const bool isStretched = std::abs(look.horizontalScale - 1) > context.parameters.text.naturalScale;
+    // Where lines keep their places their scale was chosen; elsewhere little of it is how the PDF was typeset.
+    const double least = context.request.mode == LayoutMode::TruePage ? 0 : context.parameters.text.naturalScale;
+    const bool isStretched = std::abs(look.horizontalScale - 1) > least;
     run.widthPercent = static_cast<int>(std::lround((isStretched ? look.horizontalScale : 1) * font.widthPercent));
     if (context.request.keepCharacterSpacing)
         run.characterSpacing = twipsFromPoints(look.characterSpacing);

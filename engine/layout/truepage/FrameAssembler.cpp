@@ -1,6 +1,7 @@
 #include "layout/truepage/FrameAssembler.h"
 
 #include "base/Utf8.h"
+#include "layout/fonts/FamilyWidths.h"
 #include "layout/fonts/LineMetrics.h"
 #include "layout/text/LineText.h"
 
@@ -33,12 +34,18 @@ double pitchOf(const ParagraphDraft& text, const LineExtent& extent) {
     return text.leading > 0 ? text.leading : extent.height();
 }
 
-/// True when the widths of all fonts are those of a family, so that the lines are as wide as they were fitted to be.
+/// True when the letters are as wide in every word processor, in the family itself or in the twin it has instead.
+bool areWidthsKnown(const Span& span, const MappedFont& font) {
+    const bool isSimple = !font.isSymbol && scriptClassOf(span.text) == ScriptClass::Simple;
+    return isSimple ? hasKnownWidths(font.family) : font.isLineKnown;
+}
+
+/// True when that is so of all fonts, so that the lines are as wide as they were fitted to be.
 bool areWidthsKnown(const ParagraphDraft& text, std::size_t page, const AssemblyContext& context) {
     for (const Line& line : text.lines)
         for (const Word& word : line.words)
             for (const Span& span : word.spans)
-                if (!context.fonts.font(page, span.look.font).isLineKnown)
+                if (!areWidthsKnown(span, context.fonts.font(page, span.look.font)))
                     return false;
     return true;
 }
@@ -132,11 +139,9 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     const Line& first = text.lines.front();
     const auto& parameters = context.parameters.truePage;
     const LineExtent extent = extentOf(first, piece.page, context.fonts);
-    const bool isKnown = areWidthsKnown(text, piece.page, context);
-    const double roomShare = isKnown ? parameters.room : parameters.roomForOtherFonts;
-    const double room = std::max(parameters.leastRoom, roomShare * text.box.width());
+    const double room = std::max(parameters.leastRoom, parameters.room * text.box.width());
     // Lines that may turn out too wide must not be held between two edges.
-    if (text.alignment == Alignment::Justified && !isKnown)
+    if (text.alignment == Alignment::Justified && !areWidthsKnown(text, piece.page, context))
         text.alignment = Alignment::Start;
 
     document::Paragraph& paragraph = *block.paragraph();
@@ -146,7 +151,7 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
         place(frame, verticalBox(first));
         pitch = characterPitch(first);
     } else if (first.angle != 0) {
-        place(frame, turnedBox(first, extent, roomShare));
+        place(frame, turnedBox(first, extent, parameters.room));
     } else {
         place(frame, levelBox(text, extent, room, context.draft.pages[piece.page].width));
         paragraph.properties.alignment = text.alignment;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 
 namespace orvane::layout {
 namespace {
@@ -43,12 +44,12 @@ public:
         , m_tracking(tracking)
         , m_parameters(parameters) {}
 
-    /// nullopt for lines that cannot be measured, or have tabulators in them.
-    std::optional<LineWidths> measure(const Line& line) const {
+    /// nullopt for parts of the line that cannot be measured.
+    std::optional<LineWidths> measure(const Line& line, std::span<const Word> words) const {
         LineWidths widths;
-        for (const Word& word : line.words) {
-            const bool isFirst = &word == &line.words.front();
-            if (word.spans.empty() || (!isFirst && word.gapBefore == Gap::Tab))
+        for (const Word& word : words) {
+            const bool isFirst = &word == &words.front();
+            if (word.spans.empty())
                 return std::nullopt;
             for (const Span& span : word.spans) {
                 const std::optional<double> natural = naturalWidthOf(span, lengthOf(span.box, line));
@@ -67,9 +68,12 @@ public:
 private:
     static FontFace faceOf(const Look& look) { return {look.isBold, look.isItalic}; }
 
+    /// Formats hold half points: what stands at 9.42 points on the page is set at 9.5. Units: points.
+    static double writtenSize(const Look& look) { return halfPointsFromPoints(look.size).value / 2.0; }
+
     double naturalBlank(const Look& look) const {
         const MappedFont& font = m_fonts.font(m_page, look.font);
-        return advanceOf(font.family, faceOf(look), U' ').value_or(m_parameters.usualBlank) * look.size *
+        return advanceOf(font.family, faceOf(look), U' ').value_or(m_parameters.usualBlank) * writtenSize(look) *
                stretchOf(font);
     }
 
@@ -85,12 +89,12 @@ private:
         const bool isPlain = look.verticalPosition == document::VerticalPosition::Baseline && !look.isSmallCaps;
         if (isPlain)
             if (const auto known = naturalWidth(text, font.family, faceOf(look)))
-                return *known * look.size * stretchOf(font) + kept;
+                return *known * writtenSize(look) * stretchOf(font) + kept;
         // The font's own widths are those of its family, where it is one that word processors have.
         const bool isOwn = font.isLineKnown || font.isSymbol || scriptClassOf(span.text) != ScriptClass::Simple;
         if (!isOwn && text.size() > m_parameters.longestSign)
             return std::nullopt;
-        return (length - spacing) / look.horizontalScale + kept;
+        return (length - spacing) / look.horizontalScale * (writtenSize(look) / look.size) + kept;
     }
 
     std::size_t m_page;
@@ -114,15 +118,62 @@ double stretchFor(const LineWidths& widths, double lineWidth, LineEnd end, const
     if (std::abs(stretch - 1) < parameters.leastStretch)
         stretch = 1;
     // Blanks that are narrower than a word processor's make a line too long; wider ones are left to it.
-    const double longest = lineWidth * (end == LineEnd::Held ? 1 - parameters.fitSlack : 1 + parameters.leastStretch);
+    const double longest = lineWidth * (end == LineEnd::Held ? 1 - parameters.fitSlack : 1 + parameters.freeSlack);
     if (stretch * natural > longest)
         stretch = std::min((end == LineEnd::Held ? longest : lineWidth) / natural, 1 - parameters.leastStretch);
     return stretch < parameters.narrowest || stretch > parameters.widest ? 1 : stretch;
 }
 
+/// The scale nearest to the stretch for which the format holds the product with the font's own: whole percents.
+double writtenScale(double stretch, int fontPercent, LineEnd end) {
+    // Half a percent more would cut a line that stands between two edges in two; a little error of arithmetic must not.
+    constexpr double kArithmetic = 1e-6;
+    const double percent = stretch * fontPercent;
+    return (end == LineEnd::Held ? std::floor(percent + kArithmetic) : std::round(percent)) / fontPercent;
+}
+
+/// The words between two tabulators, or a tabulator and an end of the line.
+std::vector<std::span<Word>> partsOf(std::vector<Word>& words) {
+    std::vector<std::span<Word>> parts;
+    for (std::size_t first = 0, last = 1; last <= words.size(); ++last)
+        if (last == words.size() || words[last].gapBefore == Gap::Tab) {
+            parts.emplace_back(words.data() + first, last - first);
+            first = last;
+        }
+    return parts;
+}
+
+double lengthOf(std::span<const Word> part, const Line& line) {
+    Rect box;
+    for (const Word& word : part)
+        box = box.united(word.box);
+    return lengthOf(box, line);
+}
+
 /// From where the line starts to the other edge of its paragraph.
 double roomFor(const Line& line, const ParagraphDraft& text) {
     return line.isRightToLeft ? line.box.right - text.box.left : text.box.right - line.box.left;
+}
+
+/// Stretches each part of the line to its width on the page.
+void fitLine(Line& line, const DraftPiece& piece, const LineMeter& meter, const FontCatalog& fonts,
+             const Parameters& parameters) {
+    const LineEnd end = piece.text.alignment == Alignment::Justified ? LineEnd::Held : LineEnd::Free;
+    const std::vector<std::span<Word>> parts = partsOf(line.words);
+    // Lines between two edges take what is left at their tabulators.
+    if (end == LineEnd::Held && parts.size() > 1)
+        return;
+    for (const std::span<Word> part : parts) {
+        const std::optional<LineWidths> widths = meter.measure(line, part);
+        if (!widths)
+            continue;
+        const double room = end == LineEnd::Held ? roomFor(line, piece.text) : lengthOf(part, line);
+        const double stretch = stretchFor(*widths, room, end, parameters);
+        for (Word& word : part)
+            for (Span& span : word.spans)
+                span.look.horizontalScale =
+                    writtenScale(stretch, fonts.font(piece.page, span.look.font).widthPercent, end);
+    }
 }
 
 } // namespace
@@ -132,21 +183,9 @@ void fitLines(std::vector<DraftBlock>& frames, const FontCatalog& fonts, Trackin
     for (DraftBlock& frame : frames) {
         DraftPiece& piece = frame.paragraph()->pieces.front();
         const LineMeter meter(piece.page, fonts, tracking, parameters);
-        const bool isJustified = piece.text.alignment == Alignment::Justified;
-        for (Line& line : piece.text.lines) {
-            if (!isMeasurable(line))
-                continue;
-            const std::optional<LineWidths> widths = meter.measure(line);
-            if (!widths)
-                continue;
-            // Whole percents are what formats hold.
-            const double stretch = isJustified
-                                       ? stretchFor(*widths, roomFor(line, piece.text), LineEnd::Held, parameters)
-                                       : stretchFor(*widths, lengthOf(line.box, line), LineEnd::Free, parameters);
-            for (Word& word : line.words)
-                for (Span& span : word.spans)
-                    span.look.horizontalScale = std::floor(stretch * 100) / 100;
-        }
+        for (Line& line : piece.text.lines)
+            if (isMeasurable(line))
+                fitLine(line, piece, meter, fonts, parameters);
     }
 }
 

@@ -11,6 +11,7 @@
 #include "layout/truepage/FrameAssembler.h"
 #include "layout/truepage/FrameCutter.h"
 #include "layout/truepage/LineFitter.h"
+#include "layout/truepage/RowJoiner.h"
 
 #include <algorithm>
 #include <iterator>
@@ -85,7 +86,8 @@ DocumentDraft draftOf(const std::vector<PageText>& pages, const DocumentContext&
         if (observer.isCancelled())
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         std::vector<DraftBlock> blocks = addPage(draft, layoutPage(page, context, parameters, diagnostics));
-        std::vector<DraftBlock> frames = cutIntoFrames(std::move(blocks), parameters.truePage);
+        std::vector<DraftBlock> frames =
+            joinRows(cutIntoFrames(std::move(blocks), parameters.truePage), parameters.truePage);
         std::move(frames.begin(), frames.end(), std::back_inserter(draft.blocks));
     }
     return draft;

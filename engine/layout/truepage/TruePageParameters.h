@@ -16,13 +16,17 @@ struct TruePageParameters {
         double edgeTolerance = 1.0;       ///< points; edges of lines that differ by less are one
         double largestFirstLine = 4.0;    ///< of the font size; by how much a first line is indented, or hangs
         std::size_t fewestFlushLines = 3; ///< lines with two flush edges that are justified rather than alike by chance
-        double protrusion = 0.4;        ///< of the font size; by how much hyphens and full stops stand out over an edge
-        double roomForOtherFonts = 0.6; ///< of the text's width; where nothing is known of the widths of the font
-        double room = 0.12;             ///< of the text's width; other fonts may need so much more
-        double leastRoom = 6.0;         ///< points; likewise
+        double protrusion = 0.4; ///< of the font size; by how much hyphens and full stops stand out over an edge
+        double room = 0.6;       ///< of the text's width; other fonts may need so much more
+        double leastRoom = 12.0; ///< points; likewise
+        // RowJoiner
+        double sameBaseline = 0.3; ///< points; lines of one row
+        double rowGap = 0.5;       ///< of the font size; between lines that a tabulator can part
+        double rowSlack = 0.1;     ///< of the width before the gap; other fonts may need so much more of it
         // LineFitter
         double fitSlack = 0.006;     ///< of the line's width; one that fills its box by more may not fit into it
-        double leastStretch = 0.025; ///< of the width; text is not stretched by less
+        double freeSlack = 0.025;    ///< likewise; one that nothing holds may be longer by so much
+        double leastStretch = 0.005; ///< of the width; text is not stretched by less, for formats hold whole percents
         double narrowest = 0.6;      ///< of the natural width; text that needs less is no fit
         double widest = 1.3;         ///< likewise
         double usualBlank = 0.25;    ///< em; where nothing is known of the font's blank

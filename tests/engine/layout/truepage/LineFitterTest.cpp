@@ -36,6 +36,15 @@ TEST(LineFitter, SetsALineAsWideAsItIsOnThePage) {
     EXPECT_EQ(stretchIn(draftOf(kTimes, makeLine("iiii", 72, 100))), 1) << "so far is no fit";
 }
 
+TEST(LineFitter, MeasuresInTheSizeThatFormatsHold) {
+    // 10.2 points are written as 10, and the line would end at 0.98 of its width.
+    Line line = makeLine("pppp", 72, 100);
+    line.words[0].spans[0].look.size = 10.2;
+    for (Rect* box : {&line.box, &line.words[0].box, &line.words[0].spans[0].box})
+        box->right = box->left + 1.02 * box->width();
+    EXPECT_NEAR(stretchIn(draftOf(kTimes, line)), 1.02, 0.001);
+}
+
 TEST(LineFitter, LeavesLinesAloneThatAreAsWide) {
     EXPECT_EQ(stretchIn(draftOf("Georgia", makeLine("some text", 72, 100))), 1) << "its widths are the font's own";
     EXPECT_EQ(stretchIn(draftOf(kTimes, makeLine("rr\trr", 72, 100))), 1) << "tabulators take what is left";
