@@ -25,8 +25,16 @@ FieldKind kindOf(const document::Field& field) {
 }
 
 void startField(Story& story, FieldKind kind, const std::string& instruction) {
+    openField(story, kind, instruction);
+    separateField(story);
+}
+
+void openField(Story& story, FieldKind kind, const std::string& instruction) {
     story.text.addField(character::kFieldStart, static_cast<int>(kind), special());
     story.text.add(utf16FromUtf8(instruction), {});
+}
+
+void separateField(Story& story) {
     story.text.addField(character::kFieldSeparator, kNoKind, special());
 }
 

@@ -4,6 +4,7 @@
 #include "write/ParagraphParts.h"
 #include "write/doc/CommentDoc.h"
 #include "write/doc/FieldDoc.h"
+#include "write/doc/FormFieldDoc.h"
 #include "write/doc/NoteDoc.h"
 #include "write/doc/RunDoc.h"
 
@@ -15,9 +16,6 @@ namespace orvane::write::doc {
 namespace {
 
 using namespace document;
-
-constexpr const char* kCheckedBox = "\u2612";
-constexpr const char* kUncheckedBox = "\u2610";
 
 /// The text with the format's own characters for some; control characters are left out.
 std::u16string fileText(std::string_view utf8) {
@@ -121,9 +119,9 @@ private:
     }
 
     void writeOne(const ContentControl& control) {
-        if (control.content.empty() && control.kind == ControlKind::CheckBox)
-            add(utf16FromUtf8(control.isChecked ? kCheckedBox : kUncheckedBox), m_base);
-        write(control.content);
+        PropertyList look;
+        addRunProperties(look, m_story.state.fonts, m_base, m_base);
+        writeFormField(m_story, control, look.bytes(), [&] { write(control.content); });
     }
 
     /// The link as a field's instruction; empty for one that leads nowhere.

@@ -77,6 +77,12 @@ std::uint32_t PictureData::placeOf(const Picture& picture) {
     return found->second;
 }
 
+std::uint32_t PictureData::addBytes(const std::string& bytes) {
+    const auto place = static_cast<std::uint32_t>(m_data.size());
+    m_data.add(bytes);
+    return place;
+}
+
 std::uint32_t PictureData::add(const Picture& picture) {
     const PictureStore::Entry entry = m_pictures.at(picture.id);
     const auto place = static_cast<std::uint32_t>(m_data.size());

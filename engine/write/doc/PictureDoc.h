@@ -23,6 +23,8 @@ public:
     /// Where the picture stands in the data stream.
     /// Requires: has().
     std::uint32_t placeOf(const document::Picture& picture);
+    /// Adds what is no picture but stands between them, and tells where.
+    std::uint32_t addBytes(const std::string& bytes);
 
 private:
     std::uint32_t add(const document::Picture& picture);

@@ -8,6 +8,7 @@ namespace orvane::write::doc::sprm {
 
 // characters
 inline constexpr std::uint16_t kCPicLocation = 0x6A03;
+inline constexpr std::uint16_t kCFData = 0x0806;
 inline constexpr std::uint16_t kCHighlight = 0x2A0C;
 inline constexpr std::uint16_t kCFBold = 0x0835;
 inline constexpr std::uint16_t kCFItalic = 0x0836;

@@ -250,5 +250,34 @@ TEST(DocFrame, HasItsTextBehindAllOthers) {
     EXPECT_THAT(doc.read().table(50), HasSubstr(std::string("\x80\0\0\0\1\0\x81\0\x7B\2\0\0", 12)));
 }
 
+TEST(DocFormField, HasKindsOfItsOwn) {
+    const ContentControl name{ControlKind::Text, "name", "", {}, false, false, {text("Ada")}};
+    const ContentControl empty{ControlKind::Text, "", "", {}, false, false, {}};
+    const ContentControl box{ControlKind::CheckBox, "", "", {}, true, false, {text("\u2612")}};
+    const ContentControl list{ControlKind::DropDown, "", "", {"red", "green"}, false, false, {text("green")}};
+    const WrittenDoc doc(documentOf(paragraph({{name}, {empty}, {box}, {list}})));
+    EXPECT_EQ(doc.read().text(),
+              "\\13 FORMTEXT \\01\\14Ada\\15\\13 FORMTEXT \\01\\14\\u2002\\u2002\\u2002\\u2002\\u2002\\15"
+              "\\13 FORMCHECKBOX \\01\\14\\15\\13 FORMDROPDOWN \\01\\14\\15\\0d");
+    const std::string fields = doc.read().table(16);
+    for (const char* kind : {"\x13\x46", "\x13\x47", "\x13\x53"})
+        EXPECT_THAT(fields, HasSubstr(kind));
+}
+
+TEST(DocFormField, KeepsItsStateInTheDataStream) {
+    const ContentControl name{ControlKind::Text, "who", "", {}, false, false, {text("Ada")}};
+    const ContentControl box{ControlKind::CheckBox, "", "", {}, true, false, {}};
+    const ContentControl list{ControlKind::DropDown, "", "", {"a", "b"}, false, false, {text("b")}};
+    const WrittenDoc doc(documentOf(paragraph({{name}, {box}, {list}})));
+    const std::string& data = doc.read().stream(u"Data");
+    // Kind, state, longest text, size of the box, name.
+    const auto bytes = [](const auto& literal) { return std::string(literal, sizeof(literal) - 1); };
+    EXPECT_THAT(data, HasSubstr(bytes("\xFF\xFF\xFF\xFF\0\0\0\0\x14\0\3\0w\0h\0o\0\0\0")));
+    EXPECT_THAT(data, HasSubstr(bytes("\xFF\xFF\xFF\xFF\5\0\0\0\x14\0\0\0\0\0\1\0"))) << "checked, and so by default";
+    EXPECT_THAT(data, HasSubstr(bytes("\xFF\xFF\xFF\xFF\6\x80\0\0\x14\0"))) << "a list that shows its second choice";
+    EXPECT_THAT(data, HasSubstr(bytes("\xFF\xFF\2\0\0\0\1\0a\0\1\0b\0")));
+    EXPECT_EQ(data.substr(0, 6), bytes("\x70\0\0\0\x44\0")) << "each with its length";
+}
+
 } // namespace
 } // namespace orvane::tests
