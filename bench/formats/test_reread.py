@@ -9,10 +9,10 @@ PAGE = [("one", 72.0, 80.0), ("two", 90.0, 80.0), ("one", 72.0, 94.0)]
 class Places(unittest.TestCase):
     def test_words_that_stand_where_they_are_wanted_count(self):
         self.assertEqual(places([PAGE], [PAGE]), 1)
-        self.assertEqual(places([PAGE], [[(word, x + 0.9, y - 0.9) for word, x, y in PAGE]]), 1)
+        self.assertEqual(places([PAGE], [[(word, x + 1.9, y - 1.9) for word, x, y in PAGE]]), 1)
 
     def test_words_that_moved_do_not(self):
-        moved = [PAGE[0], ("two", 92.0, 80.0), PAGE[2]]
+        moved = [PAGE[0], ("two", 93.0, 80.0), PAGE[2]]
         self.assertAlmostEqual(places([PAGE], [moved]), 2 / 3)
         self.assertEqual(places([PAGE], [[], PAGE]), 0)
 
