@@ -20,8 +20,20 @@
 #include "layout/structure/TableJoiner.h"
 #include "layout/truepage/TruePageDocument.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace orvane::layout {
 namespace {
+
+/// Takes the figures off the page; what stands within drawings stays as text.
+void removeFigures(PageText& page) {
+    for (Figure& figure : page.figures)
+        std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(page.lines));
+    page.figures.clear();
+    std::stable_sort(page.lines.begin(), page.lines.end(),
+                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+}
 
 /// What the mode keeps of the flowing document.
 document::Document inMode(LayoutMode mode, document::Document flowing) {
@@ -58,7 +70,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
                                   Diagnostics& diagnostics) {
     if (request.removeImages)
         for (PageText& page : pages)
-            page.figures.clear();
+            removeFigures(page);
     if (request.mode == LayoutMode::TruePage)
         return truePageDocument(std::move(pages), facts, request, parameters, observer, diagnostics);
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);

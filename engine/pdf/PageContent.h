@@ -94,6 +94,7 @@ struct Path {
     std::optional<FillStyle> fill;
     Rect box;                    ///< of the path itself, without the stroke's width
     Rect clip;                   ///< box of the clip path
+    bool isSimplified = false;   ///< painted it looks otherwise: cut by an odd shape, faded by a mask, blended with what lies below
     Visibility visibility = Visibility::Visible;
     std::int32_t mark = -1;
     std::uint32_t paintOrder = 0;

@@ -71,6 +71,23 @@ bool isSameShape(const std::vector<PathSegment>& a, const std::vector<PathSegmen
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), isEqual);
 }
 
+/// Level and plumb lines around one box, and nothing else.
+bool isUprightRectangle(const std::vector<PathSegment>& segments) {
+    constexpr double kLevel = 0.01;
+    constexpr std::size_t kMostSegments = 6;
+    if (segments.size() > kMostSegments)
+        return false;
+    for (std::size_t i = 1; i < segments.size(); ++i) {
+        if (segments[i].verb == PathVerb::Close)
+            continue;
+        const Point from = segments[i - 1].to, to = segments[i].to;
+        if (segments[i].verb != PathVerb::Line ||
+            (std::abs(from.x - to.x) > kLevel && std::abs(from.y - to.y) > kLevel))
+            return false;
+    }
+    return true;
+}
+
 bool isFinite(const Rect& box) {
     return std::isfinite(box.left + box.top + box.right + box.bottom);
 }
@@ -106,6 +123,7 @@ Path PathReader::makePath(const GfxState& state, std::vector<PathSegment> segmen
     path.mark = mark;
     path.paintOrder = paintOrder;
     path.visibility = visibilityOf(path.box, path.clip, m_page);
+    path.isSimplified = m_clip.isOdd || state.getBlendMode() != gfxBlendNormal;
     return path;
 }
 
@@ -137,11 +155,13 @@ void PathReader::stroke(GfxState& state, std::int32_t mark, std::uint32_t paintO
 }
 
 void PathReader::clip(const GfxState& state, FillRule rule) {
-    m_clip = {segmentsOf(state), rule == FillRule::EvenOdd, std::nullopt};
+    std::vector<PathSegment> segments = segmentsOf(state);
+    const bool isOdd = m_clip.isOdd || !isUprightRectangle(segments);
+    m_clip = {std::move(segments), rule == FillRule::EvenOdd, std::nullopt, isOdd};
 }
 
 void PathReader::clipToStroke(GfxState& state) {
-    m_clip = {segmentsOf(state), false, strokeStyleOf(state)};
+    m_clip = {segmentsOf(state), false, strokeStyleOf(state), true};
 }
 
 void PathReader::restoreState() {

@@ -37,6 +37,7 @@ private:
         std::vector<PathSegment> segments;
         bool isEvenOdd = false;
         std::optional<StrokeStyle> stroke; ///< where the outline is meant, not what it encloses
+        bool isOdd = false;                ///< it, or one around it, is no upright rectangle
     };
     Path makePath(const GfxState& state, std::vector<PathSegment> segments, std::int32_t mark,
                   std::uint32_t paintOrder) const;

@@ -197,11 +197,11 @@ PagePictures PdfDocument::paintedPictures(int number, Diagnostics& diagnostics) 
     return PagePictures(std::move(pictures));
 }
 
-PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch) const {
+PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words) const {
     const ComplaintCollector complaints;
-    PictureDataPtr picture = paintRegion(*m_impl->document, page, region, dotsPerInch, ContentRepair::None);
+    PictureDataPtr picture = paintRegion(*m_impl->document, page, region, dotsPerInch, words, ContentRepair::None);
     if (complaints.hasSurplusRestore())
-        picture = paintRegion(*m_impl->document, page, region, dotsPerInch, ContentRepair::SurplusRestores);
+        picture = paintRegion(*m_impl->document, page, region, dotsPerInch, words, ContentRepair::SurplusRestores);
     return picture;
 }
 

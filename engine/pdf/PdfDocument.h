@@ -72,6 +72,9 @@ struct PageReadOptions {
         30'000}; ///< no page that a person made takes this long; the rest of it is left out
 };
 
+/// Whether the words of a page are painted with it.
+enum class PaintedText : std::uint8_t { Shown, LeftOut };
+
 /// An open PDF.
 /// Errors: opening throws Failure(SourceUnreadable | NotAPdf | UserPasswordNeeded | OwnerPasswordNeeded).
 /// Thread: one object a thread; several objects may read the same file at once.
@@ -101,7 +104,8 @@ public:
 
     /// Paints part of a page (page space, points) as a PNG with a white ground. Used for drawings too rich to take
     /// apart.
-    PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch) const;
+    PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch,
+                                PaintedText words = PaintedText::Shown) const;
 
 private:
     struct Impl;

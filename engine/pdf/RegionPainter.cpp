@@ -26,6 +26,30 @@ double scaleOf(const Rect& region, double dotsPerInch) {
     return std::min(dotsPerInch / kPointsPerInch, std::sqrt(kMaxPixels / region.area()));
 }
 
+/// Paints with or without the words.
+class RegionDevice : public SplashOutputDev {
+public:
+    RegionDevice(SplashColorPtr paper, PaintedText words)
+        : SplashOutputDev(splashModeRGB8, 1, false, paper)
+        , m_words(words) {}
+
+    void drawChar(GfxState* state, double x, double y, double dx, double dy, double originX, double originY,
+                  CharCode code, int byteCount, const Unicode* unicode, int unicodeLength) override {
+        if (m_words == PaintedText::Shown)
+            SplashOutputDev::drawChar(state, x, y, dx, dy, originX, originY, code, byteCount, unicode, unicodeLength);
+    }
+    bool beginType3Char(GfxState* state, double x, double y, double dx, double dy, CharCode code,
+                        const Unicode* unicode, int unicodeLength) override {
+        // A glyph that says something is a letter; what says nothing may be a drawing.
+        if (m_words == PaintedText::LeftOut && unicodeLength > 0)
+            return true;
+        return SplashOutputDev::beginType3Char(state, x, y, dx, dy, code, unicode, unicodeLength);
+    }
+
+private:
+    PaintedText m_words;
+};
+
 PictureData encode(const SplashBitmap& bitmap) {
     PngEncoder png(bitmap.getWidth(), bitmap.getHeight(), PngPixels::Rgb8);
     for (int y = 0; y < bitmap.getHeight(); ++y)
@@ -35,7 +59,8 @@ PictureData encode(const SplashBitmap& bitmap) {
 
 } // namespace
 
-PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, double dotsPerInch, ContentRepair repair) {
+PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, double dotsPerInch, PaintedText words,
+                           ContentRepair repair) {
     ::Page* source = document.getPage(page);
     const Rect visible = source ? region.intersected(pageBox(*source)) : Rect{};
     if (visible.isEmpty() || !(dotsPerInch > 0))
@@ -43,7 +68,7 @@ PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, dou
 
     const PageSlice slice = sliceOf(visible, scaleOf(visible, dotsPerInch));
     SplashColor paper = {255, 255, 255};
-    SplashOutputDev device(splashModeRGB8, 1, false, paper);
+    RegionDevice device(paper, words);
     device.startDoc(&document);
     TimeBudget budget(kTimeBudget);
     playPage(*source, document, device, budget, repair, slice);

@@ -33,6 +33,7 @@ void TransparencyReader::paintGroup(double opacity) {
         return;
     for (std::size_t i = m_ended.firstPath; i < m_page.paths.size(); ++i) {
         Path& path = m_page.paths[i];
+        path.isSimplified |= m_mask.has_value();
         if (path.fill)
             path.fill->opacity *= share;
         if (path.stroke)
@@ -69,6 +70,7 @@ void TransparencyReader::coverLastPath() {
     if (!m_mask || m_page.paths.empty())
         return;
     Path& path = m_page.paths.back();
+    path.isSimplified = true;
     if (path.fill) {
         path.fill->opacity *= *m_mask;
         path.fill->isPattern = true;

@@ -29,7 +29,9 @@ void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, Pict
         if (!figure.needsPainting || figure.box.isEmpty())
             continue;
         try {
-            const PictureDataPtr painted = document.renderRegion(page.number, figure.box, resolutionFor(figure.box));
+            const pdf::PaintedText words = figure.showsLabels ? pdf::PaintedText::Shown : pdf::PaintedText::LeftOut;
+            const PictureDataPtr painted =
+                document.renderRegion(page.number, figure.box, resolutionFor(figure.box), words);
             if (painted)
                 figure.picture = pictures.add(*painted);
         } catch (const Failure& failure) {

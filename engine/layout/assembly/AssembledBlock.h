@@ -9,9 +9,11 @@ namespace orvane::layout {
 
 /// A block of the document with what the stages after it need of its place on the page.
 struct AssembledBlock {
+    std::vector<document::Block> floats;            ///< that hang on it and are written before it
     document::Block block;                          ///< of a table: its cells are still empty
     const DraftBlock* draft = nullptr;              ///< null for what the engine added
     std::vector<std::vector<AssembledBlock>> cells; ///< of a table, one for each of DraftTable::cells
+    std::vector<AssembledBlock> labels;             ///< of a drawing, one for each of DraftBlock::labels
     bool hasOwnLineSpacing = false;                 ///< of a paragraph: its lines show it; a single line shows none
     double top = 0;                                 ///< of its first line as a word processor sets it; page space
     double bottom = 0;                              ///< of its last line, on the page where that stands
@@ -25,13 +27,14 @@ struct AssembledBlock {
 /// Where blocks stand that follow each other; some styles are made for one place only.
 enum class FlowKind : unsigned char { Body, Cell, Note, Header, Footer };
 
-/// Calls `visit(AssembledBlock&, FlowKind)` for every block in order, and for those in table cells.
+/// Calls `visit(AssembledBlock&, FlowKind)` for every block in order, and for those in table cells and drawings.
 template<typename Visit>
 void forEachBlock(std::vector<AssembledBlock>& blocks, FlowKind kind, const Visit& visit) {
     for (AssembledBlock& block : blocks) {
         visit(block, kind);
         for (std::vector<AssembledBlock>& cell : block.cells)
             forEachBlock(cell, FlowKind::Cell, visit);
+        forEachBlock(block.labels, FlowKind::Cell, visit);
     }
 }
 

@@ -1,11 +1,13 @@
 #include "layout/assembly/BlockAssembler.h"
 
 #include "layout/assembly/FigureAssembler.h"
+#include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/ParagraphFormat.h"
 #include "layout/assembly/TableAssembler.h"
 #include "layout/fonts/LineMetrics.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace orvane::layout {
@@ -61,7 +63,7 @@ AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& con
     else if (const auto* table = std::get_if<DraftTable>(&draft.value))
         assembled = assembleTable(*table, draft, context);
     else
-        assembled.block = assembleFigure(std::get<FigureDraft>(draft.value), draft, context);
+        assembled = assembleFigure(std::get<FigureDraft>(draft.value), draft, context);
     if (!draft.paragraph()) {
         assembled.top = draft.box.top;
         assembled.bottom = draft.box.bottom;
@@ -105,6 +107,9 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
             continue;
         if (std::holds_alternative<document::Table>(block.block.value))
             fillCells(block, context);
+        if (!block.labels.empty())
+            frameLabels(block, context);
+        std::move(block.floats.begin(), block.floats.end(), std::back_inserter(finished));
         finished.push_back(std::move(block.block));
     }
     return finished;

@@ -35,6 +35,11 @@ std::vector<Inline> textOf(std::vector<Inline>&& inlines) {
     return kept;
 }
 
+/// An empty line of exact height under a figure is there for it alone.
+bool isRoomForFigure(const Paragraph& paragraph) {
+    return paragraph.inlines.empty() && paragraph.properties.lineSpacing.rule == LineSpacingRule::Exact;
+}
+
 /// Blocks of one story, made into a flow one after the other.
 class Flow {
 public:
@@ -51,7 +56,8 @@ public:
 private:
     /// Each takes a block down to what flows, and tells whether it stays.
     bool keepFlow(Paragraph& paragraph) {
-        const bool hadContent = !paragraph.inlines.empty();
+        const bool hadContent = !paragraph.inlines.empty() || (m_hasDropped && isRoomForFigure(paragraph));
+        m_hasDropped = false;
         paragraph.inlines = textOf(std::move(paragraph.inlines));
         paragraph.properties.pageBreakBefore = false;
         // A paragraph that was there for its picture or break goes with it; an empty line of the author's stays.
@@ -71,13 +77,19 @@ private:
     }
 
     bool keepFlow(Frame& frame) {
+        const bool hasDropped = m_hasDropped;
         add(std::move(frame.blocks));
+        m_hasDropped = hasDropped;
         return false;
     }
     bool keepFlow(TableOfContents&) { return true; }
-    bool keepFlow(Figure&) { return false; }
+    bool keepFlow(Figure&) {
+        m_hasDropped = true;
+        return false;
+    }
 
     std::vector<Block> m_blocks;
+    bool m_hasDropped = false; ///< a figure, and no paragraph stood below it yet
 };
 
 /// The page of the first section without what is furniture of pages.

@@ -3,6 +3,7 @@
 #include "layout/assembly/BlankPages.h"
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
+#include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/NumberingAssembler.h"
 #include "layout/assembly/SpacingFinder.h"
 
@@ -101,7 +102,10 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
                                     const LayoutRequest& request, const LayoutParameters& parameters,
                                     Diagnostics& diagnostics) {
     const LinkTargets links(draft, facts.outline, diagnostics);
-    const FontCatalog fonts(draft, parameters, request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths);
+    const Tracking tracking = request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths;
+    cutLabels(draft, parameters);
+    const FontCatalog fonts(draft, parameters, tracking);
+    fitLabels(draft, fonts, tracking, parameters);
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     FlowSet flows(draft, assembly);
     document::Document document;

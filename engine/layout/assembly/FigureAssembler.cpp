@@ -1,5 +1,6 @@
 #include "layout/assembly/FigureAssembler.h"
 
+#include "layout/assembly/BlockAssembler.h"
 #include "layout/structure/BlockColumn.h"
 
 #include <cmath>
@@ -52,6 +53,24 @@ document::Block paragraphWith(document::Picture picture, const DraftBlock& place
     return {std::move(paragraph)};
 }
 
+/// An empty paragraph of the figure's height.
+document::Block paragraphUnder(const Figure& figure, int page, const AssemblyContext& context) {
+    document::Paragraph paragraph;
+    paragraph.origin = {page, figure.box};
+    paragraph.properties.lineSpacing = {document::LineSpacingRule::Exact, 1.0, twipsFromPoints(figure.box.height())};
+    paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
+    paragraph.markProperties.size = kPictureMarkSize;
+    return {std::move(paragraph)};
+}
+
+void hangOnParagraph(document::Figure& figure, const ColumnSpan& column, const Rect& box) {
+    figure.placement.horizontalAnchor = document::HorizontalAnchor::Column;
+    figure.placement.verticalAnchor = document::VerticalAnchor::Paragraph;
+    figure.placement.x = figure.placement.x - emuFromPoints(column.left);
+    figure.placement.y = figure.placement.y - emuFromPoints(box.top);
+    figure.placement.wrapping = document::Wrapping::None;
+}
+
 } // namespace
 
 document::Figure floatingFigure(const Figure& source, int page) {
@@ -63,18 +82,35 @@ document::Figure floatingFigure(const Figure& source, int page) {
     figure.placement.x = Emu(left.value - picture.width.value / 2);
     figure.placement.y = Emu(top.value - picture.height.value / 2);
     figure.placement.zOrder = static_cast<int>(source.paintOrder);
-    figure.content = std::move(picture);
+    if (source.drawing) {
+        figure.content = *source.drawing;
+        std::get<document::Drawing>(figure.content).alternateText = source.alternateText;
+    } else {
+        figure.content = std::move(picture);
+    }
     return figure;
 }
 
-document::Block assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context) {
+AssembledBlock assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context) {
     const int page = context.draft.pages[place.page].number;
-    if (draft.isInline)
-        return paragraphWith(pictureOf(draft.figure, page), place, context);
+    const bool isDrawn = draft.figure.drawing || !place.labels.empty();
+    AssembledBlock assembled;
+    assembled.labels = assembleBlocks(place.labels, context);
+    if (draft.isInline && !isDrawn) {
+        assembled.block = paragraphWith(pictureOf(draft.figure, page), place, context);
+        return assembled;
+    }
     document::Figure figure = floatingFigure(draft.figure, page);
+    if (draft.isInline) {
+        assembled.block = paragraphUnder(draft.figure, page, context);
+        hangOnParagraph(figure, columnOf(place, context.draft), draft.figure.box);
+        assembled.floats.push_back({std::move(figure)});
+        return assembled;
+    }
     if (draft.figure.isBackground)
         figure.placement.wrapping = document::Wrapping::BehindText;
-    return {std::move(figure)};
+    assembled.block = {std::move(figure)};
+    return assembled;
 }
 
 } // namespace orvane::layout

@@ -124,6 +124,8 @@ private:
         for (const Block& block : blocks) {
             if (const auto* paragraph = std::get_if<Paragraph>(&block.value))
                 join(lineOf(*paragraph));
+            else if (const auto* frame = std::get_if<Frame>(&block.value))
+                join(cellText(frame->blocks));
             else if (const auto* table = std::get_if<Table>(&block.value))
                 for (const TableRow& row : table->rows)
                     join(rowLine(row));

@@ -162,6 +162,8 @@ private:
                 for (const Line& line : piece.text.lines)
                     readLine(line, piece.page);
         });
+        for (const DraftBlock& block : blocks)
+            readBlocks(block.labels);
     }
     void readLine(const Line& line, std::size_t page) {
         if (line.isVertical || std::fmod(line.angle, 90) != 0)

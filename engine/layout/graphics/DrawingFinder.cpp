@@ -221,6 +221,14 @@ bool hasProse(const Line& line, double width, const GraphicsParameters::Drawings
     return false;
 }
 
+/// Whether something is written there of which nobody knows what it says, so that it can only be painted.
+bool hasUnknownSigns(const Rect& box, const pdf::PageContent& page) {
+    return std::any_of(page.glyphs.begin(), page.glyphs.end(), [&](const pdf::Glyph& glyph) {
+        return glyph.unicode.empty() && glyph.visibility == pdf::Visibility::Visible &&
+               box.contains(Point{glyph.box.centerX(), glyph.box.centerY()});
+    });
+}
+
 } // namespace
 
 bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
@@ -230,20 +238,21 @@ bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const Graphi
     });
 }
 
-void labelDrawings(PageText& text) {
-    for (std::size_t i = 0; i < text.figures.size(); ++i) {
-        Figure& drawing = text.figures[i];
+void labelDrawings(PageText& text, const pdf::PageContent& page) {
+    for (Figure& drawing : text.figures) {
+        drawing.showsLabels = hasUnknownSigns(drawing.box, page);
         if (drawing.paths.empty() || drawing.isBackground)
             continue;
         std::string words;
-        for (Line& line : text.lines) {
+        std::erase_if(text.lines, [&](Line& line) {
             if (!drawing.box.contains(Point{line.box.centerX(), line.box.centerY()}))
-                continue;
-            line.figure = static_cast<int>(i);
+                return false;
             if (!words.empty())
                 words += ' ';
             words += textOf(line);
-        }
+            drawing.labels.push_back(std::move(line));
+            return true;
+        });
         if (drawing.alternateText.empty())
             drawing.alternateText = words;
     }

@@ -1,10 +1,12 @@
 #include "layout/graphics/FigureFinder.h"
 
 #include "layout/graphics/DrawingFinder.h"
+#include "layout/graphics/ShapeMaker.h"
 #include "layout/support/BoxGroups.h"
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace orvane::layout {
@@ -140,7 +142,15 @@ void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling
                       parameters.drawings.overlapShare);
     std::stable_sort(text.figures.begin(), text.figures.end(),
                      [](const Figure& a, const Figure& b) { return a.paintOrder < b.paintOrder; });
-    labelDrawings(text);
+    labelDrawings(text, page);
+    for (Figure& figure : text.figures) {
+        std::optional<ShapedDrawing> shaped = shapesOf(figure, page, parameters);
+        if (!shaped)
+            continue;
+        figure.drawing = std::move(shaped->drawing);
+        figure.box = shaped->box;
+        figure.needsPainting = false;
+    }
 }
 
 } // namespace orvane::layout

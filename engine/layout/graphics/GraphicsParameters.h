@@ -43,6 +43,15 @@ struct GraphicsParameters {
         double shapesACrossing = 4;   ///< shapes for each crossing of the lines between them; tables cross more often
     } drawings;
 
+    /// ShapeMaker: drawings as shapes.
+    struct Shapes {
+        std::size_t mostShapes = 150;    ///< of a drawing that somebody would take apart
+        std::size_t mostSegments = 2500; ///< lines and curves of all its shapes
+        double cut = 0.75;               ///< points; a clip that takes less away is not seen
+        double thinnestLine = 0.25;      ///< points; width given to hairlines
+        double dotLength = 1.6;          ///< of the line's width; shorter dashes are dots
+    } shapes;
+
     /// BarFinder: the bars of charts.
     struct Bars {
         double sameEdge = 1.0;  ///< points; bars stand on one line, and are alike in breadth, within this

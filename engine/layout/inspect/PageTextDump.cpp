@@ -148,8 +148,6 @@ std::string dump(const PageText& page) {
         text += line.isVertical ? " vertical" : "";
         if (line.dropCapLines > 0)
             fmt::format_to(out, " dropcap {}", line.dropCapLines);
-        if (line.figure >= 0)
-            fmt::format_to(out, " in figure {}", line.figure);
         fmt::format_to(out, ": {}\n", dump(line));
     }
     for (const Rule& rule : page.rules)
@@ -159,10 +157,15 @@ std::string dump(const PageText& page) {
     for (const Ground& ground : page.grounds)
         fmt::format_to(out, "ground {} #{}{}\n", boxText(ground.box), toHex(ground.color),
                        ground.isUsed ? " used" : "");
-    for (const Figure& figure : page.figures)
-        fmt::format_to(out, "figure {} picture {}{}{}{} {}\n", boxText(figure.box), figure.picture.value,
+    for (const Figure& figure : page.figures) {
+        fmt::format_to(out, "figure {} picture {}{}{}{}{} {}\n", boxText(figure.box), figure.picture.value,
                        figure.needsPainting ? " to paint" : "", figure.isBackground ? " background" : "",
-                       figure.paths.empty() ? "" : fmt::format(" {} paths", figure.paths.size()), figure.alternateText);
+                       figure.paths.empty() ? "" : fmt::format(" {} paths", figure.paths.size()),
+                       figure.drawing ? fmt::format(" in {} shapes", figure.drawing->shapes.size()) : "",
+                       figure.alternateText);
+        for (const Line& label : figure.labels)
+            fmt::format_to(out, "  label {}: {}\n", boxText(label.box), dump(label));
+    }
     return text;
 }
 

@@ -14,6 +14,12 @@ bool isSamePlace(const Rect& a, const Rect& b, double tolerance) {
            std::abs(a.right - b.right) <= tolerance && std::abs(a.bottom - b.bottom) <= tolerance;
 }
 
+/// Drawings of as many shapes at one place are taken to be the same.
+bool looksAlike(const Figure& a, const Figure& b) {
+    return a.picture == b.picture && a.drawing.has_value() == b.drawing.has_value() &&
+           (!a.drawing || a.drawing->shapes.size() == b.drawing->shapes.size());
+}
+
 class FigureComparer {
 public:
     FigureComparer(const std::vector<PageText>& pages, const RunningParameters::RunningHeads& limits)
@@ -23,7 +29,7 @@ public:
     bool isOnPage(std::size_t page, const Figure& figure) const {
         const std::vector<Figure>& figures = m_pages[page].figures;
         return std::any_of(figures.begin(), figures.end(), [&](const Figure& other) {
-            return other.picture == figure.picture && isSamePlace(other.box, figure.box, m_limits.samePosition);
+            return looksAlike(other, figure) && isSamePlace(other.box, figure.box, m_limits.samePosition);
         });
     }
     bool isOnPageNearby(std::size_t page, const Figure& figure) const {
@@ -57,7 +63,7 @@ std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<Page
     for (std::size_t page = 0; page < pages.size(); ++page) {
         for (std::size_t i = 0; i < pages[page].figures.size(); ++i) {
             const Figure& figure = pages[page].figures[i];
-            if (figure.picture.value == 0 || !comparer.isOnPageNearby(page, figure))
+            if ((figure.picture.value == 0 && !figure.drawing) || !comparer.isOnPageNearby(page, figure))
                 continue;
             const bool isInText = figure.box.centerY() > bodies[page].top && figure.box.centerY() < bodies[page].bottom;
             if (!isInText || comparer.pagesWith(figure) >= parameters.surePages)

@@ -64,6 +64,7 @@ struct DraftBlock {
     int band = 0;         ///< index into the page's bands
     int column = 0;
     Rect box;                                ///< on that page
+    std::vector<DraftBlock> labels;          ///< of a drawing: paragraphs that stand within it
     std::optional<ColumnSpan> sectionColumn; ///< of a table or figure: the column of its section that it stands in
     bool startsPage = false;                 ///< its author let it start a page
     bool startsColumn = false;               ///< likewise a column

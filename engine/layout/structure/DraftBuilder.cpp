@@ -1,5 +1,8 @@
 #include "layout/structure/DraftBuilder.h"
 
+#include "layout/support/BoxGroups.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace orvane::layout {
@@ -23,6 +26,30 @@ ColumnSpan columnOf(const PageBlock& block, const Place& place) {
 }
 
 std::vector<DraftBlock> draftBlocks(std::vector<PageBlock> blocks, const Place& place);
+
+/// The lines within a drawing; those that touch are one label.
+std::vector<DraftBlock> draftLabels(std::vector<Line> lines, std::size_t page) {
+    BoxGroups groups(0);
+    for (const Line& line : lines)
+        groups.add(line.box);
+    std::vector<DraftBlock> labels;
+    for (const std::vector<std::size_t>& members : groups.groups()) {
+        ParagraphDraft label;
+        for (const std::size_t member : members) {
+            label.box = label.box.united(lines[member].box);
+            label.lines.push_back(std::move(lines[member]));
+        }
+        std::stable_sort(label.lines.begin(), label.lines.end(),
+                         [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+        DraftBlock& block = labels.emplace_back();
+        block.page = page;
+        block.box = label.box;
+        DraftParagraph paragraph;
+        paragraph.pieces.push_back({page, 0, 0, {label.box.left, label.box.right}, std::move(label)});
+        block.value = std::move(paragraph);
+    }
+    return labels;
+}
 
 DraftBlock draftBlock(PageBlock block, const Place& place) {
     DraftBlock draft;
@@ -49,6 +76,8 @@ DraftBlock draftBlock(PageBlock block, const Place& place) {
     } else {
         auto& figure = std::get<FigureDraft>(block.value);
         draft.box = figure.figure.box;
+        if (!figure.figure.showsLabels)
+            draft.labels = draftLabels(std::exchange(figure.figure.labels, {}), place.page);
         draft.value = std::move(figure);
     }
     return draft;

@@ -6,7 +6,7 @@
 
 namespace orvane::layout {
 
-/// Calls `visit` for every paragraph in reading order, those in table cells too.
+/// Calls `visit` for every paragraph in reading order, those in table cells too. The labels of drawings are none.
 template<typename Visit>
 void forEachParagraph(std::vector<DraftBlock>& blocks, const Visit& visit) {
     for (DraftBlock& block : blocks) {

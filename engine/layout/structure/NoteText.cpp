@@ -59,7 +59,6 @@ void addNoteLines(PageText& note, const PageText& source, std::vector<Line> line
     const double shift = note.lines.empty() ? 0 : note.lines.back().baseline + leading - lines.front().baseline;
     for (Line& line : lines) {
         moveDown(line, shift);
-        line.figure = -1;
         for (Word& word : line.words) {
             for (Span& span : word.spans) {
                 if (span.look.font < source.fonts.size())

@@ -71,7 +71,6 @@ struct Line {
     bool isRightToLeft = false;
     bool isVertical = false;         ///< East Asian vertical writing
     int dropCapLines = 0;            ///< how many lines its first letter, a drop cap, stands over; 0 for none
-    int figure = -1;                 ///< index into PageText::figures of the drawing that it labels; -1 for none
     std::uint32_t firstPaintOrder = 0;
 };
 
@@ -110,6 +109,9 @@ struct Figure {
     bool isBackground = false;       ///< covers (nearly) the whole page, or lies under text
     std::string alternateText;
     std::vector<std::size_t> paths;  ///< of a drawing: indices into pdf::PageContent::paths
+    std::optional<document::Drawing> drawing; ///< what it is in shapes, if they look as it does and are few
+    std::vector<Line> labels;        ///< the text within a drawing; no line of the page
+    bool showsLabels = false;        ///< they are painted with it and need not be set
     std::uint32_t paintOrder = 0;
 };
 

@@ -130,7 +130,7 @@ std::vector<document::Figure> backdropOf(const PageText& page) {
     for (const Painted& painted : paintedOf(page)) {
         if (const auto* figure = std::get_if<const Figure*>(&painted.item)) {
             finishDrawing();
-            if ((*figure)->picture.value != 0)
+            if ((*figure)->picture.value != 0 || (*figure)->drawing)
                 backdrop.push_back(floatingFigure(**figure, page.number));
         } else if (const auto* rule = std::get_if<const Rule*>(&painted.item)) {
             drawing.add(**rule);

@@ -211,6 +211,7 @@ void addFrames(std::vector<DraftBlock> blocks, const TruePageParameters::TruePag
                     frame.value = std::move(paragraph);
                 }
         }
+        addFrames(std::move(block.labels), parameters, frames);
     }
 }
 

@@ -190,5 +190,19 @@ TEST(Rendering, PaintsARegionOfThePage) {
     EXPECT_LT(std::int64_t{huge->pixelWidth} * huge->pixelHeight, 70'000'000) << "the resolution gives way";
 }
 
+TEST(Rendering, LeavesWordsOutWhereTheyAreSetBesides) {
+    OpenedPdf pdf(PdfBuilder().page("1 0 0 rg 50 100 100 100 re f 0 g BT /F4 90 Tf 60 110 Td (I) Tj ET"));
+    const Rect region{50, 592, 150, 692};
+    const auto isRed = [](const PictureDataPtr& picture) {
+        const Pixels pixels = readPng(picture->bytes);
+        for (int x = 0; x < picture->pixelWidth; ++x)
+            if (pixels.at(x, 50) != "FF0000FF")
+                return false;
+        return true;
+    };
+    EXPECT_FALSE(isRed(pdf.document().renderRegion(1, region, 72)));
+    EXPECT_TRUE(isRed(pdf.document().renderRegion(1, region, 72, PaintedText::LeftOut)));
+}
+
 } // namespace
 } // namespace orvane::pdf

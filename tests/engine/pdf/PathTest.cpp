@@ -69,6 +69,17 @@ const char* const kRedToBlue =
     "/ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 100 0] /Function << /FunctionType 2 /Domain [0 1] "
     "/C0 [1 0 0] /C1 [0 0 1] /N 1 >>";
 
+TEST(Paths, SayWhenTheyAreNotAllThatIsSeen) {
+    OpenedPdf pdf(PdfBuilder().page("q 0 0 100 100 re W n 10 10 20 20 re f Q "
+                                    "q 0 0 m 100 0 l 50 100 l h W n q 0 0 100 100 re W n 10 10 20 20 re f Q Q "
+                                    "10 10 30 30 re f"));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.paths.size(), 3u);
+    EXPECT_FALSE(page.paths[0].isSimplified) << "the box of a rectangle says all";
+    EXPECT_TRUE(page.paths[1].isSimplified) << "a triangle cuts it";
+    EXPECT_FALSE(page.paths[2].isSimplified);
+}
+
 TEST(Paths, StandForShadings) {
     const std::string shading = kRedToBlue;
     PdfPage page{"q 10 10 80 40 re W n /Sh1 sh Q /Pattern cs /P1 scn 200 200 50 50 re f",

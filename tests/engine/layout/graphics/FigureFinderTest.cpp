@@ -86,7 +86,7 @@ TEST(FigureFinder, MakesAChartOfBarsADrawing) {
     page.horizontalRule(90, 260, 200);
     const PageText text = read(page);
     ASSERT_THAT(text.figures, SizeIs(1));
-    EXPECT_TRUE(text.figures[0].needsPainting);
+    EXPECT_TRUE(text.figures[0].drawing);
     EXPECT_NEAR(text.figures[0].box.left, 90, 0.5);
 }
 
@@ -116,7 +116,7 @@ TEST(FigureFinder, MakesOneDrawingOfShapesThatStandTogether) {
     page.disk({400, 500}, 10);
     const std::vector<Figure> figures = read(page).figures;
     ASSERT_THAT(figures, SizeIs(2));
-    EXPECT_TRUE(figures[0].needsPainting);
+    EXPECT_FALSE(figures[0].needsPainting) << "three shapes are easily told one by one";
     EXPECT_THAT(figures[0].paths, SizeIs(3));
     EXPECT_NEAR(figures[0].box.left, 100, 0.5);
     EXPECT_NEAR(figures[0].box.right, 180, 0.5);
@@ -136,7 +136,17 @@ TEST(FigureFinder, TakesTheAxesOfAChartIntoItsDrawing) {
     EXPECT_EQ(text.figures[0].alternateText, "growth");
     for (const Rule& rule : text.rules)
         EXPECT_TRUE(rule.isUsed) << "an axis is no border of a table";
-    EXPECT_EQ(text.lines.at(0).figure, 0);
+    EXPECT_THAT(text.lines, IsEmpty());
+    EXPECT_THAT(text.figures[0].labels, SizeIs(1));
+}
+
+TEST(FigureFinder, PaintsLabelsOnlyWhereNobodyKnowsWhatTheySay) {
+    PageContentBuilder page;
+    page.disk({120, 120}, 40);
+    page.text(105, 124, "inlet", 10);
+    EXPECT_FALSE(read(page).figures.at(0).showsLabels);
+    page.glyph(110, 136, U"", 6, 10);
+    EXPECT_TRUE(read(page).figures.at(0).showsLabels);
 }
 
 TEST(FigureFinder, TakesTablesAndSeparatorsForNoDrawings) {

@@ -1,0 +1,53 @@
+#include "engine/layout/DraftSupport.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeBlock;
+using tests::makeDraft;
+using tests::makeLine;
+using tests::makeParagraph;
+
+/// A drawing of one shape between two paragraphs, with a word in it.
+DocumentDraft draftWithDrawing() {
+    DocumentDraft draft = makeDraft(1);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Above", 72, 100)})));
+    DraftBlock block;
+    block.box = {172, 120, 372, 220};
+    FigureDraft figure;
+    figure.isInline = true;
+    figure.figure.box = block.box;
+    figure.figure.drawing.emplace();
+    figure.figure.drawing->width = emuFromPoints(200);
+    figure.figure.drawing->height = emuFromPoints(100);
+    figure.figure.drawing->shapes.emplace_back();
+    block.value = std::move(figure);
+    block.labels.push_back(makeBlock(makeParagraph({makeLine("Boiler", 200, 180)})));
+    draft.blocks.push_back(std::move(block));
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Below", 72, 250)})));
+    return draft;
+}
+
+TEST(FigureAssembler, HangsADrawingAndItsLabelsOnAParagraphOfItsHeight) {
+    const document::Document document = tests::documentOf(draftWithDrawing());
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    ASSERT_EQ(blocks.size(), 5u);
+    const auto& figure = std::get<document::Figure>(blocks[1].value);
+    EXPECT_TRUE(std::holds_alternative<document::Drawing>(figure.content));
+    EXPECT_EQ(figure.placement.verticalAnchor, document::VerticalAnchor::Paragraph);
+    EXPECT_EQ(figure.placement.x, emuFromPoints(100)) << "from the column, which starts at 72 points";
+    EXPECT_EQ(figure.placement.y, Emu(0));
+    const auto& label = std::get<document::Frame>(blocks[2].value);
+    EXPECT_EQ(label.placement.verticalAnchor, document::VerticalAnchor::Paragraph);
+    EXPECT_EQ(label.placement.x, emuFromPoints(128));
+    EXPECT_GT(label.placement.zOrder, figure.placement.zOrder);
+    const document::Paragraph& room = tests::paragraphAt(document, 3);
+    EXPECT_TRUE(room.inlines.empty());
+    EXPECT_EQ(room.properties.lineSpacing.rule, document::LineSpacingRule::Exact);
+    EXPECT_EQ(room.properties.lineSpacing.height, twipsFromPoints(100));
+}
+
+} // namespace
+} // namespace orvane::layout
