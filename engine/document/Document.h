@@ -406,6 +406,9 @@ struct Note {
     Origin origin;
 };
 
+/// How footnotes are counted; endnotes go on through the whole document.
+enum class NoteCount : std::uint8_t { Continuous, EachPage };
+
 struct Comment {
     std::string author;
     std::string date;     ///< ISO 8601
@@ -422,6 +425,7 @@ struct Document {
     std::vector<Style> styles;         ///< the first is the default paragraph style
     std::vector<Numbering> numberings;
     std::vector<Note> notes;
+    NoteCount footnoteCount = NoteCount::Continuous;
     std::vector<Comment> comments;
     std::vector<Section> sections;     ///< at least one
 };

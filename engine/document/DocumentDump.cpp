@@ -147,6 +147,8 @@ public:
             dumpNumbering(i);
         for (const Section& section : m_document.sections)
             dumpSection(section);
+        if (m_document.footnoteCount == NoteCount::EachPage)
+            line("footnotes count on each page");
         for (std::size_t i = 0; i < m_document.notes.size(); ++i) {
             line(fmt::format("note {}", i));
             dumpBlocks(m_document.notes[i].blocks);

@@ -116,6 +116,7 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     findSpacing(flows.flows(), document.styles, assembly);
     document.sections = flows.takeSections();
     document.notes = flows.takeNotes();
+    document.footnoteCount = draft.footnoteCount;
     return document;
 }
 

@@ -118,6 +118,7 @@ struct DocumentDraft {
     std::vector<DraftBlock> blocks;
     std::vector<DraftNumbering> numberings;
     std::vector<DraftNote> notes;
+    document::NoteCount footnoteCount = document::NoteCount::Continuous;
     std::vector<DraftNoteReference> noteReferences;
     std::vector<Rect> noteAreas;        ///< for each of the document's pages: the part that notes take, empty for none
     std::vector<DraftSection> sections; ///< at least one once SectionMaker has run

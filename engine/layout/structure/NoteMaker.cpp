@@ -6,10 +6,14 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvane::layout {
 namespace {
+
+using document::NoteCount;
+using document::NoteKind;
 
 std::string romanNumeral(int number) {
     static constexpr std::pair<int, const char*> kParts[] = {{100, "c"}, {90, "xc"}, {50, "l"}, {40, "xl"}, {10, "x"},
@@ -24,10 +28,16 @@ std::string romanNumeral(int number) {
 /// Counts notes as word processors do: footnotes in figures, endnotes in small Roman numerals.
 class MarkCounter {
 public:
+    explicit MarkCounter(NoteCount footnotes)
+        : m_footnotes(footnotes) {}
+
     bool isCounted(const FoundNote& note) {
-        int& next = note.kind == document::NoteKind::Footnote ? m_footnote : m_endnote;
+        if (m_footnotes == NoteCount::EachPage && note.referencePage != m_page)
+            m_footnote = 1;
+        m_page = note.referencePage;
+        int& next = note.kind == NoteKind::Footnote ? m_footnote : m_endnote;
         const bool isFigure = note.mark == fmt::format("{}", next);
-        const bool isNumeral = note.kind == document::NoteKind::Endnote && note.mark == romanNumeral(next);
+        const bool isNumeral = note.kind == NoteKind::Endnote && note.mark == romanNumeral(next);
         if (!isFigure && !isNumeral)
             return false;
         ++next;
@@ -35,15 +45,30 @@ public:
     }
 
 private:
+    NoteCount m_footnotes;
+    std::size_t m_page = 0;
     int m_footnote = 1;
     int m_endnote = 1;
 };
+
+std::size_t countedWith(NoteCount count, const std::vector<FoundNote>& notes) {
+    MarkCounter counter(count);
+    return static_cast<std::size_t>(std::count_if(
+        notes.begin(), notes.end(), [&counter](const FoundNote& note) { return counter.isCounted(note); }));
+}
+
+/// The way of counting that gives more of the marks.
+NoteCount findCount(const std::vector<FoundNote>& notes) {
+    return countedWith(NoteCount::EachPage, notes) > countedWith(NoteCount::Continuous, notes) ? NoteCount::EachPage
+                                                                                               : NoteCount::Continuous;
+}
 
 } // namespace
 
 void makeNotes(DocumentDraft& draft, FoundNotes found, const DocumentContext& context,
                const LayoutParameters& parameters, Diagnostics& diagnostics) {
-    MarkCounter counter;
+    draft.footnoteCount = findCount(found.notes);
+    MarkCounter counter(draft.footnoteCount);
     for (FoundNote& note : found.notes) {
         DraftNote made;
         made.kind = note.kind;

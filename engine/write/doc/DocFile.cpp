@@ -37,7 +37,8 @@ std::vector<WrittenSection> writeBody(DocState& state) {
     for (std::size_t i = 0; i < sections.size(); ++i) {
         writeBlocks(story, sections[i].blocks);
         endParagraph(story, i + 1 == sections.size() ? ParagraphEnd::Paragraph : ParagraphEnd::Section);
-        written.push_back({state.body.length(), sectionProperties(sections[i], state.diagnostics)});
+        written.push_back(
+            {state.body.length(), sectionProperties(sections[i], state.document.footnoteCount, state.diagnostics)});
     }
     // The last paragraph mark of these texts belongs to no note, no comment and no box.
     for (NoteTexts* notes : {&state.footnotes, &state.endnotes})
@@ -225,7 +226,8 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.addTail(lists.levels);
     table.add(TablePart::ListReferences, lists.references);
     table.add(TablePart::Fonts, state.fonts.table());
-    table.add(TablePart::DocumentProperties, documentProperties(running.hasEvenPages ? Pages::Facing : Pages::Alike));
+    table.add(TablePart::DocumentProperties,
+              documentProperties(running.hasEvenPages ? Pages::Facing : Pages::Alike, state.document.footnoteCount));
     table.add(TablePart::Pieces, pieces(text.length()));
 
     const TextLengths lengths{state.body.length(),          state.footnotes.text.length(),

@@ -14,6 +14,7 @@ constexpr std::size_t kPropertiesSize = 544; // Source: [MS-DOC] 2.7.6 (Dop2000)
 constexpr int kFacingPages = 0x01;
 constexpr int kNotesAtPageBottom = 1 << 5;
 constexpr int kFirstNote = 1 << 2;
+constexpr int kCountsOnEachPage = 2; ///< Source: [MS-DOC] 2.7.2 (DopBase, rncFtn)
 constexpr int kDefaultTab = 720;
 constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
@@ -79,9 +80,10 @@ std::string propertySet(const std::vector<Property>& properties) {
 
 } // namespace
 
-std::string documentProperties(Pages pages) {
+std::string documentProperties(Pages pages, document::NoteCount footnotes) {
     Bytes bytes;
-    bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0)).u16(kFirstNote).zeros(4);
+    bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0));
+    bytes.u16(kFirstNote | (footnotes == document::NoteCount::EachPage ? kCountsOnEachPage : 0)).zeros(4);
     bytes.u16(kJustifiesLinesThatBreak).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
     bytes.u16(kFirstNote).u16(kEndnotesAtDocumentEnd | kLowerRoman << kLowerRomanPlace).zeros(82 - bytes.size());
     bytes.u16(kSize100).u16(kJustifiesLinesThatBreak).zeros(kNoteNumbers - bytes.size());

@@ -10,7 +10,7 @@ enum class Pages { Alike, Facing };
 
 /// What holds for the whole document: kinds of pages, notes, tabulators.
 /// Source: [MS-DOC] 2.7.6 (Dop2000).
-std::string documentProperties(Pages pages);
+std::string documentProperties(Pages pages, document::NoteCount footnotes);
 
 /// What the document says of itself, as a property set. No date but the document's own is written.
 /// Source: [MS-OLEPS] 2.21 (PropertySetStream), 3.1 (summary information).

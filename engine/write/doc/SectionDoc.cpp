@@ -16,6 +16,7 @@ constexpr int kSmallestPage = 144;
 constexpr int kLandscape = 2;
 constexpr int kDownwards = 1;
 constexpr int kUsualSpace = 720;
+constexpr int kCountsOnEachPage = 2; ///< Source: [MS-DOC] 2.6.4 (sprmSRncFtn)
 
 /// Source: [MS-DOC] 2.6.4 (sprmSBkc).
 int startNumber(SectionStart start) {
@@ -76,7 +77,7 @@ void addPageNumbers(PropertyList& list, const Section& section) {
 
 } // namespace
 
-std::string sectionProperties(const Section& section, Diagnostics& diagnostics) {
+std::string sectionProperties(const Section& section, NoteCount footnotes, Diagnostics& diagnostics) {
     if (std::max(section.pageWidth.value, section.pageHeight.value) > kLargestPage)
         diagnostics.add(DiagnosticKind::FormatLimitReached, 0,
                         "a page is larger than 22 inches, the most that word processors take, and was cut to that");
@@ -94,6 +95,8 @@ std::string sectionProperties(const Section& section, Diagnostics& diagnostics) 
     list.add(sprm::kSDyaBottom, margin(section.marginBottom, -kLargestPage));
     list.add(sprm::kSDyaHdrTop, margin(section.headerDistance));
     list.add(sprm::kSDyaHdrBottom, margin(section.footerDistance));
+    if (footnotes == NoteCount::EachPage)
+        list.add(sprm::kSRncFtn, kCountsOnEachPage);
     if (section.isRightToLeft)
         list.add(sprm::kSFBiDi, 1);
     if (section.hasVerticalText)

@@ -107,6 +107,7 @@ inline constexpr std::uint16_t kSDxaLeft = 0xB021;
 inline constexpr std::uint16_t kSDxaRight = 0xB022;
 inline constexpr std::uint16_t kSDyaTop = 0x9023;
 inline constexpr std::uint16_t kSDyaBottom = 0x9024;
+inline constexpr std::uint16_t kSRncFtn = 0x303C;
 inline constexpr std::uint16_t kSTextFlow = 0x5033;
 inline constexpr std::uint16_t kSDxaColWidth = 0xF203;
 inline constexpr std::uint16_t kSDxaColSpacing = 0xF204;

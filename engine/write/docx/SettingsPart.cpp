@@ -9,8 +9,12 @@ namespace {
 /// The edition whose layout rules hold. Later rules place tables and lines as a new document has them.
 constexpr const char* kCompatibilityMode = "15";
 
-void writeSeparators(XmlWriter& xml, std::string_view properties, std::string_view note) {
+void writeNoteProperties(XmlWriter& xml, std::string_view properties, std::string_view note,
+                         document::NoteCount count) {
     const XmlElement element(xml, properties);
+    if (count == document::NoteCount::EachPage)
+        xml.leaf("w:numRestart", {{"w:val", "eachPage"}});
+    // The lines that separate notes from the text.
     xml.leaf(note, {{"w:id", -1}});
     xml.leaf(note, {{"w:id", 0}});
 }
@@ -40,9 +44,9 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
         xml.leaf("w:evenAndOddHeaders");
     xml.leaf("w:characterSpacingControl", {{"w:val", "doNotCompress"}});
     if (hasNotes(state.document, document::NoteKind::Footnote))
-        writeSeparators(xml, "w:footnotePr", "w:footnote");
+        writeNoteProperties(xml, "w:footnotePr", "w:footnote", state.document.footnoteCount);
     if (hasNotes(state.document, document::NoteKind::Endnote))
-        writeSeparators(xml, "w:endnotePr", "w:endnote");
+        writeNoteProperties(xml, "w:endnotePr", "w:endnote", document::NoteCount::Continuous);
     writeCompatibility(xml);
     xml.leaf("w:decimalSymbol", {{"w:val", "."}});
     xml.leaf("w:listSeparator", {{"w:val", ","}});

@@ -57,6 +57,8 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     // So is it that of the spaces below one paragraph and above the next the larger counts.
     rtf.word("htmautsp");
     rtf.word("ftnbj");
+    if (state.document.footnoteCount == document::NoteCount::EachPage)
+        rtf.word("ftnrstpg");
     rtf.word("aenddoc");
     rtf.word("aftnnrlc");
     rtf.word("fet", noteKinds(state.document));

@@ -87,6 +87,8 @@ void writeSectionProperties(RtfState& state, RtfStream& rtf, const Section& sect
             DiagnosticKind::FormatLimitReached, 0,
             "a page is larger than 22 inches, the most that word processors take, and was cut to that");
     rtf.word("sectd");
+    if (state.document.footnoteCount == NoteCount::EachPage)
+        rtf.word("sftnrstpg");
     rtf.word(section.isRightToLeft ? "rtlsect" : "ltrsect");
     rtf.word(wordFor(section.start));
     rtf.word("pgwsxn", pageLength(section.pageWidth));

@@ -84,6 +84,15 @@ TEST(DocFile, IsRefusedWhereNothingCanBeWritten) {
     }
 }
 
+TEST(DocFile, CountsNotesOnEachPage) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDoc(document).read().table(31).substr(2, 2), std::string("\x4\0", 2));
+    document.footnoteCount = NoteCount::EachPage;
+    const WrittenDoc doc(document);
+    EXPECT_EQ(doc.read().table(31).substr(2, 2), std::string("\x6\0", 2)) << "for the document";
+    EXPECT_THAT(bytesOf(doc.file()), HasSubstr(std::string("\x3C\x30\x2", 3))) << "and for its section";
+}
+
 TEST(DocFile, IsWholeWithoutSectionsAndStyles) {
     EXPECT_EQ(WrittenDoc(Document{}).read().text(), "\\0d");
 }

@@ -45,6 +45,16 @@ TEST(Notes, AreSetOffByLinesThatTheSettingsName) {
     EXPECT_EQ(written.part("word/footnotes.xml"), "");
 }
 
+TEST(Notes, CountOnEachPageWhereTheSettingsSaySo) {
+    Document document = documentOf(paragraph({noteMark(0), noteMark(1)}));
+    document.notes = {note("foot"), note("end", NoteKind::Endnote)};
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:numRestart"), "");
+    document.footnoteCount = NoteCount::EachPage;
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//*[w:numRestart/@w:val='eachPage']"),
+              normalXml("<w:footnotePr><w:numRestart w:val='eachPage'/><w:footnote w:id='-1'/><w:footnote w:id='0'/>"
+                        "</w:footnotePr>"));
+}
+
 TEST(Notes, KeepTheirOwnMarks) {
     Document document = documentOf(paragraph({noteMark(0, "*")}));
     document.notes = {note("starred")};

@@ -33,6 +33,14 @@ TEST(RtfSection, HasItsPageAndNumbers) {
                   "\\headery720\\footery720\\pgnlcrm\\pgnstarts5\\pgnrestart"));
 }
 
+TEST(RtfSection, CountsNotesOnEachPage) {
+    Document document = documentOf("a");
+    EXPECT_FALSE(WrittenRtf(document).has("\\ftnrstpg"));
+    document.footnoteCount = NoteCount::EachPage;
+    EXPECT_TRUE(WrittenRtf(document).has("\\ftnrstpg"));
+    EXPECT_TRUE(WrittenRtf(document).has("\\sftnrstpg"));
+}
+
 TEST(RtfSection, HasRunningTextsForKindsOfPages) {
     Document document = documentOf("a");
     Section& page = document.sections[0];
