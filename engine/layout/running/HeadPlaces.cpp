@@ -7,9 +7,6 @@
 namespace orvane::layout {
 namespace {
 
-constexpr std::size_t kLongestFoot = 3;    ///< rows of a foot that only the first page has
-constexpr double kDeepestFoot = 120;       ///< points; the text of full pages ends no farther from the edge
-constexpr double kFullPage = 2;            ///< of the font size; full pages end within this of each other
 constexpr std::ptrdiff_t kFewestAlike = 2; ///< pages whose heads show the place of one that says something else
 
 /// How many of the ascending values lie in the range.
@@ -20,11 +17,6 @@ std::ptrdiff_t countBetween(const std::vector<double>& sorted, double from, doub
 /// More than one page, and enough of them against those that have a head.
 bool isMany(std::ptrdiff_t pages, std::ptrdiff_t pagesWithHead, double share) {
     return pages > 1 && static_cast<double>(pages) >= share * static_cast<double>(pagesWithHead);
-}
-
-/// Where the text of the page starts, seen from the edge; infinite when nothing is near.
-double textStart(const EdgeRows& edge) {
-    return edge.taken < edge.rows.size() ? edge.rows[edge.taken].fromEdge : std::numeric_limits<double>::infinity();
 }
 
 bool standsAlike(const RunningRow& a, const RunningRow& b, const RunningParameters::RunningHeads& limits) {
@@ -43,6 +35,10 @@ bool isSetApart(const RunningRow& row, const RunningRow& next, const RunningPara
 }
 
 } // namespace
+
+double textStart(const EdgeRows& edge) {
+    return edge.taken < edge.rows.size() ? edge.rows[edge.taken].fromEdge : std::numeric_limits<double>::infinity();
+}
 
 void trimTaken(EdgeRows& edge, std::size_t count) {
     edge.taken = std::min(edge.taken, count);
@@ -98,31 +94,6 @@ void takeOwnHeads(std::vector<EdgeRows>& edges, const RunningParameters::Running
             continue;
         edge.matches[0] = RowMatch::Text;
         edge.taken = 1;
-    }
-}
-
-void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters) {
-    EdgeRows& first = edges.front();
-    if (first.taken > 0)
-        return;
-    std::vector<double> texts;
-    for (std::size_t i = 1; i < edges.size(); ++i)
-        texts.push_back(textStart(edges[i]));
-    for (std::size_t count = 1; count <= std::min(first.rows.size(), kLongestFoot); ++count) {
-        const RunningRow& last = first.rows[count - 1];
-        std::vector<double> starts = texts;
-        if (count < first.rows.size())
-            starts.push_back(first.rows[count].fromEdge);
-        std::sort(starts.begin(), starts.end());
-        const double end = last.fromEdge + last.box.height();
-        // Several pages that are full to the same height show where the text ends.
-        const auto full = countBetween(starts, starts.front(), starts.front() + kFullPage * last.fontSize);
-        if (full < kFewestAlike || starts.front() > kDeepestFoot ||
-            end + parameters.ownFootGap * last.fontSize > starts.front())
-            continue;
-        std::fill_n(first.matches.begin(), count, RowMatch::Text);
-        first.taken = count;
-        return;
     }
 }
 

@@ -14,9 +14,8 @@ void leaveTextPlaces(std::vector<EdgeRows>& edges, const RunningParameters::Runn
 /// text: a first page often has a head of its own.
 void takeOwnHeads(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters);
 
-/// Takes the rows at the foot of the first page that stand below where all pages end their text: the first page often
-/// has a foot of its own where others have none. `edges` holds the bottoms of all pages.
-void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters);
+/// Where the text of the page starts, seen from the edge; infinite when nothing is near.
+double textStart(const EdgeRows& edge);
 
 /// Lets go of the last `taken` rows down to `count`, and of those before that agree with no other page.
 void trimTaken(EdgeRows& edge, std::size_t count);

@@ -1,6 +1,7 @@
 #include "layout/running/RunningHeads.h"
 
 #include "layout/running/EdgeRows.h"
+#include "layout/running/FirstPageEdges.h"
 #include "layout/running/HeadPlaces.h"
 #include "layout/running/RepeatedFigures.h"
 
@@ -190,22 +191,34 @@ int greatest(const std::vector<std::optional<PageNumber>>& numbers) {
     return last;
 }
 
-} // namespace
-
-std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const RunningParameters& parameters) {
-    std::vector<PageRunningHeads> heads(pages.size());
-    if (pages.size() < 2)
-        return heads;
-    const RunningParameters::RunningHeads& limits = parameters.runningHeads;
-    std::vector<EdgeRows> tops = readEdgeRows(pages, PageEdge::Top, limits);
-    std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
-    const auto numbers = readPageNumbers(tops, bottoms);
+void takeRepeated(std::vector<EdgeRows>& tops, std::vector<EdgeRows>& bottoms,
+                  const std::vector<std::optional<PageNumber>>& numbers, const std::vector<PageText>& pages,
+                  const RunningParameters::RunningHeads& limits) {
     for (auto* edges : {&tops, &bottoms}) {
         leaveOtherNumbers(*edges, numbers);
         leaveTextPlaces(*edges, limits);
         takeOwnHeads(*edges, limits);
     }
     takeFirstFoot(bottoms, limits);
+    takeFirstHead(tops, pages, limits);
+}
+
+} // namespace
+
+std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const RunningParameters& parameters) {
+    std::vector<PageRunningHeads> heads(pages.size());
+    if (pages.empty())
+        return heads;
+    const RunningParameters::RunningHeads& limits = parameters.runningHeads;
+    std::vector<EdgeRows> tops = readEdgeRows(pages, PageEdge::Top, limits);
+    std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
+    auto numbers = readPageNumbers(tops, bottoms);
+    if (pages.size() == 1) {
+        if (takeOnlyNumber(bottoms[0], pages[0], limits) || takeOnlyNumber(tops[0], pages[0], limits))
+            numbers[0] = PageNumber{1, document::NumberFormat::Decimal};
+    } else {
+        takeRepeated(tops, bottoms, numbers, pages, limits);
+    }
 
     std::vector<PageEdges> edges;
     std::vector<BodyRange> bodies;

@@ -20,6 +20,9 @@ struct RunningParameters {
         double sameSide = 12.0;    ///< points; distances to both sides of the page that differ by less: a centred row
         double sidePart = 5.0;     ///< points; a rule this far within a row crosses it
         double ownFootGap = 1.5;   ///< of the font size; between a foot that only the first page has and all text
+        double ownHeadGap =
+            1.0; ///< of the font size; likewise between a head that only the first page has and the text
+        double onlyNumberReach = 0.1; ///< of the page's height; within which the only page's "1 of 1" stands
         double textShare =
             0.25; ///< of the pages with a head; where as many others start their text in its place, it is text
         double bodilessShare = 0.5; ///< of the pages; where more would be left empty, what repeats is the text

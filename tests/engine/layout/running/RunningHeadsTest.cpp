@@ -195,6 +195,63 @@ TEST(RunningHeads, TakesAFootThatOnlyTheFirstPageHas) {
     }
 }
 
+/// Four pages of text from 92 points on, the first with these lines on it.
+std::vector<PageText> pagesWithLetterhead(const std::vector<Line>& lines) {
+    return pagesWith(4, [&](PageText& page, int number) {
+        for (const Line& line : lines)
+            if (number == 1)
+                page.lines.push_back(line);
+    });
+}
+
+TEST(RunningHeads, TakesALetterheadThatStandsAboveThePlaceOfAllText) {
+    const struct {
+        const char* why;
+        std::vector<Line> lines;
+        const char* header;
+    } rows[] = {{"above it", {makeLine("The firm", 72, 40), makeLine("its street", 72, 52)}, "The firm|its street"},
+                {"with a gap", {makeLine("The firm", 72, 40), makeLine("its street", 72, 70)}, "The firm|its street"},
+                {"running on into the text", {makeLine("The firm", 72, 76), makeLine("its street", 72, 88)}, ""},
+                {"not higher than the text", {makeLine("The firm", 72, 95)}, ""},
+                {"a title", {makeLine("The report", 72, 50, {.size = 20})}, ""}};
+    for (const auto& row : rows) {
+        auto pages = pagesWithLetterhead(row.lines);
+        const auto heads = takeRunningHeads(pages, {});
+        EXPECT_EQ(linesOf(heads[0].header), row.header) << row.why;
+        EXPECT_FALSE(heads[1].header) << row.why;
+    }
+}
+
+TEST(RunningHeads, TakesALetterheadWithWhatIsInItsFrame) {
+    auto pages = pagesWith(4, [](PageText& page, int number) {
+        if (number == 1) {
+            page.lines = {makeLine("The firm", 80, 60), makeLine("Made by", 300, 60), makeLine("Date", 300, 110),
+                          makeLine("Text", 72, 160), makeLine("and more", 72, 172)};
+            for (const double x : {72.0, 290.0, 500.0})
+                page.rules.push_back(
+                    {RuleDirection::Vertical, x, 40, 130, 0.5, {}, document::BorderKind::Single, false, 0});
+        }
+    });
+    EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].header), "The firm|Made by|Date");
+    EXPECT_EQ(pages[0].lines.size(), 2u);
+}
+
+TEST(RunningHeads, LeavesATitleWhereLogosPushTheTextOfOtherPagesDown) {
+    auto pages = pagesWithLetterhead({makeLine("The statutes", 72, 40)});
+    for (std::size_t i = 1; i < pages.size(); ++i) {
+        Figure logo;
+        logo.box = {250, 30, 350, 80};
+        pages[i].figures.push_back(logo);
+    }
+    EXPECT_FALSE(takeRunningHeads(pages, {})[0].header);
+}
+
+TEST(RunningHeads, LeavesALetterheadWhereOtherPagesBeginAsHigh) {
+    auto pages = pagesWithLetterhead({makeLine("The firm", 72, 40)});
+    pages[2].lines.push_back(makeLine("text from the top", 72, 42));
+    EXPECT_FALSE(takeRunningHeads(pages, {})[0].header);
+}
+
 TEST(RunningHeads, SayAnotherThingWithAnotherNumberThatDoesNotCount) {
     auto pages = pagesWith(6, [](PageText& page, int number) {
         page.lines.push_back(makeLine(fmt::format("Chapter {}\t{}", number < 4 ? 1 : 2, number), 72, 50));
@@ -241,6 +298,21 @@ TEST(RunningHeads, LeavesSinglePagesAlone) {
     auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("1", 290, 800)); });
     EXPECT_FALSE(takeRunningHeads(pages, {})[0].footer);
     EXPECT_EQ(pages[0].lines.size(), 31u);
+}
+
+TEST(RunningHeads, KnowsTheNumberOfASinglePage) {
+    const struct {
+        const char* text;
+        std::size_t fields;
+    } rows[] = {
+        {"Page 1 of 1", 2}, {"1/1", 2}, {"- 1 | 1", 2}, {"Page 1 of 2", 0}, {"Article 1 of law 1 is in force", 0},
+        {"1 a 1 b", 0}};
+    for (const auto& row : rows) {
+        auto pages = pagesWith(1, [&](PageText& page, int) { page.lines.push_back(makeLine(row.text, 290, 800)); });
+        const auto heads = takeRunningHeads(pages, {});
+        EXPECT_EQ(heads[0].footer ? heads[0].footer->fields.size() : 0, row.fields) << row.text;
+        EXPECT_EQ(pages[0].lines.size(), row.fields > 0 ? 30u : 31u) << row.text;
+    }
 }
 
 TEST(RunningHeads, NeverEatsTextThatOnlyLooksAlike) {
