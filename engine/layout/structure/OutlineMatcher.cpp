@@ -5,6 +5,7 @@
 #include "layout/text/LineText.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -18,14 +19,48 @@ struct FlatEntry {
     std::string bareTitle; ///< without its number
     int page = 0;
     int level = 1;
+    std::size_t numberDepth = 0;
 };
+
+/// How many numbers an entry starts with: 2 for "3.1 Aims", 0 without any.
+std::size_t numberDepth(const std::string& title) {
+    std::size_t depth = 0;
+    const auto isDigit = [&title](std::size_t i) { return i < title.size() && title[i] >= '0' && title[i] <= '9'; };
+    for (std::size_t i = 0; isDigit(i); ++i) {
+        ++depth;
+        while (isDigit(i))
+            ++i;
+        if (i == title.size() || title[i] != '.')
+            break;
+    }
+    return depth;
+}
 
 void flatten(const std::vector<pdf::OutlineEntry>& entries, int level, std::vector<FlatEntry>& flat) {
     for (const pdf::OutlineEntry& entry : entries) {
-        flat.push_back({comparable(entry.title), comparableWithoutNumber(entry.title), entry.destination.page,
-                        std::min(level, kDeepestLevel)});
+        flat.push_back({comparable(entry.title), comparableWithoutNumber(entry.title), entry.destination.page, level,
+                        numberDepth(entry.title)});
         flatten(entry.children, level + 1, flat);
     }
+}
+
+/// Whether entries with as many numbers mostly stand on one level; some producers nest each below the one before.
+bool agreesWithNumbers(const std::vector<FlatEntry>& entries) {
+    constexpr std::size_t kFewest = 5;
+    std::map<std::size_t, std::map<int, std::size_t>> levels; // by depth of number: entries on each level
+    std::size_t numbered = 0, agreeing = 0;
+    for (const FlatEntry& entry : entries)
+        if (entry.numberDepth > 0)
+            ++levels[entry.numberDepth][entry.level];
+    for (const auto& [depth, counts] : levels) {
+        std::size_t most = 0;
+        for (const auto& [level, count] : counts) {
+            numbered += count;
+            most = std::max(most, count);
+        }
+        agreeing += most;
+    }
+    return numbered < kFewest || 2 * agreeing >= numbered;
 }
 
 bool reads(const std::string& text, const FlatEntry& entry) {
@@ -80,7 +115,7 @@ private:
 
     static void makeHeading(DraftParagraph& paragraph, const FlatEntry& entry) {
         paragraph.role = ParagraphRole::Heading;
-        paragraph.level = entry.level;
+        paragraph.level = std::min(entry.level, kDeepestLevel);
     }
 
     bool isOnPage(const DraftBlock& block, const FlatEntry& entry) const {
@@ -186,6 +221,8 @@ private:
 OutlineMatch matchOutline(DocumentDraft& draft, const std::vector<pdf::OutlineEntry>& outline) {
     std::vector<FlatEntry> entries;
     flatten(outline, 1, entries);
+    if (!agreesWithNumbers(entries))
+        return {};
     DocumentDraft marked = draft;
     Matcher matcher(marked);
     OutlineMatch match;

@@ -19,7 +19,7 @@ struct OutlineMatch {
 
 /// Makes headings of the paragraphs that the outline's entries lead to and that read like them; their level is the
 /// entry's depth. A heading that was taken for part of a longer paragraph, or for several, becomes one. Nothing is
-/// changed when the outline is not trustworthy.
+/// changed when the outline is not trustworthy, or its levels have nothing to do with the numbers of its entries.
 OutlineMatch matchOutline(DocumentDraft& draft, const std::vector<pdf::OutlineEntry>& outline);
 
 } // namespace orvane::layout

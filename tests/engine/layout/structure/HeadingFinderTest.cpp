@@ -132,6 +132,20 @@ TEST(HeadingFinder, CutsAHeadingOutOfAParagraph) {
     EXPECT_EQ(textOf(*draft.blocks[2].paragraph()), "Text below");
 }
 
+TEST(HeadingFinder, DistrustsAnOutlineWhoseLevelsContradictItsNumbers) {
+    DocumentDraft draft = draftWith({{"1. Aims", kBold},
+                                     {"1.1 First sentence", {.size = 10}},
+                                     {"1.2 Second sentence", {.size = 10}},
+                                     {"1.3 Third sentence", {.size = 10}},
+                                     {"2. Means", kBold}});
+    DocumentFacts facts;
+    facts.outline = {entry("1. Aims"),
+                     entry("1.1 First sentence",
+                           {entry("1.2 Second sentence", {entry("1.3 Third sentence", {entry("2. Means")})})})};
+    find(draft, facts);
+    EXPECT_EQ(headingsOf(draft), "1. Aims 1|2. Means 1");
+}
+
 TEST(HeadingFinder, DistrustsAnOutlineThatTheTextDoesNotHave) {
     DocumentDraft draft = draftWith({{"Aims", kBold}, {"Means", kBold}});
     DocumentFacts facts;
