@@ -46,8 +46,15 @@ std::u32string givenMeaning(const GfxFont& font, std::uint32_t code) {
 /// guess, and letters stand at their own codes.
 std::u32string fromPrivateDouble(std::uint8_t code) {
     switch (code) {
+    case 0x9E:
+    case 0x9F:
+        return U"\u2022";
     case 0xA7:
         return U"\u25AA";
+    case 0xB0:
+        return U"\u00B0";
+    case 0xB1:
+        return U"\u00B1";
     case 0xB7:
         return U"\u2022";
     case 0xD8:

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -59,8 +60,12 @@ void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& fon
 std::u32string textOf(const pdf::Glyph& glyph, const pdf::Font& font) {
     if (glyph.unicode.empty())
         return {kUnknownCharacter};
-    if (font.name.starts_with("OpenSymbol") && glyph.unicode.size() == 1 && glyph.unicode[0] > U' ' &&
-        glyph.unicode[0] < 0x100)
+    constexpr std::u32string_view kOwnSigns = U"\u00B0\u00B1"; // said as they are meant
+    const bool isOpenSymbol = font.name.starts_with("OpenSymbol") && glyph.unicode.size() == 1;
+    if (isOpenSymbol && glyph.unicode[0] == U'\u00B7')
+        return U"\u2022"; // what the font Symbol has there
+    if (isOpenSymbol && glyph.unicode[0] > U' ' && glyph.unicode[0] < 0x100 &&
+        kOwnSigns.find(glyph.unicode[0]) == std::u32string_view::npos)
         if (const char32_t sign =
                 pdf::symbolCharacter(pdf::SymbolFont::Wingdings, static_cast<std::uint8_t>(glyph.unicode[0])))
             return {sign};

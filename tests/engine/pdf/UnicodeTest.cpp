@@ -116,12 +116,13 @@ TEST(Unicode, OfSignFontsIsWhatIsSeen) {
 
 TEST(Unicode, OfPrivateBulletsIsABullet) {
     PdfBuilder builder;
-    const int map = builder.addStream("", toUnicode("<41> <F0B7> <42> <F0A7> <43> <F041>\n", 3, "<00> <FF>"));
+    const int map = builder.addStream(
+        "", toUnicode("<41> <F0B7> <42> <F0A7> <43> <F041> <44> <F09E> <45> <F0B0>\n", 5, "<00> <FF>"));
     EXPECT_EQ(textIn(builder,
                      "<< /Type /Font /Subtype /TrueType /BaseFont /Unknown /ToUnicode " + pdfRef(map) +
-                         " /FirstChar 65 /LastChar 67 /Widths [500 500 500] >>",
-                     "(ABC)"),
-              "•▪A");
+                         " /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
+                     "(ABCDE)"),
+              "•▪A•°");
 }
 
 TEST(Unicode, ThatStaysUnknownIsEmptyAndTold) {

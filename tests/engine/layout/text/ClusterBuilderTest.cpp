@@ -83,7 +83,9 @@ TEST(ClusterBuilder, ReadsSignsThatAreCalledLetters) {
     }());
     page.text(72, 100, "l", 12, {.font = signs});
     page.text(90, 100, "item", 12);
-    EXPECT_THAT(linesOf(page), ElementsAre("\u25CF\titem"));
+    page.text(72, 130, "\u00B7", 12, {.font = signs});
+    page.text(96, 130, "item", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u25CF\titem", "\u2022\titem"));
 }
 
 TEST(ClusterBuilder, KeepsUnknownCharactersAsSuch) {
