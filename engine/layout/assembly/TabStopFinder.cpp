@@ -1,5 +1,7 @@
 #include "layout/assembly/TabStopFinder.h"
 
+#include "layout/text/LineText.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -22,7 +24,7 @@ std::vector<Segment> segmentsOf(const Line& line, const ColumnSpan& column, std:
         const Word& word = line.words[i];
         const double start = line.isRightToLeft ? column.right - word.box.right : word.box.left - column.left;
         const double end = line.isRightToLeft ? column.right - word.box.left : word.box.right - column.left;
-        if (i > 0 && word.gapBefore == Gap::Tab)
+        if (i > 0 && isTabulator(word))
             segments.push_back({start, end, word.leaderBefore});
         else if (!segments.empty())
             segments.back().end = end;

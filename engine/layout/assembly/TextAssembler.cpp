@@ -176,7 +176,7 @@ private:
                                   m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined);
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
-        if (position == Position::WithinLine && word.gapBefore == Gap::Tab)
+        if (position == Position::WithinLine && isTabulator(word))
             m_builder.add({document::Tab{blankBefore(properties)}}, gapLink);
         else if (join == LineJoin::Blank)
             m_builder.addText(blanksBefore(word, position), blankBefore(properties), gapLink);
@@ -186,7 +186,9 @@ private:
 
     /// Behind a line's end one blank is enough: more of them are not seen there.
     static std::string blanksBefore(const Word& word, Position position) {
-        return std::string(position == Position::WithinLine ? static_cast<std::size_t>(word.blanksBefore) : 1, ' ');
+        if (position == Position::StartsLine)
+            return " ";
+        return utf8FromUtf32(std::u32string(static_cast<std::size_t>(word.blanksBefore), word.blankBefore));
     }
 
     RunProperties blankBefore(const RunProperties& properties) const {

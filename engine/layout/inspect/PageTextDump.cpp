@@ -1,5 +1,7 @@
 #include "layout/inspect/PageTextDump.h"
 
+#include "layout/text/LineText.h"
+
 #include <fmt/format.h>
 
 #include <iterator>
@@ -85,6 +87,8 @@ std::string gapText(const Word& word) {
     case Gap::Tab:
         break;
     }
+    if (!isTabulator(word))
+        return fmt::format(" \u00B7{} ", word.blanksBefore);
     return fmt::format(" \u2192{} ", leaderText(word.leaderBefore));
 }
 

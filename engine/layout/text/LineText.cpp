@@ -54,4 +54,9 @@ bool meetOtherScript(char32_t left, char32_t right) {
     return isWord(left) && isWord(right) && isWithoutBlanks(left) != isWithoutBlanks(right);
 }
 
+bool isTabulator(const Word& word) {
+    const bool isTyped = word.isTypedBefore && word.blanksBefore > 1 && word.leaderBefore == document::TabLeader::None;
+    return word.gapBefore == Gap::Tab && !isTyped;
+}
+
 } // namespace orvane::layout

@@ -23,4 +23,7 @@ bool isWithoutBlanks(char32_t character);
 /// True between a letter or digit of such a script and one of another.
 bool meetOtherScript(char32_t left, char32_t right);
 
+/// A gap as wide as a tabulator makes it that was not typed with blanks.
+bool isTabulator(const Word& word);
+
 } // namespace orvane::layout

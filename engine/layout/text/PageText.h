@@ -56,7 +56,9 @@ struct Word {
     std::vector<Span> spans;
     Rect box;
     Gap gapBefore = Gap::Space;
-    int blanksBefore = 1;            ///< of a Gap::Space: some people type two after a full stop
+    int blanksBefore = 1;            ///< some people type two after a full stop, or many in place of a tabulator
+    char32_t blankBefore = U' ';     ///< of which kind they are
+    bool isTypedBefore = false;      ///< blanks fill the gap, be it as wide as a Gap::Tab
     document::TabLeader leaderBefore = document::TabLeader::None; ///< what fills a Gap::Tab
     bool isRightToLeft = false;
 };

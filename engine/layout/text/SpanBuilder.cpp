@@ -116,6 +116,8 @@ std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, co
             words.emplace_back();
             words.back().gapBefore = cluster.gapBefore.kind;
             words.back().blanksBefore = cluster.gapBefore.blanks;
+            words.back().blankBefore = cluster.gapBefore.blank;
+            words.back().isTypedBefore = cluster.gapBefore.isTyped;
             words.back().leaderBefore = cluster.gapBefore.leader;
         } else if (!collector.takes(cluster, isRightToLeft)) {
             finishSpan();

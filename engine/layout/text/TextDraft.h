@@ -65,7 +65,9 @@ struct ClusterGap {
     double width = 0;         ///< points along the row; negative where they overlap
     double letterSpacing = 0; ///< points; what the letters around it are apart
     bool hasBlank = false;    ///< a blank was painted in between
-    int blanks = 1;           ///< of a Gap::Space: that were painted
+    int blanks = 1;           ///< that were painted
+    char32_t blank = U' ';    ///< which was painted
+    bool isTyped = false;     ///< the blanks fill it: nothing else made it as wide as it is
     bool endsWord = false;
     Gap kind = Gap::None;
     document::TabLeader leader = document::TabLeader::None;

@@ -83,6 +83,7 @@ struct TextParameters {
         double evenness = 0.35;            ///< ...within this share of their width
         double blankShare = 0.2;           ///< of the blank; a painted blank that leaves less room than this is none
         double narrowestBlank = 0.8;       ///< of the blank; with less room for each, fewer were typed than are painted
+        double typedHole = 1;              ///< of the blank; blanks with wider holes among them do not fill their gap
         double gapAmongBlanks = 0.45;      ///< of the blank; ends a word where blanks are painted
         double gapWithoutBlanks = 0.45;    ///< of the blank; ends a word where they are not
         double scriptGap = 0.9;            ///< of the blank; between a script and its host

@@ -2,36 +2,13 @@
 
 #include "layout/text/Characters.h"
 #include "layout/text/LabelText.h"
+#include "layout/text/PaintedBlanks.h"
 
 #include <algorithm>
 #include <optional>
 
 namespace orvane::layout {
 namespace {
-
-constexpr int kMostBlanks = 1000; ///< between two words; more are a slip of whoever made the file
-
-/// Takes the blanks out, leaving a note of them at the cluster that follows.
-void takeOutBlanks(TextRow& row) {
-    std::vector<Cluster> ink;
-    ink.reserve(row.clusters.size());
-    int blanks = 0;
-    for (Cluster& cluster : row.clusters) {
-        if (isBlank(cluster.text)) {
-            blanks = std::min(kMostBlanks, blanks + static_cast<int>(cluster.text.size()));
-            continue;
-        }
-        cluster.gapBefore = {};
-        if (!ink.empty()) {
-            cluster.gapBefore.width = cluster.start - ink.back().end;
-            cluster.gapBefore.hasBlank = blanks > 0;
-            cluster.gapBefore.blanks = std::max(1, blanks);
-        }
-        blanks = 0;
-        ink.push_back(std::move(cluster));
-    }
-    row.clusters = std::move(ink);
-}
 
 /// The gap at clusters[i], with what stands on both sides.
 struct GapView {
@@ -134,8 +111,10 @@ private:
         const double beyond = view.gap().width - letterGap * view.size();
         if (view.touchesScript() && !view.gap().hasBlank)
             return beyond >= m_limits.scriptGap * view.spaceWidth();
+        // A blank that has all the room it takes is one, however far apart letters elsewhere in the row are.
         if (view.gap().hasBlank)
-            return beyond >= m_limits.blankShare * view.spaceWidth();
+            return beyond >= m_limits.blankShare * view.spaceWidth() ||
+                   view.gap().width >= m_limits.narrowestBlank * view.spaceWidth();
         if (view.gap().width < -m_limits.overprint * view.size())
             return true;
         // Word processors set Latin letters a little apart from East Asian ones.
@@ -206,7 +185,8 @@ void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
 
 std::vector<TextRow> findWordGaps(std::vector<TextRow> rows, const TextParameters& parameters, Diagnostics&) {
     for (TextRow& row : rows) {
-        takeOutBlanks(row);
+        joinStrokes(row.clusters);
+        takeOutBlanks(row, parameters.words);
         if (!row.clusters.empty())
             findGapsOf(row, parameters.words);
     }

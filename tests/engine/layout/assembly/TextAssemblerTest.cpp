@@ -38,6 +38,14 @@ TEST(TextAssembler, KeepsBlanksThatWereTypedTwice) {
     EXPECT_EQ(text(draft), "p Normal \"End.  New  end. Next\"") << "one is enough where a line ends";
 }
 
+TEST(TextAssembler, WritesBlanksThatWereTypedInPlaceOfATabulator) {
+    DocumentDraft draft = draftOf({makeLine("Class\tNames\tDate", 72, 100)});
+    Word& names = paragraphOf(draft).lines[0].words[1];
+    names.isTypedBefore = true;
+    names.blanksBefore = 4;
+    EXPECT_EQ(text(draft), "p Normal \"Class    Names\" tab \"Date\"");
+}
+
 TEST(TextAssembler, ResolvesHyphensAtLineEnds) {
     EXPECT_EQ(text(draftOf({makeLine("con-", 72, 100), makeLine("version", 72, 112)})), "p Normal \"conversion\"");
     EXPECT_EQ(text(draftOf({makeLine("East-", 72, 100), makeLine("West", 72, 112)})), "p Normal \"East-West\"");

@@ -44,6 +44,42 @@ TEST(WordBuilder, CountsTheBlanksThatHaveRoom) {
     EXPECT_EQ(text.lines[1].words.at(1).blanksBefore, 1) << "two blanks on top of each other";
 }
 
+TEST(WordBuilder, KnowsBlanksThatWereTypedInPlaceOfATabulator) {
+    PageContentBuilder page;
+    page.text(72, 100, "Class          Names", 12);
+    page.text(72, 130, "Class ", 12);
+    page.text(150, 130, "Names", 12);
+    const PageText text = tests::read(page);
+    ASSERT_EQ(text.lines.size(), 2u);
+    const Word& typed = text.lines[0].words.at(1);
+    EXPECT_EQ(typed.gapBefore, Gap::Tab);
+    EXPECT_TRUE(typed.isTypedBefore);
+    EXPECT_EQ(typed.blanksBefore, 10);
+    EXPECT_FALSE(text.lines[1].words.at(1).isTypedBefore) << "one blank, and then a jump";
+}
+
+TEST(WordBuilder, KeepsTheKindOfTypedBlanks) {
+    PageContentBuilder page;
+    page.text(72, 100, "2015\u3000\u3000\u3000\u3000\u4F01\u753B", 12);
+    const PageText text = tests::read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    const Word& word = text.lines[0].words.at(1);
+    EXPECT_TRUE(word.isTypedBefore);
+    EXPECT_EQ(word.blanksBefore, 4);
+    EXPECT_EQ(word.blankBefore, U'\u3000');
+}
+
+TEST(WordBuilder, KnowsTheStrokesThatStretchArabicWords) {
+    PageContentBuilder page;
+    page.glyph(72, 100, U"\u0645", 6, 12);
+    page.glyph(78, 100, U"", 5, 12);
+    page.glyph(83, 100, U"", 5, 12);
+    page.glyph(88, 100, U"\u0628", 6, 12);
+    page.glyph(72, 130, U"", 6, 12);
+    page.text(78, 130, "a", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u0628\u0645", "\uFFFDa"));
+}
+
 TEST(WordBuilder, IgnoresBlanksThatLeaveNoRoom) {
     PageContentBuilder page;
     const double end = page.text(72, 100, "to", 12);
@@ -57,6 +93,13 @@ TEST(WordBuilder, KeepsLetterSpacedWordsWhole) {
     page.text(72, 100, "SPACED HEADING", 12, {.characterSpacing = 3});
     page.text(72, 130, "SPACED HEADING", 12, {.characterSpacing = 3, .blanks = Blanks::Skipped});
     EXPECT_THAT(linesOf(page), ElementsAre("SPACED HEADING", "SPACED HEADING"));
+}
+
+TEST(WordBuilder, EndsWordsAtBlanksBesideALetterSpacedWord) {
+    PageContentBuilder page;
+    const double end = page.text(72, 100, "Page", 12, {.characterSpacing = 3});
+    page.text(end, 100, " 1 | 5", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("Page 1 | 5"));
 }
 
 TEST(WordBuilder, KeepsALetterSpacedWordBesideNumbersWhole) {
