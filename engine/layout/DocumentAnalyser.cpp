@@ -152,6 +152,47 @@ std::unordered_set<std::string> collectVocabulary(const std::vector<PageText>& p
     return vocabulary;
 }
 
+bool endsInHyphen(const Line& line) {
+    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
+    constexpr std::size_t kShortestPart = 3; // two letters and the hyphen
+    return text.size() >= kShortestPart && (text.back() == U'-' || text.back() == U'\u2010') &&
+           u_isalpha(static_cast<UChar32>(text[text.size() - 2])) != 0;
+}
+
+/// The line below in the same column, of those that follow soon; null without one.
+const Line* lineBelow(const std::vector<Line>& lines, std::size_t index, double maximumLeading) {
+    constexpr std::size_t kReach = 12; // lines of other columns may stand between
+    const Line& line = lines[index];
+    for (std::size_t i = index + 1; i < std::min(lines.size(), index + 1 + kReach); ++i) {
+        const double distance = lines[i].baseline - line.baseline;
+        if (!lines[i].words.empty() && distance > 0 && distance <= maximumLeading * line.fontSize &&
+            overlap(line.box.left, line.box.right, lines[i].box.left, lines[i].box.right) > 0)
+            return &lines[i];
+    }
+    return nullptr;
+}
+
+/// Whether words were divided at the ends of lines: one that stands whole elsewhere shows it, or hyphens at many ends.
+bool areWordsDivided(const std::vector<PageText>& pages, const std::unordered_set<std::string>& vocabulary,
+                     const LayoutParameters::Analysis& limits) {
+    int lines = 0, hyphens = 0;
+    for (const PageText& page : pages)
+        for (std::size_t i = 0; i < page.lines.size(); ++i) {
+            const Line& line = page.lines[i];
+            if (line.words.size() < limits.proseWords)
+                continue;
+            ++lines;
+            if (!endsInHyphen(line))
+                continue;
+            ++hyphens;
+            const Line* next = lineBelow(page.lines, i, limits.maximumLeading);
+            const std::string first = plainWord(line.words.back());
+            if (next && !first.empty() && vocabulary.contains(first + plainWord(next->words.front())))
+                return true;
+        }
+    return hyphens >= limits.fewestHyphens && hyphens >= limits.hyphenShare * lines;
+}
+
 /// Whether the document's lines have blanks between East Asian characters and the letters and digits beside them.
 bool areScriptsParted(const std::vector<PageText>& pages) {
     std::size_t parted = 0, joined = 0;
@@ -183,6 +224,7 @@ DocumentContext analyseDocument(const std::vector<PageText>& pages, const Layout
     context.isRightToLeft = isMostlyRightToLeft(pages);
     context.partsScripts = areScriptsParted(pages);
     context.vocabulary = collectVocabulary(pages, limits);
+    context.dividesWords = areWordsDivided(pages, context.vocabulary, limits);
     return context;
 }
 

@@ -14,6 +14,7 @@ struct DocumentContext {
     double bodyLeading = 13.4;  ///< the most frequent distance from baseline to baseline at that size
     Rect textArea;              ///< within which most pages set their text, running heads aside; page space
     bool isRightToLeft = false; ///< most words are
+    bool dividesWords = true;   ///< at the ends of lines; else hyphens there are those that were typed
     bool partsScripts = false;  ///< blanks are typed between East Asian and other letters
     std::unordered_set<std::string>
         vocabulary; ///< words that stand whole within a line, lower case; to judge hyphens by

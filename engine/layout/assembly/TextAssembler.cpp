@@ -173,7 +173,8 @@ private:
             join = LineJoin::Nothing;
         else if (position == Position::StartsLine)
             join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary,
-                                  m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined);
+                                  m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined,
+                                  m_context.document.dividesWords ? HyphenSource::Divided : HyphenSource::Typed);
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
         if (position == Position::WithinLine && isTabulator(word))

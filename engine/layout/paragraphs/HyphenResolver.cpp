@@ -6,6 +6,9 @@
 #include <unicode/uchar.h>
 #include <unicode/uscript.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace orvane::layout {
 namespace {
 
@@ -44,21 +47,32 @@ bool knows(const std::unordered_set<std::string>& vocabulary, const std::u32stri
     return vocabulary.contains(utf8FromUtf32(lowerCase(word)));
 }
 
+/// "import- and export", "Ein- und Ausgabe"
+bool isConjunction(std::u32string_view word) {
+    static constexpr std::u32string_view kConjunctions[] = {
+        U"and", U"or", U"und", U"oder", U"bzw", U"sowie", U"och", U"eller", U"og", U"\u0438", U"\u0438\u043B\u0438"};
+    return std::find(std::begin(kConjunctions), std::end(kConjunctions), word) != std::end(kConjunctions);
+}
+
 /// A hyphen between letters at the end of a line: of the line, or of the word?
 LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
-                       const std::unordered_set<std::string>& vocabulary) {
+                       const std::unordered_set<std::string>& vocabulary, HyphenSource source) {
     std::u32string_view stem = last;
     stem.remove_suffix(1);
     const std::u32string_view head = core(stem);
     const std::u32string_view tail = core(next);
     if (tail.empty() || !isLetter(next[0]))
         return LineJoin::Nothing; // "COVID-" and "19", a range of numbers
+    if (isConjunction(tail))
+        return LineJoin::Blank; // the hyphen stands for the rest of a compound that comes later
     if (knows(vocabulary, std::u32string(head) + U"-" + std::u32string(tail)))
         return LineJoin::Nothing;
     if (knows(vocabulary, std::u32string(head) + std::u32string(tail)))
         return LineJoin::DropHyphen;
     // "Nord-" "Ostsee", "E-" "Mail", "X-" "ray", "e-" "mail": compounds.
     if (!isLower(next[0]) || head.size() < 2 || !isLower(head.back()) || head.find(U'-') != std::u32string_view::npos)
+        return LineJoin::Nothing;
+    if (source == HyphenSource::Typed)
         return LineJoin::Nothing;
     const bool bothAreWords = knows(vocabulary, std::u32string(head)) && knows(vocabulary, std::u32string(tail));
     return bothAreWords ? LineJoin::Nothing : LineJoin::DropHyphen;
@@ -67,7 +81,8 @@ LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
 } // namespace
 
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
-                        const std::unordered_set<std::string>& vocabulary, ScriptBoundary boundary) {
+                        const std::unordered_set<std::string>& vocabulary, ScriptBoundary boundary,
+                        HyphenSource source) {
     const std::u32string last = utf32FromUtf8(lastWord);
     const std::u32string next = utf32FromUtf8(nextWord);
     if (last.empty() || next.empty())
@@ -86,7 +101,7 @@ LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
     if (end == kSoftHyphen)
         return LineJoin::DropHyphen;
     if ((end == U'-' || end == U'\u2010') && isLetter(before))
-        return resolveHyphen(last, next, vocabulary);
+        return resolveHyphen(last, next, vocabulary, source);
     // A dash set without blanks: "word-dash" "word".
     if (end == U'-' || end == U'\u2014')
         return LineJoin::Nothing;

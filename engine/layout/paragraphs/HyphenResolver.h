@@ -17,10 +17,16 @@ enum class LineJoin : std::uint8_t {
 /// What stands between East Asian characters and the letters of other scripts beside them.
 enum class ScriptBoundary : std::uint8_t { Joined, Blank };
 
+/// Where the hyphens at the ends of lines come from.
+enum class HyphenSource : std::uint8_t {
+    Divided, ///< words are divided there
+    Typed,   ///< they were typed, and lines end behind them
+};
+
 /// Decides how the last word of a line meets the first word of the next. `vocabulary` are words that stand whole
 /// somewhere in the document, lower case (DocumentContext::vocabulary).
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
                         const std::unordered_set<std::string>& vocabulary,
-                        ScriptBoundary boundary = ScriptBoundary::Joined);
+                        ScriptBoundary boundary = ScriptBoundary::Joined, HyphenSource source = HyphenSource::Divided);
 
 } // namespace orvane::layout

@@ -57,6 +57,27 @@ TEST(DocumentAnalyser, KeepsWordsThatStandWithinLines) {
     EXPECT_TRUE(words.contains("well-known"));
 }
 
+TEST(DocumentAnalyser, SeesWhetherWordsAreDivided) {
+    const struct {
+        const char* why;
+        std::vector<std::string> lines;
+        bool expected;
+    } rows[] = {{"one compound", {"all of that is long-", "term work and goes on", "in the same way for us"}, false},
+                {"a word that stands whole elsewhere",
+                 {"all of that is infor-", "mation on our work and", "more information for all of us"},
+                 true},
+                {"many hyphens",
+                 {"all that is in a re-", "port on the world of co-", "operation in the place of ex-", "ile"},
+                 true},
+                {"a list of prefixes", {"re-", "co-", "ex-", "un-"}, false}};
+    for (const auto& row : rows) {
+        PageText page = makePage(1);
+        for (const std::string& line : row.lines)
+            page.lines.push_back(makeLine(line, 72, 72 + 12 * static_cast<double>(page.lines.size())));
+        EXPECT_EQ(analyseDocument({page}, {}).dividesWords, row.expected) << row.why;
+    }
+}
+
 TEST(DocumentAnalyser, SeesWhetherBlanksPartScripts) {
     PageText joined = makePage(1);
     joined.lines.push_back(makeLine("\u65E5ISO\u672C \u8A9E2018", 72, 72));

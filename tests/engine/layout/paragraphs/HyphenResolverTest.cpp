@@ -21,6 +21,7 @@ TEST(HyphenResolver, JoinsLineEnds) {
         {"conver-", "sion", LineJoin::DropHyphen, "a lower case continuation"},
         {"Nord-", "Ostsee", LineJoin::Nothing, "a capital behind the hyphen: a compound"},
         {"COVID-", "19", LineJoin::Nothing, "a number"},
+        {"Ein-", "und", LineJoin::Blank, "the rest of the compound comes later"},
         {"e-", "mail", LineJoin::Nothing, "nobody divides a word behind one letter"},
         {"state-of-the-", "art", LineJoin::Nothing, "a compound of many parts"},
         {"con\xC2\xAD", "version", LineJoin::DropHyphen, "a soft hyphen"},
@@ -34,6 +35,16 @@ TEST(HyphenResolver, JoinsLineEnds) {
     for (const Row& row : rows)
         EXPECT_EQ(resolveLineEnd(row.last, row.next, vocabulary), row.expected)
             << row.last << ' ' << row.next << ": " << row.why;
+}
+
+TEST(HyphenResolver, KeepsTheHyphensOfDocumentsThatDivideNoWords) {
+    const std::unordered_set<std::string> vocabulary = {"information"};
+    const auto resolve = [&](const char* last, const char* next) {
+        return resolveLineEnd(last, next, vocabulary, ScriptBoundary::Joined, HyphenSource::Typed);
+    };
+    EXPECT_EQ(resolve("wide-", "ranging"), LineJoin::Nothing);
+    EXPECT_EQ(resolve("infor-", "mation"), LineJoin::DropHyphen) << "here it was";
+    EXPECT_EQ(resolve("con\xC2\xAD", "version"), LineJoin::DropHyphen) << "a soft hyphen";
 }
 
 TEST(HyphenResolver, JoinsEastAsianAndOtherTextAsTheDocumentDoes) {
