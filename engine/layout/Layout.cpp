@@ -11,6 +11,7 @@
 #include "layout/structure/AddressLinks.h"
 #include "layout/structure/ContentsFinder.h"
 #include "layout/structure/DraftBuilder.h"
+#include "layout/structure/HandBreaks.h"
 #include "layout/structure/HeadingFinder.h"
 #include "layout/structure/ListFinder.h"
 #include "layout/structure/NoteFinder.h"
@@ -82,6 +83,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     makeNotes(draft, std::move(notes), context, parameters, diagnostics);
     findContents(draft, parameters);
     findHeadings(draft, facts, context, parameters, diagnostics);
+    joinLinesEndedByHand(draft, context, parameters);
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);
     linkPrintedAddresses(draft);

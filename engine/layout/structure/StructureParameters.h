@@ -35,6 +35,20 @@ struct StructureParameters {
         int titleParagraphs = 3;    ///< more in the largest letters are no title
     } headings;
 
+    /// HandBreaks: lines that were ended by hand, not by the end of a paragraph. Spaces are shares of the leading.
+    struct HandBreaks {
+        double closeSpace = 0.12;     ///< less is none
+        double leastSpace = 0.35;     ///< of paragraphs that are set apart
+        double greatestSpace = 1.5;   ///< more is not that of a style
+        double wholeLine = 0.85;      ///< from there on it may be an empty line
+        double sameSpace = 0.12;      ///< spaces that differ by less are one
+        std::size_t fewestSpaced = 5; ///< pairs of paragraphs with space before it is believed
+        double closeShare = 1.0;      ///< of these; so many more without space show that paragraphs may have none
+        double usualShare = 0.6;      ///< of these; that must have the same space
+        double sameEdge = 1.5;        ///< points; edges closer than this are one edge
+        double sameSize = 0.5;        ///< points; of the fonts
+    } handBreaks;
+
     /// ListLabel, ListGroups, ListFinder.
     struct Lists {
         double sameIndent = 3.0; ///< points; labels or texts that start this near to each other are of one level
