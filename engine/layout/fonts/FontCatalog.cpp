@@ -1,5 +1,6 @@
 #include "layout/fonts/FontCatalog.h"
 
+#include "layout/fonts/FallbackFonts.h"
 #include "layout/structure/DraftWalk.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@ FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& param
         for (const pdf::Font& font : page.fonts)
             m_fonts.back().push_back(mapFont(font));
     }
+    resolveFallbacks(m_fonts, draft, parameters.fallbacks);
     fitFonts(m_fonts, draft, tracking, parameters.fontFit);
     std::array<std::map<std::string, std::size_t>, 3> counts;
     forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {

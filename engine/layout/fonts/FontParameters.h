@@ -18,6 +18,12 @@ struct FontParameters {
         double stretchCost = 0.3; ///< of the error in widths that a stretch of the same share counts as
         double faceDifference = 0.03; ///< of the natural width; faces of a family this close are stretched alike
     } fontFit;
+
+    /// FallbackFonts: fonts that helped out for letters the chosen font does not have.
+    struct Fallbacks {
+        std::size_t fewestSigns = 3; ///< bytes of digits and punctuation it takes to see the chosen font
+        double sureShare = 0.9;      ///< of what stands in a font that must be letters, and of the signs in one font
+    } fallbacks;
 };
 
 } // namespace orvane::layout
