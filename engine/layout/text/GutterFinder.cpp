@@ -10,13 +10,21 @@ namespace orvane::layout {
 namespace {
 
 /// The blank that is usual between the words of a row; 0 when it has too few that may be blanks.
-double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t fewest) {
-    std::vector<double> gaps;
+double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t fewest, double evenness) {
+    std::vector<double> gaps, all;
     for (std::size_t i = 1; i < clusters.size(); ++i)
-        if (clusters[i].gapBefore.endsWord && clusters[i].gapBefore.ownWidth() <= widest)
-            gaps.push_back(clusters[i].gapBefore.ownWidth());
-    if (gaps.size() < fewest)
-        return 0;
+        if (clusters[i].gapBefore.endsWord) {
+            all.push_back(clusters[i].gapBefore.ownWidth());
+            if (all.back() <= widest)
+                gaps.push_back(all.back());
+        }
+    if (gaps.size() < fewest) {
+        // A short line that was stretched to its column has wide blanks, but all alike.
+        if (all.size() < fewest)
+            return 0;
+        const auto [least, most] = std::minmax_element(all.begin(), all.end());
+        return *most - *least <= evenness ? *least : 0;
+    }
     const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
     std::nth_element(gaps.begin(), middle, gaps.end());
     return *middle;
@@ -53,7 +61,8 @@ GutterFinder::GutterFinder(const std::vector<TextRow>& rows, const std::vector<T
 std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
     const std::vector<Cluster>& clusters = row.clusters;
     const double justified = m_limits.widestJustified * row.fontSize;
-    const double usual = m_limits.wideAgainstUsual * usualGap(clusters, justified, m_limits.fewestGaps);
+    const double usual = m_limits.wideAgainstUsual *
+                         usualGap(clusters, justified, m_limits.fewestGaps, m_limits.evenBlanks * row.fontSize);
     std::vector<RowRun> runs;
     for (std::size_t i = 0; i < clusters.size(); ++i) {
         const Cluster& cluster = clusters[i];
@@ -66,8 +75,10 @@ std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
             runs.push_back({i, i, cluster.start, cluster.end});
             runs.back().followsLeader = followsLeader;
             runs.back().isWalled = isWalled;
+            // Two blanks after a full stop are as wide as two others of their row.
+            const double blanks = gap.blanks <= m_limits.mostTypedBlanks ? gap.blanks : 1;
             runs.back().isTabbed =
-                followsLeader || (isWide && width >= usual && width >= m_limits.tabGap * row.fontSize);
+                followsLeader || (isWide && width >= blanks * usual && width >= m_limits.tabGap * row.fontSize);
         }
         runs.back().last = i + 1;
         runs.back().end = std::max(runs.back().end, cluster.end);

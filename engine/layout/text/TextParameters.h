@@ -54,6 +54,8 @@ struct TextParameters {
         double wideGap = 0.7;          ///< two to three blanks; narrower gaps are never looked at
         double tabGap = 1.0;           ///< narrower gaps that are no gutters are blanks, after full stops for instance
         double wideAgainstUsual = 1.7; ///< of the row's usual blank; justified text has wide blanks all along
+        double evenBlanks = 0.05;      ///< blanks of a stretched row differ by no more
+        int mostTypedBlanks = 3;       ///< painted blanks; a row of more was typed to move text to a place
         unsigned fewestGaps = 3;       ///< gaps it takes to know the usual blank
         double narrowest = 0.5;        ///< what neighbours must leave empty of the same gap
         double alignment = 0.35;       ///< how far edges may be off to be aligned

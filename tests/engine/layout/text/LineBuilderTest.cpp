@@ -96,6 +96,20 @@ TEST(LineBuilder, TakesTwoBlanksBehindAFullStopForBlanks) {
     EXPECT_THAT(linesOf(page), ElementsAre("This is one sentence. And this is another one.", "The line below it."));
 }
 
+TEST(LineBuilder, TakesTwoWideBlanksOfAStretchedRowForBlanks) {
+    PageContentBuilder page;
+    page.text(72, 100, "This is one sentence.  And another one.", 10, {.wordSpacing = 4});
+    page.text(72, 114, "The line below it.", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("This is one sentence. And another one.", "The line below it."));
+}
+
+TEST(LineBuilder, TakesTheEvenGapsOfAStretchedRowForBlanks) {
+    PageContentBuilder page;
+    page.text(72, 100, "a short line stretched", 10, {.wordSpacing = 40});
+    page.text(72, 114, "The line below it.", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("a short line stretched", "The line below it."));
+}
+
 TEST(LineBuilder, MakesLeadersTabs) {
     struct Row {
         const char* filler;
