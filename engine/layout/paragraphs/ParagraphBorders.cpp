@@ -83,7 +83,9 @@ private:
     Border borderOf(const Rule& rule, double distance) const {
         Border border;
         border.kind = rule.kind == BorderKind::None ? BorderKind::Single : rule.kind;
-        border.width = std::clamp(eighthPointsFromPoints(rule.width), kThinnest, kThickest);
+        // A double border is written with the width of one of its lines, which the gap between them has too.
+        const double width = border.kind == document::BorderKind::Double ? rule.width / 3 : rule.width;
+        border.width = std::clamp(eighthPointsFromPoints(width), kThinnest, kThickest);
         border.color = rule.color;
         border.spacePoints = static_cast<int>(std::lround(std::clamp(distance, 0.0, m_parameters.greatestSpace)));
         return border;

@@ -58,6 +58,16 @@ PageLayout found(PageLayout page) {
     return page;
 }
 
+TEST(ParagraphBorders, GivesADoubleBorderTheWidthOfOneLine) {
+    PageLayout page = pageWith({100});
+    page.freeRules = {horizontal(110)};
+    page.freeRules[0].kind = BorderKind::Double;
+    page.freeRules[0].width = 4.5;
+    page = found(std::move(page));
+    EXPECT_EQ(at(page, 0).borders.bottom.kind, BorderKind::Double);
+    EXPECT_EQ(at(page, 0).borders.bottom.width, eighthPointsFromPoints(1.5));
+}
+
 TEST(ParagraphBorders, ARuleBelongsToTheNearerParagraph) {
     PageLayout page = pageWith({100, 150});
     page.freeRules = {horizontal(110)};
