@@ -16,7 +16,8 @@ struct AssembledBlock {
     std::vector<AssembledBlock> labels;             ///< of a drawing, one for each of DraftBlock::labels
     bool hasOwnLineSpacing = false;                 ///< of a paragraph: its lines show it; a single line shows none
     double top = 0;                                 ///< of its first line as a word processor sets it; page space
-    double bottom = 0;                              ///< of its last line, on the page where that stands
+    double lastTop = 0;                             ///< of its last line, or of a table's last part, where that stands
+    double bottom = 0;                              ///< likewise its end
     std::size_t lastPage = 0;                       ///< index into DocumentDraft::pages, where it ends
 
     document::Paragraph* paragraph() { return std::get_if<document::Paragraph>(&block.value); }

@@ -17,8 +17,10 @@ struct AssemblyParameters {
         double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
         double smallestIndent = 1.0;      ///< points; less is noise
         double sameGap = 0.6;             ///< points; gaps between paragraphs that differ by less are one
-        double largestGap = 250.0;        ///< points; what is more is an empty part of the page, which no style has
-        double usualShare = 0.25;         ///< of the gaps behind a style's paragraphs that must agree to be the style's
+        double largestGap = 72.0;         ///< points; what is more is an empty part of the page, which no style has
+        double sameGrid = 0.05; ///< points; East Asian lines whose distance a multiple misses by more stand on a grid
+        double roundHeight = 0.12; ///< points; a height this near to a multiple of half a point was meant to be it
+        double usualShare = 0.25;  ///< of the gaps behind a style's paragraphs that must agree to be the style's
     } spacing;
 
     /// TabStopFinder.

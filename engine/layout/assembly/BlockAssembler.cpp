@@ -5,6 +5,8 @@
 #include "layout/assembly/ParagraphFormat.h"
 #include "layout/assembly/TableAssembler.h"
 #include "layout/fonts/LineMetrics.h"
+#include "layout/structure/BlockExtent.h"
+#include "layout/truepage/FrameAssembler.h"
 
 #include <algorithm>
 #include <iterator>
@@ -65,9 +67,11 @@ AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& con
     else
         assembled = assembleFigure(std::get<FigureDraft>(draft.value), draft, context);
     if (!draft.paragraph()) {
-        assembled.top = draft.box.top;
-        assembled.bottom = draft.box.bottom;
-        assembled.lastPage = draft.page;
+        const BlockExtent extent = extentOf(draft, context.fonts);
+        assembled.top = extent.top;
+        assembled.lastTop = extent.lastTop;
+        assembled.bottom = extent.bottom;
+        assembled.lastPage = extent.lastPage;
     }
     setBreaks(draft, assembled);
     assembled.draft = &draft;
@@ -110,7 +114,10 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
         if (!block.labels.empty())
             frameLabels(block, context);
         std::move(block.floats.begin(), block.floats.end(), std::back_inserter(finished));
-        finished.push_back(std::move(block.block));
+        if (draft && isFloating(*block.draft))
+            finished.emplace_back().value = frameOf(std::move(block), context);
+        else
+            finished.push_back(std::move(block.block));
     }
     return finished;
 }

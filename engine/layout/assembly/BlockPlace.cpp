@@ -1,13 +1,17 @@
 #include "layout/assembly/BlockPlace.h"
 
 #include "layout/fonts/LineMetrics.h"
+#include "layout/structure/BlockExtent.h"
 
 namespace orvane::layout {
 namespace {
 
 /// What a border adds to the height of its paragraph. Units: points.
 double heightOf(const document::Border& border) {
-    return border.kind == document::BorderKind::None ? 0 : border.spacePoints + border.width.value / 8.0;
+    if (border.kind == document::BorderKind::None)
+        return 0;
+    const int lines = border.kind == document::BorderKind::Double ? 3 : 1; // two and the gap between them
+    return border.spacePoints + lines * border.width.value / 8.0;
 }
 
 } // namespace
@@ -20,6 +24,7 @@ void measureLines(AssembledBlock& block, const AssemblyContext& context) {
     const LineExtent first = extentOf(draft->firstLine(), draft->pieces.front().page, context.fonts);
     const LineExtent last = extentOf(draft->lastLine(), draft->pieces.back().page, context.fonts);
     block.top = draft->firstLine().baseline - spacedExtent(first, spacing).ascent;
+    block.lastTop = draft->lastLine().baseline - last.ascent;
     block.bottom = draft->lastLine().baseline + spacedExtent(last, spacing).descent;
     const document::Borders& borders = block.paragraph()->properties.borders;
     block.top -= heightOf(borders.top);
@@ -27,11 +32,11 @@ void measureLines(AssembledBlock& block, const AssemblyContext& context) {
 }
 
 bool standsBelow(const AssembledBlock& lower, const AssembledBlock& upper) {
-    return upper.lastPage == lower.draft->page && lower.top > upper.top;
+    return upper.lastPage == lower.draft->page && lower.top > upper.lastTop;
 }
 
 bool hasNoPlace(const AssembledBlock& block) {
-    return !block.draft || std::holds_alternative<document::Figure>(block.block.value) ||
+    return !block.draft || isFloating(*block.draft) || std::holds_alternative<document::Figure>(block.block.value) ||
            std::holds_alternative<document::Frame>(block.block.value);
 }
 

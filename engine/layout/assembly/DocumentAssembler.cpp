@@ -3,6 +3,7 @@
 #include "layout/assembly/BlankPages.h"
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
+#include "layout/assembly/HeaderPush.h"
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/NumberingAssembler.h"
 #include "layout/assembly/SpacingFinder.h"
@@ -42,8 +43,8 @@ public:
             std::vector<AssembledBlock> blocks = take(body, m_draft.sections[i].firstBlock, end);
             blankPages.keep(blocks, section.start, isLast ? 0 : pageOf(body, i + 1));
             section.blocks = finishBlocks(std::move(blocks), m_context);
-            section.header = takeRunning(m_draft.sections[i].header);
-            section.footer = takeRunning(m_draft.sections[i].footer);
+            section.header = takeHeader(m_draft.sections[i]);
+            section.footer = takeRunning(m_draft.sections[i].footer, [](auto&) {});
             sections.push_back(std::move(section));
         }
         return sections;
@@ -74,14 +75,38 @@ private:
                 add(kind, **blocks);
     }
 
-    document::RunningText takeRunning(const DraftRunningText& source) {
-        const auto takeNext = [this](const std::optional<std::vector<DraftBlock>>& blocks) {
-            return blocks ? std::optional(finishBlocks(std::move(m_flows[m_next++].blocks), m_context)) : std::nullopt;
+    /// The header of a section, made so tall that it pushes the text down to where that starts.
+    document::RunningText takeHeader(const DraftSection& section) {
+        if (!section.tops.pushed)
+            return takeRunning(section.header, [](auto&) {});
+        const auto push = [&](std::vector<AssembledBlock>& blocks) {
+            pushText(blocks, pointsFromTwips(section.setup.headerDistance), *section.tops.pushed, m_context);
+        };
+        document::RunningText header = takeRunning(section.header, push);
+        if (!header.standard) {
+            std::vector<AssembledBlock> blank;
+            push(blank);
+            header.standard = finishBlocks(std::move(blank), m_context);
+        }
+        // Where no text stands on the first page either, it keeps that the others have a header now.
+        if (!header.firstPage)
+            header.firstPage.emplace();
+        return header;
+    }
+
+    /// `finish` is called for what stands on all pages but the first.
+    template<typename Finish>
+    document::RunningText takeRunning(const DraftRunningText& source, const Finish& finish) {
+        const auto takeNext = [this](const std::optional<std::vector<DraftBlock>>& blocks, const auto& change) {
+            if (!blocks)
+                return std::optional<std::vector<document::Block>>();
+            change(m_flows[m_next].blocks);
+            return std::optional(finishBlocks(std::move(m_flows[m_next++].blocks), m_context));
         };
         document::RunningText text;
-        text.standard = takeNext(source.standard);
-        text.firstPage = takeNext(source.firstPage);
-        text.evenPages = takeNext(source.evenPages);
+        text.standard = takeNext(source.standard, finish);
+        text.firstPage = takeNext(source.firstPage, [](auto&) {});
+        text.evenPages = takeNext(source.evenPages, finish);
         return text;
     }
 

@@ -23,13 +23,12 @@ void setIndents(const DraftPiece& piece, double smallest, document::ParagraphPro
     const double first = line.isRightToLeft ? piece.column.right - line.box.right : line.box.left - piece.column.left;
     format.indentStart = indent(first - piece.text.firstLine, smallest);
     format.firstLine = indent(piece.text.firstLine, smallest);
-    if (piece.text.alignment != Alignment::Justified)
-        return;
     // The fullest line ends where the indent is.
     double end = std::numeric_limits<double>::infinity();
     for (const Line& l : piece.text.lines)
         end = std::min(end, l.isRightToLeft ? l.box.left - piece.column.left : piece.column.right - l.box.right);
-    format.indentEnd = indent(std::max(0.0, end), smallest);
+    if (piece.text.alignment == Alignment::Justified || end < 0)
+        format.indentEnd = indent(end, smallest);
 }
 
 /// An item has the indents of its list's level unless it clearly stands elsewhere.

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -152,17 +153,21 @@ void trimCells(AssembledBlock& block) {
 void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& context) {
     const auto& sections = context.draft.sections;
     auto section = sections.begin();
-    double margin = 0;
+    PageTops tops;
+    bool startsSection = false;
     for (std::size_t i = 0; i < body.size(); ++i) {
-        bool startsSection = false;
         for (; section != sections.end() && section->firstBlock <= i; ++section) {
-            margin = pointsFromTwips(section->setup.marginTop);
-            startsSection = section->setup.start != document::SectionStart::Continuous;
+            tops = section->tops;
+            tops.margin = pointsFromTwips(section->setup.marginTop);
+            startsSection = startsSection || section->setup.start != document::SectionStart::Continuous;
         }
-        Paragraph* paragraph = body[i].paragraph();
-        if (!paragraph || !body[i].draft || !(startsSection || body[i].draft->startsPage))
+        if (hasNoPlace(body[i]))
             continue;
-        const double offset = body[i].top - margin;
+        const bool startsPage = std::exchange(startsSection, false) || body[i].draft->startsPage;
+        Paragraph* paragraph = body[i].paragraph();
+        if (!paragraph || !startsPage)
+            continue;
+        const double offset = body[i].top - tops.of(body[i].draft->page);
         const double given = pointsFromTwips(paragraph->properties.spaceBefore);
         if (std::abs(offset - given) > context.parameters.spacing.sameGap)
             paragraph->properties.spaceBefore = twipsFromPoints(std::max(0.0, offset));

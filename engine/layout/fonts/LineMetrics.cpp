@@ -1,5 +1,9 @@
 #include "layout/fonts/LineMetrics.h"
 
+#include "base/Utf8.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -37,6 +41,24 @@ Pitch pitchOf(const DraftParagraph& paragraph, const FontCatalog& fonts) {
     const auto middle = steps.begin() + static_cast<std::ptrdiff_t>(steps.size() / 2);
     std::nth_element(steps.begin(), middle, steps.end());
     return {middle->first, middle->second, isKnown};
+}
+
+/// Whether most characters are of a script whose lines word processors set on the page's grid.
+bool isEastAsian(const DraftParagraph& paragraph) {
+    std::ptrdiff_t eastAsian = 0, all = 0;
+    for (const Word& word : paragraph.firstLine().words) {
+        const std::u32string text = utf32FromUtf8(textOf(word));
+        eastAsian += std::count_if(text.begin(), text.end(), isSetWithoutBlanks);
+        all += static_cast<std::ptrdiff_t>(text.size());
+    }
+    return 2 * eastAsian > all;
+}
+
+/// An exact height as people type it.
+LineSpacing exactSpacing(double height, const AssemblyParameters::Spacing& limits) {
+    const double round = std::round(2 * height) / 2;
+    const bool isRound = std::abs(round - height) <= limits.roundHeight;
+    return {LineSpacingRule::Exact, 1.0, twipsFromPoints(isRound ? round : height)};
 }
 
 /// What people choose from menus and dialogs.
@@ -93,11 +115,12 @@ std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const 
     const auto& limits = parameters.spacing;
     const bool isBelievable = multiple >= limits.lowestMultiple && multiple <= limits.highestMultiple;
     const double tidy = tidyMultiple(multiple, limits.multipleTolerance);
+    const bool isOnGrid = std::abs(tidy * pitch.natural - pitch.distance) > limits.sameGrid && isEastAsian(paragraph);
     // Another multiple than the usual ones tells that the font's lines are not as high as thought, or that the height
     // was set.
-    if (isBelievable && (pitch.isKnown || tidy != multiple))
+    if (isBelievable && !isOnGrid && (pitch.isKnown || tidy != multiple))
         return LineSpacing{LineSpacingRule::Multiple, tidy, {}};
-    return LineSpacing{LineSpacingRule::Exact, 1.0, twipsFromPoints(pitch.distance)};
+    return exactSpacing(pitch.distance, limits);
 }
 
 } // namespace orvane::layout

@@ -61,18 +61,33 @@ private:
         std::erase_if(m_page.figures, [](const Figure& figure) { return figure.isBackground; });
     }
 
-    /// Turned lines say nothing about columns; they come as paragraphs where they stand.
+    /// Turned lines say nothing about columns. They float, unless it is the page that was laid on its side; then they
+    /// come as paragraphs where they stand, and so does vertical writing.
     void takeTurnedLines() {
+        std::erase_if(m_page.lines, [](const Line& line) { return line.words.empty(); });
+        const bool isPageTurned = isLaidOnItsSide();
         std::vector<Line> upright;
         for (Line& line : m_page.lines) {
-            if (line.words.empty())
-                continue;
             if (line.angle == 0 && !line.isVertical)
                 upright.push_back(std::move(line));
-            else
+            else if (line.angle == 0 || isPageTurned)
                 addObject(line.box, line.firstPaintOrder, turnedParagraph(std::move(line)));
+            else
+                floatLine(std::move(line));
         }
         m_page.lines = std::move(upright);
+    }
+
+    bool isLaidOnItsSide() const {
+        const auto turned = static_cast<std::size_t>(
+            std::count_if(m_page.lines.begin(), m_page.lines.end(), [](const Line& line) { return line.angle != 0; }));
+        return turned >= m_parameters.turnedText.fewestOfPage && 2 * turned > m_page.lines.size();
+    }
+
+    void floatLine(Line line) {
+        ParagraphDraft paragraph = turnedParagraph(std::move(line));
+        paragraph.isFloating = true;
+        m_layout.blocks.emplace_back().value = std::move(paragraph);
     }
 
     ParagraphDraft turnedParagraph(Line line) const {

@@ -33,6 +33,12 @@ struct PageParameters {
         double acrossShare = 0.25; ///< of a column; what covers as much of two leads across them
         double bandSlack = 0.5; ///< of the body's font size; what reaches no farther into the lines stands above them
     } readingOrder;
+
+    /// PageLayouter: lines that do not run across the page.
+    struct TurnedText {
+        std::size_t fewestOfPage =
+            4; ///< so many lines, and more than there are level ones, are a page laid on its side
+    } turnedText;
 };
 
 } // namespace orvane::layout

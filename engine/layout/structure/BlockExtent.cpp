@@ -5,6 +5,8 @@
 namespace orvane::layout {
 
 bool isFloating(const DraftBlock& block) {
+    if (const DraftParagraph* paragraph = block.paragraph())
+        return paragraph->pieces.front().text.isFloating;
     const auto* figure = std::get_if<FigureDraft>(&block.value);
     return figure && !figure->isInline;
 }
@@ -14,13 +16,20 @@ BlockExtent extentOf(const DraftBlock& block, const FontCatalog& fonts) {
         const std::size_t lastPage = paragraph->pieces.back().page;
         const LineExtent first = extentOf(paragraph->firstLine(), block.page, fonts);
         const LineExtent last = extentOf(paragraph->lastLine(), lastPage, fonts);
-        return {paragraph->firstLine().baseline - first.ascent, paragraph->lastLine().baseline + last.descent, lastPage,
-                first.height()};
+        const double lastBaseline = paragraph->lastLine().baseline;
+        return {paragraph->firstLine().baseline - first.ascent, lastBaseline - last.ascent, lastBaseline + last.descent,
+                lastPage, first.height()};
     }
-    double firstHeight = block.box.height();
-    if (const auto* table = std::get_if<DraftTable>(&block.value); table && table->table.rowEdges.size() > 1)
-        firstHeight = table->table.rowEdges[1] - table->table.rowEdges[0];
-    return {block.box.top, block.box.bottom, block.page, firstHeight};
+    BlockExtent extent{block.box.top, block.box.top, block.box.bottom, block.page, block.box.height()};
+    const auto* table = std::get_if<DraftTable>(&block.value);
+    if (table && table->table.rowEdges.size() > 1)
+        extent.firstHeight = table->table.rowEdges[1] - table->table.rowEdges[0];
+    if (table && !table->furtherParts.empty()) {
+        extent.lastPage = table->furtherParts.back().page;
+        extent.lastTop = table->furtherParts.back().box.top;
+        extent.bottom = table->furtherParts.back().box.bottom;
+    }
+    return extent;
 }
 
 } // namespace orvane::layout

@@ -8,14 +8,15 @@ namespace orvane::layout {
 /// From where to where a block reaches in single spacing, as a word processor sets it; page space.
 struct BlockExtent {
     double top = 0;           ///< on the page where it starts
-    double bottom = 0;        ///< on the page where it ends
+    double lastTop = 0;       ///< of its last line, or of a table's last part, on the page where it ends
+    double bottom = 0;        ///< on that page
     std::size_t lastPage = 0; ///< index into DocumentDraft::pages
     double firstHeight = 0;   ///< of what must find room for it to start: its first line, row or the whole picture
 };
 
 BlockExtent extentOf(const DraftBlock& block, const FontCatalog& fonts);
 
-/// A picture that floats takes no room in the flow.
+/// Pictures and lines of text that float take no room in the flow.
 bool isFloating(const DraftBlock& block);
 
 } // namespace orvane::layout

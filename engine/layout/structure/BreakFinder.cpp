@@ -20,6 +20,9 @@ BlockEnd endOf(const DraftBlock& block) {
         const DraftPiece& last = paragraph->pieces.back();
         return {last.page, last.band, last.columnIndex, last.text.lines.back().box.bottom};
     }
+    const auto* table = std::get_if<DraftTable>(&block.value);
+    if (table && !table->furtherParts.empty())
+        return {table->furtherParts.back().page, 0, 0, table->furtherParts.back().box.bottom};
     return {block.page, block.band, block.column, block.box.bottom};
 }
 
@@ -45,9 +48,10 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
             continue;
         if (before) {
             const BlockEnd end = endOf(*before);
-            const double room = floorOf(draft, end.page, end.band, range.area) - end.bottom;
+            const double room = floorOf(draft, end.page, end.band, range.area.box) - end.bottom;
             if (end.page < block.page)
-                block.startsPage = end.page + 1 < block.page || room > fills[block.page].need + parameters.startRoom;
+                block.startsPage = end.page + 1 < block.page || room > fills[block.page].need + parameters.startRoom ||
+                                   startsLow(fills[block.page], range.area.tops.of(block.page), parameters);
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = room > block.box.height() + parameters.startRoom;
         }

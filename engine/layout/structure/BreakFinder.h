@@ -1,7 +1,7 @@
 #pragma once
 
 #include "layout/structure/DocumentDraft.h"
-#include "layout/structure/PageFill.h"
+#include "layout/structure/PageSetup.h"
 #include "layout/structure/StructureParameters.h"
 
 #include <vector>
@@ -12,10 +12,11 @@ namespace orvane::layout {
 struct BlockRange {
     std::size_t first = 0;
     std::size_t last = 0;
-    Rect area;
+    const TextArea& area;
 };
 
-/// Marks blocks that start a page or a column though there was room for them on the page or in the column before.
+/// Marks blocks that start a page or a column though there was room for them on the page or in the column before, or
+/// with space above them, which pages that follow by themselves do not have.
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
                 const StructureParameters::PageSetup& parameters);
 

@@ -53,9 +53,16 @@ struct DraftCell {
     std::vector<DraftBlock> blocks;
 };
 
+/// Where a part of a table stands that page breaks cut.
+struct DraftTablePart {
+    std::size_t page = 0; ///< index into DocumentDraft::pages
+    Rect box;
+};
+
 struct DraftTable {
     TableDraft table; ///< without its cells
     std::vector<DraftCell> cells;
+    std::vector<DraftTablePart> furtherParts; ///< on the pages after that of its block
 };
 
 struct DraftBlock {
@@ -80,12 +87,22 @@ struct DraftRunningText {
     std::optional<std::vector<DraftBlock>> evenPages;
 };
 
+/// Where text starts on the pages of a section. Units: points, from the page's top.
+struct PageTops {
+    double margin = 0;
+    std::size_t firstPage = 0;    ///< of the section; index
+    std::optional<double> pushed; ///< on the pages after the first, whose header is too tall for the margin
+
+    double of(std::size_t page) const { return pushed && page != firstPage ? *pushed : margin; }
+};
+
 /// Blocks on pages of one setup.
 struct DraftSection {
     std::size_t firstBlock = 0; ///< index into DocumentDraft::blocks; it ends where the next one starts
     document::Section setup;    ///< without blocks and running text
     DraftRunningText header;
     DraftRunningText footer;
+    PageTops tops;
 };
 
 /// How the label of a list's level looks.

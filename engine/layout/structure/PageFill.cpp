@@ -2,6 +2,7 @@
 
 #include "layout/fonts/LineMetrics.h"
 #include "layout/structure/BlockExtent.h"
+#include "layout/support/Tally.h"
 
 #include <algorithm>
 #include <map>
@@ -9,6 +10,8 @@
 
 namespace orvane::layout {
 namespace {
+
+using document::LineSpacing;
 
 constexpr std::size_t kKeptLines = 2; ///< word processors let no single line of a paragraph stand alone on a page
 
@@ -18,11 +21,57 @@ void widen(PageFill& fill, double top, double bottom) {
     fill.isEmpty = false;
 }
 
+/// A picture may hang above the text area, so it does not tell where the page's flow starts.
+void widenByObject(std::vector<PageFill>& fills, const DraftBlock& block) {
+    PageFill& fill = fills[block.page];
+    widen(fill, block.box.top, block.box.bottom);
+    const auto* table = std::get_if<DraftTable>(&block.value);
+    if (!table)
+        return;
+    fill.flowTop = std::min(fill.flowTop, block.box.top);
+    for (const DraftTablePart& part : table->furtherParts) {
+        PageFill& further = fills[part.page];
+        further.isSplit = further.isSplit || further.isEmpty;
+        widen(further, part.box.top, part.box.bottom);
+        further.flowTop = std::min(further.flowTop, part.box.top);
+    }
+}
+
 /// The room that the first lines of a piece need.
 double needOfLines(const DraftPiece& piece, std::size_t lines, const FontCatalog& fonts) {
     const std::vector<Line>& all = piece.text.lines;
     const std::size_t count = std::min(lines, all.size());
     return all[count - 1].baseline - all[0].baseline + extentOf(all[0], piece.page, fonts).height();
+}
+
+void widenByText(std::vector<PageFill>& fills, const DraftParagraph& paragraph, const FontCatalog& fonts,
+                 const LineSpacing& spacing) {
+    for (const DraftPiece& piece : paragraph.pieces) {
+        const Line& first = piece.text.lines.front();
+        const Line& last = piece.text.lines.back();
+        PageFill& part = fills[piece.page];
+        if (&piece != &paragraph.pieces.front() && part.isEmpty) {
+            part.isSplit = true;
+            part.need = needOfLines(piece, piece.text.lines.size() <= kKeptLines ? kKeptLines : 1, fonts);
+        }
+        const LineExtent natural = extentOf(first, piece.page, fonts);
+        const double top = first.baseline - spacedExtent(natural, spacing).ascent;
+        widen(part, top, last.baseline + extentOf(last, piece.page, fonts).descent);
+        if (top < part.flowTop)
+            part.topSlack = std::max(0.0, piece.text.leading - natural.height());
+        part.flowTop = std::min(part.flowTop, top);
+    }
+}
+
+/// The spacing of most lines; single lines, which show none, are taken to have it too.
+LineSpacing usualSpacing(const DocumentDraft& draft, const FontCatalog& fonts, const LayoutParameters& parameters) {
+    Tally<LineSpacing> spacings;
+    for (const DraftBlock& block : draft.blocks)
+        if (const DraftParagraph* paragraph = block.paragraph())
+            if (const auto spacing = lineSpacingOf(*paragraph, fonts, parameters))
+                spacings.add(*spacing, static_cast<double>(paragraph->pieces.front().text.lines.size()));
+    const LineSpacing* usual = spacings.heaviest();
+    return usual ? *usual : LineSpacing{};
 }
 
 /// The room that a block needs to start, with what may not be parted from it.
@@ -60,7 +109,7 @@ public:
                 continue;
             if (upper) {
                 const BlockExtent above = extentOf(*upper, fonts), below = extentOf(lower, fonts);
-                if (above.lastPage == lower.page && below.top > above.top)
+                if (above.lastPage == lower.page && below.top > above.lastTop)
                     m_gaps[{kindOf(*upper), kindOf(lower)}].push_back(std::max(0.0, below.top - above.bottom));
             }
             upper = &lower;
@@ -96,14 +145,15 @@ void findGaps(std::vector<PageFill>& fills, const DocumentDraft& draft, const Fo
 
 } // namespace
 
-std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts) {
+std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts,
+                                   const LayoutParameters& parameters) {
     std::vector<PageFill> fills(draft.pages.size());
+    const LineSpacing usual = usualSpacing(draft, fonts, parameters);
     for (std::size_t i = 0; i < draft.blocks.size(); ++i) {
         const DraftBlock& block = draft.blocks[i];
         if (isFloating(block))
             continue;
         PageFill& fill = fills[block.page];
-        const BlockExtent extent = extentOf(block, fonts);
         if (fill.isEmpty && !fill.hasFirstBlock)
             fill.need = needOfBlock(draft, i, fonts);
         if (!fill.hasFirstBlock)
@@ -111,20 +161,10 @@ std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog
         fill.hasFirstBlock = true;
         const DraftParagraph* paragraph = block.paragraph();
         if (!paragraph) {
-            widen(fill, extent.top, extent.bottom);
+            widenByObject(fills, block);
             continue;
         }
-        for (const DraftPiece& piece : paragraph->pieces) {
-            const Line& first = piece.text.lines.front();
-            const Line& last = piece.text.lines.back();
-            PageFill& part = fills[piece.page];
-            if (&piece != &paragraph->pieces.front() && part.isEmpty) {
-                part.isSplit = true;
-                part.need = needOfLines(piece, piece.text.lines.size() <= kKeptLines ? kKeptLines : 1, fonts);
-            }
-            widen(part, first.baseline - extentOf(first, piece.page, fonts).ascent,
-                  last.baseline + extentOf(last, piece.page, fonts).descent);
-        }
+        widenByText(fills, *paragraph, fonts, lineSpacingOf(*paragraph, fonts, parameters).value_or(usual));
     }
     for (std::size_t i = 0; i < draft.noteAreas.size(); ++i)
         if (!draft.noteAreas[i].isEmpty() && !fills[i].isEmpty)

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "layout/LayoutParameters.h"
 #include "layout/fonts/FontCatalog.h"
 #include "layout/structure/DocumentDraft.h"
 
+#include <limits>
 #include <vector>
 
 namespace orvane::layout {
@@ -11,8 +13,10 @@ namespace orvane::layout {
 struct PageFill {
     double top = 0;
     double bottom = 0;
+    double flowTop = std::numeric_limits<double>::infinity(); ///< of the text and tables on it
+    double topSlack = 0;                                      ///< what line spacing may add above its first line
     bool isEmpty = true;
-    bool isSplit = false;       ///< a paragraph goes on from the page before
+    bool isSplit = false;       ///< a paragraph or table goes on from the page before
     std::size_t firstBlock = 0; ///< that starts on the page; index into the blocks
     bool hasFirstBlock = false;
     double gap = 0;  ///< what mostly stands between such blocks as the page's first and the one before it
@@ -20,6 +24,7 @@ struct PageFill {
 };
 
 /// Measures every page of the draft.
-std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts);
+std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts,
+                                   const LayoutParameters& parameters);
 
 } // namespace orvane::layout

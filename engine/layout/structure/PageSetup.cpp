@@ -1,7 +1,6 @@
 #include "layout/structure/PageSetup.h"
 
 #include "layout/structure/TextEdges.h"
-#include "layout/support/Tally.h"
 #include "layout/support/TidyLength.h"
 
 #include <algorithm>
@@ -9,29 +8,24 @@
 namespace orvane::layout {
 namespace {
 
-double findTop(const std::vector<PageFill>& fills, std::size_t firstPage, std::size_t lastPage,
-               const StructureParameters::PageSetup& limits) {
-    std::vector<double> tops;
-    for (std::size_t i = firstPage; i <= lastPage; ++i)
-        if (!fills[i].isEmpty)
-            tops.push_back(fills[i].top);
-    if (tops.empty())
-        return limits.usualMargin;
-    const double least = *std::min_element(tops.begin(), tops.end());
-    const double most = mostFrequent(tops, limits.sameEdge).value_or(least);
-    // One page that starts higher than the others, with a picture for instance, does not move the margin of all.
-    const auto agreeing =
-        std::count_if(tops.begin(), tops.end(), [&](double top) { return top <= most + limits.sameEdge; });
-    return std::max(0.0, agreeing > 1 ? most : least);
-}
+/// Pages of one section with what was measured of them.
+struct PageRange {
+    const std::vector<PageFill>& fills;
+    std::size_t firstPage;
+    std::size_t lastPage;
+    const PageTops& tops;
+    const StructureParameters::PageSetup& limits;
+};
 
 enum class SpaceAbove : unsigned char { Nothing, Usual };
 
 /// How high the lower edge may stand so that what starts the pages had no room on those before.
-double highestBottom(const std::vector<PageFill>& fills, std::size_t firstPage, std::size_t lastPage, double pageHeight,
-                     double lowest, SpaceAbove space) {
+double highestBottom(const PageRange& range, double pageHeight, double lowest, SpaceAbove space) {
+    const std::vector<PageFill>& fills = range.fills;
     double highest = pageHeight;
-    for (std::size_t i = firstPage; i < lastPage; ++i) {
+    for (std::size_t i = range.firstPage; i < range.lastPage; ++i) {
+        if (startsLow(fills[i + 1], range.tops.of(i + 1), range.limits))
+            continue; // by hand, whatever room there was
         const double gap = space == SpaceAbove::Usual ? fills[i + 1].gap : 0;
         const double wouldEnd = fills[i].bottom + gap + fills[i + 1].need;
         if (!fills[i].isEmpty && !fills[i + 1].isEmpty && wouldEnd > lowest)
@@ -41,20 +35,20 @@ double highestBottom(const std::vector<PageFill>& fills, std::size_t firstPage, 
 }
 
 /// The lower edge: below all that stands on the pages, above where the next page's first line would have had room.
-double findBottom(const std::vector<PageFill>& fills, std::size_t firstPage, std::size_t lastPage, double pageHeight,
-                  double top, const StructureParameters::PageSetup& limits) {
+double findBottom(const PageRange& range, double pageHeight) {
     double lowest = 0;
-    for (std::size_t i = firstPage; i <= lastPage; ++i)
-        lowest = std::max(lowest, fills[i].bottom);
+    for (std::size_t i = range.firstPage; i <= range.lastPage; ++i)
+        lowest = std::max(lowest, range.fills[i].bottom);
+    const double top = range.tops.margin;
     if (lowest <= top)
-        return pageHeight - limits.usualMargin;
+        return pageHeight - range.limits.usualMargin;
     const double most = pageHeight - lowest;
     const auto least = [&](SpaceAbove space) {
-        return pageHeight - highestBottom(fills, firstPage, lastPage, pageHeight, lowest, space) + limits.breakSlack;
+        return pageHeight - highestBottom(range, pageHeight, lowest, space) + range.limits.breakSlack;
     };
     // How much space there was above what starts a page is not seen; only where no margin that people type goes without
     // it is it taken to have been the usual one.
-    const double strict = least(SpaceAbove::Nothing), slack = limits.breakSlack;
+    const double strict = least(SpaceAbove::Nothing), slack = range.limits.breakSlack;
     double margin = tidyLength(strict, most - slack, top, slack);
     if (!tidyLengthWithin(strict, most - slack, top))
         margin = tidyLengthWithin(least(SpaceAbove::Usual), most - slack, top).value_or(margin);
@@ -63,16 +57,18 @@ double findBottom(const std::vector<PageFill>& fills, std::size_t firstPage, std
 
 } // namespace
 
-TextArea findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, std::size_t firstPage,
-                      std::size_t lastPage, const LayoutParameters& parameters) {
+TextArea findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, const RunningScheme& scheme,
+                      const LayoutParameters& parameters) {
     const StructureParameters::PageSetup& limits = parameters.pageSetup;
-    const TextEdges edges = findTextEdges(draft, firstPage, lastPage, parameters);
-    const double top = findTop(fills, firstPage, lastPage, limits);
-    const PageLayout& page = draft.pages[firstPage];
-    const double bottom = findBottom(fills, firstPage, lastPage, page.height, top, limits);
     const auto tidy = [&](double margin) { return nearTidyLength(margin, limits.tidyTolerance); };
-    return {{tidy(edges.left), tidy(top), page.width - tidy(page.width - edges.right), bottom},
-            {edges.left, edges.right}};
+    const TextEdges edges = findTextEdges(draft, scheme.firstPage, scheme.lastPage, parameters);
+    PageTops tops = findPageTops(fills, scheme, limits);
+    const PageLayout& page = draft.pages[scheme.firstPage];
+    const double bottom = findBottom({fills, scheme.firstPage, scheme.lastPage, tops, limits}, page.height);
+    tops.margin = tidy(tops.margin);
+    return {{tidy(edges.left), tops.margin, page.width - tidy(page.width - edges.right), bottom},
+            {edges.left, edges.right},
+            tops};
 }
 
 } // namespace orvane::layout

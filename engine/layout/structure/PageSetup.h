@@ -3,6 +3,7 @@
 #include "layout/LayoutParameters.h"
 #include "layout/structure/DocumentDraft.h"
 #include "layout/structure/PageFill.h"
+#include "layout/structure/PageTops.h"
 
 #include <vector>
 
@@ -12,11 +13,12 @@ namespace orvane::layout {
 struct TextArea {
     Rect box;        ///< within margins as people set them
     ColumnSpan seen; ///< the edges as the text shows them, a hair off those of `box`; what indents are measured from
+    PageTops tops;
 };
 
-/// The area within which the pages `firstPage` to `lastPage` (indices) set their text. Where nothing shows
-/// an edge exactly it is chosen so that lines and pages break where they broke, as a round margin if one fits.
-TextArea findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, std::size_t firstPage,
-                      std::size_t lastPage, const LayoutParameters& parameters);
+/// The area within which the pages of a scheme set their text. Where nothing shows an edge exactly it is chosen so that
+/// lines and pages break where they broke, as a round margin if one fits.
+TextArea findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, const RunningScheme& scheme,
+                      const LayoutParameters& parameters);
 
 } // namespace orvane::layout

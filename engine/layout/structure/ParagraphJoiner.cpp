@@ -1,5 +1,6 @@
 #include "layout/structure/ParagraphJoiner.h"
 
+#include "layout/structure/BlockExtent.h"
 #include "layout/structure/ParagraphContinuation.h"
 
 #include <iterator>
@@ -8,8 +9,9 @@
 namespace orvane::layout {
 namespace {
 
-bool isFigure(const DraftBlock& block) {
-    return std::holds_alternative<FigureDraft>(block.value);
+/// What stands between two parts of a paragraph without ending it.
+bool isPassedOver(const DraftBlock& block) {
+    return std::holds_alternative<FigureDraft>(block.value) || isFloating(block);
 }
 
 /// True when the paragraph `next`, the first of its column or page, goes on with `last`.
@@ -32,18 +34,18 @@ void joinParagraphs(DocumentDraft& draft, const DocumentContext& context, const 
     std::size_t last =
         0; // one behind the last paragraph among `joined`; 0 when something that is no picture came after it
     for (DraftBlock& block : draft.blocks) {
-        const bool isParagraph = block.paragraph() != nullptr;
+        const bool isParagraph = block.paragraph() != nullptr && !isFloating(block);
         if (isParagraph && last > 0 && goesOn(draft, joined[last - 1], block, context, parameters)) {
             std::vector<DraftPiece>& pieces = joined[last - 1].paragraph()->pieces;
             std::vector<DraftPiece>& more = block.paragraph()->pieces;
             pieces.insert(pieces.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
             continue;
         }
-        const bool isPassedOver = isFigure(block);
+        const bool endsParagraph = !isPassedOver(block);
         joined.push_back(std::move(block));
         if (isParagraph)
             last = joined.size();
-        else if (!isPassedOver)
+        else if (endsParagraph)
             last = 0;
     }
     draft.blocks = std::move(joined);

@@ -22,7 +22,7 @@ public:
         , m_context(context)
         , m_parameters(parameters)
         , m_runningText(draft, heads, context, parameters, diagnostics)
-        , m_fills(measurePages(draft, FontCatalog(draft, parameters))) {}
+        , m_fills(measurePages(draft, FontCatalog(draft, parameters), parameters)) {}
 
     void run() {
         std::size_t block = 0;
@@ -54,10 +54,12 @@ private:
 
     /// The sections of pages with one scheme: one, or several where the number of columns changes.
     void addSections(const RunningScheme& scheme, std::size_t first, std::size_t last) {
-        const TextArea area = findTextArea(m_draft, m_fills, scheme.firstPage, scheme.lastPage, m_parameters);
+        const TextArea area = findTextArea(m_draft, m_fills, scheme, m_parameters);
         DraftSection section;
         section.setup = setupOf(scheme, area.box);
         m_runningText.make(section, scheme);
+        section.tops = area.tops;
+        floatHangingPictures(first, last, area.tops);
         std::size_t from = first;
         do {
             const std::size_t to = endOfColumns(from, last);
@@ -68,7 +70,17 @@ private:
             section.setup.firstPageNumber.reset();
             from = to;
         } while (from < last);
-        markBreaks(m_draft, m_fills, {first, last, area.box}, m_parameters.pageSetup);
+        markBreaks(m_draft, m_fills, {first, last, area}, m_parameters.pageSetup);
+    }
+
+    /// A picture that reaches above the text area was not typed into a line.
+    void floatHangingPictures(std::size_t first, std::size_t last, const PageTops& tops) {
+        for (std::size_t i = first; i < last; ++i)
+            if (auto* figure = std::get_if<FigureDraft>(&m_draft.blocks[i].value)) {
+                const DraftBlock& block = m_draft.blocks[i];
+                if (block.box.top < tops.of(block.page) - m_parameters.pageSetup.sameEdge)
+                    figure->isInline = false;
+            }
     }
 
     document::Section setupOf(const RunningScheme& scheme, const Rect& area) const {

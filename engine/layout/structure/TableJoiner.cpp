@@ -55,6 +55,8 @@ public:
             auto* next = std::get_if<DraftTable>(&block.value);
             auto* table = joined.empty() ? nullptr : std::get_if<DraftTable>(&joined.back().value);
             const bool goesOn = next && table && block.page == lastPage + 1 && append(*table, *next, lastPage);
+            if (goesOn)
+                table->furtherParts.push_back({block.page, block.box});
             lastPage = block.page;
             if (!goesOn)
                 joined.push_back(std::move(block));

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace orvane::layout {
@@ -116,13 +117,48 @@ private:
             std::sort(flush.begin(), flush.end());
             return flush[static_cast<std::size_t>(m_limits.edgeShare * static_cast<double>(flush.size()))];
         }
+        const EndRange range = agreedRange();
         // A line as wide as its column to the last hair may find no room in another program.
-        const double highest = std::max(0.0, outermost(&LineEdge::end) - m_limits.roomSlack);
-        double lowest = 0;
-        for (const LineEdge& edge : m_edges)
-            if (edge.room > 0 && edge.end != kNone && edge.end - edge.room < highest)
-                lowest = std::max(lowest, edge.end - edge.room);
-        return tidyLength(std::min(lowest + m_limits.roomSlack, highest), highest, start, m_limits.roomSlack);
+        const double highest = std::max(0.0, range.to - m_limits.roomSlack);
+        return tidyLength(std::min(range.from + m_limits.roomSlack, highest), highest, start, m_limits.roomSlack);
+    }
+
+    /// Where the end edge may lie.
+    struct EndRange {
+        double from = 0;
+        double to = 0;
+    };
+
+    /// Each line ends before the edge, and one that goes on left no room for the next word: the range that most lines
+    /// agree on, the outermost if there are several. Some stand in boxes that have edges of their own.
+    EndRange agreedRange() const {
+        std::vector<std::pair<double, int>> steps; // where a line begins or ceases to agree
+        for (const LineEdge& edge : m_edges) {
+            if (edge.end == kNone)
+                continue;
+            const double end = std::max(0.0, edge.end);
+            steps.emplace_back(edge.room > 0 ? std::max(0.0, edge.end - edge.room) : 0.0, 1);
+            steps.emplace_back(end, -1);
+        }
+        // Lines begin to agree before others cease to at the same place.
+        std::sort(steps.begin(), steps.end(), [](const auto& a, const auto& b) {
+            return a.first != b.first ? a.first < b.first : a.second > b.second;
+        });
+        EndRange best;
+        int agreeing = 0, most = 0;
+        bool isOpen = false;
+        for (const auto& [place, step] : steps) {
+            agreeing += step;
+            if (agreeing > most) {
+                most = agreeing;
+                best.from = place;
+                isOpen = true;
+            } else if (isOpen && step < 0) {
+                best.to = place;
+                isOpen = false;
+            }
+        }
+        return best;
     }
 
     TextEdges edgesOfObjects() const {

@@ -37,6 +37,14 @@ TEST(LineMetrics, SetsExactHeightsForLinesThatOverlap) {
     EXPECT_EQ(spacingAt(7).rule, LineSpacingRule::Exact);
 }
 
+TEST(LineMetrics, SetsEastAsianLinesOnTheirGrid) {
+    const LineSpacing spacing = spacingAt(18.04, "Noto Sans CJK JP", "日本語の文章");
+    EXPECT_EQ(spacing.rule, LineSpacingRule::Exact);
+    EXPECT_EQ(spacing.height, Twips(360)) << "a hair off what people type";
+    EXPECT_EQ(spacingAt(17.32, "Noto Sans CJK JP", "日本語の文章").height, Twips(346));
+    EXPECT_EQ(spacingAt(17.3, "Noto Sans CJK JP", "words").rule, LineSpacingRule::Multiple) << "Latin text has no grid";
+}
+
 TEST(LineMetrics, KnowsWhereWordProcessorsPutTheSurplus) {
     const LineExtent natural{9, 3};
     const LineExtent doubled = spacedExtent(natural, {LineSpacingRule::Multiple, 2.0, {}});

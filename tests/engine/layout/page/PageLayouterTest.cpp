@@ -154,6 +154,21 @@ TEST(PageLayouter, KeepsTurnedTextOutOfTheColumns) {
     const PageLayout layout = layoutPage(page, {}, {}, diagnostics);
     ASSERT_EQ(layout.blocks.size(), 2U);
     EXPECT_EQ(layout.bands[0].columns.size(), 1U);
+    EXPECT_TRUE(std::get<ParagraphDraft>(layout.blocks[0].value).isFloating) << "a stamp beside the text";
+    EXPECT_FALSE(std::get<ParagraphDraft>(layout.blocks[1].value).isFloating);
+}
+
+TEST(PageLayouter, KeepsThePageThatWasLaidOnItsSideInTheFlow) {
+    PageText page = makePage(1);
+    for (int i = 0; i < 5; ++i) {
+        Line turned = makeLine("a line of text", 0, 0);
+        turned.angle = 90;
+        turned.box = {400.0 - 14 * i, 90, 410.0 - 14 * i, 300};
+        page.lines.push_back(turned);
+    }
+    Diagnostics diagnostics;
+    for (const PageBlock& block : layoutPage(page, {}, {}, diagnostics).blocks)
+        EXPECT_FALSE(std::get<ParagraphDraft>(block.value).isFloating);
 }
 
 TEST(PageLayouter, TellsWhereAParagraphGoesOnInTheNextColumn) {

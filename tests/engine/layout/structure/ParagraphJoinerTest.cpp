@@ -32,6 +32,16 @@ TEST(ParagraphJoiner, JoinsWhatAPageBreakCut) {
     EXPECT_EQ(draft.blocks[0].paragraph()->pieces[1].page, 1u);
 }
 
+TEST(ParagraphJoiner, PassesOverTextThatFloats) {
+    DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
+    DraftBlock stamp = makeBlock(makeParagraph({makeLine("a stamp", 20, 400)}), 1);
+    stamp.paragraph()->pieces[0].text.isFloating = true;
+    draft.blocks.insert(draft.blocks.begin() + 1, stamp);
+    joinParagraphs(draft, {}, {});
+    ASSERT_EQ(draft.blocks.size(), 2u);
+    EXPECT_EQ(draft.blocks[0].paragraph()->pieces.size(), 2u);
+}
+
 TEST(ParagraphJoiner, KeepsParagraphsApartThatEnded) {
     DocumentDraft draft = brokenParagraph("a short line", "and goes on here");
     joinParagraphs(draft, {}, {});

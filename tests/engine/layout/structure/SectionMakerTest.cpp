@@ -95,6 +95,136 @@ TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
 }
 
+/// Two full pages, the second with the rest of the first one's last paragraph on top.
+DocumentDraft draftOfOneFlow() {
+    DocumentDraft draft = makeDraft(3);
+    fillPage(draft, 0);
+    DraftParagraph& split = *draft.blocks.back().paragraph();
+    split.pieces.push_back({1, 0, 0, tests::kColumn, makeParagraph({makeLine("its rest", 72, 84)})});
+    for (double baseline = 104; baseline <= 760; baseline += 20)
+        addLine(draft, 1, 72, baseline);
+    return draft;
+}
+
+TEST(SectionMaker, TakesAPageThatStartsLowForOneStartedByHand) {
+    DocumentDraft draft = draftOfOneFlow();
+    addLine(draft, 2, 72, 84 + 24);
+    sectionsOf(draft);
+    EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginTop), 74.3, 0.1);
+    EXPECT_TRUE(firstOn(draft, 2).startsPage) << "the page before was full, but space above was kept";
+    const auto document = tests::documentOf(draft);
+    const auto& last = std::get<document::Paragraph>(document.sections[0].blocks.back().value);
+    EXPECT_NEAR(pointsFromTwips(last.properties.spaceBefore), 24, 0.1);
+}
+
+TEST(SectionMaker, TakesTheTopMarginFromWhereParagraphsGoOn) {
+    DocumentDraft draft = draftOfOneFlow();
+    addLine(draft, 2, 72, 40); // a stray head
+    sectionsOf(draft);
+    EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginTop), 74.3, 0.1);
+    EXPECT_FALSE(firstOn(draft, 2).startsPage);
+}
+
+TEST(SectionMaker, LetsAHeaderPushTheTextOfAllPagesButTheFirst) {
+    DocumentDraft draft = makeDraft(3);
+    std::vector<PageRunningHeads> heads(3);
+    for (const std::size_t page : {0u, 1u, 2u}) {
+        for (double baseline = page == 0 ? 64 : 84; baseline <= 760; baseline += 20)
+            addLine(draft, page, 72, baseline);
+        if (page == 0)
+            continue;
+        heads[page].header = RunningHead{tests::makePage(1), {}, "head"};
+        heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
+    }
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 1u);
+    EXPECT_NEAR(pointsFromTwips(draft.sections[0].setup.marginTop), 54, 0.1) << "three quarters of an inch";
+    EXPECT_NEAR(draft.sections[0].tops.pushed.value_or(0), 74.3, 0.1);
+    EXPECT_FALSE(firstOn(draft, 1).startsPage) << "it starts where its header lets it";
+    const auto document = tests::documentOf(draft);
+    const auto& header = document.sections[0].header;
+    ASSERT_TRUE(header.firstPage && header.firstPage->empty());
+    ASSERT_TRUE(header.standard && header.standard->size() == 1u);
+    const auto& line = std::get<document::Paragraph>(header.standard->front().value);
+    EXPECT_NEAR(pointsFromTwips(line.properties.spaceAfter), 74.3 - 42.5, 0.1) << "the header's line ends at 42.5";
+}
+
+TEST(SectionMaker, PushesTextWithABlankHeaderWhereNoneIsSeen) {
+    DocumentDraft draft = makeDraft(3);
+    std::vector<PageRunningHeads> heads(3);
+    for (const std::size_t page : {0u, 1u, 2u}) {
+        for (double baseline = page == 0 ? 64 : 84; baseline <= 760; baseline += 20)
+            addLine(draft, page, 72, baseline);
+        if (page == 0)
+            continue;
+        heads[page].footer = RunningHead{tests::makePage(1), {}, "foot"};
+        heads[page].footer->content.lines.push_back(makeLine("a foot", 72, 800));
+    }
+    sectionsOf(draft, heads);
+    const auto document = tests::documentOf(draft);
+    const document::Section& section = document.sections.at(0);
+    ASSERT_TRUE(section.header.standard && section.header.standard->size() == 1u);
+    const auto& filler = std::get<document::Paragraph>(section.header.standard->front().value);
+    EXPECT_EQ(filler.properties.lineSpacing.rule, document::LineSpacingRule::Exact);
+    EXPECT_NEAR(pointsFromTwips(section.headerDistance + filler.properties.lineSpacing.height), 74.3, 0.1);
+    EXPECT_TRUE(section.header.firstPage && section.header.firstPage->empty());
+}
+
+TEST(SectionMaker, FloatsAPictureThatHangsAboveTheText) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks.push_back(tests::makePictureBlock({72, 40, 172, 120}));
+    addLine(draft, 0, 72, 160);
+    fillPage(draft, 1);
+    draft.blocks.push_back(tests::makePictureBlock({72, 300, 172, 400}));
+    draft.blocks.back().page = 1;
+    sectionsOf(draft);
+    EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginTop), 74.3, 0.1);
+    EXPECT_FALSE(std::get<FigureDraft>(draft.blocks.front().value).isInline);
+    EXPECT_TRUE(std::get<FigureDraft>(draft.blocks.back().value).isInline);
+}
+
+TEST(SectionMaker, CountsTheTopOfASingleLineWithTheSpacingOfTheOthers) {
+    DocumentDraft draft = makeDraft(1);
+    const auto exact = [](double baseline) {
+        // Closer than the letters are high: exact spacing, of which four fifths are above the baseline.
+        return makeParagraph({makeLine("one", 72, baseline), makeLine("two", 72, baseline + 7)});
+    };
+    addLine(draft, 0, 72, 84);
+    draft.blocks.push_back(makeBlock(exact(100)));
+    draft.blocks.push_back(makeBlock(exact(120)));
+    sectionsOf(draft);
+    EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginTop), 84 - 0.8 * 7, 0.3);
+}
+
+TEST(SectionMaker, CountsATableToWhereItsLastPartEnds) {
+    DocumentDraft draft = makeDraft(3);
+    DraftBlock table;
+    table.box = {72, 74.3, 523, 760};
+    DraftTable made;
+    made.table.columnEdges = {72, 523};
+    made.table.rowEdges = {74.3, 400, 760};
+    made.furtherParts.push_back({1, {72, 74.3, 523, 750}});
+    table.value = std::move(made);
+    draft.blocks.push_back(std::move(table));
+    addLine(draft, 2, 72, 84);
+    sectionsOf(draft);
+    EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the table's last page is full";
+}
+
+TEST(SectionMaker, ReadsTheEndEdgeThatMostLinesAgreeOn) {
+    DocumentDraft draft = makeDraft(1);
+    // Forty letters of five points each, and a word that had no room behind them.
+    const std::string full(80, 'x');
+    for (int i = 0; i < 6; ++i)
+        draft.blocks.push_back(
+            makeBlock(makeParagraph({makeLine(full, 72, 84 + 30 * i), makeLine("overflowing", 72, 96 + 30 * i)})));
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine(std::string(95, 'x'), 72, 300)}))); // in a box of its own
+    sectionsOf(draft);
+    const double end = 595 - pointsFromTwips(draft.sections.at(0).setup.marginRight);
+    EXPECT_GE(end, 72 + 400);
+    EXPECT_LT(end, 72 + 400 + 57.5) << "else the next word would have had room";
+}
+
 TEST(SectionMaker, MakesContinuousSectionsOfColumns) {
     DocumentDraft draft = makeDraft(1);
     draft.pages[0].bands = {{72, 100, {tests::kColumn}, false},

@@ -1,0 +1,33 @@
+#include "layout/assembly/ParagraphFormat.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using document::ParagraphProperties;
+using tests::makeLine;
+
+/// The format of a paragraph of these lines in a column of 72 to 523 points.
+ParagraphProperties formatOfLines(std::vector<Line> lines, document::Alignment alignment) {
+    ParagraphDraft paragraph = tests::makeParagraph(std::move(lines));
+    paragraph.alignment = alignment;
+    const DraftBlock block = tests::makeBlock(std::move(paragraph));
+    return formatOf(*block.paragraph(), {}, {});
+}
+
+TEST(ParagraphFormat, LetsTextReachPastTheColumnWhereItDid) {
+    const auto format = formatOfLines({makeLine(std::string(100, 'x'), 72, 100)}, document::Alignment::Start);
+    EXPECT_NEAR(pointsFromTwips(format.indentEnd), 523 - (72 + 500), 0.1) << "else the line would break";
+}
+
+TEST(ParagraphFormat, SeesAnEndIndentOnlyWhereTextIsJustified) {
+    const auto lines = [] { return std::vector{makeLine("words that end early", 72, 100), makeLine("and", 72, 112)}; };
+    EXPECT_EQ(formatOfLines(lines(), document::Alignment::Start).indentEnd, Twips(0));
+    EXPECT_NEAR(pointsFromTwips(formatOfLines(lines(), document::Alignment::Justified).indentEnd), 523 - 172, 0.1);
+}
+
+} // namespace
+} // namespace orvane::layout
