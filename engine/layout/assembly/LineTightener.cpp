@@ -2,6 +2,7 @@
 
 #include "layout/assembly/BlockPlace.h"
 
+#include <limits>
 #include <map>
 #include <set>
 
@@ -10,14 +11,20 @@ namespace {
 
 using document::StyleId;
 
-/// A paragraph whose line spacing was given to it, and how far down its line may reach.
+/// A paragraph whose line spacing was given to it, and how far its line may reach.
 struct GivenSpacing {
     AssembledBlock* block = nullptr;
-    double floor = 0;
+    double floor = std::numeric_limits<double>::infinity();
+    double ceiling = -std::numeric_limits<double>::infinity();
 };
 
 bool isGiven(const AssembledBlock& block) {
     return block.draftParagraph() && !block.hasOwnLineSpacing;
+}
+
+/// Lines of an exact height have most of it above their letters, those of a multiple below.
+bool isExact(const AssembledBlock& block) {
+    return block.paragraph()->properties.lineSpacing.rule == document::LineSpacingRule::Exact;
 }
 
 class LineTightener {
@@ -50,11 +57,13 @@ private:
     void readPairs(std::vector<AssembledBlock>& blocks) {
         forEachPair(blocks, [this](AssembledBlock& upper, AssembledBlock& lower) {
             if (isGiven(upper))
-                m_given.push_back({&upper, lower.top});
+                m_given.push_back({.block = &upper, .floor = lower.top});
+            if (isGiven(lower) && isExact(lower))
+                m_given.push_back({.block = &lower, .ceiling = upper.bottom});
         });
     }
 
-    /// The last lines of cells reach down to the cells' ends.
+    /// The first lines of cells reach up to the cells' tops, the last ones down to their ends.
     void readCells(std::vector<AssembledBlock>& blocks) {
         for (AssembledBlock& block : blocks) {
             for (std::size_t i = 0; i < block.cells.size(); ++i) {
@@ -64,13 +73,16 @@ private:
                 const bool isUpright = cell.direction == document::TextDirection::Horizontal;
                 if (!inside.empty() && isUpright && isGiven(inside.back()) &&
                     inside.back().lastPage == inside.front().draft->page)
-                    m_given.push_back({&inside.back(), cell.box.bottom});
+                    m_given.push_back({.block = &inside.back(), .floor = cell.box.bottom});
+                if (!inside.empty() && isUpright && isGiven(inside.front()) && isExact(inside.front()))
+                    m_given.push_back({.block = &inside.front(), .ceiling = cell.box.top});
             }
         }
     }
 
     bool isTooHigh(const GivenSpacing& given) const {
-        return given.block->bottom > given.floor + m_context.parameters.spacing.sameGap;
+        const double slack = m_context.parameters.spacing.sameGap;
+        return given.block->bottom > given.floor + slack || given.block->top < given.ceiling - slack;
     }
 
     void setSingle(AssembledBlock& block) const {

@@ -127,5 +127,19 @@ TEST(SpacingFinder, TakesLineSpacingFromSingleLinesThatStandCloseAboveOthers) {
     EXPECT_DOUBLE_EQ(styleOf(document, "Normal").paragraph.lineSpacing.multiple, 1.5);
 }
 
+TEST(SpacingFinder, TakesAnExactHeightFromSingleLinesThatItWouldPushIntoOthers) {
+    // Lines closer than their letters are high have an exact height; a single line close below others has no room for
+    // as much of it as letters twice as large are set apart.
+    DocumentDraft draft = makeDraft(1);
+    for (const double baseline : {100.0, 300.0})
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("one", 72, baseline, {.size = 40}),
+                                                        makeLine("two", 72, baseline + 30, {.size = 40}),
+                                                        makeLine("three", 72, baseline + 60, {.size = 40})})));
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("small", 72, 380)})));
+    const auto document = documentOf(draft);
+    EXPECT_EQ(paragraphAt(document, 0).properties.lineSpacing.rule, document::LineSpacingRule::Exact);
+    EXPECT_EQ(paragraphAt(document, 2).properties.lineSpacing.rule, document::LineSpacingRule::Multiple);
+}
+
 } // namespace
 } // namespace orvane::layout
