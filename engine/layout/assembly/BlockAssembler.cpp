@@ -103,6 +103,8 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
     bool isContents = false;
     for (AssembledBlock& block : blocks) {
         const DraftParagraph* draft = block.draftParagraph();
+        if (draft && isFloating(*block.draft))
+            block.block.value = frameOf(std::move(block), context);
         const bool isEntry = draft && draft->role == ParagraphRole::ContentsEntry;
         if (isEntry)
             addEntry(finished, isContents, std::move(*block.paragraph()), draft->level);
@@ -114,10 +116,7 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
         if (!block.labels.empty())
             frameLabels(block, context);
         std::move(block.floats.begin(), block.floats.end(), std::back_inserter(finished));
-        if (draft && isFloating(*block.draft))
-            finished.emplace_back().value = frameOf(std::move(block), context);
-        else
-            finished.push_back(std::move(block.block));
+        finished.push_back(std::move(block.block));
     }
     return finished;
 }

@@ -3,9 +3,9 @@
 #include "layout/assembly/BlankPages.h"
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
-#include "layout/assembly/HeaderPush.h"
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/NumberingAssembler.h"
+#include "layout/assembly/PushedText.h"
 #include "layout/assembly/SpacingFinder.h"
 
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "layout/assembly/HeaderPush.h"
+#include "layout/assembly/PushedText.h"
 
 #include "layout/assembly/BlockPlace.h"
 #include "layout/assembly/EmptyParagraph.h"
