@@ -1,6 +1,6 @@
 #include "read/doc/ArtDump.h"
 
-#include <set>
+#include <map>
 
 #include <fmt/format.h>
 
@@ -109,14 +109,20 @@ std::string recordText(const ByteView& bytes, std::size_t& at, int depth) {
     return text;
 }
 
-/// Where pictures stand in the data stream, as their characters tell.
-std::set<std::uint32_t> picturePlaces(const WordFile& file) {
-    constexpr std::uint32_t kPicture = 0x6A03;
-    std::set<std::uint32_t> places;
+/// What a character refers to in the data stream.
+enum class DataKind { Picture, FormField };
+
+/// Where pictures and form fields stand in the data stream, as their characters tell.
+std::map<std::uint32_t, DataKind> dataPlaces(const WordFile& file) {
+    constexpr std::uint32_t kPlace = 0x6A03;
+    constexpr std::uint32_t kIsData = 0x0806;
+    std::map<std::uint32_t, DataKind> places;
     for (const FormattedRange& look : file.looks()) {
         const ByteView list(look.properties, "a run's properties");
-        if (list.size() >= 6 && list.u16(0) == kPicture)
-            places.insert(list.u32(2));
+        if (list.size() < 6 || list.u16(0) != kPlace)
+            continue;
+        const bool isData = list.size() >= 9 && list.u16(6) == kIsData && list.u8(8) != 0;
+        places[list.u32(2)] = isData ? DataKind::FormField : DataKind::Picture;
     }
     return places;
 }
@@ -140,8 +146,12 @@ std::string dumpShapes(const WordFile& file) {
 std::string dumpPictures(const WordFile& file) {
     const ByteView data = file.stream("Data");
     std::string text;
-    for (const std::uint32_t place : picturePlaces(file)) {
+    for (const auto& [place, kind] : dataPlaces(file)) {
         const ByteView picture = data.part(place, data.u32(place));
+        if (kind == DataKind::FormField) {
+            text += fmt::format("  at {}: {} bytes of a form field\n", place, picture.size());
+            continue;
+        }
         text += fmt::format("  at {}: {} bytes, {} by {} twips, scaled {} by {}\n", place, picture.size(),
                             picture.u16(28), picture.u16(30), picture.u16(32), picture.u16(34));
         for (std::size_t at = picture.u16(4); at < picture.size();)

@@ -14,6 +14,7 @@ struct PropertyName {
 
 /// Ascending by number.
 constexpr PropertyName kNames[] = {
+    {0x0806, "data of a form field"},
     {0x0835, "bold"},
     {0x0836, "italic"},
     {0x0837, "strike"},

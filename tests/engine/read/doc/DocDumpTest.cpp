@@ -175,6 +175,7 @@ TEST(DocDump, IsWholeForADocumentThatHasOneOfEverything) {
     for (const char* title : {"styles", "fonts", "lists", "sections", "text: footnotes", "text: comments", "fields",
                               "text boxes", "shapes", "pictures", "document information"})
         EXPECT_NE(part(dump, title), "") << title;
+    EXPECT_NE(part(dump, "pictures").find("bytes of a form field"), std::string::npos);
 }
 
 TEST(DocDump, TellsOfWhatIsNoDocument) {
