@@ -106,12 +106,32 @@ void takeLines(PageText& page, const PageEdges& edges, PageRunningHeads& heads) 
     page.lines = std::move(rest);
 }
 
+/// Upright extent of the rows that are taken, with as much room around them as the highest of them has height.
+BodyRange reachOf(const EdgeRows& edge) {
+    Rect rows;
+    double highest = 0;
+    for (std::size_t i = 0; i < edge.taken; ++i) {
+        rows = rows.united(edge.rows[i].box);
+        highest = std::max(highest, edge.rows[i].box.height());
+    }
+    return {rows.top - highest, rows.bottom + highest};
+}
+
+/// Whether a picture beside the rows reaches farther into the page than they do. It is one of this page then, unless it
+/// is found on others too.
+bool hangsOut(const Rect& box, const EdgeRows& edge, PageEdge side) {
+    const BodyRange reach = reachOf(edge);
+    return side == PageEdge::Top ? box.top < reach.bottom && box.bottom > reach.bottom
+                                 : box.bottom > reach.top && box.top < reach.top;
+}
+
 /// Moves what is drawn around the rows, where `isBeyond(top, bottom)` holds.
 template<typename Predicate>
-void takeDrawn(PageText& page, const Predicate& isBeyond, PageText& head) {
+void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, const Predicate& isBeyond, PageText& head) {
     const auto isPart = [&](const auto& item) { return isBeyond(item.box.top, item.box.bottom); };
     moveParts(page.grounds, head.grounds, isPart);
-    moveParts(page.figures, head.figures, isPart);
+    moveParts(page.figures, head.figures,
+              [&](const Figure& figure) { return isPart(figure) && !hangsOut(figure.box, edge, side); });
     moveParts(page.rules, head.rules, [&](const Rule& rule) {
         return rule.direction == RuleDirection::Vertical ? isBeyond(rule.from, rule.to)
                                                          : isBeyond(rule.position, rule.position);
@@ -161,10 +181,12 @@ void takeHeads(PageText& page, const PageEdges& edges, const RunningParameters::
     takeLines(page, edges, heads);
     if (edges.top.taken > 0)
         takeDrawn(
-            page, [&](double, double bottom) { return bottom <= edges.headerEnd; }, heads.header->content);
+            page, edges.top, PageEdge::Top, [&](double, double bottom) { return bottom <= edges.headerEnd; },
+            heads.header->content);
     if (edges.bottom.taken > 0)
         takeDrawn(
-            page, [&](double top, double) { return top >= edges.footerStart; }, heads.footer->content);
+            page, edges.bottom, PageEdge::Bottom, [&](double top, double) { return top >= edges.footerStart; },
+            heads.footer->content);
 }
 
 /// Whether most pages would hold nothing any more: a document of one numbered line a page, or of forms that are all

@@ -376,5 +376,17 @@ TEST(RunningHeads, TakesLogosAndRulesAlong) {
     EXPECT_EQ(pages[1].figures[0].picture, PictureId{12});
 }
 
+TEST(RunningHeads, LeavesThePictureOfOnePageThatHangsDownFromTheRows) {
+    auto pages = pagesWith(3, [](PageText& page, int) { page.lines.push_back(makeLine("Annual report", 72, 50)); });
+    Figure ribbon;
+    ribbon.picture = PictureId{7};
+    ribbon.box = {480, 20, 523, 68};
+    pages[0].figures.push_back(ribbon);
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[0].header);
+    EXPECT_TRUE(heads[0].header->content.figures.empty());
+    EXPECT_EQ(pages[0].figures.size(), 1u);
+}
+
 } // namespace
 } // namespace orvane::layout
