@@ -12,6 +12,7 @@ struct StructureParameters {
         double sameSize = 1.5;          ///< points; paper sizes that differ by less are one
         double sameEdge = 1.5;          ///< points; lines that start this near start at one edge
         double edgeShare = 0.03;        ///< of the lines that must start at an edge for it to be the margin
+        double fullWidth = 0.5;         ///< of the widest line; narrower ones that go on tell nothing about the edge
         int flushLines = 5;             ///< so many justified lines show the end edge
         double blank = 0.25;            ///< of the font size; the blank before a word that had no room
         double roomSlack = 0.5;         ///< points; a line may be this much longer than measured

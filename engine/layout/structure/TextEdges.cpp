@@ -117,7 +117,7 @@ private:
             std::sort(flush.begin(), flush.end());
             return flush[static_cast<std::size_t>(m_limits.edgeShare * static_cast<double>(flush.size()))];
         }
-        const EndRange range = agreedRange();
+        const EndRange range = agreedRange(start);
         // A line as wide as its column to the last hair may find no room in another program.
         const double highest = std::max(0.0, range.to - m_limits.roomSlack);
         return tidyLength(std::min(range.from + m_limits.roomSlack, highest), highest, start, m_limits.roomSlack);
@@ -131,13 +131,16 @@ private:
 
     /// Each line ends before the edge, and one that goes on left no room for the next word: the range that most lines
     /// agree on, the outermost if there are several. Some stand in boxes that have edges of their own.
-    EndRange agreedRange() const {
+    EndRange agreedRange(double start) const {
+        const double widest = m_pageWidth - start - outermost(&LineEdge::end);
         std::vector<std::pair<double, int>> steps; // where a line begins or ceases to agree
         for (const LineEdge& edge : m_edges) {
             if (edge.end == kNone)
                 continue;
             const double end = std::max(0.0, edge.end);
-            steps.emplace_back(edge.room > 0 ? std::max(0.0, edge.end - edge.room) : 0.0, 1);
+            // A line much narrower than others is that of a box, or was ended by hand; the edge is not near it.
+            const bool tellsRoom = edge.room > 0 && m_pageWidth - start - end >= m_limits.fullWidth * widest;
+            steps.emplace_back(tellsRoom ? std::max(0.0, edge.end - edge.room) : 0.0, 1);
             steps.emplace_back(end, -1);
         }
         // Lines begin to agree before others cease to at the same place.

@@ -225,6 +225,16 @@ TEST(SectionMaker, ReadsTheEndEdgeThatMostLinesAgreeOn) {
     EXPECT_LT(end, 72 + 400 + 57.5) << "else the next word would have had room";
 }
 
+TEST(SectionMaker, ReadsNoEndEdgeFromLinesMuchNarrowerThanOthers) {
+    DocumentDraft draft = makeDraft(1);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine(std::string(80, 'x'), 72, 84)})));
+    for (int i = 0; i < 6; ++i)
+        draft.blocks.push_back(
+            makeBlock(makeParagraph({makeLine("w", 72, 114 + 30 * i), makeLine("w", 72, 126 + 30 * i)})));
+    sectionsOf(draft);
+    EXPECT_LT(pointsFromTwips(draft.sections.at(0).setup.marginRight), 595 - (72 + 400));
+}
+
 TEST(SectionMaker, MakesContinuousSectionsOfColumns) {
     DocumentDraft draft = makeDraft(1);
     draft.pages[0].bands = {{72, 100, {tests::kColumn}, false},
