@@ -9,6 +9,7 @@
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
 #include "layout/structure/AddressLinks.h"
+#include "layout/structure/CommentFinder.h"
 #include "layout/structure/ContentsFinder.h"
 #include "layout/structure/DraftBuilder.h"
 #include "layout/structure/HandBreaks.h"
@@ -87,6 +88,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     makeSections(draft, heads, context, parameters, diagnostics);
     findLists(draft, parameters);
     linkPrintedAddresses(draft);
+    findComments(draft, diagnostics);
     return inMode(request.mode, assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics));
 }
 

@@ -5,8 +5,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <string>
+#include <string_view>
 
+#include <Annot.h>
 #include <Form.h>
+#include <Link.h>
 #include <Page.h>
 
 namespace orvane::pdf {
@@ -43,6 +47,22 @@ void readChoice(const ::FormWidgetChoice& widget, FormField& field) {
         field.value = textFromPdf(widget.getEditChoice());
 }
 
+/// What stands between the first pair of quotes after `function`.
+std::string quotedAfter(const std::string& script, std::string_view function) {
+    const std::size_t call = script.find(function);
+    const std::size_t open = call == std::string::npos ? call : script.find_first_of("\"'", call);
+    const std::size_t close = open == std::string::npos ? open : script.find(script[open], open + 1);
+    return close == std::string::npos ? std::string() : script.substr(open + 1, close - open - 1);
+}
+
+/// How the field writes dates, when a script makes it a field of dates.
+std::string dateFormatOf(::FormWidget& widget) {
+    const std::unique_ptr<::LinkAction> action = widget.getAdditionalAction(::Annot::actionFormatField);
+    if (!action || action->getKind() != actionJavaScript)
+        return {};
+    return quotedAfter(static_cast<const ::LinkJavaScript&>(*action).getScript(), "AFDate_FormatEx");
+}
+
 void readValue(::FormWidget& widget, FormField& field) {
     switch (widget.getType()) {
     case formText: {
@@ -50,6 +70,7 @@ void readValue(::FormWidget& widget, FormField& field) {
         field.kind = FieldKind::Text;
         field.value = textFromPdf(text.getContent());
         field.isMultiline = text.isMultiline();
+        field.dateFormat = dateFormatOf(widget);
         break;
     }
     case formButton:

@@ -154,6 +154,7 @@ struct FormField {
     std::string value;
     std::vector<std::string> choices;
     bool isOn = false;           ///< CheckBox, RadioButton
+    std::string dateFormat;      ///< Text: how it writes the dates that it takes, "dd/mm/yyyy"; empty for other fields
     bool isMultiline = false;
     bool isReadOnly = false;
 };

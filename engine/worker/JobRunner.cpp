@@ -43,6 +43,11 @@ layout::LayoutMode layoutMode(Layout layout) {
     return layout::LayoutMode::Flowing;
 }
 
+/// True page shows forms as they are printed.
+FieldReading fieldReading(Layout layout) {
+    return layout == Layout::TruePage ? FieldReading::AsDrawn : FieldReading::AsControls;
+}
+
 layout::LayoutRequest layoutRequest(const Job& job) {
     return {layoutMode(job.layout), job.pictures == Pictures::Remove, job.characterSpacing == CharacterSpacing::Exact};
 }
@@ -166,7 +171,7 @@ void JobRunner::convert() {
     const layout::LayoutParameters parameters;
     PagesRead read = readPages(source,
                                {m_job.source, passwords, selection.pages, showsPictures(m_job) ? &pictures : nullptr,
-                                parameters, m_job.limits.threads},
+                                fieldReading(m_job.layout), parameters, m_job.limits.threads},
                                m_reporter);
 
     m_reporter.stageReached(JobStage::Generating, 0, 0);
@@ -242,8 +247,10 @@ void JobRunner::draw() {
     m_reporter.accept({source.pageCount(), 1});
     const std::vector<int> allPages = selectPages("", source.pageCount()).pages;
     const layout::LayoutParameters parameters;
-    PagesRead read =
-        readPages(source, {m_job.source, passwords, allPages, nullptr, parameters, m_job.limits.threads}, m_reporter);
+    PagesRead read = readPages(
+        source,
+        {m_job.source, passwords, allPages, nullptr, FieldReading::AsControls, parameters, m_job.limits.threads},
+        m_reporter);
     Diagnostics diagnostics;
     std::ofstream file(target.part(), std::ios::binary);
     file << layout::inspectPage(std::move(read.pages), page, *stage, parameters, diagnostics);

@@ -119,8 +119,10 @@ private:
 
     layout::PageText read(const pdf::PdfDocument& document, int number, Diagnostics& diagnostics,
                           protocol::Counts& counts) {
-        const pdf::PageContent content = document.readPage(number, {m_reading.pictures}, diagnostics);
+        pdf::PageContent content = document.readPage(number, {m_reading.pictures}, diagnostics);
         countRead(content, counts);
+        if (m_reading.fields == FieldReading::AsDrawn)
+            content.fields.clear();
         layout::PageText page = layout::readPageText(content, m_reading.parameters, diagnostics);
         if (m_reading.pictures != nullptr)
             paintFigures(document, page, *m_reading.pictures, diagnostics);

@@ -7,17 +7,25 @@
 #include "protocol/Message.h"
 #include "worker/RunReporter.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <vector>
 
 namespace orvane::worker {
 
 /// What reading pages needs to know.
+/// What becomes of the fields of forms.
+enum class FieldReading : std::uint8_t {
+    AsControls, ///< they are part of the text
+    AsDrawn,    ///< the page shows them as it is printed
+};
+
 struct PageReading {
     std::filesystem::path source;
     pdf::Passwords passwords;
     std::vector<int> pages;
     PictureStore* pictures = nullptr; ///< null when pictures are left out
+    FieldReading fields = FieldReading::AsControls;
     layout::LayoutParameters parameters;
     int threads = 0; ///< 0: as many as the machine has, at most four
 };

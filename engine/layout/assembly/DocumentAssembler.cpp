@@ -2,6 +2,7 @@
 
 #include "layout/assembly/BlankPages.h"
 #include "layout/assembly/BlockAssembler.h"
+#include "layout/assembly/CommentAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/NumberingAssembler.h"
@@ -142,6 +143,7 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     document.sections = flows.takeSections();
     document.notes = flows.takeNotes();
     document.footnoteCount = draft.footnoteCount;
+    document.comments = assembleComments(draft, document.styles.front());
     return document;
 }
 

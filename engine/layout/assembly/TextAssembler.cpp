@@ -1,6 +1,7 @@
 #include "layout/assembly/TextAssembler.h"
 
 #include "base/Utf8.h"
+#include "layout/assembly/FieldControl.h"
 #include "layout/paragraphs/HyphenResolver.h"
 #include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
@@ -18,7 +19,7 @@ using document::Inline;
 using document::LinkTarget;
 using document::RunProperties;
 
-/// Collects runs, joins those of one look, and puts what belongs to one link into it.
+/// Collects runs, joins those of one look, and puts what belongs to one link or form field into it.
 class InlineBuilder {
 public:
     void addText(std::string_view text, const RunProperties& properties, const std::optional<LinkTarget>& link) {
@@ -49,24 +50,37 @@ public:
         if (last->text.empty())
             inlines.pop_back();
     }
+    /// What is added from now on stands in the field; null for none.
+    void enterField(const pdf::FormField* field) {
+        if (field == m_field)
+            return;
+        enterLink(std::nullopt);
+        if (m_field && !m_fieldInlines.empty())
+            m_inlines.push_back({controlOf(*m_field, std::exchange(m_fieldInlines, {}))});
+        m_field = field;
+    }
     std::vector<Inline> finish() {
+        enterField(nullptr);
         enterLink(std::nullopt);
         return std::move(m_inlines);
     }
 
 private:
-    std::vector<Inline>& target() { return m_link ? m_linkInlines : m_inlines; }
+    std::vector<Inline>& outside() { return m_field ? m_fieldInlines : m_inlines; }
+    std::vector<Inline>& target() { return m_link ? m_linkInlines : outside(); }
     void enterLink(const std::optional<LinkTarget>& link) {
         const bool isSame = m_link.has_value() == link.has_value() &&
                             (!link || (m_link->uri == link->uri && m_link->bookmark == link->bookmark));
         if (isSame)
             return;
         if (m_link && !m_linkInlines.empty())
-            m_inlines.push_back({document::Link{*m_link, std::exchange(m_linkInlines, {})}});
+            outside().push_back({document::Link{*m_link, std::exchange(m_linkInlines, {})}});
         m_link = link;
     }
 
     std::vector<Inline> m_inlines;
+    std::vector<Inline> m_fieldInlines;
+    const pdf::FormField* m_field = nullptr;
     std::vector<Inline> m_linkInlines;
     std::optional<LinkTarget> m_link;
 };
@@ -125,6 +139,7 @@ private:
     struct Before {
         RunProperties properties;
         std::optional<LinkTarget> link;
+        const pdf::FormField* field = nullptr;
         std::string text;
     };
 
@@ -148,15 +163,20 @@ private:
             const Span& span = word.spans[i];
             const RunProperties properties = runProperties(span, page, m_families, m_context);
             const auto link = m_context.links.target(page, span.look.link);
+            const pdf::FormField* formField = formFieldOf(page, span);
+            if (m_before && m_before->field != formField)
+                m_builder.enterField(nullptr);
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
+            m_builder.enterField(formField);
             if (const DraftNoteReference* note = noteAt(page, span))
                 m_builder.add({document::NoteReference{note->note, properties, note->customMark}}, std::nullopt);
             else if (const auto field = fieldAt(page, span.box))
                 m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
             else
                 m_builder.addText(span.text, properties, link);
-            m_before = Before{properties, link, {}};
+            addComments(page, span, link);
+            m_before = Before{properties, link, formField, {}};
         }
         m_before->text = textOf(word);
     }
@@ -205,6 +225,22 @@ private:
             if (field.box == box)
                 return field.code;
         return std::nullopt;
+    }
+
+    const pdf::FormField* formFieldOf(std::size_t page, const Span& span) const {
+        const std::vector<pdf::FormField>& fields = m_context.draft.pages[page].fields;
+        const auto index = static_cast<std::size_t>(span.look.field);
+        return span.look.field >= 0 && index < fields.size() ? &fields[index] : nullptr;
+    }
+
+    void addComments(std::size_t page, const Span& span, const std::optional<LinkTarget>& link) {
+        const std::vector<DraftComment>& comments = m_context.draft.comments;
+        for (std::size_t i = 0; i < comments.size(); ++i) {
+            if (comments[i].page != page || comments[i].box != span.box)
+                continue;
+            m_builder.enterField(nullptr);
+            m_builder.add({document::CommentReference{i}}, link);
+        }
     }
 
     const DraftNoteReference* noteAt(std::size_t page, const Span& span) const {

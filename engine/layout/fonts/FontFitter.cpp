@@ -176,7 +176,7 @@ private:
     void readSpan(const Span& span, std::size_t page, double points) {
         const Look& look = span.look;
         if (look.font >= m_fonts[page].size() || look.verticalPosition != document::VerticalPosition::Baseline ||
-            look.isSmallCaps || look.size <= 0)
+            look.isSmallCaps || look.size <= 0 || look.field >= 0)
             return;
         const FontFace face = faceOf(source(page, look.font));
         if (look.isBold != face.isBold || look.isItalic != face.isItalic)

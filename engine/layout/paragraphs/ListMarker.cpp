@@ -189,6 +189,9 @@ std::optional<ListMarker> findListMarker(const Line& line, const ParagraphParame
     if (line.words.size() < 2 && (line.words.empty() || textOf(line.words[0]).size() < 4))
         return std::nullopt;
     const Word& first = line.words[0];
+    // A box to tick is no bullet.
+    if (!first.spans.empty() && first.spans.front().look.field >= 0)
+        return std::nullopt;
     const std::u32string text = utf32FromUtf8(textOf(first));
     if (text.empty())
         return std::nullopt;

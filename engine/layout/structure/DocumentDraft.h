@@ -129,6 +129,13 @@ struct DraftNoteReference {
     std::string customMark;
 };
 
+/// What a reader noted at a place in the text.
+struct DraftComment {
+    std::size_t page = 0; ///< index into DocumentDraft::pages
+    Rect box;             ///< of the span behind which it stands
+    pdf::Annotation annotation;
+};
+
 struct DocumentDraft {
     std::vector<PageLayout>
         pages; ///< without their blocks; behind the document's own those made of running heads and notes
@@ -137,6 +144,7 @@ struct DocumentDraft {
     std::vector<DraftNote> notes;
     document::NoteCount footnoteCount = document::NoteCount::Continuous;
     std::vector<DraftNoteReference> noteReferences;
+    std::vector<DraftComment> comments;
     std::vector<Rect> noteAreas;        ///< for each of the document's pages: the part that notes take, empty for none
     std::vector<DraftSection> sections; ///< at least one once SectionMaker has run
     std::vector<std::vector<RunningField>> fields; ///< for each page; only those made of running heads have any

@@ -66,6 +66,7 @@ void addNoteLines(PageText& note, const PageText& source, std::vector<Line> line
                 if (span.look.link >= 0)
                     span.look.link = links.move(span.look.link, source.links, note.links);
                 span.mark = -1;
+                span.look.field = -1;
             }
         }
         note.lines.push_back(std::move(line));

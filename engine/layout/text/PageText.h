@@ -31,6 +31,7 @@ struct Look {
     double horizontalScale = 1;
     double characterSpacing = 0;     ///< points beyond the font's own advances, averaged over the span
     int link = -1;                   ///< index into PageText::links
+    int field = -1;                  ///< index into PageText::fields
 
     bool operator==(const Look&) const = default;
 };

@@ -2,17 +2,22 @@
 #include "layout/graphics/FigureFinder.h"
 #include "layout/graphics/RuleFinder.h"
 #include "layout/text/ClusterBuilder.h"
+#include "layout/text/FieldSigns.h"
 #include "layout/text/FrameFinder.h"
 #include "layout/text/GlyphFilter.h"
 #include "layout/text/LineBuilder.h"
+#include "layout/text/MarkupReader.h"
 #include "layout/text/RowBuilder.h"
 #include "layout/text/SpanBuilder.h"
 #include "layout/text/TextDecoration.h"
 #include "layout/text/WordBuilder.h"
 
-namespace orvane::layout {
+#include <algorithm>
 
-PageText readPageText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
+namespace orvane::layout {
+namespace {
+
+PageText readText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
     PageText text;
     text.number = page.number;
     text.width = page.width;
@@ -36,10 +41,20 @@ PageText readPageText(const pdf::PageContent& page, const LayoutParameters& para
     std::vector<TextRow> lines =
         buildLines(std::move(rows), frames.frames, text.rules, text.grounds, parameters, diagnostics);
     decorateText(lines, frames.frames, text.rules, text.grounds, text.links, parameters, diagnostics);
+    TextMarkup markup = markupOf(page.annotations, parameters.markup);
+    decorateText(lines, frames.frames, markup.rules, markup.grounds, {}, parameters, diagnostics);
+    markFields(lines, frames.frames, page.fields, parameters);
     text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
 
     findFigures(page, ruled.isTaken, text, parameters, diagnostics);
     return text;
+}
+
+} // namespace
+
+PageText readPageText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    const bool isForm = std::any_of(page.fields.begin(), page.fields.end(), isFilledIn);
+    return readText(isForm ? withFieldSigns(page, parameters.fields) : page, parameters, diagnostics);
 }
 
 } // namespace orvane::layout

@@ -15,6 +15,8 @@ UnderlineKind underlineOf(const Rule& rule, double size, const TextParameters::D
     switch (rule.kind) {
     case BorderKind::Double:
         return UnderlineKind::Double;
+    case BorderKind::Wave:
+        return UnderlineKind::Wavy;
     case BorderKind::Dotted:
         return UnderlineKind::Dotted;
     case BorderKind::Dashed:

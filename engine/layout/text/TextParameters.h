@@ -149,6 +149,22 @@ struct TextParameters {
         double indexStep = 12;     ///< points; slices of the page in which things are looked for
     } decoration;
 
+    /// MarkupReader: marks of readers on the text, within the boxes around the words.
+    struct Markup {
+        double underlineHeight = 0.1; ///< of the box's height; from its bottom
+        double strikeHeight = 0.45;   ///< likewise
+        double thickness = 0.06;      ///< of the box's height
+    } markup;
+
+    /// FieldSigns: what stands for form fields.
+    struct Fields {
+        double boxReach = 2;       ///< points; how far the outline of a check box lies outside it
+        double usualSize = 11;     ///< points; of text in a field with none beside it ...
+        double sizeShare = 0.7;    ///< ... which does not fill more of its height
+        double descentShare = 0.2; ///< of the size; below the baseline
+        double letterWidth = 0.5;  ///< of the size
+    } fields;
+
     /// LeaderFinder: dots before page numbers.
     struct Leaders {
         unsigned fewestDots = 4;

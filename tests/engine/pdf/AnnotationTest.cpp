@@ -102,6 +102,13 @@ TEST(FormFields, TellTheirValues) {
     EXPECT_EQ(choice.choices, (std::vector<std::string>{"Red", "Blue"}));
 }
 
+TEST(FormFields, TellHowTheyWriteDates) {
+    OpenedPdf dated(formPdf("/AA << /F << /S /JavaScript /JS (AFDate_FormatEx\\(\"dd.mm.yyyy\"\\);) >> >>"));
+    EXPECT_EQ(dated.page().fields.at(0).dateFormat, "dd.mm.yyyy");
+    OpenedPdf plain(formPdf(""));
+    EXPECT_EQ(plain.page().fields.at(0).dateFormat, "");
+}
+
 TEST(FormFields, AreSeenWithTheirValues) {
     OpenedPdf pdf(formPdf(""));
     const PageContent content = pdf.page();
