@@ -143,6 +143,43 @@ std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TablePara
     return gaps;
 }
 
+/// The rows in which one column has texts of its own.
+struct FilledRows {
+    double top = 1e9;
+    double bottom = -1e9;
+    int count = 0;
+
+    void add(const PieceRow& row) {
+        top = std::min(top, row.box.top);
+        bottom = std::max(bottom, row.box.bottom);
+        ++count;
+    }
+    bool isHeadOf(const FilledRows& values, const TableParameters::Tables& parameters) const {
+        return count > 0 && count <= parameters.maximumHeaderRows && values.count >= parameters.minimumRowsParted &&
+               bottom <= values.top;
+    }
+};
+
+/// Takes out the gaps between a head and the values of its column that stand all to the other side: "Weight" set to the
+/// left and short numbers below it to the right.
+void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow> rows,
+                         const TableParameters::Tables& parameters) {
+    for (std::size_t i = gaps.size(); i-- > 0;) {
+        FilledRows left, right;
+        for (const PieceRow& row : rows) {
+            for (const TextPiece& piece : row.pieces) {
+                const ColumnRange range = columnsOf(piece, gaps);
+                if (range.first == range.last && range.first == static_cast<int>(i))
+                    left.add(row);
+                else if (range.first == range.last && range.first == static_cast<int>(i) + 1)
+                    right.add(row);
+            }
+        }
+        if (left.isHeadOf(right, parameters) || right.isHeadOf(left, parameters))
+            gaps.erase(gaps.begin() + static_cast<std::ptrdiff_t>(i));
+    }
+}
+
 /// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
 std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     std::vector<PieceRow> telling;
@@ -161,7 +198,10 @@ std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TablePar
 } // namespace
 
 std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
-    return gapsAmong(tellingRows(rows, parameters), parameters);
+    const std::vector<PieceRow> telling = tellingRows(rows, parameters);
+    std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
+    joinHeadsWithValues(gaps, telling, parameters);
+    return gaps;
 }
 
 ColumnRange columnsOf(const TextPiece& piece, const std::vector<ColumnGap>& gaps) {
