@@ -8,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <random>
 #include <stdexcept>
+#include <string>
 
 namespace fs = std::filesystem;
 
@@ -18,14 +20,18 @@ namespace {
 /// What every system does alike. Needs nothing but the room itself, so that it also runs on Windows.
 class System : public testing::Test {
 protected:
-    System() { fs::create_directories(m_folder); }
+    System() {
+        if (!fs::create_directories(m_folder))
+            throw std::runtime_error("the folder of the test belongs to another run");
+    }
     ~System() override { fs::remove_all(m_folder); }
 
     fs::path in(const fs::path& name) const { return m_folder / name; }
     static void write(const fs::path& file) { std::ofstream(file) << "text"; }
 
 private:
-    fs::path m_folder = fs::temp_directory_path() / "tavrelion system test";
+    /// A name of its own for every test: tests run beside each other, each in a process of its own.
+    fs::path m_folder = fs::temp_directory_path() / ("tavrelion system test " + std::to_string(std::random_device{}()));
 };
 
 TEST_F(System, DeletesAFolderWithAllItHolds) {
