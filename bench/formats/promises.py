@@ -6,11 +6,12 @@ Converts every PDF of FOLDER and of the folders in it (those of bench/quality wi
   plain text  that too, and one look: no table, list, heading, bold or italic letter, colour or second size
   words       both layouts hold the words that the flowing one has in its text, in its tables and lists too
   --no-images no picture in any layout
-  --keep-spacing  distances between letters stand in the document with it and not without it
-  --pages     a page alone gives no more text than the whole
+  --keep-spacing  distances between letters stand in no document without it; with it, in some document of the folder
+  --pages     one page of several gives less text than the whole
 PDFs that cannot be converted (passwords, damage) are counted, not judged.
 """
 import collections
+import json
 import pathlib
 import re
 import subprocess
@@ -58,6 +59,10 @@ class Converter:
                 return None
         return target
 
+    def page_count(self, source):
+        done = subprocess.run([self.program, "info", "--json", str(source)], check=True, capture_output=True, timeout=120)
+        return json.loads(done.stdout)["pageCount"]
+
     def dump(self, path):
         return subprocess.run([self.program, "dump", str(path)], check=True, capture_output=True, timeout=120).stdout.decode()
 
@@ -95,9 +100,15 @@ def broken_options(converter, source):
                 yield f"--no-images: {layout} has pictures"
         if SPACED.search(part(converter.to(source, layout), "word/document.xml")):
             yield f"{layout} sets letters apart without --keep-spacing"
-    one = converter.to(source, "flowing", "docx", "--pages=1")
-    if one and words_of(one).total() > words_of(converter.to(source, "flowing")).total() * 1.05 + FEW_WORDS:
-        yield "--pages=1: more words than the whole"
+    if converter.page_count(source) > 1:
+        one, whole = (words_of(converter.to(source, "flowing", "docx", *pages)).total() for pages in (["--pages=1"], []))
+        if one >= whole > FEW_WORDS:
+            yield f"--pages=1: {one} words, {whole} without"
+
+
+def keeps_spacing(converter, source):
+    return any(SPACED.search(part(converter.to(source, layout, "docx", "--keep-spacing"), "word/document.xml"))
+               for layout in ("flowing", "true-page"))
 
 
 def broken(converter, source):
@@ -110,7 +121,7 @@ def broken(converter, source):
 def main():
     program = sys.argv[1]
     sources = sorted(pathlib.Path(sys.argv[2] if len(sys.argv) > 2 else HERE.parent / "quality" / "pdf").rglob("*.pdf"))
-    kept, unread, faults = 0, 0, []
+    kept, unread, faults, is_spacing_kept = 0, 0, [], False
     for source in sources:
         with tempfile.TemporaryDirectory() as folder:
             converter = Converter(program, pathlib.Path(folder))
@@ -118,9 +129,13 @@ def main():
                 unread += 1
                 continue
             here = [f"{source.name}: {what}" for what in broken(converter, source)]
+            is_spacing_kept = is_spacing_kept or keeps_spacing(converter, source)
         kept += not here
         faults += here
         print("".join(f"{fault}\n" for fault in here), end="", flush=True)
+    if not is_spacing_kept:
+        faults.append("--keep-spacing")
+        print("--keep-spacing changes no document")
     print(f"{kept} of {len(sources) - unread} documents keep all promises, {unread} could not be converted")
     return 1 if faults or not kept else 0
 

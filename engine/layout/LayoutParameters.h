@@ -2,6 +2,7 @@
 
 #include "layout/assembly/AssemblyParameters.h"
 #include "layout/fonts/FontParameters.h"
+#include "layout/frames/FrameParameters.h"
 #include "layout/graphics/GraphicsParameters.h"
 #include "layout/page/PageParameters.h"
 #include "layout/paragraphs/ParagraphParameters.h"
@@ -9,7 +10,6 @@
 #include "layout/structure/StructureParameters.h"
 #include "layout/tables/TableParameters.h"
 #include "layout/text/TextParameters.h"
-#include "layout/truepage/TruePageParameters.h"
 
 namespace orvane::layout {
 
@@ -23,7 +23,7 @@ struct LayoutParameters : TextParameters,
                           StructureParameters,
                           FontParameters,
                           AssemblyParameters,
-                          TruePageParameters {
+                          FrameParameters {
     /// DocumentAnalyser: what most of the document looks like.
     struct Analysis {
         double sizeStep = 0.5;       ///< points; font sizes are counted in classes of this width

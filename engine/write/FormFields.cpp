@@ -1,6 +1,7 @@
 #include "write/FormFields.h"
 
 #include "base/Utf8.h"
+#include "document/InlineText.h"
 #include "write/LinkNames.h"
 
 #include <algorithm>
@@ -17,14 +18,6 @@ constexpr std::size_t kLongestChoice = 50;
 
 std::string shortened(const std::string& text, std::size_t length) {
     return utf8FromUtf32(utf32FromUtf8(text).substr(0, length));
-}
-
-std::string plainText(const std::vector<Inline>& inlines) {
-    std::string result;
-    for (const Inline& item : inlines)
-        if (const auto* text = std::get_if<Text>(&item.value))
-            result += text->text;
-    return result;
 }
 
 /// Makes a list of the field, where one of its choices is the one shown.

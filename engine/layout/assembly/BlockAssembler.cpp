@@ -1,12 +1,12 @@
 #include "layout/assembly/BlockAssembler.h"
 
 #include "layout/assembly/FigureAssembler.h"
+#include "layout/assembly/FrameAssembler.h"
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/ParagraphFormat.h"
 #include "layout/assembly/TableAssembler.h"
 #include "layout/fonts/LineMetrics.h"
 #include "layout/structure/BlockExtent.h"
-#include "layout/truepage/FrameAssembler.h"
 
 #include <algorithm>
 #include <iterator>

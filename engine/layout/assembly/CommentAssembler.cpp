@@ -1,5 +1,7 @@
 #include "layout/assembly/CommentAssembler.h"
 
+#include "base/TextLines.h"
+
 #include <string_view>
 
 namespace orvane::layout {
@@ -23,14 +25,8 @@ std::vector<document::Comment> assembleComments(const DocumentDraft& draft, cons
         document::Comment& comment = comments.emplace_back();
         comment.author = source.annotation.author;
         comment.date = source.annotation.date;
-        std::string_view rest = source.annotation.contents;
-        while (true) {
-            const std::size_t end = rest.find_first_of("\r\n");
-            comment.blocks.push_back(paragraphOf(rest.substr(0, end), style));
-            if (end == std::string_view::npos)
-                break;
-            rest.remove_prefix(end + (rest.substr(end, 2) == "\r\n" ? 2 : 1));
-        }
+        for (const std::string_view line : linesOf(source.annotation.contents))
+            comment.blocks.push_back(paragraphOf(line, style));
     }
     return comments;
 }

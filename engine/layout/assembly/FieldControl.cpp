@@ -1,6 +1,8 @@
 #include "layout/assembly/FieldControl.h"
 
+#include "base/TextLines.h"
 #include "base/Utf8.h"
+#include "document/InlineText.h"
 #include "layout/text/FieldSigns.h"
 
 #include <algorithm>
@@ -36,26 +38,17 @@ std::u32string lettersOf(std::string_view text) {
     return letters;
 }
 
-std::string textOf(const std::vector<Inline>& inlines) {
-    std::string text;
-    for (const Inline& item : inlines)
-        if (const auto* run = std::get_if<Text>(&item.value))
-            text += run->text;
-    return text;
-}
-
 /// The value in the look of what stands there, a line for each of its lines.
 std::vector<Inline> typed(std::string_view value, const document::RunProperties& look) {
+    const std::vector<std::string_view> lines = linesOf(value);
     std::vector<Inline> inlines;
-    while (true) {
-        const std::size_t end = value.find_first_of("\r\n");
-        if (const std::string_view line = value.substr(0, end); !line.empty())
-            inlines.push_back({Text{std::string(line), look}});
-        if (end == std::string_view::npos)
-            return inlines;
-        inlines.push_back({document::Break{document::BreakKind::Line}});
-        value.remove_prefix(end + (value.substr(end, 2) == "\r\n" ? 2 : 1));
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i > 0)
+            inlines.push_back({document::Break{document::BreakKind::Line}});
+        if (!lines[i].empty())
+            inlines.push_back({Text{std::string(lines[i]), look}});
     }
+    return inlines;
 }
 
 } // namespace
@@ -70,8 +63,7 @@ ContentControl controlOf(const pdf::FormField& field, std::vector<Inline> seen) 
     control.isMultiline = field.isMultiline;
     if (control.kind == ControlKind::CheckBox)
         return control; // each format has its own sign
-    const std::string text = textOf(seen);
-    const std::u32string letters = lettersOf(text);
+    const std::u32string letters = lettersOf(document::plainText(seen));
     const auto* first = seen.empty() ? nullptr : std::get_if<Text>(&seen.front().value);
     const std::u32string value = lettersOf(field.value);
     if (letters == std::u32string{kEmptyField})

@@ -1,9 +1,9 @@
 #include "layout/assembly/LabelFrames.h"
 
+#include "layout/assembly/FrameAssembler.h"
+#include "layout/frames/FrameCutter.h"
+#include "layout/frames/LineFitter.h"
 #include "layout/structure/BlockColumn.h"
-#include "layout/truepage/FrameAssembler.h"
-#include "layout/truepage/FrameCutter.h"
-#include "layout/truepage/LineFitter.h"
 
 #include <algorithm>
 #include <utility>
@@ -39,13 +39,13 @@ void forEachLabelled(DocumentDraft& draft, const Visit& visit) {
 
 void cutLabels(DocumentDraft& draft, const LayoutParameters& parameters) {
     forEachLabelled(draft, [&](std::vector<DraftBlock>& labels) {
-        labels = cutIntoFrames(std::exchange(labels, {}), parameters.truePage);
+        labels = cutIntoFrames(std::exchange(labels, {}), parameters.textBoxes);
     });
 }
 
 void fitLabels(DocumentDraft& draft, const FontCatalog& fonts, Tracking tracking, const LayoutParameters& parameters) {
     forEachLabelled(draft,
-                    [&](std::vector<DraftBlock>& labels) { fitLines(labels, fonts, tracking, parameters.truePage); });
+                    [&](std::vector<DraftBlock>& labels) { fitLines(labels, fonts, tracking, parameters.textBoxes); });
 }
 
 void frameLabels(AssembledBlock& drawing, const AssemblyContext& context) {

@@ -33,6 +33,8 @@ void countRuns(const std::vector<document::Inline>& inlines, Tally<RunProperties
             countRuns(link->inlines, tally);
         else if (const auto* field = std::get_if<document::Field>(&item.value))
             countRuns(field->result, tally);
+        else if (const auto* control = std::get_if<document::ContentControl>(&item.value))
+            countRuns(control->content, tally);
     }
 }
 

@@ -235,11 +235,14 @@ private:
 
     void addComments(std::size_t page, const Span& span, const std::optional<LinkTarget>& link) {
         const std::vector<DraftComment>& comments = m_context.draft.comments;
-        for (std::size_t i = 0; i < comments.size(); ++i) {
-            if (comments[i].page != page || comments[i].box != span.box)
+        const auto first =
+            std::lower_bound(comments.begin(), comments.end(), page,
+                             [](const DraftComment& comment, std::size_t at) { return comment.page < at; });
+        for (auto comment = first; comment != comments.end() && comment->page == page; ++comment) {
+            if (comment->box != span.box)
                 continue;
             m_builder.enterField(nullptr);
-            m_builder.add({document::CommentReference{i}}, link);
+            m_builder.add({document::CommentReference{static_cast<std::size_t>(comment - comments.begin())}}, link);
         }
     }
 

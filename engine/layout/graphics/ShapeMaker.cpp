@@ -18,20 +18,6 @@ bool isPainted(const pdf::Path& path) {
            ((path.fill && path.fill->opacity > 0) || (path.stroke && path.stroke->opacity > 0));
 }
 
-Shape::Verb verbOf(PathVerb verb) {
-    switch (verb) {
-    case PathVerb::Move:
-        return Shape::Verb::Move;
-    case PathVerb::Line:
-        return Shape::Verb::Line;
-    case PathVerb::Curve:
-        return Shape::Verb::Curve;
-    case PathVerb::Close:
-        return Shape::Verb::Close;
-    }
-    return Shape::Verb::Close;
-}
-
 BorderKind kindOf(const std::vector<double>& dash, double width, double dotLength) {
     if (dash.empty())
         return BorderKind::Single;
@@ -143,13 +129,19 @@ private:
     static Shape::Segment segmentOf(const pdf::PathSegment& segment, const Rect& box) {
         const auto x = [&](Point p) { return emuFromPoints(p.x - box.left); };
         const auto y = [&](Point p) { return emuFromPoints(p.y - box.top); };
-        if (segment.verb == PathVerb::Close)
-            return {Shape::Verb::Close, {}};
-        if (segment.verb == PathVerb::Curve)
+        switch (segment.verb) {
+        case PathVerb::Move:
+            return {Shape::Verb::Move, {x(segment.to), y(segment.to)}};
+        case PathVerb::Line:
+            return {Shape::Verb::Line, {x(segment.to), y(segment.to)}};
+        case PathVerb::Curve:
             return {Shape::Verb::Curve,
                     {x(segment.control1), y(segment.control1), x(segment.control2), y(segment.control2), x(segment.to),
                      y(segment.to)}};
-        return {verbOf(segment.verb), {x(segment.to), y(segment.to)}};
+        case PathVerb::Close:
+            break;
+        }
+        return {Shape::Verb::Close, {}};
     }
 
     const Figure& m_source;

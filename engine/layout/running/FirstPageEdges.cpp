@@ -9,13 +9,6 @@
 namespace orvane::layout {
 namespace {
 
-constexpr std::size_t kLongestFoot = 3;     ///< rows of a foot that only the first page has
-constexpr int kLongestLetterhead = 40;      ///< rows
-constexpr double kDeepestFoot = 120;        ///< points; the text of full pages ends no farther from the edge
-constexpr double kFullPage = 2;             ///< of the font size; full pages end within this of each other
-constexpr std::ptrdiff_t kFewestAlike = 2;  ///< pages that show where the text begins or ends
-constexpr std::size_t kLongestOnlyRow = 24; ///< bytes of a row that says nothing but "page 1 of 1"
-
 double end(const RunningRow& row) {
     return row.fromEdge + row.box.height();
 }
@@ -31,7 +24,8 @@ struct TextPlace {
     double fontSize = 0;
 };
 
-std::optional<TextPlace> textPlaceOfOthers(const std::vector<EdgeRows>& edges, double tolerance) {
+std::optional<TextPlace> textPlaceOfOthers(const std::vector<EdgeRows>& edges,
+                                           const RunningParameters::RunningHeads& parameters) {
     const RunningRow* first = nullptr;
     for (std::size_t i = 1; i < edges.size(); ++i)
         if (edges[i].taken < edges[i].rows.size()) {
@@ -41,9 +35,9 @@ std::optional<TextPlace> textPlaceOfOthers(const std::vector<EdgeRows>& edges, d
     if (!first)
         return std::nullopt;
     const auto alike = std::count_if(edges.begin() + 1, edges.end(), [&](const EdgeRows& edge) {
-        return textStart(edge) <= first->fromEdge + tolerance * first->fontSize;
+        return textStart(edge) <= first->fromEdge + parameters.bodyGap * first->fontSize;
     });
-    return alike >= kFewestAlike ? std::optional(TextPlace{first->fromEdge, first->fontSize}) : std::nullopt;
+    return alike >= parameters.fewestAlike ? std::optional(TextPlace{first->fromEdge, first->fontSize}) : std::nullopt;
 }
 
 /// Whether a page but the first has a picture above the text's place: then the picture may have pushed the text down.
@@ -106,7 +100,7 @@ void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::Runnin
     std::vector<double> texts;
     for (std::size_t i = 1; i < edges.size(); ++i)
         texts.push_back(textStart(edges[i]));
-    for (std::size_t count = 1; count <= std::min(first.rows.size(), kLongestFoot); ++count) {
+    for (std::size_t count = 1; count <= std::min(first.rows.size(), parameters.longestFirstFoot); ++count) {
         const RunningRow& last = first.rows[count - 1];
         std::vector<double> starts = texts;
         if (count < first.rows.size())
@@ -114,8 +108,9 @@ void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::Runnin
         std::sort(starts.begin(), starts.end());
         // Several pages that are full to the same height show where the text ends.
         const auto full =
-            std::upper_bound(starts.begin(), starts.end(), starts.front() + kFullPage * last.fontSize) - starts.begin();
-        if (full < kFewestAlike || starts.front() > kDeepestFoot ||
+            std::upper_bound(starts.begin(), starts.end(), starts.front() + parameters.fullPage * last.fontSize) -
+            starts.begin();
+        if (full < parameters.fewestAlike || starts.front() > parameters.deepestFirstFoot ||
             end(last) + parameters.ownFootGap * last.fontSize > starts.front())
             continue;
         take(first, count);
@@ -127,13 +122,12 @@ void takeFirstHead(std::vector<EdgeRows>& edges, const std::vector<PageText>& pa
                    const RunningParameters::RunningHeads& parameters) {
     EdgeRows& first = edges.front();
     const bool hasHeads = std::any_of(edges.begin(), edges.end(), [](const EdgeRows& edge) { return edge.taken > 0; });
-    const auto text = textPlaceOfOthers(edges, parameters.bodyGap);
+    const auto text = textPlaceOfOthers(edges, parameters);
     if (hasHeads || first.rows.empty() || !text || text->fromEdge > parameters.firstReach * pages.front().height ||
         haveFiguresAbove(pages, *text))
         return;
-    // A letterhead in a table has more rows than heads that repeat.
     RunningParameters::RunningHeads more = parameters;
-    more.maximumRows = kLongestLetterhead;
+    more.maximumRows = parameters.longestLetterhead;
     first.rows = rowsFromEdge(pages.front(), PageEdge::Top, more);
     first.matches.assign(first.rows.size(), RowMatch::None);
     for (RunningRow& letterhead : first.rows)
@@ -151,7 +145,7 @@ bool takeOnlyNumber(EdgeRows& edge, const PageText& page, const RunningParameter
         return false;
     const RunningRow& row = edge.rows[0];
     const bool isFirstOfOne = row.numbers.size() == 2 && row.numbers[0].value == 1 && row.numbers[1].value == 1 &&
-                              row.skeleton.ends_with('#') && row.skeleton.size() <= kLongestOnlyRow;
+                              row.skeleton.ends_with('#') && row.skeleton.size() <= parameters.longestOnlyRow;
     const bool isApart =
         edge.rows.size() == 1 || edge.rows[1].fromEdge - end(row) >= parameters.ownFootGap * row.fontSize;
     if (isFirstOfOne && isApart)

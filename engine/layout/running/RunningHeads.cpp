@@ -125,13 +125,16 @@ bool hangsOut(const Rect& box, const EdgeRows& edge, PageEdge side) {
                                  : box.bottom > reach.top && box.top < reach.top;
 }
 
-/// Moves what is drawn around the rows, where `isBeyond(top, bottom)` holds.
-template<typename Predicate>
-void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, const Predicate& isBeyond, PageText& head) {
-    const auto isPart = [&](const auto& item) { return isBeyond(item.box.top, item.box.bottom); };
-    moveParts(page.grounds, head.grounds, isPart);
-    moveParts(page.figures, head.figures,
-              [&](const Figure& figure) { return isPart(figure) && !hangsOut(figure.box, edge, side); });
+/// Moves what is drawn around the rows, up to `limit`, where the text may begin.
+void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, double limit, PageText& head) {
+    const auto isBeyond = [&](double top, double bottom) {
+        return side == PageEdge::Top ? bottom <= limit : top >= limit;
+    };
+    moveParts(page.grounds, head.grounds,
+              [&](const Ground& ground) { return isBeyond(ground.box.top, ground.box.bottom); });
+    moveParts(page.figures, head.figures, [&](const Figure& figure) {
+        return isBeyond(figure.box.top, figure.box.bottom) && !hangsOut(figure.box, edge, side);
+    });
     moveParts(page.rules, head.rules, [&](const Rule& rule) {
         return rule.direction == RuleDirection::Vertical ? isBeyond(rule.from, rule.to)
                                                          : isBeyond(rule.position, rule.position);
@@ -180,13 +183,9 @@ void takeHeads(PageText& page, const PageEdges& edges, const RunningParameters::
     prepare(edges.bottom, heads.footer);
     takeLines(page, edges, heads);
     if (edges.top.taken > 0)
-        takeDrawn(
-            page, edges.top, PageEdge::Top, [&](double, double bottom) { return bottom <= edges.headerEnd; },
-            heads.header->content);
+        takeDrawn(page, edges.top, PageEdge::Top, edges.headerEnd, heads.header->content);
     if (edges.bottom.taken > 0)
-        takeDrawn(
-            page, edges.bottom, PageEdge::Bottom, [&](double top, double) { return top >= edges.footerStart; },
-            heads.footer->content);
+        takeDrawn(page, edges.bottom, PageEdge::Bottom, edges.footerStart, heads.footer->content);
 }
 
 /// Whether most pages would hold nothing any more: a document of one numbered line a page, or of forms that are all

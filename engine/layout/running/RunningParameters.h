@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 namespace orvane::layout {
 
 /// Thresholds of the folder `running`: what repeats at the edges of pages. A field says its unit, its meaning and what
@@ -19,10 +21,18 @@ struct RunningParameters {
         double headingSize = 1.3;  ///< of the document's usual size; larger rows that count are headings
         double sameSide = 12.0;    ///< points; distances to both sides of the page that differ by less: a centred row
         double sidePart = 5.0;     ///< points; a rule this far within a row crosses it
-        double ownFootGap = 1.5;   ///< of the font size; between a foot that only the first page has and all text
+        // FirstPageEdges
+        double ownFootGap = 1.5; ///< of the font size; between a foot that only the first page has and all text
         double ownHeadGap =
             1.0; ///< of the font size; likewise between a head that only the first page has and the text
-        double onlyNumberReach = 0.1; ///< of the page's height; within which the only page's "1 of 1" stands
+        double onlyNumberReach = 0.1;     ///< of the page's height; within which the only page's "1 of 1" stands
+        std::size_t longestFirstFoot = 3; ///< rows
+        int longestLetterhead = 40;       ///< rows; a letterhead in a table has more of them than heads that repeat
+        double deepestFirstFoot = 120;    ///< points; the text of full pages ends no farther from the edge
+        double fullPage = 2;              ///< of the font size; full pages end within this of each other
+        std::ptrdiff_t fewestAlike = 2;   ///< pages that show where the text begins or ends
+        std::size_t longestOnlyRow = 24;  ///< bytes of a row that says nothing but "page 1 of 1"
+        // HeadPlaces, RunningHeads
         double textShare =
             0.25; ///< of the pages with a head; where as many others start their text in its place, it is text
         double bodilessShare = 0.5; ///< of the pages; where more would be left empty, what repeats is the text

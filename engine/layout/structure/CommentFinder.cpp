@@ -4,8 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <optional>
+#include <vector>
 
 namespace orvane::layout {
 namespace {
@@ -33,35 +32,35 @@ double distance(Point p, const Rect& box) {
     return std::hypot(x, y);
 }
 
-/// The span of the page's text that is next to the place.
-std::optional<Rect> nearestSpan(const DocumentDraft& draft, std::size_t page, Point place) {
-    std::optional<Rect> nearest;
-    double least = std::numeric_limits<double>::max();
+/// The boxes of the spans of each page.
+std::vector<std::vector<Rect>> spansOfPages(const DocumentDraft& draft) {
+    std::vector<std::vector<Rect>> spans(draft.pages.size());
     forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {
-        for (const DraftPiece& piece : paragraph.pieces) {
-            if (piece.page != page)
-                continue;
+        for (const DraftPiece& piece : paragraph.pieces)
             for (const Line& line : piece.text.lines)
                 for (const Word& word : line.words)
                     for (const Span& span : word.spans)
-                        if (const double d = distance(place, span.box); d < least) {
-                            least = d;
-                            nearest = span.box;
-                        }
-        }
+                        spans[piece.page].push_back(span.box);
     });
-    return nearest;
+    return spans;
+}
+
+/// Requires: `boxes` is not empty.
+const Rect& nearest(const std::vector<Rect>& boxes, Point place) {
+    return *std::min_element(boxes.begin(), boxes.end(),
+                             [place](const Rect& a, const Rect& b) { return distance(place, a) < distance(place, b); });
 }
 
 } // namespace
 
 void findComments(DocumentDraft& draft, Diagnostics& diagnostics) {
+    const std::vector<std::vector<Rect>> spans = spansOfPages(draft);
     for (std::size_t page = 0; page < draft.pages.size(); ++page) {
         for (const Annotation& annotation : draft.pages[page].annotations) {
             if (!isComment(annotation))
                 continue;
-            if (const auto box = nearestSpan(draft, page, placeOf(annotation)))
-                draft.comments.push_back({page, *box, annotation});
+            if (!spans[page].empty())
+                draft.comments.push_back({page, nearest(spans[page], placeOf(annotation)), annotation});
             else
                 diagnostics.add(DiagnosticKind::StructureIgnored, draft.pages[page].number,
                                 "a comment on a page without text was left out", annotation.box);

@@ -144,7 +144,7 @@ struct DocumentDraft {
     std::vector<DraftNote> notes;
     document::NoteCount footnoteCount = document::NoteCount::Continuous;
     std::vector<DraftNoteReference> noteReferences;
-    std::vector<DraftComment> comments;
+    std::vector<DraftComment> comments; ///< by page
     std::vector<Rect> noteAreas;        ///< for each of the document's pages: the part that notes take, empty for none
     std::vector<DraftSection> sections; ///< at least one once SectionMaker has run
     std::vector<std::vector<RunningField>> fields; ///< for each page; only those made of running heads have any

@@ -1,6 +1,7 @@
 #include "layout/structure/HandBreaks.h"
 
 #include "layout/paragraphs/ListMarker.h"
+#include "layout/support/Tally.h"
 
 #include <algorithm>
 #include <cmath>
@@ -110,19 +111,9 @@ private:
         if (spaces.size() < m_limits.fewestSpaced ||
             static_cast<double>(close) > m_limits.closeShare * static_cast<double>(spaces.size()))
             return false;
-        std::sort(spaces.begin(), spaces.end());
-        std::size_t most = 0;
-        double usual = 0;
-        for (std::size_t from = 0, to = 0; from < spaces.size(); ++from) {
-            while (to < spaces.size() && spaces[to] <= spaces[from] + m_limits.sameSpace)
-                ++to;
-            if (to - from > most) {
-                most = to - from;
-                usual = spaces[from + most / 2];
-            }
-        }
-        return usual >= m_limits.leastSpace && usual < m_limits.wholeLine &&
-               static_cast<double>(most) >= m_limits.usualShare * static_cast<double>(spaces.size());
+        const DenseRange usual = densestRange(spaces, m_limits.sameSpace);
+        return usual.mean >= m_limits.leastSpace && usual.mean < m_limits.wholeLine &&
+               static_cast<double>(usual.count) >= m_limits.usualShare * static_cast<double>(spaces.size());
     }
 
     static void append(DraftBlock& block, DraftBlock& next) {

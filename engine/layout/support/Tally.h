@@ -1,7 +1,8 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
+#include <cstddef>
+#include <numeric>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -39,8 +40,14 @@ private:
     std::vector<std::pair<T, double>> m_counts;
 };
 
-/// The centre of the `width` wide range in which most of the values lie, as their mean; nullopt without values.
-inline std::optional<double> mostFrequent(std::vector<double> values, double width) {
+/// A range of values that lie close to each other.
+struct DenseRange {
+    double mean = 0;
+    std::size_t count = 0; ///< values in it
+};
+
+/// The `width` wide range in which most of the values lie; of equal ones the lowest. Its count is 0 without values.
+inline DenseRange densestRange(std::vector<double> values, double width) {
     std::sort(values.begin(), values.end());
     std::size_t bestFrom = 0, bestTo = 0, from = 0;
     for (std::size_t to = 1; to <= values.size(); ++to) {
@@ -51,12 +58,16 @@ inline std::optional<double> mostFrequent(std::vector<double> values, double wid
             bestTo = to;
         }
     }
-    if (bestTo == bestFrom)
-        return std::nullopt;
-    double sum = 0;
-    for (std::size_t i = bestFrom; i < bestTo; ++i)
-        sum += values[i];
-    return sum / static_cast<double>(bestTo - bestFrom);
+    const auto at = [&values](std::size_t i) { return values.begin() + static_cast<std::ptrdiff_t>(i); };
+    const std::size_t count = bestTo - bestFrom;
+    const double sum = std::accumulate(at(bestFrom), at(bestTo), 0.0);
+    return {count == 0 ? 0 : sum / static_cast<double>(count), count};
+}
+
+/// The middle of that range, as its mean; nullopt without values.
+inline std::optional<double> mostFrequent(std::vector<double> values, double width) {
+    const DenseRange range = densestRange(std::move(values), width);
+    return range.count == 0 ? std::nullopt : std::optional(range.mean);
 }
 
 } // namespace orvane::layout

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace orvane::layout {
 namespace {
@@ -145,8 +146,8 @@ std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TablePara
 
 /// The rows in which one column has texts of its own.
 struct FilledRows {
-    double top = 1e9;
-    double bottom = -1e9;
+    double top = std::numeric_limits<double>::infinity();
+    double bottom = -std::numeric_limits<double>::infinity();
     int count = 0;
 
     void add(const PieceRow& row) {

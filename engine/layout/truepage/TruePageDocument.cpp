@@ -4,14 +4,14 @@
 #include "layout/DocumentAnalyser.h"
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
+#include "layout/assembly/FrameAssembler.h"
 #include "layout/assembly/StyleMaker.h"
+#include "layout/frames/FrameCutter.h"
+#include "layout/frames/FrameJoiner.h"
+#include "layout/frames/LineFitter.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/structure/DraftBuilder.h"
 #include "layout/truepage/Backdrop.h"
-#include "layout/truepage/FrameAssembler.h"
-#include "layout/truepage/FrameCutter.h"
-#include "layout/truepage/LineFitter.h"
-#include "layout/truepage/RowJoiner.h"
 
 #include <algorithm>
 #include <iterator>
@@ -87,7 +87,7 @@ DocumentDraft draftOf(const std::vector<PageText>& pages, const DocumentContext&
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         std::vector<DraftBlock> blocks = addPage(draft, layoutPage(page, context, parameters, diagnostics));
         std::vector<DraftBlock> frames =
-            joinRows(cutIntoFrames(std::move(blocks), parameters.truePage), parameters.truePage);
+            joinFrames(cutIntoFrames(std::move(blocks), parameters.textBoxes), parameters.textBoxes);
         std::move(frames.begin(), frames.end(), std::back_inserter(draft.blocks));
     }
     return draft;
@@ -103,7 +103,7 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
     const LinkTargets links(draft, facts.outline, diagnostics);
     const Tracking tracking = request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths;
     const FontCatalog fonts(draft, parameters, tracking);
-    fitLines(draft.blocks, fonts, tracking, parameters.truePage);
+    fitLines(draft.blocks, fonts, tracking, parameters.textBoxes);
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     std::vector<BlockFlow> flows;
     flows.push_back({FlowKind::Body, assembleBlocks(draft.blocks, assembly)});

@@ -1,5 +1,6 @@
 #include "write/doc/CommentDoc.h"
 
+#include "write/CommentPlaces.h"
 #include "write/Initials.h"
 #include "write/doc/BlockDoc.h"
 #include "write/doc/NoteDoc.h"
@@ -40,22 +41,18 @@ void writeComment(DocState& state, const Comment& comment, std::uint32_t place) 
     endParagraph(story, ParagraphEnd::Paragraph);
 }
 
+CommentPlace placeOf(const Story& story) {
+    if (story.kind == StoryKind::TextBox)
+        return CommentPlace::TextBox;
+    return story.kind == StoryKind::Body ? CommentPlace::Body : CommentPlace::Elsewhere;
+}
+
 } // namespace
 
 void writeCommentReference(Story& story, const CommentReference& reference) {
     DocState& state = story.state;
-    if (reference.comment >= state.isCommentWritten.size() || state.isCommentWritten[reference.comment])
+    if (!admitComment(reference, placeOf(story), state.isCommentWritten, story.displacedComments, state.diagnostics))
         return;
-    if (story.kind == StoryKind::TextBox) {
-        story.displacedComments.push_back(reference.comment);
-        return;
-    }
-    if (story.kind != StoryKind::Body) {
-        state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
-                              "a comment in a header, a footer, a note or a comment was left out");
-        return;
-    }
-    state.isCommentWritten[reference.comment] = true;
     const std::uint32_t place = story.text.length();
     addMark(story.text);
     writeComment(state, state.document.comments[reference.comment], place);

@@ -1,5 +1,6 @@
 #include "write/docx/CommentsPart.h"
 
+#include "write/CommentPlaces.h"
 #include "write/Initials.h"
 #include "write/IsoDate.h"
 #include "write/docx/BlockXml.h"
@@ -23,22 +24,18 @@ void writeComment(Story& story, const Comment& comment, std::size_t index) {
     writeDisplacedNotes(story);
 }
 
+CommentPlace placeOf(const Story& story) {
+    if (story.frameDepth > 0)
+        return CommentPlace::TextBox;
+    return story.kind == StoryKind::Body ? CommentPlace::Body : CommentPlace::Elsewhere;
+}
+
 } // namespace
 
 void writeCommentReference(Story& story, const CommentReference& reference) {
     DocumentState& state = story.state;
-    if (reference.comment >= state.isCommentWritten.size() || state.isCommentWritten[reference.comment])
+    if (!admitComment(reference, placeOf(story), state.isCommentWritten, story.displacedComments, state.diagnostics))
         return;
-    if (story.frameDepth > 0) {
-        story.displacedComments.push_back(reference.comment);
-        return;
-    }
-    if (story.kind != StoryKind::Body) {
-        state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
-                              "a comment in a header, a footer, a note or a comment was left out");
-        return;
-    }
-    state.isCommentWritten[reference.comment] = true;
     const XmlElement run(story.xml, "w:r");
     story.xml.leaf("w:commentReference", {{"w:id", reference.comment}});
 }

@@ -1,5 +1,6 @@
 #include "write/rtf/CommentRtf.h"
 
+#include "write/CommentPlaces.h"
 #include "write/Initials.h"
 #include "write/IsoDate.h"
 #include "write/rtf/BlockRtf.h"
@@ -39,22 +40,18 @@ void writeComment(Story& around, const Comment& comment) {
     // The end of the group ends the last paragraph.
 }
 
+CommentPlace placeOf(const Story& story) {
+    if (story.frameDepth > 0)
+        return CommentPlace::TextBox;
+    return story.kind == StoryKind::Body ? CommentPlace::Body : CommentPlace::Elsewhere;
+}
+
 } // namespace
 
 void writeCommentReference(Story& story, const CommentReference& reference) {
     RtfState& state = story.state;
-    if (reference.comment >= state.isCommentWritten.size() || state.isCommentWritten[reference.comment])
+    if (!admitComment(reference, placeOf(story), state.isCommentWritten, story.displacedComments, state.diagnostics))
         return;
-    if (story.frameDepth > 0) {
-        story.displacedComments.push_back(reference.comment);
-        return;
-    }
-    if (story.kind != StoryKind::Body) {
-        state.diagnostics.add(DiagnosticKind::StructureIgnored, 0,
-                              "a comment in a header, a footer, a note or a comment was left out");
-        return;
-    }
-    state.isCommentWritten[reference.comment] = true;
     writeComment(story, state.document.comments[reference.comment]);
 }
 

@@ -1,4 +1,6 @@
 #include "engine/cli/ProgramTest.h"
+#include "support/Files.h"
+#include "support/NoisePictures.h"
 
 #include <algorithm>
 #include <csignal>
@@ -18,33 +20,13 @@ class ImagesInterrupted : public ProgramTest {
 protected:
     static constexpr int kSide = 150;
 
-    /// A PDF that takes a while: each page has a picture of its own, of noise.
-    void makeManyPictures(int pages) const {
-        tests::PdfBuilder pdf;
-        unsigned value = 1;
-        for (int page = 0; page < pages; ++page) {
-            std::string noise;
-            for (int i = 0; i < kSide * kSide * 3; ++i, value = value * 1103515245 + 12345)
-                noise += static_cast<char>(value >> 16);
-            const int image = pdf.addStream(tests::pdfImage(kSide, kSide, "/DeviceRGB", 8), noise);
-            pdf.page(
-                {"q 72 0 0 72 9 9 cm /Im1 Do Q", 100, 100, {}, "/XObject << /Im1 " + tests::pdfRef(image) + " >>", {}});
-        }
-        pdf.write(path("many.pdf"));
-    }
+    void makeManyPictures(int pages) const { tests::writeNoisePictures(path("many.pdf"), pages, kSide); }
 
     std::vector<std::string> takeOut() const {
         return {"images", path("many.pdf"), path("out"), "--log", path("run.log")};
     }
 
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        if (exists("out"))
-            for (const auto& entry : std::filesystem::directory_iterator(path("out")))
-                names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> files() const { return tests::namesIn(path("out")); }
 
     void expectWholePictures() const {
         for (const std::string& name : files())

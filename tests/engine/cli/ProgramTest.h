@@ -4,16 +4,17 @@
 #include "support/PdfBuilder.h"
 #include "support/ProgramRun.h"
 #include "support/TemporaryFolder.h"
+#include "support/Waiting.h"
 
-#include <chrono>
 #include <filesystem>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 namespace orvane::cli {
+
+using tests::waitFor;
 
 /// Runs the built programs as a user does, in a folder of the test's own.
 class ProgramTest : public testing::Test {
@@ -50,14 +51,6 @@ protected:
     static tests::ProgramResult orvane(const std::vector<std::string>& arguments,
                                        const tests::ProgramOptions& options = {}) {
         return tests::runProgram(binaries() / "orvane", arguments, options);
-    }
-
-    template<typename Condition>
-    static bool waitFor(Condition condition) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        return condition();
     }
 
     static bool isZip(const std::string& bytes) {

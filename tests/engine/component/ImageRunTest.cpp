@@ -1,5 +1,8 @@
 #include "LoadedLibrary.h"
 
+#include "support/Files.h"
+#include "support/NoisePictures.h"
+
 #include <algorithm>
 
 #include <fmt/format.h>
@@ -25,29 +28,9 @@ protected:
         return result;
     }
 
-    /// Each page with a picture of its own, which is `side` pixels wide and high.
-    void makePictures(int pages, int side) const {
-        tests::PdfBuilder pdf;
-        unsigned value = 1;
-        for (int page = 0; page < pages; ++page) {
-            std::string noise;
-            for (int i = 0; i < side * side * 3; ++i, value = value * 1103515245 + 12345)
-                noise += static_cast<char>(value >> 16);
-            const int image = pdf.addStream(tests::pdfImage(side, side, "/DeviceRGB", 8), noise);
-            pdf.page(
-                {"q 72 0 0 72 9 9 cm /Im1 Do Q", 100, 100, {}, "/XObject << /Im1 " + tests::pdfRef(image) + " >>", {}});
-        }
-        pdf.write(file("a.pdf"));
-    }
+    void makePictures(int pages, int side) const { tests::writeNoisePictures(file("a.pdf"), pages, side); }
 
-    std::vector<std::string> pictures() const {
-        std::vector<std::string> names;
-        if (std::filesystem::exists(file("pictures")))
-            for (const auto& entry : std::filesystem::directory_iterator(file("pictures")))
-                names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> pictures() const { return tests::namesIn(file("pictures")); }
 };
 
 TEST_F(ImageRun, WritesTheFormatOfEachCode) {

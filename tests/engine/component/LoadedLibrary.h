@@ -4,18 +4,19 @@
 #include "support/Files.h"
 #include "support/PdfBuilder.h"
 #include "support/TemporaryFolder.h"
+#include "support/Waiting.h"
 
-#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <thread>
 
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 
 namespace orvane::component {
+
+using tests::waitFor;
 
 /// The built library, loaded and used as an application does.
 class LoadedLibrary : public testing::Test {
@@ -47,23 +48,14 @@ protected:
     }
 
     static std::int16_t waitForEnd(ConversionEngine& engine) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
         std::int32_t first = 0;
         std::int32_t second = 0;
         std::int16_t finishCode = finish::kWorking;
-        while (finishCode == finish::kWorking && std::chrono::steady_clock::now() < end) {
+        waitFor([&] {
             engine.GetStatus(first, second, finishCode);
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        }
+            return finishCode != finish::kWorking;
+        });
         return finishCode;
-    }
-
-    template<typename Condition>
-    static bool waitFor(Condition condition) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        return condition();
     }
 
     std::string file(const std::string& name) const { return (m_folder.path() / name).string(); }

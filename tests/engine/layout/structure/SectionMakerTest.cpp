@@ -23,6 +23,15 @@ void fillPage(DocumentDraft& draft, std::size_t page, double last = 760) {
         addLine(draft, page, 72, baseline);
 }
 
+/// Three pages, of which the first starts higher than the others.
+DocumentDraft draftOfPushedText() {
+    DocumentDraft draft = makeDraft(3);
+    for (const std::size_t page : {0u, 1u, 2u})
+        for (double baseline = page == 0 ? 64 : 84; baseline <= 760; baseline += 20)
+            addLine(draft, page, 72, baseline);
+    return draft;
+}
+
 void sectionsOf(DocumentDraft& draft, std::vector<PageRunningHeads> heads = {}) {
     heads.resize(draft.pages.size());
     Diagnostics diagnostics;
@@ -126,13 +135,9 @@ TEST(SectionMaker, TakesTheTopMarginFromWhereParagraphsGoOn) {
 }
 
 TEST(SectionMaker, LetsAHeaderPushTheTextOfAllPagesButTheFirst) {
-    DocumentDraft draft = makeDraft(3);
+    DocumentDraft draft = draftOfPushedText();
     std::vector<PageRunningHeads> heads(3);
-    for (const std::size_t page : {0u, 1u, 2u}) {
-        for (double baseline = page == 0 ? 64 : 84; baseline <= 760; baseline += 20)
-            addLine(draft, page, 72, baseline);
-        if (page == 0)
-            continue;
+    for (const std::size_t page : {1u, 2u}) {
         heads[page].header = RunningHead{tests::makePage(1), {}, "head"};
         heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
     }
@@ -150,13 +155,9 @@ TEST(SectionMaker, LetsAHeaderPushTheTextOfAllPagesButTheFirst) {
 }
 
 TEST(SectionMaker, PushesTextWithABlankHeaderWhereNoneIsSeen) {
-    DocumentDraft draft = makeDraft(3);
+    DocumentDraft draft = draftOfPushedText();
     std::vector<PageRunningHeads> heads(3);
-    for (const std::size_t page : {0u, 1u, 2u}) {
-        for (double baseline = page == 0 ? 64 : 84; baseline <= 760; baseline += 20)
-            addLine(draft, page, 72, baseline);
-        if (page == 0)
-            continue;
+    for (const std::size_t page : {1u, 2u}) {
         heads[page].footer = RunningHead{tests::makePage(1), {}, "foot"};
         heads[page].footer->content.lines.push_back(makeLine("a foot", 72, 800));
     }

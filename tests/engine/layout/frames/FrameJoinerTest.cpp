@@ -1,9 +1,9 @@
-#include "layout/truepage/RowJoiner.h"
+#include "layout/frames/FrameJoiner.h"
 
 #include "engine/layout/DraftSupport.h"
 #include "layout/LayoutParameters.h"
+#include "layout/frames/FrameCutter.h"
 #include "layout/text/LineText.h"
-#include "layout/truepage/FrameCutter.h"
 
 #include <gtest/gtest.h>
 
@@ -12,18 +12,18 @@ namespace {
 
 /// A paragraph for each of the lines, as a table's cells have them.
 std::vector<DraftBlock> joined(std::vector<Line> lines) {
-    const auto parameters = LayoutParameters().truePage;
+    const auto parameters = LayoutParameters().textBoxes;
     std::vector<DraftBlock> blocks;
     for (Line& line : lines)
         blocks.push_back(makeBlock(makeParagraph({std::move(line)})));
-    return joinRows(cutIntoFrames(std::move(blocks), parameters), parameters);
+    return joinFrames(cutIntoFrames(std::move(blocks), parameters), parameters);
 }
 
 const Line& lineOf(const DraftBlock& frame) {
     return frame.paragraph()->firstLine();
 }
 
-TEST(RowJoiner, CellsOfARowAreOneFrameWithTabulators) {
+TEST(FrameJoiner, CellsOfARowAreOneFrameWithTabulators) {
     const auto frames =
         joined({makeLine("a", 72, 100), makeLine("b", 172, 100), makeLine("c", 272, 100), makeLine("d", 72, 112)});
     ASSERT_EQ(frames.size(), 2u);
@@ -35,11 +35,11 @@ TEST(RowJoiner, CellsOfARowAreOneFrameWithTabulators) {
     EXPECT_EQ(frames[0].box.right, row.box.right);
 }
 
-TEST(RowJoiner, TextThatCouldGrowIntoTheNextStaysApart) {
+TEST(FrameJoiner, TextThatCouldGrowIntoTheNextStaysApart) {
     EXPECT_EQ(joined({makeLine("some long text", 72, 100), makeLine("b", 146, 100)}).size(), 2u);
 }
 
-TEST(RowJoiner, LinesOfOtherBaselinesOrDirectionsStayApart) {
+TEST(FrameJoiner, LinesOfOtherBaselinesOrDirectionsStayApart) {
     EXPECT_EQ(joined({makeLine("a", 72, 100), makeLine("b", 172, 101)}).size(), 2u);
     Line turned = makeLine("b", 172, 100);
     turned.angle = 90;

@@ -1,4 +1,4 @@
-#include "layout/truepage/LineFitter.h"
+#include "layout/frames/LineFitter.h"
 
 #include "base/Utf8.h"
 #include "layout/fonts/FamilyWidths.h"
@@ -13,7 +13,7 @@ namespace orvane::layout {
 namespace {
 
 using document::Alignment;
-using Parameters = TruePageParameters::TruePage;
+using Parameters = FrameParameters::TextBoxes;
 
 /// Widths along a line. Units: points.
 struct LineWidths {

@@ -4,11 +4,11 @@
 
 namespace orvane::layout {
 
-/// Thresholds of the folder `truepage`: text where it stood. A field says its unit, its meaning and what taught its
-/// value.
-struct TruePageParameters {
-    /// FrameCutter, FrameAssembler: text where it stood.
-    struct TruePage {
+/// Thresholds of the folder `frames`: text in boxes where it stood. A field says its unit, its meaning and what taught
+/// its value.
+struct FrameParameters {
+    struct TextBoxes {
+        // FrameCutter, assembly/FrameAssembler
         double widestBlank = 1.8;         ///< of the font size; text behind a wider gap has a place of its own
         double lowestPitch = 0.6;         ///< of the font size; lines nearer to each other stand side by side
         double highestPitch = 2.5;        ///< likewise; lines farther apart are of two paragraphs
@@ -19,7 +19,7 @@ struct TruePageParameters {
         double protrusion = 0.4; ///< of the font size; by how much hyphens and full stops stand out over an edge
         double room = 0.6;       ///< of the text's width; other fonts may need so much more
         double leastRoom = 12.0; ///< points; likewise
-        // RowJoiner
+        // FrameJoiner
         double sameBaseline = 0.3; ///< points; lines of one row
         double rowGap = 0.5;       ///< of the font size; between lines that a tabulator can part
         double rowSlack = 0.1;     ///< of the width before the gap; other fonts may need so much more of it
@@ -31,7 +31,7 @@ struct TruePageParameters {
         double widest = 1.3;         ///< likewise
         double usualBlank = 0.25;    ///< em; where nothing is known of the font's blank
         std::size_t longestSign = 2; ///< characters; so much of a family of unknown widths harms no line
-    } truePage;
+    } textBoxes;
 };
 
 } // namespace orvane::layout

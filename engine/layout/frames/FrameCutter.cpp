@@ -1,4 +1,4 @@
-#include "layout/truepage/FrameCutter.h"
+#include "layout/frames/FrameCutter.h"
 
 #include "layout/text/Line.h"
 
@@ -24,7 +24,7 @@ double startOf(const Rect& box, bool isRightToLeft) {
 /// Cuts lines of one paragraph where text behind a tabulator has a place of its own.
 class TabCutter {
 public:
-    TabCutter(const std::vector<Line>& lines, const TruePageParameters::TruePage& parameters)
+    TabCutter(const std::vector<Line>& lines, const FrameParameters::TextBoxes& parameters)
         : m_parameters(parameters) {
         for (const Line& line : lines)
             m_starts.push_back(startOf(line.box, line.isRightToLeft));
@@ -60,14 +60,14 @@ private:
                            [&](double other) { return std::abs(other - start) <= m_parameters.edgeTolerance; });
     }
 
-    const TruePageParameters::TruePage& m_parameters;
+    const FrameParameters::TextBoxes& m_parameters;
     std::vector<double> m_starts;
 };
 
 /// Lines one below the other that one paragraph can hold, and what it would have to be like.
 class LineGroup {
 public:
-    LineGroup(Line line, const TruePageParameters::TruePage& parameters)
+    LineGroup(Line line, const FrameParameters::TextBoxes& parameters)
         : m_parameters(parameters) {
         m_isOpen = isFlat(line);
         m_lines.push_back(std::move(line));
@@ -168,7 +168,7 @@ private:
                std::all_of(ends.begin(), ends.end(), [&](double end) { return std::abs(end - edge) <= farthest; });
     }
 
-    const TruePageParameters::TruePage& m_parameters;
+    const FrameParameters::TextBoxes& m_parameters;
     std::vector<Line> m_lines;
     Sides m_sides;
     double m_pitch = 0;
@@ -176,7 +176,7 @@ private:
 };
 
 /// Groups the lines of one paragraph, the newest group first: a label before a tabulator stays alone.
-std::vector<ParagraphDraft> cutParagraph(ParagraphDraft paragraph, const TruePageParameters::TruePage& parameters) {
+std::vector<ParagraphDraft> cutParagraph(ParagraphDraft paragraph, const FrameParameters::TextBoxes& parameters) {
     const TabCutter cutter(paragraph.lines, parameters);
     std::vector<LineGroup> groups;
     for (Line& line : paragraph.lines)
@@ -193,7 +193,7 @@ std::vector<ParagraphDraft> cutParagraph(ParagraphDraft paragraph, const TruePag
     return cut;
 }
 
-void addFrames(std::vector<DraftBlock> blocks, const TruePageParameters::TruePage& parameters,
+void addFrames(std::vector<DraftBlock> blocks, const FrameParameters::TextBoxes& parameters,
                std::vector<DraftBlock>& frames) {
     for (DraftBlock& block : blocks) {
         if (auto* table = std::get_if<DraftTable>(&block.value)) {
@@ -217,7 +217,7 @@ void addFrames(std::vector<DraftBlock> blocks, const TruePageParameters::TruePag
 
 } // namespace
 
-std::vector<DraftBlock> cutIntoFrames(std::vector<DraftBlock> blocks, const TruePageParameters::TruePage& parameters) {
+std::vector<DraftBlock> cutIntoFrames(std::vector<DraftBlock> blocks, const FrameParameters::TextBoxes& parameters) {
     std::vector<DraftBlock> frames;
     addFrames(std::move(blocks), parameters, frames);
     return frames;

@@ -1,4 +1,4 @@
-#include "layout/truepage/LineFitter.h"
+#include "layout/frames/LineFitter.h"
 
 #include "engine/layout/DraftSupport.h"
 

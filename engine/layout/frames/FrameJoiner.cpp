@@ -1,4 +1,4 @@
-#include "layout/truepage/RowJoiner.h"
+#include "layout/frames/FrameJoiner.h"
 
 #include "layout/text/Line.h"
 
@@ -8,7 +8,7 @@
 namespace orvane::layout {
 namespace {
 
-using Parameters = TruePageParameters::TruePage;
+using Parameters = FrameParameters::TextBoxes;
 
 ParagraphDraft& textOf(DraftBlock& frame) {
     return frame.paragraph()->pieces.front().text;
@@ -52,7 +52,7 @@ bool takeBehind(DraftBlock& frame, DraftBlock& next, const Parameters& parameter
 
 } // namespace
 
-std::vector<DraftBlock> joinRows(std::vector<DraftBlock> frames, const Parameters& parameters) {
+std::vector<DraftBlock> joinFrames(std::vector<DraftBlock> frames, const Parameters& parameters) {
     std::vector<DraftBlock> joined;
     for (DraftBlock& frame : frames)
         if (joined.empty() || !takeBehind(joined.back(), frame, parameters))

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "layout/fonts/FontCatalog.h"
+#include "layout/frames/FrameParameters.h"
 #include "layout/structure/DocumentDraft.h"
-#include "layout/truepage/TruePageParameters.h"
 
 #include <vector>
 
@@ -12,6 +12,6 @@ namespace orvane::layout {
 /// on the page: what a family lacks on the average of a document is not what it lacks on a line, and typesetters
 /// squeeze lines. Lines of families whose widths nobody knows stay as they are. Requires: frames of cutIntoFrames().
 void fitLines(std::vector<DraftBlock>& frames, const FontCatalog& fonts, Tracking tracking,
-              const TruePageParameters::TruePage& parameters);
+              const FrameParameters::TextBoxes& parameters);
 
 } // namespace orvane::layout

@@ -1,4 +1,4 @@
-#include "layout/truepage/FrameAssembler.h"
+#include "layout/assembly/FrameAssembler.h"
 
 #include "base/Utf8.h"
 #include "layout/fonts/FamilyWidths.h"
@@ -137,7 +137,7 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     const DraftPiece& piece = block.draftParagraph()->pieces.front();
     ParagraphDraft text = piece.text;
     const Line& first = text.lines.front();
-    const auto& parameters = context.parameters.truePage;
+    const auto& parameters = context.parameters.textBoxes;
     const LineExtent extent = extentOf(first, piece.page, context.fonts);
     const double room = std::max(parameters.leastRoom, parameters.room * text.box.width());
     // Lines that may turn out too wide must not be held between two edges.

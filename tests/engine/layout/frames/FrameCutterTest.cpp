@@ -1,4 +1,4 @@
-#include "layout/truepage/FrameCutter.h"
+#include "layout/frames/FrameCutter.h"
 
 #include "engine/layout/DraftSupport.h"
 #include "layout/text/LineText.h"
@@ -16,7 +16,7 @@ Line lineOf(std::size_t length, double left, double baseline) {
 }
 
 std::vector<DraftBlock> framesOf(std::vector<Line> lines) {
-    return cutIntoFrames({makeBlock(makeParagraph(std::move(lines)))}, LayoutParameters().truePage);
+    return cutIntoFrames({makeBlock(makeParagraph(std::move(lines)))}, LayoutParameters().textBoxes);
 }
 
 const ParagraphDraft& textOfFrame(const DraftBlock& frame) {
@@ -104,7 +104,7 @@ TEST(FrameCutter, TakesTheTextOfCells) {
     block.value = std::move(table);
     std::vector<DraftBlock> blocks;
     blocks.push_back(std::move(block));
-    EXPECT_EQ(textsOf(cutIntoFrames(std::move(blocks), LayoutParameters().truePage)), (Texts{"a", "b"}));
+    EXPECT_EQ(textsOf(cutIntoFrames(std::move(blocks), LayoutParameters().textBoxes)), (Texts{"a", "b"}));
 }
 
 TEST(FrameCutter, HyphensMayStandOutOverAFlushEdge) {
