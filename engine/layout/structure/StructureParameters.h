@@ -15,6 +15,7 @@ struct StructureParameters {
         double fullWidth = 0.5;         ///< of the widest line; narrower ones that go on tell nothing about the edge
         int flushLines = 5;             ///< so many justified lines show the end edge
         double blank = 0.25;            ///< of the font size; the blank before a word that had no room
+        double farInside = 24.0;        ///< points; text that starts so far within most tables does not show the margin
         double roomSlack = 0.5;         ///< points; a line may be this much longer than measured
         double breakSlack = 1.0;        ///< points; likewise for pages
         double tidyTolerance = 0.4;     ///< points; a margin this near to a round number is meant to be it

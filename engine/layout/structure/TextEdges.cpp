@@ -1,5 +1,6 @@
 #include "layout/structure/TextEdges.h"
 
+#include "layout/support/Tally.h"
 #include "layout/support/TidyLength.h"
 
 #include <algorithm>
@@ -37,6 +38,8 @@ public:
                         readPiece(piece);
             } else if (block.page >= firstPage && block.page <= lastPage) {
                 m_objects = m_objects.united(block.box);
+                if (const auto* table = std::get_if<DraftTable>(&block.value))
+                    readTable(table->table, block);
             }
         }
         m_pageWidth = m_draft.pages[firstPage].width;
@@ -45,8 +48,16 @@ public:
     TextEdges find() const {
         if (m_edges.empty())
             return edgesOfObjects();
-        const double start = findStart();
-        const double end = findEnd(start);
+        double start = findStart();
+        double end = findEnd(start);
+        // A few lines between large tables may be titles in the middle, or stand anywhere.
+        if (m_rowStarts.size() > m_edges.size()) {
+            const double rowStart = *mostFrequent(m_rowStarts, m_limits.sameEdge);
+            if (start - rowStart > m_limits.farInside) {
+                start = rowStart;
+                end = *mostFrequent(m_rowEnds, m_limits.sameEdge);
+            }
+        }
         return m_isRightToLeft > 0 ? TextEdges{end, m_pageWidth - start} : TextEdges{start, m_pageWidth - end};
     }
 
@@ -57,7 +68,8 @@ private:
         if (lines.front().angle != 0)
             return;
         const bool isInFirstColumn = piece.columnIndex == 0;
-        const bool isInLastColumn = static_cast<std::size_t>(piece.columnIndex) + 1 >= columnsOf(piece);
+        const bool isInLastColumn =
+            static_cast<std::size_t>(piece.columnIndex) + 1 >= columnsOf(piece.page, piece.band);
         const bool isAtStart = piece.text.alignment == Alignment::Start || piece.text.alignment == Alignment::Justified;
         for (std::size_t i = 0; i < lines.size(); ++i) {
             const Line& line = lines[i];
@@ -74,10 +86,19 @@ private:
         }
     }
 
-    std::size_t columnsOf(const DraftPiece& piece) const {
-        const std::vector<Band>& bands = m_draft.pages[piece.page].bands;
-        const auto band = static_cast<std::size_t>(piece.band);
-        return band < bands.size() ? bands[band].columns.size() : 1;
+    void readTable(const TableDraft& table, const DraftBlock& block) {
+        const double width = m_draft.pages[block.page].width;
+        if (columnsOf(block.page, block.band) > 1 || table.box.left < 0 || table.box.right > width)
+            return;
+        const std::size_t rows = table.rowEdges.size() - 1;
+        m_rowStarts.insert(m_rowStarts.end(), rows, table.isRightToLeft ? width - table.box.right : table.box.left);
+        m_rowEnds.insert(m_rowEnds.end(), rows, table.isRightToLeft ? table.box.left : width - table.box.right);
+    }
+
+    std::size_t columnsOf(std::size_t page, int band) const {
+        const std::vector<Band>& bands = m_draft.pages[page].bands;
+        const auto index = static_cast<std::size_t>(band);
+        return index < bands.size() ? bands[index].columns.size() : 1;
     }
 
     /// The outermost edge at which enough lines start.
@@ -178,7 +199,9 @@ private:
 
     const DocumentDraft& m_draft;
     const StructureParameters::PageSetup& m_limits;
-    std::vector<LineEdge> m_edges;
+    std::vector<LineEdge> m_edges;   ///< of the lines of paragraphs
+    std::vector<double> m_rowStarts; ///< of the tables' rows, from the side where lines start
+    std::vector<double> m_rowEnds;   ///< likewise
     Rect m_objects;
     double m_pageWidth = 0;
     int m_isRightToLeft = 0; ///< lines more than left-to-right ones

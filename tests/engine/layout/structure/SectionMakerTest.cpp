@@ -56,6 +56,23 @@ TEST(SectionMaker, TakesMarginsFromTheText) {
     EXPECT_GE(setup.marginBottom, twipsFromPoints(842 - 746.5 - 12.2)) << "but no other line";
 }
 
+TEST(SectionMaker, TakesMarginsFromTablesThatFillThePages) {
+    DocumentDraft draft = makeDraft(1);
+    addLine(draft, 0, 200, 84);
+    addLine(draft, 0, 300, 104);
+    DraftTable table;
+    table.table.box = {72, 120, 533, 200};
+    table.table.rowEdges = {120, 140, 160, 180, 200};
+    DraftBlock block;
+    block.box = table.table.box;
+    block.value = table;
+    draft.blocks.push_back(block);
+    sectionsOf(draft);
+    const document::Section& setup = draft.sections.at(0).setup;
+    EXPECT_NEAR(pointsFromTwips(setup.marginLeft), 72, 0.1) << "not where the titles start";
+    EXPECT_NEAR(pointsFromTwips(setup.marginRight), 595 - 533, 0.5);
+}
+
 TEST(SectionMaker, AllowsForTheSpaceAboveWhatStartsAPage) {
     DocumentDraft draft = makeDraft(2);
     for (const std::size_t page : {0u, 1u})
