@@ -42,11 +42,13 @@ std::string comparableWithoutNumber(std::string_view text) {
     return comparable(hasDigit ? utf8FromUtf32(std::u32string_view(all).substr(start)) : text);
 }
 
-std::size_t wordCount(const DraftParagraph& paragraph) {
+std::size_t letterCount(const DraftParagraph& paragraph) {
     std::size_t count = 0;
     for (const DraftPiece& piece : paragraph.pieces)
         for (const Line& line : piece.text.lines)
-            count += line.words.size();
+            for (const Word& word : line.words)
+                for (const Span& span : word.spans)
+                    count += utf32FromUtf8(span.text).size();
     return count;
 }
 

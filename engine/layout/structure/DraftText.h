@@ -16,7 +16,7 @@ std::string comparable(std::string_view text);
 /// Likewise without the number that a heading starts with: "2.1 Aims" -> "aims".
 std::string comparableWithoutNumber(std::string_view text);
 
-/// Words of the paragraph.
-std::size_t wordCount(const DraftParagraph& paragraph);
+/// Characters of the paragraph, without blanks.
+std::size_t letterCount(const DraftParagraph& paragraph);
 
 } // namespace orvane::layout

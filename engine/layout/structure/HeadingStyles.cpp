@@ -100,7 +100,7 @@ private:
         for (const DraftBlock& block : m_draft.blocks)
             if (const DraftParagraph* paragraph = block.paragraph())
                 if (const auto look = lookOf(*paragraph, m_limits.lookShare))
-                    looks.add(*look, static_cast<double>(wordCount(*paragraph)));
+                    looks.add(*look, static_cast<double>(letterCount(*paragraph)));
         const HeadingLook* most = looks.heaviest();
         return most ? *most : HeadingLook{std::lround(m_context.bodyFontSize * 2), false, false, false, {}};
     }
@@ -108,7 +108,7 @@ private:
     void collect() {
         for (std::size_t i = 0; i < m_draft.blocks.size(); ++i) {
             const DraftParagraph* paragraph = m_draft.blocks[i].paragraph();
-            m_wordCount += paragraph ? wordCount(*paragraph) : 0;
+            m_letterCount += paragraph ? letterCount(*paragraph) : 0;
             if (paragraph && paragraph->role == ParagraphRole::Body)
                 if (auto candidate = candidateOf(i, *paragraph))
                     m_candidates.push_back(std::move(*candidate));
@@ -155,10 +155,10 @@ private:
     /// A look in which much of the text is set is no heading's, nor one whose paragraphs mostly follow each other.
     void dropCrowdedLooks() {
         std::map<HeadingLook, std::tuple<std::size_t, std::size_t, std::size_t>>
-            counts; // words, members, followed by their like
+            counts; // letters, members, followed by their like
         for (std::size_t i = 0; i < m_candidates.size(); ++i) {
-            auto& [words, members, crowded] = counts[m_candidates[i].look];
-            words += wordCount(*m_draft.blocks[m_candidates[i].block].paragraph());
+            auto& [letters, members, crowded] = counts[m_candidates[i].look];
+            letters += letterCount(*m_draft.blocks[m_candidates[i].block].paragraph());
             ++members;
             const bool isFollowed = i + 1 < m_candidates.size() &&
                                     m_candidates[i + 1].block == m_candidates[i].block + 1 &&
@@ -166,8 +166,8 @@ private:
             crowded += isFollowed ? 1 : 0;
         }
         std::erase_if(m_candidates, [&](const Candidate& candidate) {
-            const auto& [words, members, crowded] = counts[candidate.look];
-            return static_cast<double>(words) > m_limits.wordShare * static_cast<double>(m_wordCount) ||
+            const auto& [letters, members, crowded] = counts[candidate.look];
+            return static_cast<double>(letters) > m_limits.letterShare * static_cast<double>(m_letterCount) ||
                    static_cast<double>(crowded) > m_limits.crowdedShare * static_cast<double>(members);
         });
     }
@@ -193,7 +193,7 @@ private:
     const LayoutParameters& m_parameters;
     const StructureParameters::Headings& m_limits;
     HeadingLook m_body;
-    std::size_t m_wordCount = 0;
+    std::size_t m_letterCount = 0;
     std::vector<Candidate> m_candidates;
 };
 

@@ -102,8 +102,9 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const Layo
     label.labelStart = startOf(line.words[0].box, line, piece.column);
     label.textStart = startOf(line.words[1].box, line, piece.column);
     // A single line shows no indent of the lines after it.
-    const bool hangs = piece.text.lines.size() > 1 && piece.text.firstLine < -parameters.lists.sameIndent;
-    label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || hangs;
+    label.hangs = piece.text.lines.size() > 1 && piece.text.firstLine < -parameters.lists.sameIndent;
+    label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || label.hangs;
+    label.isTyped = line.words[1].isTypedBefore;
     if (label.format == NumberFormat::Bullet)
         label.bullet = marker->text;
     else if (label.format == NumberFormat::Decimal)

@@ -19,6 +19,8 @@ struct ListLabel {
     std::string after;        ///< and behind it: ".", ")"
     std::string bullet;       ///< of a bullet
     bool isStrong = false;    ///< nothing but a list has such a label
+    bool isTyped = false;     ///< a painted blank is all that parts it from the text
+    bool hangs = false;       ///< the lines after the first stand further in
     double labelStart = 0;    ///< from the column's start edge, points
     double textStart = 0;     ///< of what follows it
 

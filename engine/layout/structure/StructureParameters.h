@@ -31,7 +31,7 @@ struct StructureParameters {
         int maximumLength = 160;    ///< characters
         double lookShare = 0.85;    ///< of the characters that one look must have to be the paragraph's
         double largerSize = 1.12;   ///< of the body text's size; from there on letters are larger
-        double wordShare = 0.12;    ///< of the document's words; a look with more is not that of headings
+        double letterShare = 0.12;  ///< of the document's letters; a look with more is not that of headings
         double crowdedShare = 0.34; ///< of a look's paragraphs that may be followed by another of the same look
         double titleSize = 1.35;    ///< of the body text's size
         int titleParagraphs = 3;    ///< more in the largest letters are no title
@@ -53,7 +53,9 @@ struct StructureParameters {
 
     /// ListLabel, ListGroups, ListFinder.
     struct Lists {
-        double sameIndent = 3.0; ///< points; labels or texts that start this near to each other are of one level
+        double sameIndent = 3.0;       ///< points; labels or texts that start this near to each other are of one level
+        std::size_t fewestBlanks = 20; ///< between words; fewer do not tell whether the file has them
+        double paintedShare = 0.8;     ///< of them; with so many the file has all
     } lists;
 
     /// ContentsFinder: tables of contents.

@@ -123,5 +123,37 @@ TEST(ListFinder, SetsBulletsInTheFontsOfWordProcessors) {
               "p ListParagraph list=0.0 {start=43pt first=-25pt} \"one\"");
 }
 
+/// A file that has a blank for each one that was typed; behind the labels there is what `label` tells.
+enum class BehindLabels { Nothing, Blank };
+
+DocumentDraft paintedListOf(const std::vector<Row>& rows, BehindLabels label) {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.blocks.push_back(tests::makeBlock(tests::makeParagraph(
+        {tests::makeLine("a line with so many words that it tells how the file was made and whether it has any blanks "
+                         "between them at all or leaves gaps",
+                         72, 60)})));
+    double baseline = 100;
+    for (const Row& row : rows)
+        draft.blocks.push_back(
+            tests::makeBlock(tests::makeParagraph({tests::makeLine(row.text, row.left, baseline += 14)})));
+    for (DraftBlock& block : draft.blocks) {
+        std::vector<Word>& words = block.paragraph()->pieces.front().text.lines.front().words;
+        for (std::size_t i = 1; i < words.size(); ++i)
+            words[i].isTypedBefore = i > 1 || &block == &draft.blocks.front() || label == BehindLabels::Blank;
+    }
+    findLists(draft, {});
+    return draft;
+}
+
+TEST(ListFinder, LabelsWithoutThePaintedBlankOfOtherWordsAreWrittenByLists) {
+    const DocumentDraft draft = paintedListOf({{"1. one", 72}, {"2. two", 72}}, BehindLabels::Nothing);
+    EXPECT_EQ(placesOf(draft), "- 0.0 0.0") << "though they stand at the edge of the text";
+}
+
+TEST(ListFinder, LabelsWithABlankOfTheirOwnWereTyped) {
+    const DocumentDraft draft = paintedListOf({{"1. one", 90}, {"2. two", 90}}, BehindLabels::Blank);
+    EXPECT_EQ(placesOf(draft), "- - -") << "though they stand further in than the text";
+}
+
 } // namespace
 } // namespace orvane::layout
