@@ -427,6 +427,10 @@ struct Document {
     std::vector<Note> notes;
     NoteCount footnoteCount = NoteCount::Continuous;
     std::vector<Comment> comments;
+    /// Whether a line of a justified paragraph that ends with a Break is spread over the whole width, as lines within the
+    /// paragraph are. It suits lines that were cut by hand where they ended on the page; a line that somebody ended early is
+    /// left at its natural width.
+    bool spreadsBrokenLines = false;
     std::vector<Section> sections;     ///< at least one
 };
 

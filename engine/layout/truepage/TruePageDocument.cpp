@@ -110,6 +110,8 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
 
     document::Document document;
     document.metadata = metadataOf(facts.metadata);
+    // The lines of a paragraph are ended where they ended on the page, so that the justified ones must reach its edge.
+    document.spreadsBrokenLines = true;
     document.styles = makeStyles(flows, assembly);
     PageBinder binder(document.styles.front());
     auto block = flows.front().blocks.begin();

@@ -227,7 +227,7 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.add(TablePart::ListReferences, lists.references);
     table.add(TablePart::Fonts, state.fonts.table());
     table.add(TablePart::DocumentProperties,
-              documentProperties(running.hasEvenPages ? Pages::Facing : Pages::Alike, state.document.footnoteCount));
+              documentProperties(state.document, running.hasEvenPages ? Pages::Facing : Pages::Alike));
     table.add(TablePart::Pieces, pieces(text.length()));
 
     const TextLengths lengths{state.body.length(),          state.footnotes.text.length(),

@@ -18,7 +18,7 @@ constexpr int kCountsOnEachPage = 2; ///< Source: [MS-DOC] 2.7.2 (DopBase, rncFt
 constexpr int kDefaultTab = 720;
 constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
-constexpr int kJustifiesLinesThatBreak = 1 << 13; ///< Source: [MS-DOC] 2.9.34 (Copts60, fExpShRtn)
+constexpr int kSpreadsBrokenLines = 1 << 13; ///< Source: [MS-DOC] 2.9.34 (Copts60, fExpShRtn)
 constexpr std::size_t kNoteNumbers = 492;         ///< where the formats of the notes' numbers stand
 constexpr std::size_t kCompatibility = 508;       ///< Source: [MS-DOC] 2.7.6 (Dop2000, copts)
 constexpr int kDecimal = 0;
@@ -80,16 +80,17 @@ std::string propertySet(const std::vector<Property>& properties) {
 
 } // namespace
 
-std::string documentProperties(Pages pages, document::NoteCount footnotes) {
+std::string documentProperties(const document::Document& document, Pages pages) {
+    const int compatibility = document.spreadsBrokenLines ? kSpreadsBrokenLines : 0;
     Bytes bytes;
     bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0));
-    bytes.u16(kFirstNote | (footnotes == document::NoteCount::EachPage ? kCountsOnEachPage : 0)).zeros(4);
-    bytes.u16(kJustifiesLinesThatBreak).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
+    bytes.u16(kFirstNote | (document.footnoteCount == document::NoteCount::EachPage ? kCountsOnEachPage : 0)).zeros(4);
+    bytes.u16(compatibility).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
     bytes.u16(kFirstNote).u16(kEndnotesAtDocumentEnd | kLowerRoman << kLowerRomanPlace).zeros(82 - bytes.size());
-    bytes.u16(kSize100).u16(kJustifiesLinesThatBreak).zeros(kNoteNumbers - bytes.size());
+    bytes.u16(kSize100).u16(compatibility).zeros(kNoteNumbers - bytes.size());
     bytes.u16(kDecimal).u16(kLowerRoman).zeros(kCompatibility - bytes.size());
     // What is not set here counts too: of the spaces between two paragraphs the larger is kept, not both.
-    bytes.u16(kJustifiesLinesThatBreak).zeros(kPropertiesSize - bytes.size());
+    bytes.u16(compatibility).zeros(kPropertiesSize - bytes.size());
     return bytes.str();
 }
 

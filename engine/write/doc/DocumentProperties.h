@@ -8,9 +8,9 @@ namespace orvane::write::doc {
 
 enum class Pages { Alike, Facing };
 
-/// What holds for the whole document: kinds of pages, notes, tabulators.
+/// What holds for the whole document: kinds of pages, notes, tabulators, rules of layout.
 /// Source: [MS-DOC] 2.7.6 (Dop2000).
-std::string documentProperties(Pages pages, document::NoteCount footnotes);
+std::string documentProperties(const document::Document& document, Pages pages);
 
 /// What the document says of itself, as a property set. No date but the document's own is written.
 /// Source: [MS-OLEPS] 2.21 (PropertySetStream), 3.1 (summary information).

@@ -19,8 +19,10 @@ void writeNoteProperties(XmlWriter& xml, std::string_view properties, std::strin
     xml.leaf(note, {{"w:id", 0}});
 }
 
-void writeCompatibility(XmlWriter& xml) {
+void writeCompatibility(XmlWriter& xml, const document::Document& document) {
     const XmlElement compat(xml, "w:compat");
+    if (!document.spreadsBrokenLines)
+        xml.leaf("w:doNotExpandShiftReturn");
     const auto set = [&xml](const char* name, const char* value) {
         xml.leaf("w:compatSetting",
                  {{"w:name", name}, {"w:uri", "http://schemas.microsoft.com/office/word"}, {"w:val", value}});
@@ -47,7 +49,7 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
         writeNoteProperties(xml, "w:footnotePr", "w:footnote", state.document.footnoteCount);
     if (hasNotes(state.document, document::NoteKind::Endnote))
         writeNoteProperties(xml, "w:endnotePr", "w:endnote", document::NoteCount::Continuous);
-    writeCompatibility(xml);
+    writeCompatibility(xml, state.document);
     xml.leaf("w:decimalSymbol", {{"w:val", "."}});
     xml.leaf("w:listSeparator", {{"w:val", ","}});
     xml.end();

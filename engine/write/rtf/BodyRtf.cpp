@@ -52,9 +52,9 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     writeDocumentPage(rtf, first);
     rtf.word("deftab", kDefaultTab);
     rtf.word("widowctrl");
-    // Lines that end by hand are justified like others, as in the other formats.
-    rtf.word("expshrtn");
-    // So is it that of the spaces below one paragraph and above the next the larger counts.
+    if (state.document.spreadsBrokenLines)
+        rtf.word("expshrtn");
+    // Of the spaces below one paragraph and above the next the larger counts, as in the other formats.
     rtf.word("htmautsp");
     rtf.word("ftnbj");
     if (state.document.footnoteCount == document::NoteCount::EachPage)

@@ -76,6 +76,10 @@ TEST(TruePageDocument, HasOnePageForEachPage) {
     EXPECT_EQ(document.sections[1].start, document::SectionStart::NextPage);
 }
 
+TEST(TruePageDocument, SpreadsLinesThatItEndedItself) {
+    EXPECT_TRUE(documentOf({makePage(1)}).spreadsBrokenLines);
+}
+
 TEST(TruePageDocument, TurnsTextAsItWas) {
     PageText page = makePage(1);
     for (const double angle : {90.0, 270.0, 30.0}) {

@@ -99,5 +99,13 @@ TEST_F(Package, IsLaidOutByTheRulesOfTheDay) {
         << "a document that asks its reader a question when it is opened";
 }
 
+TEST_F(Package, SpreadsLinesThatEndByHandOnlyWhereTheDocumentSaysSo) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:compat/*[1]"),
+              normalXml("<w:doNotExpandShiftReturn/>"));
+    document.spreadsBrokenLines = true;
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:doNotExpandShiftReturn"), "");
+}
+
 } // namespace
 } // namespace orvane::tests

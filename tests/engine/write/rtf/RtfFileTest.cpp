@@ -14,8 +14,11 @@ namespace {
 using namespace document;
 using testing::IsEmpty;
 
-TEST(RtfFile, JustifiesLinesThatEndByHand) {
-    EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\expshrtn"));
+TEST(RtfFile, SpreadsLinesThatEndByHandOnlyWhereTheDocumentSaysSo) {
+    Document document = documentOf("a");
+    EXPECT_FALSE(WrittenRtf(document).has("\\expshrtn"));
+    document.spreadsBrokenLines = true;
+    EXPECT_TRUE(WrittenRtf(document).has("\\expshrtn"));
 }
 
 TEST(RtfFile, SetsParagraphsAndLettersApartLikeTheOtherFormats) {
