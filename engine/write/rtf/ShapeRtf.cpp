@@ -3,6 +3,8 @@
 #include "write/ShapeOutline.h"
 #include "write/rtf/ShapeProperties.h"
 
+#include <array>
+
 #include <fmt/format.h>
 
 namespace orvane::write::rtf {
@@ -43,18 +45,27 @@ private:
     void add(const Shape::Segment& segment) {
         switch (segment.verb) {
         case Verb::Move:
+            m_start = segment;
             return add(kMoveCode, segment, 1);
         case Verb::Line:
             return add(kLineCode, segment, 1);
         case Verb::Curve:
             return add(kCurveCode, segment, 3);
         case Verb::Close:
-            return code(kCloseCode);
+            return close();
         }
+    }
+
+    /// The line back to the start is drawn too: LibreOffice passes over the code that closes an outline.
+    void close() {
+        if (m_last[0] != m_start.xy[0] || m_last[1] != m_start.xy[1])
+            add(kLineCode, m_start, 1);
+        code(kCloseCode);
     }
 
     void add(int segmentCode, const Shape::Segment& segment, std::size_t pairs) {
         code(segmentCode);
+        m_last = {segment.xy[2 * pairs - 2], segment.xy[2 * pairs - 1]};
         for (std::size_t i = 0; i < pairs; ++i, ++m_pointCount)
             m_points += fmt::format(";({},{})", shapeLength(segment.xy[2 * i]), shapeLength(segment.xy[2 * i + 1]));
     }
@@ -64,6 +75,8 @@ private:
         ++m_segmentCount;
     }
 
+    Shape::Segment m_start; ///< of the open part of the outline
+    std::array<Emu, 2> m_last{};
     std::string m_points;
     std::string m_segments;
     int m_pointCount = 0;
@@ -78,7 +91,8 @@ void writePath(RtfStream& rtf, const Shape& shape) {
     writeShapeProperty(rtf, "geoRight", shapeLength(shape.width));
     writeShapeProperty(rtf, "geoBottom", shapeLength(shape.height));
     writeShapeProperty(rtf, "shapePath", kComplexPath);
-    writeShapeProperty(rtf, "pVertices", lists.points());
+    // Misspelled by the format.
+    writeShapeProperty(rtf, "pVerticies", lists.points());
     writeShapeProperty(rtf, "pSegmentInfo", lists.segments());
 }
 

@@ -117,9 +117,28 @@ TEST(RtfShape, IsAPathOtherwise) {
                Color{0, 0, 255},
                0.5};
     const WrittenRtf rtf(documentOf({{Figure{Drawing{side, side, {drop}, ""}, {}, {}}}, {paragraph("anchor")}}));
-    EXPECT_TRUE(rtf.has("{\\sn pVertices}{\\sv 8;4;(0,0);(1000,0);(1000,1000);(0,1000)}"));
-    EXPECT_TRUE(rtf.has("{\\sn pSegmentInfo}{\\sv 2;4;16384;8193;24577;32768}"));
+    EXPECT_TRUE(rtf.has("{\\sn pVerticies}{\\sv 8;5;(0,0);(1000,0);(1000,1000);(0,1000);(0,0)}"));
+    EXPECT_TRUE(rtf.has("{\\sn pSegmentInfo}{\\sv 2;5;16384;8193;1;24577;32768}"))
+        << "the way back to the start is drawn";
     EXPECT_TRUE(rtf.has("{\\sn fillColor}{\\sv 16711680}}{\\sp{\\sn fillOpacity}{\\sv 32768}}"));
+}
+
+TEST(RtfShape, EndsItsPathWhereItBeganWithoutALineMore) {
+    const Emu side(1000);
+    Shape corner{{},
+                 {},
+                 side,
+                 side,
+                 {{Shape::Verb::Move, {}},
+                  {Shape::Verb::Line, {side, side}},
+                  {Shape::Verb::Line, {Emu(0), side}},
+                  {Shape::Verb::Line, {}},
+                  {Shape::Verb::Close, {}}},
+                 {},
+                 Color{0, 0, 255},
+                 1};
+    const WrittenRtf rtf(documentOf({{Figure{Drawing{side, side, {corner}, ""}, {}, {}}}, {paragraph("anchor")}}));
+    EXPECT_TRUE(rtf.has("{\\sn pVerticies}{\\sv 8;4;(0,0);(1000,1000);(0,1000);(0,0)}"));
 }
 
 TEST(RtfShape, StandsInAGroupWithOthers) {
