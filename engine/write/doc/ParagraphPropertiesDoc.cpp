@@ -1,9 +1,9 @@
 #include "write/doc/ParagraphPropertiesDoc.h"
 
+#include "write/LineParts.h"
 #include "write/doc/BorderDoc.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvane::write::doc {
 namespace {
@@ -12,7 +12,6 @@ using namespace document;
 
 /// Lengths beyond a page's largest size are refused by readers.
 constexpr int kMostTwips = 31680;
-constexpr double kTwipsALine = 240;
 constexpr int kBodyTextLevel = 9;
 /// Source: [MS-DOC] 2.9.182 (PChgTabsPapxOperand): at most 64 stops.
 constexpr std::size_t kMostTabs = 64;
@@ -154,7 +153,7 @@ private:
         const int height = std::clamp(spacing.height.value, 1, kMostTwips);
         Bytes value;
         if (spacing.rule == LineSpacingRule::Multiple)
-            value.u16(std::clamp<long>(std::lround(spacing.multiple * kTwipsALine), 1, kMostTwips)).u16(kIsMultiple);
+            value.u16(lineParts(spacing.multiple)).u16(kIsMultiple);
         else
             value.u16(spacing.rule == LineSpacingRule::Exact ? -height : height).u16(0);
         m_list.addRaw(sprm::kPDyaLine, value);

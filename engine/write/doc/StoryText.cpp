@@ -15,7 +15,14 @@ void StoryText::add(std::u16string_view text, const std::string& properties) {
 }
 
 void StoryText::endParagraph(char16_t mark, const std::string& markProperties, std::string paragraphProperties) {
-    add({&mark, 1}, markProperties);
+    // A look of its own for the mark, even if it is the text's: LibreOffice drops a look that covers a paragraph and
+    // its mark where a table follows.
+    if (markProperties.empty())
+        add({&mark, 1}, {});
+    else {
+        m_text += mark;
+        m_looks.push_back({length(), markProperties});
+    }
     m_paragraphs.push_back({length(), std::move(paragraphProperties)});
 }
 

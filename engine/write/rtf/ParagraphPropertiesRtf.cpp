@@ -1,9 +1,9 @@
 #include "write/rtf/ParagraphPropertiesRtf.h"
 
+#include "write/LineParts.h"
 #include "write/rtf/BorderRtf.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvane::write::rtf {
 namespace {
@@ -12,7 +12,6 @@ using namespace document;
 
 /// Lengths beyond a page's largest size are refused by readers.
 constexpr int kMostTwips = 31680;
-constexpr double kTwipsALine = 240;
 constexpr int kBodyTextLevel = 9;
 
 int limited(Twips value) {
@@ -121,13 +120,16 @@ private:
     void writeSpacing() {
         writeLength("sb", &ParagraphProperties::spaceBefore, 0);
         writeLength("sa", &ParagraphProperties::spaceAfter, 0);
-        if (!isDue(&ParagraphProperties::lineSpacing, LineSpacing{}))
+        // LibreOffice takes the multiple of a style for a height where the default style has another one: what a
+        // paragraph says itself it takes as it is meant.
+        const LineSpacing& usual = m_state.styles.defaultStyle().paragraph.lineSpacing;
+        if (!isDue(&ParagraphProperties::lineSpacing, LineSpacing{}) && usual == LineSpacing{})
             return;
         const LineSpacing& spacing = m_value.lineSpacing;
         const int height = std::clamp(spacing.height.value, 1, kMostTwips);
         switch (spacing.rule) {
         case LineSpacingRule::Multiple:
-            m_rtf.word("sl", std::clamp<long>(std::lround(spacing.multiple * kTwipsALine), 1, kMostTwips));
+            m_rtf.word("sl", lineParts(spacing.multiple));
             m_rtf.word("slmult", 1);
             return;
         case LineSpacingRule::AtLeast:

@@ -71,6 +71,22 @@ TEST(DocParagraph, HasHowItStands) {
                           "c60d=05000128230a "));
 }
 
+TEST(DocParagraph, HasMultiplesThatReadersMayCutDownToPercents) {
+    Paragraph one = paragraph("a");
+    one.properties.lineSpacing.multiple = 259 / 240.0;
+    EXPECT_THAT(WrittenDoc(documentOf(one)).dump(), HasSubstr("6412=04010100"))
+        << "260 parts of 240: 108 percent and not 107";
+}
+
+TEST(DocParagraph, EndsWithAMarkThatHasALookOfItsOwn) {
+    RunProperties bold;
+    bold.isBold = true;
+    Paragraph one = paragraph({text("a", bold)});
+    one.markProperties = bold;
+    EXPECT_THAT(WrittenDoc(documentOf(one)).dump(), HasSubstr("0835=01 085c=01 \"a\"0835=01 085c=01 \"\\0d\""))
+        << "a table may follow";
+}
+
 TEST(DocParagraph, MeansSidesOfThePageInItsOlderProperties) {
     Paragraph one = paragraph("a");
     one.properties.isRightToLeft = true;

@@ -72,6 +72,37 @@ TEST(RtfParagraph, TakesBackWhatItsStyleHas) {
     EXPECT_THAT(WrittenRtf(document).body(), HasSubstr("\\sa0\\widctlpar\\keepn0"));
 }
 
+TEST(RtfParagraph, SaysItsLineSpacingWhereTheDefaultStyleHasAnother) {
+    Document document = documentOf("a");
+    EXPECT_THAT(WrittenRtf(document).body(), Not(HasSubstr("\\sl")));
+    Style single = document.styles[0];
+    single.id = single.name = "Single";
+    single.basedOn = "Normal";
+    document.styles.push_back(single);
+    document.styles[0].paragraph.lineSpacing.multiple = 1.5;
+    std::get<Paragraph>(document.sections[0].blocks[0].value).style = "Single";
+    EXPECT_THAT(WrittenRtf(document).body(), HasSubstr("\\sl240\\slmult1"));
+}
+
+TEST(RtfParagraph, HasMultiplesThatReadersMayCutDownToPercents) {
+    struct Row {
+        int parts;
+        const char* written;
+        const char* why;
+    };
+    const Row rows[] = {
+        {259, "\\sl260\\", "107.9 percent become 108 and not 107"},
+        {257, "\\sl257\\", "107.1 percent"},
+        {258, "\\sl258\\", "107.5 percent: the next part is not enough for 108"},
+        {264, "\\sl264\\", "110 percent"},
+    };
+    for (const Row& row : rows) {
+        Paragraph one = paragraph("a");
+        one.properties.lineSpacing.multiple = row.parts / 240.0;
+        EXPECT_THAT(WrittenRtf(documentOf(one)).body(), HasSubstr(row.written)) << row.why;
+    }
+}
+
 TEST(RtfParagraph, MeansSidesOfThePageByLeftAndRight) {
     Paragraph one = paragraph("a");
     one.properties.isRightToLeft = true;
