@@ -4,10 +4,11 @@
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
+# Some packages are there under another's name: what an installed one provides counts.
+present=$(dpkg-query -W -f '${Status}|${Package}, ${Provides}\n' | sed -n 's/^install ok installed|//p' | tr ',' '\n' | sed 's/(.*//; s/ //g')
 missing=()
 while read -r package; do
-    status=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
-    [ "$status" = "install ok installed" ] || missing+=("$package")
+    grep -qxF -- "$package" <<<"$present" || missing+=("$package")
 done < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$here/debian-packages.txt" "$@")
 [ ${#missing[@]} -gt 0 ] || exit 0
 

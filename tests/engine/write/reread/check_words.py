@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """check_words.py --reader KIND [PROGRAM] FILE...: a reader finds the words of the sample document in each file, in order.
 
-KIND is soffice, unrtf, antiword, catdoc, wv, poi or cat. Prints the first word that is missing and exits with 1 where there is one.
+KIND is soffice, unrtf, antiword, catdoc, wv, poi, word-extractor or cat. word-extractor tells the parts of a document apart: headers,
+notes, comments and boxes are looked for too. Prints the first word that is missing and exits with 1 where there is one.
 """
+import json
 import pathlib
 import re
 import subprocess
@@ -13,6 +15,16 @@ import tempfile
 WORDS = """Characters plain bold italic Links to Paragraphs The quick brown fox jumps Lists first nested second
 Form fields Name Grace Pictures in the line cut turned mirrored Text runs in columns of different widths
 Tables Head over two Third Fourth""".split()
+
+# What stands beside the body, for the reader that tells it apart.
+PARTS = {
+    "headers": "Header of even pages Standard header Header of the first page",
+    "footers": "Page 1 of 4 Footer of the columns",
+    "footnotes": "The note at the foot. With a star.",
+    "endnotes": "The note at the end.",
+    "comments": "Is this so?",
+    "boxes": "A box of text in box A note from the box. Text that climbs up the margin",
+}
 
 # What a reader is known to pass over: the mark of a picture or a comment takes what stands before it in its paragraph away.
 UNSHOWN = {"catdoc": {"plain", "bold", "italic", "cut", "turned", "mirrored"}}
@@ -50,12 +62,29 @@ def text_by(kind, program, file):
     return output.decode("utf-8", errors="replace")
 
 
-def missing_word(kind, text):
+def parts_by_extractor(program, file):
+    """The parts by their names."""
+    script = pathlib.Path(__file__).with_name("extract_parts.js")
+    run = subprocess.run([program, str(script), file], capture_output=True)
+    if run.returncode != 0:
+        sys.exit(f"word-extractor cannot read {file}, or packaging/install-readers.sh could not install it:\n{run.stderr.decode()}")
+    return json.loads(run.stdout)
+
+
+def missing_in_parts(parts):
+    for name, words in PARTS.items():
+        word = missing_word("word-extractor", parts[name], words.split())
+        if word:
+            return f"{word} ({name})"
+    return missing_word("word-extractor", parts["body"])
+
+
+def missing_word(kind, text, words=WORDS):
     place = 0
-    for word in WORDS:
+    for word in words:
         if word in UNSHOWN.get(kind, ()):
             continue
-        found = re.compile(rf"\b{re.escape(word)}\b").search(text, place)
+        found = re.compile(rf"(?<!\w){re.escape(word)}(?!\w)").search(text, place)
         if not found:
             return word
         place = found.end()
@@ -65,10 +94,13 @@ def missing_word(kind, text):
 def main():
     kind, rest = sys.argv[2], sys.argv[3:]
     program = None if kind == "cat" else rest.pop(0)
-    texts = texts_by_soffice(program, rest) if kind == "soffice" else [text_by(kind, program, file) for file in rest]
+    if kind == "word-extractor":
+        missing = [missing_in_parts(parts_by_extractor(program, file)) for file in rest]
+    else:
+        texts = texts_by_soffice(program, rest) if kind == "soffice" else [text_by(kind, program, file) for file in rest]
+        missing = [missing_word(kind, text) for text in texts]
     failed = False
-    for file, text in zip(rest, texts):
-        word = missing_word(kind, text)
+    for file, word in zip(rest, missing):
         if word:
             print(f"{file}: {kind} does not find \"{word}\" where it should stand")
             failed = True
