@@ -56,4 +56,13 @@ std::optional<DateTime> dateTimeFromIso(std::string_view text) {
     return time;
 }
 
+std::uint32_t packedDateTime(const DateTime& time) {
+    constexpr int kFirstYear = 1900;
+    if (time.year < kFirstYear)
+        return 0;
+    const auto bits = [](int value, int shift) { return static_cast<std::uint32_t>(value) << shift; };
+    return bits(time.minute, 0) | bits(time.hour, 6) | bits(time.day, 11) | bits(time.month, 16) |
+           bits(time.year - kFirstYear, 20) | bits(time.weekday, 29);
+}
+
 } // namespace orvane::write

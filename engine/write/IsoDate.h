@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -22,5 +23,9 @@ struct DateTime {
 
 /// The moment of an ISO 8601 date and time; its zone is not looked at. Nothing for what is none.
 std::optional<DateTime> dateTimeFromIso(std::string_view text);
+
+/// The moment in the 32 bits that DOC and RTF have for it; 0 for one before the year 1900, which they have not.
+/// Source: [MS-DOC] 2.9.67 (DTTM).
+std::uint32_t packedDateTime(const DateTime& time);
 
 } // namespace orvane::write

@@ -2,6 +2,7 @@
 
 #include "write/CommentPlaces.h"
 #include "write/Initials.h"
+#include "write/IsoDate.h"
 #include "write/doc/BlockDoc.h"
 #include "write/doc/NoteDoc.h"
 #include "write/doc/ParagraphDoc.h"
@@ -32,13 +33,24 @@ std::size_t authorIndex(CommentTexts& comments, const std::u16string& author) {
 void writeComment(DocState& state, const Comment& comment, std::uint32_t place) {
     CommentTexts& comments = state.comments;
     const std::u16string author = utf16FromUtf8(comment.author).substr(0, kLongestAuthor);
-    comments.references.push_back(
-        {place, utf16FromUtf8(initialsOf(comment.author)).substr(0, kInitialsLength), authorIndex(comments, author)});
+    comments.references.push_back({place, utf16FromUtf8(initialsOf(comment.author)).substr(0, kInitialsLength),
+                                   authorIndex(comments, author), comment.date});
     comments.starts.push_back(comments.text.length());
     Story story{state, comments.text, StoryKind::Comment};
     writeBlocks(story, comment.blocks, {[&] { addMark(story.text); }});
     writeDisplacedNotes(story);
     endParagraph(story, ParagraphEnd::Paragraph);
+}
+
+/// When each comment was made. Source: [MS-DOC] 2.9.7 (AtrdExtra), 2.9.6 (ATRDPost10).
+std::string detailsOf(const CommentTexts& comments) {
+    constexpr int kPlaceInThread = 14;
+    Bytes details;
+    for (const CommentTexts::Reference& reference : comments.references) {
+        const auto time = dateTimeFromIso(reference.date);
+        details.u32(time ? packedDateTime(*time) : 0).zeros(kPlaceInThread);
+    }
+    return details.str();
 }
 
 CommentPlace placeOf(const Story& story) {
@@ -79,7 +91,7 @@ CommentTables commentTables(const CommentTexts& comments, std::uint32_t bodyLeng
     Bytes authors;
     for (const std::u16string& author : comments.authors)
         authors.u16(static_cast<std::int64_t>(author.size())).characters(author);
-    return {places.str() + entries.str(), texts.str(), authors.str()};
+    return {places.str() + entries.str(), texts.str(), authors.str(), detailsOf(comments)};
 }
 
 } // namespace orvane::write::doc

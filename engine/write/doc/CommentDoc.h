@@ -10,11 +10,13 @@ namespace orvane::write::doc {
 /// Source: [MS-DOC] 2.3.4 (comment document).
 void writeCommentReference(Story& story, const document::CommentReference& reference);
 
-/// The tables of comments: where their marks stand and whose they are, where each begins, and their authors.
+/// The tables of comments: where their marks stand and whose they are, where each begins, their authors, and when they
+/// were made.
 struct CommentTables {
     std::string references;
     std::string texts;
     std::string authors;
+    std::string details;
 };
 CommentTables commentTables(const CommentTexts& comments, std::uint32_t bodyLength);
 

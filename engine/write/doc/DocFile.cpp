@@ -29,25 +29,30 @@ void endPlainParagraph(StoryText& text) {
     text.endParagraph(character::kParagraphEnd, {}, Bytes().u16(0).str());
 }
 
+/// The last paragraph mark of the boxes' text belongs to no box.
+void endBoxes(FloatLayer& layer) {
+    if (!layer.boxes.starts.empty())
+        endPlainParagraph(layer.boxes.text);
+}
+
 std::vector<WrittenSection> writeBody(DocState& state) {
     static const std::vector<Section> kOneSection(1);
     const auto& sections = state.document.sections.empty() ? kOneSection : state.document.sections;
     std::vector<WrittenSection> written;
-    Story story{state, state.body};
+    Story story{state, state.body, StoryKind::Body, &state.bodyFloats};
     for (std::size_t i = 0; i < sections.size(); ++i) {
         writeBlocks(story, sections[i].blocks);
         endParagraph(story, i + 1 == sections.size() ? ParagraphEnd::Paragraph : ParagraphEnd::Section);
         written.push_back(
             {state.body.length(), sectionProperties(sections[i], state.document.footnoteCount, state.diagnostics)});
     }
-    // The last paragraph mark of these texts belongs to no note, no comment and no box.
+    // The last paragraph mark of these texts belongs to no note and no comment.
     for (NoteTexts* notes : {&state.footnotes, &state.endnotes})
         if (!notes->references.empty())
             endPlainParagraph(notes->text);
     if (!state.comments.references.empty())
         endPlainParagraph(state.comments.text);
-    if (!state.textBoxes.starts.empty())
-        endPlainParagraph(state.textBoxes.text);
+    endBoxes(state.bodyFloats);
     return written;
 }
 
@@ -124,13 +129,14 @@ void addNotes(TableStream& table, const DocState& state) {
     table.add(TablePart::CommentReferences, comments.references);
     table.add(TablePart::CommentTexts, comments.texts);
     table.add(TablePart::CommentAuthors, comments.authors);
+    table.add(TablePart::CommentDetails, comments.details);
 }
 
 /// Which shape each box of text belongs to, and that none goes on in another. The last entry is for the paragraph mark
 /// that belongs to no box. Source: [MS-DOC] 2.8.32 (PlcftxbxTxt), 2.9.101 (FTXBXS), 2.8.31 (PlcfTxbxBkd), 2.9.310
 /// (Tbkd).
-void addTextBoxes(TableStream& table, const DocState& state) {
-    const TextBoxes& boxes = state.textBoxes;
+void addTextBoxes(TableStream& table, const FloatLayer& layer, TablePart texts, TablePart ends) {
+    const TextBoxes& boxes = layer.boxes;
     if (boxes.starts.empty())
         return;
     constexpr int kEntrySize = 22;
@@ -143,14 +149,14 @@ void addTextBoxes(TableStream& table, const DocState& state) {
     Bytes entries;
     Bytes breaks;
     int box = 0;
-    for (const FloatingObject& object : state.floatingObjects) {
+    for (const FloatingObject& object : layer.objects) {
         if (!object.frame)
             continue;
         entries.u32(1).u32(0).u16(0).u32(0xFFFFFFFF).u32(object.shape).u32(0);
         breaks.u16(box++).u16(0).u16(kIsWhole);
     }
-    table.add(TablePart::TextBoxes, places.str() + entries.zeros(kEntrySize).str());
-    table.add(TablePart::TextBoxBreaks, places.str() + breaks.zeros(kBreakSize).str());
+    table.add(texts, places.str() + entries.zeros(kEntrySize).str());
+    table.add(ends, places.str() + breaks.zeros(kBreakSize).str());
 }
 
 void addFields(TableStream& table, const DocState& state, const RunningTexts& running) {
@@ -159,7 +165,8 @@ void addFields(TableStream& table, const DocState& state, const RunningTexts& ru
     table.add(TablePart::FootnoteFields, fieldTable(state.footnotes.text));
     table.add(TablePart::CommentFields, fieldTable(state.comments.text));
     table.add(TablePart::EndnoteFields, fieldTable(state.endnotes.text));
-    table.add(TablePart::TextBoxFields, fieldTable(state.textBoxes.text));
+    table.add(TablePart::TextBoxFields, fieldTable(state.bodyFloats.boxes.text));
+    table.add(TablePart::RunningTextBoxFields, fieldTable(state.runningFloats.boxes.text));
 }
 
 /// Adds the properties of the text: pages in the main stream, their index in the table stream.
@@ -183,7 +190,8 @@ StoryText wholeText(const DocState& state, const RunningTexts& running) {
     text.append(running.text);
     text.append(state.comments.text);
     text.append(state.endnotes.text);
-    text.append(state.textBoxes.text);
+    text.append(state.bodyFloats.boxes.text);
+    text.append(state.runningFloats.boxes.text);
     // Where the body is not all, one more paragraph mark ends the file.
     if (text.length() > state.body.length())
         endPlainParagraph(text);
@@ -203,6 +211,7 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     const std::string styles = state.styleNumbers.table(state.fonts);
     const std::vector<WrittenSection> sections = writeBody(state);
     const RunningTexts running = writeRunningTexts(state);
+    endBoxes(state.runningFloats);
     reportLostNotes(state);
     const StoryText text = wholeText(state, running);
     const DocLists lists = makeLists(state.document, state.fonts);
@@ -214,10 +223,13 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.add(TablePart::Sections, writeSections(main, sections));
     CompoundStream tail(u"");
     const FloatingParts floating =
-        makeFloatingParts(state.floatingObjects, state.pictureStore, state.body.length(), main.position(), tail);
-    table.add(TablePart::BodyAnchors, floating.anchors);
+        makeFloatingParts({state.bodyFloats, state.body.length()}, {state.runningFloats, running.text.length()},
+                          state.pictureStore, main.position(), tail);
+    table.add(TablePart::BodyAnchors, floating.bodyAnchors);
+    table.add(TablePart::RunningTextAnchors, floating.runningAnchors);
     table.add(TablePart::Shapes, floating.shapes);
-    addTextBoxes(table, state);
+    addTextBoxes(table, state.bodyFloats, TablePart::TextBoxes, TablePart::TextBoxBreaks);
+    addTextBoxes(table, state.runningFloats, TablePart::RunningTextBoxes, TablePart::RunningTextBoxBreaks);
     addNotes(table, state);
     table.add(TablePart::RunningTexts, running.table);
     addFields(table, state, running);
@@ -230,9 +242,13 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
               documentProperties(state.document, running.hasEvenPages ? Pages::Facing : Pages::Alike));
     table.add(TablePart::Pieces, pieces(text.length()));
 
-    const TextLengths lengths{state.body.length(),          state.footnotes.text.length(),
-                              running.text.length(),        state.comments.text.length(),
-                              state.endnotes.text.length(), state.textBoxes.text.length()};
+    const TextLengths lengths{state.body.length(),
+                              state.footnotes.text.length(),
+                              running.text.length(),
+                              state.comments.text.length(),
+                              state.endnotes.text.length(),
+                              state.bodyFloats.boxes.text.length(),
+                              state.runningFloats.boxes.text.length()};
     std::vector<CompoundStream> streams;
     const auto mainSize = main.position() + static_cast<std::uint32_t>(tail.size());
     streams.push_back(

@@ -35,18 +35,13 @@ struct NoteTexts {
     StoryText text;
 };
 
-/// The texts of floating boxes, one after the other.
-struct TextBoxes {
-    std::vector<std::uint32_t> starts;
-    StoryText text;
-};
-
 /// Comments in the order of their marks.
 struct CommentTexts {
     struct Reference {
         std::uint32_t place = 0;
         std::u16string initials;
         std::size_t author = 0; ///< index into `authors`
+        std::string date;       ///< ISO 8601
     };
     std::vector<Reference> references;
     std::vector<std::uint32_t> starts; ///< in `text`
@@ -84,8 +79,8 @@ struct DocState {
     NoteTexts footnotes;
     NoteTexts endnotes;
     CommentTexts comments;
-    TextBoxes textBoxes;
-    std::vector<FloatingObject> floatingObjects;
+    FloatLayer bodyFloats;
+    FloatLayer runningFloats;
     std::set<std::string> bookmarkNames;
     std::vector<NamedPlace> bookmarks;
     std::vector<bool> isNoteWritten;    ///< by index into Document::notes
@@ -107,12 +102,14 @@ struct Story {
     DocState& state;
     StoryText& text;
     StoryKind kind = StoryKind::Body;
+    FloatLayer* floats = nullptr; ///< what floats over the text; null where the format lets nothing float
 
     int tableDepth = 0;
     int flattenedTables = 0; ///< tables around that became paragraphs
     std::optional<OpenParagraph> open{};
     std::vector<std::size_t> displacedNotes{};
-    std::vector<std::size_t> displacedComments{}; ///< of a text box, which cannot hold them
+    std::vector<std::size_t> displacedComments{};          ///< of a text box, which cannot hold them
+    std::vector<const document::Block*> displacedFloats{}; ///< likewise
 };
 
 } // namespace orvane::write::doc

@@ -17,11 +17,13 @@
 ///   [x] sections: page, margins, columns of any widths, page numbers, headers and footers for first and even pages
 ///   [-] pages of more than 22 inches are cut to that
 ///   [x] pictures in the line: cut, turned, mirrored, alternate text; as they are, not compressed again
-///   [x] floating pictures and drawings over the body: lines, boxes, paths with curves, groups, opacity
-///   [x] text boxes over the body, with text, tables and pictures in the line
-///   [-] what floats in headers, footers, notes and text boxes is part of their text
-///   [ ] drawings, and pictures behind the text, in headers, footers, notes and text boxes
-///   [-] comments, with their authors; without the time
+///   [x] floating pictures and drawings over the body, headers and footers: lines, boxes, paths with curves, groups,
+///   opacity [x] text boxes over them, with text, tables and pictures in the line; floating objects in them stand
+///   beside them
+///   [-] what floats in notes and comments is part of their text
+///   [ ] drawings, and pictures behind the text, in notes and comments
+///   [x] comments, with their authors and dates
+///   [-] comments in headers, footers and notes are left out
 ///   [-] notes in headers and notes become paragraphs there; the format has them in the body only
 ///   [x] links, bookmarks, page fields, table of contents
 ///   [x] footnotes, endnotes, with marks of their own or counted

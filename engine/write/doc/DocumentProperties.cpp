@@ -10,7 +10,7 @@
 namespace orvane::write::doc {
 namespace {
 
-constexpr std::size_t kPropertiesSize = 544; // Source: [MS-DOC] 2.7.6 (Dop2000)
+constexpr std::size_t kPropertiesSize = 594; ///< Source: [MS-DOC] 2.7.7 (Dop2002)
 constexpr int kFacingPages = 0x01;
 constexpr int kNotesAtPageBottom = 1 << 5;
 constexpr int kFirstNote = 1 << 2;
@@ -19,8 +19,10 @@ constexpr int kDefaultTab = 720;
 constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
 constexpr int kSpreadsBrokenLines = 1 << 13; ///< Source: [MS-DOC] 2.9.34 (Copts60, fExpShRtn)
-constexpr std::size_t kNoteNumbers = 492;         ///< where the formats of the notes' numbers stand
-constexpr std::size_t kCompatibility = 508;       ///< Source: [MS-DOC] 2.7.6 (Dop2000, copts)
+constexpr std::size_t kNoteNumbers = 492;    ///< where the formats of the notes' numbers stand
+constexpr std::size_t kCompatibility = 508;  ///< Source: [MS-DOC] 2.7.6 (Dop2000, copts)
+constexpr std::size_t kTableStyle = 550;     ///< Source: [MS-DOC] 2.7.7 (Dop2002, istdTableDflt)
+constexpr int kNoStyle = 0x0FFF;
 constexpr int kDecimal = 0;
 constexpr int kLowerRoman = 2;
 constexpr int kLowerRomanPlace = 6;
@@ -90,7 +92,8 @@ std::string documentProperties(const document::Document& document, Pages pages) 
     bytes.u16(kSize100).u16(compatibility).zeros(kNoteNumbers - bytes.size());
     bytes.u16(kDecimal).u16(kLowerRoman).zeros(kCompatibility - bytes.size());
     // What is not set here counts too: of the spaces between two paragraphs the larger is kept, not both.
-    bytes.u16(compatibility).zeros(kPropertiesSize - bytes.size());
+    bytes.u16(compatibility).zeros(kTableStyle - bytes.size());
+    bytes.u16(kNoStyle).zeros(kPropertiesSize - bytes.size());
     return bytes.str();
 }
 

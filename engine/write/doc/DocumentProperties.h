@@ -9,7 +9,7 @@ namespace orvane::write::doc {
 enum class Pages { Alike, Facing };
 
 /// What holds for the whole document: kinds of pages, notes, tabulators, rules of layout.
-/// Source: [MS-DOC] 2.7.6 (Dop2000).
+/// Source: [MS-DOC] 2.7.7 (Dop2002).
 std::string documentProperties(const document::Document& document, Pages pages);
 
 /// What the document says of itself, as a property set. No date but the document's own is written.

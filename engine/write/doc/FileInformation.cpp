@@ -17,7 +17,7 @@ constexpr int kIsUnicode = 0x1000;
 // Source: [MS-DOC] 2.5.3, 2.5.4, 2.5.11: sizes of the parts, and the edition that the longer block is of.
 constexpr int kShortNumbers = 14;
 constexpr int kLongNumbers = 22;
-constexpr int kEdition = 0x00D9;
+constexpr int kEdition = 0x0101;
 
 } // namespace
 
@@ -39,7 +39,7 @@ std::string fileInformation(const TextLengths& lengths, const TableStream& table
     fib.u16(kShortNumbers).zeros(2 * (kShortNumbers - 1)).u16(kUsEnglish);
     fib.u16(kLongNumbers).u32(streamSize).zeros(8);
     fib.u32(lengths.body).u32(lengths.footnotes).u32(lengths.runningTexts).zeros(4).u32(lengths.comments);
-    fib.u32(lengths.endnotes).u32(lengths.textBoxes).zeros(4 * (kLongNumbers - 10));
+    fib.u32(lengths.endnotes).u32(lengths.textBoxes).u32(lengths.runningTextBoxes).zeros(4 * (kLongNumbers - 11));
     fib.u16(static_cast<std::int64_t>(TableStream::kCount));
     for (std::size_t i = 0; i < TableStream::kCount; ++i)
         fib.u32(table.placeOf(i).first).u32(table.placeOf(i).second);

@@ -8,7 +8,7 @@
 namespace orvane::write::doc {
 
 /// Structures of the table stream by their number in the file information block.
-/// Source: [MS-DOC] 2.5.6 (FibRgFcLcb97).
+/// Source: [MS-DOC] 2.5.6 (FibRgFcLcb97), 2.5.8 (FibRgFcLcb2002).
 enum class TablePart {
     Styles = 1,
     FootnoteReferences = 2,
@@ -31,15 +31,20 @@ enum class TablePart {
     Pieces = 33,
     CommentAuthors = 36,
     BodyAnchors = 40,
+    RunningTextAnchors = 41,
     EndnoteReferences = 46,
     EndnoteTexts = 47,
     EndnoteFields = 48,
     Shapes = 50,
     TextBoxes = 56,
     TextBoxFields = 57,
+    RunningTextBoxes = 58,
+    RunningTextBoxFields = 59,
     Lists = 73,
     ListReferences = 74,
     TextBoxBreaks = 75,
+    RunningTextBoxBreaks = 76,
+    CommentDetails = 112,
 };
 
 /// How many characters the parts of the text have, each with the paragraph mark that ends the part.
@@ -50,6 +55,7 @@ struct TextLengths {
     std::uint32_t comments = 0;
     std::uint32_t endnotes = 0;
     std::uint32_t textBoxes = 0;
+    std::uint32_t runningTextBoxes = 0;
 };
 
 /// The table stream, and where its structures stand.
@@ -62,7 +68,7 @@ public:
 
     const std::string& bytes() const { return m_bytes; }
     std::pair<std::uint32_t, std::uint32_t> placeOf(std::size_t number) const { return m_places[number]; }
-    static constexpr std::size_t kCount = 0x6C;
+    static constexpr std::size_t kCount = 0x88;
 
 private:
     std::string m_bytes;
@@ -70,7 +76,7 @@ private:
 };
 
 /// The size of the file information block; the text follows it.
-inline constexpr std::uint32_t kFileInformationSize = 1024;
+inline constexpr std::uint32_t kFileInformationSize = 1536;
 
 /// The block at the start of the main stream.
 /// Source: [MS-DOC] 2.5 (Fib).

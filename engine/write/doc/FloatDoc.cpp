@@ -20,13 +20,12 @@ void tellOnce(Story& story, bool& isTold, const Origin& origin, const char* mess
 void writeFigure(Story& story, const Figure& figure) {
     const auto* picture = std::get_if<Picture>(&figure.content);
     if (!picture) {
-        tellOnce(story, story.state.toldOf.drawing, figure.origin,
-                 "drawings in headers, footers, notes and text boxes are left out");
+        tellOnce(story, story.state.toldOf.drawing, figure.origin, "drawings in notes and comments are left out");
         return;
     }
     if (figure.placement.wrapping == Wrapping::BehindText) {
         tellOnce(story, story.state.toldOf.background, figure.origin,
-                 "pictures behind the text of headers, footers, notes and text boxes are left out");
+                 "pictures behind the text of notes and comments are left out");
         return;
     }
     Paragraph paragraph;
@@ -37,30 +36,35 @@ void writeFigure(Story& story, const Figure& figure) {
     writeParagraph(story, paragraph, {});
 }
 
-/// Writes the text of a box, and tells its number. Comments stand beside the box.
+/// Writes the text of a box, and tells its number. Comments and what floats stand beside the box.
 int writeBox(Story& around, const Frame& frame) {
     DocState& state = around.state;
-    state.textBoxes.starts.push_back(state.textBoxes.text.length());
-    Story story{state, state.textBoxes.text, StoryKind::TextBox};
+    TextBoxes& boxes = around.floats->boxes;
+    boxes.starts.push_back(boxes.text.length());
+    const auto number = static_cast<int>(boxes.starts.size());
+    Story story{state, boxes.text, StoryKind::TextBox};
     writeBlocks(story, frame.blocks);
     writeDisplacedNotes(story);
     endParagraph(story, ParagraphEnd::Paragraph);
     for (const std::size_t comment : story.displacedComments)
         writeCommentReference(around, {comment});
-    return static_cast<int>(state.textBoxes.starts.size());
+    around.displacedFloats = std::move(story.displacedFloats);
+    return number;
 }
 
-} // namespace
-
-bool floatsInFile(const Story& story, const Block& block) {
-    if (story.kind != StoryKind::Body)
-        return false;
+bool hasContent(const Story& story, const Block& block) {
     const auto* figure = std::get_if<Figure>(&block.value);
     if (!figure)
         return true;
     if (const auto* picture = std::get_if<Picture>(&figure->content))
         return story.state.pictures.has(*picture);
     return !std::get<Drawing>(figure->content).shapes.empty();
+}
+
+} // namespace
+
+bool floatsInFile(const Story& story, const Block& block) {
+    return story.floats != nullptr && hasContent(story, block);
 }
 
 void writeAnchor(Story& story, const Block& block) {
@@ -71,11 +75,16 @@ void writeAnchor(Story& story, const Block& block) {
     story.text.add({&character::kFloatingObject, 1}, PropertyList().add(sprm::kCFSpec, 1).bytes());
     if (object.frame)
         object.box = writeBox(story, *object.frame);
-    story.state.floatingObjects.push_back(object);
+    story.floats->objects.push_back(object);
+    for (const Block* displaced : std::exchange(story.displacedFloats, {}))
+        if (floatsInFile(story, *displaced))
+            writeAnchor(story, *displaced);
 }
 
 void writeFloat(Story& story, const Block& block) {
-    if (const auto* figure = std::get_if<Figure>(&block.value))
+    if (story.kind == StoryKind::TextBox)
+        story.displacedFloats.push_back(&block);
+    else if (const auto* figure = std::get_if<Figure>(&block.value))
         writeFigure(story, *figure);
     else
         writeBlocks(story, std::get<Frame>(block.value).blocks);

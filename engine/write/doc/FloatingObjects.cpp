@@ -14,9 +14,8 @@ namespace {
 
 using namespace document;
 
-/// Numbers of shapes come in blocks. Source: [MS-ODRAW] 2.2.46 (OfficeArtIDCL).
+/// Numbers of shapes come in blocks, each for one drawing. Source: [MS-ODRAW] 2.2.46 (OfficeArtIDCL).
 constexpr int kBlock = 1024;
-constexpr int kDrawing = 1;
 constexpr double kEmuATwip = 635;
 
 struct Extent {
@@ -123,17 +122,6 @@ std::string backgroundShape(int id) {
     return art::container(art::type::kShape, art::shapeHead(art::kRectangle, id, art::kIsBackground | art::kHasType));
 }
 
-/// Which numbers are taken. Source: [MS-ODRAW] 2.2.47, 2.2.48 (OfficeArtFDGGBlock).
-std::string numbersRecord(int next) {
-    const int blocks = next / kBlock;
-    const int shapes = next - kBlock;
-    Bytes bytes;
-    bytes.u32(next).u32(blocks + 1).u32(shapes).u32(1);
-    for (int block = 1; block <= blocks; ++block)
-        bytes.u32(kDrawing).u32(block < blocks ? kBlock : next - blocks * kBlock);
-    return art::record(0, 0, art::type::kNumbers, bytes.str());
-}
-
 /// Indexes of the objects from the lowest to the one nearest to the reader.
 std::vector<std::size_t> paintOrder(const std::vector<FloatingObject>& objects) {
     std::vector<std::size_t> order(objects.size());
@@ -144,43 +132,139 @@ std::vector<std::size_t> paintOrder(const std::vector<FloatingObject>& objects) 
     return order;
 }
 
-std::string recordsOf(const FloatingObject& object, Store& store, ShapeNumbers& numbers) {
+/// The records of an object. `indexOf` tells where a picture stands among those of the file.
+template<typename IndexOf>
+std::string recordsOf(const FloatingObject& object, ShapeNumbers& numbers, const IndexOf& indexOf) {
     if (object.frame)
         return frameRecords(*object.frame, object.shape, object.box);
     if (const auto* picture = std::get_if<Picture>(&object.figure->content))
-        return pictureRecords(*picture, object.placement(), object.shape, store.indexOf(picture->id));
+        return pictureRecords(*picture, object.placement(), object.shape, indexOf(picture->id));
     return drawingRecords(std::get<Drawing>(object.figure->content), object.placement(), object.shape, numbers);
+}
+
+/// All that two objects differ in, but for their numbers in the file.
+std::string likeness(const FloatingObject& object) {
+    FloatingObject plain = object;
+    plain.shape = 0;
+    ShapeNumbers numbers(1);
+    return anchorRecord(plain) + recordsOf(plain, numbers, [](PictureId id) { return static_cast<int>(id.value); });
+}
+
+/// The page behind all shapes, which only the body has.
+enum class Background { Drawn, None };
+
+/// The shapes of one layer. Their numbers start with a block of their own.
+/// Source: [MS-ODRAW] 2.2.13 (OfficeArtDgContainer), 2.2.49 (OfficeArtFDG).
+class LayerDrawing {
+public:
+    LayerDrawing(int number, int firstBlock)
+        : m_number(number)
+        , m_first(firstBlock * kBlock)
+        , m_numbers(m_first) {}
+
+    /// Gives the objects their numbers.
+    void draw(std::vector<FloatingObject>& objects, Store& store, Background background) {
+        m_shapes = rootShape(m_numbers.take());
+        if (background == Background::Drawn)
+            m_behind = backgroundShape(m_numbers.take());
+        for (const std::size_t index : paintOrder(objects)) {
+            objects[index].shape = m_numbers.take();
+            m_shapes += recordsOf(objects[index], m_numbers, [&store](PictureId id) { return store.indexOf(id); });
+        }
+    }
+
+    std::string record() const {
+        const Bytes counts = Bytes().u32(shapeCount()).u32(m_numbers.next() - 1);
+        return art::container(art::type::kDrawing, art::record(0, m_number, art::type::kDrawingNumbers, counts.str()) +
+                                                       art::container(art::type::kGroup, m_shapes) + m_behind);
+    }
+
+    int shapeCount() const { return m_numbers.next() - m_first; }
+    int next() const { return m_numbers.next(); }
+    int blockCount() const { return shapeCount() / kBlock + 1; }
+
+    /// How many numbers of each block are taken. Source: [MS-ODRAW] 2.2.46 (OfficeArtIDCL).
+    void addBlocks(Bytes& bytes) const {
+        for (int block = 1; block <= blockCount(); ++block)
+            bytes.u32(m_number).u32(block < blockCount() ? kBlock : shapeCount() - (block - 1) * kBlock);
+    }
+
+private:
+    int m_number;
+    int m_first;
+    ShapeNumbers m_numbers;
+    std::string m_shapes;
+    std::string m_behind;
+};
+
+/// Which numbers are taken. Source: [MS-ODRAW] 2.2.47, 2.2.48 (OfficeArtFDGGBlock).
+std::string numbersRecord(const std::vector<LayerDrawing>& drawings) {
+    int blocks = 0;
+    int shapes = 0;
+    Bytes taken;
+    for (const LayerDrawing& drawing : drawings) {
+        blocks += drawing.blockCount();
+        shapes += drawing.shapeCount();
+        drawing.addBlocks(taken);
+    }
+    Bytes bytes;
+    bytes.u32(drawings.back().next()).u32(blocks + 1).u32(shapes).u32(static_cast<std::int64_t>(drawings.size()));
+    return art::record(0, 0, art::type::kNumbers, bytes.raw(taken.str()).str());
+}
+
+std::string anchorsOf(const LayeredText& text) {
+    if (text.layer.objects.empty())
+        return {};
+    Bytes places;
+    Bytes anchors;
+    for (const FloatingObject& object : text.layer.objects) {
+        places.u32(object.place);
+        anchors.raw(anchorRecord(object));
+    }
+    return places.u32(text.length).raw(anchors.str()).str();
 }
 
 } // namespace
 
-FloatingParts makeFloatingParts(std::vector<FloatingObject>& objects, const PictureStore& pictures,
-                                std::uint32_t bodyLength, std::uint32_t tailStart, CompoundStream& tail) {
-    if (objects.empty())
+void FloatLayer::append(const FloatLayer& other, std::uint32_t start) {
+    const auto boxCount = static_cast<int>(boxes.starts.size());
+    for (FloatingObject object : other.objects) {
+        object.place += start;
+        if (object.frame)
+            object.box += boxCount;
+        objects.push_back(object);
+    }
+    for (const std::uint32_t place : other.boxes.starts)
+        boxes.starts.push_back(boxes.text.length() + place);
+    boxes.text.append(other.boxes.text);
+}
+
+bool equal(const FloatLayer& a, const FloatLayer& b) {
+    const auto isSame = [](const FloatingObject& x, const FloatingObject& y) {
+        return x.place == y.place && likeness(x) == likeness(y);
+    };
+    return a.boxes.starts == b.boxes.starts && a.boxes.text == b.boxes.text &&
+           std::equal(a.objects.begin(), a.objects.end(), b.objects.begin(), b.objects.end(), isSame);
+}
+
+FloatingParts makeFloatingParts(const LayeredText& body, const LayeredText& running, const PictureStore& pictures,
+                                std::uint32_t tailStart, CompoundStream& tail) {
+    if (body.layer.objects.empty() && running.layer.objects.empty())
         return {};
-    ShapeNumbers numbers(kBlock);
-    const int root = numbers.take();
-    const int background = numbers.take();
+    constexpr char kOfBody = 0;
+    constexpr char kOfRunningTexts = 1;
     Store store(pictures, tailStart, tail);
-    std::string shapes = rootShape(root);
-    for (const std::size_t index : paintOrder(objects)) {
-        objects[index].shape = numbers.take();
-        shapes += recordsOf(objects[index], store, numbers);
+    // Readers take the first drawing for the body's, even if nothing floats there.
+    std::vector<LayerDrawing> drawings{LayerDrawing(1, 1)};
+    drawings.front().draw(body.layer.objects, store, Background::Drawn);
+    std::string records = kOfBody + drawings.front().record();
+    if (!running.layer.objects.empty()) {
+        drawings.emplace_back(2, 1 + drawings.front().blockCount());
+        drawings.back().draw(running.layer.objects, store, Background::None);
+        records += kOfRunningTexts + drawings.back().record();
     }
-    Bytes places;
-    Bytes anchors;
-    for (const FloatingObject& object : objects) {
-        places.u32(object.place);
-        anchors.raw(anchorRecord(object));
-    }
-    places.u32(bodyLength);
-    const std::string drawing = art::record(0, kDrawing, art::type::kDrawingNumbers,
-                                            Bytes().u32(numbers.next() - kBlock).u32(numbers.next() - 1).str()) +
-                                art::container(art::type::kGroup, shapes) + backgroundShape(background);
-    constexpr char kBodyDrawing = 0;
-    return {places.str() + anchors.str(),
-            art::container(art::type::kGroupOfDrawings, numbersRecord(numbers.next()) + store.record()) + kBodyDrawing +
-                art::container(art::type::kDrawing, drawing)};
+    return {anchorsOf(body), anchorsOf(running),
+            art::container(art::type::kGroupOfDrawings, numbersRecord(drawings) + store.record()) + records};
 }
 
 } // namespace orvane::write::doc

@@ -20,15 +20,11 @@ const Blocks* pointerTo(const std::optional<Blocks>& blocks) {
     return blocks ? &*blocks : nullptr;
 }
 
-bool equal(const std::vector<FormattedRange>& a, const std::vector<FormattedRange>& b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const FormattedRange& x, const FormattedRange& y) {
-        return x.end == y.end && x.properties == y.properties;
-    });
-}
-
-bool equal(const StoryText& a, const StoryText& b) {
-    return a.text() == b.text() && equal(a.looks(), b.looks()) && equal(a.paragraphs(), b.paragraphs());
-}
+/// One text, with what floats over it.
+struct RunningStory {
+    StoryText text;
+    FloatLayer floats;
+};
 
 class RunningTextWriter {
 public:
@@ -102,18 +98,21 @@ private:
 
     void addText(std::size_t kind, const Blocks* blocks) {
         addStart();
-        StoryText& current = m_current[kind];
+        RunningStory& current = m_current[kind];
         // Without a text of its own the section before would go on: what it has ends with an empty one.
-        if (!blocks && current.length() == 0)
+        if (!blocks && current.text.length() == 0)
             return;
-        StoryText own;
-        Story story{m_state, own, StoryKind::RunningText};
-        writeBlocks(story, blocks ? *blocks : Blocks());
+        RunningStory own;
+        Story story{m_state, own.text, StoryKind::RunningText, &own.floats};
+        // What floats is referred to until the file is written, so that the blocks must not be a copy.
+        static const Blocks kNothing;
+        writeBlocks(story, blocks ? *blocks : kNothing);
         writeDisplacedNotes(story);
         endParagraph(story, ParagraphEnd::Paragraph);
-        if (equal(own, current))
+        if (own.text == current.text && equal(own.floats, current.floats))
             return;
-        m_result.text.append(own);
+        m_state.runningFloats.append(own.floats, m_result.text.length());
+        m_result.text.append(own.text);
         endPlainParagraph(m_result.text);
         current = std::move(own);
     }
@@ -121,7 +120,7 @@ private:
     DocState& m_state;
     RunningTexts m_result;
     Bytes m_table;
-    std::array<StoryText, kKinds> m_current; ///< what holds at this section
+    std::array<RunningStory, kKinds> m_current; ///< what holds at this section
 };
 
 } // namespace

@@ -33,6 +33,8 @@ inline constexpr char16_t kSoftHyphen = 0x1F;
 struct FormattedRange {
     std::uint32_t end = 0; ///< in characters
     std::string properties;
+
+    bool operator==(const FormattedRange&) const = default;
 };
 
 /// One of the three characters that a field is made of.
@@ -40,6 +42,8 @@ struct FieldMark {
     std::uint32_t place = 0;
     int character = 0;
     int kind = 0; ///< the field's type, or flags of its end
+
+    bool operator==(const FieldMark&) const = default;
 };
 
 /// Text with its properties: a part of the file's one text. Parts are joined by append().
@@ -57,6 +61,8 @@ public:
     const std::vector<FormattedRange>& looks() const { return m_looks; }
     const std::vector<FormattedRange>& paragraphs() const { return m_paragraphs; }
     const std::vector<FieldMark>& fields() const { return m_fields; }
+
+    bool operator==(const StoryText&) const = default;
 
 private:
     std::u16string m_text;

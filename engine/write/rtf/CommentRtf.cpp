@@ -11,14 +11,6 @@ namespace {
 
 using namespace document;
 
-/// A moment packed into 32 bits, which files show as a signed number. Source: [MS-DOC] 2.9.67 (DTTM).
-std::int32_t packed(const DateTime& time) {
-    constexpr int kFirstYear = 1900;
-    const auto bits = [](int value, int shift) { return static_cast<std::uint32_t>(value) << shift; };
-    return static_cast<std::int32_t>(bits(time.minute, 0) | bits(time.hour, 6) | bits(time.day, 11) |
-                                     bits(time.month, 16) | bits(time.year - kFirstYear, 20) | bits(time.weekday, 29));
-}
-
 void writeNamed(RtfStream& rtf, const char* destination, const std::string& text) {
     const RtfDestination group(rtf, destination);
     rtf.text(text);
@@ -32,7 +24,7 @@ void writeComment(Story& around, const Comment& comment) {
     const RtfDestination annotation(rtf, "annotation");
     if (const auto time = dateTimeFromIso(comment.date)) {
         const RtfDestination date(rtf, "atndate");
-        rtf.text(std::to_string(packed(*time)));
+        rtf.text(std::to_string(static_cast<std::int32_t>(packedDateTime(*time))));
     }
     Story story{around.state, rtf, StoryKind::Comment};
     writeBlocks(story, comment.blocks, {[&] { rtf.word("chatn"); }});

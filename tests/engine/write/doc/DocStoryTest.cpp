@@ -13,6 +13,7 @@ namespace {
 using namespace document;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 
 constexpr std::size_t kBody = 3;
@@ -20,6 +21,7 @@ constexpr std::size_t kFootnotes = 4;
 constexpr std::size_t kRunningTexts = 5;
 constexpr std::size_t kEndnotes = 8;
 constexpr std::size_t kTextBoxes = 9;
+constexpr std::size_t kRunningTextBoxes = 10;
 
 TEST(DocField, IsMarkedByThreeCharacters) {
     const WrittenDoc doc(documentOf(paragraph({text("a"), {Field{FieldCode::Page, "", {text("7")}}}})));
@@ -66,6 +68,20 @@ TEST(DocComment, StandsBesideTheBoxThatItIsIn) {
     Document document = documentOf({{frame}, {paragraph("a")}});
     document.comments = {{"Ada", "", {{paragraph("why")}}}};
     EXPECT_EQ(WrittenDoc(document).read().text(), "\\08\\05a\\0d\\05why\\0d\\0dboxed\\0d\\0d\\0d");
+}
+
+TEST(DocComment, TellsWhenItWasMade) {
+    Document document = documentOf(paragraph({text("a"), {CommentReference{0}}, {CommentReference{1}}}));
+    document.comments = {{"Ada", "2024-02-29T08:31:00Z", {{paragraph("why")}}},
+                         {"Ada", "yesterday", {{paragraph("so")}}}};
+    const std::string details = WrittenDoc(document).read().table(112);
+    ASSERT_EQ(details.size(), 2 * 18u);
+    // Minute 31, hour 8, day 29, month 2, 124 years after 1900, a Thursday.
+    constexpr std::uint32_t kMoment = 31u | 8u << 6 | 29u << 11 | 2u << 16 | 124u << 20 | 4u << 29;
+    EXPECT_EQ(details.substr(0, 4),
+              (std::string{static_cast<char>(kMoment & 0xFF), static_cast<char>(kMoment >> 8 & 0xFF),
+                           static_cast<char>(kMoment >> 16 & 0xFF), static_cast<char>(kMoment >> 24)}));
+    EXPECT_EQ(details.substr(18, 18), std::string(18, '\0')) << "no date";
 }
 
 TEST(DocComment, IsToldOfWhereTheFormatHasNone) {
@@ -202,7 +218,7 @@ TEST(DocPicture, FloatsWhereItIsPlaced) {
     EXPECT_THAT(doc.read().stream(u"WordDocument"), HasSubstr(std::string(std::istreambuf_iterator<char>(in), {})));
 }
 
-TEST(DocPicture, StandsInTheTextOfAHeader) {
+TEST(DocPicture, FloatsOverAHeader) {
     const TemporaryFolder folder;
     PictureStore pictures(folder.path());
     Picture picture;
@@ -212,8 +228,68 @@ TEST(DocPicture, StandsInTheTextOfAHeader) {
     Document document = documentOf("a");
     document.sections[0].header.standard = {{Figure{picture, {}, {}}}, {behind}, {paragraph("head")}};
     const WrittenDoc doc(document, pictures);
-    EXPECT_THAT(doc.read().text(), HasSubstr("\\01\\0dhead\\0d"));
+    EXPECT_THAT(doc.read().text(), HasSubstr("\\08\\08head\\0d"));
+    EXPECT_THAT(doc.diagnostics().entries(), IsEmpty());
+    EXPECT_EQ(doc.read().table(40), "") << "nothing floats over the body";
+    // Two anchors: where each stands, counted from the start of the headers, then its shape.
+    const std::vector<std::uint32_t> anchors = doc.read().numbers(41);
+    ASSERT_EQ(doc.read().table(41).size(), 3 * 4u + 2 * 26);
+    EXPECT_EQ(anchors[1], anchors[0] + 1);
+    EXPECT_EQ(anchors[2], doc.read().length(kRunningTexts));
+    EXPECT_EQ(anchors[3], 2 * 1024u + 1) << "a block of numbers of its own, behind its root";
+    const std::string shapes = doc.read().table(50);
+    EXPECT_THAT(shapes, HasSubstr(std::string("\x01\x0F\x00\x02\xF0", 5))) << "the drawing of the headers";
+    EXPECT_THAT(shapes, HasSubstr(std::string("\x20\0\x08\xF0\x08\0\0\0\3\0\0\0\2\x08\0\0", 16))) << "three shapes";
+}
+
+TEST(DocPicture, IsPartOfTheTextOfANote) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    Picture picture;
+    picture.id = pictures.add(pngPicture(8, 4, kBlack));
+    Figure behind{picture, {}, {}};
+    behind.placement.wrapping = Wrapping::BehindText;
+    Document document = documentOf(paragraph({{NoteReference{0, {}, ""}}}));
+    document.notes = {{NoteKind::Footnote, {{Figure{picture, {}, {}}}, {behind}, {paragraph("note")}}, {}}};
+    const WrittenDoc doc(document, pictures);
+    EXPECT_THAT(doc.read().text(), HasSubstr("\\01\\0d"));
     EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "the one behind the text is told of";
+}
+
+TEST(DocRunningText, IsTakenOverWhereTheSameFloatsOverIt) {
+    Shape box;
+    box.width = box.height = Emu(12700);
+    box.fill = Color{255, 0, 0};
+    Frame frame;
+    frame.blocks = {{paragraph("boxed")}};
+    const Figure logo{Drawing{box.width, box.height, {box}, ""}, {}, {}};
+    Document document = documentOf("a");
+    document.sections[0].header.standard = {{logo}, {frame}, {paragraph("head")}};
+    document.sections.push_back(document.sections[0]);
+    const WrittenDoc same(document);
+    EXPECT_EQ(same.read().table(41).size(), 3 * 4u + 2 * 26) << "the objects stand in the file once";
+    EXPECT_EQ(same.read().length(kRunningTextBoxes), 7u) << "one box, and the mark that ends them";
+    EXPECT_EQ(same.read().table(58).size(), 3 * 4u + 2 * 22);
+
+    auto& other = std::get<Figure>(document.sections[1].header.standard->at(0).value);
+    std::get<Drawing>(other.content).shapes[0].fill = Color{0, 0, 255};
+    const WrittenDoc changed(document);
+    EXPECT_EQ(changed.read().table(41).size(), 5 * 4u + 4 * 26) << "the second header has another colour in it";
+    EXPECT_EQ(changed.read().length(kRunningTextBoxes), 13u);
+}
+
+TEST(DocRunningText, HasDrawingsAtNumbersOfTheirOwn) {
+    Shape box;
+    box.width = box.height = Emu(12700);
+    const Figure figure{Drawing{box.width, box.height, {box}, ""}, {}, {}};
+    std::vector<Block> many(1022, Block{figure});
+    many.push_back({paragraph("a")});
+    Document document = documentOf(std::move(many));
+    document.sections[0].footer.standard = {{figure}, {paragraph("foot")}};
+    const WrittenDoc doc(document);
+    // The body takes a whole block with its root and background, the footers the one behind the next.
+    EXPECT_EQ(doc.read().numbers(41)[2], 3 * 1024u + 1);
+    EXPECT_EQ(doc.read().numbers(40)[1023], 1024u + 2) << "the first of the body's";
 }
 
 TEST(DocShape, IsAPathOrTheWordProcessorsOwn) {
@@ -239,14 +315,15 @@ TEST(DocFrame, HasItsTextBehindAllOthers) {
     outer.blocks = {{inner}, {paragraph("outer")}};
     outer.insetLeft = Emu(635);
     const WrittenDoc doc(documentOf({{outer}, {inner}, {paragraph("a")}}));
-    EXPECT_EQ(doc.read().text(), "\\08\\08a\\0dinner\\0douter\\0dinner\\0d\\0d\\0d") << "a box in a box is its text";
+    EXPECT_EQ(doc.read().text(), "\\08\\08\\08a\\0douter\\0dinner\\0dinner\\0d\\0d\\0d")
+        << "a box in a box stands beside it";
     EXPECT_EQ(doc.read().length(kTextBoxes), 19u);
-    // Two boxes and the mark that ends them: where each begins, then which shape each belongs to.
+    // Three boxes and the mark that ends them: where each begins, then which shape each belongs to.
     const std::string boxes = doc.read().table(56);
-    EXPECT_EQ(boxes.substr(0, 16), std::string("\0\0\0\0\xC\0\0\0\x12\0\0\0\x13\0\0\0", 16));
-    EXPECT_EQ(boxes.size(), 16u + 3 * 22);
-    EXPECT_EQ(boxes.substr(16 + 14, 4), std::string("\2\4\0\0", 4));
-    EXPECT_EQ(doc.read().table(75).size(), 16u + 3 * 6);
+    EXPECT_EQ(boxes.substr(0, 20), std::string("\0\0\0\0\6\0\0\0\xC\0\0\0\x12\0\0\0\x13\0\0\0", 20));
+    EXPECT_EQ(boxes.size(), 20u + 4 * 22);
+    EXPECT_EQ(boxes.substr(20 + 14, 4), std::string("\2\4\0\0", 4));
+    EXPECT_EQ(doc.read().table(75).size(), 20u + 4 * 6);
     EXPECT_THAT(doc.read().table(50), HasSubstr(std::string("\x80\0\0\0\1\0\x81\0\x7B\2\0\0", 12)));
 }
 
