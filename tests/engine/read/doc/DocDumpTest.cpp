@@ -52,7 +52,7 @@ TEST(DocDump, ShowsWhatTheFileIsMadeOf) {
     EXPECT_THAT(partOf(document, "streams"), HasSubstr("  1Table: "));
     EXPECT_THAT(partOf(document, "streams"), HasSubstr("  <05>SummaryInformation: "));
     EXPECT_EQ(partOf(document, "file information"), "  edition 00c1, table stream 1Table\n  body: 6 characters\n");
-    EXPECT_EQ(partOf(document, "pieces"), "  0 to 6: UTF-16 at 1024\n");
+    EXPECT_EQ(partOf(document, "pieces"), "  0 to 6: UTF-16 at 1536\n");
 }
 
 TEST(DocDump, ShowsParagraphsAndTheirCharacters) {
