@@ -16,8 +16,19 @@ using Blocks = std::vector<Block>;
 /// The kinds of running texts in the order that the file has them.
 constexpr std::size_t kKinds = 6;
 
+/// A text without anything in it. What floats is referred to until the file is written, so that blocks are never
+/// copied.
+const Blocks kBlank;
+
 const Blocks* pointerTo(const std::optional<Blocks>& blocks) {
     return blocks ? &*blocks : nullptr;
+}
+
+/// The text of the pages that are neither first nor even. Where only those have one it is blank: LibreOffice would put
+/// an empty line there.
+const Blocks* standardText(const RunningText& text) {
+    const bool hasOthers = text.firstPage || text.evenPages;
+    return !text.standard && hasOthers ? &kBlank : pointerTo(text.standard);
 }
 
 /// One text, with what floats over it.
@@ -82,15 +93,15 @@ private:
         const auto even = [this](const RunningText& text) -> const Blocks* {
             if (!m_result.hasEvenPages)
                 return nullptr;
-            return text.evenPages ? pointerTo(text.evenPages) : pointerTo(text.standard);
+            return text.evenPages ? pointerTo(text.evenPages) : standardText(text);
         };
         const auto first = [hasFirst](const RunningText& text) -> const Blocks* {
             if (!hasFirst)
                 return nullptr;
-            return text.firstPage ? pointerTo(text.firstPage) : pointerTo(text.standard);
+            return text.firstPage ? pointerTo(text.firstPage) : standardText(text);
         };
-        const std::array<const Blocks*, kKinds> texts{even(section.header),  pointerTo(section.header.standard),
-                                                      even(section.footer),  pointerTo(section.footer.standard),
+        const std::array<const Blocks*, kKinds> texts{even(section.header),  standardText(section.header),
+                                                      even(section.footer),  standardText(section.footer),
                                                       first(section.header), first(section.footer)};
         for (std::size_t kind = 0; kind < kKinds; ++kind)
             addText(kind, texts[kind]);
@@ -104,9 +115,7 @@ private:
             return;
         RunningStory own;
         Story story{m_state, own.text, StoryKind::RunningText, &own.floats};
-        // What floats is referred to until the file is written, so that the blocks must not be a copy.
-        static const Blocks kNothing;
-        writeBlocks(story, blocks ? *blocks : kNothing);
+        writeBlocks(story, blocks ? *blocks : kBlank);
         writeDisplacedNotes(story);
         endParagraph(story, ParagraphEnd::Paragraph);
         if (own.text == current.text && equal(own.floats, current.floats))
