@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 #include <set>
 
 namespace orvane::layout {
@@ -95,7 +96,49 @@ private:
                        textOf(piece, lines()).find("....") != std::string::npos;
             });
         });
-        return led > m_parameters.leaderRowShare || endsInPageNumbers();
+        return (led > m_parameters.leaderRowShare && !leadsToAmounts()) || endsInPageNumbers();
+    }
+
+    /// Whether the leaders lead to amounts: several columns of numbers, or one of large or broken numbers, which go up
+    /// and down. The numbers of pages are small, and most often rise.
+    bool leadsToAmounts() const {
+        int falling = 0;
+        int broken = 0;
+        for (std::size_t i = 1; i < m_columns.size(); ++i) {
+            const ColumnPieces& column = m_columns[i];
+            if (!isFalling(column))
+                continue;
+            ++falling;
+            broken += shareOfPieces(column, [&](const TextPiece* piece) {
+                          return textOf(*piece, lines()).find_first_of(",.") != std::string::npos;
+                      }) > m_parameters.brokenNumberShare;
+        }
+        return falling >= 2 || broken > 0;
+    }
+
+    /// Whether the column's numbers are often less than the ones above.
+    bool isFalling(const ColumnPieces& column) const {
+        long last = 0;
+        int falls = 0;
+        int numbers = 0;
+        for (const TextPiece* piece : column.pieces) {
+            if (!isNumeric(*piece, lines()))
+                continue;
+            const long number = digitsOf(textOf(*piece, lines()));
+            ++numbers;
+            falls += number < last;
+            last = number;
+        }
+        return numbers >= m_parameters.fewestPartedRows && falls >= m_parameters.fallingShare * numbers;
+    }
+
+    /// The number that the digits make, whatever stands between them.
+    static long digitsOf(const std::string& text) {
+        long number = 0;
+        for (const char c : text)
+            if (c >= '0' && c <= '9' && number < std::numeric_limits<long>::max() / 100)
+                number = 10 * number + (c - '0');
+        return number;
     }
 
     /// Whether the last of two columns counts up as page numbers do.
@@ -229,7 +272,8 @@ private:
         for (const double weight : {0.0, 0.5, 1.0}) {
             std::vector<double> edges;
             for (const TextPiece* piece : column.pieces)
-                edges.push_back(piece->box.left + weight * piece->box.width());
+                if (!isCurrencySign(textOf(*piece, lines())))
+                    edges.push_back(piece->box.left + weight * piece->box.width());
             std::sort(edges.begin(), edges.end());
             const double tolerance = m_parameters.columnEdge * column.pieces.front()->fontSize;
             for (std::size_t first = 0, end = 0; first < edges.size(); ++first) {

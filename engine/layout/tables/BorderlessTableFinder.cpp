@@ -1,6 +1,7 @@
 #include "layout/tables/BorderlessTableFinder.h"
 
 #include "layout/tables/AlignedAdmission.h"
+#include "layout/tables/HeadSpans.h"
 #include "layout/tables/ProseMask.h"
 #include "layout/tables/RuledAdmission.h"
 #include "layout/tables/SpacedRows.h"
@@ -126,6 +127,7 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
 
 std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters& parameters) {
     const std::vector<PieceRow> rows = candidateRows(page, parameters.tables);
+    const std::vector<BorderLine> rules = collectBorderLines(page.rules, parameters.tables);
     RegionGrower grower(rows, parameters.tables);
     std::vector<TableGrid> grids;
     for (std::size_t first = 0; first < rows.size();) {
@@ -137,7 +139,8 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
             rowCount = aligned.rows.size();
             isTable =
                 judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) == TableVerdict::Table;
-            TableGrid grid = gridOf(aligned, parameters.tables.textMargin);
+            TableGrid grid =
+                spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);
             isTable = isTable && !isDrawnOver(page, grid, parameters.tables);
             if (isTable)
                 grids.push_back(std::move(grid));

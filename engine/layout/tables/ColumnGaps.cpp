@@ -126,6 +126,21 @@ ColumnGap clearestPart(const ColumnGap& gap, std::span<const PieceRow> rows) {
     return clearest;
 }
 
+/// Whether only the head makes the gap narrow: its texts are longer than what stands below them, and reach into it.
+bool isNarrowedByHead(const ColumnGap& gap, std::span<const PieceRow> rows, double width,
+                      const TableParameters::Tables& parameters) {
+    std::vector<PieceRow> body(rows.begin(), rows.end());
+    std::sort(body.begin(), body.end(), [](const PieceRow& a, const PieceRow& b) { return a.baseline < b.baseline; });
+    for (int i = 0; i < parameters.maximumHeaderRows; ++i) {
+        body.erase(body.begin());
+        if (static_cast<int>(body.size()) < parameters.fewestPartedRows)
+            return false;
+        if (clearestPart(gap, body).width() >= width)
+            return countRowsParted(gap, body) >= parameters.fewestPartedRows;
+    }
+    return false;
+}
+
 std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     const auto rowCount = static_cast<double>(rows.size());
     const int allowed = static_cast<int>(parameters.crossedRowShare * rowCount);
@@ -136,7 +151,9 @@ std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TablePara
     for (const ColumnGap& thin : thinStretches(coverProfile(rows), allowed)) {
         for (const ColumnGap& part : withoutThinColumns(thin, rows)) {
             const ColumnGap gap = clearestPart(part, rows);
-            if (gap.width() >= parameters.minimumColumnGap * fontSize &&
+            const double least = parameters.minimumColumnGap * fontSize;
+            const bool isWide = gap.width() >= least;
+            if ((isWide || isNarrowedByHead(part, rows, 2 * least, parameters)) &&
                 countRowsParted(gap, rows) >= parameters.minimumRowsParted)
                 gaps.push_back(gap);
         }

@@ -1,6 +1,7 @@
 #include "layout/tables/HalfRuledTableFinder.h"
 
 #include "layout/tables/AlignedAdmission.h"
+#include "layout/tables/HeadSpans.h"
 #include "layout/tables/OpenBands.h"
 #include "layout/tables/RuleStack.h"
 #include "layout/tables/RuledAdmission.h"
@@ -21,6 +22,7 @@ struct Band {
     bool hasRuleBelow = true;
     std::size_t level = 0;   ///< index of a level that it touches
     bool isFollowed = false; ///< by running text, which ends the table
+    bool isTotal = false;    ///< a row below the rule that closes the body
 };
 
 /// Whether the row holds a line of running text: over the columns of the others, and over most of the rules' length.
@@ -45,7 +47,7 @@ void appendParts(Band band, const RuleLevel& level, const TableParameters::Table
         return;
     }
     const auto end = std::find_if(first, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
-    Band rest{first->box.top, band.bottom, {end, band.rows.end()}, false, band.hasRuleBelow, band.level, false};
+    Band rest{first->box.top, band.bottom, {end, band.rows.end()}, false, band.hasRuleBelow, band.level, false, false};
     band.rows.erase(first, band.rows.end());
     band.bottom = band.rows.back().box.bottom;
     band.hasRuleBelow = false;
@@ -64,15 +66,15 @@ std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& 
         for (const TextPiece& piece : pieces)
             if (box.contains(Point{piece.box.centerX(), piece.box.centerY()}))
                 within.push_back(piece);
-        appendParts({box.top, box.bottom, groupIntoRows(std::move(within), parameters), true, true, i, false}, stack[i],
-                    parameters, bands);
+        appendParts({box.top, box.bottom, groupIntoRows(std::move(within), parameters), true, true, i, false, false},
+                    stack[i], parameters, bands);
     }
     return bands;
 }
 
 /// Adds the head above the first rule and the rows below the last one, where the stack is open there: every row below
 /// is a band of its own.
-void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
                   const TableParameters::Tables& parameters, std::vector<Band>& bands) {
     std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
     // A rule below the head, or one at each side of it, leaves the table open; more rules close it with their last.
@@ -81,12 +83,14 @@ void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces,
                                                                           parameters.maximumHeaderRows;
     if (!head.empty()) {
         const double top = head.front().box.top;
-        bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0, false});
+        bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0, false, false});
     }
     double top = stack.back().y;
-    for (PieceRow& row : isOpenBelow ? rowsBelow(stack.back(), pieces, parameters) : std::vector<PieceRow>{}) {
+    for (PieceRow& row : isOpenBelow ? rowsBelow(stack.back(), pieces, parameters)
+                                     : totalsBelow(stack.back(), pieces, lines, parameters)) {
         const double bottom = row.box.bottom;
-        bands.push_back({top, bottom, {std::move(row)}, top == stack.back().y, false, stack.size() - 1, false});
+        bands.push_back(
+            {top, bottom, {std::move(row)}, top == stack.back().y, false, stack.size() - 1, false, !isOpenBelow});
         top = bottom;
     }
 }
@@ -172,11 +176,20 @@ bool fillsRules(const BandRun& run, const RuleLevel& level, const TableParameter
     return boxOf(run.aligned).width() >= parameters.ruleFill * (level.right - level.left);
 }
 
+/// One past the last band of the run that is no total.
+std::size_t endWithoutTotals(const std::vector<Band>& bands, const BandRun& run) {
+    std::size_t end = run.end;
+    while (end > run.first && bands[end - 1].isTotal)
+        --end;
+    return end;
+}
+
 /// Whether a rule lies right below the head, or rules close the run above and below.
 enum class Frame { Closed, Headed, None };
 
 Frame frameOf(const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run) {
-    if (bands[run.first].hasRuleAbove && bands[run.end - 1].hasRuleBelow)
+    const std::size_t end = endWithoutTotals(bands, run);
+    if (end > run.first && bands[run.first].hasRuleAbove && bands[end - 1].hasRuleBelow)
         return Frame::Closed;
     const bool startsStack = run.first == 0 && (!bands.front().hasRuleAbove || stack.size() > 1);
     return startsStack && bands.front().hasRuleBelow ? Frame::Headed : Frame::None;
@@ -217,8 +230,8 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
 }
 
 /// The grid of a run, cut to what belongs to it; nothing when it is no table.
-std::optional<TableGrid> gridOfRun(const PageText& page, const RuleStack& stack, const std::vector<Band>& bands,
-                                   const LayoutParameters& parameters, BandRun& run) {
+std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<BorderLine>& lines, const RuleStack& stack,
+                                   const std::vector<Band>& bands, const LayoutParameters& parameters, BandRun& run) {
     const TableParameters::Tables& limits = parameters.tables;
     if (run.end == run.first || frameOf(stack, bands, run) == Frame::None)
         return std::nullopt;
@@ -230,7 +243,7 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const RuleStack& stack,
         return std::nullopt;
     if (judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) != TableVerdict::Table)
         return std::nullopt;
-    TableGrid grid = gridOf(run.aligned, limits.textMargin);
+    TableGrid grid = spanHeads(gridOf(run.aligned, limits.textMargin), run.aligned, page.lines, lines, limits);
     snapToRules(grid, stack, bands, run);
     return isDrawnOver(page, grid, limits) ? std::nullopt : std::optional(std::move(grid));
 }
@@ -254,12 +267,18 @@ std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vecto
     std::vector<TableGrid> grids;
     for (const RuleStack& stack : sortedStacks(lines, limits)) {
         std::vector<Band> bands = bandsOf(stack, pieces, limits);
-        addOpenBands(stack, pieces, limits, bands);
+        addOpenBands(stack, pieces, page.lines, limits, bands);
         for (std::size_t first = 0; first < bands.size();) {
             BandRun run{first, first, {}};
             if (!bands[first].rows.empty() && !isHeadingOnly(bands[first]))
                 run = growRun(bands, first, limits);
-            std::optional<TableGrid> grid = gridOfRun(page, stack, bands, parameters, run);
+            BandRun body{run.first, endWithoutTotals(bands, run), {}};
+            std::optional<TableGrid> grid = gridOfRun(page, lines, stack, bands, parameters, run);
+            if (!grid && body.end != run.end) {
+                // What stands below the last rule only looked like totals.
+                run = std::move(body);
+                grid = gridOfRun(page, lines, stack, bands, parameters, run);
+            }
             first = grid ? run.end : first + 1;
             const bool isNew = grid && std::none_of(grids.begin(), grids.end(), [&](const TableGrid& other) {
                                    return other.box().intersects(grid->box());

@@ -74,4 +74,14 @@ std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPi
     return rows;
 }
 
+std::vector<PieceRow> totalsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                  const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    std::vector<PieceRow> rows = rowsBelow(level, pieces, parameters);
+    const auto end = std::find_if_not(rows.begin(), rows.end(), [&](const PieceRow& row) {
+        return row.pieces.size() > 1 && !isNumeric(row.pieces.front(), lines) && isNumeric(row.pieces.back(), lines);
+    });
+    rows.erase(end, rows.end());
+    return rows;
+}
+
 } // namespace orvane::layout

@@ -17,4 +17,8 @@ std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPi
 std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
                                 const TableParameters::Tables& parameters);
 
+/// The rows of labels and amounts right below a rule that closes the body of a table: its totals.
+std::vector<PieceRow> totalsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                  const std::vector<Line>& lines, const TableParameters::Tables& parameters);
+
 } // namespace orvane::layout

@@ -40,6 +40,21 @@ bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::
            widest > parameters.proseWidth * pieces[lines.front()].fontSize;
 }
 
+/// Whether a few lines are the text of one cell: shorter texts begin beside them in two other columns at least.
+bool isTextOfCell(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& lines,
+                  const std::vector<std::vector<std::size_t>>& texts, const TableParameters::Tables& parameters) {
+    if (static_cast<int>(lines.size()) > 2 * parameters.proseLines)
+        return false;
+    const auto isAbove = [&](std::size_t a, std::size_t b) { return pieces[a].baseline < pieces[b].baseline; };
+    const TextPiece& first = pieces[*std::min_element(lines.begin(), lines.end(), isAbove)];
+    const auto beside = std::count_if(texts.begin(), texts.end(), [&](const std::vector<std::size_t>& other) {
+        const TextPiece& start = pieces[*std::min_element(other.begin(), other.end(), isAbove)];
+        return other.size() < lines.size() &&
+               std::abs(start.baseline - first.baseline) <= parameters.rowSnap * first.fontSize;
+    });
+    return beside >= 2;
+}
+
 } // namespace
 
 std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TableParameters::Tables& parameters) {
@@ -61,8 +76,9 @@ std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TablePar
         }
     }
     std::vector<char> isProse(pieces.size(), 0);
-    for (const std::vector<std::size_t>& lines : texts.groups())
-        if (isRunningText(pieces, lines, parameters))
+    const std::vector<std::vector<std::size_t>> groups = texts.groups();
+    for (const std::vector<std::size_t>& lines : groups)
+        if (isRunningText(pieces, lines, parameters) && !isTextOfCell(pieces, lines, groups, parameters))
             for (const std::size_t i : lines)
                 isProse[i] = 1;
     return isProse;

@@ -1,6 +1,7 @@
 #include "layout/tables/RowGrouper.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -13,7 +14,12 @@ struct RowContent {
     bool hasSpan = false;
     bool hasNumber = false;
     bool isOfNumbers = false; ///< a third of the texts: a head may hold a number, too
+    bool isLabelled = false;  ///< a text that is no number stands in the first column
     bool isBold = true;
+    bool isItalic = true;
+
+    /// Whether it is set in another look, as heads, units and totals are.
+    bool looksUnlike(const RowContent& other) const { return isBold != other.isBold || isItalic != other.isItalic; }
 };
 
 /// What the filled cells say of two rows.
@@ -110,7 +116,10 @@ private:
             content.byColumn.try_emplace(range.first, &piece);
             content.hasSpan = content.hasSpan || range.first != range.last;
             numbers += isNumeric(piece, m_lines);
-            content.isBold = content.isBold && m_lines[piece.line].words[piece.firstWord].spans.front().look.isBold;
+            content.isLabelled = content.isLabelled || (range.first == 0 && !isNumeric(piece, m_lines));
+            const Look& look = m_lines[piece.line].words[piece.firstWord].spans.front().look;
+            content.isBold = content.isBold && look.isBold;
+            content.isItalic = content.isItalic && look.isItalic;
         }
         content.hasNumber = numbers > 0;
         content.isOfNumbers = numbers > 0 && static_cast<double>(numbers) >=
@@ -141,9 +150,18 @@ private:
                                           [](const RowContent& content) { return content.isOfNumbers; });
         const auto count = static_cast<std::size_t>(numbers - m_contents.begin());
         if (part == RowsPart::Head)
-            m_headRows = m_contents.size();
+            m_headRows = countRowsAboveBody();
         else if (numbers != m_contents.end() && count <= static_cast<std::size_t>(m_parameters.maximumHeaderRows))
             m_headRows = count;
+    }
+
+    /// The rows before the first that has a label and numbers: a rule may close the body with its head. The first row
+    /// is of the head, be it of years.
+    std::size_t countRowsAboveBody() const {
+        const auto body = std::find_if(m_contents.begin() + 1, m_contents.end(), [](const RowContent& content) {
+            return content.isOfNumbers && content.isLabelled;
+        });
+        return static_cast<std::size_t>(body - m_contents.begin());
     }
 
     /// Whether row `i` of the head holds further lines of the texts above, which end or begin at one height.
@@ -152,7 +170,7 @@ private:
         const RowContent& content = m_contents[i];
         const double pitch = m_rows[i].baseline - m_rows[i - 1].lastBaseline;
         if (pitch > m_parameters.wrapPitch * m_rows[i].fontSize || content.hasSpan || above.hasSpan ||
-            content.isBold != above.isBold)
+            content.looksUnlike(above))
             return false;
         const auto stands = [](const RowContent& inner, const RowContent& outer) {
             return std::all_of(inner.byColumn.begin(), inner.byColumn.end(),
@@ -167,10 +185,19 @@ private:
         return pitch <= m_parameters.wrapPitch * m_rows[i].fontSize && pitch <= m_parameters.samePitch * m_leastPitch;
     }
 
+    /// Whether a label stands farther out than the one above: it heads the next labels, which are indented.
+    bool isOutdented(const TextPiece& above, const TextPiece& piece) const {
+        const double tolerance = m_parameters.columnEdge * piece.fontSize;
+        return !m_lines[piece.line].isRightToLeft && piece.box.left < above.box.left - tolerance &&
+               std::abs(piece.box.centerX() - above.box.centerX()) > tolerance;
+    }
+
     /// Whether `piece` reads on from `above`, which was so long that the first word did not fit into the column.
     bool isWrapped(const TextPiece& above, const TextPiece& piece, int column) const {
         if (startsLowerCase(piece, m_lines))
             return true;
+        if (column == 0 && isOutdented(above, piece))
+            return false;
         return !hasRoomBehind(above, piece, m_columnBoxes.at(column), m_lines, m_parameters);
     }
 
@@ -186,7 +213,7 @@ private:
     bool goesOn(std::size_t i, const std::set<int>& filled) const {
         const RowContent& above = m_contents[i - 1];
         const RowContent& content = m_contents[i];
-        if (!isTight(i) || content.hasSpan || above.hasSpan || content.isBold != above.isBold)
+        if (!isTight(i) || content.hasSpan || above.hasSpan || content.looksUnlike(above))
             return false;
         // Numbers stand in rows of their own, unless a hyphen says that they are the rest of one.
         if (content.hasNumber && !isHyphenated(above, content))

@@ -20,6 +20,7 @@ struct BandCell {
 struct TextRows {
     std::vector<double> tops; ///< y of the edges above all but the first
     std::vector<double> baselines;
+    std::vector<double> firstBaselines; ///< of each row
 };
 
 /// Finds the rows within one drawn row.
@@ -47,10 +48,31 @@ public:
         // Numbers that fill their column may be one list that was broken at the cell's side; two such are not.
         if (numbers == 0 || (numbers == 1 && unwrapped == 0))
             return {};
-        return rowsOf(groupIntoRows(std::move(listed), m_parameters));
+        const TextRows rows = rowsOf(groupIntoRows(listed, m_parameters));
+        return takeLabels(cells, rows, listed) ? rowsOf(groupIntoRows(listed, m_parameters)) : rows;
     }
 
 private:
+    /// Adds the texts of cells that have one beside each row, be they of several lines; whether there are such.
+    bool takeLabels(std::vector<BandCell>& cells, const TextRows& rows, std::vector<TextPiece>& listed) const {
+        bool hasTaken = false;
+        for (BandCell& cell : cells) {
+            const bool hasLabels =
+                !rows.tops.empty() && !cell.isListing &&
+                std::all_of(rows.firstBaselines.begin(), rows.firstBaselines.end(), [&](double y) {
+                    return std::any_of(cell.pieces.begin(), cell.pieces.end(), [&](const TextPiece& piece) {
+                        return std::abs(piece.baseline - y) <= m_parameters.rowSnap * piece.fontSize;
+                    });
+                });
+            if (!hasLabels)
+                continue;
+            cell.isListing = true;
+            listed.insert(listed.end(), cell.pieces.begin(), cell.pieces.end());
+            hasTaken = true;
+        }
+        return hasTaken;
+    }
+
     bool isLongEnough(const std::vector<TextPiece>& pieces) const {
         return groupIntoRows(pieces, m_parameters).size() >= static_cast<std::size_t>(m_parameters.fewestPartedRows);
     }
@@ -87,6 +109,7 @@ private:
         for (const RowGroup& group :
              groupRows(rows, edgesAsGaps(rows.front().fontSize), m_lines, RowsPart::Any, m_parameters)) {
             Rect box;
+            found.firstBaselines.push_back(rows[group.first].baseline);
             for (std::size_t i = group.first; i < group.end; ++i) {
                 box = box.united(rows[i].box);
                 found.baselines.push_back(rows[i].baseline);

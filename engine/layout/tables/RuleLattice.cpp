@@ -48,6 +48,16 @@ std::vector<double> edgePositions(const std::vector<const BorderLine*>& along,
         starts.push_back(line->from);
         ends.push_back(line->to);
     }
+    // A rule under the head alone crosses the rules between the columns, and ends where the outer columns do.
+    const auto isCrossed = [&](const BorderLine* line) {
+        return line->from < across.front()->position - parameters.minimumCellSide &&
+               line->to > across.front()->position + parameters.minimumCellSide;
+    };
+    if (starts.size() == 1 && across.front()->direction == RuleDirection::Horizontal &&
+        std::count_if(along.begin(), along.end(), isCrossed) >= 2) {
+        starts.push_back(starts.front());
+        ends.push_back(ends.front());
+    }
     // The second farthest: one line alone that overshoots makes no column.
     if (starts.size() >= 2) {
         std::nth_element(starts.begin(), starts.begin() + 1, starts.end());

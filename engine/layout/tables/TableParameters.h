@@ -44,6 +44,10 @@ struct TableParameters {
         double pieceGap = 0.6;      ///< of the font size; a wider gap in a line may part two cells ...
         double blankStretch = 2.0;  ///< ... unless the line's narrowest blank is stretched: not less than this times it
         double widestStretch = 1.0; ///< of the font size; blanks are stretched no further
+        double startSnap = 0.7;     ///< points; texts that begin this near to each other begin at one edge
+        double blankSlack = 0.03;   ///< of the font size; blanks of one text differ by less
+        double headCenter = 0.2;    ///< of a column's width; how far the middle of a head may miss that of its columns
+        double headRuleShare = 0.9; ///< of a table's width; a rule below a head of some columns is shorter
         double textMargin = 5.4;    ///< points; what a column without rules begins before its text
         double bulletShare = 0.8;   ///< of a column that are bullets for it to be part of the next column
         double rowSnap = 0.3;       ///< of the font size; baselines this near stand side by side
@@ -85,23 +89,25 @@ struct TableParameters {
         // Words in columns that are no table.
         double crossingPieceShare = 0.25; ///< of the pieces that may reach over a gap
         double leaderRowShare = 0.4;      ///< of the rows that lead to a page number: contents
-        double labelShare = 0.7;          ///< of the first column that are list labels: a list
-        double keyShare = 0.6;            ///< of the first column that ends in a colon: keys and values
-        int proseLines = 4;               ///< lines; fewer are no running text
-        double proseWords = 4.0;          ///< words a line, on average
-        double narrowProseWords = 2.5;    ///< words a line where every column is full of words
-        double proseFill = 0.8;           ///< of the column's width; a longer line is full
-        double proseFullShare = 0.6;      ///< of the lines that must be full in running text
-        double proseLeading = 1.8;        ///< of the font size; lines of running text stand no farther apart
-        double proseWidth = 12.0;         ///< of the font size; narrower texts are no running text
-        double codeShare = 0.7;           ///< of the rows that are set in a typewriter font: a listing
-        double filledRowShare = 0.5;      ///< of the rows that must have two filled cells
-        double columnEdge = 0.5;          ///< of the font size; text edges of a column that differ by less are one
-        double keptEdgeShare = 0.7;       ///< of a column's texts that must keep an edge where nothing is drawn
-        double keptEdgeShareRuled = 0.5;  ///< the same where rules part the rows
-        double raggedShare = 0.34;        ///< of the columns that may keep none
-        double numericShare = 0.6;        ///< of a column's texts that are numbers: a column of numbers
-        double headNumberShare = 0.33;    ///< of the texts in a row; with more numbers it is not of the head
+        double fallingShare = 0.2;       ///< of a column's numbers that are less than those above: no pages of contents
+        double brokenNumberShare = 0.5;  ///< of a column's numbers that have a comma or point: amounts
+        double labelShare = 0.7;         ///< of the first column that are list labels: a list
+        double keyShare = 0.6;           ///< of the first column that ends in a colon: keys and values
+        int proseLines = 4;              ///< lines; fewer are no running text
+        double proseWords = 4.0;         ///< words a line, on average
+        double narrowProseWords = 2.5;   ///< words a line where every column is full of words
+        double proseFill = 0.8;          ///< of the column's width; a longer line is full
+        double proseFullShare = 0.6;     ///< of the lines that must be full in running text
+        double proseLeading = 1.8;       ///< of the font size; lines of running text stand no farther apart
+        double proseWidth = 12.0;        ///< of the font size; narrower texts are no running text
+        double codeShare = 0.7;          ///< of the rows that are set in a typewriter font: a listing
+        double filledRowShare = 0.5;     ///< of the rows that must have two filled cells
+        double columnEdge = 0.5;         ///< of the font size; text edges of a column that differ by less are one
+        double keptEdgeShare = 0.7;      ///< of a column's texts that must keep an edge where nothing is drawn
+        double keptEdgeShareRuled = 0.5; ///< the same where rules part the rows
+        double raggedShare = 0.34;       ///< of the columns that may keep none
+        double numericShare = 0.6;       ///< of a column's texts that are numbers: a column of numbers
+        double headNumberShare = 0.33;   ///< of the texts in a row; with more numbers it is not of the head
 
         // The look of cells.
         double shadingCover = 0.6;   ///< of a cell that a ground must cover to be its shading

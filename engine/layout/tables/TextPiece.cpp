@@ -63,6 +63,13 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
 
 namespace {
 
+/// Whether the sign of a currency follows a number and has its own farther on: "1,204 $  1,150".
+bool beginsAmount(const Line& line, std::size_t lineIndex, std::size_t word, const std::vector<Line>& lines) {
+    return word + 1 < line.words.size() && isCurrencySign(textOf(pieceOf(line, lineIndex, word, word + 1), lines)) &&
+           isNumeric(pieceOf(line, lineIndex, word - 1, word), lines) &&
+           isNumeric(pieceOf(line, lineIndex, word + 1, word + 2), lines);
+}
+
 /// Cuts upright lines at their wide gaps and where `isCut` says so of the boxes of two words, the left one first.
 template<typename Predicate>
 std::vector<TextPiece> cutLines(const std::vector<Line>& lines, const TableParameters::Tables& parameters,
@@ -79,7 +86,7 @@ std::vector<TextPiece> cutLines(const std::vector<Line>& lines, const TableParam
             const Rect& after = line.words[j].box;
             const bool isLeftFirst = before.left <= after.left;
             if (line.words[j].gapBefore != Gap::Tab && gapBetween(before, after) <= widest &&
-                !isCut(isLeftFirst ? before : after, isLeftFirst ? after : before))
+                !beginsAmount(line, i, j, lines) && !isCut(isLeftFirst ? before : after, isLeftFirst ? after : before))
                 continue;
             pieces.push_back(pieceOf(line, i, first, j));
             first = j;
@@ -131,6 +138,11 @@ bool isBullet(std::string_view text) {
     static constexpr std::array<std::string_view, 9> kBullets{"\u2022", "\u25E6", "\u25AA", "\u25CF", "\u25CB",
                                                               "\u25A0", "\u2023", "\u00B7", "o"};
     return std::ranges::find(kBullets, text) != kBullets.end();
+}
+
+bool isCurrencySign(std::string_view text) {
+    static constexpr std::array<std::string_view, 5> kSigns{"$", "\u20AC", "\u00A3", "\u00A5", "US$"};
+    return std::ranges::find(kSigns, text) != kSigns.end();
 }
 
 std::string textOf(const TextPiece& piece, const std::vector<Line>& lines) {

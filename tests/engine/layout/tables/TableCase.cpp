@@ -11,6 +11,9 @@
 namespace orvane::layout::tests {
 namespace {
 
+/// Points; parts of a line that stand no farther apart are words with a blank between them.
+constexpr double kWidestBlank = 5;
+
 TableCase emptyCase() {
     TableCase made{makePage(1), {}};
     // As wide as makeLine() makes blanks: otherwise its lines look justified.
@@ -71,6 +74,8 @@ private:
         for (std::string word; in >> word;) {
             if (word == "bold")
                 m_look.isBold = true;
+            else if (word == "italic")
+                m_look.isItalic = true;
             else if (word == "right-to-left")
                 m_isRightToLeft = true;
             else if (word == "turned")
@@ -128,7 +133,8 @@ private:
             } else if (whole.words.empty()) {
                 whole = std::move(line);
             } else {
-                line.words.front().gapBefore = Gap::Tab;
+                if (line.box.left - whole.box.right > kWidestBlank)
+                    line.words.front().gapBefore = Gap::Tab;
                 whole.box = whole.box.united(line.box);
                 whole.words.insert(whole.words.end(), line.words.begin(), line.words.end());
             }

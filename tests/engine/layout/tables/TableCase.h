@@ -9,9 +9,11 @@
 /// what the case is about; then comes the page, one thing a line, in points:
 ///
 ///     row 64 | 50 Name | >150 12.5 | ^200 yes   lines on one baseline at x 50; ending at x 150; around x 200
-///     line 64 | 50 Name | 150 12.5              the same as one line with tabs
+///     line 64 | 50 Name | 150 12.5              the same as one line with tabs, or with
+///                                               blanks between what stands near to each other
 ///     text 50 64 Some words                     one line
 ///     look bold 12 turned 270                   for the text that follows; "look" alone goes back to 10 points upright
+///     look italic                               in italic letters
 ///     look right-to-left                        the text that follows reads from the right
 ///     font Courier fixed                        another font for the text that follows; "fixed" is a typewriter's
 ///     h 60 50 250                               a horizontal rule at y 60 from x 50 to x 250; "double", "dashed",
