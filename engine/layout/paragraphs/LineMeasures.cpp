@@ -97,10 +97,11 @@ std::size_t firstUnitLength(const std::u32string& word) {
     return length;
 }
 
-double meanGap(const Line& line) {
+/// The mean width of the blanks behind word `first`.
+double meanGap(const Line& line, std::size_t first) {
     double total = 0;
     int count = 0;
-    for (std::size_t i = 1; i < line.words.size(); ++i) {
+    for (std::size_t i = first + 1; i < line.words.size(); ++i) {
         if (line.words[i].gapBefore != Gap::Space)
             continue;
         const Rect& a = line.words[i - 1].box;
@@ -159,12 +160,13 @@ LineMeasure measure(const Line& line, ColumnSpan column, const ParagraphContext&
     result.endGap = line.isRightToLeft ? left : right;
     result.width = line.box.width();
     result.textStart = result.startGap;
-    result.meanGap = meanGap(line);
     if (line.words.empty())
         return result;
     readWords(line, result);
     readEnds(line, context.fonts, result);
     result.marker = findListMarker(line, parameters.markers);
+    // How far an item's text stands from its label tells nothing about blanks.
+    result.meanGap = meanGap(line, result.marker && result.marker->isWholeWord ? 1 : 0);
     if (result.marker && line.words.size() > 1) {
         const Rect& text = line.words[1].box;
         result.textStart =

@@ -192,6 +192,12 @@ TEST(ParagraphBuilder, ReadsJustifiedTextByItsStretchedBlanks) {
     EXPECT_EQ(paragraphs[0].alignment, Alignment::Justified);
 }
 
+TEST(ParagraphBuilder, ReadsNoStretchedBlankFromTheGapBehindALabel) {
+    const auto paragraphs = build({"1.  Items that run to the edge", "    and go on below it."}, 30);
+    ASSERT_EQ(paragraphs.size(), 1U);
+    EXPECT_EQ(paragraphs[0].alignment, Alignment::Start);
+}
+
 TEST(ParagraphBuilder, EndsAJustifiedParagraphAtItsShortLine) {
     const auto paragraphs =
         build({"The  quick  brown  jumps  over", "the  lazy  dog  and  ran  away", "to  the  woods  of  the  north",
