@@ -1,6 +1,7 @@
 #include "layout/assembly/ParagraphFormat.h"
 
 #include "layout/assembly/TabStopFinder.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,8 +28,10 @@ void setIndents(const DraftPiece& piece, double smallest, document::ParagraphPro
     double end = std::numeric_limits<double>::infinity();
     for (const Line& l : piece.text.lines)
         end = std::min(end, l.isRightToLeft ? l.box.left - piece.column.left : piece.column.right - l.box.right);
+    // Ideographs leave less than one of them free, and a full stop of theirs may stand beyond the edge.
+    const double least = endsWithoutBlanks(line) ? line.fontSize : smallest;
     if (piece.text.alignment == Alignment::Justified || end < 0)
-        format.indentEnd = indent(end, smallest);
+        format.indentEnd = indent(end, least);
 }
 
 /// An item has the indents of its list's level unless it clearly stands elsewhere.

@@ -14,6 +14,7 @@ struct StructureParameters {
         double edgeShare = 0.03;        ///< of the lines that must start at an edge for it to be the margin
         double fullWidth = 0.5;         ///< of the widest line; narrower ones that go on tell nothing about the edge
         int flushLines = 5;             ///< so many justified lines show the end edge
+        double dissent = 0.03;          ///< of the lines that may contradict two margins of one width
         double blank = 0.25;            ///< of the font size; the blank before a word that had no room
         double farInside = 24.0;        ///< points; text that starts so far within most tables does not show the margin
         double roomSlack = 0.5;         ///< points; a line may be this much longer than measured

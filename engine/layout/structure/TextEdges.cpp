@@ -1,11 +1,15 @@
 #include "layout/structure/TextEdges.h"
 
+#include "base/Utf8.h"
 #include "layout/support/Tally.h"
 #include "layout/support/TidyLength.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -23,6 +27,12 @@ struct LineEdge {
     double room = 0; ///< what the first word of the next line would have needed; 0 when the line ends its paragraph
     bool isFlush = false; ///< a justified line, which ends at the edge
 };
+
+/// Whether the line ends with a full stop or comma that word processors let stand beyond the end of a full line.
+bool mayHang(const Line& line) {
+    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
+    return !text.empty() && std::u32string_view(U"、。，．").find(text.back()) != std::u32string_view::npos;
+}
 
 class EdgeFinder {
 public:
@@ -79,11 +89,24 @@ private:
                 edge.start = line.isRightToLeft ? width - line.box.right : line.box.left;
             if (isInLastColumn)
                 edge.end = line.isRightToLeft ? line.box.left : width - line.box.right;
-            edge.room = goesOn ? lines[i + 1].words.front().box.width() + m_limits.blank * line.fontSize : 0;
-            edge.isFlush = goesOn && isInLastColumn && piece.text.alignment == Alignment::Justified;
+            if (mayHang(line))
+                edge.end += line.fontSize;
+            edge.room = goesOn ? roomFor(lines[i + 1], line.fontSize) : 0;
+            // Ideographs end in line of themselves, with less than one of them free.
+            edge.isFlush =
+                goesOn && isInLastColumn && piece.text.alignment == Alignment::Justified && !endsWithoutBlanks(line);
             m_edges.push_back(edge);
             m_isRightToLeft += line.isRightToLeft ? 1 : -1;
         }
+    }
+
+    /// What the first word of a line would have needed behind the line above; two of its characters where they stand
+    /// without blanks, as some may not start a line.
+    double roomFor(const Line& next, double fontSize) const {
+        const std::u32string text = utf32FromUtf8(textOf(next.words.front()));
+        if (!text.empty() && isWithoutBlanks(text.front()))
+            return 2 * next.fontSize;
+        return next.words.front().box.width() + m_limits.blank * fontSize;
     }
 
     void readTable(const TableDraft& table, const DraftBlock& block) {
@@ -138,23 +161,30 @@ private:
             std::sort(flush.begin(), flush.end());
             return flush[static_cast<std::size_t>(m_limits.edgeShare * static_cast<double>(flush.size()))];
         }
-        const EndRange range = agreedRange(start);
+        const Steps steps = endSteps(start);
+        const EndRange range = agreedRange(steps);
+        // Most people leave both margins alike, and a few lines that were ended by hand do not speak against that.
+        if (isAgreedBy(steps, start, range.agreeing))
+            return start;
         // A line as wide as its column to the last hair may find no room in another program.
         const double highest = std::max(0.0, range.to - m_limits.roomSlack);
         return tidyLength(std::min(range.from + m_limits.roomSlack, highest), highest, start, m_limits.roomSlack);
     }
 
+    /// Places where a line begins (1) or ceases (-1) to agree with the end edge being there, in order.
+    using Steps = std::vector<std::pair<double, int>>;
+
     /// Where the end edge may lie.
     struct EndRange {
         double from = 0;
         double to = 0;
+        int agreeing = 0; ///< lines
     };
 
-    /// Each line ends before the edge, and one that goes on left no room for the next word: the range that most lines
-    /// agree on, the outermost if there are several. Some stand in boxes that have edges of their own.
-    EndRange agreedRange(double start) const {
+    /// Each line ends before the edge, and one that goes on left no room for the next word.
+    Steps endSteps(double start) const {
         const double widest = m_pageWidth - start - outermost(&LineEdge::end);
-        std::vector<std::pair<double, int>> steps; // where a line begins or ceases to agree
+        Steps steps;
         for (const LineEdge& edge : m_edges) {
             if (edge.end == kNone)
                 continue;
@@ -168,13 +198,19 @@ private:
         std::sort(steps.begin(), steps.end(), [](const auto& a, const auto& b) {
             return a.first != b.first ? a.first < b.first : a.second > b.second;
         });
+        return steps;
+    }
+
+    /// The range that most lines agree on, the outermost if there are several. Some stand in boxes that have edges of
+    /// their own.
+    static EndRange agreedRange(const Steps& steps) {
         EndRange best;
-        int agreeing = 0, most = 0;
+        int agreeing = 0;
         bool isOpen = false;
         for (const auto& [place, step] : steps) {
             agreeing += step;
-            if (agreeing > most) {
-                most = agreeing;
+            if (agreeing > best.agreeing) {
+                best.agreeing = agreeing;
                 best.from = place;
                 isOpen = true;
             } else if (isOpen && step < 0) {
@@ -183,6 +219,15 @@ private:
             }
         }
         return best;
+    }
+
+    /// Whether nearly as many lines agree with an edge there as agree at all.
+    bool isAgreedBy(const Steps& steps, double place, int most) const {
+        int agreeing = 0;
+        for (const auto& [where, step] : steps)
+            if (where <= place + (step > 0 ? m_limits.roomSlack : -m_limits.roomSlack))
+                agreeing += step;
+        return agreeing >= (1 - m_limits.dissent) * most;
     }
 
     TextEdges edgesOfObjects() const {

@@ -1,5 +1,7 @@
 #include "layout/text/LineText.h"
 
+#include "base/Utf8.h"
+
 #include <unicode/uchar.h>
 
 #include <map>
@@ -47,6 +49,11 @@ bool isWithoutBlanks(char32_t character) {
     const auto width = u_getIntPropertyValue(code, UCHAR_EAST_ASIAN_WIDTH);
     const bool isHangul = u_getIntPropertyValue(code, UCHAR_HANGUL_SYLLABLE_TYPE) != U_HST_NOT_APPLICABLE;
     return (width == U_EA_WIDE || width == U_EA_FULLWIDTH) && !isHangul;
+}
+
+bool endsWithoutBlanks(const Line& line) {
+    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
+    return !text.empty() && isWithoutBlanks(text.back());
 }
 
 bool meetOtherScript(char32_t left, char32_t right) {

@@ -20,6 +20,9 @@ void measureAnew(Line& line);
 /// punctuation. Hangul has blanks between words, and lines that end at them.
 bool isWithoutBlanks(char32_t character);
 
+/// True when the line's last character is of such a script.
+bool endsWithoutBlanks(const Line& line);
+
 /// True between a letter or digit of such a script and one of another.
 bool meetOtherScript(char32_t left, char32_t right);
 

@@ -29,5 +29,16 @@ TEST(ParagraphFormat, SeesAnEndIndentOnlyWhereTextIsJustified) {
     EXPECT_NEAR(pointsFromTwips(formatOfLines(lines(), document::Alignment::Justified).indentEnd), 523 - 172, 0.1);
 }
 
+TEST(ParagraphFormat, SeesNoEndIndentInWhatIdeographsLeaveFree) {
+    const auto lines = [](double right) {
+        Line first = makeLine("一二三", 72, 100);
+        first.box.right = right;
+        return std::vector{first, makeLine("四", 72, 112)};
+    };
+    EXPECT_EQ(formatOfLines(lines(523 - 8), document::Alignment::Justified).indentEnd, Twips(0));
+    EXPECT_EQ(formatOfLines(lines(523 + 8), document::Alignment::Start).indentEnd, Twips(0)) << "a hanging full stop";
+    EXPECT_NE(formatOfLines(lines(523 - 30), document::Alignment::Justified).indentEnd, Twips(0));
+}
+
 } // namespace
 } // namespace orvane::layout

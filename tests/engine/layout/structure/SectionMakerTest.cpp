@@ -243,6 +243,31 @@ TEST(SectionMaker, ReadsTheEndEdgeThatMostLinesAgreeOn) {
     EXPECT_LT(end, 72 + 400 + 57.5) << "else the next word would have had room";
 }
 
+TEST(SectionMaker, PrefersMarginsOfOneWidthThoughALineWasEndedByHand) {
+    DocumentDraft draft = makeDraft(1);
+    const std::string full(90, 'x'); // 450 points, so that less than a point is free before the right margin
+    for (int i = 0; i < 20; ++i)
+        draft.blocks.push_back(
+            makeBlock(makeParagraph({makeLine(full, 72, 84 + 30 * i), makeLine("overflowing", 72, 96 + 30 * i)})));
+    draft.blocks.push_back(
+        makeBlock(makeParagraph({makeLine(std::string(80, 'x'), 72, 700), makeLine("by hand", 72, 712)})));
+    sectionsOf(draft);
+    const document::Section& setup = draft.sections.at(0).setup;
+    EXPECT_EQ(setup.marginRight, setup.marginLeft);
+}
+
+TEST(SectionMaker, LetsEastAsianFullStopsHangOverTheEndEdge) {
+    DocumentDraft draft = makeDraft(1);
+    for (int i = 0; i < 20; ++i) {
+        Line hanging = makeLine("一二。", 72, 84 + 30 * i);
+        hanging.box.right = 523 + 8;
+        draft.blocks.push_back(makeBlock(makeParagraph({hanging, makeLine("三", 72, 96 + 30 * i)})));
+    }
+    sectionsOf(draft);
+    const document::Section& setup = draft.sections.at(0).setup;
+    EXPECT_EQ(setup.marginRight, setup.marginLeft);
+}
+
 TEST(SectionMaker, ReadsNoEndEdgeFromLinesMuchNarrowerThanOthers) {
     DocumentDraft draft = makeDraft(1);
     draft.blocks.push_back(makeBlock(makeParagraph({makeLine(std::string(80, 'x'), 72, 84)})));
