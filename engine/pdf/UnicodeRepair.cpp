@@ -66,6 +66,20 @@ std::u32string fromPrivateDouble(std::uint8_t code) {
     }
 }
 
+/// OpenSymbol stands in for fonts of signs whose codes it shows as theirs: Wingdings above all, and what that lacks is
+/// of ZapfDingbats and its kin.
+std::u32string fromStandIn(std::uint8_t code) {
+    constexpr std::uint8_t kDegree = 0xB0, kPlusMinus = 0xB1, kBullet = 0xB7; // of the font Symbol
+    if (code == kDegree || code == kPlusMinus || code == kBullet)
+        return fromPrivateDouble(code);
+    if (code >= 0x80 && code < 0xA0)
+        return fromPrivateDouble(code); // the fonts agree on few of them
+    for (const SymbolFont font : {SymbolFont::Wingdings, SymbolFont::ZapfDingbats})
+        if (const char32_t sign = symbolCharacter(font, code))
+            return std::u32string(1, sign);
+    return {};
+}
+
 /// Whether the file tells nothing of a font's characters: the library then hands out the glyphs' numbers.
 bool isUnmapped(const GfxFont& font) {
     if (!font.isCIDFont() || font.hasToUnicodeCMap())
@@ -181,8 +195,10 @@ private:
         if (given.size() == 1) {
             if (const char32_t today = characterOfAdobePrivateUse(given[0]))
                 return std::u32string(1, today);
-            if (given[0] >= 0xF020 && given[0] < 0xF100)
-                return fromPrivateDouble(static_cast<std::uint8_t>(given[0] & 0xFF));
+            if (given[0] >= 0xF020 && given[0] < 0xF100) {
+                const auto low = static_cast<std::uint8_t>(given[0] & 0xFF);
+                return m_facts.name.starts_with("OpenSymbol") ? fromStandIn(low) : fromPrivateDouble(low);
+            }
         }
         if (!isNamed)
             if (std::u32string text = textOfName(code); isSayable(text))

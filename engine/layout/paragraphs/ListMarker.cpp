@@ -5,12 +5,21 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
 
 constexpr std::u32string_view kBullets = U"•◦▪■●○‣⁃∙·➢➤➔✓✔❖◆◇□☐☑☒►▶▸▹→⇒★☆✦✗✘※▫◘◙◾◽⚫⚪❑❒❏❍➣➥・";
+/// Shapes and arrows, which stand before items more often than for themselves.
+constexpr std::pair<char32_t, char32_t> kSigns[] = {{U'\u2190', U'\u21FF'},
+                                                    {U'\u25A0', U'\u25FF'},
+                                                    {U'\u2713', U'\u274D'},
+                                                    {U'\u2794', U'\u27BE'},
+                                                    {U'\u2B00', U'\u2BFF'}};
 constexpr std::u32string_view kDashes = U"-–—−*+o~";
 constexpr std::u32string_view kHanNumerals = U"一二三四五六七八九十";
 constexpr std::u32string_view kKanaLetters = U"アイウエオカキクケコサシスセソ";
@@ -167,9 +176,15 @@ std::optional<ListMarker> readEastAsian(std::u32string_view word) {
     return std::nullopt;
 }
 
+bool isLoneSign(std::u32string_view word) {
+    return word.size() == 1 && std::any_of(std::begin(kSigns), std::end(kSigns), [&](const auto& range) {
+               return word[0] >= range.first && word[0] <= range.second;
+           });
+}
+
 std::optional<ListMarker> readSign(std::u32string_view word) {
     ListMarker marker;
-    if (isIn(kBullets, word[0]) || isNameless(word[0])) {
+    if (isIn(kBullets, word[0]) || isNameless(word[0]) || isLoneSign(word)) {
         marker.isWholeWord = word.size() == 1;
         // Some signs are also punctuation within words; glued to letters only the plain bullets are markers.
         if (word.size() > 1 && !isIn(U"•▪■●○◦‣・", word[0]) && !isNameless(word[0]))

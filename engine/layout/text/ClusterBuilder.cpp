@@ -2,7 +2,6 @@
 
 #include "layout/text/ActualText.h"
 #include "layout/text/Characters.h"
-#include "pdf/SymbolFont.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,20 +55,8 @@ void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& fon
     cluster.spaceWidth = font.spaceWidth * glyph.fontSize * glyph.horizontalScale;
 }
 
-/// The character of a glyph. OpenSymbol has signs only, and stands in for Wingdings: a letter is that font's code.
-std::u32string textOf(const pdf::Glyph& glyph, const pdf::Font& font) {
-    if (glyph.unicode.empty())
-        return {kUnknownCharacter};
-    constexpr std::u32string_view kOwnSigns = U"\u00B0\u00B1"; // said as they are meant
-    const bool isOpenSymbol = font.name.starts_with("OpenSymbol") && glyph.unicode.size() == 1;
-    if (isOpenSymbol && glyph.unicode[0] == U'\u00B7')
-        return U"\u2022"; // what the font Symbol has there
-    if (isOpenSymbol && glyph.unicode[0] > U' ' && glyph.unicode[0] < 0x100 &&
-        kOwnSigns.find(glyph.unicode[0]) == std::u32string_view::npos)
-        if (const char32_t sign =
-                pdf::symbolCharacter(pdf::SymbolFont::Wingdings, static_cast<std::uint8_t>(glyph.unicode[0])))
-            return {sign};
-    return normalizeGlyphText(glyph.unicode);
+std::u32string textOf(const pdf::Glyph& glyph) {
+    return glyph.unicode.empty() ? std::u32string{kUnknownCharacter} : normalizeGlyphText(glyph.unicode);
 }
 
 Cluster makeCluster(const pdf::PageContent& page, const SelectedGlyph& selected, std::uint32_t frameIndex,
@@ -77,7 +64,7 @@ Cluster makeCluster(const pdf::PageContent& page, const SelectedGlyph& selected,
     const pdf::Glyph& glyph = page.glyphs[selected.index];
     const pdf::Font& font = fontOf(page, glyph);
     Cluster cluster;
-    cluster.text = textOf(glyph, font);
+    cluster.text = textOf(glyph);
     cluster.frame = frameIndex;
     cluster.glyph = selected.index;
     cluster.mark = glyph.mark;

@@ -132,9 +132,9 @@ private:
 
 /// East Asian text stands closer to its label than its characters to those of other scripts; the label is a word still,
 /// unless it ends in a digit, which has that little gap behind it anyway.
-void partLabel(std::vector<Cluster>& clusters, const TextParameters::Words& limits) {
+void partLabel(std::vector<Cluster>& clusters, std::size_t first, const TextParameters::Words& limits) {
     std::u32string label;
-    for (std::size_t i = 0; i + 1 < clusters.size() && label.size() < limits.longestLabel; ++i) {
+    for (std::size_t i = first; i + 1 < clusters.size() && label.size() < limits.longestLabel; ++i) {
         label += clusters[i].text;
         Cluster& next = clusters[i + 1];
         if (next.gapBefore.endsWord)
@@ -168,6 +168,7 @@ void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
         if (i < clusters.size() && !isWide)
             continue;
         Stretch(clusters, first, i, limits).decide(std::min(rowLetterGap, limits.greatestBorrowedGap));
+        partLabel(clusters, first, limits);
         first = i;
         if (isWide)
             clusters[i].gapBefore.endsWord = true;
@@ -175,7 +176,6 @@ void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
     // A drop cap stands away from the rest of its word.
     if (row.dropCapLines > 0 && clusters.size() > 1 && !clusters[1].gapBefore.hasBlank)
         clusters[1].gapBefore.endsWord = false;
-    partLabel(clusters, limits);
     countBlanks(clusters, limits.narrowestBlank);
     for (Cluster& cluster : clusters)
         cluster.gapBefore.kind = cluster.gapBefore.endsWord ? Gap::Space : Gap::None;

@@ -125,6 +125,18 @@ TEST(Unicode, OfPrivateBulletsIsABullet) {
               "•▪A•°");
 }
 
+TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
+    PdfBuilder builder;
+    const int map = builder.addStream(
+        "", toUnicode("<41> <F06C> <42> <F033> <43> <F0B7> <44> <0028> <45> <2713>\n", 5, "<00> <FF>"));
+    EXPECT_EQ(textIn(builder,
+                     "<< /Type /Font /Subtype /TrueType /BaseFont /OpenSymbol /ToUnicode " + pdfRef(map) +
+                         " /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
+                     "(ABCDE)"),
+              "●✓•(✓")
+        << "of Wingdings, of ZapfDingbats, of Symbol, and as the map says";
+}
+
 TEST(Unicode, ThatStaysUnknownIsEmptyAndTold) {
     PdfBuilder builder;
     const int glyph = builder.addStream("", "500 0 0 0 500 700 d1 0 0 500 700 re f");

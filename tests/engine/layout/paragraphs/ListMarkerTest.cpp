@@ -28,6 +28,7 @@ TEST(ListMarker, ReadsTheLabelOfALine) {
         {"\xE2\x80\xA2Text", MarkerKind::Bullet, 0, "a bullet without a gap"},
         {"\xEF\x82\xB7 Text", MarkerKind::Bullet, 0, "a bullet of a symbol font"},
         {"\uFFFD Text", MarkerKind::Bullet, 0, "a sign that nobody can name"},
+        {"\u21E7 Text", MarkerKind::Bullet, 0, "an arrow that stands alone"},
         {"- Text", MarkerKind::Dash, 0, "a hyphen"},
         {"\xE2\x91\xA2Text", MarkerKind::EastAsian, 3, "a circled number"},
         {"\xE4\xBA\x8C\xE3\x80\x81Text", MarkerKind::EastAsian, 2, "a numeral of Han"},

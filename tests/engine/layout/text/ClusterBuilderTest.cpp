@@ -74,20 +74,6 @@ TEST(ClusterBuilder, KeepsSignsBesideEachOther) {
     EXPECT_THAT(linesOf(page), ElementsAre("\u0628..\u0647"));
 }
 
-TEST(ClusterBuilder, ReadsSignsThatAreCalledLetters) {
-    PageContentBuilder page;
-    const std::uint32_t signs = page.font([] {
-        pdf::Font font;
-        font.name = "OpenSymbol";
-        return font;
-    }());
-    page.text(72, 100, "l", 12, {.font = signs});
-    page.text(90, 100, "item", 12);
-    page.text(72, 130, "\u00B7", 12, {.font = signs});
-    page.text(96, 130, "item", 12);
-    EXPECT_THAT(linesOf(page), ElementsAre("\u25CF\titem", "\u2022\titem"));
-}
-
 TEST(ClusterBuilder, KeepsUnknownCharactersAsSuch) {
     PageContentBuilder page;
     const double x = page.text(72, 100, "a", 12);

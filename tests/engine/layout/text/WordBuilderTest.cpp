@@ -156,6 +156,14 @@ TEST(WordBuilder, PartsALabelFromEastAsianTextBesideIt) {
     }
 }
 
+TEST(WordBuilder, PartsALabelInAColumnFurtherRight) {
+    PageContentBuilder page;
+    page.text(72, 100, "\u6587\u7AE0", 12);
+    const double end = page.text(300, 100, "\u2022", 12);
+    page.text(end + 0.2 * 12, 100, "\u65E5\u672C", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("\u6587\u7AE0\t\u2022 \u65E5\u672C"));
+}
+
 TEST(WordBuilder, DoesNotMeasureLettersByTheDotsOfALeader) {
     PageContentBuilder page;
     page.text(72, 100, "Alimony received", 8);
