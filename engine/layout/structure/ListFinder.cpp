@@ -1,59 +1,58 @@
 #include "layout/structure/ListFinder.h"
 
-#include "layout/structure/DraftWalk.h"
 #include "layout/structure/ListGroups.h"
 #include "layout/structure/NumberingMaker.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
 
-void groupFlow(std::vector<DraftBlock>& blocks, const LayoutParameters& parameters, std::vector<ListGroup>& groups) {
-    ListGrouper grouper(parameters);
+using Groups = std::vector<ListGroup>;
+
+void move(Groups from, Groups& to) {
+    to.insert(to.end(), std::make_move_iterator(from.begin()), std::make_move_iterator(from.end()));
+}
+
+void groupItems(std::vector<DraftBlock>& blocks, TypedBlanks blanks, const LayoutParameters& parameters,
+                Groups& groups) {
+    ListGrouper grouper(blanks, parameters);
     for (DraftBlock& block : blocks) {
-        if (DraftParagraph* paragraph = block.paragraph())
+        DraftParagraph* paragraph = block.paragraph();
+        if (paragraph && paragraph->role == ParagraphRole::Body)
             grouper.add(*paragraph);
         else if (DraftTable* table = std::get_if<DraftTable>(&block.value))
             for (DraftCell& cell : table->cells)
-                groupFlow(cell.blocks, parameters, groups);
+                groupItems(cell.blocks, blanks, parameters, groups);
     }
-    for (ListGroup& group : grouper.takeGroups())
-        groups.push_back(std::move(group));
+    move(grouper.takeGroups(), groups);
 }
 
-/// What the file tells of the blanks between words: some have none, and leave a gap.
-enum class Blanks : unsigned char { Unknown, Painted };
+/// Headings count on their own, whatever lists stand between them.
+Groups groupHeadings(std::vector<DraftBlock>& blocks, TypedBlanks blanks, const LayoutParameters& parameters) {
+    ListGrouper grouper(blanks, parameters);
+    for (DraftBlock& block : blocks) {
+        DraftParagraph* paragraph = block.paragraph();
+        if (paragraph && paragraph->role == ParagraphRole::Heading &&
+            paragraph->pieces.front().text.alignment != document::Alignment::Center)
+            grouper.add(*paragraph);
+    }
+    return grouper.takeGroups();
+}
 
-/// Painted where the file has a blank for each one that was typed: a list's label has none behind it.
-Blanks blanksOf(DocumentDraft& draft, const StructureParameters::Lists& limits) {
-    std::size_t all = 0, painted = 0;
-    forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {
-        for (const DraftPiece& piece : paragraph.pieces)
-            for (const Line& line : piece.text.lines)
-                for (std::size_t i = 1; i < line.words.size(); ++i)
-                    if (line.words[i].gapBefore == Gap::Space) {
-                        ++all;
-                        painted += line.words[i].isTypedBefore ? 1 : 0;
-                    }
-    });
-    const bool arePainted =
-        all >= limits.fewestBlanks && static_cast<double>(painted) >= limits.paintedShare * static_cast<double>(all);
-    return arePainted ? Blanks::Painted : Blanks::Unknown;
+bool any(const std::vector<const ListItem*>& run, bool ListLabel::*trait) {
+    return std::any_of(run.begin(), run.end(), [trait](const ListItem* item) { return item->label.*trait; });
 }
 
 /// Whether so many items, with labels like these, are a list. A single number, or a blank behind the label at the edge
 /// of the text, is as likely to be something that was typed.
-bool isList(const std::vector<const ListItem*>& run, Blanks blanks, const StructureParameters::Lists& limits) {
-    const auto any = [&run](bool ListLabel::*trait) {
-        return std::any_of(run.begin(), run.end(), [trait](const ListItem* item) { return item->label.*trait; });
-    };
-    if (blanks == Blanks::Painted && !any(&ListLabel::isTyped) && run.size() > 1)
-        return true;
-    if (any(&ListLabel::isTyped) && !any(&ListLabel::hangs))
+bool isList(const std::vector<const ListItem*>& run, const StructureParameters::Lists& limits) {
+    if (any(run, &ListLabel::isTyped) && !any(run, &ListLabel::hangs))
         return false;
-    const bool isStrong = any(&ListLabel::isStrong);
+    const bool isStrong = any(run, &ListLabel::isStrong);
     const ListLabel& first = run.front()->label;
     if (first.format == document::NumberFormat::Bullet)
         return isStrong || (run.size() > 1 && first.labelStart > limits.sameIndent);
@@ -62,27 +61,39 @@ bool isList(const std::vector<const ListItem*>& run, Blanks blanks, const Struct
     return isStrong || first.labelStart > limits.sameIndent;
 }
 
-void dropDoubtfulRuns(ListGroup& group, Blanks blanks, const StructureParameters::Lists& limits) {
+/// Headings that one list numbers: of those only labels that nobody typed are sure.
+bool isNumberedByList(const std::vector<const ListItem*>& run) {
+    return std::all_of(run.begin(), run.end(), [](const ListItem* item) { return item->label.isSet; }) &&
+           run.front()->label.format != document::NumberFormat::Bullet;
+}
+
+template<typename Admits>
+void dropDoubtfulRuns(ListGroup& group, const Admits& admits) {
     std::map<std::size_t, std::vector<const ListItem*>> runs;
     for (const ListItem& item : group.items)
         runs[item.run].push_back(&item);
     std::map<std::size_t, bool> isKept;
     for (const auto& [run, items] : runs)
-        isKept[run] = isList(items, blanks, limits);
+        isKept[run] = admits(items);
     std::erase_if(group.items, [&](const ListItem& item) { return !isKept[item.run]; });
 }
 
 } // namespace
 
 void findLists(DocumentDraft& draft, const LayoutParameters& parameters) {
-    std::vector<ListGroup> groups;
-    groupFlow(draft.blocks, parameters, groups);
-    const Blanks blanks = blanksOf(draft, parameters.lists);
-    for (ListGroup& group : groups) {
-        dropDoubtfulRuns(group, blanks, parameters.lists);
+    const TypedBlanks blanks = typedBlanksOf(draft, parameters.lists);
+    Groups lists;
+    groupItems(draft.blocks, blanks, parameters, lists);
+    for (ListGroup& group : lists)
+        dropDoubtfulRuns(group, [&](const auto& run) { return isList(run, parameters.lists); });
+    Groups headings = groupHeadings(draft.blocks, blanks, parameters);
+    for (ListGroup& group : headings)
+        dropDoubtfulRuns(group, isNumberedByList);
+    std::erase_if(headings, [](const ListGroup& group) { return group.items.size() < 2; });
+    move(std::move(headings), lists);
+    for (const ListGroup& group : lists)
         if (!group.items.empty())
             makeNumbering(draft, group, parameters);
-    }
 }
 
 } // namespace orvane::layout

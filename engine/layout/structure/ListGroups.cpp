@@ -37,9 +37,7 @@ bool ListGrouper::isAtSameEdge(const ListLabel& a, const ListLabel& b) const {
 }
 
 void ListGrouper::add(DraftParagraph& paragraph) {
-    if (paragraph.role != ParagraphRole::Body)
-        return;
-    const std::vector<ListLabel> readings = readListLabel(paragraph, m_parameters);
+    const std::vector<ListLabel> readings = readListLabel(paragraph, m_blanks, m_parameters);
     for (const ListLabel& label : readings)
         if (goOn(paragraph, label))
             return;

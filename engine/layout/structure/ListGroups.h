@@ -25,10 +25,11 @@ struct ListGroup {
 /// Parts labelled paragraphs, in reading order, into groups.
 class ListGrouper {
 public:
-    explicit ListGrouper(const LayoutParameters& parameters)
-        : m_parameters(parameters) {}
+    ListGrouper(TypedBlanks blanks, const LayoutParameters& parameters)
+        : m_blanks(blanks)
+        , m_parameters(parameters) {}
 
-    /// A paragraph of the flow; one without a label may end what is open.
+    /// A paragraph of the flow.
     void add(DraftParagraph& paragraph);
     /// Nothing of what comes later goes on with what is open: the end of a cell, for instance.
     void closeAll() { m_open.clear(); }
@@ -53,6 +54,7 @@ private:
     void put(OpenGroup& open, DraftParagraph& paragraph, const ListLabel& label);
     bool isAtSameEdge(const ListLabel& a, const ListLabel& b) const;
 
+    TypedBlanks m_blanks;
     const LayoutParameters& m_parameters;
     std::vector<ListGroup> m_groups;
     std::vector<OpenGroup> m_open; ///< the latest last

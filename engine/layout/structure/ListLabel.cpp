@@ -56,6 +56,11 @@ void readNumbers(const std::string& text, ListLabel& label) {
         }
     }
     label.numbers.push_back(value);
+    // "2.0" above "2.1" is the second of its level.
+    while (label.numbers.size() > 1 && label.numbers.back() == 0) {
+        label.numbers.pop_back();
+        label.after.insert(0, ".0");
+    }
 }
 
 void readLetters(const std::string& text, int ordinal, ListLabel& label) {
@@ -84,7 +89,8 @@ double startOf(const Rect& box, const Line& line, const ColumnSpan& column) {
 
 } // namespace
 
-std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const LayoutParameters& parameters) {
+std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlanks blanks,
+                                     const LayoutParameters& parameters) {
     const DraftPiece& piece = paragraph.pieces.front();
     const Line& line = paragraph.firstLine();
     const auto marker = findListMarker(line, parameters.markers);
@@ -103,8 +109,9 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const Layo
     label.textStart = startOf(line.words[1].box, line, piece.column);
     // A single line shows no indent of the lines after it.
     label.hangs = piece.text.lines.size() > 1 && piece.text.firstLine < -parameters.lists.sameIndent;
-    label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || label.hangs;
     label.isTyped = line.words[1].isTypedBefore;
+    label.isSet = blanks == TypedBlanks::Painted && !label.isTyped;
+    label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || label.hangs || label.isSet;
     if (label.format == NumberFormat::Bullet)
         label.bullet = marker->text;
     else if (label.format == NumberFormat::Decimal)

@@ -4,6 +4,7 @@
 #include "layout/LayoutParameters.h"
 #include "layout/paragraphs/ListMarker.h"
 #include "layout/structure/DocumentDraft.h"
+#include "layout/structure/TypedBlanks.h"
 
 #include <optional>
 #include <string>
@@ -16,10 +17,11 @@ struct ListLabel {
     document::NumberFormat format = document::NumberFormat::Bullet;
     std::vector<int> numbers; ///< "2.1" gives two; empty for bullets
     std::string before;       ///< what stands before the (last) number: "(", "Step "
-    std::string after;        ///< and behind it: ".", ")"
+    std::string after;        ///< and behind it: ".", ")", ".0"
     std::string bullet;       ///< of a bullet
     bool isStrong = false;    ///< nothing but a list has such a label
     bool isTyped = false;     ///< a painted blank is all that parts it from the text
+    bool isSet = false;       ///< a program put it there: there is no blank where one would have been painted
     bool hangs = false;       ///< the lines after the first stand further in
     double labelStart = 0;    ///< from the column's start edge, points
     double textStart = 0;     ///< of what follows it
@@ -29,7 +31,8 @@ struct ListLabel {
 
 /// The readings of a paragraph's label, the likelier first: "i)" may be a letter or a numeral. Empty when there is
 /// none.
-std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const LayoutParameters& parameters);
+std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlanks blanks,
+                                     const LayoutParameters& parameters);
 
 /// True when both are labels of one kind of list: bullets of one sign, or numbers written alike.
 bool isSameKind(const ListLabel& a, const ListLabel& b);

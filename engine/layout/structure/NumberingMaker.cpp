@@ -88,7 +88,8 @@ void makeNumbering(DocumentDraft& draft, const ListGroup& group, const LayoutPar
         made.labels.push_back(LabelLook{items.front()->paragraph->pieces.front().page, labelSpan(*items.front())});
     }
     for (const ListItem& item : group.items) {
-        item.paragraph->role = ParagraphRole::ListItem;
+        if (item.paragraph->role == ParagraphRole::Body)
+            item.paragraph->role = ParagraphRole::ListItem;
         item.paragraph->list = document::ListReference{draft.numberings.size(), item.level};
         item.paragraph->labelWords = 1;
     }

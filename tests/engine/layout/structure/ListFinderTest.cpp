@@ -136,6 +136,8 @@ DocumentDraft paintedListOf(const std::vector<Row>& rows, BehindLabels label) {
     for (const Row& row : rows)
         draft.blocks.push_back(
             tests::makeBlock(tests::makeParagraph({tests::makeLine(row.text, row.left, baseline += 14)})));
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        draft.blocks[i + 1].paragraph()->role = rows[i].role;
     for (DraftBlock& block : draft.blocks) {
         std::vector<Word>& words = block.paragraph()->pieces.front().text.lines.front().words;
         for (std::size_t i = 1; i < words.size(); ++i)
@@ -153,6 +155,25 @@ TEST(ListFinder, LabelsWithoutThePaintedBlankOfOtherWordsAreWrittenByLists) {
 TEST(ListFinder, LabelsWithABlankOfTheirOwnWereTyped) {
     const DocumentDraft draft = paintedListOf({{"1. one", 90}, {"2. two", 90}}, BehindLabels::Blank);
     EXPECT_EQ(placesOf(draft), "- - -") << "though they stand further in than the text";
+}
+
+TEST(ListFinder, HeadingsThatAListNumbersStayHeadings) {
+    const std::vector<Row> rows = {{"1.0 Aims", 72, ParagraphRole::Heading},
+                                   {"1. one", 90},
+                                   {"2. two", 90},
+                                   {"2.0 Means", 72, ParagraphRole::Heading},
+                                   {"2.1 Money", 72, ParagraphRole::Heading}};
+    const DocumentDraft draft = paintedListOf(rows, BehindLabels::Nothing);
+    EXPECT_EQ(placesOf(draft), "- 1.0 0.0 0.0 1.0 1.1") << "on their own, whatever lists stand between them";
+    EXPECT_EQ(levelOf(draft, 1, 0).text, "%1.0");
+    EXPECT_EQ(levelOf(draft, 1, 1).text, "%1.%2");
+    EXPECT_EQ(draft.blocks[1].paragraph()->role, ParagraphRole::Heading);
+}
+
+TEST(ListFinder, HeadingsWhoseNumbersWereTypedKeepThem) {
+    const std::vector<Row> rows = {{"1. Aims", 72, ParagraphRole::Heading}, {"2. Means", 72, ParagraphRole::Heading}};
+    EXPECT_EQ(placesOf(paintedListOf(rows, BehindLabels::Blank)), "- - -");
+    EXPECT_EQ(placesOf(listsOf(rows)), "- -") << "and where nothing tells whether they were typed";
 }
 
 } // namespace
