@@ -1,11 +1,14 @@
 #include "layout/graphics/DrawingFinder.h"
 
 #include "layout/graphics/BarFinder.h"
+#include "layout/graphics/ChartFrames.h"
 #include "layout/graphics/ConnectorFinder.h"
 #include "layout/tables/CellComponents.h"
+#include "layout/text/LinePieces.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane::layout {
 namespace {
@@ -35,7 +38,8 @@ public:
         , m_isRuling(isRuling)
         , m_text(text)
         , m_limits(parameters.drawings)
-        , m_barLimits(parameters.bars) {}
+        , m_barLimits(parameters.bars)
+        , m_chartLimits(parameters.charts) {}
 
     std::vector<Figure> build() {
         groupPaths();
@@ -45,6 +49,7 @@ public:
         }
         uniteOverlapping();
         uniteConnected();
+        uniteFramed();
         for (Figure& drawing : m_drawings)
             drawing.isBackground = isPageWide(drawing.box) || liesUnderText(drawing.box, m_text.lines, m_limits);
         useUpRulesAndGrounds();
@@ -180,6 +185,28 @@ private:
         std::erase_if(m_drawings, [&](const Figure&) { return isGone[index++]; });
     }
 
+    /// Curves, points and the legend of a chart.
+    void uniteFramed() {
+        if (m_drawings.empty())
+            return;
+        for (const Rect& frame : findChartFrames(m_text, m_chartLimits)) {
+            Figure chart;
+            std::erase_if(m_drawings, [&](const Figure& drawing) {
+                const bool isWithin =
+                    !isPageWide(drawing.box) && frame.contains(Point{drawing.box.centerX(), drawing.box.centerY()});
+                if (isWithin && chart.paths.empty())
+                    chart = drawing;
+                else if (isWithin)
+                    takeOver(chart, drawing);
+                return isWithin;
+            });
+            if (chart.paths.empty())
+                continue;
+            chart.box = chart.box.united(frame);
+            m_drawings.push_back(std::move(chart));
+        }
+    }
+
     static void takeOver(Figure& host, const Figure& other) {
         host.box = host.box.united(other.box);
         host.paintOrder = std::min(host.paintOrder, other.paintOrder);
@@ -203,6 +230,7 @@ private:
     PageText& m_text;
     const GraphicsParameters::Drawings& m_limits;
     const GraphicsParameters::Bars& m_barLimits;
+    const GraphicsParameters::Charts& m_chartLimits;
     std::vector<Figure> m_drawings;
 };
 
@@ -229,6 +257,31 @@ bool hasUnknownSigns(const Rect& box, const pdf::PageContent& page) {
     });
 }
 
+/// The drawing that a line would label; none for other lines.
+const Figure* drawingAt(const Line& line, const std::vector<Figure>& figures) {
+    const auto drawing = std::find_if(figures.begin(), figures.end(), [&](const Figure& figure) {
+        return !figure.paths.empty() && !figure.isBackground &&
+               figure.box.contains(Point{line.box.centerX(), line.box.centerY()});
+    });
+    return drawing == figures.end() ? nullptr : &*drawing;
+}
+
+/// Parts lines that run from one drawing into another, or into the text beside it.
+void partLines(PageText& text) {
+    std::vector<Line> parted;
+    for (Line& line : text.lines) {
+        std::vector<Line> pieces = piecesOf(line);
+        const Figure* first = drawingAt(pieces.front(), text.figures);
+        const bool isOfOne = std::all_of(pieces.begin(), pieces.end(),
+                                         [&](const Line& piece) { return drawingAt(piece, text.figures) == first; });
+        if (isOfOne)
+            parted.push_back(std::move(line));
+        else
+            std::move(pieces.begin(), pieces.end(), std::back_inserter(parted));
+    }
+    text.lines = std::move(parted);
+}
+
 } // namespace
 
 bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
@@ -239,6 +292,7 @@ bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const Graphi
 }
 
 void labelDrawings(PageText& text, const pdf::PageContent& page) {
+    partLines(text);
     for (Figure& drawing : text.figures) {
         drawing.showsLabels = hasUnknownSigns(drawing.box, page);
         if (drawing.paths.empty() || drawing.isBackground)

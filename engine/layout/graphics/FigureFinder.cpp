@@ -1,5 +1,6 @@
 #include "layout/graphics/FigureFinder.h"
 
+#include "layout/graphics/ChartLabels.h"
 #include "layout/graphics/DrawingFinder.h"
 #include "layout/graphics/ShapeMaker.h"
 #include "layout/support/BoxGroups.h"
@@ -142,6 +143,7 @@ void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling
                       parameters.drawings.overlapShare);
     std::stable_sort(text.figures.begin(), text.figures.end(),
                      [](const Figure& a, const Figure& b) { return a.paintOrder < b.paintOrder; });
+    takeScales(text, parameters.charts);
     labelDrawings(text, page);
     for (Figure& figure : text.figures) {
         std::optional<ShapedDrawing> shaped = shapesOf(figure, page, parameters);

@@ -60,6 +60,18 @@ struct GraphicsParameters {
         double widestGap = 6.0; ///< of the breadth; between bars of one chart
     } bars;
 
+    /// ChartLabels: what stands around a chart. Lengths are shares of the label's font size.
+    struct Charts {
+        double smallest = 36;          ///< points; the shorter side of a drawing that may be a chart
+        double sameCorner = 1.5;       ///< points; rules that end so near to each other meet
+        double reach = 3.0;            ///< between the drawing and its numbers, and between these and the names
+        std::size_t fewestNumbers = 3; ///< of a scale
+        std::size_t fewestNames = 2;   ///< in a row below, of what bars stand for
+        std::size_t wordsOfLabel = 6;  ///< more are a sentence
+        double largestLabel = 1.5;     ///< of the numbers' size; larger letters are those of the text
+        double offMiddle = 0.15;       ///< of the chart's width; how far off its middle a title may stand
+    } charts;
+
     /// FigureFinder: pictures.
     struct Pictures {
         double smallest = 3;           ///< points; the longer side of a picture that is no spacer

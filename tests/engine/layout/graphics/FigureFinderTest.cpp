@@ -77,6 +77,51 @@ TEST(FigureFinder, TakesTheLabelsOfAnAxisForNoText) {
     EXPECT_FALSE(text.figures[0].isBackground);
 }
 
+/// A framed chart whose curves lie far apart, with numbers along two sides and names around it.
+void paintChart(PageContentBuilder& page, double left) {
+    page.horizontalRule(left, left + 200, 200);
+    page.horizontalRule(left, left + 200, 350);
+    page.verticalRule(left, 200, 350);
+    page.verticalRule(left + 200, 200, 350);
+    for (const double top : {215.0, 320.0})
+        for (int i = 0; i < 6; ++i)
+            page.line({left + 20 + i * 25.0, top + i % 2}, {left + 45 + i * 25.0, top + (i + 1) % 2 + 12});
+    for (int i = 0; i < 4; ++i)
+        page.text(left - 12, 200.0 + i * 48, std::to_string(3 - i), 6);
+    for (int i = 0; i < 5; ++i)
+        page.text(left + i * 48.0, 360, std::to_string(i * 100), 6);
+    page.text(left + 75, 370, "Number of tasks", 6);
+    page.text(left + 80, 194, "Weakly parallel", 6);
+}
+
+TEST(FigureFinder, MakesOneDrawingOfAChartWithItsScales) {
+    PageContentBuilder page;
+    paintChart(page, 80);
+    paintChart(page, 330);
+    page.text(72, 400, "Figure 1: What the two of them took, in letters of the text", 10);
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(2));
+    for (const Figure& figure : text.figures) {
+        std::size_t words = 0;
+        for (const Line& label : figure.labels)
+            words += label.words.size();
+        EXPECT_EQ(words, 4u + 5u + 3u + 2u) << "numbers at the side and below, what they count, and the title";
+    }
+    ASSERT_THAT(text.lines, SizeIs(1)) << "the caption stays text";
+}
+
+TEST(FigureFinder, LeavesTheTextBesideADrawingThatIsNoChart) {
+    PageContentBuilder page;
+    for (int i = 0; i < 6; ++i)
+        page.line({100 + i * 25.0, 200.0 + i % 2 * 60}, {125 + i * 25.0, 200.0 + (i + 1) % 2 * 60});
+    page.text(150, 275, "Our house", 8);
+    page.text(72, 230, "7", 8);
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_THAT(text.figures[0].labels, IsEmpty()) << "one number makes no scale";
+    EXPECT_THAT(text.lines, SizeIs(2));
+}
+
 TEST(FigureFinder, MakesAChartOfBarsADrawing) {
     PageContentBuilder page;
     const Color blue{20, 40, 200};
