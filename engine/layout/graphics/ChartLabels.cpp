@@ -42,8 +42,8 @@ public:
 
     /// The drawing with its labels; nothing when there is no scale.
     std::optional<Rect> box() {
-        const bool hasScale = takeSideScale() | takeScaleBelow();
-        if (!hasScale)
+        const bool hasSideScale = takeSideScale();
+        if (!takeScaleBelow() && !hasSideScale)
             return std::nullopt;
         takeNamesBelow();
         takeTurned();
@@ -77,10 +77,10 @@ private:
         return piece.box.centerY() > m_plot.top - em && piece.box.centerY() < m_plot.bottom + em;
     }
 
-    /// Right below what belongs to the chart already.
-    bool isBelow(const Line& piece) const {
+    /// Right below a level of the chart.
+    bool isBelow(const Line& piece, double bottom) const {
         const double em = piece.fontSize;
-        return piece.box.centerY() > m_box.bottom - em / 2 && piece.box.top < m_box.bottom + m_limits.reach * em &&
+        return piece.box.centerY() > bottom - em / 2 && piece.box.top < bottom + m_limits.reach * em &&
                piece.box.left > m_box.left - em && piece.box.right < m_box.right + m_limits.reach * em;
     }
 
@@ -101,19 +101,21 @@ private:
     bool takeScaleBelow() {
         Found found;
         for (const Line& piece : m_pieces)
-            if (piece.angle == 0 && isBelow(piece) && isScale(piece))
+            if (piece.angle == 0 && isBelow(piece, m_plot.bottom) && isScale(piece))
                 found.add(piece, piece.words.size());
         return take(found, m_limits.fewestNumbers);
     }
 
     /// What the bars stand for, in one row.
     void takeNamesBelow() {
+        const double bottom = m_box.bottom;
         for (const Line& first : m_pieces) {
-            if (!isLabel(first) || !isBelow(first))
+            if (!isLabel(first) || !isBelow(first, bottom))
                 continue;
             Found row;
             for (const Line& piece : m_pieces)
-                if (isLabel(piece) && std::abs(piece.baseline - first.baseline) < first.fontSize / 2 && isBelow(piece))
+                if (isLabel(piece) && std::abs(piece.baseline - first.baseline) < first.fontSize / 2 &&
+                    isBelow(piece, bottom))
                     row.add(piece, 1);
             if (take(row, m_limits.fewestNames))
                 return;
@@ -139,17 +141,26 @@ private:
 
     /// One line below, and one above, in the middle and in letters like those of the scales.
     void takeTitles() {
-        const Rect before = m_box;
+        const Line *below = nullptr, *above = nullptr;
         for (const Line& piece : m_pieces) {
+            if (!mayBeTitle(piece))
+                continue;
             const double reach = m_limits.reach * piece.fontSize;
-            const bool isNear =
-                (piece.box.top > before.bottom - piece.fontSize && piece.box.top < before.bottom + reach) ||
-                (piece.box.bottom < before.top + piece.fontSize && piece.box.bottom > before.top - reach);
-            const bool isInTheMiddle =
-                std::abs(piece.box.centerX() - m_plot.centerX()) < m_limits.offMiddle * m_plot.width();
-            if (isLabel(piece) && isNear && isInTheMiddle && piece.box.width() < m_plot.width())
-                m_box = m_box.united(piece.box);
+            if (piece.box.top > m_box.bottom - piece.fontSize && piece.box.top < m_box.bottom + reach &&
+                (!below || piece.box.top < below->box.top))
+                below = &piece;
+            if (piece.box.bottom < m_box.top + piece.fontSize && piece.box.bottom > m_box.top - reach &&
+                (!above || piece.box.bottom > above->box.bottom))
+                above = &piece;
         }
+        for (const Line* title : {below, above})
+            if (title)
+                m_box = m_box.united(title->box);
+    }
+
+    bool mayBeTitle(const Line& piece) const {
+        const double offMiddle = std::abs(piece.box.centerX() - m_plot.centerX());
+        return isLabel(piece) && offMiddle < m_limits.offMiddle * m_plot.width() && piece.box.width() < m_plot.width();
     }
 
     const Rect m_plot;

@@ -87,9 +87,9 @@ void paintChart(PageContentBuilder& page, double left) {
         for (int i = 0; i < 6; ++i)
             page.line({left + 20 + i * 25.0, top + i % 2}, {left + 45 + i * 25.0, top + (i + 1) % 2 + 12});
     for (int i = 0; i < 4; ++i)
-        page.text(left - 12, 200.0 + i * 48, std::to_string(3 - i), 6);
+        page.text(left - 12, 203.0 + i * 49, std::to_string(3 - i), 6);
     for (int i = 0; i < 5; ++i)
-        page.text(left + i * 48.0, 360, std::to_string(i * 100), 6);
+        page.text(left + i * 50.0 - 4, 357, std::to_string(i * 100), 6);
     page.text(left + 75, 370, "Number of tasks", 6);
     page.text(left + 80, 194, "Weakly parallel", 6);
 }
