@@ -49,6 +49,31 @@ ObjectPlace placeOne(const Rect& box, std::size_t object, const PageRegions& pag
     return place;
 }
 
+/// Of objects beside each other in a column the tallest makes room for the others.
+void letTallestStandAlone(std::vector<ObjectPlace>& places, std::span<const PageObject> objects,
+                          const PageParameters::ReadingOrder& parameters) {
+    std::vector<ObjectPlace*> byTop;
+    for (ObjectPlace& place : places)
+        if (place.standsAlone)
+            byTop.push_back(&place);
+    const auto boxOf = [&](const ObjectPlace* place) -> const Rect& { return objects[place->object].box; };
+    std::stable_sort(byTop.begin(), byTop.end(), [&](const ObjectPlace* a, const ObjectPlace* b) {
+        return std::tuple(a->region, boxOf(a).top) < std::tuple(b->region, boxOf(b).top);
+    });
+    for (std::size_t i = 0; i < byTop.size(); ++i) {
+        for (std::size_t j = i + 1; j < byTop.size() && byTop[j]->region == byTop[i]->region; ++j) {
+            const Rect &a = boxOf(byTop[i]), &b = boxOf(byTop[j]);
+            if (b.top >= a.bottom)
+                break;
+            const bool areBeside =
+                overlap(a.left, a.right, b.left, b.right) <= 0 &&
+                overlap(a.top, a.bottom, b.top, b.bottom) > parameters.besideShare * std::min(a.height(), b.height());
+            if (areBeside && byTop[i]->standsAlone && byTop[j]->standsAlone)
+                byTop[a.height() < b.height() ? i : j]->standsAlone = false;
+        }
+    }
+}
+
 } // namespace
 
 std::vector<ObjectPlace> placeObjects(std::span<const PageObject> objects, const PageRegions& page,
@@ -57,6 +82,7 @@ std::vector<ObjectPlace> placeObjects(std::span<const PageObject> objects, const
     places.reserve(objects.size());
     for (std::size_t i = 0; i < objects.size(); ++i)
         places.push_back(placeOne(objects[i].box, i, page, parameters.readingOrder));
+    letTallestStandAlone(places, objects, parameters.readingOrder);
     const auto key = [&](const ObjectPlace& place) {
         const PageObject& object = objects[place.object];
         return std::tuple(place.region, place.beforeLine, std::round(object.box.top), object.box.left,

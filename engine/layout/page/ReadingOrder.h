@@ -20,7 +20,7 @@ struct ObjectPlace {
     std::size_t object = 0;     ///< index into the objects given
     std::size_t region = 0;     ///< index into PageRegions::regions; their number when there are none
     std::size_t beforeLine = 0; ///< of the region; its number of lines for behind the last
-    bool standsAlone = true;    ///< no line of its column beside it
+    bool standsAlone = true;    ///< no line of its column beside it, and nothing taller
 };
 
 /// Finds each object's place among the regions' lines: in the column it stands in or nearest to, before the first line

@@ -122,6 +122,13 @@ TEST(PageLayouter, PutsFiguresIntoTheirPlace) {
     beside.box = {200, 90, 300, 140};
     EXPECT_EQ(describe(layoutArt({"Text that stands beside a", "figure and goes on below it"}, {beside})),
               "[figure]/Text that stands beside a figure and goes on below it");
+    Figure smaller, taller;
+    smaller.box = {0, 106, 60, 136};
+    taller.box = {80, 104, 140, 140};
+    EXPECT_EQ(
+        describe(layoutArt({"Above stands a line of text", "", "", "", "Below stands another one"}, {smaller, taller})),
+        "Above stands a line of text/[inline figure]/[figure]/Below stands another one")
+        << "one of two beside each other makes room for both";
     Figure ground;
     ground.box = {0, 0, 595, 842};
     ground.isBackground = true;
