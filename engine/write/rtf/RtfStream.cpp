@@ -39,6 +39,9 @@ void RtfStream::text(std::string_view utf8) {
     const std::u32string characters = utf32FromUtf8(utf8);
     for (std::size_t i = 0; i < characters.size(); ++i) {
         const bool isLineEndPair = characters[i] == '\r' && i + 1 < characters.size() && characters[i + 1] == '\n';
+        // LibreOffice makes three blanks of other widths of two that follow each other.
+        if (i > 0 && characters[i] == ' ' && characters[i - 1] == ' ')
+            symbol("{}");
         if (!isLineEndPair)
             character(characters[i]);
     }

@@ -56,11 +56,13 @@ const std::string& orLatin(const std::string& family, const RunProperties& of) {
 /// Writes the words of one run; each member writes those of one concern.
 class RunWriter {
 public:
-    RunWriter(RtfState& state, RtfStream& rtf, const RunProperties& value, const RunProperties& base)
+    RunWriter(RtfState& state, RtfStream& rtf, const RunProperties& value, const RunProperties& base,
+              const RunProperties& inherited)
         : m_state(state)
         , m_rtf(rtf)
         , m_value(value)
-        , m_base(base) {}
+        , m_base(base)
+        , m_inherited(inherited) {}
 
     /// The last of the two groups of properties is the one that holds for the text.
     void write(ScriptUse scripts) {
@@ -83,9 +85,10 @@ public:
     }
 
 private:
+    /// Whether a property must be written: it is not what holds without a word, or what some readers inherit is not.
     template<typename Member>
     bool differs(Member RunProperties::*member) const {
-        return m_value.*member != m_base.*member;
+        return m_value.*member != m_base.*member || m_inherited.*member != m_base.*member;
     }
 
     void writeComplex(const char* direction) {
@@ -111,9 +114,9 @@ private:
         if (!wanted.empty())
             m_rtf.word("af", m_state.fonts.numberOf(wanted));
         m_rtf.word("afs", size());
-        if (m_value.isBold || m_base.isBold)
+        if (m_value.isBold || m_base.isBold || m_inherited.isBold)
             writeOnOff("ab", m_value.isBold);
-        if (m_value.isItalic || m_base.isItalic)
+        if (m_value.isItalic || m_base.isItalic || m_inherited.isItalic)
             writeOnOff("ai", m_value.isItalic);
     }
 
@@ -217,6 +220,7 @@ private:
     RtfStream& m_rtf;
     const RunProperties& m_value;
     const RunProperties& m_base;
+    const RunProperties& m_inherited;
 };
 
 } // namespace
@@ -232,7 +236,12 @@ const RunProperties& plainRun() {
 
 void writeRunProperties(RtfState& state, RtfStream& rtf, const RunProperties& properties, const RunProperties& base,
                         ScriptUse scripts) {
-    RunWriter(state, rtf, properties, base).write(scripts);
+    RunWriter(state, rtf, properties, base, base).write(scripts);
+}
+
+void writeStyleRunProperties(RtfState& state, RtfStream& rtf, const RunProperties& properties,
+                             const RunProperties& inherited) {
+    RunWriter(state, rtf, properties, plainRun(), inherited).write(ScriptUse::Complex);
 }
 
 } // namespace orvane::write::rtf

@@ -16,4 +16,9 @@ const document::RunProperties& plainRun();
 void writeRunProperties(RtfState& state, RtfStream& rtf, const document::RunProperties& properties,
                         const document::RunProperties& base, ScriptUse scripts);
 
+/// Writes the words for what a style's characters are, complete, and what they are not where the style below,
+/// `inherited`, has it: LibreOffice has styles inherit what they do not say.
+void writeStyleRunProperties(RtfState& state, RtfStream& rtf, const document::RunProperties& properties,
+                             const document::RunProperties& inherited);
+
 } // namespace orvane::write::rtf

@@ -24,7 +24,7 @@ void writeStyle(RtfState& state, RtfStream& rtf, const Style& style) {
     const RtfGroup group(rtf);
     rtf.word("s", state.numberOf(style));
     writeParagraphProperties(state, rtf, style.paragraph, parent ? parent->paragraph : kPlainParagraph);
-    writeRunProperties(state, rtf, style.run, plainRun(), ScriptUse::Complex);
+    writeStyleRunProperties(state, rtf, style.run, parent ? parent->run : plainRun());
     // Pairs of letters stand where their widths put them, as they do in the other formats where nothing is said.
     if (parent)
         rtf.word("sbasedon", state.numberOf(*parent));

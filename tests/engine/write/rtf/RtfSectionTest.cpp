@@ -86,5 +86,16 @@ TEST(RtfStyle, IsCompleteAndNamesItsParent) {
     EXPECT_THAT(WrittenRtf(document).text(), HasSubstr("\\b\\sbasedon0\\snext0\\sqformat heading 1;}"));
 }
 
+TEST(RtfStyle, TakesBackWhatItsParentHas) {
+    Document document = documentOf("a");
+    Style light = document.styles[0];
+    light.id = light.name = "Light";
+    light.basedOn = light.next = "Normal";
+    document.styles.push_back(light);
+    document.styles[0].run.isBold = true;
+    document.styles[0].run.color = {255, 0, 0};
+    EXPECT_THAT(WrittenRtf(document).text(), HasSubstr("\\b0\\cf2\\sbasedon0\\snext0\\sqformat Light;}"));
+}
+
 } // namespace
 } // namespace orvane::tests

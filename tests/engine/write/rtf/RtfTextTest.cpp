@@ -43,6 +43,10 @@ TEST(RtfText, HasWordsForSpecialCharacters) {
     EXPECT_EQ(written("a\u00A0b\u00ADc\u2011d"), "a\\~b\\-c\\_d");
 }
 
+TEST(RtfText, HoldsBlanksThatFollowEachOtherApart) {
+    EXPECT_EQ(written("a b  c   d"), "a b {} c {} {} d");
+}
+
 TEST(RtfText, LeavesOutControlCharacters) {
     EXPECT_EQ(written(std::string("a\x01\x1F\fb")), "ab");
 }
