@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace orvane::tests {
 namespace {
 
@@ -21,7 +23,9 @@ TEST(DocExtreme, HasATableOfFiftyThousandCells) {
 
 TEST(DocExtreme, HasTablesWithinTablesBeyondWhatReadersTake) {
     const WrittenDoc doc(documentOf({{nestedTables(500)}}));
-    EXPECT_THAT(doc.read().text(), HasSubstr("innermost"));
+    const std::string text = doc.read().text();
+    EXPECT_THAT(text, HasSubstr("innermost"));
+    EXPECT_EQ(std::count(text.begin(), text.end(), 'x'), 499) << "no text is lost";
     EXPECT_THAT(doc.dump(), testing::Not(HasSubstr("6649=0b")));
     EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "told once, not for each table";
 }
@@ -46,6 +50,15 @@ TEST(DocExtreme, LeavesOutWhatNoFormatCanHold) {
         EXPECT_THAT(text, HasSubstr(word));
     EXPECT_THAT(text, testing::Not(HasSubstr("\\1b")));
     EXPECT_THAT(text, testing::Not(HasSubstr("\\ud800"))) << "halves of pairs";
+}
+
+TEST(DocExtreme, HasNumbersBeyondWhatTheFormatTakes) {
+    const WrittenDoc doc(hugeNumbers());
+    EXPECT_EQ(doc.read().text(), "a\\0d");
+    // The size of the letter, and the two indents: the most and the least that readers take.
+    EXPECT_THAT(doc.dump(), HasSubstr("4a43=cc0c"));
+    EXPECT_THAT(doc.dump(), HasSubstr("840f=4084"));
+    EXPECT_THAT(doc.dump(), HasSubstr("8411=4084"));
 }
 
 TEST(DocExtreme, IsWrittenWhereTheNameHasBlanksAndOtherLetters) {

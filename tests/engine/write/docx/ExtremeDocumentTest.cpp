@@ -61,24 +61,7 @@ TEST(ExtremeDocument, IsWrittenWhereTheNameHasBlanksAndOtherLetters) {
 }
 
 TEST(ExtremeDocument, HasNumbersBeyondWhatTheFormatTakes) {
-    constexpr int kHuge = 2000000000;
-    RunProperties look;
-    look.size = HalfPoints(kHuge);
-    look.characterSpacing = Twips(-kHuge);
-    look.widthPercent = 0;
-    Paragraph one = paragraph({text("a", look)});
-    one.properties.indentStart = Twips(-kHuge);
-    one.properties.firstLine = Twips(-kHuge);
-    one.properties.spaceBefore = Twips(-5);
-    one.properties.lineSpacing = {LineSpacingRule::Exact, 1, Twips(-kHuge)};
-    one.properties.outlineLevel = 99;
-    one.properties.borders.top = {BorderKind::Single, EighthPoints(kHuge), kBlack, kHuge};
-    Document document = documentOf(one);
-    Section& page = document.sections[0];
-    page.pageWidth = page.pageHeight = Twips(0);
-    page.marginLeft = Twips(-kHuge);
-    page.firstPageNumber = -4;
-    EXPECT_THAT(faultsOfDocx(WrittenDocument(document).file()), testing::IsEmpty());
+    EXPECT_THAT(faultsOfDocx(WrittenDocument(hugeNumbers()).file()), testing::IsEmpty());
 }
 
 } // namespace

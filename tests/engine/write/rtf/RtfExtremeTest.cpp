@@ -53,6 +53,12 @@ TEST(RtfExtreme, LeavesOutWhatNoFormatCanHold) {
                             [](char c) { return c == '\n' || c == '\r' || (c >= ' ' && c < 0x7F); }));
 }
 
+TEST(RtfExtreme, HasNumbersBeyondWhatTheFormatTakes) {
+    const WrittenRtf rtf(hugeNumbers());
+    EXPECT_EQ(faultOfRtf(rtf.text()), "");
+    EXPECT_FALSE(rtf.has("2000000000"));
+}
+
 TEST(RtfExtreme, IsWrittenWhereTheNameHasBlanksAndOtherLetters) {
     const TemporaryFolder folder;
     const std::filesystem::path target = folder.path() / u8"ein Name \u00E4 \u4E2D\u6587.rtf";

@@ -22,6 +22,9 @@ document::Document manyPictures(PictureStore& pictures, std::size_t count);
 /// no UTF-8. Between them stand the words "before", "within" and "behind".
 document::Document awkwardText();
 
+/// A paragraph and a page with lengths, sizes and levels that no format takes.
+document::Document hugeNumbers();
+
 /// What the longest of these may take to write, on a slow machine under load.
 inline constexpr std::chrono::seconds kLongEnough{60};
 
