@@ -51,4 +51,11 @@ bool isBox(const Shape& shape) {
     return hasCorner[0][0] && hasCorner[0][1] && hasCorner[1][0] && hasCorner[1][1];
 }
 
+bool isSingleShape(const Drawing& drawing) {
+    if (drawing.shapes.size() != 1)
+        return false;
+    const Shape& shape = drawing.shapes.front();
+    return shape.x == Emu(0) && shape.y == Emu(0) && shape.width == drawing.width && shape.height == drawing.height;
+}
+
 } // namespace orvane::write

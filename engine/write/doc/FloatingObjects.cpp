@@ -1,10 +1,10 @@
 #include "write/doc/FloatingObjects.h"
 
+#include "write/StoredBox.h"
 #include "write/doc/ArtRecords.h"
 #include "write/doc/ShapeDoc.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <numeric>
 #include <utility>
@@ -16,29 +16,15 @@ using namespace document;
 
 /// Numbers of shapes come in blocks, each for one drawing. Source: [MS-ODRAW] 2.2.46 (OfficeArtIDCL).
 constexpr int kBlock = 1024;
-constexpr double kEmuATwip = 635;
 
-struct Extent {
-    double width;
-    double height;
-    double rotation;
-};
-
-Extent extentOf(const FloatingObject& object) {
-    const auto extent = [](Emu width, Emu height, double rotation) {
-        return Extent{static_cast<double>(width.value), static_cast<double>(height.value), rotation};
-    };
+StoredBox boxOf(const FloatingObject& object) {
+    const Placement& placement = object.placement();
     if (object.frame)
-        return extent(object.frame->width, object.frame->height, object.frame->rotation);
+        return storedBox(placement, object.frame->width, object.frame->height, object.frame->rotation);
     if (const auto* picture = std::get_if<Picture>(&object.figure->content))
-        return extent(picture->width, picture->height, picture->rotation);
+        return storedBox(placement, picture->width, picture->height, picture->rotation);
     const auto& drawing = std::get<Drawing>(object.figure->content);
-    return extent(drawing.width, drawing.height, 0);
-}
-
-std::int64_t twips(double emu) {
-    constexpr double kMost = 1e6;
-    return std::llround(std::clamp(emu / kEmuATwip, -kMost, kMost));
+    return storedBox(placement, drawing.width, drawing.height, 0);
 }
 
 /// Source: [MS-DOC] 2.9.253 (Spa: bx, by, wr, fBelowText).
@@ -58,19 +44,11 @@ int flagsOf(const Placement& placement) {
            (placement.wrapping == Wrapping::BehindText ? kBelowText : 0);
 }
 
-/// A box that is turned onto its side is stored as the box it then covers. Source: [MS-ODRAW] 2.3.18.5 (rotation).
 std::string anchorRecord(const FloatingObject& object) {
-    auto [width, height, rotation] = extentOf(object);
-    auto x = static_cast<double>(object.placement().x.value);
-    auto y = static_cast<double>(object.placement().y.value);
-    const double turn = std::fmod(std::fmod(rotation, 360) + 360, 360);
-    if ((turn >= 45 && turn < 135) || (turn >= 225 && turn < 315)) {
-        x += (width - height) / 2;
-        y += (height - width) / 2;
-        std::swap(width, height);
-    }
+    const StoredBox box = boxOf(object);
     Bytes bytes;
-    bytes.u32(object.shape).u32(twips(x)).u32(twips(y)).u32(twips(x + width)).u32(twips(y + height));
+    bytes.u32(object.shape).u32(storedTwips(box.left)).u32(storedTwips(box.top));
+    bytes.u32(storedTwips(box.right)).u32(storedTwips(box.bottom));
     return bytes.u16(flagsOf(object.placement())).u32(0).str();
 }
 

@@ -261,14 +261,10 @@ std::string group(const Drawing& drawing, const Placement& placement, int id, Sh
     return art::container(art::type::kGroup, content);
 }
 
-bool fills(const Shape& shape, const Drawing& drawing) {
-    return shape.x == Emu(0) && shape.y == Emu(0) && shape.width == drawing.width && shape.height == drawing.height;
-}
-
 } // namespace
 
 std::string drawingRecords(const Drawing& drawing, const Placement& placement, int id, ShapeNumbers& numbers) {
-    if (drawing.shapes.size() == 1 && fills(drawing.shapes.front(), drawing))
+    if (isSingleShape(drawing))
         return singleShape(drawing, placement, id);
     return group(drawing, placement, id, numbers);
 }

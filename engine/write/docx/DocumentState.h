@@ -60,6 +60,7 @@ struct Story {
 
     int nextDrawingId = 1;
     int tableDepth = 0;
+    int flattenedTables = 0; ///< tables around that became paragraphs
     int frameDepth = 0;
     // A text box cannot hold notes, comments and other floating objects: what stood in it follows it.
     std::vector<std::size_t> displacedNotes{};

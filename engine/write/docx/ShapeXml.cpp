@@ -1,5 +1,6 @@
 #include "write/docx/ShapeXml.h"
 
+#include "write/ShapeOutline.h"
 #include "write/docx/DrawingXml.h"
 #include "write/docx/ShapeGeometryXml.h"
 
@@ -59,10 +60,6 @@ void writeGroup(Story& story, const Drawing& drawing) {
         writeShape(xml, shape, story.nextDrawingId++);
 }
 
-bool fills(const Shape& shape, const Drawing& drawing) {
-    return shape.x == Emu(0) && shape.y == Emu(0) && shape.width == drawing.width && shape.height == drawing.height;
-}
-
 } // namespace
 
 void writeFill(XmlWriter& xml, const std::optional<Color>& fill, double opacity) {
@@ -97,7 +94,7 @@ void writeFloatingShapes(Story& story, const Drawing& drawing, const Placement& 
         return;
     const DrawingOutline outline{drawing.width, drawing.height, 0, "Drawing", drawing.alternateText};
     const Shape& first = drawing.shapes.front();
-    if (drawing.shapes.size() == 1 && fills(first, drawing))
+    if (isSingleShape(drawing))
         writeFloatingDrawing(story, outline, placement, DrawingDialect::Shape,
                              [&](int) { writeSingleShape(story.xml, first); });
     else

@@ -1,6 +1,7 @@
 #include "write/docx/TableXml.h"
 
 #include "write/TableGrid.h"
+#include "write/TableLimits.h"
 #include "write/docx/BlockXml.h"
 #include "write/docx/CellXml.h"
 
@@ -11,9 +12,6 @@ namespace {
 
 using namespace document;
 
-/// Word processors need several times as long for each table within a table that goes over a page's end, and XML
-/// readers give up at 256 elements, of which a table takes three.
-constexpr int kDeepestTable = 10;
 constexpr int kTallestRow = 31680;
 
 /// The first cell's margins stand in the table's properties, so that only cells with others repeat them.
@@ -85,31 +83,18 @@ void writeRows(Story& story, const Table& table, TableGrid& grid, const CellDefa
     }
 }
 
-void writeAsParagraphs(Story& story, const Table& table) {
-    if (story.tableDepth == kDeepestTable)
-        story.state.diagnostics.add(DiagnosticKind::FormatLimitReached, table.origin.page,
-                                    "a table stands within too many others and became paragraphs", table.origin.box);
-    ++story.tableDepth;
-    for (const TableRow& row : table.rows)
-        for (const TableCell& cell : row.cells)
-            writeBlocks(story, cell.blocks);
-    --story.tableDepth;
-}
-
 } // namespace
 
 void writeTable(Story& story, const Table& table) {
     if (table.rows.empty())
         return;
     if (story.tableDepth >= kDeepestTable) {
-        writeAsParagraphs(story, table);
+        writeAsParagraphs(table, story.flattenedTables, story.state.diagnostics,
+                          [&story](const std::vector<Block>& blocks) { writeBlocks(story, blocks); });
         return;
     }
     TableGrid grid(table);
-    if (grid.wasCut())
-        story.state.diagnostics.add(DiagnosticKind::FormatLimitReached, table.origin.page,
-                                    "a table has more columns than word processors take; the last ones became one",
-                                    table.origin.box);
+    tellOfCutColumns(grid, table, story.state.diagnostics);
     const CellDefaults defaults = defaultsOf(table);
     const XmlElement tbl(story.xml, "w:tbl");
     writeTableProperties(story.xml, table, grid, defaults);

@@ -1,9 +1,10 @@
 #include "write/rtf/ShapeProperties.h"
 
+#include "write/StoredBox.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace orvane::write::rtf {
 namespace {
@@ -12,7 +13,6 @@ using namespace document;
 
 constexpr std::int64_t kMostEmu = std::numeric_limits<std::int32_t>::max();
 constexpr double kBinaryPlaces = 65536;
-constexpr std::int64_t kEmuATwip = 635;
 // Source: [MS-ODRAW] 2.4.14 (MSOLINESTYLE), 2.4.15 (MSOLINEDASHING).
 constexpr int kDoubleLine = 1;
 constexpr int kDashed = 6;
@@ -62,34 +62,8 @@ int wrapNumber(Wrapping wrapping) {
     return 3;
 }
 
-/// Units: EMU.
-struct StoredBox {
-    double left, top, right, bottom;
-};
-
-/// Where the object's box stands. A box that is turned onto its side is stored as the box it then covers.
-/// Source: [MS-ODRAW] 2.3.18.5 (rotation).
-StoredBox storedBox(const Placement& placement, const ShapeExtent& extent) {
-    double x = static_cast<double>(placement.x.value);
-    double y = static_cast<double>(placement.y.value);
-    double width = static_cast<double>(extent.width.value);
-    double height = static_cast<double>(extent.height.value);
-    const double turn = static_cast<double>(shapeAngle(extent.rotation)) / kBinaryPlaces;
-    if ((turn >= 45 && turn < 135) || (turn >= 225 && turn < 315)) {
-        x += (width - height) / 2;
-        y += (height - width) / 2;
-        std::swap(width, height);
-    }
-    return {x, y, x + width, y + height};
-}
-
 std::int64_t colorValue(Color color) {
     return color.red | color.green << 8 | color.blue << 16;
-}
-
-std::int64_t twips(double emu) {
-    constexpr double kMost = 1e6;
-    return std::llround(std::clamp(emu / kEmuATwip, -kMost, kMost));
 }
 
 } // namespace
@@ -110,14 +84,14 @@ void writeShapeProperty(RtfStream& rtf, std::string_view name, std::int64_t valu
 
 void writePlacement(Story& story, const Placement& placement, const ShapeExtent& extent) {
     RtfStream& rtf = story.rtf;
-    const StoredBox box = storedBox(placement, extent);
+    const StoredBox box = storedBox(placement, extent.width, extent.height, extent.rotation);
     const AnchorWords horizontal = wordsFor(placement.horizontalAnchor);
     const AnchorWords vertical = wordsFor(placement.verticalAnchor);
     const bool isBehind = placement.wrapping == Wrapping::BehindText;
-    rtf.word("shpleft", twips(box.left));
-    rtf.word("shptop", twips(box.top));
-    rtf.word("shpright", twips(box.right));
-    rtf.word("shpbottom", twips(box.bottom));
+    rtf.word("shpleft", storedTwips(box.left));
+    rtf.word("shptop", storedTwips(box.top));
+    rtf.word("shpright", storedTwips(box.right));
+    rtf.word("shpbottom", storedTwips(box.bottom));
     rtf.word("shpfhdr", story.kind == StoryKind::RunningText ? 1 : 0);
     rtf.word(horizontal.word);
     rtf.word("shpbxignore");

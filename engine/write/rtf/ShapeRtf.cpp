@@ -158,16 +158,12 @@ void writeGroup(Story& story, const Drawing& drawing) {
         writeMember(rtf, shape);
 }
 
-bool fills(const Shape& shape, const Drawing& drawing) {
-    return shape.x == Emu(0) && shape.y == Emu(0) && shape.width == drawing.width && shape.height == drawing.height;
-}
-
 } // namespace
 
 void writeFloatingShapes(Story& story, const Drawing& drawing, const Placement& placement) {
     if (drawing.shapes.empty())
         return;
-    if (drawing.shapes.size() == 1 && fills(drawing.shapes.front(), drawing)) {
+    if (isSingleShape(drawing)) {
         writeSingleShape(story, drawing, placement);
         return;
     }
