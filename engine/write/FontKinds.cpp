@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 namespace orvane::write {
 namespace {
@@ -26,6 +27,11 @@ FontKind fontKindOf(std::string_view name) {
     if (hasOneOf(name, {"Arial", "Helvetica", "Calibri", "Carlito", "Verdana", "Tahoma", "Segoe", "Gothic"}))
         return FontKind::Swiss;
     return FontKind::Unknown;
+}
+
+bool isSymbolFont(std::string_view name) {
+    constexpr std::string_view kFonts[] = {"Symbol", "Wingdings", "Wingdings 2", "Wingdings 3", "Webdings", "MT Extra"};
+    return std::find(std::begin(kFonts), std::end(kFonts), name) != std::end(kFonts);
 }
 
 } // namespace orvane::write

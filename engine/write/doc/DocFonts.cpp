@@ -9,6 +9,7 @@ namespace {
 constexpr std::size_t kLongestName = 64;
 constexpr int kTrueType = 0x04;
 constexpr int kNormalWeight = 400;
+constexpr int kSymbols = 2; ///< Source: [MS-DOC] 2.9.91 (FFN, chs)
 
 /// Source: [MS-DOC] 2.9.90 (FfdIdBits: pitch, family).
 int idBits(FontKind kind) {
@@ -47,7 +48,8 @@ std::string DocFonts::table() const {
     table.u16(static_cast<std::int64_t>(m_families.size())).u16(0);
     for (const std::string& family : m_families) {
         Bytes font;
-        font.u8(idBits(fontKindOf(family))).u16(kNormalWeight).u8(0).u8(0).zeros(10 + 24);
+        font.u8(idBits(fontKindOf(family))).u16(kNormalWeight);
+        font.u8(isSymbolFont(family) ? kSymbols : 0).u8(0).zeros(10 + 24);
         font.characters(utf16FromUtf8(family).substr(0, kLongestName)).u16(0);
         table.u8(static_cast<std::int64_t>(font.size())).raw(font.str());
     }

@@ -37,6 +37,8 @@ void addFontTablePart(DocumentState& state, Relationships& relationships) {
     for (const std::string& name : state.fontFamilies) {
         const XmlElement font(part.xml(), "w:font", {{"w:name", name}});
         const FontKind kind = fontKindOf(name);
+        if (isSymbolFont(name))
+            part.xml().leaf("w:charset", {{"w:val", "02"}});
         part.xml().leaf("w:family", {{"w:val", nameOf(kind)}});
         part.xml().leaf("w:pitch", {{"w:val", kind == FontKind::Modern ? "fixed" : "variable"}});
     }

@@ -25,6 +25,7 @@ const char* wordFor(FontKind kind) {
 
 constexpr int kFixedPitch = 1;
 constexpr int kVariablePitch = 2;
+constexpr int kSymbols = 2; ///< Source: RTF 1.9.1, "Font Table" (\fcharset)
 
 } // namespace
 
@@ -45,7 +46,7 @@ void FontTable::write(RtfStream& rtf) const {
         const RtfGroup font(rtf);
         rtf.word("f", static_cast<int>(i));
         rtf.word(wordFor(kind));
-        rtf.word("fcharset", 0);
+        rtf.word("fcharset", isSymbolFont(m_families[i]) ? kSymbols : 0);
         rtf.word("fprq", kind == FontKind::Modern ? kFixedPitch : kVariablePitch);
         rtf.text(m_families[i]);
         rtf.raw(";");

@@ -47,6 +47,16 @@ TEST(DocRun, NamesFontsByNumber) {
     EXPECT_EQ(doc.read().table(15).substr(0, 2), std::string("\3\0", 2)) << "the default font is the first of three";
 }
 
+TEST(DocRun, TellsFontsOfSignsApart) {
+    RunProperties look;
+    look.fontFamily = "Symbol";
+    const std::string fonts = WrittenDoc(documentOf("\uF0B7", look)).read().table(15);
+    // The entry of the font ends with its name; its set of signs stands 36 bytes before that.
+    const std::size_t name = fonts.find(std::string("S\0y\0m\0b\0o\0l\0", 12));
+    ASSERT_NE(name, std::string::npos);
+    EXPECT_EQ(fonts.substr(name - 36, 1), "\2");
+}
+
 TEST(DocRun, MarksWithColoursThatMarkersHave) {
     RunProperties marked;
     marked.highlight = Color{255, 255, 0};

@@ -85,5 +85,13 @@ TEST(FontTable, NamesTheFontsInUseAndTheirKind) {
     EXPECT_EQ(written.select("word/fontTable.xml", "//w:pitch/@w:val"), "variable\nfixed\nvariable\n");
 }
 
+TEST(FontTable, TellsFontsOfSignsApart) {
+    RunProperties look;
+    look.fontFamily = "Wingdings";
+    look.eastAsianFontFamily = "MS Mincho";
+    const WrittenDocument written(documentOf("\uF0A7", look));
+    EXPECT_EQ(written.select("word/fontTable.xml", "//w:font[w:charset/@w:val='02']/@w:name"), "Wingdings\n");
+}
+
 } // namespace
 } // namespace orvane::tests

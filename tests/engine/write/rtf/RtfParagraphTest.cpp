@@ -34,6 +34,12 @@ TEST(RtfRun, NamesFontsByScript) {
     EXPECT_THAT(rtf.body(), HasSubstr("\\loch\\af1\\hich\\af1\\dbch\\af2\\loch\\f1\\u20013?"));
 }
 
+TEST(RtfRun, TellsFontsOfSignsApart) {
+    RunProperties look;
+    look.fontFamily = "Symbol";
+    EXPECT_THAT(WrittenRtf(documentOf("\uF0B7", look)).text(), HasSubstr("\\fcharset2\\fprq2 Symbol;}"));
+}
+
 TEST(RtfRun, GivesRightToLeftTextTheLookOfComplexScripts) {
     RunProperties look;
     look.fontFamily = "Carlito";
