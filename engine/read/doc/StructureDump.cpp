@@ -108,6 +108,15 @@ std::string levelText(const ByteView& bytes, std::size_t& at, const ByteView& da
     return text + paddedLine("  paragraph", own) + paddedLine("  characters", run);
 }
 
+/// When something was made, behind a comma; empty where the file does not say. Source: [MS-DOC] 2.9.67 (DTTM).
+std::string dateText(std::uint32_t packed) {
+    constexpr std::uint32_t kFirstYear = 1900;
+    if (packed == 0)
+        return {};
+    return fmt::format(", made {}-{:02}-{:02} {:02}:{:02}", kFirstYear + (packed >> 20 & 0x1FF), packed >> 16 & 0xF,
+                       packed >> 11 & 0x1F, packed >> 6 & 0x1F, packed & 0x3F);
+}
+
 std::string places(std::string_view name, const ByteView& bytes, std::size_t entrySize) {
     const PlaceList list(bytes, entrySize);
     if (list.count() == 0)
@@ -194,12 +203,13 @@ std::string dumpSections(const WordFile& file) {
 }
 
 std::string dumpFields(const WordFile& file) {
-    constexpr std::array<std::pair<std::size_t, TextPart>, 6> kFields{{{16, TextPart::Body},
+    constexpr std::array<std::pair<std::size_t, TextPart>, 7> kFields{{{16, TextPart::Body},
                                                                        {17, TextPart::RunningTexts},
                                                                        {18, TextPart::Footnotes},
                                                                        {19, TextPart::Comments},
                                                                        {48, TextPart::Endnotes},
-                                                                       {57, TextPart::TextBoxes}}};
+                                                                       {57, TextPart::TextBoxes},
+                                                                       {59, TextPart::RunningTextBoxes}}};
     std::string text;
     for (const auto& [number, part] : kFields) {
         const PlaceList list(file.table(number), 2);
@@ -244,9 +254,12 @@ std::string dumpComments(const WordFile& file) {
     constexpr std::size_t kMarks = 4;
     constexpr std::size_t kTexts = 5;
     constexpr std::size_t kAuthors = 36;
+    constexpr std::size_t kDetails = 112;
+    constexpr std::size_t kDetailSize = 18;
     const PlaceList marks(file.table(kMarks), 30);
     const PlaceList starts(file.table(kTexts), 0);
     const ByteView names = file.table(kAuthors);
+    const ByteView details = file.table(kDetails);
     std::string text;
     for (std::size_t at = 0, i = 0; at < names.size(); ++i) {
         const std::size_t length = names.u16(at);
@@ -256,8 +269,10 @@ std::string dumpComments(const WordFile& file) {
     for (std::size_t i = 0; i < marks.count(); ++i) {
         const ByteView mark = marks.entry(i);
         const std::size_t length = mark.u16(0);
-        text += fmt::format("  comment at {}: text from {}, author {} {}\n", marks.place(i), starts.place(i),
-                            mark.u16(20), quotedText(mark, 2, length > 9 ? 9 : length));
+        const std::size_t detail = kDetailSize * i;
+        const std::uint32_t date = detail + kDetailSize <= details.size() ? details.u32(detail) : 0;
+        text += fmt::format("  comment at {}: text from {}, author {} {}{}\n", marks.place(i), starts.place(i),
+                            mark.u16(20), quotedText(mark, 2, length > 9 ? 9 : length), dateText(date));
     }
     return text;
 }

@@ -122,7 +122,7 @@ TEST(DocDump, ShowsFieldsBookmarksNotesAndComments) {
                                               {NoteReference{0, {}, "*"}},
                                               {CommentReference{0}}}));
     document.notes = {{NoteKind::Footnote, {{paragraph("foot")}}, {}}};
-    document.comments = {{"Ada B\u00F6ll", "", {{paragraph("why")}}}};
+    document.comments = {{"Ada B\u00F6ll", "2024-02-29T08:31:00Z", {{paragraph("why")}}}};
     const Dump dump = dumpDoc(written(document));
     EXPECT_EQ(part(dump, "text: body"), "  0 style 0\n    \"a\"\n    \"<field>\" special=1\n    \" PAGE \"\n"
                                         "    \"<result>\" special=1\n    \"7\"\n    \"</field>\" special=1\n"
@@ -131,7 +131,8 @@ TEST(DocDump, ShowsFieldsBookmarksNotesAndComments) {
                                     "  body 10: character 15 kind 128\n");
     EXPECT_EQ(part(dump, "bookmarks"), "  \"place\" from 11 to 11\n");
     EXPECT_EQ(part(dump, "notes"), "  footnote at 11: text from 0, a mark of its own\n");
-    EXPECT_EQ(part(dump, "comments"), "  author 0 \"Ada B\u00F6ll\"\n  comment at 12: text from 0, author 0 \"AB\"\n");
+    EXPECT_EQ(part(dump, "comments"),
+              "  author 0 \"Ada B\u00F6ll\"\n  comment at 12: text from 0, author 0 \"AB\", made 2024-02-29 08:31\n");
     EXPECT_EQ(part(dump, "text: comments"), "  0 style 0\n    \"<comment>\" special=1\n    \"why<end>\"\n"
                                             "  5 style 0\n    \"<end>\"\n");
 }
