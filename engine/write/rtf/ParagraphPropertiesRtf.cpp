@@ -143,11 +143,10 @@ private:
         }
     }
 
+    /// There is no word that takes a switch back: after \pard all are off, and readers take one with a number for on.
     void writeSwitch(const char* word, bool ParagraphProperties::*member) {
         if (m_value.*member)
             m_rtf.word(word);
-        else if (m_inherited.*member)
-            m_rtf.word(word, 0);
     }
 
     void writeBorders() {
