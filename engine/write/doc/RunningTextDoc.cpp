@@ -31,6 +31,13 @@ const Blocks* standardText(const RunningText& text) {
     return !text.standard && hasOthers ? &kBlank : pointerTo(text.standard);
 }
 
+/// The texts, or none where nothing stands in any of them: a blank text takes room in a header.
+const RunningText& withoutBlanks(const RunningText& text) {
+    static const RunningText kNone;
+    const auto hasContent = [](const std::optional<Blocks>& blocks) { return blocks && !blocks->empty(); };
+    return hasContent(text.standard) || hasContent(text.firstPage) || hasContent(text.evenPages) ? text : kNone;
+}
+
 /// One text, with what floats over it.
 struct RunningStory {
     StoryText text;
@@ -89,6 +96,8 @@ private:
 
     void addSection(const Section& section) {
         const bool hasFirst = section.header.firstPage || section.footer.firstPage;
+        const RunningText& header = withoutBlanks(section.header);
+        const RunningText& footer = withoutBlanks(section.footer);
         // Where a page has no text of its own kind the standard one stands there too; the format would leave it empty.
         const auto even = [this](const RunningText& text) -> const Blocks* {
             if (!m_result.hasEvenPages)
@@ -100,9 +109,8 @@ private:
                 return nullptr;
             return text.firstPage ? pointerTo(text.firstPage) : standardText(text);
         };
-        const std::array<const Blocks*, kKinds> texts{even(section.header),  standardText(section.header),
-                                                      even(section.footer),  standardText(section.footer),
-                                                      first(section.header), first(section.footer)};
+        const std::array<const Blocks*, kKinds> texts{even(header),         standardText(header), even(footer),
+                                                      standardText(footer), first(header),        first(footer)};
         for (std::size_t kind = 0; kind < kKinds; ++kind)
             addText(kind, texts[kind]);
     }

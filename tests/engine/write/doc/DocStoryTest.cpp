@@ -107,6 +107,14 @@ TEST(DocSection, HasRunningTextsForKindsOfPages) {
         << "footers of other pages than the first are blank";
 }
 
+TEST(DocSection, HasNoHeaderWhereAllKindsOfItAreBlank) {
+    Document document = documentOf("body");
+    document.sections[0].header.firstPage = std::vector<Block>{};
+    document.sections[0].footer.standard = {{paragraph("foot")}};
+    const WrittenDoc doc(document);
+    EXPECT_THAT(doc.read().numbers(11), ElementsAre(0, 3, 6, 6, 9, 12, 12, 12, 12, 12, 18, 18, 24, 25));
+}
+
 TEST(DocSection, TakesOverTheRunningTextsOfTheOneBefore) {
     Document document = documentOf("a");
     document.sections[0].footer.standard = {{paragraph("foot")}};
