@@ -1,6 +1,7 @@
 #include "layout/tables/AlignedAdmission.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <limits>
 #include <set>
@@ -266,23 +267,44 @@ private:
         return filled < m_parameters.filledRowShare * static_cast<double>(m_aligned.groups.size());
     }
 
-    /// The largest share of the column's pieces that keep one edge.
+    /// Where a number's point stands, or where it would: behind the number.
+    double pointOf(const TextPiece& piece) const {
+        const std::string text = textOf(piece, lines());
+        const std::size_t point = text.find_last_of(",.");
+        const double before = static_cast<double>(point == std::string::npos ? text.size() : point);
+        return piece.box.left + piece.box.width() * before / static_cast<double>(text.size());
+    }
+
+    /// The largest share of the column's pieces that keep one edge, or the place of their points. Signs of currency
+    /// that stand apart from their amounts do not count.
     double keptShare(const ColumnPieces& column) const {
-        double most = 0;
-        for (const double weight : {0.0, 0.5, 1.0}) {
-            std::vector<double> edges;
-            for (const TextPiece* piece : column.pieces)
-                if (!isCurrencySign(textOf(*piece, lines())))
-                    edges.push_back(piece->box.left + weight * piece->box.width());
-            std::sort(edges.begin(), edges.end());
-            const double tolerance = m_parameters.columnEdge * column.pieces.front()->fontSize;
-            for (std::size_t first = 0, end = 0; first < edges.size(); ++first) {
-                while (end < edges.size() && edges[end] <= edges[first] + tolerance)
-                    ++end;
-                most = std::max(most, static_cast<double>(end - first));
-            }
+        std::array<std::vector<double>, 4> edges;
+        for (const TextPiece* piece : column.pieces) {
+            if (isCurrencySign(textOf(*piece, lines())))
+                continue;
+            edges[0].push_back(piece->box.left);
+            edges[1].push_back(piece->box.centerX());
+            edges[2].push_back(piece->box.right);
+            if (isNumeric(*piece, lines()))
+                edges[3].push_back(pointOf(*piece));
         }
-        return most / static_cast<double>(column.pieces.size());
+        const double tolerance = m_parameters.columnEdge * column.pieces.front()->fontSize;
+        std::size_t most = 0;
+        for (std::vector<double>& values : edges)
+            most = std::max(most, mostWithin(values, tolerance));
+        return static_cast<double>(most) / std::max(1.0, static_cast<double>(edges[0].size()));
+    }
+
+    /// How many of the values lie within `tolerance` of each other, at most.
+    static std::size_t mostWithin(std::vector<double>& values, double tolerance) {
+        std::sort(values.begin(), values.end());
+        std::size_t most = 0;
+        for (std::size_t first = 0, end = 0; first < values.size(); ++first) {
+            while (end < values.size() && values[end] <= values[first] + tolerance)
+                ++end;
+            most = std::max(most, end - first);
+        }
+        return most;
     }
 
     bool isRagged() const {

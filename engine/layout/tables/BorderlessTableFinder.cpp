@@ -102,8 +102,19 @@ private:
     std::size_t m_lastFull = 0; ///< pieces in the last row that has several
 };
 
+/// The first line of the head whose last line is row `first`; the rows before `used` belong to another table.
+std::size_t startOfHead(const std::vector<PieceRow>& rows, std::size_t first, std::size_t used,
+                        const TableParameters::Tables& parameters) {
+    std::size_t start = first;
+    while (start > used && first - start + 1 < static_cast<std::size_t>(parameters.maximumHeaderRows) &&
+           isUpperLineOf(rows[start - 1], rows[start], parameters))
+        --start;
+    return start;
+}
+
 AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, std::size_t end,
-                        const std::vector<Line>& lines, const LayoutParameters& parameters) {
+                        const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
+                        const LayoutParameters& parameters) {
     AlignedRows aligned;
     aligned.rows.assign(rows.begin() + static_cast<std::ptrdiff_t>(first),
                         rows.begin() + static_cast<std::ptrdiff_t>(end));
@@ -113,7 +124,7 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
         aligned.areSpaced = true;
         return aligned;
     }
-    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, RowsPart::Any, parameters.tables);
+    aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, rules, RowsPart::Any, parameters.tables);
     // What follows the last full row and is no part of it is other text.
     while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&
            aligned.rows.back().pieces.size() == 1) {
@@ -130,22 +141,22 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
     const std::vector<BorderLine> rules = collectBorderLines(page.rules, parameters.tables);
     RegionGrower grower(rows, parameters.tables);
     std::vector<TableGrid> grids;
+    std::size_t used = 0;
     for (std::size_t first = 0; first < rows.size();) {
         const std::size_t end = grower.grow(first);
-        bool isTable = false;
-        std::size_t rowCount = 0;
-        if (end > first) {
-            const AlignedRows aligned = alignRegion(rows, first, end, page.lines, parameters);
-            rowCount = aligned.rows.size();
-            isTable =
-                judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) == TableVerdict::Table;
-            TableGrid grid =
-                spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);
-            isTable = isTable && !isDrawnOver(page, grid, parameters.tables);
-            if (isTable)
-                grids.push_back(std::move(grid));
-        }
-        first = isTable ? first + rowCount : first + 1;
+        const std::size_t start = startOfHead(rows, first, used, parameters.tables);
+        ++first;
+        if (end < first)
+            continue;
+        const AlignedRows aligned = alignRegion(rows, start, end, page.lines, rules, parameters);
+        if (judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) != TableVerdict::Table)
+            continue;
+        TableGrid grid =
+            spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);
+        if (isDrawnOver(page, grid, parameters.tables))
+            continue;
+        grids.push_back(std::move(grid));
+        first = used = start + aligned.rows.size();
     }
     return grids;
 }

@@ -7,6 +7,7 @@
 #include "layout/tables/RuledAdmission.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <set>
 
@@ -81,7 +82,19 @@ void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces, 
     const bool isOpenBelow = stack.size() == 1 ? !head.empty()
                                                : stack.size() == 2 && static_cast<int>(bands.front().rows.size()) <=
                                                                           parameters.maximumHeaderRows;
-    if (!head.empty()) {
+    std::vector<PieceRow> above;
+    if (static_cast<int>(stack.size()) >= parameters.fewestTotalRules)
+        above = rowsAbove(stack.front(), pieces, lines, parameters);
+    if (above.size() > head.size()) {
+        std::vector<Band> first;
+        for (PieceRow& row : above) {
+            const double bottom = row.box.bottom;
+            first.push_back({row.box.top, bottom, {std::move(row)}, false, false, 0, false, false});
+        }
+        first.back().bottom = stack.front().y;
+        first.back().hasRuleBelow = true;
+        bands.insert(bands.begin(), std::make_move_iterator(first.begin()), std::make_move_iterator(first.end()));
+    } else if (!head.empty()) {
         const double top = head.front().box.top;
         bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0, false, false});
     }
@@ -131,8 +144,8 @@ BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TablePa
     return run;
 }
 
-void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, const LayoutParameters& parameters,
-              BandRun& run) {
+void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
+              const LayoutParameters& parameters, BandRun& run) {
     for (std::size_t i = run.first; i < run.end; ++i)
         run.aligned.rows.insert(run.aligned.rows.end(), bands[i].rows.begin(), bands[i].rows.end());
     run.aligned.gaps = findTableColumns(run.aligned.rows, lines, parameters);
@@ -143,8 +156,8 @@ void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, co
             count += bands[i].rows.size();
         const std::span rows = std::span(run.aligned.rows).subspan(start, count);
         const bool isHead = start == 0 && i < run.end && static_cast<int>(count) <= parameters.tables.maximumHeaderRows;
-        for (RowGroup group :
-             groupRows(rows, run.aligned.gaps, lines, isHead ? RowsPart::Head : RowsPart::Any, parameters.tables))
+        for (RowGroup group : groupRows(rows, run.aligned.gaps, lines, rules, isHead ? RowsPart::Head : RowsPart::Any,
+                                        parameters.tables))
             run.aligned.groups.push_back({group.first + start, group.end + start});
         start += count;
     }
@@ -176,6 +189,12 @@ bool fillsRules(const BandRun& run, const RuleLevel& level, const TableParameter
     return boxOf(run.aligned).width() >= parameters.ruleFill * (level.right - level.left);
 }
 
+/// Whether the run begins with rows that stand each in a band of its own above the first rule.
+bool beginsAboveTotals(const std::vector<Band>& bands, const BandRun& run) {
+    const Band& first = bands[run.first];
+    return !first.hasRuleAbove && !first.hasRuleBelow && first.level == 0 && run.end > run.first + 1;
+}
+
 /// One past the last band of the run that is no total.
 std::size_t endWithoutTotals(const std::vector<Band>& bands, const BandRun& run) {
     std::size_t end = run.end;
@@ -191,14 +210,20 @@ Frame frameOf(const RuleStack& stack, const std::vector<Band>& bands, const Band
     const std::size_t end = endWithoutTotals(bands, run);
     if (end > run.first && bands[run.first].hasRuleAbove && bands[end - 1].hasRuleBelow)
         return Frame::Closed;
+    if (beginsAboveTotals(bands, run))
+        return Frame::Headed;
     const bool startsStack = run.first == 0 && (!bands.front().hasRuleAbove || stack.size() > 1);
     return startsStack && bands.front().hasRuleBelow ? Frame::Headed : Frame::None;
 }
 
 /// Whether the first band has a text in each column but the first, which may need no head.
-bool isHeaded(const std::vector<Band>& bands, const BandRun& run) {
+bool isHeaded(const std::vector<Band>& bands, const BandRun& run, const TableParameters::Tables& parameters) {
     std::set<int> headed;
-    for (std::size_t i = 0; i < bands[run.first].rows.size(); ++i) {
+    const std::size_t rows =
+        beginsAboveTotals(bands, run)
+            ? std::min(run.aligned.rows.size(), static_cast<std::size_t>(parameters.maximumHeaderRows))
+            : bands[run.first].rows.size();
+    for (std::size_t i = 0; i < rows; ++i) {
         for (const TextPiece& piece : run.aligned.rows[i].pieces) {
             const ColumnRange range = columnsOf(piece, run.aligned.gaps);
             for (int column = range.first; column <= range.last; ++column)
@@ -235,11 +260,11 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<Borde
     const TableParameters::Tables& limits = parameters.tables;
     if (run.end == run.first || frameOf(stack, bands, run) == Frame::None)
         return std::nullopt;
-    alignRun(bands, page.lines, parameters, run);
+    alignRun(bands, page.lines, lines, parameters, run);
     dropNotes(bands, run);
     if (run.aligned.groups.empty() || !fillsRules(run, stack[bands[run.first].level], limits))
         return std::nullopt;
-    if (frameOf(stack, bands, run) == Frame::Headed && !isHeaded(bands, run))
+    if (frameOf(stack, bands, run) == Frame::Headed && !isHeaded(bands, run, limits))
         return std::nullopt;
     if (judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) != TableVerdict::Table)
         return std::nullopt;

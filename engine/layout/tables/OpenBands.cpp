@@ -15,6 +15,10 @@ std::vector<TextPiece>::const_iterator firstBelow(const std::vector<TextPiece>& 
                             [](const TextPiece& piece, double at) { return piece.baseline < at; });
 }
 
+bool isLabelWithAmount(const PieceRow& row, const std::vector<Line>& lines) {
+    return row.pieces.size() > 1 && !isNumeric(row.pieces.front(), lines) && isNumeric(row.pieces.back(), lines);
+}
+
 bool meets(const TextPiece& piece, const RuleLevel& level) {
     return piece.box.right > level.left && piece.box.left < level.right;
 }
@@ -39,7 +43,8 @@ std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPi
     while (first != rows.begin()) {
         const PieceRow& row = *(first - 1);
         const bool isNear = bottom - row.box.bottom <= parameters.headSpace * row.fontSize;
-        if (!isNear || row.pieces.size() < 2 || !isBetweenEnds(row, level, parameters))
+        const bool isOfHead = row.pieces.size() > 1 || (first != rows.end() && isUpperLineOf(row, *first, parameters));
+        if (!isNear || !isOfHead || !isBetweenEnds(row, level, parameters))
             break;
         bottom = row.box.top;
         --first;
@@ -47,6 +52,31 @@ std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPi
     if (rows.end() - first > parameters.maximumHeaderRows)
         return {};
     return {first, rows.end()};
+}
+
+std::vector<PieceRow> rowsAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    std::vector<TextPiece> above;
+    double last = level.y;
+    for (auto piece = std::make_reverse_iterator(firstBelow(pieces, level.y)); piece != pieces.rend(); ++piece) {
+        if (piece->baseline < last - parameters.bodyReach * piece->fontSize)
+            break;
+        if (!meets(*piece, level))
+            continue;
+        last = piece->baseline;
+        above.push_back(*piece);
+    }
+    std::vector<PieceRow> rows = groupIntoRows(std::move(above), parameters);
+    double top = level.y;
+    const auto end = std::find_if(rows.rbegin(), rows.rend(), [&](const PieceRow& row) {
+        const bool isFar = top - row.box.bottom > parameters.maximumRowSpace * row.fontSize;
+        top = row.box.top;
+        return isFar || row.pieces.size() < 2 || !isBetweenEnds(row, level, parameters);
+    });
+    rows.erase(rows.begin(), end.base());
+    if (!rows.empty() && !isLabelWithAmount(rows.back(), lines))
+        rows.clear();
+    return rows;
 }
 
 std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
@@ -77,9 +107,8 @@ std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPi
 std::vector<PieceRow> totalsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,
                                   const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     std::vector<PieceRow> rows = rowsBelow(level, pieces, parameters);
-    const auto end = std::find_if_not(rows.begin(), rows.end(), [&](const PieceRow& row) {
-        return row.pieces.size() > 1 && !isNumeric(row.pieces.front(), lines) && isNumeric(row.pieces.back(), lines);
-    });
+    const auto end =
+        std::find_if_not(rows.begin(), rows.end(), [&](const PieceRow& row) { return isLabelWithAmount(row, lines); });
     rows.erase(end, rows.end());
     return rows;
 }

@@ -12,6 +12,11 @@ namespace orvane::layout {
 std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
                                 const TableParameters::Tables& parameters);
 
+/// The rows of texts side by side above a rule, between its ends, for as long as they follow each other closely: what
+/// stands above the first total of a table that has rules at its totals only. The last of them has a label and amounts.
+std::vector<PieceRow> rowsAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+                                const std::vector<Line>& lines, const TableParameters::Tables& parameters);
+
 /// The rows below a rule, between its ends, for as long as they follow each other closely and are no running text: the
 /// body of a table that has no rule below it. `pieces` are sorted by their baselines.
 std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPiece>& pieces,

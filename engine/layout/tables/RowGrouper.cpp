@@ -38,10 +38,11 @@ bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
 class GroupBuilder {
 public:
     GroupBuilder(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
-                 RowsPart part, const TableParameters::Tables& parameters)
+                 const std::vector<BorderLine>& rules, RowsPart part, const TableParameters::Tables& parameters)
         : m_rows(rows)
         , m_gaps(gaps)
         , m_lines(lines)
+        , m_rules(rules)
         , m_parameters(parameters) {
         for (const PieceRow& row : rows)
             m_contents.push_back(contentOf(row));
@@ -76,7 +77,22 @@ private:
         case FilledVerdict::Unknown:
             break;
         }
-        return i < m_headRows ? goesOnInHead(i) : goesOn(i, filled);
+        return !isRuledAbove(i) && (i < m_headRows ? goesOnInHead(i) : goesOn(i, filled));
+    }
+
+    /// Whether a rule parts a text of row `i` from the one above it.
+    bool isRuledAbove(std::size_t i) const {
+        return std::any_of(m_rules.begin(), m_rules.end(), [&](const BorderLine& rule) {
+            if (rule.direction != RuleDirection::Horizontal || rule.position < m_rows[i - 1].box.centerY() ||
+                rule.position > m_rows[i].box.centerY())
+                return false;
+            const auto isAlong = [&](const TextPiece& piece) {
+                return overlap(piece.box.left, piece.box.right, rule.from, rule.to) >=
+                       m_parameters.borderCover * piece.box.width();
+            };
+            return std::any_of(m_rows[i - 1].pieces.begin(), m_rows[i - 1].pieces.end(), isAlong) &&
+                   std::any_of(m_rows[i].pieces.begin(), m_rows[i].pieces.end(), isAlong);
+        });
     }
 
     void countRowsOfFilledCells() {
@@ -210,6 +226,16 @@ private:
         });
     }
 
+    /// Whether all of several texts begin in lower case below such as do not.
+    bool isMidSentence(const RowContent& above, const RowContent& content) const {
+        return content.byColumn.size() > 1 &&
+               std::all_of(content.byColumn.begin(), content.byColumn.end(), [&](const auto& text) {
+                   const auto before = above.byColumn.find(text.first);
+                   return startsLowerCase(*text.second, m_lines) && before != above.byColumn.end() &&
+                          !startsLowerCase(*before->second, m_lines);
+               });
+    }
+
     bool goesOn(std::size_t i, const std::set<int>& filled) const {
         const RowContent& above = m_contents[i - 1];
         const RowContent& content = m_contents[i];
@@ -224,12 +250,13 @@ private:
                                                : !isWrapped(*before->second, *piece, column))
                 return false;
         }
-        return content.byColumn.size() < filled.size();
+        return content.byColumn.size() < filled.size() || isMidSentence(above, content);
     }
 
     std::span<const PieceRow> m_rows;
     const std::vector<ColumnGap>& m_gaps;
     const std::vector<Line>& m_lines;
+    const std::vector<BorderLine>& m_rules;
     const TableParameters::Tables& m_parameters;
     std::vector<RowContent> m_contents;
     std::map<int, std::size_t> m_rowsOfFilledCell;
@@ -241,9 +268,9 @@ private:
 } // namespace
 
 std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
-                                const std::vector<Line>& lines, RowsPart part,
+                                const std::vector<Line>& lines, const std::vector<BorderLine>& rules, RowsPart part,
                                 const TableParameters::Tables& parameters) {
-    return GroupBuilder(rows, gaps, lines, part, parameters).join();
+    return GroupBuilder(rows, gaps, lines, rules, part, parameters).join();
 }
 
 } // namespace orvane::layout

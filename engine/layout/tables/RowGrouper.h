@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/tables/BorderLines.h"
 #include "layout/tables/ColumnGaps.h"
 
 #include <vector>
@@ -19,9 +20,10 @@ enum class RowsPart {
 };
 
 /// Joins rows of text into rows of a table: a row that holds only the rest of texts which the row above began belongs
-/// to it. Lines of a head belong together where one of them has texts in all columns of the other.
+/// to it. Lines of a head belong together where one of them has texts in all columns of the other. What one of the
+/// `rules` parts stays apart.
 std::vector<RowGroup> groupRows(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
-                                const std::vector<Line>& lines, RowsPart part,
+                                const std::vector<Line>& lines, const std::vector<BorderLine>& rules, RowsPart part,
                                 const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

@@ -107,7 +107,7 @@ private:
         TextRows found;
         Rect above;
         for (const RowGroup& group :
-             groupRows(rows, edgesAsGaps(rows.front().fontSize), m_lines, RowsPart::Any, m_parameters)) {
+             groupRows(rows, edgesAsGaps(rows.front().fontSize), m_lines, {}, RowsPart::Any, m_parameters)) {
             Rect box;
             found.firstBaselines.push_back(rows[group.first].baseline);
             for (std::size_t i = group.first; i < group.end; ++i) {

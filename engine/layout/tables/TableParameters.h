@@ -81,6 +81,7 @@ struct TableParameters {
         double ruleFill = 0.75;       ///< of the rules' length that the texts between them must take up
         double levelGap = 20.0;       ///< points; rules of one height with a larger gap belong to two tables
         double endSnap = 6.0;         ///< points; rules above each other whose ends differ by less belong together
+        int fewestTotalRules = 3;     ///< rules at the totals of a table whose first rows stand above all of them
         double headReach = 10.0;      ///< of the font size; no head above the first rule is higher
         double headSpace = 0.8;       ///< of the font size; its lines, and the rule below them, are this close
         double bodyReach = 10.0;      ///< of the font size; rows below the last rule are not farther apart

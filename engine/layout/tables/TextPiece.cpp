@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -63,11 +64,43 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
 
 namespace {
 
-/// Whether the sign of a currency follows a number and has its own farther on: "1,204 $  1,150".
+/// The word that stands next to `box` on its baseline, to the left (-1) or to the right (1), in whatever line; nothing
+/// where there is none.
+std::optional<TextPiece> nextOnBaseline(const std::vector<Line>& lines, const Line& line, const Rect& box, int side) {
+    std::optional<TextPiece> next;
+    double least = 1e9;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (std::abs(lines[i].baseline - line.baseline) > 0.5 || lines[i].angle != 0)
+            continue;
+        for (std::size_t j = 0; j < lines[i].words.size(); ++j) {
+            const Rect& other = lines[i].words[j].box;
+            const double distance = side < 0 ? box.left - other.right : other.left - box.right;
+            if (distance < -0.5 || distance >= least)
+                continue;
+            least = distance;
+            next = pieceOf(lines[i], i, j, j + 1);
+        }
+    }
+    return next;
+}
+
+/// Whether the sign of a currency stands behind a number, but before its own: "$ 1,204 $  1,150".
 bool beginsAmount(const Line& line, std::size_t lineIndex, std::size_t word, const std::vector<Line>& lines) {
-    return word + 1 < line.words.size() && isCurrencySign(textOf(pieceOf(line, lineIndex, word, word + 1), lines)) &&
-           isNumeric(pieceOf(line, lineIndex, word - 1, word), lines) &&
-           isNumeric(pieceOf(line, lineIndex, word + 1, word + 2), lines);
+    const TextPiece before = pieceOf(line, lineIndex, word - 1, word);
+    if (!isCurrencySign(textOf(pieceOf(line, lineIndex, word, word + 1), lines)) || !isNumeric(before, lines))
+        return false;
+    const auto first = nextOnBaseline(lines, line, before.box, -1);
+    const auto amount = nextOnBaseline(lines, line, line.words[word].box, 1);
+    return first && isCurrencySign(textOf(*first, lines)) && amount && isNumeric(*amount, lines);
+}
+
+/// Whether the line is a row of numbers, which stand closer together than other texts of a table may.
+bool isRowOfNumbers(const Line& line, std::size_t lineIndex, const std::vector<Line>& lines,
+                    const TableParameters::Tables& parameters) {
+    std::size_t numbers = 0;
+    for (std::size_t i = 0; i < line.words.size(); ++i)
+        numbers += isNumeric(pieceOf(line, lineIndex, i, i + 1), lines);
+    return numbers >= parameters.fullRow && 2 * numbers >= line.words.size();
 }
 
 /// Cuts upright lines at their wide gaps and where `isCut` says so of the boxes of two words, the left one first.
@@ -79,7 +112,8 @@ std::vector<TextPiece> cutLines(const std::vector<Line>& lines, const TableParam
         const Line& line = lines[i];
         if (line.angle != 0 || line.isVertical || line.words.empty())
             continue;
-        const double widest = widestBlank(line, parameters);
+        const double widest = isRowOfNumbers(line, i, lines, parameters) ? parameters.minimumColumnGap * line.fontSize
+                                                                         : widestBlank(line, parameters);
         std::size_t first = 0;
         for (std::size_t j = 1; j < line.words.size(); ++j) {
             const Rect& before = line.words[j - 1].box;
@@ -125,6 +159,17 @@ std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const TablePa
         std::sort(row.pieces.begin(), row.pieces.end(),
                   [](const TextPiece& a, const TextPiece& b) { return a.box.left < b.box.left; });
     return rows;
+}
+
+bool isUpperLineOf(const PieceRow& row, const PieceRow& below, const TableParameters::Tables& parameters) {
+    if (below.baseline - row.lastBaseline > parameters.wrapPitch * below.fontSize)
+        return false;
+    return std::all_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
+        const auto over = std::count_if(below.pieces.begin(), below.pieces.end(), [&](const TextPiece& other) {
+            return overlap(piece.box.left, piece.box.right, other.box.left, other.box.right) > 0;
+        });
+        return over == 1 && piece.box.left > below.pieces.front().box.right;
+    });
 }
 
 bool hasRoomBehind(const TextPiece& above, const TextPiece& piece, const Rect& column, const std::vector<Line>& lines,

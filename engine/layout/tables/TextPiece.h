@@ -42,6 +42,9 @@ std::vector<TextPiece> cutIntoPieces(const PageText& page, const TableParameters
 /// of two others; the rows come top to bottom.
 std::vector<PieceRow> groupIntoRows(std::vector<TextPiece> pieces, const TableParameters::Tables& parameters);
 
+/// Whether `row` is the upper line of some texts in the row below, which are not its first: long heads are broken.
+bool isUpperLineOf(const PieceRow& row, const PieceRow& below, const TableParameters::Tables& parameters);
+
 /// Words [first, end) of a line as a piece.
 TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end);
 
