@@ -1,7 +1,6 @@
 #include "layout/assembly/FrameAssembler.h"
 
 #include "base/Utf8.h"
-#include "layout/fonts/FamilyWidths.h"
 #include "layout/fonts/LineMetrics.h"
 #include "layout/text/LineText.h"
 
@@ -32,22 +31,6 @@ LineSpacing exactly(double points) {
 /// The height of the lines: their pitch, of a single one what it needs.
 double pitchOf(const ParagraphDraft& text, const LineExtent& extent) {
     return text.leading > 0 ? text.leading : extent.height();
-}
-
-/// True when the letters are as wide in every word processor, in the family itself or in the twin it has instead.
-bool areWidthsKnown(const Span& span, const MappedFont& font) {
-    const bool isSimple = !font.isSymbol && scriptClassOf(span.text) == ScriptClass::Simple;
-    return isSimple ? hasKnownWidths(font.family) : font.isLineKnown;
-}
-
-/// True when that is so of all fonts, so that the lines are as wide as they were fitted to be.
-bool areWidthsKnown(const ParagraphDraft& text, std::size_t page, const AssemblyContext& context) {
-    for (const Line& line : text.lines)
-        for (const Word& word : line.words)
-            for (const Span& span : word.spans)
-                if (!areWidthsKnown(span, context.fonts.font(page, span.look.font)))
-                    return false;
-    return true;
 }
 
 /// Level lines: `room` is added where the text may grow to, up to the page's edge: word processors push boxes that
@@ -135,14 +118,11 @@ void standStill(document::ParagraphProperties& properties, double pitch) {
 
 Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     const DraftPiece& piece = block.draftParagraph()->pieces.front();
-    ParagraphDraft text = piece.text;
+    const ParagraphDraft& text = piece.text;
     const Line& first = text.lines.front();
     const auto& parameters = context.parameters.textBoxes;
     const LineExtent extent = extentOf(first, piece.page, context.fonts);
     const double room = std::max(parameters.leastRoom, parameters.room * text.box.width());
-    // Lines that may turn out too wide must not be held between two edges.
-    if (text.alignment == Alignment::Justified && !areWidthsKnown(text, piece.page, context))
-        text.alignment = Alignment::Start;
 
     document::Paragraph& paragraph = *block.paragraph();
     Frame frame;

@@ -200,7 +200,7 @@ private:
         if (position == Position::WithinLine && isTabulator(word))
             m_builder.add({document::Tab{blankBefore(properties)}}, gapLink);
         else if (join == LineJoin::Blank)
-            m_builder.addText(blanksBefore(word, position), blankBefore(properties), gapLink);
+            m_builder.addText(blanksBefore(word, position), widened(blankBefore(properties), word), gapLink);
         else if (join == LineJoin::DropHyphen)
             m_builder.dropLastCharacter();
     }
@@ -210,6 +210,11 @@ private:
         if (position == Position::StartsLine)
             return " ";
         return utf8FromUtf32(std::u32string(static_cast<std::size_t>(word.blanksBefore), word.blankBefore));
+    }
+
+    static RunProperties widened(RunProperties blank, const Word& word) {
+        blank.characterSpacing += twipsFromPoints(word.blankSurplus);
+        return blank;
     }
 
     RunProperties blankBefore(const RunProperties& properties) const {

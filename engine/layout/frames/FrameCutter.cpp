@@ -34,6 +34,12 @@ public:
     std::vector<Line> cut(Line line) const {
         std::vector<Line> parts;
         for (std::size_t i = 1; isFlat(line) && i < line.words.size(); ++i) {
+            if (overlaps(line, i)) {
+                Line rest = splitLine(line, i);
+                parts.push_back(std::exchange(line, std::move(rest)));
+                i = 0;
+                continue;
+            }
             if (line.words[i].gapBefore != Gap::Tab || line.words[i].leaderBefore != document::TabLeader::None)
                 continue;
             if (!hasOwnPlace(line, i)) {
@@ -49,6 +55,14 @@ public:
     }
 
 private:
+    /// True when the word starts before the one in front of it ends: no blank can bring it there.
+    bool overlaps(const Line& line, std::size_t word) const {
+        const Word& before = line.words[word - 1];
+        const Word& behind = line.words[word];
+        return !line.isRightToLeft && !before.isRightToLeft && !behind.isRightToLeft &&
+               behind.box.left < before.box.right - m_parameters.overlap * line.fontSize;
+    }
+
     /// True behind a wide gap, on a line of its own, and where another line starts: below a label the text hangs.
     bool hasOwnPlace(const Line& line, std::size_t word) const {
         const Rect& before = line.words[word - 1].box;

@@ -10,6 +10,7 @@ struct FrameParameters {
     struct TextBoxes {
         // FrameCutter, assembly/FrameAssembler
         double widestBlank = 1.8;         ///< of the font size; text behind a wider gap has a place of its own
+        double overlap = 0.3;             ///< of the font size; words that overlap by more stand by themselves
         double lowestPitch = 0.6;         ///< of the font size; lines nearer to each other stand side by side
         double highestPitch = 2.5;        ///< likewise; lines farther apart are of two paragraphs
         double pitchTolerance = 0.5;      ///< points; distances of lines that differ by more are no pitch
@@ -30,6 +31,9 @@ struct FrameParameters {
         double narrowest = 0.6;      ///< of the natural width; text that needs less is no fit
         double widest = 1.3;         ///< likewise
         double usualBlank = 0.25;    ///< em; where nothing is known of the font's blank
+        double leastBlank = 0.2;     ///< of a blank's width; words that stand closer would run into each other
+        double sameWordPlace = 0.3;  ///< points; words that stand that near to their places need no help
+        double evenPlace = 0.8;      ///< points; likewise in justified text, whose blanks are even
         std::size_t longestSign = 2; ///< characters; so much of a family of unknown widths harms no line
     } textBoxes;
 };

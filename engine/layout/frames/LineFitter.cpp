@@ -1,13 +1,12 @@
 #include "layout/frames/LineFitter.h"
 
-#include "base/Utf8.h"
-#include "layout/fonts/FamilyWidths.h"
-#include "layout/text/ScriptClass.h"
+#include "layout/frames/LineMeter.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -15,108 +14,26 @@ namespace {
 using document::Alignment;
 using Parameters = FrameParameters::TextBoxes;
 
-/// Widths along a line. Units: points.
-struct LineWidths {
-    double words = 0;         ///< of the words on the page
-    double naturalWords = 0;  ///< of the words as a word processor sets them
-    double naturalBlanks = 0; ///< between them, likewise
-};
-
-/// True for lines whose boxes are as long as they are: level ones, and those that run up or down the page.
-bool isUpright(const Line& line) {
-    return line.angle == 90 || line.angle == 270;
-}
-bool isMeasurable(const Line& line) {
-    return !line.isVertical && (line.angle == 0 || isUpright(line));
-}
-
-/// How far the box reaches along the line.
-double lengthOf(const Rect& box, const Line& line) {
-    return isUpright(line) ? box.height() : box.width();
-}
-
-/// Reads how wide a line would be.
-class LineMeter {
-public:
-    LineMeter(std::size_t page, const FontCatalog& fonts, Tracking tracking, const Parameters& parameters)
-        : m_page(page)
-        , m_fonts(fonts)
-        , m_tracking(tracking)
-        , m_parameters(parameters) {}
-
-    /// nullopt for parts of the line that cannot be measured.
-    std::optional<LineWidths> measure(const Line& line, std::span<const Word> words) const {
-        LineWidths widths;
-        for (const Word& word : words) {
-            const bool isFirst = &word == &words.front();
-            if (word.spans.empty())
-                return std::nullopt;
-            for (const Span& span : word.spans) {
-                const std::optional<double> natural = naturalWidthOf(span, lengthOf(span.box, line));
-                if (!natural)
-                    return std::nullopt;
-                widths.naturalWords += *natural;
-                widths.words += lengthOf(span.box, line);
-            }
-            if (isFirst || word.gapBefore == Gap::None)
-                continue;
-            widths.naturalBlanks += naturalBlank(word.spans.front().look);
-        }
-        return widths;
-    }
-
-private:
-    static FontFace faceOf(const Look& look) { return {look.isBold, look.isItalic}; }
-
-    /// Formats hold half points: what stands at 9.42 points on the page is set at 9.5. Units: points.
-    static double writtenSize(const Look& look) { return halfPointsFromPoints(look.size).value / 2.0; }
-
-    double naturalBlank(const Look& look) const {
-        const MappedFont& font = m_fonts.font(m_page, look.font);
-        return advanceOf(font.family, faceOf(look), U' ').value_or(m_parameters.usualBlank) * writtenSize(look) *
-               stretchOf(font);
-    }
-
-    /// By how much all letters of the font are stretched.
-    static double stretchOf(const MappedFont& font) { return font.widthPercent / 100.0; }
-
-    std::optional<double> naturalWidthOf(const Span& span, double length) const {
-        const Look& look = span.look;
-        const std::u32string text = utf32FromUtf8(span.text);
-        const double spacing = look.characterSpacing * static_cast<double>(text.size());
-        const double kept = m_tracking == Tracking::Kept ? spacing : 0;
-        const MappedFont& font = m_fonts.font(m_page, look.font);
-        const bool isPlain = look.verticalPosition == document::VerticalPosition::Baseline && !look.isSmallCaps;
-        if (isPlain)
-            if (const auto known = naturalWidth(text, font.family, faceOf(look)))
-                return *known * writtenSize(look) * stretchOf(font) + kept;
-        // The font's own widths are those of its family, where it is one that word processors have.
-        const bool isOwn = font.isLineKnown || font.isSymbol || scriptClassOf(span.text) != ScriptClass::Simple;
-        if (!isOwn && text.size() > m_parameters.longestSign)
-            return std::nullopt;
-        return (length - spacing) / look.horizontalScale * (writtenSize(look) / look.size) + kept;
-    }
-
-    std::size_t m_page;
-    const FontCatalog& m_fonts;
-    Tracking m_tracking;
-    const Parameters& m_parameters;
-};
-
 /// What happens to a line that turns out longer than it is on the page.
 enum class LineEnd {
     Free, ///< it ends a little later
     Held, ///< it is cut in two, for it stands between two edges
 };
 
-/// By how much the line's characters are to be stretched; 1 for not at all.
-double stretchFor(const LineWidths& widths, double lineWidth, LineEnd end, const Parameters& parameters) {
-    const double natural = widths.naturalWords + widths.naturalBlanks;
-    if (widths.naturalWords <= 0 || widths.words <= 0)
+/// By how much the words are to be stretched to be as wide as on the page; 1 for not at all.
+double stretchOfWords(const PartMeasure& part, const Parameters& parameters) {
+    const double natural = part.naturalWords();
+    if (natural <= 0 || part.width() <= 0)
         return 1;
-    double stretch = widths.words / widths.naturalWords;
-    if (std::abs(stretch - 1) < parameters.leastStretch)
-        stretch = 1;
+    const double stretch = part.width() / natural;
+    const bool isFit = stretch >= parameters.narrowest && stretch <= parameters.widest;
+    return isFit && std::abs(stretch - 1) >= parameters.leastStretch ? stretch : 1;
+}
+
+/// The stretch with which a part fits whose blanks stay as they are.
+double stretchForLine(const PartMeasure& part, double lineWidth, LineEnd end, const Parameters& parameters) {
+    double stretch = stretchOfWords(part, parameters);
+    const double natural = part.naturalWidth();
     // Blanks that are narrower than a word processor's make a line too long; wider ones are left to it.
     const double longest = lineWidth * (end == LineEnd::Held ? 1 - parameters.fitSlack : 1 + parameters.freeSlack);
     if (stretch * natural > longest)
@@ -147,7 +64,7 @@ double lengthOf(std::span<const Word> part, const Line& line) {
     Rect box;
     for (const Word& word : part)
         box = box.united(word.box);
-    return lengthOf(box, line);
+    return lengthAlong(box, line);
 }
 
 /// From where the line starts to the other edge of its paragraph.
@@ -155,38 +72,187 @@ double roomFor(const Line& line, const ParagraphDraft& text) {
     return line.isRightToLeft ? line.box.right - text.box.left : text.box.right - line.box.left;
 }
 
-/// Stretches each part of the line to its width on the page.
-void fitLine(Line& line, const DraftPiece& piece, const LineMeter& meter, const FontCatalog& fonts,
-             const Parameters& parameters) {
-    const LineEnd end = piece.text.alignment == Alignment::Justified ? LineEnd::Held : LineEnd::Free;
-    const std::vector<std::span<Word>> parts = partsOf(line.words);
-    // Lines between two edges take what is left at their tabulators.
-    if (end == LineEnd::Held && parts.size() > 1)
-        return;
-    for (const std::span<Word> part : parts) {
-        const std::optional<LineWidths> widths = meter.measure(line, part);
-        if (!widths)
-            continue;
-        const double room = end == LineEnd::Held ? roomFor(line, piece.text) : lengthOf(part, line);
-        const double stretch = stretchFor(*widths, room, end, parameters);
-        for (Word& word : part)
-            for (Span& span : word.spans)
-                span.look.horizontalScale =
-                    writtenScale(stretch, fonts.font(piece.page, span.look.font).widthPercent, end);
+/// True when each word stands behind the one before it, so that blanks can bring it there.
+bool isInOrder(const PartMeasure& part) {
+    return std::is_sorted(part.words.begin(), part.words.end(),
+                          [](const WordMeasure& a, const WordMeasure& b) { return a.start < b.start; });
+}
+
+int blanksIn(const PartMeasure& part) {
+    int blanks = 0;
+    for (const WordMeasure& word : part.words)
+        blanks += word.blanks;
+    return blanks;
+}
+
+/// How far the words would be from their places, in a line of which every blank gets an equal share of what is left.
+double farthestError(const PartMeasure& part, LineEnd end) {
+    const int blanks = blanksIn(part);
+    const WordMeasure& last = part.words.back();
+    const double missing = last.start + last.width - part.naturalWidth();
+    const double share = end == LineEnd::Held && blanks > 0 ? missing / blanks : 0;
+    double pen = 0, farthest = 0;
+    for (const WordMeasure& word : part.words) {
+        pen += word.blanks * (word.naturalBlank + share);
+        farthest = std::max(farthest, std::abs(pen - word.start));
+        pen += word.naturalWidth;
+    }
+    return farthest;
+}
+
+/// Widens or narrows the blanks so that each word starts where it stood.
+void placeWords(std::span<Word> words, const PartMeasure& part, const Parameters& parameters) {
+    double pen = 0;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const WordMeasure& word = part.words[i];
+        if (word.blanks > 0) {
+            const double surplus = (word.start - pen) / word.blanks - word.naturalBlank;
+            const double least = (parameters.leastBlank - 1) * word.naturalBlank;
+            words[i].blankSurplus = pointsFromTwips(twipsFromPoints(std::max(surplus, least)));
+            pen += word.blanks * (word.naturalBlank + words[i].blankSurplus);
+        }
+        pen += word.naturalWidth;
     }
 }
+
+/// Brings the words of the parts of one frame's lines to their places.
+class PartFitter {
+public:
+    PartFitter(const DraftPiece& piece, const FontCatalog& fonts, const Parameters& parameters)
+        : m_piece(piece)
+        , m_fonts(fonts)
+        , m_parameters(parameters) {}
+
+    /// Blanks stay as they are: they take what is left.
+    void fitToRoom(std::span<Word> words, const PartMeasure& part, double room, LineEnd end) const {
+        const double stretch = stretchForLine(part, room, end, m_parameters);
+        for (Word& word : words)
+            setScale(word, stretch, end);
+    }
+
+    void fitWords(std::span<Word> words, PartMeasure part, double room) const {
+        if (!part.knowsBlanks || blanksIn(part) == 0 || !isInOrder(part)) {
+            fitToRoom(words, part, room, LineEnd::Free);
+            return;
+        }
+        scaleWords(words, part);
+        if (farthestError(part, LineEnd::Free) > m_parameters.sameWordPlace)
+            placeWords(words, part, m_parameters);
+    }
+
+private:
+    /// Sets the scale nearest to that stretch. Returns it.
+    double setScale(Word& word, double stretch, LineEnd end) const {
+        double scale = 1;
+        for (Span& span : word.spans) {
+            scale = writtenScale(stretch, m_fonts.font(m_piece.page, span.look.font).widthPercent, end);
+            span.look.horizontalScale = scale;
+        }
+        return scale;
+    }
+
+    /// Stretches the words, all alike where that makes them as wide as they were, else each by itself.
+    void scaleWords(std::span<Word> words, PartMeasure& part) const {
+        const double stretch = stretchOfWords(part, m_parameters);
+        double scale = 1;
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            WordMeasure& word = part.words[i];
+            word.naturalBlank *= scale; // blanks look like the word before them
+            scale = setScale(words[i], stretchOfWord(word, stretch), LineEnd::Free);
+            word.naturalWidth *= scale;
+        }
+    }
+
+    double stretchOfWord(const WordMeasure& word, double ofLine) const {
+        if (std::abs(word.naturalWidth * ofLine - word.width) <= m_parameters.sameWordPlace || word.naturalWidth <= 0)
+            return ofLine;
+        const double own = word.width / word.naturalWidth;
+        return own < m_parameters.narrowest || own > m_parameters.widest ? ofLine : own;
+    }
+
+    const DraftPiece& m_piece;
+    const FontCatalog& m_fonts;
+    const Parameters& m_parameters;
+};
+
+/// A last line ends where its words end, unless it fills its paragraph.
+LineEnd endOf(const Line& line, const ParagraphDraft& text, const Parameters& parameters) {
+    if (text.alignment != Alignment::Justified)
+        return LineEnd::Free;
+    const double room = roomFor(line, text);
+    const bool isLast = &line == &text.lines.back();
+    return isLast && line.box.width() < room * (1 - 2 * parameters.fitSlack) ? LineEnd::Free : LineEnd::Held;
+}
+
+/// Fits the lines of one frame.
+class FrameFitter {
+public:
+    FrameFitter(DraftPiece& piece, const FontCatalog& fonts, Tracking tracking, const Parameters& parameters)
+        : m_piece(piece)
+        , m_fonts(fonts)
+        , m_parameters(parameters)
+        , m_meter(piece.page, fonts, tracking, parameters) {}
+
+    void run() const {
+        ParagraphDraft& text = m_piece.text;
+        if (text.alignment == Alignment::Justified && !canBeJustified())
+            text.alignment = Alignment::Start;
+        for (Line& line : text.lines)
+            if (isMeasurable(line))
+                fit(line);
+    }
+
+private:
+    /// False where lines may turn out too wide, which must not be held between two edges, and where even blanks would
+    /// not bring the words to their places.
+    bool canBeJustified() const {
+        ParagraphDraft& text = m_piece.text;
+        return areWidthsKnown(text, m_piece.page, m_fonts) &&
+               std::all_of(text.lines.begin(), text.lines.end(), [&](Line& line) { return isEven(line); });
+    }
+
+    bool isEven(Line& line) const {
+        if (endOf(line, m_piece.text, m_parameters) == LineEnd::Free)
+            return true;
+        std::optional<PartMeasure> part = m_meter.measure(line, line.words);
+        if (!part || partsOf(line.words).size() > 1)
+            return true;
+        const double stretch = stretchForLine(*part, roomFor(line, m_piece.text), LineEnd::Held, m_parameters);
+        for (WordMeasure& word : part->words) {
+            word.naturalWidth *= stretch;
+            word.naturalBlank *= stretch;
+        }
+        return farthestError(*part, LineEnd::Held) <= m_parameters.evenPlace;
+    }
+
+    void fit(Line& line) const {
+        const LineEnd end = endOf(line, m_piece.text, m_parameters);
+        const std::vector<std::span<Word>> parts = partsOf(line.words);
+        // Lines between two edges take what is left at their tabulators.
+        if (end == LineEnd::Held && parts.size() > 1)
+            return;
+        const PartFitter fitter(m_piece, m_fonts, m_parameters);
+        for (const std::span<Word> part : parts) {
+            std::optional<PartMeasure> measure = m_meter.measure(line, part);
+            if (measure && end == LineEnd::Held)
+                fitter.fitToRoom(part, *measure, roomFor(line, m_piece.text), end);
+            else if (measure)
+                fitter.fitWords(part, std::move(*measure), lengthOf(part, line));
+        }
+    }
+
+    DraftPiece& m_piece;
+    const FontCatalog& m_fonts;
+    const Parameters& m_parameters;
+    LineMeter m_meter;
+};
 
 } // namespace
 
 void fitLines(std::vector<DraftBlock>& frames, const FontCatalog& fonts, Tracking tracking,
               const Parameters& parameters) {
-    for (DraftBlock& frame : frames) {
-        DraftPiece& piece = frame.paragraph()->pieces.front();
-        const LineMeter meter(piece.page, fonts, tracking, parameters);
-        for (Line& line : piece.text.lines)
-            if (isMeasurable(line))
-                fitLine(line, piece, meter, fonts, parameters);
-    }
+    for (DraftBlock& frame : frames)
+        FrameFitter(frame.paragraph()->pieces.front(), fonts, tracking, parameters).run();
 }
 
 } // namespace orvane::layout

@@ -8,9 +8,11 @@
 
 namespace orvane::layout {
 
-/// Draws the characters of each line wider or narrower by so much that a word processor sets the line as wide as it is
-/// on the page: what a family lacks on the average of a document is not what it lacks on a line, and typesetters
-/// squeeze lines. Lines of families whose widths nobody knows stay as they are. Requires: frames of cutIntoFrames().
+/// Brings each word to where it stands on the page: draws the characters of a line wider or narrower by so much that a
+/// word processor sets its words as wide as they are there, and sets the blanks between them. What a family lacks on
+/// the average of a document is not what it lacks on a line, and typesetters stretch and squeeze blanks. Lines of
+/// families whose widths nobody knows stay as they are, and are not justified any more. Requires: frames of
+/// cutIntoFrames().
 void fitLines(std::vector<DraftBlock>& frames, const FontCatalog& fonts, Tracking tracking,
               const FrameParameters::TextBoxes& parameters);
 

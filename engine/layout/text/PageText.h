@@ -11,13 +11,14 @@
 #include <string>
 #include <vector>
 
-/// What the first stages make of one page on its own: lines of words, rules, figures. Positions are in page space (points).
+/// What the first stages make of one page on its own: lines of words, rules, figures. Positions are in page space
+/// (points).
 namespace orvane::layout {
 
 /// How characters look on the page.
 struct Look {
-    std::uint32_t font = 0;          ///< index into PageText::fonts
-    double size = 10;                ///< points; of superscripts the size of the text they belong to
+    std::uint32_t font = 0; ///< index into PageText::fonts
+    double size = 10;       ///< points; of superscripts the size of the text they belong to
     Color color;
     std::optional<Color> highlight;
     document::UnderlineKind underline = document::UnderlineKind::None;
@@ -27,68 +28,74 @@ struct Look {
     bool isStruck = false;
     bool isSmallCaps = false;
     bool isOutlined = false;
-    bool isInvisible = false;        ///< recognised text behind a scanned picture
+    bool isInvisible = false; ///< recognised text behind a scanned picture
     double horizontalScale = 1;
-    double characterSpacing = 0;     ///< points beyond the font's own advances, averaged over the span
-    int link = -1;                   ///< index into PageText::links
-    int field = -1;                  ///< index into PageText::fields
+    double characterSpacing = 0; ///< points beyond the font's own advances, averaged over the span
+    int link = -1;               ///< index into PageText::links
+    int field = -1;              ///< index into PageText::fields
 
     bool operator==(const Look&) const = default;
 };
 
 /// Characters of one look that follow each other without a gap.
 struct Span {
-    std::string text;                ///< UTF-8, logical order
+    std::string text; ///< UTF-8, logical order
     Look look;
     Rect box;
     double baseline = 0;
-    int mark = -1;                   ///< index into PageText::marks
-    bool isRightToLeft = false;      ///< typed as right-to-left text, be it a number or punctuation within it
+    int mark = -1;              ///< index into PageText::marks
+    bool isRightToLeft = false; ///< typed as right-to-left text, be it a number or punctuation within it
 };
 
 /// What lies between a word and the one before it on the line.
 enum class Gap : std::uint8_t {
-    None,                            ///< nothing: scripts written without blanks
+    None, ///< nothing: scripts written without blanks
     Space,
-    Tab,                             ///< a jump wider than word spacing explains
+    Tab, ///< a jump wider than word spacing explains
 };
 
 struct Word {
     std::vector<Span> spans;
     Rect box;
     Gap gapBefore = Gap::Space;
-    int blanksBefore = 1;            ///< some people type two after a full stop, or many in place of a tabulator
-    char32_t blankBefore = U' ';     ///< of which kind they are
-    bool isTypedBefore = false;      ///< blanks fill the gap, be it as wide as a Gap::Tab
+    int blanksBefore = 1;        ///< some people type two after a full stop, or many in place of a tabulator
+    char32_t blankBefore = U' '; ///< of which kind they are
+    double blankSurplus = 0;    ///< points by which each of them is wider than the font's, in text that keeps its place
+    bool isTypedBefore = false; ///< blanks fill the gap, be it as wide as a Gap::Tab
     document::TabLeader leaderBefore = document::TabLeader::None; ///< what fills a Gap::Tab
     bool isRightToLeft = false;
 };
 
 /// Words on one baseline that were written as one line; a wide gap between columns ends it.
 struct Line {
-    std::vector<Word> words;         ///< logical order
-    Rect box;                        ///< ascent to descent of the text, not of the ink
-    double baseline = 0;             ///< y; x of the baseline for angle 90 and 270
-    double fontSize = 0;             ///< of most of its characters
-    double angle = 0;                ///< degrees clockwise: 0, 90, 180, 270 or another
+    std::vector<Word> words; ///< logical order
+    Rect box;                ///< ascent to descent of the text, not of the ink
+    double baseline = 0;     ///< y; x of the baseline for angle 90 and 270
+    double fontSize = 0;     ///< of most of its characters
+    double angle = 0;        ///< degrees clockwise: 0, 90, 180, 270 or another
     bool isRightToLeft = false;
-    bool isVertical = false;         ///< East Asian vertical writing
-    int dropCapLines = 0;            ///< how many lines its first letter, a drop cap, stands over; 0 for none
+    bool isVertical = false; ///< East Asian vertical writing
+    int dropCapLines = 0;    ///< how many lines its first letter, a drop cap, stands over; 0 for none
     std::uint32_t firstPaintOrder = 0;
 };
 
 enum class RuleDirection : std::uint8_t { Horizontal, Vertical };
 
+/// How a rule was painted: viewers keep the thinnest stroke visible, a thin filled box gets as faint as it is thin.
+enum class RulePaint : std::uint8_t { Stroked, Filled };
+
 /// A straight line, drawn as a stroke or as a thin filled rectangle.
 struct Rule {
     RuleDirection direction = RuleDirection::Horizontal;
-    double position = 0;             ///< y of a horizontal rule's middle, x of a vertical one's
-    double from = 0;                 ///< along its direction
+    double position = 0; ///< y of a horizontal rule's middle, x of a vertical one's
+    double from = 0;     ///< along its direction
     double to = 0;
-    double width = 0.5;              ///< points
+    double width = 0.5;   ///< points; of a double rule with what lies between its two lines
+    double lineWidth = 0; ///< points; of each of the two lines of a double rule
     Color color;
     document::BorderKind kind = document::BorderKind::Single;
-    bool isUsed = false;             ///< taken by a stage: an underline, a strike, a table's border
+    RulePaint paint = RulePaint::Stroked;
+    bool isUsed = false; ///< taken by a stage: an underline, a strike, a table's border
     std::uint32_t paintOrder = 0;
 };
 
@@ -103,18 +110,18 @@ struct Ground {
 
 /// A picture, or a group of drawn paths that belong together.
 struct Figure {
-    Rect box;                        ///< as seen, clipped
-    PictureId picture;               ///< 0 for a drawing that has not been painted
-    bool needsPainting = false;      ///< a drawing: the page's reader is to paint `box` and put the id into `picture`
-    Matrix matrix;                   ///< of a picture; see pdf::Picture
+    Rect box;                   ///< as seen, clipped
+    PictureId picture;          ///< 0 for a drawing that has not been painted
+    bool needsPainting = false; ///< a drawing: the page's reader is to paint `box` and put the id into `picture`
+    Matrix matrix;              ///< of a picture; see pdf::Picture
     document::Crop crop;
     double opacity = 1;
-    bool isBackground = false;       ///< covers (nearly) the whole page, or lies under text
+    bool isBackground = false; ///< covers (nearly) the whole page, or lies under text
     std::string alternateText;
-    std::vector<std::size_t> paths;  ///< of a drawing: indices into pdf::PageContent::paths
+    std::vector<std::size_t> paths;           ///< of a drawing: indices into pdf::PageContent::paths
     std::optional<document::Drawing> drawing; ///< what it is in shapes, if they look as it does and are few
-    std::vector<Line> labels;        ///< the text within a drawing; no line of the page
-    bool showsLabels = false;        ///< they are painted with it and need not be set
+    std::vector<Line> labels;                 ///< the text within a drawing; no line of the page
+    bool showsLabels = false;                 ///< they are painted with it and need not be set
     std::uint32_t paintOrder = 0;
 };
 
@@ -124,7 +131,7 @@ struct PageText {
     double width = 0;
     double height = 0;
     std::vector<pdf::Font> fonts;
-    std::vector<Line> lines;         ///< top to bottom, not yet in reading order
+    std::vector<Line> lines; ///< top to bottom, not yet in reading order
     std::vector<Rule> rules;
     std::vector<Ground> grounds;
     std::vector<Figure> figures;
@@ -132,7 +139,7 @@ struct PageText {
     std::vector<pdf::Annotation> annotations;
     std::vector<pdf::FormField> fields;
     std::vector<pdf::Mark> marks;
-    bool isScanned = false;          ///< one picture covers the page and all text behind it is invisible
+    bool isScanned = false; ///< one picture covers the page and all text behind it is invisible
 };
 
 } // namespace orvane::layout

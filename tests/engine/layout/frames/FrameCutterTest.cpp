@@ -56,6 +56,15 @@ TEST(FrameCutter, AnotherPitchOrPlaceStartsAnother) {
         << "side by side";
 }
 
+TEST(FrameCutter, WordsThatOverlapStandByThemselves) {
+    Line line = makeLine("one two", 72, 100);
+    for (Rect* box : {&line.words[1].box, &line.words[1].spans[0].box}) {
+        box->left -= 15;
+        box->right -= 15;
+    }
+    EXPECT_EQ(textsOf(framesOf({line})), (Texts{"one", "two"}));
+}
+
 TEST(FrameCutter, TellsHowTheLinesStand) {
     struct Row {
         std::vector<Line> lines;

@@ -19,11 +19,32 @@ DocumentDraft draftOf(const char* font, Line line, Alignment alignment = Alignme
     return draft;
 }
 
-/// By how much the first character of the draft is stretched.
-double stretchIn(DocumentDraft draft, Tracking tracking = Tracking::InWidths) {
+/// The text of the draft's paragraph, fitted.
+ParagraphDraft fitted(DocumentDraft draft, Tracking tracking = Tracking::InWidths) {
     const FontCatalog fonts(draft, FontParameters(), tracking);
     fitLines(draft.blocks, fonts, tracking, {});
-    return draft.blocks[0].paragraph()->firstLine().words[0].spans[0].look.horizontalScale;
+    return draft.blocks[0].paragraph()->pieces[0].text;
+}
+
+/// By how much the first character of the draft is stretched.
+double stretchIn(DocumentDraft draft, Tracking tracking = Tracking::InWidths) {
+    return fitted(std::move(draft), tracking).lines[0].words[0].spans[0].look.horizontalScale;
+}
+
+/// By how much the blank before the second word is wider than the font's. Units: points.
+double surplusIn(DocumentDraft draft) {
+    return fitted(std::move(draft)).lines[0].words[1].blankSurplus;
+}
+
+/// Moves the words from `first` on.
+Line moved(Line line, std::size_t first, double by) {
+    for (std::size_t i = first; i < line.words.size(); ++i)
+        for (Rect* box : {&line.words[i].box, &line.words[i].spans[0].box}) {
+            box->left += by;
+            box->right += by;
+        }
+    line.box.right = line.words.back().box.right;
+    return line;
 }
 
 constexpr const char* kTimes = "Times New Roman";
@@ -50,17 +71,52 @@ TEST(LineFitter, LeavesLinesAloneThatAreAsWide) {
     EXPECT_EQ(stretchIn(draftOf(kTimes, makeLine("rr\trr", 72, 100))), 1) << "tabulators take what is left";
 }
 
-TEST(LineFitter, MakesRoomForBlanksOfALineBetweenTwoEdges) {
-    // The blank of Times is a quarter of an em; on the page it is a tenth.
-    Line line = makeLine("pppp pppp", 72, 100);
-    Word& second = line.words[1];
-    for (Rect* box : {&second.box, &second.spans[0].box}) {
-        box->left -= 4;
-        box->right -= 4;
-    }
-    line.box.right -= 4;
-    EXPECT_LT(stretchIn(draftOf(kTimes, line, Alignment::Justified)), 0.98);
-    EXPECT_GT(stretchIn(draftOf(kTimes, line, Alignment::Justified)), 0.9);
+TEST(LineFitter, SetsBlanksSoThatWordsStartWhereTheyStood) {
+    // The blank of Times is a quarter of an em, on the page it is half an em.
+    const Line line = makeLine("pppp pppp", 72, 100);
+    EXPECT_NEAR(surplusIn(draftOf(kTimes, line)), 2.5, 0.03);
+    EXPECT_NEAR(surplusIn(draftOf(kTimes, moved(line, 1, 6))), 8.5, 0.03);
+    EXPECT_EQ(surplusIn(draftOf(kTimes, moved(line, 1, -2.4))), 0) << "so near nobody sees it";
+    EXPECT_EQ(surplusIn(draftOf("Georgia", line)), 0) << "nobody knows how wide its blanks are";
+}
+
+TEST(LineFitter, SharesWhatTypedBlanksLackAmongThem) {
+    Line line = moved(makeLine("pppp pppp", 72, 100), 1, 5);
+    line.words[1].blanksBefore = 2;
+    EXPECT_NEAR(surplusIn(draftOf(kTimes, line)), 2.5, 0.03);
+}
+
+TEST(LineFitter, LeavesBlanksToJustificationWhereTheyAreEven) {
+    const ParagraphDraft even = fitted(draftOf(kTimes, makeLine("pppp pppp pppp", 72, 100), Alignment::Justified));
+    EXPECT_EQ(even.alignment, Alignment::Justified);
+    EXPECT_EQ(even.lines[0].words[1].blankSurplus, 0);
+    // Typesetters leave more room behind full stops.
+    const Line uneven = moved(makeLine("pppp pppp pppp", 72, 100), 1, 3);
+    const ParagraphDraft text = fitted(draftOf(kTimes, uneven, Alignment::Justified));
+    EXPECT_EQ(text.alignment, Alignment::Start);
+    EXPECT_NEAR(text.lines[0].words[1].blankSurplus, 5.5, 0.03);
+    EXPECT_NEAR(text.lines[0].words[2].blankSurplus, 2.5, 0.03);
+}
+
+TEST(LineFitter, SqueezesALineBetweenTwoEdgesThatIsALittleTooLong) {
+    // The blank of Times is a quarter of an em; on the page it is nearly that.
+    const Line line = moved(makeLine("pppp pppp", 72, 100), 1, -2.6);
+    EXPECT_LT(stretchIn(draftOf(kTimes, line, Alignment::Justified)), 1);
+    EXPECT_GT(stretchIn(draftOf(kTimes, line, Alignment::Justified)), 0.97);
+    EXPECT_EQ(surplusIn(draftOf(kTimes, line, Alignment::Justified)), 0);
+}
+
+TEST(LineFitter, StretchesAWordByItselfThatTheLinesStretchLeavesOff) {
+    // Words of Times as wide as they are, and one of half an em a letter that has 0.389.
+    const ParagraphDraft text = fitted(draftOf(kTimes, makeLine("pppp pppp ssss pppp", 72, 100)));
+    EXPECT_NEAR(text.lines[0].words[2].spans[0].look.horizontalScale, 1.28, 0.011);
+    EXPECT_LT(text.lines[0].words[0].spans[0].look.horizontalScale, 1.02);
+}
+
+TEST(LineFitter, JustifiesNoLinesOfUnknownWidths) {
+    const Line line = makeLine("pppp pppp", 72, 100);
+    EXPECT_EQ(fitted(draftOf("Georgia", line, Alignment::Justified)).alignment, Alignment::Start);
+    EXPECT_EQ(fitted(draftOf(kTimes, line, Alignment::Justified)).alignment, Alignment::Justified);
 }
 
 TEST(LineFitter, LeavesTheDistancesOfLettersToTheRunsThatSayThem) {
