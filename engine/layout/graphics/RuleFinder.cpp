@@ -38,8 +38,9 @@ private:
     bool readPath(const pdf::Path& path) {
         const std::size_t ruleCount = m_result.rules.size(), groundCount = m_result.grounds.size();
         const std::vector<Subpath> subpaths = takeApart(path, m_limits.straightness);
+        const RulePaint paint = subpaths.size() > 1 ? RulePaint::Filled : RulePaint::Stroked;
         const bool isWhole = std::all_of(subpaths.begin(), subpaths.end(), [&](const Subpath& subpath) {
-            return (!path.fill || readFill(subpath, path)) && (!path.stroke || readStroke(subpath, path));
+            return (!path.fill || readFill(subpath, path, paint)) && (!path.stroke || readStroke(subpath, path));
         });
         if (!isWhole) {
             m_result.rules.resize(ruleCount);
@@ -48,7 +49,7 @@ private:
         return isWhole;
     }
 
-    bool readFill(const Subpath& subpath, const pdf::Path& path) {
+    bool readFill(const Subpath& subpath, const pdf::Path& path, RulePaint paint) {
         if (!subpath.rectangle)
             return subpath.box.width() <= 0 || subpath.box.height() <= 0;
         const Rect box = subpath.rectangle->intersected(path.clip);
@@ -57,7 +58,7 @@ private:
         const double thickness = std::min(box.width(), box.height());
         const double length = std::max(box.width(), box.height());
         if (thickness <= m_limits.thickest && length >= m_limits.slenderness * thickness)
-            addRule(box, thickness, path.fill->color, document::BorderKind::Single, path.paintOrder);
+            addRule(box, thickness, path.fill->color, document::BorderKind::Single, paint, path.paintOrder);
         else
             m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder});
         return true;
@@ -77,7 +78,7 @@ private:
             if (seen.right < seen.left || seen.bottom < seen.top)
                 continue;
             if (width <= m_limits.thickest)
-                addRule(seen, width, path.stroke->color, kind, path.paintOrder);
+                addRule(seen, width, path.stroke->color, kind, RulePaint::Stroked, path.paintOrder);
             else
                 m_result.grounds.push_back(
                     {inked(seen, width), path.stroke->color, path.stroke->opacity, false, path.paintOrder});
@@ -99,7 +100,8 @@ private:
                    : Rect{line.centerX() - width / 2, line.top, line.centerX() + width / 2, line.bottom};
     }
 
-    void addRule(const Rect& box, double width, Color color, document::BorderKind kind, std::uint32_t paintOrder) {
+    void addRule(const Rect& box, double width, Color color, document::BorderKind kind, RulePaint paint,
+                 std::uint32_t paintOrder) {
         Rule rule;
         rule.direction = box.width() >= box.height() ? RuleDirection::Horizontal : RuleDirection::Vertical;
         const bool isHorizontal = rule.direction == RuleDirection::Horizontal;
@@ -109,6 +111,7 @@ private:
         rule.width = width;
         rule.color = color;
         rule.kind = kind;
+        rule.paint = paint;
         rule.paintOrder = paintOrder;
         m_result.rules.push_back(rule);
     }

@@ -28,6 +28,8 @@ void absorb(Rule& rule, const Rule& next) {
     rule.from = std::min(rule.from, next.from);
     rule.to = std::max(rule.to, next.to);
     rule.width = std::max(rule.width, next.width);
+    if (nextLength > length)
+        rule.paint = next.paint;
     rule.paintOrder = std::min(rule.paintOrder, next.paintOrder);
 }
 
@@ -117,6 +119,7 @@ void joinPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits
                 continue;
             Rule& rule = rules[i];
             rule.kind = BorderKind::Double;
+            rule.lineWidth = (rule.width + rules[j].width) / 2;
             rule.width = rules[j].position - rule.position + (rule.width + rules[j].width) / 2;
             rule.position = (rule.position + rules[j].position) / 2;
             rule.from = std::min(rule.from, rules[j].from);

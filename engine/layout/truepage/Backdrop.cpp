@@ -39,6 +39,21 @@ Rect boxOf(const Rule& rule) {
     return {rule.position - half, rule.from, rule.position + half, rule.to};
 }
 
+/// The single lines that the rule is made of: the two of a double one.
+std::vector<Rule> linesOf(const Rule& rule) {
+    if (rule.kind != document::BorderKind::Double || rule.lineWidth <= 0)
+        return {rule};
+    std::vector<Rule> lines(2, rule);
+    const double offset = (rule.width - rule.lineWidth) / 2;
+    for (Rule& line : lines) {
+        line.kind = document::BorderKind::Single;
+        line.width = rule.lineWidth;
+    }
+    lines.front().position -= offset;
+    lines.back().position += offset;
+    return lines;
+}
+
 Shape::Segment segment(Shape::Verb verb, Emu x = {}, Emu y = {}) {
     return {verb, {x, y}};
 }
@@ -63,7 +78,7 @@ Shape filledShape(const Rect& box, Color color, double opacity) {
     return shape;
 }
 
-/// A stroke along the middle of the box: printers and screens keep thin strokes visible, thin boxes they do not.
+/// A stroke along the middle of the box.
 Shape strokedShape(const Rule& rule, const Rect& box) {
     Shape shape = shapeAt(box);
     const bool isLevel = rule.direction == RuleDirection::Horizontal;
@@ -79,8 +94,12 @@ Shape strokedShape(const Rule& rule, const Rect& box) {
 class DrawingMaker {
 public:
     void add(const Rule& rule) {
-        const Rect box = boxOf(rule);
-        add(box, strokedShape(rule, box), rule.paintOrder);
+        for (const Rule& line : linesOf(rule)) {
+            const Rect box = boxOf(line);
+            // Screens keep thin strokes visible and show thin boxes fainter: each looks right only as it was painted.
+            const bool isBox = line.paint == RulePaint::Filled && line.kind == document::BorderKind::Single;
+            add(box, isBox ? filledShape(box, line.color, 1) : strokedShape(line, box), line.paintOrder);
+        }
     }
     void add(const Ground& ground) {
         add(ground.box, filledShape(ground.box, ground.color, ground.opacity), ground.paintOrder);

@@ -227,9 +227,13 @@ TEST(RunningHeads, TakesALetterheadWithWhatIsInItsFrame) {
         if (number == 1) {
             page.lines = {makeLine("The firm", 80, 60), makeLine("Made by", 300, 60), makeLine("Date", 300, 110),
                           makeLine("Text", 72, 160), makeLine("and more", 72, 172)};
-            for (const double x : {72.0, 290.0, 500.0})
-                page.rules.push_back(
-                    {RuleDirection::Vertical, x, 40, 130, 0.5, {}, document::BorderKind::Single, false, 0});
+            for (const double x : {72.0, 290.0, 500.0}) {
+                Rule& rule = page.rules.emplace_back();
+                rule.direction = RuleDirection::Vertical;
+                rule.position = x;
+                rule.from = 40;
+                rule.to = 130;
+            }
         }
     });
     EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].header), "The firm|Made by|Date");

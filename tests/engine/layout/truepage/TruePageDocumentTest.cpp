@@ -138,6 +138,40 @@ TEST(Backdrop, KeepsTheOrderOfPainting) {
         EXPECT_EQ(figure.placement.wrapping, document::Wrapping::BehindText);
 }
 
+/// What is drawn on a page that has that rule.
+std::vector<document::Shape> shapesOf(const Rule& rule) {
+    PageText page = makePage(1);
+    page.rules = {rule};
+    return std::get<document::Drawing>(backdropOf(page).at(0).content).shapes;
+}
+
+TEST(Backdrop, PaintsRulesAsTheyWerePainted) {
+    Rule rule;
+    rule.position = 100;
+    rule.from = 72;
+    rule.to = 300;
+    rule.paint = RulePaint::Filled;
+    const auto filled = shapesOf(rule);
+    ASSERT_EQ(filled.size(), 1u);
+    EXPECT_TRUE(filled[0].fill);
+    EXPECT_FALSE(filled[0].line);
+    EXPECT_NEAR(points(filled[0].height), 0.5, 0.01);
+}
+
+TEST(Backdrop, DrawsBothLinesOfADoubleRule) {
+    Rule rule;
+    rule.position = 100;
+    rule.from = 72;
+    rule.to = 300;
+    rule.kind = document::BorderKind::Double;
+    rule.width = 3;
+    rule.lineWidth = 0.5;
+    const auto shapes = shapesOf(rule);
+    ASSERT_EQ(shapes.size(), 2u);
+    EXPECT_NEAR(points(shapes[1].y) - points(shapes[0].y), 2.5, 0.01);
+    EXPECT_NEAR(points(shapes[0].line.value().width), 0.5, 0.01);
+}
+
 TEST(Backdrop, LeavesOutWhatIsPartOfTheText) {
     PageText page = makePage(1);
     Rule underline;
