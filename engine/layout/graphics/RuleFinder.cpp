@@ -38,6 +38,7 @@ private:
     bool readPath(const pdf::Path& path) {
         const std::size_t ruleCount = m_result.rules.size(), groundCount = m_result.grounds.size();
         const std::vector<Subpath> subpaths = takeApart(path, m_limits.straightness);
+        // Viewers widen a thin box to a whole pixel where it is all of a path, and only there.
         const RulePaint paint = subpaths.size() > 1 ? RulePaint::Filled : RulePaint::Stroked;
         const bool isWhole = std::all_of(subpaths.begin(), subpaths.end(), [&](const Subpath& subpath) {
             return (!path.fill || readFill(subpath, path, paint)) && (!path.stroke || readStroke(subpath, path));

@@ -81,7 +81,7 @@ struct Line {
 
 enum class RuleDirection : std::uint8_t { Horizontal, Vertical };
 
-/// How a rule was painted: viewers keep the thinnest stroke visible, a thin filled box gets as faint as it is thin.
+/// How a rule was painted: viewers keep a stroke visible however thin it is, a filled box gets as faint as it is thin.
 enum class RulePaint : std::uint8_t { Stroked, Filled };
 
 /// A straight line, drawn as a stroke or as a thin filled rectangle.

@@ -35,6 +35,39 @@ TEST(RuleFinder, ReadsStrokesAndThinRectanglesAlike) {
     EXPECT_NEAR(rules[2].position, 400.24, 0.01);
 }
 
+TEST(RuleFinder, TellsHowRulesArePainted) {
+    PageContentBuilder page;
+    page.horizontalRule(72, 300, 100);
+    page.filledRectangle({72, 200, 300, 200.5}, kBlack);
+    pdf::PageContent content = page.content();
+    pdf::Path both = content.paths[1];
+    for (pdf::PathSegment segment : content.paths[1].segments) {
+        segment.to.y += 100;
+        both.segments.push_back(segment);
+    }
+    both.box.bottom += 100;
+    content.paths[1] = both;
+    Diagnostics diagnostics;
+    const std::vector<Rule> rules = findRules(content, {}, diagnostics).rules;
+    ASSERT_EQ(rules.size(), 3u);
+    EXPECT_EQ(rules[0].paint, RulePaint::Stroked);
+    EXPECT_EQ(rules[1].paint, RulePaint::Filled) << "one of two boxes of one path";
+    PageContentBuilder single;
+    single.filledRectangle({72, 200, 300, 200.5}, kBlack);
+    EXPECT_EQ(rulesOf(single).rules.at(0).paint, RulePaint::Stroked) << "viewers widen a box alone to a whole pixel";
+}
+
+TEST(RuleFinder, KnowsTheLinesOfADoubleRule) {
+    PageContentBuilder page;
+    page.horizontalRule(72, 300, 100, 0.5);
+    page.horizontalRule(72, 300, 102, 0.5);
+    const std::vector<Rule> rules = rulesOf(page).rules;
+    ASSERT_EQ(rules.size(), 1u);
+    EXPECT_EQ(rules[0].kind, BorderKind::Double);
+    EXPECT_NEAR(rules[0].lineWidth, 0.5, 0.01);
+    EXPECT_NEAR(rules[0].width, 2.5, 0.01);
+}
+
 TEST(RuleFinder, MakesFourRulesOfAStrokedRectangle) {
     PageContentBuilder page;
     page.strokedRectangle({72, 100, 200, 160});
