@@ -4,6 +4,7 @@
 #include "layout/support/TidyLength.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -49,10 +50,15 @@ double findBottom(const PageRange& range, double pageHeight) {
     // How much space there was above what starts a page is not seen; only where no margin that people type goes without
     // it is it taken to have been the usual one.
     const double strict = least(SpaceAbove::Nothing), slack = range.limits.breakSlack;
-    double margin = tidyLength(strict, most - slack, top, slack);
-    if (!tidyLengthWithin(strict, most - slack, top))
-        margin = tidyLengthWithin(least(SpaceAbove::Usual), most - slack, top).value_or(margin);
-    return pageHeight - std::max(0.0, std::min(margin, most));
+    std::optional<double> margin = tidyLengthWithin(strict, most - slack, top);
+    if (!margin)
+        margin = tidyLengthWithin(least(SpaceAbove::Usual), most - slack, top);
+    // A margin that people type is believed to the hair.
+    if (!margin)
+        margin = tidyLengthWithin(strict - slack, strict, top);
+    if (!margin)
+        margin = tidyLength(strict, most - slack, top, slack);
+    return pageHeight - std::max(0.0, std::min(*margin, most));
 }
 
 } // namespace

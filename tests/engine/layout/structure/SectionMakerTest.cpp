@@ -83,6 +83,17 @@ TEST(SectionMaker, AllowsForTheSpaceAboveWhatStartsAPage) {
     EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginBottom), 56.7, 0.1) << "two centimetres";
 }
 
+TEST(SectionMaker, BelievesARoundMarginThatLeavesAHairLessThanALine) {
+    DocumentDraft draft = makeDraft(2);
+    constexpr double kPitch = 12.207; // lines without space between them
+    for (const std::size_t page : {0u, 1u})
+        for (int line = 0; line < 58; ++line)
+            addLine(draft, page, 72, 60 + kPitch * line + (page == 1 && line > 30 ? 3.7 : 0));
+    sectionsOf(draft);
+    // A further line on the first page would have ended 71.5 points above the paper's edge.
+    EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginBottom), 72, 0.1);
+}
+
 TEST(SectionMaker, StartsASectionWhereThePaperTurns) {
     DocumentDraft draft = makeDraft(3);
     std::swap(draft.pages[1].width, draft.pages[1].height);
