@@ -17,6 +17,7 @@ struct AssemblyParameters {
         double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
         double smallestIndent = 1.0;      ///< points; less is noise
         double sameGap = 0.6;             ///< points; gaps between paragraphs that differ by less are one
+        double smallestSpacer = 1.0;      ///< points; less space above a table needs no paragraph of its own
         double largestGap = 72.0;         ///< points; what is more is an empty part of the page, which no style has
         double sameGrid = 0.05; ///< points; East Asian lines whose distance a multiple misses by more stand on a grid
         double roundHeight = 0.12; ///< points; a height this near to a multiple of half a point was meant to be it
@@ -41,6 +42,7 @@ struct AssemblyParameters {
     struct TableCells {
         double usualMargin = 5.4;   ///< points; between a cell's side and its text, unless less is seen
         double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
+        double slackBelow = 0.6;    ///< points; of the room below the text that is not written as a margin
     } tableCells;
 
     /// FigureAssembler.

@@ -40,7 +40,8 @@ Room smallestRoom(const AssembledBlock& table, const DraftTable& draft, const As
         room.above = std::min(room.above, blocks.front().top - cell.box.top - reachOf(cell.borders.top));
         room.below = std::min(room.below, cell.box.bottom - reachOf(cell.borders.bottom) - blocks.back().bottom);
     }
-    return {std::max(0.0, room.above), std::max(0.0, room.below)};
+    // Rows keep their heights where lines come out a hair higher than they were.
+    return {std::max(0.0, room.above), std::max(0.0, room.below - limits.slackBelow)};
 }
 
 } // namespace

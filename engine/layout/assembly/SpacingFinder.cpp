@@ -4,6 +4,7 @@
 #include "layout/assembly/CellRoom.h"
 #include "layout/assembly/KeepRelease.h"
 #include "layout/assembly/LineTightener.h"
+#include "layout/assembly/TableSpacers.h"
 #include "layout/support/Tally.h"
 
 #include <algorithm>
@@ -164,10 +165,17 @@ void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& conte
         if (hasNoPlace(body[i]))
             continue;
         const bool startsPage = std::exchange(startsSection, false) || body[i].draft->startsPage;
-        Paragraph* paragraph = body[i].paragraph();
-        if (!paragraph || !startsPage)
+        if (!startsPage)
             continue;
         const double offset = body[i].top - tops.of(body[i].draft->page);
+        Paragraph* paragraph = body[i].paragraph();
+        if (!paragraph) {
+            spaceTable(body[i], offset, context);
+            continue;
+        }
+        // A rule in the margin would push its text down, so it comes nearer to it.
+        document::Border& rule = paragraph->properties.borders.top;
+        rule.spacePoints = std::max(0, rule.spacePoints + static_cast<int>(std::floor(std::min(0.0, offset))));
         const double given = pointsFromTwips(paragraph->properties.spaceBefore);
         if (std::abs(offset - given) > context.parameters.spacing.sameGap)
             paragraph->properties.spaceBefore = twipsFromPoints(std::max(0.0, offset));
@@ -196,6 +204,7 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
     for (const BlockGap& gap : gaps)
         setGap(gap, limits);
     for (BlockFlow& flow : flows) {
+        spaceTablesApart(flow.blocks, context);
         if (flow.kind != FlowKind::Body)
             continue;
         setPageTops(flow.blocks, context);

@@ -97,6 +97,57 @@ TEST(SpacingFinder, KeepsTheEmptyPartOfAPage) {
     EXPECT_EQ(styleOf(document, "Normal").paragraph.spaceAfter, Twips(0)) << "no style has so much";
 }
 
+/// A table of one row, 20 points high.
+DraftBlock tableAt(double top) {
+    DraftTable table;
+    table.table.columnEdges = {72, 523};
+    table.table.rowEdges = {top, top + 20};
+    table.table.box = {72, top, 523, top + 20};
+    DraftCell& cell = table.cells.emplace_back();
+    cell.cell.box = table.table.box;
+    cell.blocks.push_back(makeBlock(makeParagraph({makeLine("cell", 78, top + 12)})));
+    DraftBlock block;
+    block.box = table.table.box;
+    block.value = std::move(table);
+    return block;
+}
+
+TEST(SpacingFinder, SetsTablesApartWithAnEmptyParagraph) {
+    DocumentDraft draft = makeDraft(1);
+    draft.blocks = {tableAt(100), tableAt(150)};
+    const auto document = documentOf(draft);
+    ASSERT_EQ(document.sections.at(0).blocks.size(), 3u);
+    const document::Paragraph& between = paragraphAt(document, 1);
+    EXPECT_TRUE(between.inlines.empty());
+    EXPECT_EQ(between.properties.lineSpacing.rule, document::LineSpacingRule::Exact);
+    EXPECT_EQ(between.properties.lineSpacing.height, twipsFromPoints(30));
+
+    draft.blocks = {tableAt(100), tableAt(120.5)};
+    EXPECT_EQ(documentOf(draft).sections.at(0).blocks.size(), 2u) << "no space to speak of";
+}
+
+TEST(SpacingFinder, SetsATableLowerThatStartsItsPageThere) {
+    DocumentDraft draft = makeDraft(1);
+    draft.sections.emplace_back().setup.marginTop = twipsFromPoints(72);
+    draft.blocks = {tableAt(90)};
+    draft.blocks[0].startsPage = true;
+    const auto document = documentOf(draft);
+    ASSERT_EQ(document.sections.at(0).blocks.size(), 2u);
+    EXPECT_EQ(paragraphAt(document, 0).properties.lineSpacing.height, twipsFromPoints(18));
+    EXPECT_TRUE(paragraphAt(document, 0).properties.pageBreakBefore) << "else it would stay on the page before";
+    const auto& table = std::get<document::Table>(document.sections.at(0).blocks.at(1).value);
+    EXPECT_FALSE(
+        std::get<document::Paragraph>(table.rows.at(0).cells.at(0).blocks.at(0).value).properties.pageBreakBefore);
+}
+
+TEST(SpacingFinder, BringsARuleInTheMarginNearerToTheTextThatStartsThePage) {
+    DocumentDraft draft = draftOfLines({{"below the rule", 72 + 9.71 + 10}});
+    draft.sections.emplace_back().setup.marginTop = twipsFromPoints(72);
+    draft.blocks[0].startsPage = true;
+    draft.blocks[0].paragraph()->pieces[0].text.borders.top = {document::BorderKind::Single, EighthPoints(4), {}, 20};
+    EXPECT_EQ(paragraphAt(documentOf(draft), 0).properties.borders.top.spacePoints, 9) << "half a point is the rule's";
+}
+
 /// Two paragraphs of three lines with half as much space again between the lines, and two headings close above text.
 DocumentDraft draftOfCloseHeadings(double headingPitch) {
     const double step = 1.5 * kLine;
