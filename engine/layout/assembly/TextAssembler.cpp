@@ -200,7 +200,7 @@ private:
         if (position == Position::WithinLine && isTabulator(word))
             m_builder.add({document::Tab{blankBefore(properties)}}, gapLink);
         else if (join == LineJoin::Blank)
-            m_builder.addText(blanksBefore(word, position), widened(blankBefore(properties), word), gapLink);
+            m_builder.addText(blanksBefore(word, position), stretched(blankBefore(properties), word), gapLink);
         else if (join == LineJoin::DropHyphen)
             m_builder.dropLastCharacter();
     }
@@ -212,8 +212,9 @@ private:
         return utf8FromUtf32(std::u32string(static_cast<std::size_t>(word.blanksBefore), word.blankBefore));
     }
 
-    static RunProperties widened(RunProperties blank, const Word& word) {
-        blank.characterSpacing += twipsFromPoints(word.blankSurplus);
+    /// Stretched rather than spaced: the distances between letters are none of the PDF's.
+    static RunProperties stretched(RunProperties blank, const Word& word) {
+        blank.widthPercent = static_cast<int>(std::lround(blank.widthPercent * word.blankStretch));
         return blank;
     }
 

@@ -32,6 +32,7 @@ struct FrameParameters {
         double widest = 1.3;         ///< likewise
         double usualBlank = 0.25;    ///< em; where nothing is known of the font's blank
         double leastBlank = 0.2;     ///< of a blank's width; words that stand closer would run into each other
+        double greatestBlank = 6.0;  ///< likewise; no format stretches letters more
         double sameWordPlace = 0.3;  ///< points; words that stand that near to their places need no help
         double evenPlace = 0.8;      ///< points; likewise in justified text, whose blanks are even
         std::size_t longestSign = 2; ///< characters; so much of a family of unknown widths harms no line

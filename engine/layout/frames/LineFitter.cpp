@@ -100,16 +100,15 @@ double farthestError(const PartMeasure& part, LineEnd end) {
     return farthest;
 }
 
-/// Widens or narrows the blanks so that each word starts where it stood.
+/// Stretches the blanks so that each word starts where it stood.
 void placeWords(std::span<Word> words, const PartMeasure& part, const Parameters& parameters) {
     double pen = 0;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const WordMeasure& word = part.words[i];
-        if (word.blanks > 0) {
-            const double surplus = (word.start - pen) / word.blanks - word.naturalBlank;
-            const double least = (parameters.leastBlank - 1) * word.naturalBlank;
-            words[i].blankSurplus = pointsFromTwips(twipsFromPoints(std::max(surplus, least)));
-            pen += word.blanks * (word.naturalBlank + words[i].blankSurplus);
+        if (word.blanks > 0 && word.naturalBlank > 0) {
+            const double wanted = (word.start - pen) / (word.blanks * word.naturalBlank);
+            words[i].blankStretch = std::clamp(wanted, parameters.leastBlank, parameters.greatestBlank);
+            pen += word.blanks * word.naturalBlank * words[i].blankStretch;
         }
         pen += word.naturalWidth;
     }

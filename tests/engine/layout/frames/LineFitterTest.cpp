@@ -31,9 +31,9 @@ double stretchIn(DocumentDraft draft, Tracking tracking = Tracking::InWidths) {
     return fitted(std::move(draft), tracking).lines[0].words[0].spans[0].look.horizontalScale;
 }
 
-/// By how much the blank before the second word is wider than the font's. Units: points.
-double surplusIn(DocumentDraft draft) {
-    return fitted(std::move(draft)).lines[0].words[1].blankSurplus;
+/// By how much the blank before the second word is stretched.
+double blankStretchIn(DocumentDraft draft) {
+    return fitted(std::move(draft)).lines[0].words[1].blankStretch;
 }
 
 /// Moves the words from `first` on.
@@ -74,28 +74,28 @@ TEST(LineFitter, LeavesLinesAloneThatAreAsWide) {
 TEST(LineFitter, SetsBlanksSoThatWordsStartWhereTheyStood) {
     // The blank of Times is a quarter of an em, on the page it is half an em.
     const Line line = makeLine("pppp pppp", 72, 100);
-    EXPECT_NEAR(surplusIn(draftOf(kTimes, line)), 2.5, 0.03);
-    EXPECT_NEAR(surplusIn(draftOf(kTimes, moved(line, 1, 6))), 8.5, 0.03);
-    EXPECT_EQ(surplusIn(draftOf(kTimes, moved(line, 1, -2.4))), 0) << "so near nobody sees it";
-    EXPECT_EQ(surplusIn(draftOf("Georgia", line)), 0) << "nobody knows how wide its blanks are";
+    EXPECT_NEAR(blankStretchIn(draftOf(kTimes, line)), 2, 0.01);
+    EXPECT_NEAR(blankStretchIn(draftOf(kTimes, moved(line, 1, 6))), 4.4, 0.01);
+    EXPECT_EQ(blankStretchIn(draftOf(kTimes, moved(line, 1, -2.4))), 1) << "so near nobody sees it";
+    EXPECT_EQ(blankStretchIn(draftOf("Georgia", line)), 1) << "nobody knows how wide its blanks are";
 }
 
 TEST(LineFitter, SharesWhatTypedBlanksLackAmongThem) {
     Line line = moved(makeLine("pppp pppp", 72, 100), 1, 5);
     line.words[1].blanksBefore = 2;
-    EXPECT_NEAR(surplusIn(draftOf(kTimes, line)), 2.5, 0.03);
+    EXPECT_NEAR(blankStretchIn(draftOf(kTimes, line)), 2, 0.01);
 }
 
 TEST(LineFitter, LeavesBlanksToJustificationWhereTheyAreEven) {
     const ParagraphDraft even = fitted(draftOf(kTimes, makeLine("pppp pppp pppp", 72, 100), Alignment::Justified));
     EXPECT_EQ(even.alignment, Alignment::Justified);
-    EXPECT_EQ(even.lines[0].words[1].blankSurplus, 0);
+    EXPECT_EQ(even.lines[0].words[1].blankStretch, 1);
     // Typesetters leave more room behind full stops.
     const Line uneven = moved(makeLine("pppp pppp pppp", 72, 100), 1, 3);
     const ParagraphDraft text = fitted(draftOf(kTimes, uneven, Alignment::Justified));
     EXPECT_EQ(text.alignment, Alignment::Start);
-    EXPECT_NEAR(text.lines[0].words[1].blankSurplus, 5.5, 0.03);
-    EXPECT_NEAR(text.lines[0].words[2].blankSurplus, 2.5, 0.03);
+    EXPECT_NEAR(text.lines[0].words[1].blankStretch, 3.2, 0.01);
+    EXPECT_NEAR(text.lines[0].words[2].blankStretch, 2, 0.01);
 }
 
 TEST(LineFitter, SqueezesALineBetweenTwoEdgesThatIsALittleTooLong) {
@@ -103,7 +103,7 @@ TEST(LineFitter, SqueezesALineBetweenTwoEdgesThatIsALittleTooLong) {
     const Line line = moved(makeLine("pppp pppp", 72, 100), 1, -2.6);
     EXPECT_LT(stretchIn(draftOf(kTimes, line, Alignment::Justified)), 1);
     EXPECT_GT(stretchIn(draftOf(kTimes, line, Alignment::Justified)), 0.97);
-    EXPECT_EQ(surplusIn(draftOf(kTimes, line, Alignment::Justified)), 0);
+    EXPECT_EQ(blankStretchIn(draftOf(kTimes, line, Alignment::Justified)), 1);
 }
 
 TEST(LineFitter, StretchesAWordByItselfThatTheLinesStretchLeavesOff) {
