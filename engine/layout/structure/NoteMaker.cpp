@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace orvane::layout {
@@ -63,6 +64,30 @@ NoteCount findCount(const std::vector<FoundNote>& notes) {
                                                                                                : NoteCount::Continuous;
 }
 
+/// The column at whose foot the note stands; nothing where it reaches over several, or the page has but one.
+std::optional<ColumnSpan> columnUnder(const Rect& note, const PageLayout& page, double tolerance) {
+    for (auto band = page.bands.rbegin(); band != page.bands.rend(); ++band)
+        for (const ColumnSpan& column : band->columns)
+            if (band->columns.size() > 1 && note.left >= column.left - tolerance &&
+                note.right <= column.right + tolerance)
+                return column;
+    return std::nullopt;
+}
+
+/// Word processors set notes in columns too: their indents count from the edge of that column.
+void setColumn(DraftNote& note, const PageLayout& page, double tolerance) {
+    Rect box;
+    for (const DraftBlock& block : note.blocks)
+        box = box.united(block.box);
+    const std::optional<ColumnSpan> column = columnUnder(box, page, tolerance);
+    if (!column)
+        return;
+    forEachParagraph(note.blocks, [&column](DraftParagraph& paragraph) {
+        for (DraftPiece& piece : paragraph.pieces)
+            piece.column = *column;
+    });
+}
+
 } // namespace
 
 void makeNotes(DocumentDraft& draft, FoundNotes found, const DocumentContext& context,
@@ -73,6 +98,7 @@ void makeNotes(DocumentDraft& draft, FoundNotes found, const DocumentContext& co
         DraftNote made;
         made.kind = note.kind;
         made.blocks = addPage(draft, layoutPage(std::move(note.content), context, parameters, diagnostics));
+        setColumn(made, draft.pages[note.referencePage], parameters.notes.edgeTolerance);
         bool isFirst = true;
         forEachParagraph(made.blocks, [&isFirst](DraftParagraph& paragraph) {
             paragraph.role = ParagraphRole::NoteText;
