@@ -16,6 +16,7 @@ struct ParagraphParameters {
     /// LineMeasures, ParagraphBreaks, ParagraphShape: lines of one column become paragraphs.
     struct Paragraphs {
         double edgeTolerance = 0.25;  ///< of the font size; edges closer than this are one edge
+        double hangingShare = 0.25;   ///< of the font size; so far signs may reach over the edge of justified text
         double flushTolerance = 0.08; ///< of the font size; a justified line ends this close to the column's edge
         double fitSlack = 0.05;       ///< of the font size; what a word must leave free to have "fitted"
         double endAligned = 0.25; ///< of a line's width; with less room before it the line is full, not set to the end

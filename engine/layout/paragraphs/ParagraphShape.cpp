@@ -1,7 +1,11 @@
 #include "layout/paragraphs/ParagraphShape.h"
 
+#include "base/Utf8.h"
+#include "layout/text/LineText.h"
+
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -24,37 +28,49 @@ bool isCenteredParagraph(std::span<const LineMeasure> measures, double tolerance
 }
 
 bool isEndAligned(std::span<const LineMeasure> measures, double tolerance, double minimumIndent) {
-    double least = measures[0].startGap;
-    double most = least;
-    for (const LineMeasure& line : measures) {
-        if (std::abs(line.endGap) > tolerance)
-            return false;
-        least = std::min(least, line.startGap);
-        most = std::max(most, line.startGap);
-    }
-    return measures.size() == 1 ? least > minimumIndent : most - least > tolerance && most > minimumIndent;
+    if (std::any_of(measures.begin(), measures.end(),
+                    [tolerance](const LineMeasure& line) { return std::abs(line.endGap) > tolerance; }))
+        return false;
+    const auto startsBefore = [](const LineMeasure& a, const LineMeasure& b) { return a.startGap < b.startGap; };
+    // The first of several lines may have an indent of its own.
+    const auto rest = measures.size() > 2 ? measures.subspan(1) : measures;
+    const auto [first, last] = std::minmax_element(rest.begin(), rest.end(), startsBefore);
+    return measures.size() == 1 ? first->startGap > minimumIndent
+                                : last->startGap - first->startGap > tolerance && last->startGap > minimumIndent;
+}
+
+/// Typesetters let hyphens and points reach over the edge, so that it looks straight.
+bool endsInHangingSign(const Line& line) {
+    constexpr std::u32string_view kSigns = U"-\u2010\u00AD\u2013.,;:'\"\u2019\u201D\u00BB)";
+    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
+    return !text.empty() && kSigns.find(text.back()) != std::u32string_view::npos;
 }
 
 /// All lines but the last end at one edge, and so exactly or with such wide blanks that it is no chance.
-bool isJustified(std::span<const LineMeasure> measures, double flush,
+bool isJustified(std::span<const LineMeasure> measures, std::span<const Line> lines, double fontSize,
                  const ParagraphParameters::Paragraphs& parameters) {
     if (measures.size() < 2)
         return false;
+    const double flush = parameters.flushTolerance * fontSize, hang = parameters.hangingShare * fontSize;
     int stretched = 0;
-    const double edge = measures[0].endGap;
-    for (const LineMeasure& line : measures.first(measures.size() - 1)) {
-        if (std::abs(line.endGap - edge) > flush)
+    double edge = measures[0].endGap;
+    for (std::size_t i = 0; i + 1 < measures.size(); ++i)
+        edge = endsInHangingSign(lines[i]) ? edge : std::max(edge, measures[i].endGap);
+    for (std::size_t i = 0; i + 1 < measures.size(); ++i) {
+        const double over = edge - measures[i].endGap;
+        if (over < -flush || over > flush + (endsInHangingSign(lines[i]) ? hang : 0))
             return false;
-        stretched += line.meanGap > parameters.stretchedGap * line.blank ? 1 : 0;
+        stretched += measures[i].meanGap > parameters.stretchedGap * measures[i].blank ? 1 : 0;
     }
     return measures.size() > 3 || stretched > 0;
 }
 
-Alignment findAlignment(std::span<const LineMeasure> measures, double fontSize,
+Alignment findAlignment(std::span<const LineMeasure> measures, std::span<const Line> lines,
                         const ParagraphParameters::Paragraphs& parameters) {
+    const double fontSize = lines[0].fontSize;
     const double tolerance = parameters.edgeTolerance * fontSize;
     const double indent = parameters.minimumCenterIndent * fontSize;
-    if (isJustified(measures, parameters.flushTolerance * fontSize, parameters))
+    if (isJustified(measures, lines, fontSize, parameters))
         return Alignment::Justified;
     if (measures[0].marker)
         return Alignment::Start;
@@ -96,7 +112,7 @@ void shapeParagraph(ParagraphDraft& paragraph, std::span<const LineMeasure> meas
     paragraph.box = {};
     for (const Line& line : paragraph.lines)
         paragraph.box = paragraph.box.united(line.box);
-    paragraph.alignment = findAlignment(measures, paragraph.lines[0].fontSize, parameters);
+    paragraph.alignment = findAlignment(measures, paragraph.lines, parameters);
     setIndents(paragraph, measures);
     paragraph.leading = leadingOf(paragraph.lines, context);
 }

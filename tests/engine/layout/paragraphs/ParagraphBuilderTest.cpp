@@ -192,6 +192,20 @@ TEST(ParagraphBuilder, ReadsJustifiedTextByItsStretchedBlanks) {
     EXPECT_EQ(paragraphs[0].alignment, Alignment::Justified);
 }
 
+// Typesetters let hyphens reach over the edge, so that it looks straight.
+TEST(ParagraphBuilder, ReadsJustifiedTextWhoseHyphensHangOverTheEdge) {
+    const std::vector<std::string> art = {"  The quick brown fox who jumps", "over the lazy dog runs away in-",
+                                          "to the woods and is not seen by", "anyone."};
+    const auto read = [&art](std::size_t hanging) {
+        std::vector<Line> lines = linesFromArt(art, 12);
+        for (Rect* box : {&lines[hanging].box, &lines[hanging].words.back().box})
+            box->right += 2;
+        return buildParagraphs(lines, artColumn(31), kContext, {}).at(0).alignment;
+    };
+    EXPECT_EQ(read(1), Alignment::Justified);
+    EXPECT_EQ(read(0), Alignment::Start) << "letters do not hang, and a first line that is indented is no ragged start";
+}
+
 TEST(ParagraphBuilder, ReadsNoStretchedBlankFromTheGapBehindALabel) {
     const auto paragraphs = build({"1.  Items that run to the edge", "    and go on below it."}, 30);
     ASSERT_EQ(paragraphs.size(), 1U);
