@@ -111,31 +111,56 @@ void takeStyleSpacing(std::vector<BlockFlow>& flows, const std::vector<Style>& s
     }
 }
 
-/// Sets the gap on the two paragraphs where their styles give another one.
-void setParagraphGap(Paragraph& upper, Paragraph& lower, Twips gap, Twips tolerance) {
-    const bool isContextual = upper.style == lower.style && upper.properties.isContextualSpacing;
-    const Twips given = isContextual ? Twips(0) : std::max(upper.properties.spaceAfter, lower.properties.spaceBefore);
-    if (std::abs(given.value - gap.value) <= tolerance.value)
-        return;
-    if (given < gap) {
-        upper.properties.isContextualSpacing = false;
-        upper.properties.spaceAfter = gap;
-        return;
-    }
-    upper.properties.spaceAfter = std::min(upper.properties.spaceAfter, gap);
-    lower.properties.spaceBefore = std::min(lower.properties.spaceBefore, gap);
+/// Whether the paragraph leaves its space away towards the other, which stands above or below it.
+bool leavesSpaceTo(const Paragraph& paragraph, const Paragraph& other) {
+    return paragraph.style == other.style && paragraph.properties.isContextualSpacing;
 }
 
-void setGap(const BlockGap& gap, const AssemblyParameters::Spacing& limits) {
+/// The space between the two as their properties have it: each leaves its own away, and the greater one counts.
+Twips givenGap(const Paragraph& upper, const Paragraph& lower) {
+    const Twips after = leavesSpaceTo(upper, lower) ? Twips(0) : upper.properties.spaceAfter;
+    const Twips before = leavesSpaceTo(lower, upper) ? Twips(0) : lower.properties.spaceBefore;
+    return std::max(after, before);
+}
+
+/// Sets the gap on the two paragraphs where their styles give another one. `above` is the paragraph right above both,
+/// null without one; its gap is set already.
+void setParagraphGap(const Paragraph* above, Paragraph& upper, Paragraph& lower, Twips gap, Twips tolerance) {
+    const Twips given = givenGap(upper, lower);
+    if (std::abs(given.value - gap.value) <= tolerance.value)
+        return;
+    if (given > gap) {
+        upper.properties.spaceAfter = std::min(upper.properties.spaceAfter, gap);
+        lower.properties.spaceBefore = std::min(lower.properties.spaceBefore, gap);
+        return;
+    }
+    upper.properties.spaceAfter = gap;
+    if (!leavesSpaceTo(upper, lower))
+        return;
+    // The space before, which the style has for the head of the list, would count from now on too.
+    if (above && leavesSpaceTo(upper, *above))
+        upper.properties.spaceBefore = Twips(0);
+    upper.properties.isContextualSpacing = false;
+}
+
+void setGap(const AssembledBlock* above, const BlockGap& gap, const AssemblyParameters::Spacing& limits) {
     Paragraph* upper = gap.upper->paragraph();
     Paragraph* lower = gap.lower->paragraph();
     const Twips space = twipsFromPoints(gap.points);
     if (upper && lower)
-        setParagraphGap(*upper, *lower, space, twipsFromPoints(limits.sameGap));
+        setParagraphGap(above ? above->paragraph() : nullptr, *upper, *lower, space, twipsFromPoints(limits.sameGap));
     else if (upper)
         upper->properties.spaceAfter = space;
     else if (lower)
         lower->properties.spaceBefore = space;
+}
+
+void setGaps(const std::vector<BlockGap>& gaps, const AssemblyParameters::Spacing& limits) {
+    const BlockGap* previous = nullptr;
+    for (const BlockGap& gap : gaps) {
+        setGap(previous && previous->lower == gap.upper ? previous->upper : nullptr, gap, limits);
+        previous = &gap;
+    }
 }
 
 /// The first line of a cell stands where its alignment puts it, and nothing follows the last.
@@ -201,8 +226,7 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
     takeStyleSpacing(flows, styles);
     for (BlockFlow& flow : flows)
         forEachBlock(flow.blocks, flow.kind, [](AssembledBlock& block, FlowKind) { trimCells(block); });
-    for (const BlockGap& gap : gaps)
-        setGap(gap, limits);
+    setGaps(gaps, limits);
     for (BlockFlow& flow : flows) {
         spaceTablesApart(flow.blocks, context);
         if (flow.kind != FlowKind::Body)

@@ -83,6 +83,34 @@ TEST(SpacingFinder, LetsItemsStandCloseWithSpaceBehindTheList) {
         EXPECT_EQ(paragraphAt(document, i).properties, item);
 }
 
+TEST(SpacingFinder, OpensAGapWithinAListWithoutTheSpaceAboveTheList) {
+    // Two lists with the same space before and behind them; within the second, one item stands apart.
+    const double apart = 8;
+    DocumentDraft draft = draftOfLines({{"one", 100},
+                                        {"item", 100 + kLine + apart},
+                                        {"item", 100 + 2 * kLine + apart},
+                                        {"two", 100 + 3 * kLine + 2 * apart},
+                                        {"more", 100 + 4 * kLine + 2 * apart},
+                                        {"text", 100 + 5 * kLine + 2 * apart},
+                                        {"item", 100 + 6 * kLine + 3 * apart},
+                                        {"item", 100 + 7 * kLine + 3 * apart},
+                                        {"item", 100 + 8 * kLine + 6 * apart},
+                                        {"three", 100 + 9 * kLine + 9 * apart}});
+    for (const std::size_t i : {1u, 2u, 6u, 7u, 8u})
+        draft.blocks[i].paragraph()->role = ParagraphRole::ListItem;
+    const auto document = documentOf(draft);
+    const auto& item = styleOf(document, "ListParagraph").paragraph;
+    ASSERT_TRUE(item.isContextualSpacing);
+    ASSERT_NEAR(pointsFromTwips(item.spaceBefore), apart, 0.15);
+    const auto& wide = paragraphAt(document, 7).properties;
+    EXPECT_FALSE(wide.isContextualSpacing);
+    EXPECT_NEAR(pointsFromTwips(wide.spaceAfter), 3 * apart, 0.15);
+    EXPECT_EQ(wide.spaceBefore, Twips(0)) << "it stands close to the item above";
+    const auto& last = paragraphAt(document, 8).properties;
+    EXPECT_NEAR(pointsFromTwips(last.spaceAfter), 3 * apart, 0.15);
+    EXPECT_TRUE(last.isContextualSpacing) << "else its space before would count towards the items above";
+}
+
 TEST(SpacingFinder, CountsTheSpaceBelowAPictureFromItsEdge) {
     DocumentDraft draft = draftOfLines({{"below", 251.5}});
     draft.blocks.insert(draft.blocks.begin(), makePictureBlock({72, 120, 272, 220}));
