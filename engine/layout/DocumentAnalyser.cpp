@@ -172,6 +172,12 @@ const Line* lineBelow(const std::vector<Line>& lines, std::size_t index, double 
     return nullptr;
 }
 
+/// Whether the hyphen between the two was only for the line's end: the word stands whole elsewhere, and the second part
+/// is none. Where it is one, people write both: "non-clinical" and "nonclinical".
+bool isDivided(const std::string& first, const std::string& second, const std::unordered_set<std::string>& vocabulary) {
+    return !first.empty() && vocabulary.contains(first + second) && !vocabulary.contains(second);
+}
+
 /// Whether words were divided at the ends of lines: one that stands whole elsewhere shows it, or hyphens at many ends.
 bool areWordsDivided(const std::vector<PageText>& pages, const std::unordered_set<std::string>& vocabulary,
                      const LayoutParameters::Analysis& limits) {
@@ -186,8 +192,7 @@ bool areWordsDivided(const std::vector<PageText>& pages, const std::unordered_se
                 continue;
             ++hyphens;
             const Line* next = lineBelow(page.lines, i, limits.maximumLeading);
-            const std::string first = plainWord(line.words.back());
-            if (next && !first.empty() && vocabulary.contains(first + plainWord(next->words.front())))
+            if (next && isDivided(plainWord(line.words.back()), plainWord(next->words.front()), vocabulary))
                 return true;
         }
     return hyphens >= limits.fewestHyphens && hyphens >= limits.hyphenShare * lines;

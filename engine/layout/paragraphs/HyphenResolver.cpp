@@ -67,7 +67,9 @@ LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
         return LineJoin::Blank; // the hyphen stands for the rest of a compound that comes later
     if (knows(vocabulary, std::u32string(head) + U"-" + std::u32string(tail)))
         return LineJoin::Nothing;
-    if (knows(vocabulary, std::u32string(head) + std::u32string(tail)))
+    // Typed before a whole word, it is a hyphen even where the document also writes both in one.
+    const bool isTypedBeforeWord = source == HyphenSource::Typed && knows(vocabulary, std::u32string(tail));
+    if (knows(vocabulary, std::u32string(head) + std::u32string(tail)) && !isTypedBeforeWord)
         return LineJoin::DropHyphen;
     // "Nord-" "Ostsee", "E-" "Mail", "X-" "ray", "e-" "mail": compounds.
     if (!isLower(next[0]) || head.size() < 2 || !isLower(head.back()) || head.find(U'-') != std::u32string_view::npos)

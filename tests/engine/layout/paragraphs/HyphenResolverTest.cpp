@@ -38,12 +38,15 @@ TEST(HyphenResolver, JoinsLineEnds) {
 }
 
 TEST(HyphenResolver, KeepsTheHyphensOfDocumentsThatDivideNoWords) {
-    const std::unordered_set<std::string> vocabulary = {"information"};
+    const std::unordered_set<std::string> vocabulary = {"information", "nonclinical", "clinical"};
     const auto resolve = [&](const char* last, const char* next) {
         return resolveLineEnd(last, next, vocabulary, ScriptBoundary::Joined, HyphenSource::Typed);
     };
     EXPECT_EQ(resolve("wide-", "ranging"), LineJoin::Nothing);
     EXPECT_EQ(resolve("infor-", "mation"), LineJoin::DropHyphen) << "here it was";
+    EXPECT_EQ(resolve("non-", "clinical"), LineJoin::Nothing) << "the author writes it both ways";
+    EXPECT_EQ(resolveLineEnd("non-", "clinical", vocabulary), LineJoin::DropHyphen)
+        << "where words are divided, the way it stands elsewhere counts";
     EXPECT_EQ(resolve("con\xC2\xAD", "version"), LineJoin::DropHyphen) << "a soft hyphen";
 }
 
