@@ -55,7 +55,7 @@ public:
     void run() {
         for (const Ground& ground : m_layout.freeGrounds)
             shade(ground);
-        for (const Rule& rule : m_layout.freeRules)
+        for (Rule& rule : m_layout.freeRules)
             if (rule.direction == RuleDirection::Horizontal)
                 lineHorizontally(rule);
             else
@@ -92,7 +92,7 @@ private:
     }
 
     /// A rule belongs to the nearer of the paragraphs above and below it that are as wide as it.
-    void lineHorizontally(const Rule& rule) {
+    void lineHorizontally(Rule& rule) {
         const double upper = rule.position - rule.width / 2, lower = rule.position + rule.width / 2;
         const Placed* nearest = nullptr;
         double distance = m_parameters.greatestSpace;
@@ -109,6 +109,7 @@ private:
         ParagraphDraft& paragraph = *nearest->paragraph;
         (paragraph.box.centerY() < rule.position ? paragraph.borders.bottom : paragraph.borders.top) =
             borderOf(rule, distance);
+        rule.isUsed = true;
     }
 
     /// A rule beside paragraphs, along all of each.

@@ -4,6 +4,7 @@
 #include "layout/running/FirstPageEdges.h"
 #include "layout/running/HeadPlaces.h"
 #include "layout/running/RepeatedFigures.h"
+#include "layout/running/RepeatedRules.h"
 
 #include <algorithm>
 #include <cmath>
@@ -92,6 +93,21 @@ void moveParts(std::vector<T>& from, std::vector<T>& to, const Predicate& isPart
     const auto first = std::stable_partition(from.begin(), from.end(), [&](const T& item) { return !isPart(item); });
     std::move(first, from.end(), std::back_inserter(to));
     from.erase(first, from.end());
+}
+
+/// Moves the rules that the page shares with most others to its heads.
+void takeRules(PageText& page, std::size_t index, const std::vector<RepeatedRule>& repeated,
+               const RunningParameters::RunningHeads& limits, PageRunningHeads& heads) {
+    for (const RepeatedRule& common : repeated) {
+        if (!common.pages[index])
+            continue;
+        std::optional<RunningHead>& head = common.edge == PageEdge::Top ? heads.header : heads.footer;
+        if (!head)
+            head = emptyHead(page);
+        head->key += '_' + std::to_string(std::lround(common.rule.position)) + '\n';
+        moveParts(page.rules, head->content.rules,
+                  [&](const Rule& rule) { return isSamePlace(rule, common.rule, limits); });
+    }
 }
 
 void takeLines(PageText& page, const PageEdges& edges, PageRunningHeads& heads) {
@@ -250,12 +266,14 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
     if (wouldEatTheText(pages, edges, limits))
         return heads;
     const auto figures = findRepeatedFigures(pages, bodies, limits);
+    const auto rules = findRepeatedRules(pages, bodies, limits);
     for (std::size_t i = 0; i < pages.size(); ++i) {
         const PageEdges& edge = edges[i];
         // The rows name lines by their index, so the numbers are cut out before any line moves.
         const auto topFields = cutOutNumbers(pages[i], edge.top, numbers[i], greatest(numbers));
         const auto bottomFields = cutOutNumbers(pages[i], edge.bottom, numbers[i], greatest(numbers));
         takeFigures(pages[i], figures[i], heads[i]);
+        takeRules(pages[i], i, rules, limits, heads[i]);
         takeHeads(pages[i], edge, limits, heads[i]);
         if (heads[i].header)
             heads[i].header->fields = topFields;

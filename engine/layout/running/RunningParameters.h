@@ -36,6 +36,9 @@ struct RunningParameters {
         double textShare =
             0.25; ///< of the pages with a head; where as many others start their text in its place, it is text
         double bodilessShare = 0.5; ///< of the pages; where more would be left empty, what repeats is the text
+        // RepeatedRules
+        double ruleShare = 0.4; ///< of the pages; so many have the border of a header or footer, some only on odd ones
+        std::size_t mostEdgeRules = 6; ///< of one page beyond its text; more are a drawing
     } runningHeads;
 };
 

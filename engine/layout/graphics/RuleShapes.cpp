@@ -1,0 +1,96 @@
+#include "layout/graphics/RuleShapes.h"
+
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+using document::Shape;
+
+/// The single lines that the rule is made of: the two of a double one.
+std::vector<Rule> linesOf(const Rule& rule) {
+    if (rule.kind != document::BorderKind::Double || rule.lineWidth <= 0)
+        return {rule};
+    std::vector<Rule> lines(2, rule);
+    const double offset = (rule.width - rule.lineWidth) / 2;
+    for (Rule& line : lines) {
+        line.kind = document::BorderKind::Single;
+        line.width = rule.lineWidth;
+    }
+    lines.front().position -= offset;
+    lines.back().position += offset;
+    return lines;
+}
+
+Shape::Segment segment(Shape::Verb verb, Emu x = {}, Emu y = {}) {
+    return {verb, {x, y}};
+}
+
+/// A shape of the size of `box`, without an outline.
+Shape shapeAt(const Rect& box) {
+    Shape shape;
+    shape.x = emuFromPoints(box.left);
+    shape.y = emuFromPoints(box.top);
+    shape.width = emuFromPoints(box.width());
+    shape.height = emuFromPoints(box.height());
+    return shape;
+}
+
+/// A stroke along the middle of the box.
+Shape strokedShape(const Rule& rule, const Rect& box) {
+    Shape shape = shapeAt(box);
+    const bool isLevel = rule.direction == RuleDirection::Horizontal;
+    const Emu middle(isLevel ? shape.height.value / 2 : shape.width.value / 2);
+    shape.segments = {isLevel ? segment(Shape::Verb::Move, {}, middle) : segment(Shape::Verb::Move, middle),
+                      isLevel ? segment(Shape::Verb::Line, shape.width, middle)
+                              : segment(Shape::Verb::Line, middle, shape.height)};
+    shape.line = document::ShapeLine{rule.color, emuFromPoints(rule.width), rule.kind};
+    return shape;
+}
+
+} // namespace
+
+Rect boxOf(const Rule& rule) {
+    const double half = rule.width / 2;
+    if (rule.direction == RuleDirection::Horizontal)
+        return {rule.from, rule.position - half, rule.to, rule.position + half};
+    return {rule.position - half, rule.from, rule.position + half, rule.to};
+}
+
+Shape filledShape(const Rect& box, Color color, double opacity) {
+    Shape shape = shapeAt(box);
+    shape.segments = {segment(Shape::Verb::Move), segment(Shape::Verb::Line, shape.width),
+                      segment(Shape::Verb::Line, shape.width, shape.height),
+                      segment(Shape::Verb::Line, {}, shape.height), segment(Shape::Verb::Close)};
+    shape.fill = color;
+    shape.opacity = opacity;
+    return shape;
+}
+
+std::vector<Shape> shapesOf(const Rule& rule) {
+    std::vector<Shape> shapes;
+    for (const Rule& line : linesOf(rule)) {
+        const Rect box = boxOf(line);
+        // Screens keep thin strokes visible and show thin boxes fainter: each looks right only as it was painted.
+        const bool isBox = line.paint == RulePaint::Filled && line.kind == document::BorderKind::Single;
+        shapes.push_back(isBox ? filledShape(box, line.color, 1) : strokedShape(line, box));
+    }
+    return shapes;
+}
+
+Figure figureOf(const Rule& rule) {
+    Figure figure;
+    figure.box = boxOf(rule);
+    figure.paintOrder = rule.paintOrder;
+    document::Drawing& drawing = figure.drawing.emplace();
+    drawing.width = emuFromPoints(figure.box.width());
+    drawing.height = emuFromPoints(figure.box.height());
+    for (Shape& shape : shapesOf(rule)) {
+        shape.x = shape.x - emuFromPoints(figure.box.left);
+        shape.y = shape.y - emuFromPoints(figure.box.top);
+        drawing.shapes.push_back(std::move(shape));
+    }
+    return figure;
+}
+
+} // namespace orvane::layout
