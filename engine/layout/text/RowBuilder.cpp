@@ -2,11 +2,11 @@
 
 #include "layout/text/Characters.h"
 #include "layout/text/ScriptFinder.h"
+#include "layout/text/StripOrder.h"
 #include "layout/text/TextStrip.h"
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <map>
 #include <tuple>
 
@@ -41,18 +41,12 @@ private:
     std::map<double, double> m_endOfStart;
 };
 
-/// A cluster with what it is sorted by.
-struct PlacedCluster {
-    double key = 0;
-    Cluster cluster;
-};
-
 /// Makes rows of the strips of one baseline. Strips that lie on top of others, rather than in their gaps, make a row of
 /// their own.
 class RowAssembler {
 public:
-    RowAssembler(const TextParameters::Rows& limits, std::vector<TextRow>& rows)
-        : m_limits(limits)
+    RowAssembler(const TextParameters& parameters, std::vector<TextRow>& rows)
+        : m_parameters(parameters)
         , m_rows(rows) {}
 
     void assemble(std::vector<TextStrip> strips) {
@@ -89,7 +83,7 @@ private:
             shared += inked.sharedWith(cluster);
             width += cluster.width();
         }
-        return shared > m_limits.overprint * width && shared > m_limits.overprintSize * strip.size;
+        return shared > m_parameters.rows.overprint * width && shared > m_parameters.rows.overprintSize * strip.size;
     }
 
     void addRow(std::vector<TextStrip> layer) {
@@ -105,45 +99,12 @@ private:
         const auto isLighter = [](const auto& a, const auto& b) { return a.second < b.second; };
         row.fontSize = std::max_element(sizes.begin(), sizes.end(), isLighter)->first;
         row.baseline = std::max_element(baselines.begin(), baselines.end(), isLighter)->first;
-        row.clusters = inOrder(std::move(layer));
+        row.clusters = inReadingOrder(std::move(layer), m_parameters);
         if (std::any_of(row.clusters.begin(), row.clusters.end(), [](const Cluster& c) { return !isBlank(c.text); }))
             m_rows.push_back(std::move(row));
     }
 
-    /// The clusters from start to end of the row, with blanks that were painted apart from the words between these.
-    static std::vector<Cluster> inOrder(std::vector<TextStrip> layer) {
-        std::vector<PlacedCluster> placed;
-        double scriptEnd = -std::numeric_limits<double>::infinity(), scriptKey = scriptEnd;
-        for (TextStrip& strip : layer) {
-            // A subscript below a superscript is read after it, not letter by letter in turn.
-            double key =
-                strip.isScript && strip.start < scriptEnd ? scriptKey : -std::numeric_limits<double>::infinity();
-            for (Cluster& cluster : strip.clusters) {
-                const bool isBlankCluster = isBlank(cluster.text);
-                if (!isBlankCluster)
-                    key = std::max(key, cluster.start);
-                placed.push_back(
-                    {isBlankCluster ? cluster.start + kBlankPlace * cluster.width() : key, std::move(cluster)});
-            }
-            if (strip.isScript) {
-                scriptEnd = strip.end - kScriptTouch * strip.size;
-                scriptKey = key;
-            }
-        }
-        std::stable_sort(placed.begin(), placed.end(),
-                         [](const PlacedCluster& a, const PlacedCluster& b) { return a.key < b.key; });
-        std::vector<Cluster> clusters;
-        clusters.reserve(placed.size());
-        for (PlacedCluster& item : placed)
-            clusters.push_back(std::move(item.cluster));
-        return clusters;
-    }
-
-    static constexpr double kBlankPlace =
-        0.2; ///< of its width; the word after a blank may begin before the blank's end
-    static constexpr double kScriptTouch = 0.1; ///< of the font size; scripts that only touch follow each other
-
-    const TextParameters::Rows& m_limits;
+    const TextParameters& m_parameters;
     std::vector<TextRow>& m_rows;
 };
 
@@ -157,7 +118,7 @@ std::vector<TextRow> buildRows(std::vector<Cluster> clusters, const TextParamete
     sortByBaseline(strips);
 
     std::vector<TextRow> rows;
-    RowAssembler assembler(limits, rows);
+    RowAssembler assembler(parameters, rows);
     for (auto first = strips.begin(); first != strips.end();) {
         const auto last = std::find_if(first, strips.end(), [&](const TextStrip& strip) {
             return strip.frame != first->frame ||

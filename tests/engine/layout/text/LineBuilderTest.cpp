@@ -35,6 +35,20 @@ TEST(LineBuilder, ReadsTextInTheOrderOfThePageWhateverItsPaintOrder) {
     EXPECT_THAT(linesOf(page), ElementsAre("The first second", "third"));
 }
 
+TEST(LineBuilder, ReadsAWordThatBeginsOnAnotherAfterIt) {
+    PageContentBuilder page;
+    const double x = page.text(72, 100, "This is your", 12);
+    page.text(x - 9, 100, "total income", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("This is your total income"));
+}
+
+TEST(LineBuilder, ReadsAWordThatLiesOnALongerOneAfterIt) {
+    PageContentBuilder page;
+    page.text(72, 100, "sent at", 12);
+    page.text(86, 100, "www.example.org/orders", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("sent www.example.org/orders at"));
+}
+
 TEST(LineBuilder, CutsColumnsAtTheirGutter) {
     PageContentBuilder page;
     for (int i = 0; i < 5; ++i) {
