@@ -2,111 +2,15 @@
 
 #include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/HeadSpans.h"
-#include "layout/tables/OpenBands.h"
-#include "layout/tables/RuleStack.h"
+#include "layout/tables/RuleBands.h"
 #include "layout/tables/RuledAdmission.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <set>
 
 namespace orvane::layout {
 namespace {
-
-/// Rows of text between two levels of a stack, or beyond its ends.
-struct Band {
-    double top = 0;
-    double bottom = 0;
-    std::vector<PieceRow> rows;
-    bool hasRuleAbove = true;
-    bool hasRuleBelow = true;
-    std::size_t level = 0;   ///< index of a level that it touches
-    bool isFollowed = false; ///< by running text, which ends the table
-    bool isTotal = false;    ///< a row below the rule that closes the body
-};
-
-/// Whether the row holds a line of running text: over the columns of the others, and over most of the rules' length.
-bool isRunningLine(const PieceRow& row, const RuleLevel& level, const std::vector<ColumnGap>& gaps,
-                   const TableParameters::Tables& parameters) {
-    if (row.pieces.size() != 1 || row.box.width() < parameters.openProseShare * (level.right - level.left))
-        return false;
-    const ColumnRange range = columnsOf(row.pieces.front(), gaps);
-    return range.first == 0 && range.last > 0;
-}
-
-/// Cuts a band where lines of running text follow each other in it: a paragraph between two tables.
-void appendParts(Band band, const RuleLevel& level, const TableParameters::Tables& parameters,
-                 std::vector<Band>& bands) {
-    const std::vector<ColumnGap> gaps = findColumnGaps(band.rows, parameters);
-    const auto first =
-        std::adjacent_find(band.rows.begin(), band.rows.end(), [&](const PieceRow& row, const PieceRow& next) {
-            return isRunningLine(row, level, gaps, parameters) && isRunningLine(next, level, gaps, parameters);
-        });
-    if (first == band.rows.begin() || first == band.rows.end()) {
-        bands.push_back(std::move(band));
-        return;
-    }
-    const auto end = std::find_if(first, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
-    Band rest{first->box.top, band.bottom, {end, band.rows.end()}, false, band.hasRuleBelow, band.level, false, false};
-    band.rows.erase(first, band.rows.end());
-    band.bottom = band.rows.back().box.bottom;
-    band.hasRuleBelow = false;
-    band.isFollowed = true;
-    bands.push_back(std::move(band));
-    bands.push_back(std::move(rest));
-}
-
-std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
-                          const TableParameters::Tables& parameters) {
-    std::vector<Band> bands;
-    for (std::size_t i = 0; i + 1 < stack.size(); ++i) {
-        const Rect box{std::min(stack[i].left, stack[i + 1].left) - parameters.endSnap, stack[i].y,
-                       std::max(stack[i].right, stack[i + 1].right) + parameters.endSnap, stack[i + 1].y};
-        std::vector<TextPiece> within;
-        for (const TextPiece& piece : pieces)
-            if (box.contains(Point{piece.box.centerX(), piece.box.centerY()}))
-                within.push_back(piece);
-        appendParts({box.top, box.bottom, groupIntoRows(std::move(within), parameters), true, true, i, false, false},
-                    stack[i], parameters, bands);
-    }
-    return bands;
-}
-
-/// Adds the head above the first rule and the rows below the last one, where the stack is open there: every row below
-/// is a band of its own.
-void addOpenBands(const RuleStack& stack, const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
-                  const TableParameters::Tables& parameters, std::vector<Band>& bands) {
-    std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
-    // A rule below the head, or one at each side of it, leaves the table open; more rules close it with their last.
-    const bool isOpenBelow = stack.size() == 1 ? !head.empty()
-                                               : stack.size() == 2 && static_cast<int>(bands.front().rows.size()) <=
-                                                                          parameters.maximumHeaderRows;
-    std::vector<PieceRow> above;
-    if (static_cast<int>(stack.size()) >= parameters.fewestTotalRules)
-        above = rowsAbove(stack.front(), pieces, lines, parameters);
-    if (above.size() > head.size()) {
-        std::vector<Band> first;
-        for (PieceRow& row : above) {
-            const double bottom = row.box.bottom;
-            first.push_back({row.box.top, bottom, {std::move(row)}, false, false, 0, false, false});
-        }
-        first.back().bottom = stack.front().y;
-        first.back().hasRuleBelow = true;
-        bands.insert(bands.begin(), std::make_move_iterator(first.begin()), std::make_move_iterator(first.end()));
-    } else if (!head.empty()) {
-        const double top = head.front().box.top;
-        bands.insert(bands.begin(), {top, stack.front().y, std::move(head), false, true, 0, false, false});
-    }
-    double top = stack.back().y;
-    for (PieceRow& row : isOpenBelow ? rowsBelow(stack.back(), pieces, parameters)
-                                     : totalsBelow(stack.back(), pieces, lines, parameters)) {
-        const double bottom = row.box.bottom;
-        bands.push_back(
-            {top, bottom, {std::move(row)}, top == stack.back().y, false, stack.size() - 1, false, !isOpenBelow});
-        top = bottom;
-    }
-}
 
 bool isHeadingOnly(const Band& band) {
     return std::all_of(band.rows.begin(), band.rows.end(), [](const PieceRow& row) { return row.pieces.size() < 2; });
@@ -255,12 +159,12 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
 }
 
 /// The grid of a run, cut to what belongs to it; nothing when it is no table.
-std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<BorderLine>& lines, const RuleStack& stack,
+std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<BorderLine>& rules, const RuleStack& stack,
                                    const std::vector<Band>& bands, const LayoutParameters& parameters, BandRun& run) {
     const TableParameters::Tables& limits = parameters.tables;
     if (run.end == run.first || frameOf(stack, bands, run) == Frame::None)
         return std::nullopt;
-    alignRun(bands, page.lines, lines, parameters, run);
+    alignRun(bands, page.lines, rules, parameters, run);
     dropNotes(bands, run);
     if (run.aligned.groups.empty() || !fillsRules(run, stack[bands[run.first].level], limits))
         return std::nullopt;
@@ -268,14 +172,14 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<Borde
         return std::nullopt;
     if (judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) != TableVerdict::Table)
         return std::nullopt;
-    TableGrid grid = spanHeads(gridOf(run.aligned, limits.textMargin), run.aligned, page.lines, lines, limits);
+    TableGrid grid = spanHeads(gridOf(run.aligned, limits.textMargin), run.aligned, page.lines, rules, limits);
     snapToRules(grid, stack, bands, run);
     return isDrawnOver(page, grid, limits) ? std::nullopt : std::optional(std::move(grid));
 }
 
 /// The stacks with most levels first: the more rules agree, the surer they are those of a table.
-std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
-    std::vector<RuleStack> stacks = findRuleStacks(lines, parameters);
+std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& rules, const TableParameters::Tables& parameters) {
+    std::vector<RuleStack> stacks = findRuleStacks(rules, parameters);
     std::stable_sort(stacks.begin(), stacks.end(),
                      [](const RuleStack& a, const RuleStack& b) { return a.size() > b.size(); });
     return stacks;
@@ -283,26 +187,25 @@ std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& lines, const 
 
 } // namespace
 
-std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
+std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& rules,
                                           const LayoutParameters& parameters) {
     const TableParameters::Tables& limits = parameters.tables;
     std::vector<TextPiece> pieces = cutIntoPieces(page, limits);
     std::stable_sort(pieces.begin(), pieces.end(),
                      [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
     std::vector<TableGrid> grids;
-    for (const RuleStack& stack : sortedStacks(lines, limits)) {
-        std::vector<Band> bands = bandsOf(stack, pieces, limits);
-        addOpenBands(stack, pieces, page.lines, limits, bands);
+    for (const RuleStack& stack : sortedStacks(rules, limits)) {
+        const std::vector<Band> bands = bandsOf(stack, pieces, page.lines, limits);
         for (std::size_t first = 0; first < bands.size();) {
             BandRun run{first, first, {}};
             if (!bands[first].rows.empty() && !isHeadingOnly(bands[first]))
                 run = growRun(bands, first, limits);
             BandRun body{run.first, endWithoutTotals(bands, run), {}};
-            std::optional<TableGrid> grid = gridOfRun(page, lines, stack, bands, parameters, run);
+            std::optional<TableGrid> grid = gridOfRun(page, rules, stack, bands, parameters, run);
             if (!grid && body.end != run.end) {
                 // What stands below the last rule only looked like totals.
                 run = std::move(body);
-                grid = gridOfRun(page, lines, stack, bands, parameters, run);
+                grid = gridOfRun(page, rules, stack, bands, parameters, run);
             }
             first = grid ? run.end : first + 1;
             const bool isNew = grid && std::none_of(grids.begin(), grids.end(), [&](const TableGrid& other) {

@@ -10,7 +10,7 @@
 namespace orvane::layout {
 
 /// The grids of tables that have rules between their rows only: the words' own columns complete them.
-std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& lines,
+std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vector<BorderLine>& rules,
                                           const LayoutParameters& parameters);
 
 } // namespace orvane::layout

@@ -1,0 +1,140 @@
+#include "layout/tables/RuleBands.h"
+
+#include "layout/tables/ColumnGaps.h"
+#include "layout/tables/OpenBands.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace orvane::layout {
+namespace {
+
+/// Whether the table goes on below the last level of a stack.
+enum class StackEnd { Open, Closed };
+
+/// Whether the row holds a line of running text: over the columns of the others, and over most of the rules' length.
+bool isRunningLine(const PieceRow& row, const RuleLevel& level, const std::vector<ColumnGap>& gaps,
+                   const TableParameters::Tables& parameters) {
+    if (row.pieces.size() != 1 || row.box.width() < parameters.openProseShare * (level.right - level.left))
+        return false;
+    const ColumnRange range = columnsOf(row.pieces.front(), gaps);
+    return range.first == 0 && range.last > 0;
+}
+
+/// Cuts a band where lines of running text follow each other in it: a paragraph between two tables.
+void appendParts(Band band, const RuleLevel& level, const TableParameters::Tables& parameters,
+                 std::vector<Band>& bands) {
+    const std::vector<ColumnGap> gaps = findColumnGaps(band.rows, parameters);
+    const auto first =
+        std::adjacent_find(band.rows.begin(), band.rows.end(), [&](const PieceRow& row, const PieceRow& next) {
+            return isRunningLine(row, level, gaps, parameters) && isRunningLine(next, level, gaps, parameters);
+        });
+    if (first == band.rows.begin() || first == band.rows.end()) {
+        bands.push_back(std::move(band));
+        return;
+    }
+    const auto end = std::find_if(first, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
+    Band rest{.top = first->box.top,
+              .bottom = band.bottom,
+              .rows = {end, band.rows.end()},
+              .hasRuleAbove = false,
+              .hasRuleBelow = band.hasRuleBelow,
+              .level = band.level};
+    band.rows.erase(first, band.rows.end());
+    band.bottom = band.rows.back().box.bottom;
+    band.hasRuleBelow = false;
+    band.isFollowed = true;
+    bands.push_back(std::move(band));
+    bands.push_back(std::move(rest));
+}
+
+std::vector<Band> bandsBetween(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+                               const TableParameters::Tables& parameters) {
+    std::vector<Band> bands;
+    for (std::size_t i = 0; i + 1 < stack.size(); ++i) {
+        const Rect box{std::min(stack[i].left, stack[i + 1].left) - parameters.endSnap, stack[i].y,
+                       std::max(stack[i].right, stack[i + 1].right) + parameters.endSnap, stack[i + 1].y};
+        std::vector<TextPiece> within;
+        for (const TextPiece& piece : pieces)
+            if (box.contains(Point{piece.box.centerX(), piece.box.centerY()}))
+                within.push_back(piece);
+        appendParts(
+            {.top = box.top, .bottom = box.bottom, .rows = groupIntoRows(std::move(within), parameters), .level = i},
+            stack[i], parameters, bands);
+    }
+    return bands;
+}
+
+/// A rule below the head, or one at each side of it, leaves the table open; more rules close it with their last.
+StackEnd endOf(const RuleStack& stack, const std::vector<PieceRow>& head, const std::vector<Band>& between,
+               const TableParameters::Tables& parameters) {
+    const bool hasHeadOnly = stack.size() == 1 ? !head.empty()
+                                               : stack.size() == 2 && static_cast<int>(between.front().rows.size()) <=
+                                                                          parameters.maximumHeaderRows;
+    return hasHeadOnly ? StackEnd::Open : StackEnd::Closed;
+}
+
+/// The head above the first level; where rules stand at totals only, the rows above it, each a band of its own.
+std::vector<Band> bandsAbove(const RuleStack& stack, std::vector<PieceRow> head, const std::vector<TextPiece>& pieces,
+                             const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    std::vector<PieceRow> rows;
+    if (static_cast<int>(stack.size()) >= parameters.fewestTotalRules)
+        rows = rowsAbove(stack.front(), pieces, lines, parameters);
+    std::vector<Band> bands;
+    if (rows.size() > head.size()) {
+        for (PieceRow& row : rows) {
+            const Rect box = row.box;
+            bands.push_back({.top = box.top,
+                             .bottom = box.bottom,
+                             .rows = {std::move(row)},
+                             .hasRuleAbove = false,
+                             .hasRuleBelow = false});
+        }
+    } else if (!head.empty()) {
+        const double top = head.front().box.top;
+        bands.push_back({.top = top, .rows = std::move(head), .hasRuleAbove = false});
+    }
+    if (!bands.empty()) {
+        bands.back().bottom = stack.front().y;
+        bands.back().hasRuleBelow = true;
+    }
+    return bands;
+}
+
+/// The rows below the last level, each a band of its own: of a closed stack only totals.
+std::vector<Band> bandsBelow(const RuleStack& stack, StackEnd stackEnd, const std::vector<TextPiece>& pieces,
+                             const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    const RuleLevel& last = stack.back();
+    std::vector<PieceRow> rows =
+        stackEnd == StackEnd::Open ? rowsBelow(last, pieces, parameters) : totalsBelow(last, pieces, lines, parameters);
+    std::vector<Band> bands;
+    double top = last.y;
+    for (PieceRow& row : rows) {
+        const double bottom = row.box.bottom;
+        bands.push_back({.top = top,
+                         .bottom = bottom,
+                         .rows = {std::move(row)},
+                         .hasRuleAbove = top == last.y,
+                         .hasRuleBelow = false,
+                         .level = stack.size() - 1,
+                         .isTotal = stackEnd == StackEnd::Closed});
+        top = bottom;
+    }
+    return bands;
+}
+
+} // namespace
+
+std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
+                          const TableParameters::Tables& parameters) {
+    std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
+    std::vector<Band> between = bandsBetween(stack, pieces, parameters);
+    std::vector<Band> below = bandsBelow(stack, endOf(stack, head, between, parameters), pieces, lines, parameters);
+    std::vector<Band> bands = bandsAbove(stack, std::move(head), pieces, lines, parameters);
+    std::move(between.begin(), between.end(), std::back_inserter(bands));
+    std::move(below.begin(), below.end(), std::back_inserter(bands));
+    return bands;
+}
+
+} // namespace orvane::layout
