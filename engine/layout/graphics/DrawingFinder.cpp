@@ -4,11 +4,8 @@
 #include "layout/graphics/ChartFrames.h"
 #include "layout/graphics/ConnectorFinder.h"
 #include "layout/tables/CellComponents.h"
-#include "layout/text/LinePieces.h"
-#include "layout/text/LineText.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace orvane::layout {
 namespace {
@@ -249,39 +246,6 @@ bool hasProse(const Line& line, double width, const GraphicsParameters::Drawings
     return false;
 }
 
-/// Whether something is written there of which nobody knows what it says, so that it can only be painted.
-bool hasUnknownSigns(const Rect& box, const pdf::PageContent& page) {
-    return std::any_of(page.glyphs.begin(), page.glyphs.end(), [&](const pdf::Glyph& glyph) {
-        return glyph.unicode.empty() && glyph.visibility == pdf::Visibility::Visible &&
-               box.contains(Point{glyph.box.centerX(), glyph.box.centerY()});
-    });
-}
-
-/// The drawing that a line would label; none for other lines.
-const Figure* drawingAt(const Line& line, const std::vector<Figure>& figures) {
-    const auto drawing = std::find_if(figures.begin(), figures.end(), [&](const Figure& figure) {
-        return !figure.paths.empty() && !figure.isBackground &&
-               figure.box.contains(Point{line.box.centerX(), line.box.centerY()});
-    });
-    return drawing == figures.end() ? nullptr : &*drawing;
-}
-
-/// Parts lines that run from one drawing into another, or into the text beside it.
-void partLines(PageText& text) {
-    std::vector<Line> parted;
-    for (Line& line : text.lines) {
-        std::vector<Line> pieces = piecesOf(line);
-        const Figure* first = drawingAt(pieces.front(), text.figures);
-        const bool isOfOne = std::all_of(pieces.begin(), pieces.end(),
-                                         [&](const Line& piece) { return drawingAt(piece, text.figures) == first; });
-        if (isOfOne)
-            parted.push_back(std::move(line));
-        else
-            std::move(pieces.begin(), pieces.end(), std::back_inserter(parted));
-    }
-    text.lines = std::move(parted);
-}
-
 } // namespace
 
 bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
@@ -289,27 +253,6 @@ bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const Graphi
         return box.contains(Point{line.box.centerX(), line.box.centerY()}) &&
                hasProse(line, limits.proseShare * box.width(), limits);
     });
-}
-
-void labelDrawings(PageText& text, const pdf::PageContent& page) {
-    partLines(text);
-    for (Figure& drawing : text.figures) {
-        drawing.showsLabels = hasUnknownSigns(drawing.box, page);
-        if (drawing.paths.empty() || drawing.isBackground)
-            continue;
-        std::string words;
-        std::erase_if(text.lines, [&](Line& line) {
-            if (!drawing.box.contains(Point{line.box.centerX(), line.box.centerY()}))
-                return false;
-            if (!words.empty())
-                words += ' ';
-            words += textOf(line);
-            drawing.labels.push_back(std::move(line));
-            return true;
-        });
-        if (drawing.alternateText.empty())
-            drawing.alternateText = words;
-    }
 }
 
 std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,

@@ -16,7 +16,4 @@ std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector
 /// Whether running text lies in `box`, so that what is painted there is a decoration rather than a picture with labels.
 bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits);
 
-/// Hands the lines within a drawing over to it: they are its labels, and what it says to readers who cannot see it.
-void labelDrawings(PageText& text, const pdf::PageContent& page);
-
 } // namespace orvane::layout

@@ -2,6 +2,7 @@
 
 #include "layout/graphics/ChartLabels.h"
 #include "layout/graphics/DrawingFinder.h"
+#include "layout/graphics/DrawingLabels.h"
 #include "layout/graphics/ShapeMaker.h"
 #include "layout/support/BoxGroups.h"
 
