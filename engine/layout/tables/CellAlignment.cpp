@@ -100,13 +100,13 @@ double fontSizeOf(const TableDraft& table) {
 }
 
 /// What a cell's own lines say about it, and failing that its column, and failing that its gaps.
-Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofColumn, double tolerance, bool isWide,
+Alignment chooseAlignment(const Edges& own, const std::optional<Alignment>& ofColumn, double tolerance, int columnSpan,
                           const TableParameters::Tables& parameters) {
     if (const auto kept = keptEdge(own, tolerance))
         return *kept;
     // Where words show the columns, the sides of a head over several of them are known roughly.
     const double clear = tolerance / parameters.edgeTolerance;
-    if (isWide && own.left.low > clear && own.right.low > clear)
+    if (columnSpan > 1 && own.left.low > clear && own.right.low > clear)
         return Alignment::Center;
     return ofColumn ? *ofColumn : alignmentByGaps(own, tolerance, parameters);
 }
@@ -139,7 +139,7 @@ void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParamet
         std::optional<Alignment> ofColumn;
         if (isOfColumn(cell))
             ofColumn = keptEdge(columns[static_cast<std::size_t>(cell.column)], tolerance);
-        const Alignment alignment = chooseAlignment(own, ofColumn, tolerance, cell.columnSpan > 1, parameters);
+        const Alignment alignment = chooseAlignment(own, ofColumn, tolerance, cell.columnSpan, parameters);
         forParagraphs(cell, [&](ParagraphDraft& paragraph) { setAlignment(paragraph, alignment, cell.box); });
     }
 }
