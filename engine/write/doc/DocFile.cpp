@@ -198,6 +198,30 @@ StoryText wholeText(const DocState& state, const RunningTexts& running) {
     return text;
 }
 
+/// Adds what floats over the text. Returns the pictures of it, which stand behind everything else in the main stream.
+CompoundStream addFloats(DocState& state, const RunningTexts& running, std::uint32_t place, TableStream& table) {
+    CompoundStream pictures(u"");
+    const FloatingParts floating =
+        makeFloatingParts({state.bodyFloats, state.body.length()}, {state.runningFloats, running.text.length()},
+                          state.pictureStore, place, pictures);
+    table.add(TablePart::BodyAnchors, floating.bodyAnchors);
+    table.add(TablePart::RunningTextAnchors, floating.runningAnchors);
+    table.add(TablePart::Shapes, floating.shapes);
+    addTextBoxes(table, state.bodyFloats, TablePart::TextBoxes, TablePart::TextBoxBreaks);
+    addTextBoxes(table, state.runningFloats, TablePart::RunningTextBoxes, TablePart::RunningTextBoxBreaks);
+    return pictures;
+}
+
+TextLengths lengthsOf(const DocState& state, const RunningTexts& running) {
+    return {state.body.length(),
+            state.footnotes.text.length(),
+            running.text.length(),
+            state.comments.text.length(),
+            state.endnotes.text.length(),
+            state.bodyFloats.boxes.text.length(),
+            state.runningFloats.boxes.text.length()};
+}
+
 CompoundStream streamOf(const char16_t* name, std::string bytes) {
     CompoundStream stream(name);
     stream.add(std::move(bytes));
@@ -221,15 +245,7 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
     table.add(TablePart::Styles, styles);
     addFormatting(state, text, main, table);
     table.add(TablePart::Sections, writeSections(main, sections));
-    CompoundStream tail(u"");
-    const FloatingParts floating =
-        makeFloatingParts({state.bodyFloats, state.body.length()}, {state.runningFloats, running.text.length()},
-                          state.pictureStore, main.position(), tail);
-    table.add(TablePart::BodyAnchors, floating.bodyAnchors);
-    table.add(TablePart::RunningTextAnchors, floating.runningAnchors);
-    table.add(TablePart::Shapes, floating.shapes);
-    addTextBoxes(table, state.bodyFloats, TablePart::TextBoxes, TablePart::TextBoxBreaks);
-    addTextBoxes(table, state.runningFloats, TablePart::RunningTextBoxes, TablePart::RunningTextBoxBreaks);
+    const CompoundStream tail = addFloats(state, running, main.position(), table);
     addNotes(table, state);
     table.add(TablePart::RunningTexts, running.table);
     addFields(table, state, running);
@@ -242,17 +258,10 @@ void writeDocFile(DocState& state, const std::filesystem::path& target) {
               documentProperties(state.document, running.hasEvenPages ? Pages::Facing : Pages::Alike));
     table.add(TablePart::Pieces, pieces(text.length()));
 
-    const TextLengths lengths{state.body.length(),
-                              state.footnotes.text.length(),
-                              running.text.length(),
-                              state.comments.text.length(),
-                              state.endnotes.text.length(),
-                              state.bodyFloats.boxes.text.length(),
-                              state.runningFloats.boxes.text.length()};
     std::vector<CompoundStream> streams;
     const auto mainSize = main.position() + static_cast<std::uint32_t>(tail.size());
-    streams.push_back(
-        streamOf(u"WordDocument", fileInformation(lengths, table, main.textEnd(), mainSize) + main.bytes()));
+    streams.push_back(streamOf(
+        u"WordDocument", fileInformation(lengthsOf(state, running), table, main.textEnd(), mainSize) + main.bytes()));
     streams.back().append(tail);
     streams.push_back(streamOf(u"1Table", table.bytes()));
     streams.push_back(streamOf(u"\u0005SummaryInformation", summaryInformation(state.document.metadata)));
