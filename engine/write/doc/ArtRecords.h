@@ -78,9 +78,9 @@ std::int64_t angle(double degrees);
 
 /// The record that a picture's own bytes, `size` of them, are the end of.
 std::string pictureHead(PictureId id, PictureFormat format, std::uint64_t size);
-/// The entry of a picture in a store. `place` is where its record stands in the main stream, when it does not follow;
-/// then `follows` is empty. Source: [MS-ODRAW] 2.2.32 (OfficeArtFBSE).
+/// The entry of a picture whose record stands at `place` of the main stream. Source: [MS-ODRAW] 2.2.32 (OfficeArtFBSE).
 std::string storeEntry(PictureId id, PictureFormat format, std::uint64_t size, std::uint32_t place);
+/// Likewise of one whose bytes follow it: the entry ends with the head of the picture's record.
 std::string storeEntryBefore(PictureId id, PictureFormat format, std::uint64_t size);
 
 } // namespace orvane::write::doc::art
