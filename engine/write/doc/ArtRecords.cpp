@@ -13,15 +13,15 @@ constexpr int kTag = 0xFF;
 constexpr double kBinaryPlaces = 65536;
 
 /// What tells one picture from another; it only has to differ.
-std::string identity(PictureId id) {
-    return Bytes().u32(id.value).zeros(12).str();
+std::string identity(int number) {
+    return Bytes().u32(number).zeros(12).str();
 }
 
 /// The fixed part of a store's entry. Source: [MS-ODRAW] 2.2.32, 2.4.1 (MSOBLIPTYPE).
-std::string entryHead(PictureId id, PictureFormat format, std::uint64_t recordSize, std::uint32_t place) {
+std::string entryHead(int number, PictureFormat format, std::uint64_t recordSize, std::uint32_t place) {
     const int kind = format == PictureFormat::Jpeg ? 5 : 6;
     Bytes entry;
-    entry.u8(kind).u8(kind).raw(identity(id)).u16(kTag);
+    entry.u8(kind).u8(kind).raw(identity(number)).u16(kTag);
     entry.u32(static_cast<std::int64_t>(recordSize)).u32(1).u32(place).zeros(4);
     return entry.str();
 }
@@ -100,22 +100,22 @@ std::int64_t angle(double degrees) {
     return std::llround(turned * kBinaryPlaces);
 }
 
-std::string pictureHead(PictureId id, PictureFormat format, std::uint64_t size) {
+std::string pictureHead(int number, PictureFormat format, std::uint64_t size) {
     // Source: [MS-ODRAW] 2.2.27, 2.2.28 (instances).
     const bool isJpeg = format == PictureFormat::Jpeg;
     return record(0, isJpeg ? 0x46A : 0x6E0, isJpeg ? type::kJpeg : type::kPng,
-                  Bytes().raw(identity(id)).u8(kTag).str(), size);
+                  Bytes().raw(identity(number)).u8(kTag).str(), size);
 }
 
-std::string storeEntry(PictureId id, PictureFormat format, std::uint64_t size, std::uint32_t place) {
-    const std::uint64_t whole = pictureHead(id, format, size).size() + size;
-    return record(2, entryInstance(format), type::kStoreEntry, entryHead(id, format, whole, place));
+std::string storeEntry(int number, PictureFormat format, std::uint64_t size, std::uint32_t place) {
+    const std::uint64_t whole = pictureHead(number, format, size).size() + size;
+    return record(2, entryInstance(format), type::kStoreEntry, entryHead(number, format, whole, place));
 }
 
-std::string storeEntryBefore(PictureId id, PictureFormat format, std::uint64_t size) {
-    const std::string picture = pictureHead(id, format, size);
+std::string storeEntryBefore(int number, PictureFormat format, std::uint64_t size) {
+    const std::string picture = pictureHead(number, format, size);
     return record(2, entryInstance(format), type::kStoreEntry,
-                  entryHead(id, format, picture.size() + size, 0) + picture, size);
+                  entryHead(number, format, picture.size() + size, 0) + picture, size);
 }
 
 } // namespace orvane::write::doc::art

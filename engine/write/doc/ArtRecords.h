@@ -76,11 +76,11 @@ void addPictureLook(Options& options, const document::Picture& picture);
 /// Degrees clockwise with 16 binary places, from 0 to below a full turn.
 std::int64_t angle(double degrees);
 
-/// The record that a picture's own bytes, `size` of them, are the end of.
-std::string pictureHead(PictureId id, PictureFormat format, std::uint64_t size);
+/// The record that a picture's own bytes, `size` of them, are the end of. `number` is that of PictureNumbers.
+std::string pictureHead(int number, PictureFormat format, std::uint64_t size);
 /// The entry of a picture whose record stands at `place` of the main stream. Source: [MS-ODRAW] 2.2.32 (OfficeArtFBSE).
-std::string storeEntry(PictureId id, PictureFormat format, std::uint64_t size, std::uint32_t place);
+std::string storeEntry(int number, PictureFormat format, std::uint64_t size, std::uint32_t place);
 /// Likewise of one whose bytes follow it: the entry ends with the head of the picture's record.
-std::string storeEntryBefore(PictureId id, PictureFormat format, std::uint64_t size);
+std::string storeEntryBefore(int number, PictureFormat format, std::uint64_t size);
 
 } // namespace orvane::write::doc::art

@@ -203,7 +203,7 @@ CompoundStream addFloats(DocState& state, const RunningTexts& running, std::uint
     CompoundStream pictures(u"");
     const FloatingParts floating =
         makeFloatingParts({state.bodyFloats, state.body.length()}, {state.runningFloats, running.text.length()},
-                          state.pictureStore, place, pictures);
+                          state.pictureStore, state.pictureNumbers, place, pictures);
     table.add(TablePart::BodyAnchors, floating.bodyAnchors);
     table.add(TablePart::RunningTextAnchors, floating.runningAnchors);
     table.add(TablePart::Shapes, floating.shapes);

@@ -63,7 +63,7 @@ struct DocState {
         , pictureStore(store)
         , styles(source)
         , styleNumbers(source, styles)
-        , pictures(store, data)
+        , pictures(store, pictureNumbers, data)
         , isNoteWritten(source.notes.size())
         , isCommentWritten(source.comments.size()) {}
 
@@ -74,6 +74,7 @@ struct DocState {
     DocStyles styleNumbers;
     DocFonts fonts;
     CompoundStream data{u"Data"};
+    PictureNumbers pictureNumbers;
     PictureData pictures;
     StoryText body;
     NoteTexts footnotes;

@@ -55,8 +55,9 @@ std::string anchorRecord(const FloatingObject& object) {
 /// The pictures of floating objects, each once.
 class Store {
 public:
-    Store(const PictureStore& pictures, std::uint32_t tailStart, CompoundStream& tail)
+    Store(const PictureStore& pictures, PictureNumbers& numbers, std::uint32_t tailStart, CompoundStream& tail)
         : m_pictures(pictures)
+        , m_numbers(numbers)
         , m_tailStart(tailStart)
         , m_tail(tail) {}
 
@@ -78,12 +79,15 @@ private:
     void add(PictureId id) {
         const PictureStore::Entry entry = m_pictures.at(id);
         const std::uint64_t size = std::filesystem::file_size(entry.file);
-        m_entries += art::storeEntry(id, entry.format, size, m_tailStart + static_cast<std::uint32_t>(m_tail.size()));
-        m_tail.add(art::pictureHead(id, entry.format, size));
+        const int number = m_numbers.of(id);
+        m_entries +=
+            art::storeEntry(number, entry.format, size, m_tailStart + static_cast<std::uint32_t>(m_tail.size()));
+        m_tail.add(art::pictureHead(number, entry.format, size));
         m_tail.addFile(entry.file);
     }
 
     const PictureStore& m_pictures;
+    PictureNumbers& m_numbers;
     std::uint32_t m_tailStart;
     CompoundStream& m_tail;
     std::map<PictureId, int> m_indexes;
@@ -226,12 +230,12 @@ bool equal(const FloatLayer& a, const FloatLayer& b) {
 }
 
 FloatingParts makeFloatingParts(const LayeredText& body, const LayeredText& running, const PictureStore& pictures,
-                                std::uint32_t tailStart, CompoundStream& tail) {
+                                PictureNumbers& numbers, std::uint32_t tailStart, CompoundStream& tail) {
     if (body.layer.objects.empty() && running.layer.objects.empty())
         return {};
     constexpr char kOfBody = 0;
     constexpr char kOfRunningTexts = 1;
-    Store store(pictures, tailStart, tail);
+    Store store(pictures, numbers, tailStart, tail);
     // Readers take the first drawing for the body's, even if nothing floats there.
     std::vector<LayerDrawing> drawings{LayerDrawing(1, 1)};
     drawings.front().draw(body.layer.objects, store, Background::Drawn);

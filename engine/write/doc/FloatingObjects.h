@@ -3,6 +3,7 @@
 #include "base/PictureStore.h"
 #include "document/Document.h"
 #include "write/doc/CompoundFile.h"
+#include "write/doc/PictureNumbers.h"
 #include "write/doc/StoryText.h"
 
 #include <string>
@@ -56,6 +57,6 @@ struct FloatingParts {
 /// `tail`, which stands in the main stream from `tailStart` on. Source: [MS-DOC] 2.8.37 (PlcfSpa), 2.9.253
 /// (Spa), 2.9.172 (OfficeArtContent); [MS-ODRAW] 2.2.
 FloatingParts makeFloatingParts(const LayeredText& body, const LayeredText& running, const PictureStore& pictures,
-                                std::uint32_t tailStart, CompoundStream& tail);
+                                PictureNumbers& numbers, std::uint32_t tailStart, CompoundStream& tail);
 
 } // namespace orvane::write::doc

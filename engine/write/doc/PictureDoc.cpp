@@ -87,7 +87,8 @@ std::uint32_t PictureData::add(const Picture& picture) {
     const PictureStore::Entry entry = m_pictures.at(picture.id);
     const auto place = static_cast<std::uint32_t>(m_data.size());
     const std::uint64_t size = std::filesystem::file_size(entry.file);
-    const std::string art = shape(picture, m_nextShape++) + art::storeEntryBefore(picture.id, entry.format, size);
+    const std::string art =
+        shape(picture, m_nextShape++) + art::storeEntryBefore(m_numbers.of(picture.id), entry.format, size);
     m_data.add(header(picture, kHeaderSize + art.size() + size) + art);
     m_data.addFile(entry.file);
     return place;

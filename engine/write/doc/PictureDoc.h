@@ -3,6 +3,7 @@
 #include "base/PictureStore.h"
 #include "document/Document.h"
 #include "write/doc/CompoundFile.h"
+#include "write/doc/PictureNumbers.h"
 
 #include <map>
 #include <tuple>
@@ -13,8 +14,9 @@ namespace orvane::write::doc {
 /// Source: [MS-DOC] 2.9.192 (PICFAndOfficeArtData); [MS-ODRAW] 2.2.14 (shapes), 2.2.32 (pictures).
 class PictureData {
 public:
-    PictureData(const PictureStore& pictures, CompoundStream& data)
+    PictureData(const PictureStore& pictures, PictureNumbers& numbers, CompoundStream& data)
         : m_pictures(pictures)
+        , m_numbers(numbers)
         , m_data(data) {}
 
     bool has(const document::Picture& picture) const {
@@ -30,6 +32,7 @@ private:
     std::uint32_t add(const document::Picture& picture);
 
     const PictureStore& m_pictures;
+    PictureNumbers& m_numbers;
     CompoundStream& m_data;
     std::map<std::string, std::uint32_t> m_places; ///< by all that tells pictures apart
     int m_nextShape = 1025;                        ///< numbers below are the format's own

@@ -47,6 +47,21 @@ TEST(DocFile, IsWholeForADocumentThatHasOneOfEverything) {
     EXPECT_TRUE(bytesOf(doc.file()) == bytesOf(WrittenDoc(document, pictures).file())) << "one document, one file";
 }
 
+TEST(DocFile, IsTheSameWhicheverPictureWasFoundFirst) {
+    const auto bytesWith = [](int firstFound, int nextFound) {
+        const TemporaryFolder folder;
+        PictureStore pictures(folder.path());
+        pictures.add(pngPicture(firstFound, 4, kBlack));
+        pictures.add(pngPicture(nextFound, 4, kBlack));
+        Picture inLine, floating;
+        inLine.id = pictures.add(pngPicture(8, 4, kBlack));
+        floating.id = pictures.add(pngPicture(16, 4, kBlack));
+        const Document document = documentOf({{paragraph({{inLine}})}, {Figure{floating, {}, {}}}, {paragraph("a")}});
+        return bytesOf(WrittenDoc(document, pictures).file());
+    };
+    EXPECT_TRUE(bytesWith(8, 16) == bytesWith(16, 8)) << "pages are read side by side, and chance tells the order";
+}
+
 TEST(DocFile, TellsWhatTheDocumentSaysOfItself) {
     Document document = documentOf("a");
     document.metadata.title = "A title";
