@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -23,7 +24,7 @@ public:
     const std::vector<const Rule*>& all() const { return m_rules; }
 
     /// The rule at a position that starts at `from`; at `to` it ends, if that is given.
-    const Rule* find(double position, double from, const double* to = nullptr) const {
+    const Rule* find(double position, double from, std::optional<double> to = {}) const {
         auto rule = std::lower_bound(m_rules.begin(), m_rules.end(), position - m_tolerance,
                                      [](const Rule* r, double p) { return r->position < p; });
         for (; rule != m_rules.end() && (*rule)->position <= position + m_tolerance; ++rule)
@@ -48,8 +49,8 @@ std::vector<Rect> findChartFrames(const PageText& text, const GraphicsParameters
     std::vector<Rect> frames;
     for (const Rule* top : levels.all()) {
         const Rule* left = uprights.find(top->from, top->position);
-        const Rule* right = left ? uprights.find(top->to, top->position, &left->to) : nullptr;
-        if (!right || !levels.find(left->to, top->from, &top->to))
+        const Rule* right = left ? uprights.find(top->to, top->position, left->to) : nullptr;
+        if (!right || !levels.find(left->to, top->from, top->to))
             continue;
         const Rect frame{top->from, top->position, top->to, left->to};
         if (std::min(frame.width(), frame.height()) >= limits.smallest && labels.boxOf(frame))

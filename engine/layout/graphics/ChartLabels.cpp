@@ -1,7 +1,7 @@
 #include "layout/graphics/ChartLabels.h"
 
 #include "base/Utf8.h"
-#include "layout/text/LinePieces.h"
+#include "layout/text/Line.h"
 #include "layout/text/LineText.h"
 
 #include <unicode/uchar.h>

@@ -7,7 +7,8 @@
 namespace orvane::layout {
 namespace {
 
-Rect boxOf(const Rule& rule) {
+/// The rule without its breadth.
+Rect axisOf(const Rule& rule) {
     return rule.direction == RuleDirection::Horizontal ? Rect{rule.from, rule.position, rule.to, rule.position}
                                                        : Rect{rule.position, rule.from, rule.position, rule.to};
 }
@@ -39,7 +40,7 @@ std::vector<ConnectedDrawings> findConnected(const std::vector<Figure>& drawings
     for (const Figure& drawing : drawings)
         groups.add(drawing.box);
     for (const Rule& rule : rules)
-        groups.add(boxOf(rule));
+        groups.add(axisOf(rule));
     std::vector<ConnectedDrawings> found;
     for (const std::vector<std::size_t>& members : groups.groups()) {
         ConnectedDrawings connected;
@@ -51,7 +52,7 @@ std::vector<ConnectedDrawings> findConnected(const std::vector<Figure>& drawings
                 continue;
             }
             lines.push_back(&rules[member - drawings.size()]);
-            connected.box = connected.box.united(boxOf(*lines.back()).inflated(limits.reach / 2));
+            connected.box = connected.box.united(axisOf(*lines.back()).inflated(limits.reach / 2));
         }
         const auto allowed =
             static_cast<std::size_t>(static_cast<double>(connected.drawings.size()) / limits.shapesACrossing);

@@ -4,18 +4,12 @@
 #include "layout/graphics/ChartFrames.h"
 #include "layout/graphics/ConnectorFinder.h"
 #include "layout/tables/CellComponents.h"
+#include "layout/text/RuleBox.h"
 
 #include <algorithm>
 
 namespace orvane::layout {
 namespace {
-
-Rect boxOf(const Rule& rule) {
-    const double half = rule.width / 2;
-    return rule.direction == RuleDirection::Horizontal
-               ? Rect{rule.from, rule.position - half, rule.to, rule.position + half}
-               : Rect{rule.position - half, rule.from, rule.position + half, rule.to};
-}
 
 /// What of a path is seen; empty when nothing is.
 Rect seenBox(const pdf::Path& path, const pdf::PageContent& page) {

@@ -1,6 +1,6 @@
 #include "layout/graphics/DrawingLabels.h"
 
-#include "layout/text/LinePieces.h"
+#include "layout/text/Line.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>

@@ -1,5 +1,7 @@
 #include "layout/graphics/RuleShapes.h"
 
+#include "layout/text/RuleBox.h"
+
 #include <utility>
 
 namespace orvane::layout {
@@ -49,13 +51,6 @@ Shape strokedShape(const Rule& rule, const Rect& box) {
 }
 
 } // namespace
-
-Rect boxOf(const Rule& rule) {
-    const double half = rule.width / 2;
-    if (rule.direction == RuleDirection::Horizontal)
-        return {rule.from, rule.position - half, rule.to, rule.position + half};
-    return {rule.position - half, rule.from, rule.position + half, rule.to};
-}
 
 Shape filledShape(const Rect& box, Color color, double opacity) {
     Shape shape = shapeAt(box);

@@ -6,9 +6,6 @@
 
 namespace orvane::layout {
 
-/// What the rule covers. Units: points.
-Rect boxOf(const Rule& rule);
-
 /// A filled rectangle without an outline, in page space.
 document::Shape filledShape(const Rect& box, Color color, double opacity);
 

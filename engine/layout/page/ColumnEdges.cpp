@@ -1,6 +1,5 @@
 #include "layout/page/ColumnEdges.h"
 
-#include "base/Utf8.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -30,15 +29,10 @@ double outermostEdge(std::vector<End> ends, const PageParameters::Regions& param
     return ends.front().position;
 }
 
-bool mayHang(char32_t character) {
-    return std::u32string_view(U"、。，．").find(character) != std::u32string_view::npos;
-}
-
 } // namespace
 
 double rightEdgeOf(const Line& line) {
-    const std::u32string last = line.words.empty() ? U"" : utf32FromUtf8(textOf(line.words.back()));
-    return last.empty() || !mayHang(last.back()) ? line.box.right : line.box.right - line.fontSize;
+    return endsInHangingStop(line) ? line.box.right - line.fontSize : line.box.right;
 }
 
 ColumnSpan findColumnEdges(std::span<const Line> lines, const PageParameters::Regions& parameters) {

@@ -77,7 +77,8 @@ private:
             count += found.pages[page];
             passed += !found.pages[page] && hasTextBeyond(page, candidate);
         }
-        const bool isUsual = count >= m_limits.surePages && count >= m_limits.ruleShare * double(m_rules.size());
+        const bool isUsual =
+            count >= m_limits.surePages && count >= m_limits.ruleShare * static_cast<double>(m_rules.size());
         return isUsual && passed <= m_limits.textShare * count ? std::optional(std::move(found)) : std::nullopt;
     }
 

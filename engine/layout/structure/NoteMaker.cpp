@@ -66,11 +66,13 @@ NoteCount findCount(const std::vector<FoundNote>& notes) {
 
 /// The column at whose foot the note stands; nothing where it reaches over several, or the page has but one.
 std::optional<ColumnSpan> columnUnder(const Rect& note, const PageLayout& page, double tolerance) {
-    for (auto band = page.bands.rbegin(); band != page.bands.rend(); ++band)
+    for (auto band = page.bands.rbegin(); band != page.bands.rend(); ++band) {
+        if (band->columns.size() < 2)
+            continue;
         for (const ColumnSpan& column : band->columns)
-            if (band->columns.size() > 1 && note.left >= column.left - tolerance &&
-                note.right <= column.right + tolerance)
+            if (note.left >= column.left - tolerance && note.right <= column.right + tolerance)
                 return column;
+    }
     return std::nullopt;
 }
 

@@ -9,7 +9,6 @@
 #include <cmath>
 #include <limits>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -27,12 +26,6 @@ struct LineEdge {
     double room = 0; ///< what the first word of the next line would have needed; 0 when the line ends its paragraph
     bool isFlush = false; ///< a justified line, which ends at the edge
 };
-
-/// Whether the line ends with a full stop or comma that word processors let stand beyond the end of a full line.
-bool mayHang(const Line& line) {
-    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
-    return !text.empty() && std::u32string_view(U"、。，．").find(text.back()) != std::u32string_view::npos;
-}
 
 class EdgeFinder {
 public:
@@ -89,7 +82,7 @@ private:
                 edge.start = line.isRightToLeft ? width - line.box.right : line.box.left;
             if (isInLastColumn)
                 edge.end = line.isRightToLeft ? line.box.left : width - line.box.right;
-            if (mayHang(line))
+            if (endsInHangingStop(line))
                 edge.end += line.fontSize;
             edge.room = goesOn ? roomFor(lines[i + 1], line.fontSize) : 0;
             // Ideographs end in line of themselves, with less than one of them free.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <map>
 
 namespace orvane::layout {
@@ -24,7 +25,7 @@ double edgeOf(const Rect& box, std::size_t edge) {
 }
 
 void measure(ColumnText& column) {
-    double least = 1e9;
+    double least = std::numeric_limits<double>::infinity();
     for (std::size_t edge = 0; edge < column.edges.size() && !column.boxes.empty(); ++edge) {
         std::vector<double> values;
         for (const Rect& box : column.boxes)
@@ -34,7 +35,8 @@ void measure(ColumnText& column) {
         double spread = 0;
         for (const double value : values)
             spread += std::abs(value - column.edges[edge]);
-        if (spread < least - 0.01) {
+        constexpr double kArithmetic = 0.01; // points; of equal edges the first counts
+        if (spread < least - kArithmetic) {
             least = spread;
             column.kept = static_cast<KeptEdge>(edge);
         }

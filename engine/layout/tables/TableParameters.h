@@ -50,6 +50,8 @@ struct TableParameters {
         double headRuleShare = 0.9; ///< of a table's width; a rule below a head of some columns is shorter
         double textMargin = 5.4;    ///< points; what a column without rules begins before its text
         double bulletShare = 0.8;   ///< of a column that are bullets for it to be part of the next column
+        double sameBaseline = 0.5;  ///< points; words whose baselines are this near stand on one
+        double touch = 0.5;         ///< points by which neighbours on a baseline may overlap
         double rowSnap = 0.3;       ///< of the font size; baselines this near stand side by side
         double minimumColumnGap = 0.4; ///< of the font size; narrower strips between words are word spaces in line
         int minimumRowsParted = 2;     ///< rows with words on both sides of a gap; fewer say nothing about columns
@@ -118,7 +120,6 @@ struct TableParameters {
         double uprightTolerance = 0.35; ///< of the font size; room above and below that differs by less is equal
         double baselineSnap = 0.2;      ///< of the font size; baselines in a cell this near are one line
         double tabGap = 0.8;            ///< of the font size; a wider gap between words of one line is a tab
-        double paragraphPitch = 1.6;    ///< of the font size; lines of a cell farther apart are two paragraphs
         double blankWidth = 0.25;       ///< of the font size; the blank before a word that did not fit
         int maximumHeaderRows = 4;      ///< more rows that look alike are no head
         double headerLikeShare = 0.25;  ///< of the other rows that may look like the head

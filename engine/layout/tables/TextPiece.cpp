@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace orvane::layout {
@@ -18,7 +19,7 @@ double gapBetween(const Rect& word, const Rect& next) {
 /// The widest gap that may be a blank. The narrowest one of the line tells how far its blanks were stretched to fill
 /// it.
 double widestBlank(const Line& line, const TableParameters::Tables& parameters) {
-    double narrowest = 1e9;
+    double narrowest = std::numeric_limits<double>::infinity();
     for (std::size_t i = 1; i < line.words.size(); ++i)
         if (line.words[i].gapBefore == Gap::Space)
             narrowest = std::min(narrowest, gapBetween(line.words[i - 1].box, line.words[i].box));
@@ -66,16 +67,17 @@ namespace {
 
 /// The word that stands next to `box` on its baseline, to the left (-1) or to the right (1), in whatever line; nothing
 /// where there is none.
-std::optional<TextPiece> nextOnBaseline(const std::vector<Line>& lines, const Line& line, const Rect& box, int side) {
+std::optional<TextPiece> nextOnBaseline(const std::vector<Line>& lines, const Line& line, const Rect& box, int side,
+                                        const TableParameters::Tables& parameters) {
     std::optional<TextPiece> next;
-    double least = 1e9;
+    double least = std::numeric_limits<double>::infinity();
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (std::abs(lines[i].baseline - line.baseline) > 0.5 || lines[i].angle != 0)
+        if (std::abs(lines[i].baseline - line.baseline) > parameters.sameBaseline || lines[i].angle != 0)
             continue;
         for (std::size_t j = 0; j < lines[i].words.size(); ++j) {
             const Rect& other = lines[i].words[j].box;
             const double distance = side < 0 ? box.left - other.right : other.left - box.right;
-            if (distance < -0.5 || distance >= least)
+            if (distance < -parameters.touch || distance >= least)
                 continue;
             least = distance;
             next = pieceOf(lines[i], i, j, j + 1);
@@ -85,12 +87,13 @@ std::optional<TextPiece> nextOnBaseline(const std::vector<Line>& lines, const Li
 }
 
 /// Whether the sign of a currency stands behind a number, but before its own: "$ 1,204 $  1,150".
-bool beginsAmount(const Line& line, std::size_t lineIndex, std::size_t word, const std::vector<Line>& lines) {
+bool beginsAmount(const Line& line, std::size_t lineIndex, std::size_t word, const std::vector<Line>& lines,
+                  const TableParameters::Tables& parameters) {
     const TextPiece before = pieceOf(line, lineIndex, word - 1, word);
     if (!isCurrencySign(textOf(pieceOf(line, lineIndex, word, word + 1), lines)) || !isNumeric(before, lines))
         return false;
-    const auto first = nextOnBaseline(lines, line, before.box, -1);
-    const auto amount = nextOnBaseline(lines, line, line.words[word].box, 1);
+    const auto first = nextOnBaseline(lines, line, before.box, -1, parameters);
+    const auto amount = nextOnBaseline(lines, line, line.words[word].box, 1, parameters);
     return first && isCurrencySign(textOf(*first, lines)) && amount && isNumeric(*amount, lines);
 }
 
@@ -120,7 +123,8 @@ std::vector<TextPiece> cutLines(const std::vector<Line>& lines, const TableParam
             const Rect& after = line.words[j].box;
             const bool isLeftFirst = before.left <= after.left;
             if (line.words[j].gapBefore != Gap::Tab && gapBetween(before, after) <= widest &&
-                !beginsAmount(line, i, j, lines) && !isCut(isLeftFirst ? before : after, isLeftFirst ? after : before))
+                !beginsAmount(line, i, j, lines, parameters) &&
+                !isCut(isLeftFirst ? before : after, isLeftFirst ? after : before))
                 continue;
             pieces.push_back(pieceOf(line, i, first, j));
             first = j;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace orvane::layout {
 
@@ -17,6 +18,16 @@ Line splitLine(Line& line, std::size_t wordIndex) {
     measureAnew(line);
     measureAnew(rest);
     return rest;
+}
+
+std::vector<Line> piecesOf(Line line) {
+    std::vector<Line> pieces;
+    for (std::size_t i = line.words.size(); i-- > 1;)
+        if (line.words[i].gapBefore == Gap::Tab)
+            pieces.push_back(splitLine(line, i));
+    pieces.push_back(std::move(line));
+    std::reverse(pieces.begin(), pieces.end());
+    return pieces;
 }
 
 void joinLines(Line& line, Line next, Gap gap) {

@@ -5,6 +5,7 @@
 #include <unicode/uchar.h>
 
 #include <map>
+#include <string_view>
 
 namespace orvane::layout {
 
@@ -54,6 +55,12 @@ bool isWithoutBlanks(char32_t character) {
 bool endsWithoutBlanks(const Line& line) {
     const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
     return !text.empty() && isWithoutBlanks(text.back());
+}
+
+bool endsInHangingStop(const Line& line) {
+    constexpr std::u32string_view kStops = U"\u3001\u3002\uFF0C\uFF0E";
+    const std::u32string text = line.words.empty() ? U"" : utf32FromUtf8(textOf(line.words.back()));
+    return !text.empty() && kStops.find(text.back()) != std::u32string_view::npos;
 }
 
 bool meetOtherScript(char32_t left, char32_t right) {

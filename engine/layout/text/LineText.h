@@ -23,6 +23,10 @@ bool isWithoutBlanks(char32_t character);
 /// True when the line's last character is of such a script.
 bool endsWithoutBlanks(const Line& line);
 
+/// True when the line ends with an East Asian full stop or comma, which word processors let stand beyond the end of a
+/// full line.
+bool endsInHangingStop(const Line& line);
+
 /// True between a letter or digit of such a script and one of another.
 bool meetOtherScript(char32_t left, char32_t right);
 

@@ -1,6 +1,7 @@
 #include "layout/text/TextDecoration.h"
 
 #include "layout/support/BoxIndex.h"
+#include "layout/text/RuleBox.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,13 +25,6 @@ UnderlineKind underlineOf(const Rule& rule, double size, const TextParameters::D
     default:
         return rule.width >= limits.thickUnderline * size ? UnderlineKind::Thick : UnderlineKind::Single;
     }
-}
-
-Rect boxOf(const Rule& rule) {
-    const double half = rule.width / 2;
-    return rule.direction == RuleDirection::Horizontal
-               ? Rect{rule.from, rule.position - half, rule.to, rule.position + half}
-               : Rect{rule.position - half, rule.from, rule.position + half, rule.to};
 }
 
 /// The clusters of a line that lie over `from` to `to`, as first and one past the last.

@@ -2,6 +2,7 @@
 
 #include "layout/assembly/FigureAssembler.h"
 #include "layout/graphics/RuleShapes.h"
+#include "layout/text/RuleBox.h"
 
 #include <algorithm>
 #include <utility>

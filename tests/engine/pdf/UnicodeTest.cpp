@@ -114,26 +114,22 @@ TEST(Unicode, OfSignFontsIsWhatIsSeen) {
     }
 }
 
-TEST(Unicode, OfPrivateBulletsIsABullet) {
+/// The text of five signs of a TrueType font of this name, which its map puts at these characters.
+std::string signsOf(const std::string& font, const std::string& map) {
     PdfBuilder builder;
-    const int map = builder.addStream(
-        "", toUnicode("<41> <F0B7> <42> <F0A7> <43> <F041> <44> <F09E> <45> <F0B0>\n", 5, "<00> <FF>"));
-    EXPECT_EQ(textIn(builder,
-                     "<< /Type /Font /Subtype /TrueType /BaseFont /Unknown /ToUnicode " + pdfRef(map) +
-                         " /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
-                     "(ABCDE)"),
-              "•▪A•°");
+    const int stream = builder.addStream("", toUnicode(map, 5, "<00> <FF>"));
+    return textIn(builder,
+                  "<< /Type /Font /Subtype /TrueType /BaseFont /" + font + " /ToUnicode " + pdfRef(stream) +
+                      " /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
+                  "(ABCDE)");
+}
+
+TEST(Unicode, OfPrivateBulletsIsABullet) {
+    EXPECT_EQ(signsOf("Unknown", "<41> <F0B7> <42> <F0A7> <43> <F041> <44> <F09E> <45> <F0B0>\n"), "•▪A•°");
 }
 
 TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
-    PdfBuilder builder;
-    const int map = builder.addStream(
-        "", toUnicode("<41> <F06C> <42> <F033> <43> <F0B7> <44> <0028> <45> <2713>\n", 5, "<00> <FF>"));
-    EXPECT_EQ(textIn(builder,
-                     "<< /Type /Font /Subtype /TrueType /BaseFont /OpenSymbol /ToUnicode " + pdfRef(map) +
-                         " /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
-                     "(ABCDE)"),
-              "●✓•(✓")
+    EXPECT_EQ(signsOf("OpenSymbol", "<41> <F06C> <42> <F033> <43> <F0B7> <44> <0028> <45> <2713>\n"), "●✓•(✓")
         << "of Wingdings, of ZapfDingbats, of Symbol, and as the map says";
 }
 

@@ -227,16 +227,25 @@ TEST(DocPicture, FloatsWhereItIsPlaced) {
     EXPECT_THAT(doc.read().stream(u"WordDocument"), HasSubstr(std::string(std::istreambuf_iterator<char>(in), {})));
 }
 
+/// A picture beside the text and one behind it.
+struct TwoFloats {
+    TemporaryFolder folder;
+    PictureStore pictures{folder.path()};
+    Figure beside, behind;
+
+    TwoFloats() {
+        Picture picture;
+        picture.id = pictures.add(pngPicture(8, 4, kBlack));
+        beside.content = behind.content = picture;
+        behind.placement.wrapping = Wrapping::BehindText;
+    }
+};
+
 TEST(DocPicture, FloatsOverAHeader) {
-    const TemporaryFolder folder;
-    PictureStore pictures(folder.path());
-    Picture picture;
-    picture.id = pictures.add(pngPicture(8, 4, kBlack));
-    Figure behind{picture, {}, {}};
-    behind.placement.wrapping = Wrapping::BehindText;
+    TwoFloats floats;
     Document document = documentOf("a");
-    document.sections[0].header.standard = {{Figure{picture, {}, {}}}, {behind}, {paragraph("head")}};
-    const WrittenDoc doc(document, pictures);
+    document.sections[0].header.standard = {{floats.beside}, {floats.behind}, {paragraph("head")}};
+    const WrittenDoc doc(document, floats.pictures);
     EXPECT_THAT(doc.read().text(), HasSubstr("\\08\\08head\\0d"));
     EXPECT_THAT(doc.diagnostics().entries(), IsEmpty());
     EXPECT_EQ(doc.read().table(40), "") << "nothing floats over the body";
@@ -252,15 +261,10 @@ TEST(DocPicture, FloatsOverAHeader) {
 }
 
 TEST(DocPicture, IsPartOfTheTextOfANote) {
-    const TemporaryFolder folder;
-    PictureStore pictures(folder.path());
-    Picture picture;
-    picture.id = pictures.add(pngPicture(8, 4, kBlack));
-    Figure behind{picture, {}, {}};
-    behind.placement.wrapping = Wrapping::BehindText;
+    TwoFloats floats;
     Document document = documentOf(paragraph({{NoteReference{0, {}, ""}}}));
-    document.notes = {{NoteKind::Footnote, {{Figure{picture, {}, {}}}, {behind}, {paragraph("note")}}, {}}};
-    const WrittenDoc doc(document, pictures);
+    document.notes = {{NoteKind::Footnote, {{floats.beside}, {floats.behind}, {paragraph("note")}}, {}}};
+    const WrittenDoc doc(document, floats.pictures);
     EXPECT_THAT(doc.read().text(), HasSubstr("\\01\\0d"));
     EXPECT_EQ(doc.diagnostics().entries().size(), 1u) << "the one behind the text is told of";
 }
