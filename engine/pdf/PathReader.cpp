@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include <GfxState.h>
 
@@ -64,6 +65,23 @@ Rect boxOf(const std::vector<PathSegment>& segments) {
     return box;
 }
 
+/// The subpaths that a pen of this width leaves on the page: an outline that lies off the page takes no part in what
+/// is seen on it, whatever the fill rule. Printers' marks are often one path around the page.
+std::vector<PathSegment> onPage(const std::vector<PathSegment>& segments, double penWidth, const PageContent& page) {
+    constexpr double kHair = 0.01; // lines have no area
+    const Rect sheet{0, 0, page.width, page.height};
+    const double reach = std::max(penWidth / 2, kHair);
+    std::vector<PathSegment> seen;
+    for (auto begin = segments.begin(); begin != segments.end();) {
+        const auto end = std::find_if(std::next(begin), segments.end(),
+                                      [](const PathSegment& segment) { return segment.verb == PathVerb::Move; });
+        if (boxOf({begin, end}).inflated(reach).intersects(sheet))
+            seen.insert(seen.end(), begin, end);
+        begin = end;
+    }
+    return seen;
+}
+
 bool isSameShape(const std::vector<PathSegment>& a, const std::vector<PathSegment>& b) {
     const auto isEqual = [](const PathSegment& s, const PathSegment& t) {
         return s.verb == t.verb && s.to == t.to && s.control1 == t.control1 && s.control2 == t.control2;
@@ -117,12 +135,14 @@ StrokeStyle strokeStyleOf(GfxState& state) {
 Path PathReader::makePath(const GfxState& state, std::vector<PathSegment> segments, std::int32_t mark,
                           std::uint32_t paintOrder) const {
     Path path;
-    path.segments = std::move(segments);
+    std::vector<PathSegment> seen = onPage(segments, state.getTransformedLineWidth(), m_page);
+    const bool isSeen = !seen.empty();
+    path.segments = isSeen ? std::move(seen) : std::move(segments);
     path.box = boxOf(path.segments);
     path.clip = clipBox(state);
     path.mark = mark;
     path.paintOrder = paintOrder;
-    path.visibility = visibilityOf(path.box, path.clip, m_page);
+    path.visibility = isSeen ? visibilityOf(path.box, path.clip, m_page) : Visibility::OffPage;
     path.isSimplified = m_clip.isOdd || state.getBlendMode() != gfxBlendNormal;
     return path;
 }
@@ -138,16 +158,15 @@ void PathReader::fill(GfxState& state, FillRule rule, std::int32_t mark, std::ui
 }
 
 void PathReader::stroke(GfxState& state, std::int32_t mark, std::uint32_t paintOrder) {
-    std::vector<PathSegment> segments = segmentsOf(state);
+    Path path = makePath(state, segmentsOf(state), mark, paintOrder);
     if (!m_page.paths.empty()) {
         Path& last = m_page.paths.back();
         const bool isNext = last.paintOrder + 1 == paintOrder;
-        if (isNext && last.fill && !last.stroke && last.mark == mark && isSameShape(last.segments, segments)) {
+        if (isNext && last.fill && !last.stroke && last.mark == mark && isSameShape(last.segments, path.segments)) {
             last.stroke = strokeStyleOf(state);
             return;
         }
     }
-    Path path = makePath(state, std::move(segments), mark, paintOrder);
     if (path.segments.empty() || !isFinite(path.box))
         return;
     path.stroke = strokeStyleOf(state);

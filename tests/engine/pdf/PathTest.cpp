@@ -65,6 +65,18 @@ TEST(Paths, TellTheirClip) {
     EXPECT_EQ(page.paths[2].visibility, Visibility::OffPage);
 }
 
+TEST(Paths, LeaveOutWhatTheyDrawOffThePage) {
+    // Marks around the page for the printer, as one path, and a broad line whose edge reaches in.
+    OpenedPdf pdf(PdfBuilder().page("-20 100 m -5 100 l 700 100 m 720 100 l 100 800 m 100 820 l S "
+                                    "-20 50 m -5 50 l 100 100 m 200 100 l 700 50 m 720 50 l S "
+                                    "4 w -1 100 m -1 200 l -10 300 m -10 400 l S"));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.paths.size(), 3u);
+    EXPECT_EQ(page.paths[0].visibility, Visibility::OffPage) << "though it goes all around the page";
+    EXPECT_EQ(page.paths[1].box, (Rect{100, 692, 200, 692}));
+    EXPECT_EQ(page.paths[2].box, (Rect{-1, 592, -1, 692}));
+}
+
 const char* const kRedToBlue =
     "/ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 100 0] /Function << /FunctionType 2 /Domain [0 1] "
     "/C0 [1 0 0] /C1 [0 0 1] /N 1 >>";
