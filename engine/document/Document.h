@@ -21,24 +21,25 @@ struct Origin {
     Rect box;     ///< page space
 };
 
-// ---- Characters ----------------------------------------------------------------------------------------------------------
+// ---- Characters
+// ----------------------------------------------------------------------------------------------------------
 
 enum class VerticalPosition : std::uint8_t { Baseline, Superscript, Subscript };
 enum class UnderlineKind : std::uint8_t { None, Single, Double, Thick, Dotted, Dashed, Wavy };
 
 /// How characters look, complete: a writer puts down what differs from the paragraph's style.
 struct RunProperties {
-    std::string fontFamily;           ///< for Latin and other simple scripts
-    std::string eastAsianFontFamily;  ///< empty: as fontFamily
-    std::string complexFontFamily;    ///< Arabic, Hebrew, Thai, ...; empty: as fontFamily
+    std::string fontFamily;          ///< for Latin and other simple scripts
+    std::string eastAsianFontFamily; ///< empty: as fontFamily
+    std::string complexFontFamily;   ///< Arabic, Hebrew, Thai, ...; empty: as fontFamily
     HalfPoints size{22};
     Color color;
-    std::optional<Color> highlight;   ///< behind the characters
+    std::optional<Color> highlight; ///< behind the characters
     UnderlineKind underline = UnderlineKind::None;
     VerticalPosition verticalPosition = VerticalPosition::Baseline;
-    Twips characterSpacing;           ///< added after each character
-    int widthPercent = 100;           ///< glyphs stretched to this width
-    Twips raise;                      ///< baseline shift, positive upwards
+    Twips characterSpacing; ///< added after each character
+    int widthPercent = 100; ///< glyphs stretched to this width
+    Twips raise;            ///< baseline shift, positive upwards
     bool isBold = false;
     bool isItalic = false;
     bool isStruck = false;
@@ -47,13 +48,14 @@ struct RunProperties {
     bool isOutlined = false;
     bool isHidden = false;
     bool isRightToLeft = false;
-    bool isEastAsian = false;         ///< signs that fonts of several scripts have (quotes, dashes, dots) are East Asian
-    std::string language;             ///< BCP 47; empty for the document's
+    bool isEastAsian = false; ///< signs that fonts of several scripts have (quotes, dashes, dots) are East Asian
+    std::string language;     ///< BCP 47; empty for the document's
 
     bool operator==(const RunProperties&) const = default;
 };
 
-// ---- Paragraph properties ------------------------------------------------------------------------------------------------
+// ---- Paragraph properties
+// ------------------------------------------------------------------------------------------------
 
 enum class Alignment : std::uint8_t { Start, Center, End, Justified, Distributed };
 enum class LineSpacingRule : std::uint8_t { Multiple, AtLeast, Exact };
@@ -97,15 +99,15 @@ struct ParagraphProperties {
     Alignment alignment = Alignment::Start;
     Twips indentStart;
     Twips indentEnd;
-    Twips firstLine;          ///< negative: hanging
+    Twips firstLine; ///< negative: hanging
     Twips spaceBefore;
     Twips spaceAfter;
     LineSpacing lineSpacing;
-    std::vector<TabStop> tabs;///< ascending
+    std::vector<TabStop> tabs; ///< ascending
     Borders borders;
-    Border betweenBorder;     ///< between equal paragraphs that follow each other
+    Border betweenBorder; ///< between equal paragraphs that follow each other
     std::optional<Color> shading;
-    int outlineLevel = 0;     ///< 1 to 9; 0 for body text
+    int outlineLevel = 0; ///< 1 to 9; 0 for body text
     bool keepWithNext = false;
     bool keepLinesTogether = false;
     bool pageBreakBefore = false;
@@ -116,7 +118,8 @@ struct ParagraphProperties {
     bool operator==(const ParagraphProperties&) const = default;
 };
 
-// ---- Inlines -------------------------------------------------------------------------------------------------------------
+// ---- Inlines
+// -------------------------------------------------------------------------------------------------------------
 
 struct Text {
     std::string text;
@@ -142,7 +145,7 @@ struct Crop {
 /// A picture with the size it is shown at.
 struct Picture {
     PictureId id;
-    Emu width;           ///< before it is turned; it turns about its middle
+    Emu width; ///< before it is turned; it turns about its middle
     Emu height;
     Crop crop;
     double rotation = 0; ///< degrees clockwise
@@ -204,10 +207,12 @@ struct ContentControl {
 };
 
 struct Inline {
-    std::variant<Text, Tab, Break, Picture, Link, Bookmark, NoteReference, CommentReference, Field, ContentControl> value;
+    std::variant<Text, Tab, Break, Picture, Link, Bookmark, NoteReference, CommentReference, Field, ContentControl>
+        value;
 };
 
-// ---- Blocks --------------------------------------------------------------------------------------------------------------
+// ---- Blocks
+// --------------------------------------------------------------------------------------------------------------
 
 using StyleId = std::string;
 
@@ -219,7 +224,7 @@ struct ListReference {
 };
 
 struct Paragraph {
-    StyleId style;             ///< of Document::styles
+    StyleId style; ///< of Document::styles
     std::optional<ListReference> list;
     ParagraphProperties properties;
     RunProperties markProperties; ///< of the paragraph mark: decides the height of an empty paragraph
@@ -234,9 +239,9 @@ enum class TextDirection : std::uint8_t { Horizontal, Downwards, Upwards };
 
 struct TableCell {
     int columnSpan = 1;
-    int rowSpan = 1;           ///< the cells it covers in later rows are not listed there
-    int column = 0;            ///< first grid column
-    Borders borders;           ///< left and right as seen, in right-to-left tables too; so are the margins
+    int rowSpan = 1; ///< the cells it covers in later rows are not listed there
+    int column = 0;  ///< first grid column
+    Borders borders; ///< left and right as seen, in right-to-left tables too; so are the margins
     std::optional<Color> shading;
     CellAlignment alignment = CellAlignment::Top;
     TextDirection direction = TextDirection::Horizontal;
@@ -245,17 +250,18 @@ struct TableCell {
 };
 
 struct TableRow {
-    Twips height;              ///< 0 for automatic
+    Twips height; ///< 0 for automatic
     bool isExactHeight = false;
-    bool isHeader = false;     ///< repeated at the top of each page
+    bool isHeader = false; ///< repeated at the top of each page
     bool mayBreakAcrossPages = true;
-    std::vector<TableCell> cells; ///< ascending by column; a column without a cell is covered from above or empty at the sides
+    std::vector<TableCell>
+        cells; ///< ascending by column; a column without a cell is covered from above or empty at the sides
 };
 
 struct Table {
     std::vector<Twips> columnWidths; ///< the grid
     std::vector<TableRow> rows;
-    Twips indent;              ///< of the left edge from the text's start edge
+    Twips indent; ///< of the left edge from the text's start edge
     Alignment alignment = Alignment::Start;
     bool isRightToLeft = false;
     Origin origin;
@@ -273,7 +279,7 @@ struct Placement {
     Emu y;
     Wrapping wrapping = Wrapping::Square;
     Emu distanceLeft, distanceRight, distanceTop, distanceBottom;
-    int zOrder = 0;            ///< ascending towards the reader
+    int zOrder = 0; ///< ascending towards the reader
 };
 
 struct ShapeLine {
@@ -289,7 +295,7 @@ struct Shape {
         Verb verb = Verb::Move;
         std::array<Emu, 6> xy; ///< Move, Line: first pair; Curve: two controls and the end; from the box's top left
     };
-    Emu x, y, width, height;   ///< within the drawing
+    Emu x, y, width, height; ///< within the drawing
     std::vector<Segment> segments;
     std::optional<ShapeLine> line;
     std::optional<Color> fill;
@@ -317,7 +323,7 @@ struct Frame {
     Emu width;
     Emu height;
     Emu insetLeft, insetRight, insetTop, insetBottom;
-    double rotation = 0;       ///< degrees clockwise
+    double rotation = 0; ///< degrees clockwise
     TextDirection direction = TextDirection::Horizontal;
     std::optional<ShapeLine> line;
     std::optional<Color> fill;
@@ -327,27 +333,38 @@ struct Frame {
 
 /// A list of headings with the pages they stand on, which a word processor can renew.
 struct TableOfContents {
-    int firstLevel = 1;        ///< outline levels of the headings
+    int firstLevel = 1; ///< outline levels of the headings
     int lastLevel = 3;
-    std::vector<Paragraph> entries; ///< as they stand until then: text, tabulator, page, mostly in a Link to the heading
+    std::vector<Paragraph>
+        entries; ///< as they stand until then: text, tabulator, page, mostly in a Link to the heading
 };
 
 struct Block {
     std::variant<Paragraph, Table, Figure, Frame, TableOfContents> value;
 };
 
-// ---- Sections ------------------------------------------------------------------------------------------------------------
+// ---- Sections
+// ------------------------------------------------------------------------------------------------------------
 
 enum class SectionStart : std::uint8_t { NextPage, Continuous, NextColumn, EvenPage, OddPage };
-enum class NumberFormat : std::uint8_t { Decimal, LowerRoman, UpperRoman, LowerLetter, UpperLetter, Bullet, None, DecimalZero };
+enum class NumberFormat : std::uint8_t {
+    Decimal,
+    LowerRoman,
+    UpperRoman,
+    LowerLetter,
+    UpperLetter,
+    Bullet,
+    None,
+    DecimalZero
+};
 
 struct Column {
     Twips width;
     Twips spaceAfter;
 };
 
-/// The text at the head or foot of pages. Where `firstPage` or `evenPages` is empty the standard text stands on such pages too;
-/// a list without blocks keeps them blank.
+/// The text at the head or foot of pages. Where `firstPage` or `evenPages` is empty the standard text stands on such
+/// pages too; a list without blocks keeps them blank.
 struct RunningText {
     std::optional<std::vector<Block>> standard;
     std::optional<std::vector<Block>> firstPage;
@@ -361,7 +378,7 @@ struct Section {
     Twips marginLeft{1440}, marginRight{1440}, marginTop{1440}, marginBottom{1440};
     Twips headerDistance{720};
     Twips footerDistance{720};
-    std::vector<Column> columns;    ///< empty or one: a single column
+    std::vector<Column> columns; ///< empty or one: a single column
     bool hasColumnSeparator = false;
     bool isRightToLeft = false;
     bool hasVerticalText = false;
@@ -372,30 +389,32 @@ struct Section {
     std::vector<Block> blocks;
 };
 
-// ---- Styles, lists, notes ------------------------------------------------------------------------------------------------
+// ---- Styles, lists, notes
+// ------------------------------------------------------------------------------------------------
 
 /// A named paragraph style with complete properties.
 struct Style {
-    StyleId id;           ///< "Heading1"
-    std::string name;     ///< "heading 1"
-    StyleId basedOn;      ///< empty for the root
-    StyleId next;         ///< style of the paragraph typed after it; empty for itself
+    StyleId id;       ///< "Heading1"
+    std::string name; ///< "heading 1"
+    StyleId basedOn;  ///< empty for the root
+    StyleId next;     ///< style of the paragraph typed after it; empty for itself
     ParagraphProperties paragraph;
     RunProperties run;
 };
 
 struct NumberingLevel {
     NumberFormat format = NumberFormat::Decimal;
-    std::string text;     ///< "%1." with %n for the number of level n, or the bullet itself
+    std::string text; ///< "%1." with %n for the number of level n, or the bullet itself
     int start = 1;
     Alignment alignment = Alignment::Start;
     Twips indentStart;
-    Twips firstLine;      ///< negative: hanging
-    bool isLegal = false; ///< all numbers decimal
+    Twips firstLine;                  ///< negative: hanging
+    bool isLegal = false;             ///< all numbers decimal
     std::optional<RunProperties> run; ///< of the label
 };
 
-/// One list, with its up to nine levels. A tabulator follows the label where the indent hangs, else a blank. Two lists of one kind that count on their own are two numberings.
+/// One list, with its up to nine levels. A tabulator follows the label where the indent hangs, else a blank. Two lists
+/// of one kind that count on their own are two numberings.
 struct Numbering {
     std::vector<NumberingLevel> levels;
 };
@@ -411,7 +430,7 @@ enum class NoteCount : std::uint8_t { Continuous, EachPage };
 
 struct Comment {
     std::string author;
-    std::string date;     ///< ISO 8601
+    std::string date; ///< ISO 8601
     std::vector<Block> blocks;
 };
 
@@ -422,16 +441,18 @@ struct Metadata {
 
 struct Document {
     Metadata metadata;
-    std::vector<Style> styles;         ///< the first is the default paragraph style
+    std::vector<Style> styles; ///< the first is the default paragraph style
     std::vector<Numbering> numberings;
     std::vector<Note> notes;
     NoteCount footnoteCount = NoteCount::Continuous;
     std::vector<Comment> comments;
-    /// Whether a line of a justified paragraph that ends with a Break is spread over the whole width, as lines within the
-    /// paragraph are. It suits lines that were cut by hand where they ended on the page; a line that somebody ended early is
-    /// left at its natural width.
+    /// Whether a line of a justified paragraph that ends with a Break is spread over the whole width, as lines within
+    /// the paragraph are. It suits lines that were cut by hand where they ended on the page; a line that somebody ended
+    /// early is left at its natural width.
     bool spreadsBrokenLines = false;
-    std::vector<Section> sections;     ///< at least one
+    /// Whether the word processor is to divide words at the ends of lines, by the rules of their language.
+    bool dividesWords = false;
+    std::vector<Section> sections; ///< at least one
 };
 
 } // namespace orvane::document

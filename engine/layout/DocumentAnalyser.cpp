@@ -1,9 +1,8 @@
 #include "layout/DocumentAnalyser.h"
 
 #include "base/Utf8.h"
+#include "layout/text/LanguageGuess.h"
 #include "layout/text/LineText.h"
-
-#include <unicode/uchar.h>
 
 #include <algorithm>
 #include <cmath>
@@ -118,24 +117,6 @@ bool isMostlyRightToLeft(const std::vector<PageText>& pages) {
     return 2 * rightToLeft > all;
 }
 
-/// The letters of a word in lower case, without what surrounds them; empty when something other than hyphens stands
-/// between letters.
-std::string plainWord(const Word& word) {
-    std::u32string text;
-    for (const Span& span : word.spans)
-        text += utf32FromUtf8(span.text);
-    const auto isLetter = [](char32_t c) { return u_isalpha(static_cast<UChar32>(c)); };
-    const auto first = std::find_if(text.begin(), text.end(), isLetter);
-    const auto last = std::find_if(text.rbegin(), std::make_reverse_iterator(first), isLetter).base();
-    std::u32string plain;
-    for (auto c = first; c < last; ++c) {
-        if (!isLetter(*c) && *c != U'-' && u_charType(static_cast<UChar32>(*c)) != U_NON_SPACING_MARK)
-            return {};
-        plain += static_cast<char32_t>(u_tolower(static_cast<UChar32>(*c)));
-    }
-    return utf8FromUtf32(plain);
-}
-
 std::unordered_set<std::string> collectVocabulary(const std::vector<PageText>& pages,
                                                   const LayoutParameters::Analysis& parameters) {
     std::unordered_set<std::string> vocabulary;
@@ -150,52 +131,6 @@ std::unordered_set<std::string> collectVocabulary(const std::vector<PageText>& p
         }
     }
     return vocabulary;
-}
-
-bool endsInHyphen(const Line& line) {
-    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
-    constexpr std::size_t kShortestPart = 3; // two letters and the hyphen
-    return text.size() >= kShortestPart && (text.back() == U'-' || text.back() == U'\u2010') &&
-           u_isalpha(static_cast<UChar32>(text[text.size() - 2])) != 0;
-}
-
-/// The line below in the same column, of those that follow soon; null without one.
-const Line* lineBelow(const std::vector<Line>& lines, std::size_t index, double maximumLeading) {
-    constexpr std::size_t kReach = 12; // lines of other columns may stand between
-    const Line& line = lines[index];
-    for (std::size_t i = index + 1; i < std::min(lines.size(), index + 1 + kReach); ++i) {
-        const double distance = lines[i].baseline - line.baseline;
-        if (!lines[i].words.empty() && distance > 0 && distance <= maximumLeading * line.fontSize &&
-            overlap(line.box.left, line.box.right, lines[i].box.left, lines[i].box.right) > 0)
-            return &lines[i];
-    }
-    return nullptr;
-}
-
-/// Whether the hyphen between the two was only for the line's end: the word stands whole elsewhere, and the second part
-/// is none. Where it is one, people write both: "non-clinical" and "nonclinical".
-bool isDivided(const std::string& first, const std::string& second, const std::unordered_set<std::string>& vocabulary) {
-    return !first.empty() && vocabulary.contains(first + second) && !vocabulary.contains(second);
-}
-
-/// Whether words were divided at the ends of lines: one that stands whole elsewhere shows it, or hyphens at many ends.
-bool areWordsDivided(const std::vector<PageText>& pages, const std::unordered_set<std::string>& vocabulary,
-                     const LayoutParameters::Analysis& limits) {
-    int lines = 0, hyphens = 0;
-    for (const PageText& page : pages)
-        for (std::size_t i = 0; i < page.lines.size(); ++i) {
-            const Line& line = page.lines[i];
-            if (line.words.size() < limits.proseWords)
-                continue;
-            ++lines;
-            if (!endsInHyphen(line))
-                continue;
-            ++hyphens;
-            const Line* next = lineBelow(page.lines, i, limits.maximumLeading);
-            if (next && isDivided(plainWord(line.words.back()), plainWord(next->words.front()), vocabulary))
-                return true;
-        }
-    return hyphens >= limits.fewestHyphens && hyphens >= limits.hyphenShare * lines;
 }
 
 /// Whether the document's lines have blanks between East Asian characters and the letters and digits beside them.
@@ -229,7 +164,8 @@ DocumentContext analyseDocument(const std::vector<PageText>& pages, const Layout
     context.isRightToLeft = isMostlyRightToLeft(pages);
     context.partsScripts = areScriptsParted(pages);
     context.vocabulary = collectVocabulary(pages, limits);
-    context.dividesWords = areWordsDivided(pages, context.vocabulary, limits);
+    context.division = findDivision(pages, context.vocabulary, parameters.division);
+    context.language = guessLanguage(pages, parameters.languages);
     return context;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "layout/text/WordDivision.h"
 
 #include <string>
 #include <unordered_set>
@@ -14,8 +15,9 @@ struct DocumentContext {
     double bodyLeading = 13.4;  ///< the most frequent distance from baseline to baseline at that size
     Rect textArea;              ///< within which most pages set their text, running heads aside; page space
     bool isRightToLeft = false; ///< most words are
-    bool dividesWords = true;   ///< at the ends of lines; else hyphens there are those that were typed
-    bool partsScripts = false;  ///< blanks are typed between East Asian and other letters
+    WordDivision division = WordDivision::Sometimes;
+    bool partsScripts = false; ///< blanks are typed between East Asian and other letters
+    std::string language;      ///< BCP 47, as the words tell it; empty where they do not
     std::unordered_set<std::string>
         vocabulary; ///< words that stand whole within a line, lower case; to judge hyphens by
 };

@@ -33,9 +33,6 @@ struct LayoutParameters : TextParameters,
         double defaultLeading = 1.2; ///< of the font size; where no two lines stand one below the other
         double edgeShare = 0.1;      ///< the text area's edge is where this share of the pages (or lines) has passed it
         int minimumWordLength = 3;   ///< bytes of UTF-8; shorter words say nothing about hyphens
-        std::size_t proseWords = 4;  ///< words of a line that may end in the middle of one
-        int fewestHyphens = 3;     ///< lines that end in hyphens before these may come from dividing words at all, ...
-        double hyphenShare = 0.04; ///< ... if they are this share of the lines. Whoever divides words does so often
     } analysis;
 };
 

@@ -7,6 +7,7 @@
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/NumberingAssembler.h"
 #include "layout/assembly/PushedText.h"
+#include "layout/assembly/RunningPlace.h"
 #include "layout/assembly/SpacingFinder.h"
 
 #include <iterator>
@@ -45,7 +46,7 @@ public:
             blankPages.keep(blocks, section.start, isLast ? 0 : pageOf(body, i + 1));
             section.blocks = finishBlocks(std::move(blocks), m_context);
             section.header = takeHeader(m_draft.sections[i]);
-            section.footer = takeRunning(m_draft.sections[i].footer, [](auto&) {});
+            section.footer = takeFooter(m_draft.sections[i]);
             sections.push_back(std::move(section));
         }
         return sections;
@@ -60,6 +61,8 @@ public:
     }
 
 private:
+    using Blocks = std::vector<AssembledBlock>;
+
     /// The page on which a section starts; 0 where that is not known.
     std::size_t pageOf(const std::vector<AssembledBlock>& body, std::size_t section) const {
         const std::size_t first = m_draft.sections[section].firstBlock;
@@ -78,14 +81,17 @@ private:
 
     /// The header of a section, made so tall that it pushes the text down to where that starts.
     document::RunningText takeHeader(const DraftSection& section) {
+        const double edge = pointsFromTwips(section.setup.headerDistance);
+        const auto hold = [&](Blocks& blocks) { holdBelow(edge, blocks, m_context.parameters.spacing); };
         if (!section.tops.pushed)
-            return takeRunning(section.header, [](auto&) {});
-        const auto push = [&](std::vector<AssembledBlock>& blocks) {
-            pushText(blocks, pointsFromTwips(section.setup.headerDistance), *section.tops.pushed, m_context);
+            return takeRunning(section.header, hold, hold);
+        const auto push = [&](Blocks& blocks) {
+            hold(blocks);
+            pushText(blocks, edge, *section.tops.pushed, m_context);
         };
-        document::RunningText header = takeRunning(section.header, push);
+        document::RunningText header = takeRunning(section.header, hold, push);
         if (!header.standard) {
-            std::vector<AssembledBlock> blank;
+            Blocks blank;
             push(blank);
             header.standard = finishBlocks(std::move(blank), m_context);
         }
@@ -95,19 +101,26 @@ private:
         return header;
     }
 
-    /// `finish` is called for what stands on all pages but the first.
-    template<typename Finish>
-    document::RunningText takeRunning(const DraftRunningText& source, const Finish& finish) {
-        const auto takeNext = [this](const std::optional<std::vector<DraftBlock>>& blocks, const auto& change) {
+    document::RunningText takeFooter(const DraftSection& section) {
+        const double edge = pointsFromTwips(section.setup.pageHeight) - pointsFromTwips(section.setup.footerDistance);
+        const auto hold = [&](Blocks& blocks) { holdAbove(edge, blocks, m_context.parameters.spacing); };
+        return takeRunning(section.footer, hold, hold);
+    }
+
+    /// The texts with their changes: one for the first page's, one for what stands on all others.
+    template<typename ChangeFirst, typename Change>
+    document::RunningText takeRunning(const DraftRunningText& source, const ChangeFirst& changeFirst,
+                                      const Change& change) {
+        const auto takeNext = [this](const std::optional<std::vector<DraftBlock>>& blocks, const auto& changed) {
             if (!blocks)
                 return std::optional<std::vector<document::Block>>();
-            change(m_flows[m_next].blocks);
+            changed(m_flows[m_next].blocks);
             return std::optional(finishBlocks(std::move(m_flows[m_next++].blocks), m_context));
         };
         document::RunningText text;
-        text.standard = takeNext(source.standard, finish);
-        text.firstPage = takeNext(source.firstPage, [](auto&) {});
-        text.evenPages = takeNext(source.evenPages, finish);
+        text.standard = takeNext(source.standard, change);
+        text.firstPage = takeNext(source.firstPage, changeFirst);
+        text.evenPages = takeNext(source.evenPages, change);
         return text;
     }
 
@@ -135,7 +148,9 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     FlowSet flows(draft, assembly);
     document::Document document;
-    document.metadata = metadataOf(facts.metadata);
+    document.metadata = metadataOf(facts.metadata, context);
+    // By the rules of another language words would be divided where nobody does.
+    document.dividesWords = context.division == WordDivision::Always && !document.metadata.language.empty();
     for (const DraftNumbering& numbering : draft.numberings)
         document.numberings.push_back(assembleNumbering(numbering, assembly));
     document.styles = makeStyles(flows.flows(), assembly);

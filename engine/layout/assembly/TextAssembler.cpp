@@ -194,7 +194,8 @@ private:
         else if (position == Position::StartsLine)
             join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary,
                                   m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined,
-                                  m_context.document.dividesWords ? HyphenSource::Divided : HyphenSource::Typed);
+                                  m_context.document.division == WordDivision::Never ? HyphenSource::Typed
+                                                                                     : HyphenSource::Divided);
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
         if (position == Position::WithinLine && isTabulator(word))

@@ -72,15 +72,14 @@ double distanceFromEdge(const std::vector<DraftBlock>& blocks, const FontCatalog
     return distance;
 }
 
+/// Sets the distance to that of the text that comes nearest to the edge.
 void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog& fonts, Side side, double pageHeight) {
-    for (const auto* blocks : {&text.standard, &text.evenPages, &text.firstPage}) {
-        const double distance =
-            *blocks ? distanceFromEdge(**blocks, fonts, side, pageHeight) : std::numeric_limits<double>::infinity();
-        if (std::isfinite(distance)) {
-            target = twipsFromPoints(std::max(0.0, distance));
-            return;
-        }
-    }
+    double distance = std::numeric_limits<double>::infinity();
+    for (const auto* blocks : {&text.standard, &text.evenPages, &text.firstPage})
+        if (*blocks)
+            distance = std::min(distance, distanceFromEdge(**blocks, fonts, side, pageHeight));
+    if (std::isfinite(distance))
+        target = twipsFromPoints(std::max(0.0, distance));
 }
 
 } // namespace

@@ -88,6 +88,12 @@ bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, cons
     return run.last < clusters.size() && target > 0 && target <= limits.longestTarget;
 }
 
+/// Full stops within a sentence that breaks off.
+bool isEllipsis(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
+    return leaderOf(clusters[run.first]) == TabLeader::Dots && run.dots <= limits.longestEllipsis &&
+           !isDigit(clusters[run.last].text.front());
+}
+
 } // namespace
 
 void findLeaders(TextRow& row, const TextParameters& parameters) {
@@ -99,6 +105,7 @@ void findLeaders(TextRow& row, const TextParameters& parameters) {
         const Run run = leader == TabLeader::None ? Run{i, i + 1, 0} : runAt(clusters, i, limits);
         i = run.last;
         if (run.dots < limits.fewestDots || !leadsToSomething(clusters, run, limits) ||
+            isEllipsis(clusters, run, limits) ||
             clusters[run.last].start - clusters[run.first].start < limits.shortest * row.fontSize)
             continue;
         std::fill(isGone.begin() + static_cast<std::ptrdiff_t>(run.first),

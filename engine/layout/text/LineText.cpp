@@ -4,6 +4,8 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <string_view>
 
@@ -24,6 +26,20 @@ std::string textOf(const Line& line) {
         text += textOf(word);
     }
     return text;
+}
+
+std::string plainWord(const Word& word) {
+    const std::u32string text = utf32FromUtf8(textOf(word));
+    const auto isLetter = [](char32_t c) { return u_isalpha(static_cast<UChar32>(c)); };
+    const auto first = std::find_if(text.begin(), text.end(), isLetter);
+    const auto last = std::find_if(text.rbegin(), std::make_reverse_iterator(first), isLetter).base();
+    std::u32string plain;
+    for (auto c = first; c < last; ++c) {
+        if (!isLetter(*c) && *c != U'-' && u_charType(static_cast<UChar32>(*c)) != U_NON_SPACING_MARK)
+            return {};
+        plain += static_cast<char32_t>(u_tolower(static_cast<UChar32>(*c)));
+    }
+    return utf8FromUtf32(plain);
 }
 
 void measureAnew(Line& line) {

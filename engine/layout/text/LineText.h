@@ -12,6 +12,10 @@ std::string textOf(const Word& word);
 /// The line's words with the gaps between them: nothing, a blank, or a tabulator.
 std::string textOf(const Line& line);
 
+/// The letters of the word in lower case, UTF-8, without what surrounds them; empty when something other than hyphens
+/// stands between letters.
+std::string plainWord(const Word& word);
+
 /// Makes box, font size, direction and whatever else follows from the words anew; baseline, angle and order of painting
 /// stay. Requires: at least one word.
 void measureAnew(Line& line);

@@ -168,11 +168,29 @@ struct TextParameters {
     /// LeaderFinder: dots before page numbers.
     struct Leaders {
         unsigned fewestDots = 4;
-        double shortest = 1.5;       ///< of the font size; length of a leader
-        double widestGap = 1.5;      ///< of the font size; between two of its dots
-        double nextColumn = 1;       ///< of the font size; a gap that ends what the leader leads to
-        unsigned longestTarget = 16; ///< characters of what it leads to
+        unsigned longestEllipsis = 4; ///< dots; a sentence may break off with as many, which lead to numbers only
+        double shortest = 1.5;        ///< of the font size; length of a leader
+        double widestGap = 1.5;       ///< of the font size; between two of its dots
+        double nextColumn = 1;        ///< of the font size; a gap that ends what the leader leads to
+        unsigned longestTarget = 16;  ///< characters of what it leads to
     } leaders;
+
+    /// WordDivision: hyphens at the ends of lines.
+    struct Division {
+        std::size_t proseWords = 4; ///< words of a line that may end in the middle of one
+        double farthestLine = 3.0;  ///< of the font size; to the line on which the word goes on
+        int fewestHyphens = 3;      ///< lines that end in hyphens before these may come from dividing words at all, ...
+        double hyphenShare = 0.04;  ///< ... if they are this share of the lines. Whoever divides words does so often
+    } division;
+
+    /// LanguageGuess: the language of the text.
+    struct Languages {
+        double scriptShare = 0.5;     ///< of the letters; a script with more is the text's
+        double kanaShare = 0.05;      ///< of East Asian characters; with more the text is Japanese
+        std::size_t fewestWords = 12; ///< of the language's short words
+        double wordShare = 0.1;       ///< of the text's words; in prose they are a third
+        double lead = 1.1;            ///< over the count of the second language
+    } languages;
 };
 
 } // namespace orvane::layout

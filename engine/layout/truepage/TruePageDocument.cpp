@@ -109,7 +109,7 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
     flows.push_back({FlowKind::Body, assembleBlocks(draft.blocks, assembly)});
 
     document::Document document;
-    document.metadata = metadataOf(facts.metadata);
+    document.metadata = metadataOf(facts.metadata, context);
     // The lines of a paragraph are ended where they ended on the page, so that the justified ones must reach its edge.
     document.spreadsBrokenLines = true;
     document.styles = makeStyles(flows, assembly);

@@ -14,7 +14,8 @@ constexpr std::size_t kPropertiesSize = 594; ///< Source: [MS-DOC] 2.7.7 (Dop200
 constexpr int kFacingPages = 0x01;
 constexpr int kNotesAtPageBottom = 1 << 5;
 constexpr int kFirstNote = 1 << 2;
-constexpr int kCountsOnEachPage = 2; ///< Source: [MS-DOC] 2.7.2 (DopBase, rncFtn)
+constexpr int kCountsOnEachPage = 2;     ///< Source: [MS-DOC] 2.7.2 (DopBase, rncFtn)
+constexpr int kDividesWords = 0x18 << 8; ///< Source: [MS-DOC] 2.7.2 (DopBase, fAutoHyphen, fHyphCapitals)
 constexpr int kDefaultTab = 720;
 constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
@@ -86,7 +87,8 @@ std::string documentProperties(const document::Document& document, Pages pages) 
     const int compatibility = document.spreadsBrokenLines ? kSpreadsBrokenLines : 0;
     Bytes bytes;
     bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0));
-    bytes.u16(kFirstNote | (document.footnoteCount == document::NoteCount::EachPage ? kCountsOnEachPage : 0)).zeros(4);
+    bytes.u16(kFirstNote | (document.footnoteCount == document::NoteCount::EachPage ? kCountsOnEachPage : 0));
+    bytes.u16(document.dividesWords ? kDividesWords : 0).zeros(2);
     bytes.u16(compatibility).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
     bytes.u16(kFirstNote).u16(kEndnotesAtDocumentEnd | kLowerRoman << kLowerRomanPlace).zeros(82 - bytes.size());
     bytes.u16(kSize100).u16(compatibility).zeros(kNoteNumbers - bytes.size());

@@ -42,6 +42,8 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
     startRoot(xml, "w:settings");
     xml.leaf("w:zoom", {{"w:percent", 100}});
     xml.leaf("w:defaultTabStop", {{"w:val", 720}});
+    if (state.document.dividesWords)
+        xml.leaf("w:autoHyphenation");
     if (state.runningTexts.hasEvenPages())
         xml.leaf("w:evenAndOddHeaders");
     xml.leaf("w:characterSpacingControl", {{"w:val", "doNotCompress"}});

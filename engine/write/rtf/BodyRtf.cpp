@@ -52,6 +52,8 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     writeDocumentPage(rtf, first);
     rtf.word("deftab", kDefaultTab);
     rtf.word("widowctrl");
+    if (state.document.dividesWords)
+        rtf.word("hyphauto", 1);
     if (state.document.spreadsBrokenLines)
         rtf.word("expshrtn");
     // Of the spaces below one paragraph and above the next the larger counts, as in the other formats.

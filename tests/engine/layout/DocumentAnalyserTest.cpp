@@ -61,23 +61,29 @@ TEST(DocumentAnalyser, SeesWhetherWordsAreDivided) {
     const struct {
         const char* why;
         std::vector<std::string> lines;
-        bool expected;
-    } rows[] = {{"one compound", {"all of that is long-", "term work and goes on", "in the same way for us"}, false},
-                {"a word that stands whole elsewhere",
-                 {"all of that is infor-", "mation on our work and", "more information for all of us"},
-                 true},
-                {"a compound that is also written in one",
-                 {"all of that is the non-", "clinical work and goes on", "with nonclinical and some clinical studies"},
-                 false},
-                {"many hyphens",
-                 {"all that is in a re-", "port on the world of co-", "operation in the place of ex-", "ile"},
-                 true},
-                {"a list of prefixes", {"re-", "co-", "ex-", "un-"}, false}};
+        WordDivision expected;
+    } rows[] = {
+        {"one compound",
+         {"all of that is long-", "term work and goes on", "in the same way for us"},
+         WordDivision::Never},
+        {"a word that stands whole elsewhere",
+         {"all of that is infor-", "mation on our work and", "more information for all of us"},
+         WordDivision::Sometimes},
+        {"many words, of which one stands whole elsewhere",
+         {"all of that is infor-", "mation on our work re-", "ported as information co-", "operation for all of us"},
+         WordDivision::Always},
+        {"a compound that is also written in one",
+         {"all of that is the non-", "clinical work and goes on", "with nonclinical and some clinical studies"},
+         WordDivision::Never},
+        {"many hyphens",
+         {"all that is in a re-", "port on the world of co-", "operation in the place of ex-", "ile"},
+         WordDivision::Sometimes},
+        {"a list of prefixes", {"re-", "co-", "ex-", "un-"}, WordDivision::Never}};
     for (const auto& row : rows) {
         PageText page = makePage(1);
         for (const std::string& line : row.lines)
             page.lines.push_back(makeLine(line, 72, 72 + 12 * static_cast<double>(page.lines.size())));
-        EXPECT_EQ(analyseDocument({page}, {}).dividesWords, row.expected) << row.why;
+        EXPECT_EQ(analyseDocument({page}, {}).division, row.expected) << row.why;
     }
 }
 

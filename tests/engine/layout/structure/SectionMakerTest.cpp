@@ -318,6 +318,41 @@ TEST(SectionMaker, MakesContinuousSectionsOfColumns) {
     EXPECT_EQ(draft.sections[2].firstBlock, 4u);
 }
 
+/// A running head of one line that ends at `baseline`, with a key of its own.
+RunningHead makeHead(int page, double baseline, const std::string& text) {
+    RunningHead head;
+    head.key = text;
+    head.content = tests::makePage(page);
+    head.content.lines.push_back(makeLine(text, 290, baseline));
+    return head;
+}
+
+TEST(SectionMaker, KeepsFootersOfOddAndEvenPagesAtTheirHeights) {
+    constexpr int kPages = 6;
+    DocumentDraft draft = makeDraft(kPages);
+    std::vector<PageRunningHeads> heads(kPages);
+    for (int i = 0; i < kPages; ++i) {
+        fillPage(draft, static_cast<std::size_t>(i), 700);
+        const bool isEven = i % 2 == 1;
+        heads[static_cast<std::size_t>(i)].header = makeHead(i + 1, isEven ? 40 : 50, isEven ? "Title" : "Chapter");
+        heads[static_cast<std::size_t>(i)].footer = makeHead(i + 1, isEven ? 800 : 780, isEven ? "address" : "odd");
+    }
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 1u);
+    const document::Section& setup = draft.sections[0].setup;
+    EXPECT_NEAR(pointsFromTwips(setup.footerDistance), 842 - 802.5, 0.1) << "of the lower one";
+    EXPECT_NEAR(pointsFromTwips(setup.headerDistance), 40 - 9.5, 0.5) << "of the higher one";
+    const document::Document document = tests::documentOf(draft);
+    const auto propertiesOf = [](const std::optional<std::vector<document::Block>>& text) {
+        return std::get<document::Paragraph>(text.value().at(0).value).properties;
+    };
+    const document::Section& section = document.sections.at(0);
+    EXPECT_NEAR(pointsFromTwips(propertiesOf(section.footer.standard).spaceAfter), 20, 0.1);
+    EXPECT_EQ(propertiesOf(section.footer.evenPages).spaceAfter.value, 0);
+    EXPECT_NEAR(pointsFromTwips(propertiesOf(section.header.standard).spaceBefore), 10, 0.1);
+    EXPECT_EQ(propertiesOf(section.header.evenPages).spaceBefore.value, 0);
+}
+
 TEST(SectionMaker, GivesRunningHeadsToTheSection) {
     DocumentDraft draft = makeDraft(2);
     fillPage(draft, 0);

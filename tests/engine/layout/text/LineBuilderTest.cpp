@@ -145,6 +145,14 @@ TEST(LineBuilder, MakesLeadersTabs) {
     }
 }
 
+TEST(LineBuilder, LetsASentenceBreakOffWithFullStops) {
+    PageContentBuilder page;
+    page.text(72, 100, "from the work that only an expert can do . . . . We furnish any", 10);
+    page.text(72, 114, "Where the page is . . . . 7", 10);
+    EXPECT_THAT(linesOf(page),
+                ElementsAre("from the work that only an expert can do . . . . We furnish any", "Where the page is\t7"));
+}
+
 TEST(LineBuilder, KeepsLinesToWriteOn) {
     PageContentBuilder page;
     page.text(72, 100, "Name ____________ and the place of birth, with the country", 10);

@@ -85,6 +85,13 @@ TEST(DocFile, SpreadsLinesThatEndByHandOnlyWhereTheDocumentSaysSo) {
         EXPECT_EQ(spread.substr(place, 2), std::string("\0\x20", 2)) << place;
 }
 
+TEST(DocFile, DividesWordsWhereTheDocumentDoes) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDoc(document).read().table(31)[5], '\0');
+    document.dividesWords = true;
+    EXPECT_EQ(WrittenDoc(document).read().table(31)[5], '\x18');
+}
+
 TEST(DocFile, KeepsTheLargerOfTwoSpacesBetweenParagraphs) {
     // The bit that says otherwise stands behind what the edition of 97 has; readers take it for set where it is
     // missing.

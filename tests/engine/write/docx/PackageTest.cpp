@@ -107,5 +107,13 @@ TEST_F(Package, SpreadsLinesThatEndByHandOnlyWhereTheDocumentSaysSo) {
     EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:doNotExpandShiftReturn"), "");
 }
 
+TEST_F(Package, DividesWordsWhereTheDocumentDoes) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:autoHyphenation"), "");
+    document.dividesWords = true;
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:autoHyphenation"),
+              normalXml("<w:autoHyphenation/>"));
+}
+
 } // namespace
 } // namespace orvane::tests

@@ -21,6 +21,13 @@ TEST(RtfFile, SpreadsLinesThatEndByHandOnlyWhereTheDocumentSaysSo) {
     EXPECT_TRUE(WrittenRtf(document).has("\\expshrtn"));
 }
 
+TEST(RtfFile, DividesWordsWhereTheDocumentDoes) {
+    Document document = documentOf("a");
+    EXPECT_FALSE(WrittenRtf(document).has("\\hyphauto1"));
+    document.dividesWords = true;
+    EXPECT_TRUE(WrittenRtf(document).has("\\hyphauto1"));
+}
+
 TEST(RtfFile, SetsParagraphsAndLettersApartLikeTheOtherFormats) {
     EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\htmautsp")) << "the larger of two spaces, not both";
     EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\kerning0")) << "readers may kern where nothing is said";
