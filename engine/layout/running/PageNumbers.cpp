@@ -7,6 +7,7 @@
 #include "layout/text/SpanPart.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -86,6 +87,19 @@ std::vector<std::optional<document::FieldCode>> meaningsOf(const RunningRow& row
     return meanings;
 }
 
+/// The way in which the numbered pages before and after this one count; nullopt where they differ, and at the ends.
+std::optional<PageCount> countAround(const std::vector<std::optional<PageNumber>>& numbers, std::size_t page) {
+    const auto at = numbers.begin() + static_cast<std::ptrdiff_t>(page);
+    const auto isNumbered = [](const std::optional<PageNumber>& number) { return number.has_value(); };
+    const auto after = std::find_if(at, numbers.end(), isNumbered);
+    const auto before = std::find_if(std::make_reverse_iterator(at), numbers.rend(), isNumbered);
+    if (after == numbers.end() || before == numbers.rend())
+        return std::nullopt;
+    const PageCount next = countOf(**after, static_cast<std::size_t>(after - numbers.begin()));
+    const PageCount last = countOf(**before, static_cast<std::size_t>(numbers.rend() - before) - 1);
+    return next == last ? std::optional(next) : std::nullopt;
+}
+
 } // namespace
 
 std::vector<std::optional<PageNumber>> readPageNumbers(const std::vector<EdgeRows>& tops,
@@ -117,6 +131,21 @@ void leaveOtherNumbers(std::vector<EdgeRows>& edges, const std::vector<std::opti
         for (std::size_t i = 0; i < edge.taken; ++i)
             if (restsOnNumber(edge, i) && numbers[page] && !shows(edge.rows[i], *numbers[page]))
                 trimTaken(edge, i);
+    }
+}
+
+void takeLoneNumbers(std::vector<EdgeRows>& edges, std::vector<std::optional<PageNumber>>& numbers) {
+    for (std::size_t page = 0; page < edges.size(); ++page) {
+        EdgeRows& edge = edges[page];
+        const auto count = numbers[page] ? std::nullopt : countAround(numbers, page);
+        if (!count || edge.taken == edge.rows.size())
+            continue;
+        const PageNumber number{count->first + static_cast<int>(page), count->second};
+        const RunningRow& row = edge.rows[edge.taken];
+        if (row.skeleton != "#" || !shows(row, number))
+            continue;
+        edge.matches[edge.taken++] = RowMatch::Number;
+        numbers[page] = number;
     }
 }
 

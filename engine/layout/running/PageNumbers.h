@@ -29,6 +29,10 @@ std::vector<std::optional<PageNumber>> readPageNumbers(const std::vector<EdgeRow
 /// of a note, or of a table's row.
 void leaveOtherNumbers(std::vector<EdgeRows>& edges, const std::vector<std::optional<PageNumber>>& numbers);
 
+/// Takes the row next to those taken where it is nothing but the number that the page must have by those before and
+/// after it: the first page of a chapter often has no more. `numbers` get what is found.
+void takeLoneNumbers(std::vector<EdgeRows>& edges, std::vector<std::optional<PageNumber>>& numbers);
+
 /// Makes each page number, and each number of pages, in the rows taken a span of its own.
 /// Requires: `rows` are of that page, whose lines have not been moved since.
 std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,

@@ -92,6 +92,25 @@ TEST(RunningHeads, CutsNumbersOutOfWords) {
     EXPECT_EQ(heads[1].footer->fields[0].box, word.spans[1].box);
 }
 
+TEST(RunningHeads, TakesTheLoneNumberOfAChaptersFirstPage) {
+    auto pages = pagesWith(9, [](PageText& page, int number) {
+        if (number == 5)
+            page.lines.push_back(makeLine("5", 290, 800));
+        else if (number == 7)
+            page.lines.push_back(makeLine("55", 290, 800)); // of the text
+        else
+            page.lines.push_back(makeLine(fmt::format("{} A book of it", number), 72, 800));
+        if (number % 2 == 1)
+            page.lines.push_back(makeLine("printed at home", 72, 820));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(linesOf(heads[4].footer), "5|printed at home");
+    EXPECT_EQ(heads[4].number, (PageNumber{5, NumberFormat::Decimal}));
+    ASSERT_EQ(heads[4].footer->fields.size(), 1u);
+    EXPECT_EQ(heads[4].footer->fields[0].code, FieldCode::Page);
+    EXPECT_EQ(linesOf(heads[6].footer), "printed at home");
+}
+
 TEST(RunningHeads, CountsInRomanNumerals) {
     const char* kNumerals[] = {"vii", "viii", "ix", "x"};
     auto pages = pagesWith(
