@@ -13,6 +13,7 @@ struct AssemblyParameters {
     /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
     struct Spacing {
         double lowestMultiple = 0.7;      ///< line spacing below this is an exact height
+        double overlap = 0.55;            ///< of single spacing; lines this close lie over each other: no height says so
         double highestMultiple = 3.5;     ///< likewise above
         double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
         double smallestIndent = 1.0;      ///< points; less is noise
@@ -36,6 +37,7 @@ struct AssemblyParameters {
         double sameIndent = 1.0;     ///< points
         double sameMultiple = 0.016; ///< of single spacing
         double sameHeight = 0.3;     ///< points; of lines of an exact height
+        double leastHeight = 0.75;   ///< of the font size; lower lines cut off their letters
     } styles;
 
     /// TableAssembler.

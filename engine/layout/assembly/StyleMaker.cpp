@@ -124,12 +124,20 @@ void chooseAlignment(StyleGroup& group) {
         group.style.paragraph.alignment = *alignment;
 }
 
+/// Whether lines of that height cut off the style's letters. That of smaller ones is no spacing for the style.
+bool cutsLetters(const LineSpacing& spacing, const Style& style, const AssemblyParameters::Styles& limits) {
+    return spacing.rule == LineSpacingRule::Exact &&
+           pointsFromTwips(spacing.height) < limits.leastHeight * style.run.size.value / 2;
+}
+
 /// The line spacing of most paragraphs that show one; nullopt when none does.
-std::optional<LineSpacing> usualLineSpacing(const StyleGroup& group) {
+std::optional<LineSpacing> usualLineSpacing(const StyleGroup& group, const AssemblyParameters::Styles& limits) {
     Tally<LineSpacing> spacings;
-    for (const AssembledBlock* member : group.members)
-        if (member->hasOwnLineSpacing)
-            spacings.add(member->paragraph()->properties.lineSpacing, static_cast<double>(lineCount(*member) - 1));
+    for (const AssembledBlock* member : group.members) {
+        const LineSpacing& spacing = member->paragraph()->properties.lineSpacing;
+        if (member->hasOwnLineSpacing && !cutsLetters(spacing, group.style, limits))
+            spacings.add(spacing, static_cast<double>(lineCount(*member) - 1));
+    }
     const LineSpacing* spacing = spacings.heaviest();
     return spacing ? std::optional(*spacing) : std::nullopt;
 }
@@ -203,14 +211,16 @@ std::vector<Style> makeStyles(std::vector<BlockFlow>& flows, const AssemblyConte
         groups[0].style.run.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
         groups[0].style.run.size = halfPointsFromPoints(context.document.bodyFontSize);
     }
-    const LineSpacing body = usualLineSpacing(groups[0]).value_or(LineSpacing{});
+    for (StyleGroup& group : groups)
+        chooseRun(group);
+    const AssemblyParameters::Styles& limits = context.parameters.styles;
+    const LineSpacing body = usualLineSpacing(groups[0], limits).value_or(LineSpacing{});
     std::vector<Style> styles;
     for (StyleGroup& group : groups) {
-        chooseRun(group);
-        chooseFormat(group, context.parameters.styles);
-        group.style.paragraph.lineSpacing = usualLineSpacing(group).value_or(inheritedLineSpacing(group, body));
+        chooseFormat(group, limits);
+        group.style.paragraph.lineSpacing = usualLineSpacing(group, limits).value_or(inheritedLineSpacing(group, body));
         for (AssembledBlock* member : group.members)
-            snapToStyle(*member, group.style, context.parameters.styles);
+            snapToStyle(*member, group.style, limits);
         styles.push_back(group.style);
     }
     return styles;

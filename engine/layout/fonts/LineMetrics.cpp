@@ -109,7 +109,7 @@ LineExtent spacedExtent(const LineExtent& natural, const LineSpacing& spacing) {
 std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
                                          const LayoutParameters& parameters) {
     const Pitch pitch = pitchOf(paragraph, fonts);
-    if (pitch.distance <= 0 || pitch.natural <= 0)
+    if (pitch.natural <= 0 || pitch.distance <= parameters.spacing.overlap * pitch.natural)
         return std::nullopt;
     const double multiple = pitch.distance / pitch.natural;
     const auto& limits = parameters.spacing;

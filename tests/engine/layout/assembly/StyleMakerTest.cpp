@@ -70,6 +70,16 @@ TEST(StyleMaker, GivesSingleLinesTheLineSpacingOfTheRest) {
     EXPECT_DOUBLE_EQ(paragraphAt(document, 1).properties.lineSpacing.multiple, 1.5);
 }
 
+TEST(StyleMaker, TakesNoHeightThatCutsItsLetters) {
+    DocumentDraft draft =
+        draftOfLines({{"A line of the text", 200}, {"Another line of it", 230}, {"A third one", 260}});
+    draft.blocks.push_back(
+        makeBlock(makeParagraph({makeLine("m", 72, 300, {.size = 6}), makeLine("n", 72, 305, {.size = 6})})));
+    const auto document = documentOf(draft);
+    EXPECT_EQ(document.styles[0].paragraph.lineSpacing.rule, document::LineSpacingRule::Multiple);
+    EXPECT_EQ(paragraphAt(document, 3).properties.lineSpacing.rule, document::LineSpacingRule::Exact);
+}
+
 TEST(StyleMaker, SetsRunningHeadsInSingleSpacing) {
     DocumentDraft draft = draftOfLines({});
     draft.blocks.push_back(

@@ -11,13 +11,17 @@ using document::LineSpacing;
 using document::LineSpacingRule;
 
 /// Three lines of Carlito at 10 points, whose single spacing is 12.21 points.
-LineSpacing spacingAt(double leading, const char* font = "Carlito", const char* word = "word") {
+std::optional<LineSpacing> givenAt(double leading, const char* font = "Carlito", const char* word = "word") {
     DocumentDraft draft = tests::makeDraft(1);
     draft.pages[0].fonts[0].name = draft.pages[0].fonts[0].family = font;
     draft.blocks.push_back(
         tests::makeBlock(tests::makeParagraph({tests::makeLine(word, 72, 100), tests::makeLine(word, 72, 100 + leading),
                                                tests::makeLine(word, 72, 100 + 2 * leading)})));
-    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft, FontParameters()), {}).value();
+    return lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft, FontParameters()), {});
+}
+
+LineSpacing spacingAt(double leading, const char* font = "Carlito", const char* word = "word") {
+    return givenAt(leading, font, word).value();
 }
 
 TEST(LineMetrics, ReadsTheMultipleThatTheAuthorChose) {
@@ -35,6 +39,7 @@ TEST(LineMetrics, SetsExactHeightsForFontsThatNothingStandsInFor) {
 
 TEST(LineMetrics, SetsExactHeightsForLinesThatOverlap) {
     EXPECT_EQ(spacingAt(7).rule, LineSpacingRule::Exact);
+    EXPECT_FALSE(givenAt(4)) << "most of each would be cut off";
 }
 
 TEST(LineMetrics, SetsEastAsianLinesOnTheirGrid) {
