@@ -12,12 +12,12 @@ namespace {
 
 constexpr double kBeforeAll = -std::numeric_limits<double>::infinity();
 constexpr double kBlankPlace = 0.2;  ///< of its width; the word after a blank may begin before the blank's end
+constexpr double kBlankTouch = 0.02; ///< of the font size; a blank that begins so near to a letter's end follows it
 constexpr double kScriptTouch = 0.1; ///< of the font size; scripts that only touch follow each other
 
 /// Clusters of one strip without a blank or the room for one between them.
 struct PaintedWord {
     std::size_t strip = 0;
-    std::size_t letters = 0;
     double start = 0;
     double end = 0;
     double size = 0;
@@ -38,9 +38,8 @@ std::vector<std::vector<std::optional<std::size_t>>> cutWords(const std::vector<
                 continue;
             }
             if (!last || cluster.start - last->end > wordGap * cluster.spaceWidth)
-                words.push_back({s, 0, cluster.start, cluster.end, cluster.size, cluster.start, std::nullopt});
+                words.push_back({s, cluster.start, cluster.end, cluster.size, cluster.start, std::nullopt});
             PaintedWord& word = words.back();
-            ++word.letters;
             word.start = std::min(word.start, cluster.start);
             word.end = std::max(word.end, cluster.end);
             word.lastPlace = std::max(word.lastPlace, cluster.start);
@@ -51,12 +50,12 @@ std::vector<std::vector<std::optional<std::size_t>>> cutWords(const std::vector<
     return wordOf;
 }
 
-/// Moves words that begin on words of other strips behind these. Single letters stay: they may be accents, or painted
-/// into a gap that was left for them.
+/// Moves words that begin on words of other strips behind these. Letters painted by themselves stay: they may be accents,
+/// or painted into a gap that was left for them.
 void moveBehindCovered(std::vector<PaintedWord>& words, const std::vector<TextStrip>& strips, double kerning) {
     std::vector<std::size_t> byStart;
     for (std::size_t i = 0; i < words.size(); ++i)
-        if (words[i].letters > 1 && !strips[words[i].strip].isScript)
+        if (strips[words[i].strip].inkCount > 1 && !strips[words[i].strip].isScript)
             byStart.push_back(i);
     std::stable_sort(byStart.begin(), byStart.end(),
                      [&](std::size_t a, std::size_t b) { return words[a].start < words[b].start; });
@@ -73,6 +72,17 @@ void moveBehindCovered(std::vector<PaintedWord>& words, const std::vector<TextSt
         if (!reaching || word.end > reaching->end)
             reaching = &word;
     }
+}
+
+/// Where a blank stands: behind most of what begins before it ends, as the word after a blank may. But it goes before what
+/// was painted after it in one go, however soon that begins, and the last of a strip stays with the word that it touches.
+double placeOfBlank(const TextStrip& strip, std::size_t blank) {
+    const Cluster& cluster = strip.clusters[blank];
+    const double place = cluster.start + kBlankPlace * cluster.width();
+    if (blank + 1 < strip.clusters.size())
+        return std::min(place, std::max(cluster.start, strip.clusters[blank + 1].start));
+    const bool touches = blank > 0 && cluster.start - strip.clusters[blank - 1].end <= kBlankTouch * cluster.size;
+    return touches ? cluster.start : place;
 }
 
 /// A cluster with what it is sorted by.
@@ -97,9 +107,11 @@ std::vector<Cluster> inReadingOrder(std::vector<TextStrip> strips, const TextPar
         for (std::size_t c = 0; c < strip.clusters.size(); ++c) {
             Cluster& cluster = strip.clusters[c];
             const std::optional<std::size_t> word = wordOf[s][c];
-            if (word)
+            if (word) {
+                cluster.beginsOnWord = words[*word].movedTo && (c == 0 || wordOf[s][c - 1] != word);
                 key = std::max(key, words[*word].movedTo.value_or(cluster.start));
-            placed.push_back({word ? key : cluster.start + kBlankPlace * cluster.width(), std::move(cluster)});
+            }
+            placed.push_back({word ? key : placeOfBlank(strip, c), std::move(cluster)});
         }
         if (strip.isScript) {
             scriptEnd = strip.end - kScriptTouch * strip.size;

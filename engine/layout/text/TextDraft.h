@@ -89,6 +89,7 @@ struct Cluster {
     double ascent = 0;     ///< points
     double descent = 0;
     int mark = -1;
+    bool beginsOnWord = false; ///< first of a word that begins on the end of the word before it
     ClusterGap gapBefore;
     Look look;
 

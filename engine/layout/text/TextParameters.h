@@ -89,6 +89,7 @@ struct TextParameters {
         double gapAmongBlanks = 0.45;      ///< of the blank; ends a word where blanks are painted
         double gapWithoutBlanks = 0.45;    ///< of the blank; ends a word where they are not
         double scriptGap = 0.9;            ///< of the blank; between a script and its host
+        double weightGap = 0.02;           ///< of the font size; between words of different weights
         double eastAsianGap = 0.7;         ///< of the font size; between characters written without blanks
         double overprint = 0.6;            ///< of the font size; a jump back this far begins another word
         double labelGap = 0.1;             ///< of the font size; between a label and East Asian text

@@ -31,6 +31,7 @@ struct GapView {
     }
     bool touchesHangul() const { return isHangul(left.text.back()) != isHangul(right.text.front()); }
     bool touchesScript() const { return left.look.verticalPosition != right.look.verticalPosition; }
+    bool changesWeight() const { return left.look.isBold != right.look.isBold; }
 };
 
 double quantile(std::vector<double>& values, double share) {
@@ -75,7 +76,7 @@ private:
 
     void decideGap(std::size_t i, double letterGap) {
         const GapView view = viewAt(i);
-        m_clusters[i].gapBefore.endsWord = endsWord(view, letterGap);
+        m_clusters[i].gapBefore.endsWord = endsWord(view, letterGap) || partsWeights(i, letterGap);
         m_clusters[i].gapBefore.letterSpacing = letterGap * view.size();
     }
 
@@ -108,6 +109,8 @@ private:
     GapView viewAt(std::size_t i) const { return {m_clusters[i - 1], m_clusters[i]}; }
 
     bool endsWord(const GapView& view, double letterGap) const {
+        if (view.right.beginsOnWord)
+            return true;
         const double beyond = view.gap().width - letterGap * view.size();
         if (view.touchesScript() && !view.gap().hasBlank)
             return beyond >= m_limits.scriptGap * view.spaceWidth();
@@ -121,6 +124,26 @@ private:
         if (view.touchesEastAsian() || (m_hasBlanks && view.touchesHangul()))
             return beyond >= m_limits.eastAsianGap * view.size();
         return beyond >= (m_hasBlanks ? m_limits.gapAmongBlanks : m_limits.gapWithoutBlanks) * view.spaceWidth();
+    }
+
+    /// True between two words of different weights that stand closer than a blank but farther apart than letters:
+    /// forms set their bold words by themselves. Single letters may be those of a formula.
+    bool partsWeights(std::size_t i, double letterGap) const {
+        const GapView view = viewAt(i);
+        if (!view.changesWeight() || view.gap().width - letterGap * view.size() < m_limits.weightGap * view.size())
+            return false;
+        return i >= m_first + 2 && i + 1 < m_last && isWithinWord(i - 1) && isWithinWord(i + 1);
+    }
+
+    /// True for a letter that goes on the word of the letter before it, in scripts that are written with blanks.
+    bool isWithinWord(std::size_t i) const {
+        const GapView view = viewAt(i);
+        const auto isOfWord = [](const Cluster& cluster) {
+            return isLeftToRightLetter(cluster.text.front()) && !isSetWithoutBlanks(cluster.text.front()) &&
+                   !isHangul(cluster.text.front());
+        };
+        return !view.gap().hasBlank && !view.changesWeight() && !view.touchesScript() && isOfWord(view.left) &&
+               isOfWord(view.right);
     }
 
     std::vector<Cluster>& m_clusters;

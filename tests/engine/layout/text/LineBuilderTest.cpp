@@ -42,6 +42,31 @@ TEST(LineBuilder, ReadsAWordThatBeginsOnAnotherAfterIt) {
     EXPECT_THAT(linesOf(page), ElementsAre("This is your total income"));
 }
 
+TEST(LineBuilder, PartsAWordThatBeginsOnTheLastLetterOfAnother) {
+    PageContentBuilder page;
+    page.text(72 + PageContentBuilder::widthOf("Here is your", 12) - 5, 100, "amount", 12);
+    page.text(72, 100, "Here is your", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("Here is your amount"));
+}
+
+TEST(LineBuilder, ReadsAWordThatBeginsOnABlankAfterIt) {
+    PageContentBuilder page;
+    const double x = page.text(72, 100, "taxable ", 12);
+    page.text(x - 2.4, 100, "interest", 12);
+    const double y = page.text(72, 130, "incomes ", 12);
+    page.text(200, 130, "elsewhere", 12); // so that the next word is painted by itself
+    page.text(y - 2.4, 130, "subtract", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("taxableinterest", "incomessubtract\telsewhere"))
+        << "a blank without room is none, but must not stand behind the first letter of the next word";
+}
+
+TEST(LineBuilder, ReadsABulletThatLiesOnAWordAfterItWithItsText) {
+    PageContentBuilder page;
+    page.text(72 + PageContentBuilder::widthOf("footnote", 12) - 8, 100, "\u2022 item", 12);
+    page.text(72, 100, "footnote", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("footnote \u2022 item"));
+}
+
 TEST(LineBuilder, ReadsAWordThatLiesOnALongerOneAfterIt) {
     PageContentBuilder page;
     page.text(72, 100, "sent at", 12);

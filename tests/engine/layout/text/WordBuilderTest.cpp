@@ -88,6 +88,24 @@ TEST(WordBuilder, IgnoresBlanksThatLeaveNoRoom) {
     EXPECT_THAT(linesOf(page), ElementsAre("together"));
 }
 
+TEST(WordBuilder, PartsWordsOfTwoWeightsAtAnyGap) {
+    pdf::Font heavy;
+    heavy.isBold = true;
+    PageContentBuilder page;
+    const std::uint32_t bold = page.font(heavy);
+    double x = page.text(72, 100, "your", 12);
+    page.text(x + 0.4, 100, "taxable income", 12, {.font = bold});
+    x = page.text(72, 130, "the blank without room ", 12);
+    page.text(x - 2.6, 130, "ends", 12, {.font = bold});
+    x = page.text(72, 160, "un", 12, {.font = bold});
+    page.text(x, 160, "likely letters", 12);
+    x = page.text(72, 190, "values of y", 12);
+    page.text(x + 0.4, 190, "w of formulas", 12, {.font = bold});
+    EXPECT_THAT(linesOf(page),
+                ElementsAre("your taxable income", "the blank without room ends", "unlikely letters",
+                            "values of yw of formulas"));
+}
+
 TEST(WordBuilder, KeepsLetterSpacedWordsWhole) {
     PageContentBuilder page;
     page.text(72, 100, "SPACED HEADING", 12, {.characterSpacing = 3});
