@@ -1,5 +1,8 @@
 #include "layout/tables/AlignedGrid.h"
 
+#include "layout/tables/GapTexts.h"
+#include "layout/tables/TightGaps.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -149,6 +152,36 @@ void cutAtGaps(PieceRow& row, const std::vector<ColumnStart>& starts, const std:
     row.pieces = std::move(pieces);
 }
 
+/// Whether several rows have texts in both columns beside a gap.
+bool partsRows(const std::vector<ColumnGap>& gaps, std::size_t gap, const std::vector<PieceRow>& rows,
+               const TableParameters::Tables& parameters) {
+    const auto parted = std::count_if(rows.begin(), rows.end(), [&](const PieceRow& row) {
+        const auto isIn = [&](std::size_t column) {
+            return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
+                const ColumnRange range = columnsOf(piece, gaps);
+                return range.first == range.last && static_cast<std::size_t>(range.first) == column;
+            });
+        };
+        return isIn(gap) && isIn(gap + 1);
+    });
+    return parted >= parameters.minimumRowsParted;
+}
+
+/// Adds the tight gaps that are too narrow to have been found, where no other lies.
+void addTightGaps(std::vector<ColumnGap>& gaps, const std::vector<ColumnGap>& tight, const std::vector<PieceRow>& rows,
+                  const TableParameters::Tables& parameters) {
+    for (const ColumnGap& gap : tight) {
+        const auto next =
+            std::find_if(gaps.begin(), gaps.end(), [&](const ColumnGap& other) { return other.right > gap.left; });
+        const bool isFree = next == gaps.end() || next->left >= gap.right;
+        if (!isFree || gap.width() >= parameters.minimumColumnGap * rows.front().fontSize)
+            continue;
+        const auto added = gaps.insert(next, gap);
+        if (!partsRows(gaps, static_cast<std::size_t>(added - gaps.begin()), rows, parameters))
+            gaps.erase(added);
+    }
+}
+
 } // namespace
 
 std::vector<ColumnGap> findTableColumns(std::vector<PieceRow>& rows, const std::vector<Line>& lines,
@@ -157,7 +190,11 @@ std::vector<ColumnGap> findTableColumns(std::vector<PieceRow>& rows, const std::
     const std::vector<ColumnStart> starts = startsOf(gaps, rows, parameters.tables);
     for (PieceRow& row : rows)
         cutAtGaps(row, starts, lines, parameters.tables);
+    const std::vector<ColumnGap> tight = cutAtTightGaps(rows, lines, parameters.tables);
     gaps = findColumnGaps(rows, parameters.tables);
+    addTightGaps(gaps, tight, rows, parameters.tables);
+    joinHeadsWithValues(gaps, rows, parameters.tables);
+    narrowToTexts(gaps, rows, lines);
     std::vector<int> pieces(gaps.size() + 1);
     std::vector<int> bullets(gaps.size() + 1);
     for (const PieceRow& row : rows) {

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -141,6 +143,20 @@ bool isNarrowedByHead(const ColumnGap& gap, std::span<const PieceRow> rows, doub
     return false;
 }
 
+/// The part of a thin stretch that parts two columns, when it is wide enough. What stands alone in its row may be a
+/// heading over several columns, and makes no gap narrow.
+std::optional<ColumnGap> gapWithin(const ColumnGap& thin, std::span<const PieceRow> rows, double least,
+                                   const TableParameters::Tables& parameters) {
+    const ColumnGap gap = clearestPart(thin, rows);
+    if (gap.width() >= least || isNarrowedByHead(thin, rows, 2 * least, parameters))
+        return gap;
+    std::vector<PieceRow> parted;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(parted),
+                 [](const PieceRow& row) { return row.pieces.size() > 1; });
+    const ColumnGap ofParted = clearestPart(thin, parted);
+    return ofParted.width() >= least ? std::optional(ofParted) : std::nullopt;
+}
+
 std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     const auto rowCount = static_cast<double>(rows.size());
     const int allowed = static_cast<int>(parameters.crossedRowShare * rowCount);
@@ -150,12 +166,9 @@ std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TablePara
     std::vector<ColumnGap> gaps;
     for (const ColumnGap& thin : thinStretches(coverProfile(rows), allowed)) {
         for (const ColumnGap& part : withoutThinColumns(thin, rows)) {
-            const ColumnGap gap = clearestPart(part, rows);
-            const double least = parameters.minimumColumnGap * fontSize;
-            const bool isWide = gap.width() >= least;
-            if ((isWide || isNarrowedByHead(part, rows, 2 * least, parameters)) &&
-                countRowsParted(gap, rows) >= parameters.minimumRowsParted)
-                gaps.push_back(gap);
+            const auto gap = gapWithin(part, rows, parameters.minimumColumnGap * fontSize, parameters);
+            if (gap && countRowsParted(*gap, rows) >= parameters.minimumRowsParted)
+                gaps.push_back(*gap);
         }
     }
     return gaps;
@@ -178,8 +191,23 @@ struct FilledRows {
     }
 };
 
-/// Takes out the gaps between a head and the values of its column that stand all to the other side: "Weight" set to the
-/// left and short numbers below it to the right.
+/// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
+std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
+    std::vector<PieceRow> telling;
+    for (const PieceRow& row : rows)
+        if (row.pieces.size() > 1)
+            telling.push_back(row);
+    const std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
+    for (const PieceRow& row : rows) {
+        const ColumnRange range = columnsOf(row.pieces.front(), gaps);
+        if (row.pieces.size() == 1 && range.first == range.last)
+            telling.push_back(row);
+    }
+    return telling;
+}
+
+} // namespace
+
 void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow> rows,
                          const TableParameters::Tables& parameters) {
     for (std::size_t i = gaps.size(); i-- > 0;) {
@@ -197,23 +225,6 @@ void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow>
             gaps.erase(gaps.begin() + static_cast<std::ptrdiff_t>(i));
     }
 }
-
-/// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
-std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
-    std::vector<PieceRow> telling;
-    for (const PieceRow& row : rows)
-        if (row.pieces.size() > 1)
-            telling.push_back(row);
-    const std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
-    for (const PieceRow& row : rows) {
-        const ColumnRange range = columnsOf(row.pieces.front(), gaps);
-        if (row.pieces.size() == 1 && range.first == range.last)
-            telling.push_back(row);
-    }
-    return telling;
-}
-
-} // namespace
 
 std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     const std::vector<PieceRow> telling = tellingRows(rows, parameters);

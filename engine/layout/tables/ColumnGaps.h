@@ -17,6 +17,11 @@ struct ColumnGap {
 /// columns.
 std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters);
 
+/// Takes out the gaps between a head and the values of its column that stand all to the other side: "Weight" set to the
+/// left and short numbers below it to the right.
+void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow> rows,
+                         const TableParameters::Tables& parameters);
+
 /// Whether the piece reaches over the gap.
 inline bool crosses(const TextPiece& piece, const ColumnGap& gap) {
     return piece.box.left < gap.left + 0.01 && piece.box.right > gap.right - 0.01;

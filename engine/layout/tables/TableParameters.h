@@ -66,6 +66,10 @@ struct TableParameters {
         double widestRowSpace = 4.0;  ///< of the font size; rows of many texts stand no farther apart
         std::size_t fullRow = 4;      ///< texts side by side that are many
 
+        // Columns as close together as words.
+        double unevenTexts = 0.3;       ///< of the font size by which the lengths of texts must differ to say something
+        double tightCrossedShare = 0.1; ///< of the rows that may have a word over the place where the right one begins
+
         // Rows of several lines with space between them.
         double rowSpaceJump = 0.25;   ///< of the font size; by that much the least space between rows exceeds ...
         double widestLineSpace = 0.5; ///< of the font size; ... the widest between lines, which is no larger
