@@ -5,6 +5,7 @@
 #include "layout/tables/ProseMask.h"
 #include "layout/tables/RuledAdmission.h"
 #include "layout/tables/SpacedRows.h"
+#include "layout/tables/TableCaption.h"
 
 #include <algorithm>
 
@@ -29,8 +30,10 @@ std::vector<PieceRow> candidateRows(const PageText& page, const TableParameters:
 /// Grows a table downwards from a row with at least two pieces.
 class RegionGrower {
 public:
-    RegionGrower(const std::vector<PieceRow>& rows, const TableParameters::Tables& parameters)
+    RegionGrower(const std::vector<PieceRow>& rows, const std::vector<Line>& lines,
+                 const TableParameters::Tables& parameters)
         : m_rows(rows)
+        , m_lines(lines)
         , m_parameters(parameters) {}
 
     /// One past the last row of the region that starts at `first`, texts that may go on from it included; `first` when
@@ -43,7 +46,7 @@ public:
         m_leastSpace = 1e9;
         m_lastFull = m_rows[first].pieces.size();
         std::size_t end = first;
-        for (std::size_t i = first + 1; i < m_rows.size() && isNear(i); ++i) {
+        for (std::size_t i = first + 1; i < m_rows.size() && isNear(i) && !isTableCaption(m_rows[i], m_lines); ++i) {
             if (isMulti(i) ? !takeMulti(i) : !takeSingle(i))
                 break;
             end = i + 1;
@@ -95,6 +98,7 @@ private:
     }
 
     const std::vector<PieceRow>& m_rows;
+    const std::vector<Line>& m_lines;
     const TableParameters::Tables& m_parameters;
     std::vector<PieceRow> m_region;
     std::vector<ColumnGap> m_gaps;
@@ -139,7 +143,7 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
 std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters& parameters) {
     const std::vector<PieceRow> rows = candidateRows(page, parameters.tables);
     const std::vector<BorderLine> rules = collectBorderLines(page.rules, parameters.tables);
-    RegionGrower grower(rows, parameters.tables);
+    RegionGrower grower(rows, page.lines, parameters.tables);
     std::vector<TableGrid> grids;
     std::size_t used = 0;
     for (std::size_t first = 0; first < rows.size();) {

@@ -3,7 +3,9 @@
 #include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/HeadSpans.h"
 #include "layout/tables/RuleBands.h"
+#include "layout/tables/RuleLabels.h"
 #include "layout/tables/RuledAdmission.h"
+#include "layout/tables/RuledRows.h"
 
 #include <algorithm>
 #include <optional>
@@ -48,22 +50,56 @@ BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TablePa
     return run;
 }
 
+/// The rows [first, end) of a run between two of its rules.
+struct RuledPart {
+    std::size_t first = 0;
+    std::size_t end = 0;
+};
+
+std::vector<RuledPart> partsOf(const std::vector<Band>& bands, const BandRun& run) {
+    std::vector<RuledPart> parts;
+    std::size_t row = 0;
+    for (std::size_t i = run.first; i < run.end; ++i) {
+        if (parts.empty() || bands[i].hasRuleAbove)
+            parts.push_back({row, row});
+        row += bands[i].rows.size();
+        parts.back().end = row;
+    }
+    std::erase_if(parts, [](const RuledPart& part) { return part.first == part.end; });
+    return parts;
+}
+
+/// Whether rules part all rows below the head.
+bool areRowsRuled(const std::vector<RuledPart>& parts, const AlignedRows& aligned, const std::vector<Line>& lines,
+                  const TableParameters::Tables& parameters) {
+    std::vector<RowContent> contents;
+    for (const PieceRow& row : aligned.rows)
+        contents.push_back(contentOf(row, aligned.gaps, lines, parameters));
+    std::vector<std::span<const RowContent>> body;
+    for (std::size_t i = 1; i < parts.size(); ++i)
+        body.push_back(std::span(contents).subspan(parts[i].first, parts[i].end - parts[i].first));
+    return areRowsRuled(body, lines, parameters);
+}
+
 void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
               const LayoutParameters& parameters, BandRun& run) {
+    AlignedRows& aligned = run.aligned;
     for (std::size_t i = run.first; i < run.end; ++i)
-        run.aligned.rows.insert(run.aligned.rows.end(), bands[i].rows.begin(), bands[i].rows.end());
-    run.aligned.gaps = findTableColumns(run.aligned.rows, lines, parameters);
-    std::size_t start = 0;
-    for (std::size_t i = run.first; i < run.end;) {
-        std::size_t count = bands[i].rows.size();
-        for (++i; i < run.end && !bands[i].hasRuleAbove; ++i)
-            count += bands[i].rows.size();
-        const std::span rows = std::span(run.aligned.rows).subspan(start, count);
-        const bool isHead = start == 0 && i < run.end && static_cast<int>(count) <= parameters.tables.maximumHeaderRows;
-        for (RowGroup group : groupRows(rows, run.aligned.gaps, lines, rules, isHead ? RowsPart::Head : RowsPart::Any,
-                                        parameters.tables))
-            run.aligned.groups.push_back({group.first + start, group.end + start});
-        start += count;
+        aligned.rows.insert(aligned.rows.end(), bands[i].rows.begin(), bands[i].rows.end());
+    aligned.gaps = findTableColumns(aligned.rows, lines, parameters);
+    const std::vector<RuledPart> parts = partsOf(bands, run);
+    const bool areRows = areRowsRuled(parts, aligned, lines, parameters.tables);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const auto [first, end] = parts[i];
+        if (areRows && i > 0) {
+            aligned.groups.push_back({first, end});
+            continue;
+        }
+        const bool isHead =
+            first == 0 && parts.size() > 1 && static_cast<int>(end) <= parameters.tables.maximumHeaderRows;
+        for (RowGroup group : groupRows(std::span(aligned.rows).subspan(first, end - first), aligned.gaps, lines, rules,
+                                        isHead ? RowsPart::Head : RowsPart::Any, parameters.tables))
+            aligned.groups.push_back({group.first + first, group.end + first});
     }
 }
 
@@ -178,8 +214,9 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<Borde
 }
 
 /// The stacks with most levels first: the more rules agree, the surer they are those of a table.
-std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& rules, const TableParameters::Tables& parameters) {
-    std::vector<RuleStack> stacks = findRuleStacks(rules, parameters);
+std::vector<RuleStack> sortedStacks(const std::vector<BorderLine>& rules, const std::vector<TextPiece>& pieces,
+                                    const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    std::vector<RuleStack> stacks = withLabels(findRuleStacks(rules, parameters), pieces, lines, parameters);
     std::stable_sort(stacks.begin(), stacks.end(),
                      [](const RuleStack& a, const RuleStack& b) { return a.size() > b.size(); });
     return stacks;
@@ -194,7 +231,7 @@ std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vecto
     std::stable_sort(pieces.begin(), pieces.end(),
                      [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
     std::vector<TableGrid> grids;
-    for (const RuleStack& stack : sortedStacks(rules, limits)) {
+    for (const RuleStack& stack : sortedStacks(rules, pieces, page.lines, limits)) {
         const std::vector<Band> bands = bandsOf(stack, pieces, page.lines, limits);
         for (std::size_t first = 0; first < bands.size();) {
             BandRun run{first, first, {}};

@@ -66,7 +66,7 @@ public:
         for (int row = 0; row + 1 < groups; ++row) {
             std::vector<Head> heads = headsOf(row);
             const bool isOfHead = row < m_parameters.maximumHeaderRows && !m_isBodyReached && !isBody(row);
-            m_isBodyReached = !isOfHead;
+            m_isBodyReached = !isOfHead || isClosedBelow(row, heads);
             const bool isAlone = heads.size() == 1 && heads.front().range.first > 0 && !hasNumbers(row);
             if (!isOfHead && !isAlone)
                 continue;
@@ -115,6 +115,20 @@ private:
             isLabelled = isLabelled || (columnsOf(piece, m_aligned.gaps).first == 0 && !isNumeric(piece, m_lines));
         });
         return row > 0 && isLabelled && hasNumbers(row);
+    }
+
+    /// Whether a rule as wide as the table closes the head below a row that has a text for each column but the first.
+    bool isClosedBelow(int row, const std::vector<Head>& heads) const {
+        int headed = 0;
+        for (const Head& head : heads)
+            headed += head.range.last - head.range.first + (head.range.first > 0);
+        const double whole = m_grid.columnEdges.back() - m_grid.columnEdges.front();
+        return headed == m_grid.columns() - 1 &&
+               std::any_of(m_rules.begin(), m_rules.end(), [&](const BorderLine& rule) {
+                   return rule.direction == RuleDirection::Horizontal && rule.position > boxOf(row).centerY() &&
+                          rule.position < boxOf(row + 1).centerY() && rule.from < m_grid.columnEdges.back() &&
+                          rule.to > m_grid.columnEdges.front() && rule.length() > m_parameters.headRuleShare * whole;
+               });
     }
 
     /// Where the texts below the row stand.

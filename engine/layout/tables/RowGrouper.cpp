@@ -1,5 +1,9 @@
 #include "layout/tables/RowGrouper.h"
 
+#include "base/Utf8.h"
+#include "layout/tables/FilledRows.h"
+#include "layout/tables/RowContent.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -7,23 +11,6 @@
 
 namespace orvane::layout {
 namespace {
-
-/// The pieces of a row by column; a piece over several columns stands at its first.
-struct RowContent {
-    std::map<int, const TextPiece*> byColumn;
-    bool hasSpan = false;
-    bool hasNumber = false;
-    bool isOfNumbers = false; ///< a third of the texts: a head may hold a number, too
-    bool isLabelled = false;  ///< a text that is no number stands in the first column
-    bool isBold = true;
-    bool isItalic = true;
-
-    /// Whether it is set in another look, as heads, units and totals are.
-    bool looksUnlike(const RowContent& other) const { return isBold != other.isBold || isItalic != other.isItalic; }
-};
-
-/// What the filled cells say of two rows.
-enum class FilledVerdict { Same, Other, Unknown };
 
 /// A word that ends with a hyphen; a dash alone stands for no value.
 bool isBroken(std::string_view word) {
@@ -35,20 +22,24 @@ bool startsLowerCase(const TextPiece& piece, const std::vector<Line>& lines) {
     return !text.empty() && text.front() >= 'a' && text.front() <= 'z';
 }
 
+/// A text of a sign or two, such as are ticked or counted row by row.
+bool isSign(const TextPiece& piece, const std::vector<Line>& lines) {
+    return utf32FromUtf8(textOf(piece, lines)).size() <= 2;
+}
+
 class GroupBuilder {
 public:
     GroupBuilder(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
                  const std::vector<BorderLine>& rules, RowsPart part, const TableParameters::Tables& parameters)
         : m_rows(rows)
-        , m_gaps(gaps)
         , m_lines(lines)
         , m_rules(rules)
-        , m_parameters(parameters) {
+        , m_parameters(parameters)
+        , m_filled(rows, parameters) {
         for (const PieceRow& row : rows)
-            m_contents.push_back(contentOf(row));
+            m_contents.push_back(contentOf(row, gaps, lines, parameters));
         measureColumns();
         measurePitch();
-        countRowsOfFilledCells();
         countHead(part);
     }
 
@@ -69,7 +60,7 @@ public:
 
 private:
     bool goesOnFromAbove(std::size_t i, const std::set<int>& filled) const {
-        switch (compareFilledCells(i)) {
+        switch (m_filled.compare(m_contents[i - 1], m_contents[i])) {
         case FilledVerdict::Same:
             return true;
         case FilledVerdict::Other:
@@ -77,7 +68,8 @@ private:
         case FilledVerdict::Unknown:
             break;
         }
-        return !isRuledAbove(i) && (i < m_headRows ? goesOnInHead(i) : goesOn(i, filled));
+        const bool isNumbered = m_contents[i - 1].isNumbering || m_contents[i].isNumbering;
+        return !isNumbered && !isRuledAbove(i) && (i < m_headRows ? goesOnInHead(i) : goesOn(i, filled));
     }
 
     /// Whether a rule parts a text of row `i` from the one above it.
@@ -93,54 +85,6 @@ private:
             return std::any_of(m_rows[i - 1].pieces.begin(), m_rows[i - 1].pieces.end(), isAlong) &&
                    std::any_of(m_rows[i].pieces.begin(), m_rows[i].pieces.end(), isAlong);
         });
-    }
-
-    void countRowsOfFilledCells() {
-        for (const PieceRow& row : m_rows) {
-            std::set<int> cells;
-            for (const TextPiece& piece : row.pieces)
-                cells.insert(piece.filledCell);
-            for (const int cell : cells)
-                ++m_rowsOfFilledCell[cell];
-        }
-    }
-
-    /// Whether rows i - 1 and `i` have texts in one filled cell, or in two of one column. What is filled from top to
-    /// bottom is a column, no cell.
-    FilledVerdict compareFilledCells(std::size_t i) const {
-        FilledVerdict result = FilledVerdict::Unknown;
-        for (const auto& [column, piece] : m_contents[i].byColumn) {
-            const auto above = m_contents[i - 1].byColumn.find(column);
-            if (piece->filledCell < 0 || above == m_contents[i - 1].byColumn.end() || above->second->filledCell < 0)
-                continue;
-            if (above->second->filledCell != piece->filledCell) {
-                result = FilledVerdict::Other;
-                continue;
-            }
-            const std::size_t rows = m_rowsOfFilledCell.at(piece->filledCell);
-            if (rows < m_rows.size() && rows <= static_cast<std::size_t>(m_parameters.maximumHeaderRows))
-                return FilledVerdict::Same;
-        }
-        return result;
-    }
-
-    RowContent contentOf(const PieceRow& row) const {
-        RowContent content;
-        std::size_t numbers = 0;
-        for (const TextPiece& piece : row.pieces) {
-            const ColumnRange range = columnsOf(piece, m_gaps);
-            content.byColumn.try_emplace(range.first, &piece);
-            content.hasSpan = content.hasSpan || range.first != range.last;
-            numbers += isNumeric(piece, m_lines);
-            content.isLabelled = content.isLabelled || (range.first == 0 && !isNumeric(piece, m_lines));
-            const Look& look = m_lines[piece.line].words[piece.firstWord].spans.front().look;
-            content.isBold = content.isBold && look.isBold;
-            content.isItalic = content.isItalic && look.isItalic;
-        }
-        content.hasNumber = numbers > 0;
-        content.isOfNumbers = numbers > 0 && static_cast<double>(numbers) >=
-                                                 m_parameters.headNumberShare * static_cast<double>(row.pieces.size());
-        return content;
     }
 
     void measureColumns() {
@@ -210,6 +154,8 @@ private:
 
     /// Whether `piece` reads on from `above`, which was so long that the first word did not fit into the column.
     bool isWrapped(const TextPiece& above, const TextPiece& piece, int column) const {
+        if (isSign(above, m_lines) && isSign(piece, m_lines))
+            return false;
         if (startsLowerCase(piece, m_lines))
             return true;
         if (column == 0 && isOutdented(above, piece))
@@ -254,12 +200,11 @@ private:
     }
 
     std::span<const PieceRow> m_rows;
-    const std::vector<ColumnGap>& m_gaps;
     const std::vector<Line>& m_lines;
     const std::vector<BorderLine>& m_rules;
     const TableParameters::Tables& m_parameters;
+    FilledRows m_filled;
     std::vector<RowContent> m_contents;
-    std::map<int, std::size_t> m_rowsOfFilledCell;
     std::map<int, Rect> m_columnBoxes; ///< around the texts of a column
     double m_leastPitch = 0;
     std::size_t m_headRows = 0;

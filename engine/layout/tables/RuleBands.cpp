@@ -2,6 +2,7 @@
 
 #include "layout/tables/ColumnGaps.h"
 #include "layout/tables/OpenBands.h"
+#include "layout/tables/TableCaption.h"
 
 #include <algorithm>
 #include <iterator>
@@ -22,35 +23,51 @@ bool isRunningLine(const PieceRow& row, const RuleLevel& level, const std::vecto
     return range.first == 0 && range.last > 0;
 }
 
-/// Cuts a band where lines of running text follow each other in it: a paragraph between two tables.
-void appendParts(Band band, const RuleLevel& level, const TableParameters::Tables& parameters,
-                 std::vector<Band>& bands) {
-    const std::vector<ColumnGap> gaps = findColumnGaps(band.rows, parameters);
-    const auto first =
-        std::adjacent_find(band.rows.begin(), band.rows.end(), [&](const PieceRow& row, const PieceRow& next) {
-            return isRunningLine(row, level, gaps, parameters) && isRunningLine(next, level, gaps, parameters);
-        });
-    if (first == band.rows.begin() || first == band.rows.end()) {
+/// Where a table ends within a band: at a paragraph between two tables, or at the caption of the next one.
+std::vector<PieceRow>::iterator endOfTable(std::vector<PieceRow>& rows, const RuleLevel& level,
+                                           const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    const std::vector<ColumnGap> gaps = findColumnGaps(rows, parameters);
+    const auto paragraph = std::adjacent_find(rows.begin(), rows.end(), [&](const PieceRow& row, const PieceRow& next) {
+        return isRunningLine(row, level, gaps, parameters) && isRunningLine(next, level, gaps, parameters);
+    });
+    const auto caption =
+        std::find_if(rows.begin(), rows.end(), [&](const PieceRow& row) { return isTableCaption(row, lines); });
+    // Text that begins right below the rule may be of a cell.
+    return std::min(paragraph == rows.begin() ? rows.end() : paragraph, caption);
+}
+
+/// Cuts a band where a table ends in it. What follows is the head of the next.
+void appendParts(Band band, const RuleLevel& level, const std::vector<Line>& lines,
+                 const TableParameters::Tables& parameters, std::vector<Band>& bands) {
+    const auto first = endOfTable(band.rows, level, lines, parameters);
+    if (first == band.rows.end()) {
         bands.push_back(std::move(band));
         return;
     }
-    const auto end = std::find_if(first, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
+    const auto end =
+        std::find_if(first + 1, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
     Band rest{.top = first->box.top,
               .bottom = band.bottom,
               .rows = {end, band.rows.end()},
               .hasRuleAbove = false,
               .hasRuleBelow = band.hasRuleBelow,
               .level = band.level};
+    const bool isAtRule = first == band.rows.begin();
     band.rows.erase(first, band.rows.end());
-    band.bottom = band.rows.back().box.bottom;
-    band.hasRuleBelow = false;
-    band.isFollowed = true;
-    bands.push_back(std::move(band));
-    bands.push_back(std::move(rest));
+    if (isAtRule && !bands.empty()) {
+        bands.back().isFollowed = true;
+    } else if (!isAtRule) {
+        band.bottom = band.rows.back().box.bottom;
+        band.hasRuleBelow = false;
+        band.isFollowed = true;
+        bands.push_back(std::move(band));
+    }
+    if (!rest.rows.empty())
+        bands.push_back(std::move(rest));
 }
 
 std::vector<Band> bandsBetween(const RuleStack& stack, const std::vector<TextPiece>& pieces,
-                               const TableParameters::Tables& parameters) {
+                               const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     std::vector<Band> bands;
     for (std::size_t i = 0; i + 1 < stack.size(); ++i) {
         const Rect box{std::min(stack[i].left, stack[i + 1].left) - parameters.endSnap, stack[i].y,
@@ -61,7 +78,7 @@ std::vector<Band> bandsBetween(const RuleStack& stack, const std::vector<TextPie
                 within.push_back(piece);
         appendParts(
             {.top = box.top, .bottom = box.bottom, .rows = groupIntoRows(std::move(within), parameters), .level = i},
-            stack[i], parameters, bands);
+            stack[i], lines, parameters, bands);
     }
     return bands;
 }
@@ -69,9 +86,9 @@ std::vector<Band> bandsBetween(const RuleStack& stack, const std::vector<TextPie
 /// A rule below the head, or one at each side of it, leaves the table open; more rules close it with their last.
 StackEnd endOf(const RuleStack& stack, const std::vector<PieceRow>& head, const std::vector<Band>& between,
                const TableParameters::Tables& parameters) {
-    const bool hasHeadOnly = stack.size() == 1 ? !head.empty()
-                                               : stack.size() == 2 && static_cast<int>(between.front().rows.size()) <=
-                                                                          parameters.maximumHeaderRows;
+    const bool isHeadBetween = stack.size() == 2 && !between.empty() &&
+                               static_cast<int>(between.front().rows.size()) <= parameters.maximumHeaderRows;
+    const bool hasHeadOnly = stack.size() == 1 ? !head.empty() : isHeadBetween;
     return hasHeadOnly ? StackEnd::Open : StackEnd::Closed;
 }
 
@@ -129,7 +146,7 @@ std::vector<Band> bandsBelow(const RuleStack& stack, StackEnd stackEnd, const st
 std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
                           const TableParameters::Tables& parameters) {
     std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
-    std::vector<Band> between = bandsBetween(stack, pieces, parameters);
+    std::vector<Band> between = bandsBetween(stack, pieces, lines, parameters);
     std::vector<Band> below = bandsBelow(stack, endOf(stack, head, between, parameters), pieces, lines, parameters);
     std::vector<Band> bands = bandsAbove(stack, std::move(head), pieces, lines, parameters);
     std::move(between.begin(), between.end(), std::back_inserter(bands));

@@ -50,6 +50,32 @@ std::vector<RuleStack> partByEdge(RuleStack levels, const Edge& edge, double sna
     return parts;
 }
 
+/// Whether `other` is a table of its own between two levels of a stack: several levels, some end of which lies outside.
+bool isBetween(const RuleStack& other, const RuleLevel& above, const RuleLevel& below,
+               const TableParameters::Tables& parameters) {
+    const RuleLevel& level = other.front();
+    const bool reachesOut =
+        level.left < above.left - parameters.endSnap || level.right > above.right + parameters.endSnap;
+    return other.size() > 1 && reachesOut && level.y > above.y && other.back().y < below.y &&
+           2 * overlap(level.left, level.right, above.left, above.right) > above.right - above.left;
+}
+
+/// Parts a stack between whose levels other tables stand.
+std::vector<RuleStack> partAround(const RuleStack& stack, const std::vector<RuleStack>& others,
+                                  const TableParameters::Tables& parameters) {
+    std::vector<RuleStack> parts(1);
+    for (const RuleLevel& level : stack) {
+        const bool isParted =
+            !parts.back().empty() && std::any_of(others.begin(), others.end(), [&](const auto& other) {
+                return isBetween(other, parts.back().back(), level, parameters);
+            });
+        if (isParted)
+            parts.emplace_back();
+        parts.back().push_back(level);
+    }
+    return parts;
+}
+
 } // namespace
 
 std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
@@ -62,7 +88,11 @@ std::vector<RuleStack> findRuleStacks(const std::vector<BorderLine>& lines, cons
             stacks.push_back(std::move(stack));
         }
     }
-    return stacks;
+    std::vector<RuleStack> parted;
+    for (const RuleStack& stack : stacks)
+        for (RuleStack& part : partAround(stack, stacks, parameters))
+            parted.push_back(std::move(part));
+    return parted;
 }
 
 } // namespace orvane::layout

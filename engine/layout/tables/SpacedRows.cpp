@@ -81,7 +81,7 @@ private:
                 return false;
             const TextPiece*& above = seen.lastOfColumn[range.first];
             if (above) {
-                if (isNumeric(piece, m_lines) ||
+                if ((isNumeric(piece, m_lines) && isNumeric(*above, m_lines)) ||
                     hasRoomBehind(*above, piece, m_columns.at(range.first), m_lines, m_parameters))
                     return false;
                 seen.hasPhrase = seen.hasPhrase || above->wordCount() > 1;
