@@ -2,6 +2,7 @@
 
 #include "layout/tables/ColumnParter.h"
 #include "layout/tables/NestedGrids.h"
+#include "layout/tables/NumberColumns.h"
 #include "layout/tables/RowParter.h"
 #include "layout/tables/RuleLattice.h"
 #include "layout/tables/RuledAdmission.h"
@@ -36,7 +37,8 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
                 grids.push_back(std::move(inner));
         if (!isFound)
             continue;
-        TableGrid parted = partAtTextRows(partAtColumns(found.grid, page.lines, parameters), page.lines, parameters);
+        TableGrid parted = partAtNumbers(partAtColumns(found.grid, page.lines, parameters), page.lines, parameters);
+        parted = partAtTextRows(parted, page.lines, parameters);
         const bool isBetter = parted.cells != found.grid.cells && isTable(page, parted, 0, parameters);
         grids.push_back(isBetter ? std::move(parted) : std::move(found.grid));
     }
