@@ -254,9 +254,9 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         if (takeOnlyNumber(bottoms[0], pages[0], limits) || takeOnlyNumber(tops[0], pages[0], limits))
             numbers[0] = PageNumber{1, document::NumberFormat::Decimal};
     } else {
+        takeRepeated(tops, bottoms, numbers, pages, limits);
         takeLoneNumbers(bottoms, numbers);
         takeLoneNumbers(tops, numbers);
-        takeRepeated(tops, bottoms, numbers, pages, limits);
     }
 
     std::vector<PageEdges> edges;
