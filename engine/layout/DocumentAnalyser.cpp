@@ -4,6 +4,8 @@
 #include "layout/text/LanguageGuess.h"
 #include "layout/text/LineText.h"
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -133,6 +135,24 @@ std::unordered_set<std::string> collectVocabulary(const std::vector<PageText>& p
     return vocabulary;
 }
 
+/// Whether the blanks behind the sentences that end within lines are mostly two.
+bool areBlanksDoubled(const std::vector<PageText>& pages, const LayoutParameters::Analysis& limits) {
+    int sentences = 0, doubled = 0;
+    for (const PageText& page : pages)
+        for (const Line& line : page.lines)
+            for (std::size_t i = 1; i < line.words.size(); ++i) {
+                const std::u32string next = utf32FromUtf8(textOf(line.words[i]));
+                // What stands behind a label is no new sentence.
+                if (i < 2 || line.words[i].gapBefore != Gap::Space || next.empty() ||
+                    !u_isupper(static_cast<UChar32>(next.front())) ||
+                    !endsSentence(utf32FromUtf8(textOf(line.words[i - 1]))))
+                    continue;
+                ++sentences;
+                doubled += line.words[i].blanksBefore == 2;
+            }
+    return doubled >= limits.fewestDoubleBlanks && doubled >= limits.doubleBlankShare * sentences;
+}
+
 /// Whether the document's lines have blanks between East Asian characters and the letters and digits beside them.
 bool areScriptsParted(const std::vector<PageText>& pages) {
     std::size_t parted = 0, joined = 0;
@@ -162,6 +182,7 @@ DocumentContext analyseDocument(const std::vector<PageText>& pages, const Layout
         findBodyLeading(pages, context.bodyFontSize, limits, limits.defaultLeading * context.bodyFontSize);
     context.textArea = findTextArea(pages, limits);
     context.isRightToLeft = isMostlyRightToLeft(pages);
+    context.doublesBlanks = areBlanksDoubled(pages, limits);
     context.partsScripts = areScriptsParted(pages);
     context.vocabulary = collectVocabulary(pages, limits);
     context.division = findDivision(pages, context.vocabulary, parameters.division);

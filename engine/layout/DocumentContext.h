@@ -16,8 +16,9 @@ struct DocumentContext {
     Rect textArea;              ///< within which most pages set their text, running heads aside; page space
     bool isRightToLeft = false; ///< most words are
     WordDivision division = WordDivision::Sometimes;
-    bool partsScripts = false; ///< blanks are typed between East Asian and other letters
-    std::string language;      ///< BCP 47, as the words tell it; empty where they do not
+    bool doublesBlanks = false; ///< two blanks are typed between sentences
+    bool partsScripts = false;  ///< blanks are typed between East Asian and other letters
+    std::string language;       ///< BCP 47, as the words tell it; empty where they do not
     std::unordered_set<std::string>
         vocabulary; ///< words that stand whole within a line, lower case; to judge hyphens by
 };

@@ -33,6 +33,8 @@ struct LayoutParameters : TextParameters,
         double defaultLeading = 1.2; ///< of the font size; where no two lines stand one below the other
         double edgeShare = 0.1;      ///< the text area's edge is where this share of the pages (or lines) has passed it
         int minimumWordLength = 3;   ///< bytes of UTF-8; shorter words say nothing about hyphens
+        int fewestDoubleBlanks = 3;  ///< sentences with two blanks behind them before that may be a habit, ...
+        double doubleBlankShare = 0.75; ///< ... if they are this share of those that end within lines
     } analysis;
 };
 

@@ -141,6 +141,7 @@ private:
         std::optional<LinkTarget> link;
         const pdf::FormField* field = nullptr;
         std::string text;
+        int blanks = 0; ///< painted behind it, at the end of its line
     };
 
     void readLine(const DraftPiece& piece, std::size_t index) {
@@ -179,6 +180,7 @@ private:
             m_before = Before{properties, link, formField, {}};
         }
         m_before->text = textOf(word);
+        m_before->blanks = word.blanksAfter;
     }
 
     void separate(const Word& word, Position position, const RunProperties& properties,
@@ -206,11 +208,19 @@ private:
             m_builder.dropLastCharacter();
     }
 
-    /// Behind a line's end one blank is enough: more of them are not seen there.
-    static std::string blanksBefore(const Word& word, Position position) {
+    std::string blanksBefore(const Word& word, Position position) const {
         if (position == Position::StartsLine)
-            return " ";
+            return std::string(blanksAtLineEnd(), ' ');
         return utf8FromUtf32(std::u32string(static_cast<std::size_t>(word.blanksBefore), word.blankBefore));
+    }
+
+    /// As many as were painted there, which some programs do, or else as there usually are: one more or less decides
+    /// where the line ends. A line's end is filled with no more than two or so.
+    std::size_t blanksAtLineEnd() const {
+        constexpr int kMost = 3;
+        if (m_before->blanks > 0)
+            return m_before->blanks <= kMost ? static_cast<std::size_t>(m_before->blanks) : 1;
+        return m_context.document.doublesBlanks && endsSentence(utf32FromUtf8(m_before->text)) ? 2 : 1;
     }
 
     /// Stretched rather than spaced: the distances between letters are none of the PDF's.

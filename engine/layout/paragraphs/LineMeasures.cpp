@@ -55,17 +55,6 @@ bool isCaselessLetter(char32_t character) {
     return type == U_OTHER_LETTER || type == U_MODIFIER_LETTER;
 }
 
-bool isSentenceEnd(const std::u32string& word) {
-    for (std::size_t i = word.size(); i-- > 0;) {
-        if (std::u32string_view(U".!?:;。！？：；؟۔؛").find(word[i]) != std::u32string_view::npos)
-            return true;
-        // Closing quotes and brackets stand behind the full stop.
-        if (u_isalnum(static_cast<UChar32>(word[i])))
-            return false;
-    }
-    return false;
-}
-
 /// A line of strokes or dots, to write on or to part what stands above from what stands below.
 bool isFillerLine(const Line& line) {
     constexpr std::size_t kShortest = 5;
@@ -146,7 +135,7 @@ void readEnds(const Line& line, std::span<const pdf::Font> fonts, LineMeasure& m
     measure.startsInHan = measure.startsWithoutBlanks && u_isalpha(static_cast<UChar32>(first[0]));
     measure.endsCaseless = isCaselessLetter(last.back());
     measure.startsCaseless = isCaselessLetter(first[0]);
-    measure.endsSentence = isSentenceEnd(last);
+    measure.endsSentence = endsSentence(last);
     measure.startsLowerCase = u_islower(static_cast<UChar32>(first[0]));
 }
 

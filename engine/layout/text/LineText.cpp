@@ -84,6 +84,17 @@ bool meetOtherScript(char32_t left, char32_t right) {
     return isWord(left) && isWord(right) && isWithoutBlanks(left) != isWithoutBlanks(right);
 }
 
+bool endsSentence(std::u32string_view word) {
+    for (std::size_t i = word.size(); i-- > 0;) {
+        if (std::u32string_view(U".!?:;。！？：；؟۔؛").find(word[i]) != std::u32string_view::npos)
+            return true;
+        // Closing quotes and brackets stand behind the full stop.
+        if (u_isalnum(static_cast<UChar32>(word[i])))
+            return false;
+    }
+    return false;
+}
+
 bool isTabulator(const Word& word) {
     const bool isTyped = word.isTypedBefore && word.blanksBefore > 1 && word.leaderBefore == document::TabLeader::None;
     return word.gapBefore == Gap::Tab && !isTyped;

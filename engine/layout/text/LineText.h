@@ -3,6 +3,7 @@
 #include "layout/text/PageText.h"
 
 #include <string>
+#include <string_view>
 
 namespace orvane::layout {
 
@@ -33,6 +34,9 @@ bool endsInHangingStop(const Line& line);
 
 /// True between a letter or digit of such a script and one of another.
 bool meetOtherScript(char32_t left, char32_t right);
+
+/// True for the last word of a sentence: a full stop or the like ends it, be it within quotes or brackets.
+bool endsSentence(std::u32string_view word);
 
 /// A gap as wide as a tabulator makes it that was not typed with blanks.
 bool isTabulator(const Word& word);

@@ -60,6 +60,7 @@ struct Word {
     Gap gapBefore = Gap::Space;
     int blanksBefore = 1;        ///< some people type two after a full stop, or many in place of a tabulator
     char32_t blankBefore = U' '; ///< of which kind they are
+    int blanksAfter = 0;         ///< painted at the end of its line; 0 also where programs paint none there
     double blankStretch = 1;    ///< how much wider each of them is than the font's, in text that keeps its place
     bool isTypedBefore = false; ///< blanks fill the gap, be it as wide as a Gap::Tab
     document::TabLeader leaderBefore = document::TabLeader::None; ///< what fills a Gap::Tab

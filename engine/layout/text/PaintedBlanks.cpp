@@ -32,6 +32,8 @@ public:
         m_count = std::min(kMostBlanks, m_count + static_cast<int>(blank.text.size()));
     }
 
+    int count() const { return m_count; }
+
     ClusterGap gapBetween(const Cluster& left, const Cluster& right, const TextParameters::Words& limits) const {
         ClusterGap gap;
         gap.width = right.start - left.end;
@@ -69,6 +71,8 @@ void takeOutBlanks(TextRow& row, const TextParameters::Words& limits) {
         blanks = {};
         ink.push_back(std::move(cluster));
     }
+    if (!ink.empty())
+        ink.back().blanksAfter = blanks.count();
     row.clusters = std::move(ink);
 }
 

@@ -122,6 +122,7 @@ std::vector<Word> wordsOf(const LogicalLine& logical, const TextFrame& frame, co
         } else if (!collector.takes(cluster, isRightToLeft)) {
             finishSpan();
         }
+        words.back().blanksAfter = cluster.blanksAfter;
         collector.add(cluster, isRightToLeft);
         rightToLeft += logical.isRightToLeft[i];
         ++count;

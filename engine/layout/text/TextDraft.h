@@ -91,6 +91,7 @@ struct Cluster {
     int mark = -1;
     bool beginsOnWord = false; ///< first of a word that begins on the end of the word before it
     ClusterGap gapBefore;
+    int blanksAfter = 0; ///< painted behind it, where nothing with ink follows
     Look look;
 
     double center() const { return (start + end) / 2; }

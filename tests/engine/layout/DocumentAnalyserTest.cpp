@@ -1,6 +1,7 @@
 #include "layout/DocumentAnalyser.h"
 
 #include "engine/layout/TextBuilder.h"
+#include "layout/text/LineText.h"
 
 #include <gtest/gtest.h>
 
@@ -84,6 +85,27 @@ TEST(DocumentAnalyser, SeesWhetherWordsAreDivided) {
         for (const std::string& line : row.lines)
             page.lines.push_back(makeLine(line, 72, 72 + 12 * static_cast<double>(page.lines.size())));
         EXPECT_EQ(analyseDocument({page}, {}).division, row.expected) << row.why;
+    }
+}
+
+TEST(DocumentAnalyser, SeesWhetherSentencesArePartedByTwoBlanks) {
+    const struct {
+        const char* why;
+        int doubled;
+        int single;
+        bool expected;
+    } rows[] = {{"two behind each sentence", 4, 0, true},
+                {"nearly always two", 6, 1, true},
+                {"now one, now two", 4, 4, false},
+                {"hardly any sentences", 2, 0, false}};
+    for (const auto& row : rows) {
+        PageText page = makePage(1);
+        for (int i = 0; i < row.doubled + row.single; ++i) {
+            page.lines.push_back(makeLine("1. This ends here. Another one", 72, 72 + 12.0 * i));
+            for (Word& word : page.lines.back().words)
+                word.blanksBefore = textOf(word) == "Another" && i < row.doubled ? 2 : 1;
+        }
+        EXPECT_EQ(analyseDocument({page}, {}).doublesBlanks, row.expected) << row.why;
     }
 }
 

@@ -74,7 +74,8 @@ inline DraftBlock makePictureBlock(const Rect& box) {
 
 /// The runs of the draft's paragraph `index`.
 inline std::vector<document::Inline> inlinesOfParagraph(const DocumentDraft& draft, std::size_t index,
-                                                        const LayoutRequest& request = {}) {
+                                                        const LayoutRequest& request = {},
+                                                        const DocumentContext& context = {}) {
     DocumentDraft linked = draft;
     Diagnostics diagnostics;
     const LinkTargets links(linked, {}, diagnostics);
@@ -83,12 +84,12 @@ inline std::vector<document::Inline> inlinesOfParagraph(const DocumentDraft& dra
     noFit.fontFit.leastCoverage = 2;
     const FontCatalog fonts(linked, noFit);
     const LayoutParameters parameters;
-    const DocumentContext context;
     return assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters});
 }
 
 /// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.
-inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index, const LayoutRequest& request = {}) {
+inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index, const LayoutRequest& request = {},
+                                   const DocumentContext& context = {}) {
     document::Document document;
     document.styles.push_back(
         {.id = "Normal", .name = "Normal", .basedOn = {}, .next = {}, .paragraph = {}, .run = {}});
@@ -96,7 +97,7 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
     document.styles[0].run.size = HalfPoints(20);
     document::Paragraph paragraph;
     paragraph.style = "Normal";
-    paragraph.inlines = inlinesOfParagraph(draft, index, request);
+    paragraph.inlines = inlinesOfParagraph(draft, index, request, context);
     return document::dump(paragraph, document);
 }
 

@@ -38,6 +38,25 @@ TEST(TextAssembler, KeepsBlanksThatWereTypedTwice) {
     EXPECT_EQ(text(draft), "p Normal \"End.  New  end. Next\"") << "one is enough where a line ends";
 }
 
+TEST(TextAssembler, WritesTheBlanksThatWerePaintedAtALinesEnd) {
+    DocumentDraft draft = draftOf({makeLine("one.", 72, 100), makeLine("Two", 72, 112)});
+    Word& last = paragraphOf(draft).lines[0].words.back();
+    last.blanksAfter = 2;
+    EXPECT_EQ(text(draft), "p Normal \"one.  Two\"");
+    last.blanksAfter = 9;
+    EXPECT_EQ(text(draft), "p Normal \"one. Two\"") << "they filled the line";
+}
+
+TEST(TextAssembler, PutsTwoBlanksBehindSentencesAsTheDocumentDoes) {
+    DocumentDraft draft = draftOf({makeLine("of one.", 72, 100), makeLine("Two", 72, 112), makeLine("three", 72, 124)});
+    DocumentContext context;
+    context.doublesBlanks = true;
+    EXPECT_EQ(tests::textOfParagraph(draft, 0, {}, context), "p Normal \"of one.  Two three\"");
+    paragraphOf(draft).lines[0].words.back().blanksAfter = 1;
+    EXPECT_EQ(tests::textOfParagraph(draft, 0, {}, context), "p Normal \"of one. Two three\"")
+        << "what is painted is known";
+}
+
 TEST(TextAssembler, WritesBlanksThatWereTypedInPlaceOfATabulator) {
     DocumentDraft draft = draftOf({makeLine("Class\tNames\tDate", 72, 100)});
     Word& names = paragraphOf(draft).lines[0].words[1];

@@ -44,6 +44,17 @@ TEST(WordBuilder, CountsTheBlanksThatHaveRoom) {
     EXPECT_EQ(text.lines[1].words.at(1).blanksBefore, 1) << "two blanks on top of each other";
 }
 
+TEST(WordBuilder, CountsTheBlanksThatArePaintedAtALinesEnd) {
+    PageContentBuilder page;
+    page.text(72, 100, "One end.  ", 12);
+    page.text(72, 130, "Another", 12);
+    const PageText text = tests::read(page);
+    ASSERT_EQ(text.lines.size(), 2u);
+    EXPECT_EQ(text.lines[0].words.at(0).blanksAfter, 0);
+    EXPECT_EQ(text.lines[0].words.at(1).blanksAfter, 2);
+    EXPECT_EQ(text.lines[1].words.at(0).blanksAfter, 0);
+}
+
 TEST(WordBuilder, KnowsBlanksThatWereTypedInPlaceOfATabulator) {
     PageContentBuilder page;
     page.text(72, 100, "Class          Names", 12);
