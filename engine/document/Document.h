@@ -452,7 +452,8 @@ struct Document {
     bool spreadsBrokenLines = false;
     /// Whether the word processor is to divide words at the ends of lines, by the rules of their language.
     bool dividesWords = false;
-    std::vector<Section> sections; ///< at least one
+    std::optional<Color> pageColor; ///< of the paper; white without one
+    std::vector<Section> sections;  ///< at least one
 };
 
 } // namespace orvane::document

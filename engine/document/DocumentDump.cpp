@@ -145,6 +145,8 @@ public:
                              differences(style.run, {})));
         for (std::size_t i = 0; i < m_document.numberings.size(); ++i)
             dumpNumbering(i);
+        if (m_document.pageColor)
+            line(fmt::format("page color {}", toHex(*m_document.pageColor)));
         for (const Section& section : m_document.sections)
             dumpSection(section);
         if (m_document.footnoteCount == NoteCount::EachPage)

@@ -5,6 +5,7 @@
 #include "layout/assembly/ContinuousDocument.h"
 #include "layout/assembly/DocumentAssembler.h"
 #include "layout/assembly/PlainTextDocument.h"
+#include "layout/graphics/PageColor.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
@@ -75,6 +76,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
             removeFigures(page);
     if (request.mode == LayoutMode::TruePage)
         return truePageDocument(std::move(pages), facts, request, parameters, observer, diagnostics);
+    const std::optional<Color> pageColor = takePageColor(pages, parameters.pageColor);
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);
     FoundNotes notes = takeNotes(pages, context, parameters);
@@ -89,7 +91,9 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     findLists(draft, parameters);
     linkPrintedAddresses(draft);
     findComments(draft, diagnostics);
-    return inMode(request.mode, assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics));
+    document::Document document = assembleDocument(std::move(draft), context, facts, request, parameters, diagnostics);
+    document.pageColor = pageColor;
+    return inMode(request.mode, std::move(document));
 }
 
 } // namespace orvane::layout

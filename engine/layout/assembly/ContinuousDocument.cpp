@@ -119,6 +119,7 @@ Document continuousDocument(Document flowing) {
     section.blocks = flow.take();
     flowing.sections.clear();
     flowing.sections.push_back(std::move(section));
+    flowing.pageColor.reset();
     for (Note& note : flowing.notes) {
         Flow text;
         text.add(std::move(note.blocks));

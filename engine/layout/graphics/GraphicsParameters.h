@@ -27,6 +27,12 @@ struct GraphicsParameters {
         double coverCell = 2;            ///< points; grain at which a white rectangle is told to lie on a ground
     } rules;
 
+    /// PageColor.
+    struct PageColor {
+        double edge = 1.0;      ///< points; the colour of the paper reaches this near to all edges
+        double pageShare = 0.9; ///< of the pages that must have it
+    } pageColor;
+
     /// DrawingFinder: groups of paths that are drawings.
     struct Drawings {
         double gap = 5;               ///< points; shapes of one drawing lie this close

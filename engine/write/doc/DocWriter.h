@@ -16,6 +16,7 @@
 ///   [-] tables of more than 63 columns: the last column takes in the rest; tables more than ten deep: paragraphs
 ///   [x] sections: page, margins, columns of any widths, page numbers, headers and footers for first and even pages
 ///   [-] pages of more than 22 inches are cut to that
+///   [ ] the colour of the paper
 ///   [x] pictures in the line: cut, turned, mirrored, alternate text; as they are, not compressed again
 ///   [x] floating pictures and drawings over the body, headers and footers: lines, boxes, paths with curves, groups,
 ///   opacity [x] text boxes over them, with text, tables and pictures in the line; floating objects in them stand

@@ -31,6 +31,8 @@ void addDocumentPart(DocumentState& state) {
     XmlPart part("word/document.xml", "document.main");
     Story story{state, part.xml(), part.relationships()};
     startRoot(part.xml(), "w:document");
+    if (const auto& color = state.document.pageColor)
+        part.xml().leaf("w:background", {{"w:color", toHex(*color)}});
     part.xml().start("w:body");
     if (state.document.sections.empty())
         writeSections(story, {Section{}});

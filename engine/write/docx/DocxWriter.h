@@ -16,6 +16,7 @@
 ///   [-] tables of more than 63 columns: the last column takes in the rest; tables more than ten deep: paragraphs
 ///   [x] sections: page, margins, columns of any widths, page numbers, headers and footers for first and even pages
 ///   [-] pages of more than 22 inches are cut to that
+///   [x] the colour of the paper
 ///   [x] pictures in the line and floating: cut, turned, mirrored, alternate text; each file once and untouched
 ///   [x] drawings: lines, boxes, paths with curves, groups, opacity
 ///   [-] wavy and thick lines of drawings are plain ones

@@ -41,6 +41,8 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
     XmlWriter& xml = part.xml();
     startRoot(xml, "w:settings");
     xml.leaf("w:zoom", {{"w:percent", 100}});
+    if (state.document.pageColor)
+        xml.leaf("w:displayBackgroundShape");
     xml.leaf("w:defaultTabStop", {{"w:val", 720}});
     if (state.document.dividesWords)
         xml.leaf("w:autoHyphenation");

@@ -7,6 +7,7 @@
 #include "write/rtf/ParagraphRtf.h"
 #include "write/rtf/RunningTextRtf.h"
 #include "write/rtf/SectionRtf.h"
+#include "write/rtf/ShapeProperties.h"
 #include "write/rtf/StyleSheet.h"
 
 #include <algorithm>
@@ -48,6 +49,19 @@ void writeSeparators(RtfStream& rtf, const Document& document) {
     }
 }
 
+/// The paper's colour is the filling of a shape that stands for the page.
+/// Source: RTF 1.9.1, "Document Formatting Properties", \background and \viewbksp.
+void writePageColor(RtfStream& rtf, const Color& color) {
+    constexpr int kRectangle = 1;
+    rtf.word("viewbksp", 1);
+    const RtfDestination background(rtf, "background");
+    const RtfGroup shape(rtf, "shp");
+    const RtfDestination instance(rtf, "shpinst");
+    writeShapeProperty(rtf, "shapeType", kRectangle);
+    writeFill(rtf, color, 1);
+    writeShapeProperty(rtf, "fBackground", 1);
+}
+
 void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& first, const RunningTexts& running) {
     writeDocumentPage(rtf, first);
     rtf.word("deftab", kDefaultTab);
@@ -67,6 +81,8 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     if (running.hasEvenPages())
         rtf.word("facingp");
     rtf.word("viewkind", 1);
+    if (state.document.pageColor)
+        writePageColor(rtf, *state.document.pageColor);
     writeSeparators(rtf, state.document);
     rtf.newLine();
 }

@@ -115,5 +115,16 @@ TEST_F(Package, DividesWordsWhereTheDocumentDoes) {
               normalXml("<w:autoHyphenation/>"));
 }
 
+TEST_F(Package, ShowsTheColorOfThePaper) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDocument(document).select("word/document.xml", "//w:background"), "");
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:displayBackgroundShape"), "");
+    document.pageColor = Color{255, 255, 204};
+    EXPECT_EQ(WrittenDocument(document).select("word/document.xml", "/w:document/*[1]"),
+              normalXml("<w:background w:color=\"FFFFCC\"/>"));
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:displayBackgroundShape"),
+              normalXml("<w:displayBackgroundShape/>"));
+}
+
 } // namespace
 } // namespace orvane::tests

@@ -28,6 +28,16 @@ TEST(RtfFile, DividesWordsWhereTheDocumentDoes) {
     EXPECT_TRUE(WrittenRtf(document).has("\\hyphauto1"));
 }
 
+TEST(RtfFile, ShowsTheColorOfThePaper) {
+    Document document = documentOf("a");
+    EXPECT_FALSE(WrittenRtf(document).has("\\background"));
+    document.pageColor = Color{255, 255, 204};
+    const WrittenRtf rtf(document);
+    EXPECT_THAT(faultOfRtf(rtf.text()), IsEmpty());
+    EXPECT_TRUE(rtf.has("\\viewbksp1"));
+    EXPECT_TRUE(rtf.has("{\\sp{\\sn fillColor}{\\sv 13434879}}"));
+}
+
 TEST(RtfFile, SetsParagraphsAndLettersApartLikeTheOtherFormats) {
     EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\htmautsp")) << "the larger of two spaces, not both";
     EXPECT_TRUE(WrittenRtf(documentOf("a")).has("\\kerning0")) << "readers may kern where nothing is said";
