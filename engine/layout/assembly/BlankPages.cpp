@@ -23,6 +23,12 @@ std::size_t lastPageOf(const AssembledBlock& block) {
 }
 
 void startPage(AssembledBlock& block) {
+    // The space above a table is a paragraph of its own.
+    for (document::Block& before : block.floats)
+        if (auto* spacer = std::get_if<document::Paragraph>(&before.value)) {
+            spacer->properties.pageBreakBefore = true;
+            return;
+        }
     document::Paragraph* paragraph = block.paragraph();
     if (!paragraph && !block.cells.empty() && !block.cells.front().empty())
         paragraph = block.cells.front().front().paragraph();
@@ -59,7 +65,11 @@ void BlankPages::keep(std::vector<AssembledBlock>& section, document::SectionSta
         }
         kept.push_back(std::move(block));
     }
+    const std::size_t end = kept.size();
     addUpTo(nextPage, kept);
+    // Word processors may leave out an empty paragraph at a section's end, and the page with it.
+    if (kept.size() > end)
+        kept.emplace_back().block.value = emptyParagraph(m_context);
     section = std::move(kept);
 }
 

@@ -11,6 +11,15 @@ bool leavesALineAlone(const DraftParagraph& paragraph) {
     return pieces.size() > 1 && (pieces.front().text.lines.size() == 1 || pieces.back().text.lines.size() == 1);
 }
 
+void releaseLines(AssembledBlock& block) {
+    const DraftParagraph* draft = block.draftParagraph();
+    if (draft && leavesALineAlone(*draft))
+        block.paragraph()->properties.hasWidowControl = false;
+    for (std::vector<AssembledBlock>& cell : block.cells)
+        for (AssembledBlock& inside : cell)
+            releaseLines(inside);
+}
+
 } // namespace
 
 void releaseKeeps(std::vector<AssembledBlock>& body) {
@@ -18,9 +27,7 @@ void releaseKeeps(std::vector<AssembledBlock>& body) {
     for (AssembledBlock& lower : body) {
         if (hasNoPlace(lower))
             continue;
-        const DraftParagraph* draft = lower.draftParagraph();
-        if (draft && leavesALineAlone(*draft))
-            lower.paragraph()->properties.hasWidowControl = false;
+        releaseLines(lower);
         if (upper && upper->paragraph() && upper->lastPage < lower.draft->page)
             upper->paragraph()->properties.keepWithNext = false;
         upper = &lower;

@@ -20,6 +20,46 @@ double sideMargin(const DraftTable& draft, const AssemblyParameters::TableCells&
     return std::max(0.0, margin);
 }
 
+/// Of a cell's margins what its text leaves.
+struct SideMargins {
+    double left = 0;
+    double right = 0;
+};
+
+/// Which of its sides a paragraph is not set against.
+struct LooseSides {
+    bool left = false;
+    bool right = false;
+};
+
+LooseSides looseSidesOf(const DraftParagraph& paragraph) {
+    switch (paragraph.pieces.front().text.alignment) {
+    case document::Alignment::Center:
+        return {true, true};
+    case document::Alignment::End:
+        return {!paragraph.firstLine().isRightToLeft, paragraph.firstLine().isRightToLeft};
+    default:
+        return {paragraph.firstLine().isRightToLeft, !paragraph.firstLine().isRightToLeft};
+    }
+}
+
+/// The margins of one cell: a line that ends where the margin begins may find no room in another program, so it gets a
+/// hair more.
+SideMargins marginsOf(const DraftCell& draft, double margin, double slack) {
+    SideMargins margins{margin, margin};
+    LooseSides loose{true, true};
+    for (const DraftBlock& block : draft.blocks) {
+        const DraftParagraph* paragraph = block.paragraph();
+        if (!paragraph)
+            continue;
+        const LooseSides own = looseSidesOf(*paragraph);
+        loose = {loose.left && own.left, loose.right && own.right};
+        margins.left = std::min(margins.left, block.box.left - draft.cell.box.left - slack);
+        margins.right = std::min(margins.right, draft.cell.box.right - block.box.right - slack);
+    }
+    return {loose.left ? std::max(0.0, margins.left) : margin, loose.right ? std::max(0.0, margins.right) : margin};
+}
+
 /// Indents count from the text's edge; in the draft they count from the cell's.
 void takeMargin(document::Paragraph& paragraph, Twips margin) {
     document::ParagraphProperties& format = paragraph.properties;
@@ -39,7 +79,7 @@ std::vector<AssembledBlock> assembleCellBlocks(const DraftCell& cell, Twips marg
     return blocks;
 }
 
-document::TableCell cellOf(const CellDraft& draft, Twips margin) {
+document::TableCell cellOf(const CellDraft& draft, const SideMargins& margins) {
     document::TableCell cell;
     cell.column = draft.column;
     cell.columnSpan = draft.columnSpan;
@@ -48,7 +88,8 @@ document::TableCell cellOf(const CellDraft& draft, Twips margin) {
     cell.shading = draft.shading;
     cell.alignment = draft.alignment;
     cell.direction = draft.direction;
-    cell.marginLeft = cell.marginRight = margin;
+    cell.marginLeft = twipsFromPoints(margins.left);
+    cell.marginRight = twipsFromPoints(margins.right);
     return cell;
 }
 
@@ -84,16 +125,22 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
         document::TableRow row;
         row.height = twipsFromPoints(rows[i + 1] - rows[i]);
         row.isHeader = static_cast<int>(i) < draft.table.headerRows;
+        row.mayBreakAcrossPages = !draft.keepsRowsWhole;
         table.rows.push_back(row);
     }
+    // The room that was left on the page is none of the row's, which is as high as its text.
+    for (const int row : draft.cutRows)
+        table.rows.at(static_cast<std::size_t>(row)).height = Twips(0);
     table.isRightToLeft = draft.table.isRightToLeft;
     table.indent = twipsFromPoints(indentOf(place, draft.table, context.draft));
 
     AssembledBlock assembled;
-    const Twips margin = twipsFromPoints(sideMargin(draft, context.parameters.tableCells));
+    const AssemblyParameters::TableCells& limits = context.parameters.tableCells;
+    const double margin = sideMargin(draft, limits);
     for (const DraftCell& cell : draft.cells) {
-        table.rows.at(static_cast<std::size_t>(cell.cell.row)).cells.push_back(cellOf(cell.cell, margin));
-        assembled.cells.push_back(assembleCellBlocks(cell, margin, context));
+        table.rows.at(static_cast<std::size_t>(cell.cell.row))
+            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, limits.slackBelow)));
+        assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margin), context));
     }
     assembled.block.value = std::move(table);
     return assembled;

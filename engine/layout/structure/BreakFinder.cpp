@@ -1,8 +1,7 @@
 #include "layout/structure/BreakFinder.h"
 
 #include "layout/structure/BlockExtent.h"
-
-#include <algorithm>
+#include "layout/structure/PageFloor.h"
 
 namespace orvane::layout {
 namespace {
@@ -26,15 +25,10 @@ BlockEnd endOf(const DraftBlock& block) {
     return {block.page, block.band, block.column, block.box.bottom};
 }
 
-/// Down to where the columns of a band could reach: to the page's end, or its notes, when
-/// nothing stands below the band.
-double floorOf(const DocumentDraft& draft, std::size_t page, int band, const Rect& area) {
-    const std::vector<Band>& bands = draft.pages[page].bands;
-    const auto index = static_cast<std::size_t>(band);
-    if (index + 1 < bands.size())
-        return bands[index].bottom;
-    const bool hasNotes = page < draft.noteAreas.size() && !draft.noteAreas[page].isEmpty();
-    return hasNotes ? draft.noteAreas[page].top : area.bottom;
+/// Two tables in a row: what parts them on a full page has no room there that word processors agree on, so the second
+/// one starts its page.
+bool areTables(const DraftBlock& a, const DraftBlock& b) {
+    return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<DraftTable>(b.value);
 }
 
 } // namespace
@@ -50,7 +44,8 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
             const BlockEnd end = endOf(*before);
             const double room = floorOf(draft, end.page, end.band, range.area.box) - end.bottom;
             if (end.page < block.page)
-                block.startsPage = end.page + 1 < block.page || room > fills[block.page].need + parameters.startRoom ||
+                block.startsPage = end.page + 1 < block.page || areTables(*before, block) ||
+                                   room > fills[block.page].need + parameters.startRoom ||
                                    startsLow(fills[block.page], range.area.tops.of(block.page), parameters);
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = room > block.box.height() + parameters.startRoom;

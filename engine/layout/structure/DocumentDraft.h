@@ -57,12 +57,15 @@ struct DraftCell {
 struct DraftTablePart {
     std::size_t page = 0; ///< index into DocumentDraft::pages
     Rect box;
+    int firstRow = 0; ///< that starts there
 };
 
 struct DraftTable {
     TableDraft table; ///< without its cells
     std::vector<DraftCell> cells;
     std::vector<DraftTablePart> furtherParts; ///< on the pages after that of its block
+    std::vector<int> cutRows;                 ///< rows with a page break within
+    bool keepsRowsWhole = false;              ///< no page break may cut one
 };
 
 struct DraftBlock {

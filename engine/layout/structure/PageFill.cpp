@@ -21,6 +21,15 @@ void widen(PageFill& fill, double top, double bottom) {
     fill.isEmpty = false;
 }
 
+/// How far the borders above a row reach beyond the line that they are drawn on.
+double reachOfTopBorders(const DraftTable& table, int row) {
+    double reach = 0;
+    for (const DraftCell& cell : table.cells)
+        if (cell.cell.row == row && cell.cell.borders.top.kind != document::BorderKind::None)
+            reach = std::max(reach, cell.cell.borders.top.width.value / 16.0);
+    return reach;
+}
+
 /// A picture may hang above the text area, so it does not tell where the page's flow starts.
 void widenByObject(std::vector<PageFill>& fills, const DraftBlock& block) {
     PageFill& fill = fills[block.page];
@@ -32,8 +41,11 @@ void widenByObject(std::vector<PageFill>& fills, const DraftBlock& block) {
     for (const DraftTablePart& part : table->furtherParts) {
         PageFill& further = fills[part.page];
         further.isSplit = further.isSplit || further.isEmpty;
-        widen(further, part.box.top, part.box.bottom);
-        further.flowTop = std::min(further.flowTop, part.box.top);
+        // Where nothing is drawn a row's upper edge is only guessed.
+        further.showsTop = further.isSplit && table->table.isRuled;
+        const double top = part.box.top - reachOfTopBorders(*table, part.firstRow);
+        widen(further, top, part.box.bottom);
+        further.flowTop = std::min(further.flowTop, top);
     }
 }
 
@@ -51,7 +63,7 @@ void widenByText(std::vector<PageFill>& fills, const DraftParagraph& paragraph, 
         const Line& last = piece.text.lines.back();
         PageFill& part = fills[piece.page];
         if (&piece != &paragraph.pieces.front() && part.isEmpty) {
-            part.isSplit = true;
+            part.isSplit = part.showsTop = true;
             part.need = needOfLines(piece, piece.text.lines.size() <= kKeptLines ? kKeptLines : 1, fonts);
         }
         const LineExtent natural = extentOf(first, piece.page, fonts);

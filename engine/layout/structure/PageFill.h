@@ -17,6 +17,7 @@ struct PageFill {
     double topSlack = 0;                                      ///< what line spacing may add above its first line
     bool isEmpty = true;
     bool isSplit = false;       ///< a paragraph or table goes on from the page before
+    bool showsTop = false;      ///< likewise, and nothing but the margin stands above it
     std::size_t firstBlock = 0; ///< that starts on the page; index into the blocks
     bool hasFirstBlock = false;
     double gap = 0;  ///< what mostly stands between such blocks as the page's first and the one before it

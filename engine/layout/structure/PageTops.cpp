@@ -26,12 +26,12 @@ SharedTop sharedTop(const std::vector<PageFill>& fills, std::size_t first, std::
         if (fills[i].isEmpty)
             continue;
         tops.push_back(topOf(fills[i]));
-        if (fills[i].isSplit)
+        if (fills[i].showsTop)
             ofRests.push_back(topOf(fills[i]));
     }
     if (tops.empty())
         return {};
-    // Nothing stands above the rest of a paragraph, so that shows the margin to the hair.
+    // Nothing stands above the rest of a paragraph or table, so that shows the margin to the hair.
     if (const auto top = mostFrequent(ofRests, limits.tidyTolerance))
         return {*top, true, true};
     const double least = *std::min_element(tops.begin(), tops.end());

@@ -129,6 +129,7 @@ void joinRows(DraftTable& table, DraftTable& next, const ParagraphContext& conte
         above[i]->cell.borders.bottom = below[i]->cell.borders.bottom;
         above[i]->cell.rowSpan += below[i]->cell.rowSpan - 1;
     }
+    table.cutRows.push_back(rowCount(table) - 1);
     table.table.rowEdges.back() += next.table.rowEdges[1] - next.table.rowEdges[0];
     dropFirstRows(next, 1);
 }

@@ -5,6 +5,7 @@
 #include "layout/structure/ColumnSetup.h"
 #include "layout/structure/PageFill.h"
 #include "layout/structure/PageSetup.h"
+#include "layout/structure/RowKeeping.h"
 #include "layout/structure/RunningTextMaker.h"
 
 #include <algorithm>
@@ -71,16 +72,29 @@ private:
             from = to;
         } while (from < last);
         markBreaks(m_draft, m_fills, {first, last, area}, m_parameters.pageSetup);
+        findWholeRows(m_draft, {first, last, area}, m_parameters.pageSetup);
     }
 
-    /// A picture that reaches above the text area was not typed into a line.
+    /// A picture that reaches above the text area, or beside the one before it, was not typed into a line of its own.
     void floatHangingPictures(std::size_t first, std::size_t last, const PageTops& tops) {
-        for (std::size_t i = first; i < last; ++i)
-            if (auto* figure = std::get_if<FigureDraft>(&m_draft.blocks[i].value)) {
-                const DraftBlock& block = m_draft.blocks[i];
-                if (block.box.top < tops.of(block.page) - m_parameters.pageSetup.sameEdge)
-                    figure->isInline = false;
+        const DraftBlock* above = nullptr;
+        for (std::size_t i = first; i < last; ++i) {
+            const DraftBlock& block = m_draft.blocks[i];
+            auto* figure = std::get_if<FigureDraft>(&m_draft.blocks[i].value);
+            if (!figure || !figure->isInline) {
+                above = nullptr;
+                continue;
             }
+            const bool hangs = block.box.top < tops.of(block.page) - m_parameters.pageSetup.sameEdge;
+            figure->isInline = !hangs && !(above && standsBeside(block, *above));
+            if (figure->isInline)
+                above = &block;
+        }
+    }
+
+    bool standsBeside(const DraftBlock& block, const DraftBlock& above) const {
+        const double shared = overlap(block.box.top, block.box.bottom, above.box.top, above.box.bottom);
+        return block.page == above.page && shared > m_parameters.pageSetup.besideShare * block.box.height();
     }
 
     document::Section setupOf(const RunningScheme& scheme, const Rect& area) const {

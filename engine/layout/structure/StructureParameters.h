@@ -23,7 +23,8 @@ struct StructureParameters {
         double usualMargin = 72.0;      ///< points; of pages that show none
         double sameColumn = 12.0;       ///< points; columns of bands that differ by less are those of one section
         double smallestColumnGap = 6.0; ///< points; between columns
-        double startRoom = 6.0; ///< points; with so much room left on the page before, a page was started by hand
+        double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
+        double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
     } pageSetup;
 
     /// HeadingFinder, HeadingStyles: headings where only their looks tell them.

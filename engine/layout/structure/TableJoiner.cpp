@@ -54,9 +54,10 @@ public:
         for (DraftBlock& block : m_draft.blocks) {
             auto* next = std::get_if<DraftTable>(&block.value);
             auto* table = joined.empty() ? nullptr : std::get_if<DraftTable>(&joined.back().value);
+            const int rows = table ? rowCount(*table) : 0;
             const bool goesOn = next && table && block.page == lastPage + 1 && append(*table, *next, lastPage);
             if (goesOn)
-                table->furtherParts.push_back({block.page, block.box});
+                table->furtherParts.push_back({block.page, block.box, rows});
             lastPage = block.page;
             if (!goesOn)
                 joined.push_back(std::move(block));
@@ -76,7 +77,8 @@ private:
         if ((head == 0 && next.table.headerRows > 0) || head == rowCount(next))
             return false;
         dropFirstRows(next, head);
-        table.table.headerRows = std::max(table.table.headerRows, head);
+        // Rows that look like a head but do not stand on the next page again are none that repeats.
+        table.table.headerRows = table.furtherParts.empty() ? head : std::max(table.table.headerRows, head);
         setColumnEdges(table, columns->edges, 0, limits.joinedEdge);
         setColumnEdges(next, columns->edges, columns->shift, limits.joinedEdge);
         const ParagraphContext around{m_context.bodyFontSize, m_context.bodyLeading, m_draft.pages[page].fonts, {}};

@@ -72,7 +72,8 @@ Alignment alignmentByGaps(const Edges& edges, double tolerance, const TableParam
     const double difference = std::max(2 * tolerance, parameters.centerShare * (left + right));
     if (std::abs(left - right) <= difference && left > 2 * tolerance)
         return Alignment::Center;
-    return right < left ? Alignment::End : Alignment::Start;
+    // Text that fills its cell was set from the start.
+    return left - right > difference ? Alignment::End : Alignment::Start;
 }
 
 template<typename Function>
@@ -122,6 +123,34 @@ void setAlignment(ParagraphDraft& paragraph, Alignment alignment, const Rect& ce
     paragraph.indentStart = alignment == Alignment::Start ? paragraph.box.left - cell.left : 0;
 }
 
+/// From where to where the text of a cell reaches.
+struct TextExtent {
+    Range upright;
+    double fontSize = 0; ///< 0 without text
+};
+
+TextExtent extentOf(CellDraft& cell) {
+    TextExtent extent;
+    forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
+        extent.upright.add(paragraph.box.top);
+        extent.upright.add(paragraph.box.bottom);
+        extent.fontSize = std::max(extent.fontSize, paragraph.lines.front().fontSize);
+    });
+    return extent;
+}
+
+/// For each row the tallest text of the cells that stand in it alone; null without any.
+std::vector<const TextExtent*> tallestOfRows(const TableDraft& table, const std::vector<TextExtent>& texts) {
+    std::vector<const TextExtent*> tallest(table.rowEdges.size());
+    for (std::size_t i = 0; i < table.cells.size(); ++i) {
+        const TextExtent*& ofRow = tallest[static_cast<std::size_t>(table.cells[i].row)];
+        if (table.cells[i].rowSpan == 1 && texts[i].fontSize > 0 &&
+            (!ofRow || texts[i].upright.width() > ofRow->upright.width()))
+            ofRow = &texts[i];
+    }
+    return tallest;
+}
+
 } // namespace
 
 void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParameters::Tables& parameters) {
@@ -145,22 +174,25 @@ void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParamet
 }
 
 void alignUpright(TableDraft& table, const TableParameters::Tables& parameters) {
-    for (CellDraft& cell : table.cells) {
-        Range extent;
-        double fontSize = 0;
-        forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
-            extent.add(paragraph.box.top);
-            extent.add(paragraph.box.bottom);
-            fontSize = std::max(fontSize, paragraph.lines.front().fontSize);
-        });
-        if (fontSize == 0)
+    std::vector<TextExtent> texts;
+    for (CellDraft& cell : table.cells)
+        texts.push_back(extentOf(cell));
+    const std::vector<const TextExtent*> tallest = tallestOfRows(table, texts);
+    for (std::size_t i = 0; i < table.cells.size(); ++i) {
+        CellDraft& cell = table.cells[i];
+        const TextExtent& text = texts[i];
+        if (text.fontSize == 0)
             continue;
-        const double above = extent.low - cell.box.top;
-        const double below = cell.box.bottom - extent.high;
+        // The tallest text of a row shows where the room in its cells begins and ends.
+        const TextExtent* other = cell.rowSpan == 1 ? tallest[static_cast<std::size_t>(cell.row)] : nullptr;
+        const double least = parameters.uprightRoom * text.fontSize;
+        const bool isShorter = other && other->upright.width() - text.upright.width() >= least;
+        const double above = text.upright.low - (isShorter ? other->upright.low : cell.box.top);
+        const double below = (isShorter ? other->upright.high : cell.box.bottom) - text.upright.high;
         // Without room to move the text shows nothing.
-        if (above + below < parameters.uprightRoom * fontSize)
+        if (above + below < least)
             continue;
-        if (std::abs(above - below) <= parameters.uprightTolerance * fontSize)
+        if (std::abs(above - below) <= parameters.uprightTolerance * text.fontSize)
             cell.alignment = CellAlignment::Center;
         else if (below < above)
             cell.alignment = CellAlignment::Bottom;

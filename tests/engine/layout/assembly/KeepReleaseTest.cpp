@@ -45,6 +45,25 @@ document::Document parted(int before, int after) {
     return documentOf(draft);
 }
 
+TEST(KeepRelease, LetsALineOfACellStandAloneWhereItDid) {
+    DocumentDraft draft = makeDraft(2);
+    DraftTable table;
+    table.table.columnEdges = {72, 272};
+    table.table.rowEdges = {700, 760};
+    table.cutRows = {0};
+    DraftCell& cell = table.cells.emplace_back();
+    cell.cell.box = {72, 700, 272, 760};
+    cell.blocks.push_back(makeBlock(makeParagraph({makeLine("line", 78, 750)})));
+    cell.blocks[0].paragraph()->pieces.push_back(
+        {1, 0, 0, tests::kColumn, makeParagraph({makeLine("line", 78, 84), makeLine("line", 78, 96)})});
+    draft.blocks.emplace_back().value = std::move(table);
+    const document::Document document = documentOf(draft);
+    const auto& made = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+    EXPECT_FALSE(
+        std::get<document::Paragraph>(made.rows.at(0).cells.at(0).blocks.at(0).value).properties.hasWidowControl);
+    EXPECT_EQ(made.rows.at(0).height, Twips(0)) << "the room left on the page is none of the row's";
+}
+
 TEST(KeepRelease, LetsALineStandAloneWhereItDid) {
     EXPECT_TRUE(paragraphAt(parted(2, 2), 0).properties.hasWidowControl);
     EXPECT_FALSE(paragraphAt(parted(1, 2), 0).properties.hasWidowControl);

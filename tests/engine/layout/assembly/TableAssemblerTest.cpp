@@ -69,6 +69,19 @@ TEST(TableAssembler, MeasuresTheIndentFromTheColumnOfTheSection) {
     EXPECT_EQ(std::get<document::Table>(document.sections.at(0).blocks.at(0).value).indent, Twips(1640));
 }
 
+TEST(TableAssembler, GivesALineAsWideAsItsCellAHairMore) {
+    DocumentDraft draft = draftOfTable(Reading::FromLeft);
+    auto& cells = std::get<DraftTable>(draft.blocks[0].value).cells;
+    const double usual = AssemblyParameters{}.tableCells.usualMargin;
+    // The text of the first cell reaches to the margin.
+    cells[0].blocks[0].box.right = cells[0].cell.box.right - usual;
+    const document::Document document = tests::documentOf(draft);
+    const auto& row = std::get<document::Table>(document.sections.at(0).blocks.at(0).value).rows[0];
+    EXPECT_EQ(row.cells[0].marginLeft, twipsFromPoints(usual));
+    EXPECT_LT(row.cells[0].marginRight, twipsFromPoints(usual));
+    EXPECT_EQ(row.cells[1].marginRight, twipsFromPoints(usual));
+}
+
 TEST(TableAssembler, LeavesTheBordersTheirRoom) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     // The lines reach from 2.29 points below the rows' upper edges to 5.5 above the lower ones.

@@ -212,6 +212,65 @@ TEST(SectionMaker, FloatsAPictureThatHangsAboveTheText) {
     EXPECT_TRUE(std::get<FigureDraft>(draft.blocks.back().value).isInline);
 }
 
+TEST(SectionMaker, FloatsAPictureThatStandsBesideTheOneBeforeIt) {
+    DocumentDraft draft = makeDraft(1);
+    fillPage(draft, 0, 200);
+    draft.blocks.push_back(tests::makePictureBlock({72, 220, 372, 320}));
+    draft.blocks.push_back(tests::makePictureBlock({300, 230, 460, 250}));
+    draft.blocks.push_back(tests::makePictureBlock({72, 319, 372, 400}));
+    sectionsOf(draft);
+    const std::size_t first = draft.blocks.size() - 3;
+    EXPECT_TRUE(std::get<FigureDraft>(draft.blocks[first].value).isInline);
+    EXPECT_FALSE(std::get<FigureDraft>(draft.blocks[first + 1].value).isInline);
+    EXPECT_TRUE(std::get<FigureDraft>(draft.blocks[first + 2].value).isInline)
+        << "below the first, whose edge it meets";
+}
+
+/// A table of one row at `top`, drawn with rules or not.
+DraftBlock tableAt(std::size_t page, double top, bool isRuled) {
+    DraftBlock block;
+    block.page = page;
+    block.box = {72, top, 523, top + 20};
+    DraftTable table;
+    table.table.columnEdges = {72, 523};
+    table.table.rowEdges = {top, top + 20};
+    table.table.isRuled = isRuled;
+    block.value = std::move(table);
+    return block;
+}
+
+TEST(SectionMaker, LetsTheSecondOfTwoTablesStartItsPage) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0, 740);
+    draft.blocks.push_back(tableAt(0, 745, true));
+    draft.blocks.push_back(tableAt(1, 74.3, true));
+    fillPage(draft, 1);
+    sectionsOf(draft);
+    EXPECT_TRUE(firstOn(draft, 1).startsPage);
+}
+
+TEST(SectionMaker, TakesTheTopMarginFromTablesThatAreDrawn) {
+    const struct {
+        bool isRuled;
+        double margin;
+        const char* why;
+    } rows[] = {{true, 89.5, "half a border stands above the row's edge"}, {false, 74.3, "the edge is only guessed"}};
+    for (const auto& row : rows) {
+        DocumentDraft draft = makeDraft(2);
+        fillPage(draft, 0, 700);
+        DraftBlock block = tableAt(0, 720, row.isRuled);
+        auto& table = std::get<DraftTable>(block.value);
+        table.table.rowEdges.push_back(760);
+        table.furtherParts.push_back({1, {72, 90, 523, 110}, 1});
+        DraftCell& cell = table.cells.emplace_back();
+        cell.cell.row = 1;
+        cell.cell.borders.top = {document::BorderKind::Single, EighthPoints(8), {}, 0};
+        draft.blocks.push_back(std::move(block));
+        sectionsOf(draft);
+        EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginTop), row.margin, 0.1) << row.why;
+    }
+}
+
 TEST(SectionMaker, CountsTheTopOfASingleLineWithTheSpacingOfTheOthers) {
     DocumentDraft draft = makeDraft(1);
     const auto exact = [](double baseline) {

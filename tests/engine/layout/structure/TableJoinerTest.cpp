@@ -122,6 +122,12 @@ TEST(TableJoiner, KeepsARepeatedHeadOnce) {
               "*Name|Age/Ada|36/Bob|41");
 }
 
+TEST(TableJoiner, KnowsAHeadThatIsNotRepeated) {
+    EXPECT_EQ(joinedTables({{{{"Name", "Age"}, {"Ada", "36"}}, 72, true}, {{{"Bob", "41"}, {"Eve", "29"}}}}),
+              "Name|Age/Ada|36/Bob|41/Eve|29");
+    EXPECT_EQ(joinedTables({{{{"Name", "Age"}, {"Ada", "36"}}, 72, true}}), "*Name|Age/Ada|36");
+}
+
 TEST(TableJoiner, JoinsPartsThatFacingMarginsMoveAside) {
     EXPECT_EQ(joinedTables({{{{"a", "1"}, {"b", "2"}}, 72}, {{{"c", "3"}, {"d", "4"}}, 90}}), "a|1/b|2/c|3/d|4");
 }
