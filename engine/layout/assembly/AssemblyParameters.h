@@ -13,6 +13,7 @@ struct AssemblyParameters {
     /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
     struct Spacing {
         double lowestMultiple = 0.7;      ///< line spacing below this is an exact height
+        double leastChosen = 0.95;        ///< a multiple below this is none that people choose, but a height
         double overlap = 0.55;            ///< of single spacing; lines this close lie over each other: no height says so
         double highestMultiple = 3.5;     ///< likewise above
         double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one

@@ -45,8 +45,11 @@ document::Block paragraphWith(document::Picture picture, const DraftBlock& place
     document::Paragraph paragraph;
     paragraph.origin = picture.origin;
     paragraph.properties.alignment = alignmentIn(column, place.box, context.parameters.figures.alignmentTolerance);
-    if (paragraph.properties.alignment == document::Alignment::Start)
-        paragraph.properties.indentStart = twipsFromPoints(std::max(0.0, place.box.left - column.left));
+    // A picture may reach into the margins.
+    if (paragraph.properties.alignment == document::Alignment::Start) {
+        paragraph.properties.indentStart = twipsFromPoints(place.box.left - column.left);
+        paragraph.properties.indentEnd = twipsFromPoints(std::min(0.0, column.right - place.box.right));
+    }
     paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
     paragraph.markProperties.size = kPictureMarkSize;
     paragraph.inlines.push_back({std::move(picture)});

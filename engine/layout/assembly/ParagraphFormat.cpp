@@ -56,8 +56,12 @@ void takeBorders(const DraftParagraph& paragraph, document::ParagraphProperties&
     format.borders.bottom = paragraph.pieces.back().text.borders.bottom;
     format.shading = first.shading;
     // Word processors draw no rule between paragraphs with equal borders unless told so.
-    if (format.borders.top.kind == document::BorderKind::None && format.borders.left.kind == document::BorderKind::None)
+    if (format.borders.left.kind != document::BorderKind::None)
+        return;
+    if (format.borders.top.kind == document::BorderKind::None)
         format.betweenBorder = format.borders.bottom;
+    else if (format.borders.bottom.kind == document::BorderKind::None)
+        format.betweenBorder = format.borders.top;
 }
 
 } // namespace

@@ -117,8 +117,9 @@ std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const 
     const double tidy = tidyMultiple(multiple, limits.multipleTolerance);
     const bool isOnGrid = std::abs(tidy * pitch.natural - pitch.distance) > limits.sameGrid && isEastAsian(paragraph);
     // Another multiple than the usual ones tells that the font's lines are not as high as thought, or that the height
-    // was set.
-    if (isBelievable && !isOnGrid && (pitch.isKnown || tidy != multiple))
+    // was set; one clearly below single spacing always does.
+    const bool isSet = multiple < limits.leastChosen && !isEastAsian(paragraph);
+    if (isBelievable && !isOnGrid && !isSet && (pitch.isKnown || tidy != multiple))
         return LineSpacing{LineSpacingRule::Multiple, tidy, {}};
     return exactSpacing(pitch.distance, limits);
 }

@@ -49,5 +49,14 @@ TEST(FigureAssembler, HangsADrawingAndItsLabelsOnAParagraphOfItsHeight) {
     EXPECT_EQ(room.properties.lineSpacing.height, twipsFromPoints(100));
 }
 
+TEST(FigureAssembler, LetsAPictureReachIntoTheMargins) {
+    DocumentDraft draft = makeDraft(1);
+    draft.blocks.push_back(tests::makePictureBlock({22, 120, 553, 220}));
+    const document::Document document = tests::documentOf(draft);
+    const document::ParagraphProperties& format = tests::paragraphAt(document, 0).properties;
+    EXPECT_EQ(format.indentStart, twipsFromPoints(-50));
+    EXPECT_EQ(format.indentEnd, twipsFromPoints(-30));
+}
+
 } // namespace
 } // namespace orvane::layout

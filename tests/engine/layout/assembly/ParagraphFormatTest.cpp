@@ -40,5 +40,16 @@ TEST(ParagraphFormat, SeesNoEndIndentInWhatIdeographsLeaveFree) {
     EXPECT_NE(formatOfLines(lines(523 - 30), document::Alignment::Justified).indentEnd, Twips(0));
 }
 
+TEST(ParagraphFormat, DrawsTheRulesBetweenEqualParagraphs) {
+    document::Border rule{document::BorderKind::Single, EighthPoints(6), {}, 4};
+    DraftBlock above = tests::makeBlock(tests::makeParagraph({makeLine("a heading", 72, 100)}));
+    above.paragraph()->pieces[0].text.borders.top = rule;
+    EXPECT_EQ(formatOf(*above.paragraph(), {}, {}).betweenBorder, rule) << "the next one may have it too";
+    above.paragraph()->pieces[0].text.borders.bottom = rule;
+    EXPECT_EQ(formatOf(*above.paragraph(), {}, {}).betweenBorder, document::Border()) << "rules on both sides";
+    above.paragraph()->pieces[0].text.borders.top = {};
+    EXPECT_EQ(formatOf(*above.paragraph(), {}, {}).betweenBorder, rule);
+}
+
 } // namespace
 } // namespace orvane::layout

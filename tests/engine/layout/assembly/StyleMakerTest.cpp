@@ -96,7 +96,7 @@ TEST(StyleMaker, LeavesPicturesTheirHeight) {
     draft.blocks.push_back(makeBlock(makeParagraph({makeLine("one two", 72, 100), makeLine("three", 72, 109.7)})));
     draft.blocks.push_back(makePictureBlock({72, 120, 272, 220}));
     const auto document = documentOf(draft);
-    EXPECT_LT(document.styles[0].paragraph.lineSpacing.multiple, 1);
+    EXPECT_EQ(document.styles[0].paragraph.lineSpacing.rule, document::LineSpacingRule::Exact);
     EXPECT_EQ(paragraphAt(document, 1).properties.lineSpacing, document::LineSpacing{})
         << "closer spacing would cut the picture";
 }

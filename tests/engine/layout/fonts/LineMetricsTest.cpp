@@ -37,8 +37,11 @@ TEST(LineMetrics, SetsExactHeightsForFontsThatNothingStandsInFor) {
     EXPECT_EQ(spacing.height, Twips(346));
 }
 
-TEST(LineMetrics, SetsExactHeightsForLinesThatOverlap) {
+TEST(LineMetrics, SetsExactHeightsForLinesCloserThanSingleOnes) {
     EXPECT_EQ(spacingAt(7).rule, LineSpacingRule::Exact);
+    EXPECT_EQ(spacingAt(10).height, Twips(200));
+    EXPECT_EQ(spacingAt(11.9).rule, LineSpacingRule::Multiple) << "the font's lines may be lower than thought";
+    EXPECT_EQ(spacingAt(12, "Noto Sans CJK JP", "日本語の文章").rule, LineSpacingRule::Multiple);
     EXPECT_FALSE(givenAt(4)) << "most of each would be cut off";
 }
 
