@@ -3,6 +3,7 @@
 #include "layout/tables/ColumnPieces.h"
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 
 namespace orvane::layout {
@@ -161,7 +162,21 @@ private:
         });
     }
 
+    /// "12:": what counts the lines of a listing.
+    static bool isLineNumber(const std::string& text) {
+        return text.size() > 1 && text.back() == ':' && std::all_of(text.begin(), text.end() - 1, [](char c) {
+                   return std::isdigit(static_cast<unsigned char>(c)) != 0;
+               });
+    }
+
     bool isCode() const {
+        const double numbered = shareOfRows([&](const PieceRow& row) {
+            const TextPiece& piece = row.pieces.front();
+            return isLineNumber(
+                textOf(pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines()));
+        });
+        if (numbered > m_parameters.labelShare)
+            return true;
         if (m_evidence == AlignedEvidence::Rules)
             return false;
         return m_columns.size() == 2 &&

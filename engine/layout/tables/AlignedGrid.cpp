@@ -1,11 +1,11 @@
 #include "layout/tables/AlignedGrid.h"
 
+#include "layout/tables/CloseNumbers.h"
+#include "layout/tables/GapCutter.h"
 #include "layout/tables/GapTexts.h"
 #include "layout/tables/TightGaps.h"
 
 #include <algorithm>
-#include <cmath>
-#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -47,109 +47,11 @@ Rect boxOf(const AlignedRows& aligned, const RowGroup& group) {
     return box;
 }
 
-/// A bullet right before its text, or the sign of a currency before its amount. Signs that also fill columns of their
-/// own, such as check marks, are none here.
+/// A bullet right before its text. Signs that also fill columns of their own, such as check marks, are none here.
 bool isBulletOf(const TextPiece& piece, const TextPiece& text, const std::vector<Line>& lines,
                 const LayoutParameters& parameters) {
-    if (piece.wordCount() != 1)
-        return false;
-    const std::string sign = textOf(piece, lines);
-    return (isCurrencySign(sign) && isNumeric(text, lines)) ||
-           (isBullet(sign) && text.box.left - piece.box.right <= parameters.gutters.labelGap * piece.fontSize);
-}
-
-/// A gap, and where the texts to the right of it begin if most of them keep one edge.
-struct ColumnStart {
-    ColumnGap gap;
-    std::optional<double> left;
-};
-
-std::vector<ColumnStart> startsOf(const std::vector<ColumnGap>& gaps, const std::vector<PieceRow>& rows,
-                                  const TableParameters::Tables& parameters) {
-    std::vector<std::vector<double>> lefts(gaps.size() + 1);
-    for (const PieceRow& row : rows)
-        for (const TextPiece& piece : row.pieces)
-            lefts[static_cast<std::size_t>(columnsOf(piece, gaps).first)].push_back(piece.box.left);
-    std::vector<ColumnStart> starts;
-    for (std::size_t i = 0; i < gaps.size(); ++i) {
-        std::vector<double>& edges = lefts[i + 1];
-        std::sort(edges.begin(), edges.end());
-        std::size_t most = 0;
-        starts.push_back({gaps[i], std::nullopt});
-        for (std::size_t first = 0, end = 0; first < edges.size(); ++first) {
-            while (end < edges.size() && edges[end] <= edges[first] + parameters.startSnap)
-                ++end;
-            if (end - first > most)
-                starts.back().left = edges[first];
-            most = std::max(most, end - first);
-        }
-        const double least = parameters.keptEdgeShareRuled * static_cast<double>(edges.size());
-        if (most < static_cast<std::size_t>(parameters.minimumRowsParted) || static_cast<double>(most) < least)
-            starts.back().left.reset();
-    }
-    return starts;
-}
-
-/// Whether the space before the word is unlike the blanks of its piece.
-bool isSpacedUnlikeText(const Line& line, const TextPiece& piece, std::size_t index,
-                        const TableParameters::Tables& parameters) {
-    const auto spaceBefore = [&](std::size_t i) {
-        const Rect& before = line.words[i - 1].box;
-        const Rect& after = line.words[i].box;
-        return std::max(after.left - before.right, before.left - after.right);
-    };
-    std::vector<double> blanks;
-    for (std::size_t i = piece.firstWord + 1; i < piece.endWord; ++i)
-        if (i != index)
-            blanks.push_back(spaceBefore(i));
-    if (blanks.empty())
-        return false;
-    const auto middle = blanks.begin() + static_cast<std::ptrdiff_t>(blanks.size() / 2);
-    std::nth_element(blanks.begin(), middle, blanks.end());
-    return std::abs(spaceBefore(index) - *middle) > parameters.blankSlack * line.fontSize;
-}
-
-/// Whether a gap of columns lies between two words of a piece, and the words are such as stand in two cells: numbers,
-/// words with more than a blank between them, or words of which the second begins where its column does.
-bool isCutBetween(const Line& line, const TextPiece& piece, std::size_t index, const ColumnStart& start,
-                  const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
-    const ColumnGap& gap = start.gap;
-    const Rect& before = line.words[index - 1].box;
-    const Rect& after = line.words[index].box;
-    const Rect& left = before.left < after.left ? before : after;
-    const Rect& right = before.left < after.left ? after : before;
-    if (left.right > gap.right || right.left < gap.left)
-        return false;
-    const bool areNumbers = isNumeric(pieceOf(line, piece.line, index - 1, index), lines) &&
-                            isNumeric(pieceOf(line, piece.line, index, index + 1), lines);
-    const bool beginsColumn = start.left && std::abs(right.left - *start.left) <= parameters.startSnap &&
-                              isSpacedUnlikeText(line, piece, index, parameters);
-    return areNumbers || beginsColumn || right.left - left.right > parameters.pieceGap * line.fontSize;
-}
-
-/// Cuts the pieces of a row where gaps lie between their words.
-void cutAtGaps(PieceRow& row, const std::vector<ColumnStart>& starts, const std::vector<Line>& lines,
-               const TableParameters::Tables& parameters) {
-    std::vector<TextPiece> pieces;
-    for (const TextPiece& piece : row.pieces) {
-        const Line& line = lines[piece.line];
-        std::size_t first = piece.firstWord;
-        for (std::size_t i = first + 1; i < piece.endWord; ++i) {
-            const bool isCut = std::any_of(starts.begin(), starts.end(), [&](const ColumnStart& start) {
-                return crosses(piece, start.gap) && isCutBetween(line, piece, i, start, lines, parameters);
-            });
-            if (!isCut)
-                continue;
-            pieces.push_back(pieceOf(line, piece.line, first, i));
-            pieces.back().filledCell = piece.filledCell;
-            first = i;
-        }
-        pieces.push_back(pieceOf(line, piece.line, first, piece.endWord));
-        pieces.back().filledCell = piece.filledCell;
-    }
-    std::sort(pieces.begin(), pieces.end(),
-              [](const TextPiece& a, const TextPiece& b) { return a.box.left < b.box.left; });
-    row.pieces = std::move(pieces);
+    return piece.wordCount() == 1 && isBullet(textOf(piece, lines)) &&
+           text.box.left - piece.box.right <= parameters.gutters.labelGap * piece.fontSize;
 }
 
 /// Whether several rows have texts in both columns beside a gap.
@@ -187,12 +89,12 @@ void addTightGaps(std::vector<ColumnGap>& gaps, const std::vector<ColumnGap>& ti
 std::vector<ColumnGap> findTableColumns(std::vector<PieceRow>& rows, const std::vector<Line>& lines,
                                         const LayoutParameters& parameters) {
     std::vector<ColumnGap> gaps = findColumnGaps(rows, parameters.tables);
-    const std::vector<ColumnStart> starts = startsOf(gaps, rows, parameters.tables);
-    for (PieceRow& row : rows)
-        cutAtGaps(row, starts, lines, parameters.tables);
+    cutAtGaps(rows, gaps, lines, parameters.tables);
     const std::vector<ColumnGap> tight = cutAtTightGaps(rows, lines, parameters.tables);
+    const std::vector<ColumnGap> close = cutAtCloseNumbers(rows, lines, parameters.tables);
     gaps = findColumnGaps(rows, parameters.tables);
     addTightGaps(gaps, tight, rows, parameters.tables);
+    addTightGaps(gaps, close, rows, parameters.tables);
     joinHeadsWithValues(gaps, rows, parameters.tables);
     narrowToTexts(gaps, rows, lines);
     std::vector<int> pieces(gaps.size() + 1);

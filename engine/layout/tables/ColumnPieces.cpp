@@ -88,8 +88,6 @@ double keptShare(const ColumnPieces& column, const std::vector<Line>& lines,
                  const TableParameters::Tables& parameters) {
     std::vector<double> lefts, middles, rights, points;
     for (const TextPiece* piece : column.pieces) {
-        if (isCurrencySign(textOf(*piece, lines)))
-            continue;
         lefts.push_back(piece->box.left);
         middles.push_back(piece->box.centerX());
         rights.push_back(piece->box.right);

@@ -45,8 +45,7 @@ bool isFalling(const ColumnPieces& column, const std::vector<Line>& lines, const
 /// The share of the pieces that have a comma or a point, as amounts do.
 double brokenNumberShare(const ColumnPieces& column, const std::vector<Line>& lines);
 
-/// The largest share of the pieces that keep one edge, or the place of their points. Signs of currency that stand apart
-/// from their amounts do not count. Requires: the column has pieces.
+/// The largest share of the pieces that keep one edge, or the place of their points. Requires: the column has pieces.
 double keptShare(const ColumnPieces& column, const std::vector<Line>& lines, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

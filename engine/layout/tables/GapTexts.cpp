@@ -25,6 +25,8 @@ void narrowToTexts(std::vector<ColumnGap>& gaps, std::span<const PieceRow> rows,
         ColumnGap gap = wide[static_cast<std::size_t>(i)];
         for (const PieceRow& row : rows) {
             for (const TextPiece& piece : row.pieces) {
+                if (piece.box.left >= gap.right && piece.signLeft > gap.left)
+                    gap.right = std::min(gap.right, piece.signLeft);
                 if (row.pieces.size() < 2 || !standsWithin(piece, gap))
                     continue;
                 // No text but a label begins in the column that is read first.

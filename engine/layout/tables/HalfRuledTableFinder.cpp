@@ -2,6 +2,7 @@
 
 #include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/HeadSpans.h"
+#include "layout/tables/OpenBands.h"
 #include "layout/tables/RuleBands.h"
 #include "layout/tables/RuleLabels.h"
 #include "layout/tables/RuledAdmission.h"
@@ -135,6 +136,17 @@ bool beginsAboveTotals(const std::vector<Band>& bands, const BandRun& run) {
     return !first.hasRuleAbove && !first.hasRuleBelow && first.level == 0 && run.end > run.first + 1;
 }
 
+/// Whether two rules stand around the totals of a table that shows its rows by their places only: what is right above
+/// the first rule is no head, but a label and amounts as between the rules.
+bool isTailOfTable(const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run,
+                   const std::vector<Line>& lines) {
+    const Band& above = bands[run.first];
+    const auto hasAmount = [&](const PieceRow& row) { return isLabelWithAmount(row, lines); };
+    return stack.size() == 2 && !above.hasRuleAbove && !above.rows.empty() && run.end > run.first + 1 &&
+           std::all_of(above.rows.begin(), above.rows.end(), hasAmount) &&
+           std::all_of(bands[run.first + 1].rows.begin(), bands[run.first + 1].rows.end(), hasAmount);
+}
+
 /// One past the last band of the run that is no total.
 std::size_t endWithoutTotals(const std::vector<Band>& bands, const BandRun& run) {
     std::size_t end = run.end;
@@ -198,7 +210,8 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
 std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<BorderLine>& rules, const RuleStack& stack,
                                    const std::vector<Band>& bands, const LayoutParameters& parameters, BandRun& run) {
     const TableParameters::Tables& limits = parameters.tables;
-    if (run.end == run.first || frameOf(stack, bands, run) == Frame::None)
+    if (run.end == run.first || isTailOfTable(stack, bands, run, page.lines) ||
+        frameOf(stack, bands, run) == Frame::None)
         return std::nullopt;
     alignRun(bands, page.lines, rules, parameters, run);
     dropNotes(bands, run);

@@ -15,15 +15,15 @@ std::vector<TextPiece>::const_iterator firstBelow(const std::vector<TextPiece>& 
                             [](const TextPiece& piece, double at) { return piece.baseline < at; });
 }
 
-bool isLabelWithAmount(const PieceRow& row, const std::vector<Line>& lines) {
-    return row.pieces.size() > 1 && !isNumeric(row.pieces.front(), lines) && isNumeric(row.pieces.back(), lines);
-}
-
 bool meets(const TextPiece& piece, const RuleLevel& level) {
     return piece.box.right > level.left && piece.box.left < level.right;
 }
 
 } // namespace
+
+bool isLabelWithAmount(const PieceRow& row, const std::vector<Line>& lines) {
+    return row.pieces.size() > 1 && !isNumeric(row.pieces.front(), lines) && isNumeric(row.pieces.back(), lines);
+}
 
 std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
                                 const TableParameters::Tables& parameters) {

@@ -7,6 +7,9 @@
 
 namespace orvane::layout {
 
+/// Whether the row begins with a text and ends with a number, as totals do.
+bool isLabelWithAmount(const PieceRow& row, const std::vector<Line>& lines);
+
 /// The rows of texts side by side that stand right above a rule, between its ends: the head of a table that has no rule
 /// above it. `pieces` are sorted by their baselines.
 std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,

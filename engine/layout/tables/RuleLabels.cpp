@@ -62,10 +62,8 @@ private:
         const std::vector<PieceRow> below = rowsBelow(stack.back(), m_pieces, m_parameters);
         rows.insert(rows.end(), below.begin(), below.end());
         std::erase_if(rows, [&](const PieceRow& row) { return row.pieces.size() < 2; });
-        const auto numbers = std::count_if(rows.begin(), rows.end(), [&](const PieceRow& row) {
-            const TextPiece& first = row.pieces.front();
-            return isNumeric(first, m_lines) || isCurrencySign(textOf(first, m_lines));
-        });
+        const auto numbers = std::count_if(rows.begin(), rows.end(),
+                                           [&](const PieceRow& row) { return isNumeric(row.pieces.front(), m_lines); });
         if (static_cast<double>(numbers) < m_parameters.numberedShare * static_cast<double>(rows.size()))
             rows.clear();
         return rows;

@@ -60,6 +60,7 @@ TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, st
     TextPiece piece{lineIndex, first, end, {}, line.baseline, line.fontSize};
     for (std::size_t i = first; i < end; ++i)
         piece.box = piece.box.united(line.words[i].box);
+    piece.signLeft = piece.box.left;
     return piece;
 }
 
@@ -134,16 +135,41 @@ std::vector<TextPiece> cutLines(const std::vector<Line>& lines, const TableParam
     return pieces;
 }
 
+/// Gives the signs of currency that stand apart to their amounts.
+std::vector<TextPiece> withSigns(std::vector<TextPiece> pieces, const std::vector<Line>& lines,
+                                 const TableParameters::Tables& parameters) {
+    std::vector<TextPiece> signs;
+    for (const TextPiece& piece : pieces)
+        if (piece.wordCount() == 1 && isCurrencySign(textOf(piece, lines)))
+            signs.push_back(piece);
+    for (const TextPiece& sign : signs) {
+        TextPiece* amount = nullptr;
+        for (TextPiece& piece : pieces)
+            if (std::abs(piece.baseline - sign.baseline) <= parameters.sameBaseline &&
+                piece.box.left >= sign.box.right - parameters.touch && (!amount || piece.box.left < amount->box.left))
+                amount = &piece;
+        if (!amount || !isNumeric(*amount, lines))
+            continue;
+        amount->signLeft = sign.box.left;
+        std::erase_if(pieces, [&](const TextPiece& piece) {
+            return piece.line == sign.line && piece.firstWord == sign.firstWord;
+        });
+    }
+    return pieces;
+}
+
 } // namespace
 
 std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
-    return cutLines(lines, parameters, [](const Rect&, const Rect&) { return false; });
+    return withSigns(cutLines(lines, parameters, [](const Rect&, const Rect&) { return false; }), lines, parameters);
 }
 
 std::vector<TextPiece> cutIntoPieces(const PageText& page, const TableParameters::Tables& parameters) {
     const FilledCells cells(page.grounds, parameters);
-    std::vector<TextPiece> pieces = cutLines(
-        page.lines, parameters, [&](const Rect& left, const Rect& right) { return cells.meetBetween(left, right); });
+    std::vector<TextPiece> pieces =
+        withSigns(cutLines(page.lines, parameters,
+                           [&](const Rect& left, const Rect& right) { return cells.meetBetween(left, right); }),
+                  page.lines, parameters);
     for (TextPiece& piece : pieces)
         piece.filledCell = cells.cellAt(piece.box);
     return pieces;

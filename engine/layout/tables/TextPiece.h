@@ -18,6 +18,7 @@ struct TextPiece {
     Rect box;
     double baseline = 0;
     double fontSize = 0;
+    double signLeft = 0; ///< where the sign of its currency begins if that stands apart, else where its box does
     int filledCell = -1; ///< that it stands in, by number; see FilledCells
 
     std::size_t wordCount() const { return endWord - firstWord; }
@@ -32,7 +33,7 @@ struct PieceRow {
     double fontSize = 0;     ///< the largest
 };
 
-/// Cuts upright lines at their wide gaps.
+/// Cuts upright lines at their wide gaps. The sign of a currency before an amount is no piece of its own.
 std::vector<TextPiece> cutIntoPieces(const std::vector<Line>& lines, const TableParameters::Tables& parameters);
 
 /// Cuts the page's upright lines at their wide gaps and where two filled cells meet.
@@ -47,6 +48,21 @@ bool isUpperLineOf(const PieceRow& row, const PieceRow& below, const TableParame
 
 /// Words [first, end) of a line as a piece.
 TextPiece pieceOf(const Line& line, std::size_t lineIndex, std::size_t first, std::size_t end);
+
+/// Cuts a piece before the words of its line for which `isCutBefore` holds.
+template<typename Predicate>
+void cutPiece(const TextPiece& piece, const Line& line, const Predicate& isCutBefore, std::vector<TextPiece>& parts) {
+    std::size_t first = piece.firstWord;
+    for (std::size_t word = first + 1; word <= piece.endWord; ++word) {
+        if (word < piece.endWord && !isCutBefore(word))
+            continue;
+        parts.push_back(pieceOf(line, piece.line, first, word));
+        parts.back().filledCell = piece.filledCell;
+        if (first == piece.firstWord)
+            parts.back().signLeft = piece.signLeft;
+        first = word;
+    }
+}
 
 /// Whether every word of the piece is a number, an amount, a date or stands for none (a dash).
 bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines);

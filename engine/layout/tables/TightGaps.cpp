@@ -18,6 +18,7 @@ struct Start {
     double rightBefore = 0;      ///< and where that ends
     bool isWide = false;         ///< it begins a piece
     bool isBehindNumber = false; ///< of which there is nothing else to its left
+    bool isBehindLabel = false;  ///< the same of the label of an item in a list
 };
 
 double spread(std::vector<double> values) {
@@ -70,24 +71,27 @@ private:
                 continue;
             if (i > 0) {
                 const Rect& before = row.pieces[i - 1].box;
-                m_starts.push_back({rowIndex, piece.box.left, piece.box.right, before.left, before.right, true, false});
+                m_starts.push_back({rowIndex, piece.box.left, piece.box.right, before.left, before.right, true, false,
+                                    isLabel(row.pieces[i - 1])});
             }
             for (std::size_t word = piece.firstWord + 1; word < piece.endWord; ++word) {
                 const TextPiece before = pieceOf(line, piece.line, word - 1, word);
                 // Blanks part the thousands of a number, too.
                 if (isNumeric(before, m_lines) && isNumeric(pieceOf(line, piece.line, word, word + 1), m_lines))
                     continue;
-                const bool isBehindNumber = word == piece.firstWord + 1 && isAmount(before);
+                const bool isFirst = word == piece.firstWord + 1;
                 m_starts.push_back({rowIndex, line.words[word].box.left, piece.box.right, piece.box.left,
-                                    before.box.right, false, isBehindNumber});
+                                    before.box.right, false, isFirst && isNumeric(before, m_lines) && !isLabel(before),
+                                    isFirst && isLabel(before)});
             }
         }
     }
 
-    /// A number that is not that of an item in a list.
-    bool isAmount(const TextPiece& piece) const {
+    /// "1.", "a)", "*".
+    bool isLabel(const TextPiece& piece) const {
         const std::string text = textOf(piece, m_lines);
-        return isNumeric(piece, m_lines) && text.back() != '.' && text.back() != ')';
+        return piece.wordCount() == 1 &&
+               (text.size() == 1 || (text.size() <= 4 && (text.back() == '.' || text.back() == ')')));
     }
 
     /// Whether words that begin at one place begin a column there.
@@ -95,16 +99,18 @@ private:
         std::set<std::size_t> rows;
         std::vector<Start> narrow;
         int wide = 0;
+        std::size_t labels = 0;
         double rightBefore = 0;
         for (const Start& start : starts) {
             rows.insert(start.row);
+            labels += start.isBehindLabel;
             wide += start.isWide;
             if (start.isWide)
                 rightBefore = std::max(rightBefore, start.rightBefore);
             else
                 narrow.push_back(start);
         }
-        if (static_cast<int>(rows.size()) < m_parameters.fewestPartedRows)
+        if (static_cast<int>(rows.size()) < m_parameters.fewestPartedRows || 2 * labels > starts.size())
             return false;
         if (wide < m_parameters.minimumRowsParted)
             return followsColumn(narrow);
@@ -175,19 +181,13 @@ void cutBehind(PieceRow& row, const std::vector<ColumnGap>& gaps, const std::vec
     std::vector<TextPiece> pieces;
     for (const TextPiece& piece : row.pieces) {
         const Line& line = lines[piece.line];
-        std::size_t first = piece.firstWord;
-        for (std::size_t word = first + 1; word <= piece.endWord; ++word) {
-            const bool isCut =
-                word == piece.endWord || std::any_of(gaps.begin(), gaps.end(), [&](const ColumnGap& gap) {
-                    const double offset = line.words[word].box.left - gap.right;
-                    return !line.isRightToLeft && offset >= 0 && offset <= parameters.startSnap;
-                });
-            if (!isCut)
-                continue;
-            pieces.push_back(pieceOf(line, piece.line, first, word));
-            pieces.back().filledCell = piece.filledCell;
-            first = word;
-        }
+        const auto isCutBefore = [&](std::size_t word) {
+            return std::any_of(gaps.begin(), gaps.end(), [&](const ColumnGap& gap) {
+                const double offset = line.words[word].box.left - gap.right;
+                return !line.isRightToLeft && offset >= 0 && offset <= parameters.startSnap;
+            });
+        };
+        cutPiece(piece, line, isCutBefore, pieces);
     }
     row.pieces = std::move(pieces);
 }

@@ -1,0 +1,137 @@
+#include "layout/tables/CloseNumbers.h"
+
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <set>
+
+namespace orvane::layout {
+namespace {
+
+/// Two numbers next to each other in a row.
+struct NumberPair {
+    std::size_t row = 0;
+    double leftEnd = 0;
+    Rect right;
+    bool isThousands = false; ///< the right one begins with three digits
+    bool isNarrow = false;    ///< both are of one piece
+};
+
+bool beginsWithThreeDigits(const std::string& text) {
+    const auto digits = std::find_if_not(text.begin(), text.end(),
+                                         [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; });
+    return digits - text.begin() == 3;
+}
+
+class PairFinder {
+public:
+    PairFinder(const std::vector<PieceRow>& rows, const std::vector<Line>& lines,
+               const TableParameters::Tables& parameters)
+        : m_rows(rows)
+        , m_lines(lines)
+        , m_parameters(parameters) {
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            collectPairs(row);
+        std::sort(m_pairs.begin(), m_pairs.end(),
+                  [](const NumberPair& a, const NumberPair& b) { return a.leftEnd < b.leftEnd; });
+    }
+
+    std::vector<ColumnGap> find() const {
+        std::vector<ColumnGap> gaps;
+        for (auto first = m_pairs.begin(); first != m_pairs.end();) {
+            const auto end = std::find_if(first, m_pairs.end(), [&](const NumberPair& pair) {
+                return pair.leftEnd > first->leftEnd + m_parameters.startSnap;
+            });
+            const auto gap = gapOf({first, end});
+            first = gap ? end : first + 1;
+            if (gap)
+                gaps.push_back(*gap);
+        }
+        return gaps;
+    }
+
+private:
+    void collectPairs(std::size_t row) {
+        std::vector<TextPiece> words;
+        for (const TextPiece& piece : m_rows[row].pieces) {
+            for (std::size_t word = piece.firstWord; word < piece.endWord; ++word)
+                words.push_back(pieceOf(m_lines[piece.line], piece.line, word, word + 1));
+            const std::size_t first = words.size() - piece.wordCount();
+            for (std::size_t i = std::max<std::size_t>(first, 1); i < words.size(); ++i)
+                addPair(row, words[i - 1], words[i], i > first);
+        }
+    }
+
+    void addPair(std::size_t row, const TextPiece& left, const TextPiece& right, bool isNarrow) {
+        if (left.box.right < right.box.left && isNumeric(left, m_lines) && isNumeric(right, m_lines))
+            m_pairs.push_back(
+                {row, left.box.right, right.box, beginsWithThreeDigits(textOf(right, m_lines)), isNarrow});
+    }
+
+    /// The gap behind numbers that end at one place.
+    std::optional<ColumnGap> gapOf(std::span<const NumberPair> pairs) const {
+        std::set<std::size_t> rows;
+        ColumnGap gap{pairs.back().leftEnd, pairs.front().right.left};
+        std::size_t narrow = 0;
+        std::size_t thousands = 0;
+        for (const NumberPair& pair : pairs) {
+            rows.insert(pair.row);
+            gap.right = std::min(gap.right, pair.right.left);
+            narrow += pair.isNarrow;
+            thousands += pair.isThousands;
+        }
+        const bool showsColumns = static_cast<int>(rows.size()) > m_parameters.fewestPartedRows && narrow > 0 &&
+                                  2 * thousands < pairs.size() && gap.width() > 0;
+        return showsColumns && !isCrossed(gap) ? std::optional(gap) : std::nullopt;
+    }
+
+    /// Whether too many rows have a word over the gap.
+    bool isCrossed(const ColumnGap& gap) const {
+        const auto crossed = std::count_if(m_rows.begin(), m_rows.end(), [&](const PieceRow& row) {
+            return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
+                const std::vector<Word>& words = m_lines[piece.line].words;
+                return std::any_of(words.begin() + static_cast<std::ptrdiff_t>(piece.firstWord),
+                                   words.begin() + static_cast<std::ptrdiff_t>(piece.endWord), [&](const Word& word) {
+                                       return word.box.left < gap.left && word.box.right > gap.right;
+                                   });
+            });
+        });
+        return static_cast<double>(crossed) > m_parameters.tightCrossedShare * static_cast<double>(m_rows.size());
+    }
+
+    const std::vector<PieceRow>& m_rows;
+    const std::vector<Line>& m_lines;
+    const TableParameters::Tables& m_parameters;
+    std::vector<NumberPair> m_pairs; ///< by where the left ones end
+};
+
+/// Cuts the pieces of a row between two numbers that stand at both sides of a gap.
+void cutBetweenNumbers(PieceRow& row, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines,
+                       const TableParameters::Tables& parameters) {
+    std::vector<TextPiece> pieces;
+    for (const TextPiece& piece : row.pieces) {
+        const Line& line = lines[piece.line];
+        const auto isCutBefore = [&](std::size_t word) {
+            return std::any_of(gaps.begin(), gaps.end(), [&](const ColumnGap& gap) {
+                const double end = line.words[word - 1].box.right;
+                return end <= gap.left && end >= gap.left - parameters.startSnap &&
+                       line.words[word].box.left >= gap.right;
+            });
+        };
+        cutPiece(piece, line, isCutBefore, pieces);
+    }
+    row.pieces = std::move(pieces);
+}
+
+} // namespace
+
+std::vector<ColumnGap> cutAtCloseNumbers(std::vector<PieceRow>& rows, const std::vector<Line>& lines,
+                                         const TableParameters::Tables& parameters) {
+    const std::vector<ColumnGap> gaps = PairFinder(rows, lines, parameters).find();
+    for (PieceRow& row : rows)
+        if (!gaps.empty())
+            cutBetweenNumbers(row, gaps, lines, parameters);
+    return gaps;
+}
+
+} // namespace orvane::layout
