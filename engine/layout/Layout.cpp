@@ -6,6 +6,7 @@
 #include "layout/assembly/DocumentAssembler.h"
 #include "layout/assembly/PlainTextDocument.h"
 #include "layout/graphics/PageColor.h"
+#include "layout/graphics/ScannedPages.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
@@ -77,6 +78,9 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     if (request.mode == LayoutMode::TruePage)
         return truePageDocument(std::move(pages), facts, request, parameters, observer, diagnostics);
     const std::optional<Color> pageColor = takePageColor(pages, parameters.pageColor);
+    if (request.mode == LayoutMode::Flowing)
+        for (PageText& page : pages)
+            partTextFromScan(page, parameters, diagnostics);
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);
     FoundNotes notes = takeNotes(pages, context, parameters);

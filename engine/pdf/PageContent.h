@@ -109,6 +109,7 @@ struct Picture {
     int pixelWidth = 0;
     int pixelHeight = 0;
     bool isStencil = false;      ///< an image mask painted in one colour
+    bool isOpaque = false;       ///< nothing of what was painted below it shows through
     double opacity = 1;
     int objectNumber = 0;        ///< 0 for an inline picture
     Visibility visibility = Visibility::Visible;

@@ -7,6 +7,14 @@
 #include <GfxState.h>
 
 namespace orvane::pdf {
+namespace {
+
+/// Every sample of it is painted.
+bool isSolid(const PictureSource& source) {
+    return source.colors && !source.mask && !source.colorKey && source.opacityChannel == OpacityChannel::None;
+}
+
+} // namespace
 
 PictureCache::Entry PictureCache::read(const PictureSource& source, int objectNumber, PictureStore& store) {
     const Key key{&store, objectNumber, source.stencilColor};
@@ -38,6 +46,7 @@ void PictureReader::read(const GfxState& state, const PictureSource& source, int
     picture.visibility = visibilityOf(picture.box, picture.clip, m_page);
     picture.isStencil = source.colors == nullptr;
     picture.opacity = state.getFillOpacity();
+    picture.isOpaque = isSolid(source) && picture.opacity >= 1 && state.getBlendMode() == gfxBlendNormal;
     picture.objectNumber = objectNumber;
     picture.mark = mark;
     picture.paintOrder = paintOrder;

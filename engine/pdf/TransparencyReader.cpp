@@ -41,8 +41,10 @@ void TransparencyReader::paintGroup(double opacity) {
     }
     // A mask fades a part of a picture or of the text, seldom all of it: only the group's own opacity tells how they
     // look.
-    for (std::size_t i = m_ended.firstPicture; i < m_page.pictures.size(); ++i)
+    for (std::size_t i = m_ended.firstPicture; i < m_page.pictures.size(); ++i) {
         m_page.pictures[i].opacity *= opacity;
+        m_page.pictures[i].isOpaque &= opacity >= 1;
+    }
     for (std::size_t i = m_ended.firstGlyph; i < m_page.glyphs.size(); ++i)
         m_page.glyphs[i].color = onWhite(m_page.glyphs[i].color, opacity);
 }
@@ -80,6 +82,7 @@ void TransparencyReader::coverLastPath() {
 }
 
 void TransparencyReader::noteMasked(std::size_t picture) {
+    m_page.pictures[picture].isOpaque = false;
     if (!isInMask() && (m_maskedPictures.empty() || m_maskedPictures.back() < picture))
         m_maskedPictures.push_back(picture);
 }

@@ -49,6 +49,12 @@ struct GraphicsParameters {
         double shapesACrossing = 4;   ///< shapes for each crossing of the lines between them; tables cross more often
     } drawings;
 
+    /// ScannedPages: pictures of pages whose text was recognised.
+    struct Scans {
+        std::size_t fewestWords = 8; ///< of a page that has been read; fewer are words in a picture
+        double textShare = 0.05;     ///< of a picture under the words; pictures with as much are pictures of text
+    } scans;
+
     /// ShapeMaker: drawings as shapes.
     struct Shapes {
         std::size_t mostShapes = 150;    ///< of a drawing that somebody would take apart

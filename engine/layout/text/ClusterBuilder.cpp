@@ -26,7 +26,8 @@ Look lookOf(const pdf::Font& font, const pdf::Glyph& glyph, const SelectedGlyph&
     Look look;
     look.font = glyph.font;
     look.size = roundedTo(glyph.fontSize, limits.sizeStep);
-    look.color = glyph.color;
+    // Hidden text has whatever colour came to hand.
+    look.color = selected.isRecognised ? kBlack : glyph.color;
     look.isBold = font.isBold || font.weight >= limits.boldWeight || selected.isBold;
     look.isItalic = font.isItalic;
     look.isOutlined = glyph.isOutlined;

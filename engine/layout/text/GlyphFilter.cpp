@@ -76,11 +76,36 @@ CoverageGrid coverByPictures(const pdf::PageContent& page, const TextParameters:
     return grid;
 }
 
-CoverageGrid coverByVisibleText(const pdf::PageContent& page, const TextParameters::Glyphs& limits) {
+Point middleOf(const pdf::Glyph& glyph) {
+    return {glyph.box.centerX(), glyph.box.centerY()};
+}
+
+/// For each glyph whether it can be seen: painted visibly, and by no picture painted over.
+std::vector<bool> findSeen(const pdf::PageContent& page, const TextParameters::Glyphs& limits) {
+    std::vector<const pdf::Picture*> opaque;
+    for (const pdf::Picture& picture : page.pictures)
+        if (picture.isOpaque && picture.visibility == Visibility::Visible)
+            opaque.push_back(&picture);
+    std::stable_sort(opaque.begin(), opaque.end(),
+                     [](const pdf::Picture* a, const pdf::Picture* b) { return a->paintOrder < b->paintOrder; });
+    // From the top of the page's paint downwards, so that only pictures above a glyph are there when it comes.
+    CoverageGrid above(page.width, page.height, limits.coverCell);
+    std::vector<bool> isSeen(page.glyphs.size());
+    for (std::size_t i = page.glyphs.size(); i-- > 0;) {
+        const pdf::Glyph& glyph = page.glyphs[i];
+        for (; !opaque.empty() && opaque.back()->paintOrder > glyph.paintOrder; opaque.pop_back())
+            above.cover(opaque.back()->box.intersected(opaque.back()->clip));
+        isSeen[i] = glyph.visibility == Visibility::Visible && !above.isCovered(middleOf(glyph));
+    }
+    return isSeen;
+}
+
+CoverageGrid coverByVisibleText(const pdf::PageContent& page, const std::vector<bool>& isSeen,
+                                const TextParameters::Glyphs& limits) {
     CoverageGrid grid(page.width, page.height, limits.coverCell);
-    for (const pdf::Glyph& glyph : page.glyphs)
-        if (glyph.visibility == Visibility::Visible)
-            grid.cover(glyph.box);
+    for (std::size_t i = 0; i < page.glyphs.size(); ++i)
+        if (isSeen[i])
+            grid.cover(page.glyphs[i].box);
     return grid;
 }
 
@@ -109,19 +134,21 @@ bool isWorthReading(const pdf::Glyph& glyph, const TextParameters::Glyphs& limit
 GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& parameters, Diagnostics&) {
     const TextParameters::Glyphs& limits = parameters.glyphs;
     const CoverageGrid pictures = coverByPictures(page, limits);
-    const CoverageGrid visibleText = coverByVisibleText(page, limits);
+    const std::vector<bool> isSeen = findSeen(page, limits);
+    const CoverageGrid visibleText = coverByVisibleText(page, isSeen, limits);
 
     GlyphSelection selection;
     DuplicateFinder duplicates(limits);
-    bool isTextVisible = false;
+    std::size_t seen = 0, recognised = 0;
     for (std::uint32_t i = 0; i < page.glyphs.size(); ++i) {
         const pdf::Glyph& glyph = page.glyphs[i];
-        const Point middle{glyph.box.centerX(), glyph.box.centerY()};
-        const bool isRecognised =
-            glyph.visibility == Visibility::Invisible && pictures.isCovered(middle) && !visibleText.isCovered(middle);
+        const Point middle = middleOf(glyph);
+        const bool isHidden =
+            glyph.visibility == Visibility::Invisible || (glyph.visibility == Visibility::Visible && !isSeen[i]);
+        const bool isRecognised = isHidden && pictures.isCovered(middle) && !visibleText.isCovered(middle);
         if ((glyph.visibility != Visibility::Visible && !isRecognised) || !isWorthReading(glyph, limits))
             continue;
-        isTextVisible |= !isRecognised;
+        ++(isRecognised ? recognised : seen);
         const int earlier = duplicates.find(page, selection.glyphs, glyph);
         if (earlier >= 0) {
             mergeDuplicate(page, selection.glyphs[static_cast<std::size_t>(earlier)], i, limits);
@@ -130,8 +157,10 @@ GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& 
         duplicates.add(glyph, selection.glyphs.size());
         selection.glyphs.push_back({i, isRecognised, glyph.isFakeBold});
     }
-    selection.isScanned =
-        !isTextVisible && pictures.coveredShare({0, 0, page.width, page.height}) >= limits.scannedPageShare;
+    // A stamp or a line about where the scan comes from is written on many.
+    const bool isTextHidden = static_cast<double>(seen) <= limits.stampShare * static_cast<double>(recognised);
+    const bool isCovered = pictures.coveredShare({0, 0, page.width, page.height}) >= limits.scannedPageShare;
+    selection.isScanned = isTextHidden && (recognised > 0 || isCovered);
     return selection;
 }
 

@@ -12,18 +12,19 @@ namespace orvane::layout {
 /// A glyph that takes part in the text.
 struct SelectedGlyph {
     std::uint32_t index = 0;   ///< into pdf::PageContent::glyphs
-    bool isRecognised = false; ///< invisible text behind a scanned picture
+    bool isRecognised = false; ///< text behind a scanned picture, where nobody sees it
     bool isBold = false; ///< made bold by painting: stroked as well as filled, or painted twice with a small offset
 };
 
 /// The glyphs a reader sees, each once, in paint order.
 struct GlyphSelection {
     std::vector<SelectedGlyph> glyphs;
-    bool isScanned = false; ///< pictures cover the page and no text is visible
+    bool isScanned = false; ///< pictures cover the page or its text, of which (nearly) nothing is visible
 };
 
 /// Chooses what takes part in the text: visible glyphs, and invisible ones where a picture covers them and nothing
-/// visible was written in their place. Glyphs painted again at nearly the same place (shadows, bold by painting) count
+/// visible was written in their place. Programs that recognise text paint it invisibly, or before the picture that
+/// then hides it. Glyphs painted again at nearly the same place (shadows, bold by painting) count
 /// once.
 GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& parameters, Diagnostics& diagnostics);
 

@@ -28,7 +28,7 @@ struct Look {
     bool isStruck = false;
     bool isSmallCaps = false;
     bool isOutlined = false;
-    bool isInvisible = false; ///< recognised text behind a scanned picture
+    bool isInvisible = false; ///< recognised text behind a scanned picture, that nobody sees
     double horizontalScale = 1;
     double characterSpacing = 0; ///< points beyond the font's own advances, averaged over the span
     int link = -1;               ///< index into PageText::links
@@ -140,7 +140,7 @@ struct PageText {
     std::vector<pdf::Annotation> annotations;
     std::vector<pdf::FormField> fields;
     std::vector<pdf::Mark> marks;
-    bool isScanned = false; ///< one picture covers the page and all text behind it is invisible
+    bool isScanned = false; ///< pictures cover the page or its text, of which (nearly) nothing is visible
 };
 
 } // namespace orvane::layout

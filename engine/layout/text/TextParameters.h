@@ -17,6 +17,7 @@ struct TextParameters {
         double fakeBoldDistance = 0.07; ///< of the font size; an offset up to this thickens the strokes
         double coverCell = 4;           ///< points; grain at which pictures and visible text are told to cover others
         double scannedPageShare = 0.8;  ///< of the page; pictures that cover as much are a scan
+        double stampShare = 0.2; ///< of the recognised characters; as many may be visible on a scan, stamped on it
     } glyphs;
 
     /// FrameFinder: directions of writing.

@@ -134,6 +134,23 @@ TEST(Pictures, PaintAStencilInTheFillColour) {
     EXPECT_EQ(pixels.at(1, 0), "FF000000");
 }
 
+TEST(Pictures, AreOpaqueWhereNothingShowsThrough) {
+    PdfBuilder builder;
+    const int soft = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8), "\x80");
+    const int plain = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8), "\x40");
+    const int faded = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8) + " /SMask " + pdfRef(soft), "\x40");
+    const int keyed = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8) + " /Mask [0 9]", "\x40");
+    const int stencil = builder.addStream(
+        "/Type /XObject /Subtype /Image /ImageMask true /Width 1 /Height 1 /BitsPerComponent 1", "\x40");
+    builder.page(pageWith(plain)).page(pageWith(faded)).page(pageWith(keyed)).page(pageWith(stencil));
+    PdfPage multiplied = pageWith(plain, "/Multiply gs");
+    multiplied.resources += " /ExtGState << /Multiply << /BM /Multiply >> >>";
+    OpenedPdf pdf(builder.page(multiplied));
+    EXPECT_TRUE(pdf.page(1).pictures.at(0).isOpaque);
+    for (int page = 2; page <= 5; ++page)
+        EXPECT_FALSE(pdf.page(page).pictures.at(0).isOpaque) << "page " << page;
+}
+
 TEST(Pictures, AreFoundInlineAndInForms) {
     PdfBuilder builder;
     const int image = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8), "\x20");

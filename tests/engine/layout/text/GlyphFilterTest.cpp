@@ -33,6 +33,38 @@ TEST(GlyphFilter, TakesTheRecognisedTextOfAScannedPage) {
     EXPECT_TRUE(text.isScanned);
 }
 
+TEST(GlyphFilter, TakesTextUnderALaterPictureAsRecognised) {
+    PageContentBuilder page;
+    page.text(72, 100, "recognised words", 10, {.color = {255, 255, 255}});
+    page.picture({0, 0, 595, 842}).isOpaque = true;
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_TRUE(text.lines[0].words[0].spans[0].look.isInvisible);
+    EXPECT_EQ(text.lines[0].words[0].spans[0].look.color, kBlack) << "nobody has seen its colour";
+    EXPECT_TRUE(text.isScanned);
+}
+
+TEST(GlyphFilter, TakesTextOverAPictureOrUnderAVeilAsSeen) {
+    PageContentBuilder over;
+    over.picture({0, 0, 595, 842}).isOpaque = true;
+    over.text(72, 100, "on a photograph", 10);
+    EXPECT_FALSE(read(over).isScanned);
+
+    PageContentBuilder under;
+    under.text(72, 100, "under a watermark", 10);
+    under.picture({0, 0, 595, 842}).isOpaque = false;
+    EXPECT_FALSE(read(under).isScanned);
+}
+
+TEST(GlyphFilter, TakesAStampedScanAsScanned) {
+    PageContentBuilder page;
+    page.picture({0, 0, 595, 842});
+    for (int line = 0; line < 10; ++line)
+        page.text(72, 100 + 14 * line, "a line of recognised words", 10, {.visibility = Visibility::Invisible});
+    page.text(72, 800, "Received 3 May", 10);
+    EXPECT_TRUE(read(page).isScanned);
+}
+
 TEST(GlyphFilter, TakesTextOnceWhereItIsVisibleAsWell) {
     PageContentBuilder page;
     page.picture({0, 0, 595, 842});
