@@ -11,14 +11,22 @@ namespace {
 
 constexpr double kBoldSerifStem = 0.105; ///< em; Times has 0.08 and 0.14, Computer Modern 0.066 and 0.114
 constexpr double kBoldSansStem = 0.125;  ///< em; Helvetica has 0.084 and 0.14
+constexpr double kPlainShare = 0.8;      ///< of these; thinner stems are of no bold face
 constexpr double kItalicSlant = 0.09;    ///< a lean of five degrees
 constexpr int kBoldWeight = 700;
+constexpr int kPlainWeight = 400;
 
 void takeForm(Font& font, const LetterForm& form) {
+    const double boldStem = form.hasSerifs ? kBoldSerifStem : kBoldSansStem;
     font.isSerif = form.hasSerifs;
+    // Some writers flag every face as bold; the name of a bold one would say so.
+    if (font.isBold && !styleFromFontName(font.name).weight && form.stem > 0 && form.stem < kPlainShare * boldStem) {
+        font.isBold = false;
+        font.weight = kPlainWeight;
+    }
     if (!isMadeUpFontName(font.name))
         return;
-    if (!font.isBold && form.stem >= (form.hasSerifs ? kBoldSerifStem : kBoldSansStem)) {
+    if (!font.isBold && form.stem >= boldStem) {
         font.isBold = true;
         font.weight = kBoldWeight;
     }

@@ -13,8 +13,9 @@ class XRef;
 
 namespace orvane::pdf {
 
-/// Tells from the letters of an embedded font what its flags often get wrong or leave out: whether they have serifs;
-/// and where its name is made up, whether they are bold or slanted. What was seen is kept for the next page.
+/// Tells from the letters of an embedded font what its flags often get wrong or leave out: whether they have serifs,
+/// whether what is flagged as bold without being named so is; and where its name is made up, whether they are bold or
+/// slanted. What was seen is kept for the next page.
 class FaceLook {
 public:
     explicit FaceLook(XRef& xref)

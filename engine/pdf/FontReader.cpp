@@ -187,7 +187,15 @@ constexpr std::array<int, 26> kCapitalWidths{722, 667, 667, 722, 611, 556, 722, 
                                              722, 722, 556, 722, 667, 556, 611, 722, 722, 944, 722, 722, 611};
 constexpr int kDigitWidth = 500;
 
+/// Ideographs, kana and syllables of Hangul are as wide as the em, or nearly.
+bool isFullWidth(unsigned character) {
+    return (character >= 0x3041 && character <= 0x30FF) || (character >= 0x4E00 && character <= 0x9FFF) ||
+           (character >= 0xAC00 && character <= 0xD7A3);
+}
+
 int usualWidthOf(unsigned character) {
+    if (isFullWidth(character))
+        return static_cast<int>(kGlyphSpace);
     if (character >= 'a' && character <= 'z')
         return kSmallWidths[character - 'a'];
     if (character >= 'A' && character <= 'Z')

@@ -62,6 +62,13 @@ TEST(FaceLook, TellsBoldFacesOfMadeUpNamesByTheirStems) {
     EXPECT_FALSE(fontDrawnAs({140, 0, 0}, "Somebody", kNoFlags).isBold) << "a name that could have said so";
 }
 
+TEST(FaceLook, DoubtsTheFlagForBoldOfThinLetters) {
+    constexpr int kForcedBold = 262144 + 32;
+    EXPECT_FALSE(fontDrawnAs({85, 0, 0}, "Somebody", kForcedBold).isBold);
+    EXPECT_TRUE(fontDrawnAs({140, 0, 0}, "Somebody", kForcedBold).isBold);
+    EXPECT_TRUE(fontDrawnAs({85, 0, 0}, "Somebody-Bold", kForcedBold).isBold) << "the name says so";
+}
+
 TEST(FaceLook, TellsSlantedFacesOfMadeUpNames) {
     EXPECT_FALSE(fontDrawnAs({85, 0, 0}, "F7", kNoFlags).isItalic);
     EXPECT_TRUE(fontDrawnAs({85, 0, 150}, "F7", kNoFlags).isItalic);

@@ -142,5 +142,21 @@ TEST(Glyphs, OfType3FontsHaveTheSizeTheirLettersShow) {
     EXPECT_TRUE(page.paths.empty()) << "letters are text, not drawings";
 }
 
+TEST(Glyphs, OfType3FontsWithEastAsianLettersAreAsWideAsTheEm) {
+    PdfBuilder builder;
+    const int glyph = builder.addStream("", "83 0 0 0 83 83 d1 0 0 83 83 re f");
+    const int font =
+        builder.add("<< /Type /Font /Subtype /Type3 /FontBBox [0 0 83 600] /FontMatrix [0.012 0 0 0.012 0 0] "
+                    "/CharProcs << /uniAC00 " +
+                    tests::pdfRef(glyph) +
+                    " >> /Encoding << /Differences [97 /uniAC00] >> /FirstChar 97 /LastChar 97 /Widths [83] >>");
+    OpenedPdf pdf(builder.page(
+        tests::PdfPage{"BT /E1 10 Tf 100 700 Td (aa) Tj ET", 612, 792, {}, {}, "/E1 " + tests::pdfRef(font)}));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.glyphs.size(), 2u);
+    EXPECT_EQ(textOf(page), "\uAC00\uAC00");
+    EXPECT_NEAR(page.glyphs[0].fontSize, 10, 0.1);
+}
+
 } // namespace
 } // namespace orvane::pdf
