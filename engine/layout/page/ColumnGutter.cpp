@@ -12,6 +12,7 @@ struct Piece {
     Rect box;
     double fontSize = 0;
     bool isWall = false;
+    bool isLabel = false; ///< ends with a colon
 };
 
 /// An empty rectangle that reaches down as far as has been read.
@@ -27,6 +28,11 @@ double medianFontSize(std::span<const Line> lines) {
         sizes.push_back(line.fontSize);
     std::nth_element(sizes.begin(), sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2), sizes.end());
     return sizes[sizes.size() / 2];
+}
+
+bool endsWithColon(const Word& word) {
+    const std::string& text = word.spans.back().text;
+    return text.ends_with(':') || text.ends_with("\xEF\xBC\x9A"); // the full-width one
 }
 
 /// Cuts lines at gaps wide enough for a gutter.
@@ -45,6 +51,7 @@ std::vector<Piece> cutIntoPieces(std::span<const Line> lines, std::span<const Re
                 pieces.push_back({word->box, line.fontSize, false});
             else
                 pieces.back().box = pieces.back().box.united(word->box);
+            pieces.back().isLabel = !word->spans.empty() && endsWithColon(*word);
         }
     }
     std::sort(pieces.begin(), pieces.end(), [](const Piece& a, const Piece& b) { return a.box.top < b.box.top; });
@@ -136,18 +143,36 @@ struct Side {
     }
 };
 
+/// Names with their values beside them, "Date:  3 May", are read along the rows: most pieces of the left side end with
+/// a colon and have a piece on the right at their height.
+bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
+    std::size_t labels = 0;
+    auto beside = right.begin();
+    for (const Piece& piece : left) {
+        const double middle = piece.box.centerY();
+        while (beside != right.end() && beside->box.bottom < middle)
+            ++beside;
+        labels += piece.isLabel && beside != right.end() && beside->box.top <= middle;
+    }
+    return 2 * labels > left.size();
+}
+
 /// Cuts the strip to where both sides have text, and counts it. False when it parts no columns.
 bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fontSize,
                  const PageParameters::Regions& parameters) {
     Side left;
     Side right;
+    std::vector<Piece> leftPieces, rightPieces;
     for (const Piece& piece : pieces) {
         if (piece.isWall || piece.box.bottom <= gutter.top || piece.box.top >= gutter.bottom)
             continue;
-        if (piece.box.right <= gutter.left + 0.01)
+        if (piece.box.right <= gutter.left + 0.01) {
             left.add(piece, gutter.left - piece.box.left);
-        else if (piece.box.left >= gutter.right - 0.01)
+            leftPieces.push_back(piece);
+        } else if (piece.box.left >= gutter.right - 0.01) {
             right.add(piece, piece.box.right - gutter.right);
+            rightPieces.push_back(piece);
+        }
     }
     gutter.rows = std::min(left.rows, right.rows);
     if (gutter.rows == 0)
@@ -157,7 +182,7 @@ bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fon
     const bool isNarrow = gutter.right - gutter.left < parameters.wideGutter * fontSize;
     const int least = isNarrow ? parameters.minimumRowsNarrow : parameters.minimumRows;
     return gutter.rows >= least && gutter.bottom > gutter.top && left.isColumn(fontSize, parameters) &&
-           right.isColumn(fontSize, parameters);
+           right.isColumn(fontSize, parameters) && !areLabels(leftPieces, rightPieces);
 }
 
 } // namespace

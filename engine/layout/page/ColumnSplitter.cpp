@@ -1,6 +1,7 @@
 #include "layout/page/ColumnSplitter.h"
 
 #include "layout/page/ColumnGutter.h"
+#include "layout/page/GutterReach.h"
 #include "layout/page/RowJoiner.h"
 #include "layout/text/LineText.h"
 
@@ -27,26 +28,6 @@ std::optional<std::pair<Line, Line>> cutLine(const Line& line, double x) {
         measureAnew(*half);
     }
     return halves;
-}
-
-/// Lines of one side that follow on the gutter's first or last row without a break belong to its columns, though
-/// nothing stands beside them: a column may start higher or end lower than its neighbour.
-void extendOverNeighbours(ColumnGutter& gutter, std::span<const Line> lines, double columnStep) {
-    const auto isBesideGutter = [&](const Line& line) {
-        return line.box.right <= gutter.left + 0.01 || line.box.left >= gutter.right - 0.01;
-    };
-    for (const Line& line : lines)
-        if (line.box.centerY() > gutter.bottom) {
-            if (!isBesideGutter(line) || line.box.top - gutter.bottom > columnStep * line.fontSize)
-                break;
-            gutter.bottom = std::max(gutter.bottom, line.box.bottom);
-        }
-    for (auto line = lines.rbegin(); line != lines.rend(); ++line)
-        if (line->box.centerY() < gutter.top) {
-            if (!isBesideGutter(*line) || gutter.top - line->box.bottom > columnStep * line->fontSize)
-                break;
-            gutter.top = std::min(gutter.top, line->box.top);
-        }
 }
 
 /// Adds a part; one of the same kind as its parent gives its children instead: three columns are found as two, one of
@@ -115,21 +96,24 @@ public:
             gutter = findColumnGutter(lines, m_walls, m_parameters.regions);
         if (!gutter)
             return leaf(std::move(lines));
-        extendOverNeighbours(*gutter, lines, m_parameters.regions.columnStep);
+        extendOverNeighbours(*gutter, lines, m_parameters.regions);
         Pieces pieces = sortLines(lines, *gutter);
         // Words of uneven height may weigh for a gutter that their lines lie beside.
         if (pieces.left.empty() || pieces.right.empty())
             return leaf(std::move(lines));
+        std::optional<PagePart> heads = takeHeads(*gutter, pieces, lines, depth);
         PagePart columns = splitSides(pieces, depth);
-        if (narrowToColumnsWithin(*gutter, columns, lines)) {
+        if (!heads && narrowToColumnsWithin(*gutter, columns, lines)) {
             pieces = sortLines(lines, *gutter);
             columns = splitSides(pieces, depth);
         }
-        if (pieces.above.empty() && pieces.below.empty())
+        if (pieces.above.empty() && pieces.below.empty() && !heads)
             return columns;
         PagePart slices{Kind::Slices, {}, {}};
         if (!pieces.above.empty())
             addPart(slices, split(std::move(pieces.above), depth + 1));
+        if (heads)
+            addPart(slices, std::move(*heads));
         addPart(slices, std::move(columns));
         if (!pieces.below.empty())
             addPart(slices, split(std::move(pieces.below), depth + 1));
@@ -146,6 +130,21 @@ private:
         addPart(columns, split(pieces.left, depth + 1));
         addPart(columns, split(pieces.right, depth + 1));
         return columns;
+    }
+
+    /// Takes the blocks that stand centred over the columns off these; they are columns of their own.
+    std::optional<PagePart> takeHeads(ColumnGutter& gutter, Pieces& pieces, const std::vector<Line>& lines,
+                                      int depth) const {
+        const std::optional<double> end = findEndOfHeads(gutter, lines, m_parameters.regions);
+        if (!end)
+            return std::nullopt;
+        ColumnGutter headGutter = gutter;
+        headGutter.bottom = *end;
+        gutter.top = *end;
+        Pieces heads = sortLines(lines, headGutter);
+        pieces = sortLines(lines, gutter);
+        pieces.above = std::move(heads.above);
+        return splitSides(heads, depth);
     }
 
     /// A title over two of three columns leaves a gutter beside it; the columns are three from where all of them begin.

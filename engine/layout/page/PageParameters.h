@@ -9,14 +9,16 @@ namespace orvane::layout {
 struct PageParameters {
     /// ColumnGutter, RegionFinder: where columns are.
     struct Regions {
-        double narrowGutter = 0.7; ///< of the font size; narrower gaps never part columns
-        double wideGutter = 1.5;   ///< of the font size; from here on few rows are enough to believe in it
-        int minimumRows = 3;       ///< rows on each side of a wide gutter
-        int minimumRowsNarrow = 6; ///< rows on each side of a narrow one: blanks of justified lines meet by chance
-        double minimumColumn = 8;  ///< of the font size; narrower columns are labels, not prose
-        double minimumFill = 0.55; ///< share of the column that its rows cover; less is labels and values, not prose
-        double columnStep = 1.0;   ///< of the font size; a line farther from its column's rows is not of the column
-        double sliceBlank = 1.0;   ///< of the font size; where less is blank across the page, columns run on
+        double narrowGutter = 0.7;    ///< of the font size; narrower gaps never part columns
+        double wideGutter = 1.5;      ///< of the font size; from here on few rows are enough to believe in it
+        int minimumRows = 3;          ///< rows on each side of a wide gutter
+        int minimumRowsNarrow = 6;    ///< rows on each side of a narrow one: blanks of justified lines meet by chance
+        double minimumColumn = 8;     ///< of the font size; narrower columns are labels, not prose
+        double minimumFill = 0.55;    ///< share of the column that its rows cover; less is labels and values, not prose
+        double columnStep = 1.0;      ///< of the font size; a line farther from its column's rows is not of the column
+        double paragraphStep = 2.5;   ///< of the font size; the same for lines that fill the column
+        double paragraphIndent = 2.5; ///< of the font size; the first line of a paragraph may begin so far in
+        double sliceBlank = 1.0;      ///< of the font size; where less is blank across the page, columns run on
         std::size_t minimumEdgeLines = 10; ///< with fewer lines in a column each may be as wide as it
         double edgeShare =
             0.04; ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...

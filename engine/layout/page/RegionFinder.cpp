@@ -108,8 +108,8 @@ PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, co
                         const LayoutParameters& parameters) {
     if (lines.empty())
         return {};
-    std::stable_sort(lines.begin(), lines.end(),
-                     [](const Line& a, const Line& b) { return a.box.centerY() < b.box.centerY(); });
+    // By what is written on, not by the box, which a single large letter makes higher.
+    std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
     return Flattener(context, parameters.regions).run(splitIntoColumns(std::move(lines), walls, parameters));
 }
 

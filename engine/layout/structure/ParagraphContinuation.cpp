@@ -54,6 +54,9 @@ bool runsOn(const PlacedParagraph& last, const PlacedParagraph& next, const Para
     const bool startsIndented = after.startGap > last.paragraph.indentStart + limits.edgeTolerance * size;
     if (startsIndented && last.paragraph.alignment != Alignment::Center)
         return false;
+    // Centred lines are names, addresses and titles as often as text.
+    if (last.paragraph.alignment == Alignment::Center && !sentenceGoesOn(before, after) && !before.endsWithHyphen)
+        return false;
     // A sentence that has not come to its end does not end its paragraph. A full last line of a finished sentence
     // before a capital may be either; without a sign of going on it is an end.
     return after.startsLowerCase || before.endsWithHyphen || !before.endsSentence ||

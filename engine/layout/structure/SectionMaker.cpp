@@ -149,9 +149,15 @@ private:
         return true;
     }
 
+    /// Columns under columns, which are read after these.
+    bool beginsOtherColumns(const DraftBlock& before, const DraftBlock& block) const {
+        return before.page == block.page && before.band != block.band && columnsOf(block).size() > 1;
+    }
+
     std::size_t endOfColumns(std::size_t from, std::size_t last) const {
         std::size_t to = from;
-        while (to < last && hasSameColumns(m_draft.blocks[from], m_draft.blocks[to]))
+        while (to < last && hasSameColumns(m_draft.blocks[from], m_draft.blocks[to]) &&
+               (to == from || !beginsOtherColumns(m_draft.blocks[to - 1], m_draft.blocks[to])))
             ++to;
         return std::max(to, std::min(from + 1, last));
     }

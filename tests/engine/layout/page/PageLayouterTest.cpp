@@ -87,6 +87,13 @@ TEST(PageLayouter, ReadsColumnsOneAfterTheOther) {
         EXPECT_EQ(describe(layoutArt(row.art)), row.expected) << row.why;
 }
 
+TEST(PageLayouter, ReadsLabelsWithTheirValues) {
+    const std::string text =
+        describe(layoutArt({"Day of the offer:    Monday, 25 Sept. 2023", "End of the offer:    Tuesday, 26 Sept. 2023",
+                            "Day of payment:      Thursday, 28 Sept. 23", "Place of payment:    at the central bank"}));
+    EXPECT_EQ(text.find('|'), std::string::npos) << text;
+}
+
 TEST(PageLayouter, CutsLinesThatLeadAcrossAGutter) {
     PageText page = makePage(1);
     for (int i = 0; i < 8; ++i)

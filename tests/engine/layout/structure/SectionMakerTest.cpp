@@ -412,6 +412,46 @@ TEST(SectionMaker, KeepsFootersOfOddAndEvenPagesAtTheirHeights) {
     EXPECT_EQ(propertiesOf(section.header.evenPages).spaceBefore.value, 0);
 }
 
+/// One page of two bands of columns, one above the other; lines at these baselines in each column. The upper band ends
+/// with its longest column.
+DocumentDraft draftOfColumns(const std::vector<std::vector<double>>& upper,
+                             const std::vector<std::vector<double>>& lower) {
+    DocumentDraft draft = makeDraft(1);
+    const double bottom = std::max(upper[0].back(), upper[1].back()) + 2.5;
+    draft.pages[0].bands = {{72, bottom, {{72, 285.5}, {309.5, 523}}, false},
+                            {220, 400, {{72, 285.5}, {309.5, 523}}, false}};
+    int band = 0;
+    for (const auto* columns : {&upper, &lower}) {
+        for (int column = 0; column < 2; ++column)
+            for (const double baseline : columns->at(static_cast<std::size_t>(column))) {
+                addLine(draft, 0, column == 0 ? 72 : 309.5, baseline);
+                draft.blocks.back().band = band;
+                draft.blocks.back().column = column;
+                draft.blocks.back().paragraph()->pieces[0].band = band;
+                draft.blocks.back().paragraph()->pieces[0].columnIndex = column;
+            }
+        ++band;
+    }
+    return draft;
+}
+
+TEST(SectionMaker, MakesASectionOfEachBandOfColumns) {
+    DocumentDraft draft = draftOfColumns({{84, 96}, {84, 96}}, {{240, 252}, {240, 252}});
+    sectionsOf(draft);
+    ASSERT_EQ(draft.sections.size(), 2u);
+    EXPECT_EQ(draft.sections[1].firstBlock, 4u);
+    EXPECT_EQ(draft.sections[1].setup.start, SectionStart::Continuous);
+}
+
+TEST(SectionMaker, BreaksColumnsThatAreNotOfOneHeight) {
+    DocumentDraft even = draftOfColumns({{84, 96, 108}, {84, 96, 108}}, {{240}, {240}});
+    sectionsOf(even);
+    EXPECT_FALSE(even.blocks[3].startsColumn) << "they come out so of themselves";
+    DocumentDraft uneven = draftOfColumns({{84, 96, 108, 120, 132, 198}, {84, 96}}, {{240}, {240}});
+    sectionsOf(uneven);
+    EXPECT_TRUE(uneven.blocks[6].startsColumn);
+}
+
 TEST(SectionMaker, GivesRunningHeadsToTheSection) {
     DocumentDraft draft = makeDraft(2);
     fillPage(draft, 0);
