@@ -1,6 +1,7 @@
 #include "layout/paragraphs/HyphenResolver.h"
 
 #include "base/Utf8.h"
+#include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
 
 #include <unicode/uchar.h>
@@ -14,9 +15,6 @@ namespace {
 
 constexpr char32_t kSoftHyphen = U'\u00AD';
 
-bool isLetter(char32_t character) {
-    return u_isalpha(static_cast<UChar32>(character));
-}
 bool isLower(char32_t character) {
     return u_islower(static_cast<UChar32>(character));
 }
@@ -80,6 +78,16 @@ LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
     return bothAreWords ? LineJoin::Nothing : LineJoin::DropHyphen;
 }
 
+/// Korean has blanks between words, but lines may end behind any syllable: the document tells where it has the word
+/// whole, and not both parts of it.
+bool isDividedHangul(const std::u32string& last, const std::u32string& next,
+                     const std::unordered_set<std::string>& vocabulary) {
+    if (!isHangul(last.back()) || !isHangul(next[0]))
+        return false;
+    const std::u32string head(core(last)), tail(core(next));
+    return knows(vocabulary, head + tail) && !(knows(vocabulary, head) && knows(vocabulary, tail));
+}
+
 } // namespace
 
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
@@ -96,6 +104,8 @@ LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
     if (isWithoutBlanks(last.back()) != isWithoutBlanks(next[0]))
         return boundary == ScriptBoundary::Blank && meetOtherScript(last.back(), next[0]) ? LineJoin::Blank
                                                                                           : LineJoin::Nothing;
+    if (isDividedHangul(last, next, vocabulary))
+        return LineJoin::Nothing;
     if (last.size() < 2)
         return LineJoin::Blank;
     const char32_t end = last.back();

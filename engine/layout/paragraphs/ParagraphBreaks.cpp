@@ -2,6 +2,7 @@
 
 #include "layout/paragraphs/JustifiedLines.h"
 #include "layout/paragraphs/NaturalLeading.h"
+#include "layout/paragraphs/RaggedLines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +20,8 @@ public:
         , m_measures(measures)
         , m_parameters(parameters)
         , m_leading(lines, measures, context, parameters)
-        , m_justified(lines, measures, parameters) {}
+        , m_justified(lines, measures, parameters)
+        , m_slack(std::max(parameters.fitSlack, findRaggedRoom(lines, measures, parameters))) {}
 
     std::vector<BreakReason> run() {
         std::vector<BreakReason> reasons;
@@ -108,8 +110,7 @@ private:
         const LineMeasure& line = m_measures[next];
         const bool goesOn = line.startsLowerCase || (above.endsInHan && line.startsInHan);
         return goesOn && !above.endsSentence && above.endGap <= m_parameters.endAligned * above.width &&
-               !looksDifferent(next) &&
-               !wouldHaveFitted(above, line, above.endGap, m_parameters.fitSlack * m_lines[next].fontSize);
+               !looksDifferent(next) && !wouldHaveFitted(above, line, above.endGap, m_slack * m_lines[next].fontSize);
     }
 
     /// The line below runs on of itself, and is as far from `next` as this is from the line above.
@@ -202,7 +203,7 @@ private:
             free = before.startGap;
             break;
         }
-        return wouldHaveFitted(before, line, free, m_parameters.fitSlack * m_lines[next].fontSize);
+        return wouldHaveFitted(before, line, free, m_slack * m_lines[next].fontSize);
     }
 
     /// Below a label's text: text boxes end before their column does, but an item goes on until the next label.
@@ -248,6 +249,7 @@ private:
     const ParagraphParameters::Paragraphs& m_parameters;
     NaturalLeading m_leading;
     JustifiedLines m_justified;
+    double m_slack; ///< of the font size; what a word must leave free to have "fitted"
     std::size_t m_first = 0;
     double m_lastHang = 0; ///< how far the lines of the last paragraph with several stand behind its first
 };

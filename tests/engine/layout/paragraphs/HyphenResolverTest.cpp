@@ -37,6 +37,14 @@ TEST(HyphenResolver, JoinsLineEnds) {
             << row.last << ' ' << row.next << ": " << row.why;
 }
 
+TEST(HyphenResolver, JoinsKoreanWordsThatALineCuts) {
+    const std::unordered_set<std::string> vocabulary = {"\uAC10\uC5FC\uBCD1", "\uBCF4\uD5D8", "\uC57D\uAD00",
+                                                        "\uBCF4\uD5D8\uC57D\uAD00"};
+    EXPECT_EQ(resolveLineEnd("\uAC10\uC5FC", "\uBCD1,", vocabulary), LineJoin::Nothing) << "whole elsewhere";
+    EXPECT_EQ(resolveLineEnd("\uBCF4\uD5D8", "\uC57D\uAD00", vocabulary), LineJoin::Blank) << "two words as well";
+    EXPECT_EQ(resolveLineEnd("\uC0C8", "\uB9D0", vocabulary), LineJoin::Blank) << "nothing is known of them";
+}
+
 TEST(HyphenResolver, KeepsTheHyphensOfDocumentsThatDivideNoWords) {
     const std::unordered_set<std::string> vocabulary = {"information", "nonclinical", "clinical"};
     const auto resolve = [&](const char* last, const char* next) {
