@@ -3,6 +3,7 @@
 #include "layout/structure/DraftText.h"
 #include "layout/structure/DraftWalk.h"
 #include "layout/structure/HeadingStyles.h"
+#include "layout/structure/NumeralHeadings.h"
 #include "layout/structure/OutlineMatcher.h"
 #include "layout/structure/StructureTags.h"
 
@@ -51,7 +52,8 @@ void findTitle(DocumentDraft& draft, const DocumentContext& context, const Struc
     std::vector<DraftParagraph*> paragraphs;
     double largest = 0;
     for (DraftBlock& block : draft.blocks)
-        if (DraftParagraph* paragraph = block.paragraph()) {
+        // What runs up along the page's edge is a stamp.
+        if (DraftParagraph* paragraph = block.paragraph(); paragraph && paragraph->firstLine().angle == 0) {
             paragraphs.push_back(paragraph);
             largest = std::max(largest, sizeOf(*paragraph));
         }
@@ -79,8 +81,10 @@ void findHeadings(DocumentDraft& draft, const DocumentFacts& facts, const Docume
     const bool isTagged = findByTags(draft, facts.structure, diagnostics);
     const bool isOutlined = matchOutline(draft, facts.outline).isTrustworthy();
     findTitle(draft, context, parameters.headings);
-    if (!isTagged && !isOutlined)
-        findHeadingsByStyle(draft, context, parameters);
+    if (isTagged || isOutlined)
+        return;
+    findNumeralHeadings(draft, parameters.headings);
+    findHeadingsByStyle(draft, context, parameters);
 }
 
 } // namespace orvane::layout

@@ -61,6 +61,7 @@ struct TextTraits {
     std::size_t characters = 0;
     bool isCapital = false; ///< all letters that have a case
     bool endsLikeSentence = false;
+    bool hasAddress = false; ///< somebody's mailbox, or a place in the web
 };
 
 TextTraits traitsOf(const std::u32string& text) {
@@ -75,6 +76,7 @@ TextTraits traitsOf(const std::u32string& text) {
     traits.characters = text.size();
     traits.isCapital = upper > 3 && lower == 0;
     constexpr std::u32string_view kEnds = U".,;。、，；…";
+    traits.hasAddress = text.find(U'@') != std::u32string::npos || text.find(U"://") != std::u32string::npos;
     traits.endsLikeSentence = !text.empty() && kEnds.find(text.back()) != std::u32string_view::npos;
     return traits;
 }
@@ -121,7 +123,8 @@ private:
         if (paragraph.pieces.size() > 1 || lines > static_cast<std::size_t>(m_limits.maximumLines) || first.angle != 0)
             return std::nullopt;
         const TextTraits traits = traitsOf(utf32FromUtf8(textOf(paragraph)));
-        if (traits.letters < 2 || traits.characters > static_cast<std::size_t>(m_limits.maximumLength))
+        if (traits.letters < 2 || traits.hasAddress ||
+            traits.characters > static_cast<std::size_t>(m_limits.maximumLength))
             return std::nullopt;
         auto look = lookOf(paragraph, m_limits.lookShare);
         if (!look)

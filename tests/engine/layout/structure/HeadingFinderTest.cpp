@@ -60,6 +60,47 @@ TEST(HeadingFinder, RanksLooksBySizeAndWeight) {
     EXPECT_EQ(headingsOf(draft), "Aims 1|First aim 2|Means 1|First means 2");
 }
 
+constexpr LineLook kItalic{.size = 10, .isItalic = true};
+
+TEST(HeadingFinder, TellsHeadingsOfTheTextsSizeByNumerals) {
+    DocumentDraft draft = draftWith({{"I. INTRODUCTION", {}},
+                                     {"II. MEANS AND WAYS", {}},
+                                     {"A. The means", kItalic},
+                                     {"B. The ways", kItalic},
+                                     {"III. RESULTS", {}},
+                                     {"A. Of the means", kItalic}});
+    find(draft);
+    EXPECT_EQ(headingsOf(draft), "I. INTRODUCTION 1|II. MEANS AND WAYS 1|A. The means 2|B. The ways 2|III. RESULTS 1|"
+                                 "A. Of the means 2");
+}
+
+TEST(HeadingFinder, DoubtsNumeralsThatDoNotCountOn) {
+    const std::vector<std::pair<const char*, LineLook>> cases[] = {
+        {{"I. INTRODUCTION", {}}, {"II. MEANS", {}}},                              // two only
+        {{"I. INTRODUCTION", {}}, {"III. MEANS", {}}, {"IV. RESULTS", {}}},        // a gap
+        {{"I. A name", {}}, {"II. Another name", {}}, {"III. The last name", {}}}, // set as text is
+        {{"A. The means", kItalic}, {"B. The ways", kItalic}, {"C. The end", kItalic}}};
+    for (const auto& headings : cases) {
+        DocumentDraft draft = draftWith(headings);
+        find(draft);
+        EXPECT_EQ(headingsOf(draft), "") << headings.front().first;
+    }
+}
+
+TEST(HeadingFinder, TakesNoAddressForAHeading) {
+    DocumentDraft draft = draftWith({{"Aims", {.size = 16}}, {"somebody@example.org", kBold}, {"Means", {.size = 16}}});
+    find(draft);
+    EXPECT_EQ(headingsOf(draft), "Aims 1|Means 1");
+}
+
+TEST(HeadingFinder, TakesNoStampAtThePagesEdgeForTheTitle) {
+    DocumentDraft draft =
+        draftWith({{"Stamped 15 July", {.size = 24}}, {"The title", {.size = 18}}, {"Aims", {.size = 14}}});
+    draft.blocks.front().paragraph()->pieces.front().text.lines.front().angle = 270;
+    find(draft);
+    EXPECT_EQ(headingsOf(draft), "The title T|Aims 1");
+}
+
 TEST(HeadingFinder, TakesLevelsFromNumbers) {
     DocumentDraft draft =
         draftWith({{"1 Aims", kBold}, {"1.1 First aim", kBold}, {"1.1.1 Details", kBold}, {"2 Means", kBold}});
