@@ -1,6 +1,8 @@
 #include "layout/running/FirstPageEdges.h"
 
+#include "base/Utf8.h"
 #include "layout/running/HeadPlaces.h"
+#include "layout/text/Characters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -140,17 +142,36 @@ void takeFirstHead(std::vector<EdgeRows>& edges, const std::vector<PageText>& pa
         take(first, count);
 }
 
-bool takeOnlyNumber(EdgeRows& edge, const PageText& page, const RunningParameters::RunningHeads& parameters) {
+namespace {
+
+/// Whether the row says "1 of 1" in whatever words.
+bool saysFirstOfOne(const RunningRow& row, const RunningParameters::RunningHeads& parameters) {
+    return row.numbers.size() == 2 && row.numbers[0].value == 1 && row.numbers[1].value == 1 &&
+           row.skeleton.ends_with('#') && row.skeleton.size() <= parameters.longestOnlyRow;
+}
+
+/// Whether the row is a number and perhaps dashes around it.
+bool saysNumberOnly(const RunningRow& row) {
+    const std::u32string text = utf32FromUtf8(row.skeleton);
+    return row.numbers.size() == 1 && row.numbers[0].value > 0 &&
+           std::none_of(text.begin(), text.end(), [](char32_t c) { return isLetter(c); });
+}
+
+} // namespace
+
+std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
+                                         const RunningParameters::RunningHeads& parameters) {
     if (edge.rows.empty() || edge.rows[0].fromEdge > parameters.onlyNumberReach * page.height)
-        return false;
+        return std::nullopt;
     const RunningRow& row = edge.rows[0];
-    const bool isFirstOfOne = row.numbers.size() == 2 && row.numbers[0].value == 1 && row.numbers[1].value == 1 &&
-                              row.skeleton.ends_with('#') && row.skeleton.size() <= parameters.longestOnlyRow;
     const bool isApart =
         edge.rows.size() == 1 || edge.rows[1].fromEdge - end(row) >= parameters.ownFootGap * row.fontSize;
-    if (isFirstOfOne && isApart)
-        take(edge, 1);
-    return edge.taken > 0;
+    // At the top a number alone may be that of a chapter.
+    const bool isNumber = saysFirstOfOne(row, parameters) || (side == PageEdge::Bottom && saysNumberOnly(row));
+    if (!isNumber || !isApart)
+        return std::nullopt;
+    take(edge, 1);
+    return PageNumber{row.numbers[0].value, row.numbers[0].format};
 }
 
 } // namespace orvane::layout

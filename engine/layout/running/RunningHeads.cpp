@@ -251,8 +251,9 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
     std::vector<EdgeRows> bottoms = readEdgeRows(pages, PageEdge::Bottom, limits);
     auto numbers = readPageNumbers(tops, bottoms);
     if (pages.size() == 1) {
-        if (takeOnlyNumber(bottoms[0], pages[0], limits) || takeOnlyNumber(tops[0], pages[0], limits))
-            numbers[0] = PageNumber{1, document::NumberFormat::Decimal};
+        numbers[0] = takeOnlyNumber(bottoms[0], PageEdge::Bottom, pages[0], limits);
+        if (!numbers[0])
+            numbers[0] = takeOnlyNumber(tops[0], PageEdge::Top, pages[0], limits);
     } else {
         takeRepeated(tops, bottoms, numbers, pages, limits);
         takeLoneNumbers(bottoms, numbers);
