@@ -23,8 +23,8 @@ TEST(LanguageGuess, KnowsLanguagesByTheirShortWords) {
     } rows[] = {
         {"en-US",
          "the end of the road is not as far from here as the people who live on it have said to us and to you"},
-        {"de-DE",
-         "das Ende der Straße ist nicht so weit von hier wie die Leute sagen, die an ihr wohnen und auf sie sehen"},
+        {"de-DE", "das Ende der Straße ist nicht so weit von dem Ort wie die Leute sagen, die auch auf der Bank sitzen "
+                  "und mit dem Hund gehen"},
         {"fr-FR",
          "la fin de la route est plus loin que ce que les gens qui sont dans le village ont dit sur elle et sur nous"},
         {"es-ES", "el fin de la calle no es tan largo como se lo dicen los que son de una casa en el pueblo y por eso "
@@ -49,7 +49,7 @@ TEST(LanguageGuess, KnowsLanguagesByTheirShortWords) {
 }
 
 TEST(LanguageGuess, KnowsLanguagesByTheirScripts) {
-    EXPECT_EQ(languageOf("이 길은 멀지 않다 and so on"), "ko-KR");
+    EXPECT_EQ(languageOf("이 길은 멀지 않다 or so"), "ko-KR");
     EXPECT_EQ(languageOf("この道は遠くない"), "ja-JP");
     EXPECT_EQ(languageOf("这条路对我们不远"), "zh-CN");
     EXPECT_EQ(languageOf("這條路對我們不遠"), "zh-TW");
