@@ -1,10 +1,10 @@
 #include "layout/structure/BreakFinder.h"
 
 #include "layout/structure/BlockExtent.h"
+#include "layout/structure/ColumnHeights.h"
 #include "layout/structure/PageFloor.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvane::layout {
 namespace {
@@ -34,29 +34,6 @@ bool areTables(const DraftBlock& a, const DraftBlock& b) {
     return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<DraftTable>(b.value);
 }
 
-/// Where the column that begins with block `first` ends.
-double bottomOfColumn(const DocumentDraft& draft, std::size_t first, std::size_t last) {
-    const BlockEnd start = endOf(draft.blocks[first]);
-    double bottom = start.bottom;
-    for (std::size_t i = first + 1; i < last; ++i) {
-        const DraftBlock& block = draft.blocks[i];
-        if (block.page != start.page || block.band != start.band || block.column != start.column)
-            break;
-        const BlockEnd end = endOf(block);
-        if (end.column == start.column)
-            bottom = std::max(bottom, end.bottom);
-    }
-    return bottom;
-}
-
-/// Columns with something below them are filled to one height by word processors; those before and behind block
-/// `next` are not.
-bool areUneven(const DocumentDraft& draft, const BlockEnd& end, std::size_t next, std::size_t last, double room) {
-    const auto below = static_cast<std::size_t>(end.band) + 1;
-    return below < draft.pages[end.page].bands.size() &&
-           std::abs(end.bottom - bottomOfColumn(draft, next, last)) > draft.blocks[next].box.height() + room;
-}
-
 } // namespace
 
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
@@ -75,7 +52,7 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
                                    startsLow(fills[block.page], range.area.tops.of(block.page), parameters);
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = room > block.box.height() + parameters.startRoom ||
-                                     areUneven(draft, end, i, range.last, parameters.startRoom);
+                                     areColumnsUneven(draft, {end.page, end.band, end.bottom}, i, parameters.startRoom);
         }
         before = &block;
     }
