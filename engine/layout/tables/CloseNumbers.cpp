@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <limits>
 #include <optional>
 #include <set>
 
@@ -63,9 +64,12 @@ private:
     }
 
     void addPair(std::size_t row, const TextPiece& left, const TextPiece& right, bool isNarrow) {
-        if (left.box.right < right.box.left && isNumeric(left, m_lines) && isNumeric(right, m_lines))
-            m_pairs.push_back(
-                {row, left.box.right, right.box, beginsWithThreeDigits(textOf(right, m_lines)), isNarrow});
+        const std::string text = textOf(right, m_lines);
+        // A dash between two numbers may lead from the one to the other.
+        if (left.box.right >= right.box.left || isDash(text) || isDash(textOf(left, m_lines)) ||
+            !isNumeric(left, m_lines) || !isNumeric(right, m_lines))
+            return;
+        m_pairs.push_back({row, left.box.right, right.box, beginsWithThreeDigits(text), isNarrow});
     }
 
     /// The gap behind numbers that end at one place.
@@ -74,14 +78,20 @@ private:
         ColumnGap gap{pairs.back().leftEnd, pairs.front().right.left};
         std::size_t narrow = 0;
         std::size_t thousands = 0;
+        double shortest = std::numeric_limits<double>::infinity();
+        double longest = 0;
         for (const NumberPair& pair : pairs) {
+            shortest = std::min(shortest, pair.right.width());
+            longest = std::max(longest, pair.right.width());
             rows.insert(pair.row);
             gap.right = std::min(gap.right, pair.right.left);
             narrow += pair.isNarrow;
             thousands += pair.isThousands;
         }
-        const bool showsColumns = static_cast<int>(rows.size()) > m_parameters.fewestPartedRows && narrow > 0 &&
-                                  2 * thousands < pairs.size() && gap.width() > 0;
+        // A date and its time are of one length, too.
+        const bool areUneven = longest - shortest > m_parameters.unevenTexts * m_rows.front().fontSize;
+        const bool showsColumns = areUneven && static_cast<int>(rows.size()) > m_parameters.fewestPartedRows &&
+                                  narrow > 0 && 2 * thousands < pairs.size() && gap.width() > 0;
         return showsColumns && !isCrossed(gap) ? std::optional(gap) : std::nullopt;
     }
 

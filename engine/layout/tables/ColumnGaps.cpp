@@ -143,18 +143,26 @@ bool isNarrowedByHead(const ColumnGap& gap, std::span<const PieceRow> rows, doub
     return false;
 }
 
-/// The part of a thin stretch that parts two columns, when it is wide enough. What stands alone in its row may be a
-/// heading over several columns, and makes no gap narrow.
+/// The rows without those that hold one text which begins within the table: a heading over several columns. A text that
+/// begins at the side may be a label, or no part of the table.
+std::vector<PieceRow> withoutHeadings(std::span<const PieceRow> rows) {
+    double left = std::numeric_limits<double>::infinity();
+    for (const PieceRow& row : rows)
+        left = std::min(left, row.box.left);
+    std::vector<PieceRow> others;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(others),
+                 [&](const PieceRow& row) { return row.pieces.size() > 1 || row.box.left <= left + row.fontSize; });
+    return others;
+}
+
+/// The part of a thin stretch that parts two columns, when it is wide enough. Headings make no gap narrow.
 std::optional<ColumnGap> gapWithin(const ColumnGap& thin, std::span<const PieceRow> rows, double least,
                                    const TableParameters::Tables& parameters) {
     const ColumnGap gap = clearestPart(thin, rows);
     if (gap.width() >= least || isNarrowedByHead(thin, rows, 2 * least, parameters))
         return gap;
-    std::vector<PieceRow> parted;
-    std::copy_if(rows.begin(), rows.end(), std::back_inserter(parted),
-                 [](const PieceRow& row) { return row.pieces.size() > 1; });
-    const ColumnGap ofParted = clearestPart(thin, parted);
-    return ofParted.width() >= least ? std::optional(ofParted) : std::nullopt;
+    const ColumnGap ofOthers = clearestPart(thin, withoutHeadings(rows));
+    return ofOthers.width() >= least ? std::optional(ofOthers) : std::nullopt;
 }
 
 std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {

@@ -4,6 +4,8 @@
 #include "layout/tables/ColumnGaps.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 namespace orvane::layout {
 namespace {
@@ -17,16 +19,37 @@ std::vector<std::vector<PieceRow>> rowsByCell(const TableGrid& grid, const std::
     return rows;
 }
 
-/// Whether the row has numbers, nothing else, and in each of the columns that the gaps part.
+/// Whether the row has numbers, nothing else, and in each of the columns that the gaps part. A number with a dash leads
+/// on to the next.
 bool isOfNumbers(const PieceRow& row, const std::vector<ColumnGap>& gaps, const std::vector<Line>& lines) {
-    if (row.pieces.size() != gaps.size() + 1)
-        return false;
-    for (std::size_t i = 0; i < row.pieces.size(); ++i) {
-        const ColumnRange range = columnsOf(row.pieces[i], gaps);
-        if (range.first != static_cast<int>(i) || range.last != range.first || !isNumeric(row.pieces[i], lines))
+    std::set<int> columns;
+    for (const TextPiece& piece : row.pieces) {
+        const ColumnRange range = columnsOf(piece, gaps);
+        const TextPiece last = pieceOf(lines[piece.line], piece.line, piece.endWord - 1, piece.endWord);
+        const bool leadsOn = piece.wordCount() > 1 && isDash(textOf(last, lines));
+        if (range.last != range.first || !isNumeric(piece, lines) || leadsOn)
             return false;
+        columns.insert(range.first);
     }
-    return true;
+    return columns.size() == gaps.size() + 1;
+}
+
+/// Takes out the gaps beside dashes that stand between two numbers: from the one to the other.
+void joinRanges(std::vector<ColumnGap>& gaps, const std::vector<PieceRow>& rows, const std::vector<Line>& lines,
+                const TableParameters::Tables& parameters) {
+    std::vector<std::size_t> texts(gaps.size() + 1);
+    std::vector<std::size_t> dashes(gaps.size() + 1);
+    for (const PieceRow& row : rows) {
+        for (const TextPiece& piece : row.pieces) {
+            const auto column = static_cast<std::size_t>(columnsOf(piece, gaps).first);
+            ++texts[column];
+            dashes[column] += isDash(textOf(piece, lines));
+        }
+    }
+    for (std::size_t i = gaps.size(); i-- > 1;)
+        if (texts[i] > 0 && static_cast<double>(dashes[i]) >= parameters.numberedShare * static_cast<double>(texts[i]))
+            gaps.erase(gaps.begin() + static_cast<std::ptrdiff_t>(i) - 1,
+                       gaps.begin() + static_cast<std::ptrdiff_t>(i) + 1);
 }
 
 /// The gaps between the numbers of one drawn column; none where other texts stand there, too.
@@ -36,6 +59,7 @@ std::vector<ColumnGap> gapsOf(const std::vector<PieceRow>& rows, const std::vect
     std::copy_if(rows.begin(), rows.end(), std::back_inserter(telling),
                  [](const PieceRow& row) { return row.pieces.size() > 1; });
     std::vector<ColumnGap> gaps = findColumnGaps(telling, parameters);
+    joinRanges(gaps, telling, lines, parameters);
     const auto numbers = std::count_if(telling.begin(), telling.end(),
                                        [&](const PieceRow& row) { return isOfNumbers(row, gaps, lines); });
     if (numbers < parameters.fewestPartedRows ||

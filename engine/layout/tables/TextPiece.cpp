@@ -215,6 +215,11 @@ bool isBullet(std::string_view text) {
     return std::ranges::find(kBullets, text) != kBullets.end();
 }
 
+bool isDash(std::string_view text) {
+    static constexpr std::array<std::string_view, 4> kDashes{"-", "\u2013", "\u2014", "\u2212"};
+    return std::ranges::find(kDashes, text) != kDashes.end();
+}
+
 bool isCurrencySign(std::string_view text) {
     static constexpr std::array<std::string_view, 5> kSigns{"$", "\u20AC", "\u00A3", "\u00A5", "US$"};
     return std::ranges::find(kSigns, text) != kSigns.end();
@@ -239,9 +244,8 @@ bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines) {
         digits += c >= '0' && c <= '9';
         letters += (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (static_cast<unsigned char>(c) & 0x80) != 0;
     }
-    const bool isDash = text == "-" || text == "\xE2\x80\x93" || text == "\xE2\x80\x94" || text == "\xE2\x88\x92";
     // Units, currencies and months come with a few letters.
-    return isDash || (digits > 0 && digits >= letters);
+    return isDash(text) || (digits > 0 && digits >= letters);
 }
 
 } // namespace orvane::layout

@@ -19,6 +19,7 @@ struct Start {
     bool isWide = false;         ///< it begins a piece
     bool isBehindNumber = false; ///< of which there is nothing else to its left
     bool isBehindLabel = false;  ///< the same of the label of an item in a list
+    bool isOfRange = false;      ///< a dash leads to it from what stands to its left
 };
 
 double spread(std::vector<double> values) {
@@ -72,19 +73,25 @@ private:
             if (i > 0) {
                 const Rect& before = row.pieces[i - 1].box;
                 m_starts.push_back({rowIndex, piece.box.left, piece.box.right, before.left, before.right, true, false,
-                                    isLabel(row.pieces[i - 1])});
+                                    isLabel(row.pieces[i - 1]), endsInDash(row.pieces[i - 1])});
             }
             for (std::size_t word = piece.firstWord + 1; word < piece.endWord; ++word) {
                 const TextPiece before = pieceOf(line, piece.line, word - 1, word);
                 // Blanks part the thousands of a number, too.
-                if (isNumeric(before, m_lines) && isNumeric(pieceOf(line, piece.line, word, word + 1), m_lines))
+                const bool isOfRange = isDash(textOf(before, m_lines));
+                if (!isOfRange && isNumeric(before, m_lines) &&
+                    isNumeric(pieceOf(line, piece.line, word, word + 1), m_lines))
                     continue;
                 const bool isFirst = word == piece.firstWord + 1;
                 m_starts.push_back({rowIndex, line.words[word].box.left, piece.box.right, piece.box.left,
                                     before.box.right, false, isFirst && isNumeric(before, m_lines) && !isLabel(before),
-                                    isFirst && isLabel(before)});
+                                    isFirst && isLabel(before), isOfRange});
             }
         }
+    }
+
+    bool endsInDash(const TextPiece& piece) const {
+        return isDash(textOf(pieceOf(m_lines[piece.line], piece.line, piece.endWord - 1, piece.endWord), m_lines));
     }
 
     /// "1.", "a)", "*".
@@ -100,17 +107,20 @@ private:
         std::vector<Start> narrow;
         int wide = 0;
         std::size_t labels = 0;
+        int ranges = 0;
         double rightBefore = 0;
         for (const Start& start : starts) {
             rows.insert(start.row);
             labels += start.isBehindLabel;
+            ranges += start.isOfRange;
             wide += start.isWide;
             if (start.isWide)
                 rightBefore = std::max(rightBefore, start.rightBefore);
             else
                 narrow.push_back(start);
         }
-        if (static_cast<int>(rows.size()) < m_parameters.fewestPartedRows || 2 * labels > starts.size())
+        if (static_cast<int>(rows.size()) < m_parameters.fewestPartedRows || 2 * labels > starts.size() ||
+            ranges >= m_parameters.minimumRowsParted)
             return false;
         if (wide < m_parameters.minimumRowsParted)
             return followsColumn(narrow);
@@ -132,7 +142,7 @@ private:
         }
         const double size = m_rows.front().fontSize;
         const double uneven = m_parameters.unevenTexts * size;
-        if (static_cast<int>(starts.size()) < m_parameters.fewestPartedRows || spread(rights) <= uneven ||
+        if (static_cast<int>(starts.size()) <= m_parameters.fewestPartedRows || spread(rights) <= uneven ||
             densestRange(ends, m_parameters.startSnap).count < ends.size())
             return false;
         return (2 * numbers.size() >= starts.size() && spread(numbers) > uneven) ||
