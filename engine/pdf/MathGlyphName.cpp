@@ -110,6 +110,11 @@ constexpr std::array kNames{
     NamedCharacter{"braceright", u'}'},
     NamedCharacter{"slash", u'/'},
     NamedCharacter{"radicalvertex", 0x221A},
+    NamedCharacter{"radicalbt", 0x23B7},
+    NamedCharacter{"bracehtipdownleft", 0x23DE},
+    NamedCharacter{"bracehtipdownright", 0x23DE},
+    NamedCharacter{"bracehtipupleft", 0x23DF},
+    NamedCharacter{"bracehtipupright", 0x23DF},
     NamedCharacter{"Bullet", 0x2022},
 };
 

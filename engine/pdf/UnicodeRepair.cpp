@@ -143,6 +143,8 @@ public:
 private:
     void findOut(std::uint32_t code, Meaning& meaning, bool doubtGiven) {
         std::u32string sign = signOf(code, meaning.given);
+        if (sign.empty())
+            sign = namedSignOf(code, meaning.given);
         if (!sign.empty()) {
             meaning.isGuessed = sign != meaning.given;
             meaning.text = std::move(sign);
@@ -182,6 +184,17 @@ private:
             return {};
         }
         const char32_t character = symbolCharacter(*m_symbols, static_cast<std::uint8_t>(low));
+        return character == 0 ? std::u32string() : std::u32string(1, character);
+    }
+
+    /// A sign of formulas by its glyph's name. Neither the library nor many writers know such names, and hand out the
+    /// letter at the code: "S" for a union.
+    std::u32string namedSignOf(std::uint32_t code, const std::u32string& given) const {
+        const bool isNamed = !m_font.isCIDFont() && m_font.getType() != fontTrueType && code < 256;
+        if (!isNamed || given.size() != 1 || given[0] != code)
+            return {};
+        const char* name = static_cast<Gfx8BitFont&>(m_font).getCharName(static_cast<int>(code));
+        const char32_t character = name ? characterOfMathGlyphName(name) : 0;
         return character == 0 ? std::u32string() : std::u32string(1, character);
     }
 

@@ -57,6 +57,16 @@ TEST(Unicode, IsFoundByTheNamesOfGlyphsWhereTheMapIsSilent) {
     EXPECT_EQ(pdf.count(DiagnosticKind::TextRepaired), 1) << "one for the font";
 }
 
+TEST(Unicode, OfSignsOfFormulasIsThatOfTheirNamesNotTheLetterAtTheirCode) {
+    PdfBuilder builder;
+    const int map = builder.addStream("", toUnicode("<53> <0053> <71> <0071> <61> <0061>\n", 3, "<00> <FF>"));
+    const std::string font =
+        "<< /Type /Font /Subtype /Type1 /BaseFont /CMEX10 /ToUnicode " + pdfRef(map) +
+        " /Encoding << /Type /Encoding /Differences [83 /uniontext 97 /a 113 /radicalbig] >> /FirstChar 83 "
+        "/LastChar 84 /Widths [500 500] >>";
+    EXPECT_EQ(textIn(builder, font, "(Sqa)"), "\u22C3\u221Aa");
+}
+
 TEST(Unicode, OfAMapThatSaysOneThingForAllIsNotBelieved) {
     PdfBuilder builder;
     const int map = builder.addStream(
