@@ -1,6 +1,7 @@
 #include "pdf/FontReader.h"
 
 #include "pdf/FontName.h"
+#include "pdf/MathFontName.h"
 #include "pdf/TextString.h"
 
 #include <algorithm>
@@ -248,6 +249,7 @@ Font readFont(const GfxFont& source, XRef& xref) {
     Font font;
     font.name = nameOf(source);
     font.objectNumber = isIndirect(source, xref) ? source.getID()->num : 0;
+    font.isMathematical = isMathFontName(font.name);
     font.isVertical = source.getWMode() != 0;
     font.isType3 = source.getType() == fontType3;
     Ref program;

@@ -31,6 +31,7 @@ struct Font {
     bool isFixedPitch = false;
     bool isSerif = false;
     bool isSymbolic = false;
+    bool isMathematical = false; ///< made for formulas, by its name
     bool isVertical = false; ///< writing mode 1: glyphs follow each other downwards
     bool isEmbedded = false;
     bool isType3 = false;
@@ -47,6 +48,7 @@ struct Font {
 struct Glyph {
     std::u32string unicode;        ///< what it says, ligatures in full ("ffi"); empty when unknown
     Rect box;                      ///< advance box: from origin to origin + advance, ascent to descent
+    Rect ink;                      ///< what is painted of it; told of upright glyphs of mathematical fonts only
     Point origin;                  ///< on the baseline
     double advance = 0;            ///< along the baseline, points, without character and word spacing
     double fontSize = 0;           ///< points as seen on the page

@@ -7,6 +7,7 @@
 #include "pdf/DoublePainting.h"
 #include "pdf/FaceLook.h"
 #include "pdf/FormReader.h"
+#include "pdf/GlyphInk.h"
 #include "pdf/LinkReader.h"
 #include "pdf/MaskedPictures.h"
 #include "pdf/OutlineReader.h"
@@ -46,12 +47,14 @@ struct PdfDocument::Impl {
     PictureCache pictures;
     UnicodeRepair unicode;
     FaceLook faces;
+    GlyphInk ink;
 
     explicit Impl(OpenDocument open)
         : bytes(std::move(open.bytes))
         , document(std::move(open.document))
         , unicode(*document->getXRef())
-        , faces(*document->getXRef()) {}
+        , faces(*document->getXRef())
+        , ink(*document->getXRef()) {}
 
     /// What the page's content paints, in its final form.
     PageContent play(::Page& page, const PageReadOptions& options, Diagnostics& diagnostics, TimeBudget& budget,
@@ -66,6 +69,7 @@ struct PdfDocument::Impl {
         playPage(page, *document, reader, budget, repair);
         unicode.repair(content, reader.glyphs().sources(), diagnostics);
         faces.apply(content, reader.glyphs().sources());
+        ink.apply(content, reader.glyphs().sources());
         dropDoublePaintedGlyphs(content);
         composeAccents(content);
         if (options.pictures)

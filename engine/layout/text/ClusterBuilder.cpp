@@ -36,8 +36,17 @@ Look lookOf(const pdf::Font& font, const pdf::Glyph& glyph, const SelectedGlyph&
     return look;
 }
 
+/// The line on which a glyph is seen to stand. Fonts of large signs hang sums and brackets below their origin; they
+/// stand about the axis of their line all the same.
+double seenBaseline(const pdf::Glyph& glyph, const TextParameters::Clusters& limits) {
+    const bool hangs = !glyph.ink.isEmpty() && glyph.ink.top > glyph.origin.y - limits.hangingRise * glyph.fontSize &&
+                       glyph.ink.bottom > glyph.origin.y + limits.hangingDepth * glyph.fontSize;
+    return hangs ? glyph.ink.centerY() + limits.axisHeight * glyph.fontSize : glyph.origin.y;
+}
+
 /// Where a glyph stands in its frame. In vertical writing the line's middle takes the place of the baseline.
-void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& font, const pdf::Glyph& glyph) {
+void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& font, const pdf::Glyph& glyph,
+                  const TextParameters::Clusters& limits) {
     if (frame.isVertical) {
         const Rect box = frame.boxFromPage(glyph.box);
         cluster.start = box.left;
@@ -45,7 +54,7 @@ void placeCluster(Cluster& cluster, const TextFrame& frame, const pdf::Font& fon
         cluster.baseline = (box.top + box.bottom) / 2;
         cluster.ascent = cluster.descent = glyph.fontSize / 2;
     } else {
-        const TextFrame::Position position = frame.fromPage(glyph.origin);
+        const TextFrame::Position position = frame.fromPage({glyph.origin.x, seenBaseline(glyph, limits)});
         cluster.start = position.along;
         cluster.end = position.along + glyph.advance;
         cluster.baseline = position.across;
@@ -70,7 +79,7 @@ Cluster makeCluster(const pdf::PageContent& page, const SelectedGlyph& selected,
     cluster.glyph = selected.index;
     cluster.mark = glyph.mark;
     cluster.look = lookOf(font, glyph, selected, limits);
-    placeCluster(cluster, frame, font, glyph);
+    placeCluster(cluster, frame, font, glyph, limits);
     return cluster;
 }
 

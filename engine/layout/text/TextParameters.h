@@ -36,6 +36,9 @@ struct TextParameters {
         double markTie = 0.05;      ///< of the font size; below this difference a mark goes with the letter before it
         std::size_t mostMarks = 8;  ///< marks on one letter
         double touch = 0.05;        ///< of the font size; glyphs this close touch
+        double hangingRise = 0.1;   ///< of the font size; signs that hang from their origin reach no higher above it ...
+        double hangingDepth = 0.3;  ///< ... and farther below
+        double axisHeight = 0.25;   ///< of the font size; the middle of large signs above the line they stand on
         double accentOverlap = 0.5; ///< of the narrower one; a spacing accent over this much of a letter belongs to it
     } clusters;
 

@@ -16,6 +16,15 @@ TEST(ClusterBuilder, WritesLigaturesInFull) {
     EXPECT_THAT(linesOf(page), ElementsAre("different file office"));
 }
 
+TEST(ClusterBuilder, StandsSignsThatHangFromTheirOriginOnTheLineAroundThem) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, "The sum ", 10);
+    page.glyph(x, 92.5, U"\u2211", 11, 10);
+    page.content().glyphs.back().ink = {x, 92.5, x + 10, 102.5};
+    x = page.text(x + 12, 100, "of all", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("The sum \u2211of all"));
+}
+
 TEST(ClusterBuilder, JoinsCombiningMarks) {
     PageContentBuilder page;
     page.text(72, 100, "e\u0301tude", 12);
