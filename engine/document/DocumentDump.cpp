@@ -1,5 +1,7 @@
 #include "document/DocumentDump.h"
 
+#include "document/FormulaText.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -265,6 +267,11 @@ private:
     }
     std::string describe(const Picture& picture, const RunProperties&) {
         return fmt::format("picture({})", picture.id.value);
+    }
+    std::string describe(const Formula& formula, const RunProperties& usual) {
+        return fmt::format("formula(\"{}\"{}){}", linearText(formula.content),
+                           formula.place == FormulaPlace::Displayed ? " displayed" : "",
+                           differences(formula.properties, usual));
     }
     std::string describe(const Link& link, const RunProperties& usual) {
         return fmt::format("link({})[{} ]",

@@ -1,5 +1,7 @@
 #include "worker/ContentCounter.h"
 
+#include "document/FormulaText.h"
+
 #include <algorithm>
 #include <type_traits>
 #include <variant>
@@ -77,6 +79,8 @@ private:
             m_counts.charactersWritten += countCharacters(item.text);
         } else if constexpr (std::is_same_v<T, Picture>) {
             ++m_counts.picturesWritten;
+        } else if constexpr (std::is_same_v<T, Formula>) {
+            m_counts.charactersWritten += countCharacters(linearText(item.content));
         } else if constexpr (std::is_same_v<T, Link>) {
             ++m_counts.linksWritten;
             add(item.inlines);

@@ -18,6 +18,8 @@ bool isPageOrColumnBreak(const Inline& item) {
 bool keepText(Inline& item) {
     if (std::holds_alternative<Picture>(item.value) || isPageOrColumnBreak(item))
         return false;
+    if (auto* formula = std::get_if<Formula>(&item.value))
+        formula->picture.reset();
     if (auto* link = std::get_if<Link>(&item.value)) {
         link->inlines = textOf(std::move(link->inlines));
         return !link->inlines.empty();

@@ -1,5 +1,6 @@
 #include "layout/assembly/PlainTextDocument.h"
 
+#include "document/FormulaText.h"
 #include "document/ListLabels.h"
 #include "layout/assembly/ContinuousDocument.h"
 
@@ -45,6 +46,7 @@ private:
             m_text += control.isChecked ? kCheckedBox : kUncheckedBox;
         addAll(control.content);
     }
+    void add(const Formula& formula) { m_text += linearText(formula.content); }
     void add(const Picture&) {}
     void add(const Bookmark&) {}
     void add(const CommentReference&) {}

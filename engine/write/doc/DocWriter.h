@@ -28,6 +28,7 @@
 ///   [-] notes in headers and notes become paragraphs there; the format has them in the body only
 ///   [x] links, bookmarks, page fields, table of contents
 ///   [x] footnotes, endnotes, with marks of their own or counted
+///   [-] formulas are pictures
 ///   [x] form fields: text, check box, list; dates are text fields
 ///   [ ] origins (pages and rectangles of the source)
 namespace orvane::write {

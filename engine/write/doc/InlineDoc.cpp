@@ -1,5 +1,6 @@
 #include "write/doc/InlineDoc.h"
 
+#include "document/FormulaText.h"
 #include "write/LinkNames.h"
 #include "write/ParagraphParts.h"
 #include "write/doc/CommentDoc.h"
@@ -84,6 +85,13 @@ private:
         PropertyList list;
         list.add(sprm::kCPicLocation, pictures.placeOf(picture)).add(sprm::kCFSpec, 1);
         m_story.text.add({&character::kPicture, 1}, list.bytes());
+    }
+
+    /// As it looks; without a picture in one line, as people type it.
+    void writeOne(const Formula& formula) {
+        if (formula.picture && m_story.state.pictures.has(*formula.picture))
+            return writeOne(*formula.picture);
+        writeOne(Text{linearText(formula.content), formula.properties});
     }
 
     void writeOne(const Link& link) {

@@ -25,6 +25,7 @@
 ///   [-] comments in headers, footers and notes are left out
 ///   [x] links, bookmarks, page fields, table of contents
 ///   [x] footnotes, endnotes, with marks of their own or counted; comments
+///   [x] formulas, as structure that word processors can edit
 ///   [x] form fields as content controls: text, check box, choice, date
 ///   [ ] origins (pages and rectangles of the source)
 namespace orvane::write {

@@ -7,6 +7,7 @@
 #include "write/docx/ControlXml.h"
 #include "write/docx/FieldXml.h"
 #include "write/docx/FontTablePart.h"
+#include "write/docx/FormulaXml.h"
 #include "write/docx/NotesPart.h"
 #include "write/docx/PictureXml.h"
 #include "write/docx/RunXml.h"
@@ -55,6 +56,11 @@ private:
     void writeOne(const Picture& picture) {
         closeRun();
         writeInlinePicture(m_story, picture);
+    }
+
+    void writeOne(const Formula& formula) {
+        closeRun();
+        writeFormula(m_story, formula, m_base);
     }
 
     void writeOne(const Link& link) {

@@ -3,6 +3,7 @@
 #include "write/ParagraphParts.h"
 #include "write/docx/FloatXml.h"
 #include "write/docx/FontTablePart.h"
+#include "write/docx/FormulaXml.h"
 #include "write/docx/InlineXml.h"
 #include "write/docx/ParagraphPropertiesXml.h"
 #include "write/docx/RunXml.h"
@@ -45,7 +46,10 @@ void writeParagraph(Story& story, const Paragraph& paragraph, const ParagraphLoa
     const std::size_t breaks = leadingBreaks(paragraph);
     writeInlines(story, inlines.first(breaks), style.run);
     writeLoad(story, load);
-    writeInlines(story, inlines.subspan(breaks), style.run);
+    if (const Formula* formula = loneFormula(paragraph))
+        writeLoneFormula(story, *formula, paragraph, style.run);
+    else
+        writeInlines(story, inlines.subspan(breaks), style.run);
     if (load.writeTail)
         load.writeTail();
 }

@@ -22,6 +22,7 @@ void startRoot(XmlWriter& xml, std::string_view name) {
     const XmlAttribute namespaces[] = {
         {"xmlns:w", "http://schemas.openxmlformats.org/wordprocessingml/2006/main"},
         {"xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships"},
+        {"xmlns:m", "http://schemas.openxmlformats.org/officeDocument/2006/math"},
         {"xmlns:wp", "http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing"},
         {"xmlns:a", "http://schemas.openxmlformats.org/drawingml/2006/main"},
         {"xmlns:pic", "http://schemas.openxmlformats.org/drawingml/2006/picture"},

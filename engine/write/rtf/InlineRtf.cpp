@@ -1,6 +1,7 @@
 #include "write/rtf/InlineRtf.h"
 
 #include "base/ComplexScript.h"
+#include "document/FormulaText.h"
 #include "write/LinkNames.h"
 #include "write/rtf/CommentRtf.h"
 #include "write/rtf/FieldRtf.h"
@@ -58,6 +59,14 @@ private:
     void writeOne(const Picture& picture) {
         closeRun();
         writeInlinePicture(m_story, picture);
+    }
+
+    /// As it looks; without a picture in one line, as people type it.
+    void writeOne(const Formula& formula) {
+        if (formula.picture)
+            return writeOne(*formula.picture);
+        writeOne(Text{linearText(formula.content), formula.properties});
+        closeRun();
     }
 
     void writeOne(const Link& link) {

@@ -27,6 +27,7 @@
 ///   [-] comments in headers, footers and notes are left out
 ///   [x] links, bookmarks, page fields, table of contents
 ///   [x] footnotes, endnotes, with marks of their own or counted; comments
+///   [-] formulas are pictures
 ///   [-] form fields: text, check box, choice of up to 25; dates are text fields
 ///   [ ] origins (pages and rectangles of the source)
 namespace orvane::write {
