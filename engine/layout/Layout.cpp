@@ -5,6 +5,7 @@
 #include "layout/assembly/ContinuousDocument.h"
 #include "layout/assembly/DocumentAssembler.h"
 #include "layout/assembly/PlainTextDocument.h"
+#include "layout/formulas/FormulaFinder.h"
 #include "layout/graphics/PageColor.h"
 #include "layout/graphics/ScannedPages.h"
 #include "layout/page/PageLayouter.h"
@@ -75,6 +76,10 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     if (request.removeImages)
         for (PageText& page : pages)
             removeFigures(page);
+    if (request.mode == LayoutMode::TruePage || request.removeImages)
+        for (PageText& page : pages)
+            restoreFormulaLines(page, request.mode == LayoutMode::TruePage ? RestoredFormulas::All
+                                                                           : RestoredFormulas::Painted);
     if (request.mode == LayoutMode::TruePage)
         return truePageDocument(std::move(pages), facts, request, parameters, observer, diagnostics);
     const std::optional<Color> pageColor = takePageColor(pages, parameters.pageColor);

@@ -2,6 +2,7 @@
 
 #include "layout/assembly/AssemblyParameters.h"
 #include "layout/fonts/FontParameters.h"
+#include "layout/formulas/FormulaParameters.h"
 #include "layout/frames/FrameParameters.h"
 #include "layout/graphics/GraphicsParameters.h"
 #include "layout/page/PageParameters.h"
@@ -23,7 +24,8 @@ struct LayoutParameters : TextParameters,
                           StructureParameters,
                           FontParameters,
                           AssemblyParameters,
-                          FrameParameters {
+                          FrameParameters,
+                          FormulaParameters {
     /// DocumentAnalyser: what most of the document looks like.
     struct Analysis {
         double sizeStep = 0.5;       ///< points; font sizes are counted in classes of this width

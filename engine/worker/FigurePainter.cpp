@@ -21,6 +21,21 @@ double resolutionFor(const Rect& box) {
     return pixels <= kMaxPixels ? kResolution : kResolution * std::sqrt(kMaxPixels / pixels);
 }
 
+/// A part of the page as a picture; none where it cannot be painted, with a diagnostic.
+PictureId paint(const pdf::PdfDocument& document, int page, const Rect& box, pdf::PaintedText words,
+                PictureStore& pictures, Diagnostics& diagnostics) {
+    try {
+        if (const PictureDataPtr painted = document.renderRegion(page, box, resolutionFor(box), words))
+            return pictures.add(*painted);
+    } catch (const Failure& failure) {
+        if (failure.code() == FailureCode::TargetUnwritable)
+            throw; // the disk is full, and not only for this drawing
+        diagnostics.add(DiagnosticKind::DrawingSimplified, page,
+                        fmt::format("a drawing could not be painted: {}", failure.what()), box);
+    }
+    return {};
+}
+
 } // namespace
 
 void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, PictureStore& pictures,
@@ -28,19 +43,14 @@ void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, Pict
     for (layout::Figure& figure : page.figures) {
         if (!figure.needsPainting || figure.box.isEmpty())
             continue;
-        try {
-            const pdf::PaintedText words = figure.showsLabels ? pdf::PaintedText::Shown : pdf::PaintedText::LeftOut;
-            const PictureDataPtr painted =
-                document.renderRegion(page.number, figure.box, resolutionFor(figure.box), words);
-            if (painted)
-                figure.picture = pictures.add(*painted);
-        } catch (const Failure& failure) {
-            if (failure.code() == FailureCode::TargetUnwritable)
-                throw; // the disk is full, and not only for this drawing
-            diagnostics.add(DiagnosticKind::DrawingSimplified, page.number,
-                            fmt::format("a drawing could not be painted: {}", failure.what()), figure.box);
-        }
+        const pdf::PaintedText words = figure.showsLabels ? pdf::PaintedText::Shown : pdf::PaintedText::LeftOut;
+        const PictureId painted = paint(document, page.number, figure.box, words, pictures, diagnostics);
+        if (painted.value != 0)
+            figure.picture = painted;
     }
+    for (layout::Formula& formula : page.formulas)
+        if (formula.needsPainting)
+            formula.picture = paint(document, page.number, formula.box, pdf::PaintedText::Shown, pictures, diagnostics);
 }
 
 } // namespace orvane::worker

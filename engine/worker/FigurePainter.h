@@ -7,8 +7,8 @@
 
 namespace orvane::worker {
 
-/// Paints those figures of the page that layout cannot take apart, and gives them their pictures. One that cannot be
-/// painted stays without, with a diagnostic.
+/// Paints those figures and formulas of the page that layout cannot take apart, and gives them their pictures. One that
+/// cannot be painted stays without, with a diagnostic.
 void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, PictureStore& pictures,
                   Diagnostics& diagnostics);
 

@@ -170,7 +170,9 @@ private:
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
             m_builder.enterField(formField);
-            if (const DraftNoteReference* note = noteAt(page, span))
+            if (const Formula* formula = formulaOf(page, span))
+                addFormula(*formula, page, properties, link);
+            else if (const DraftNoteReference* note = noteAt(page, span))
                 m_builder.add({document::NoteReference{note->note, properties, note->customMark}}, std::nullopt);
             else if (const auto field = fieldAt(page, span.box))
                 m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
@@ -248,6 +250,38 @@ private:
         const std::vector<pdf::FormField>& fields = m_context.draft.pages[page].fields;
         const auto index = static_cast<std::size_t>(span.look.field);
         return span.look.field >= 0 && index < fields.size() ? &fields[index] : nullptr;
+    }
+
+    const Formula* formulaOf(std::size_t page, const Span& span) const {
+        const std::vector<Formula>& formulas = m_context.draft.pages[page].formulas;
+        const auto index = static_cast<std::size_t>(span.look.formula);
+        return span.look.formula >= 0 && index < formulas.size() ? &formulas[index] : nullptr;
+    }
+
+    /// What is not understood stands there as it looks; in documents without pictures, as its signs.
+    void addFormula(const Formula& formula, std::size_t page, const RunProperties& properties,
+                    const std::optional<LinkTarget>& link) {
+        const LayoutMode mode = m_context.request.mode;
+        const bool hasPictures = mode != LayoutMode::Continuous && mode != LayoutMode::PlainText;
+        std::optional<document::Picture> picture;
+        if (hasPictures && formula.picture.value != 0)
+            picture = pictureOf(formula, m_context.draft.pages[page].number);
+        if (formula.structure)
+            m_builder.add({document::Formula{*formula.structure, formula.place, properties, std::move(picture)}}, link);
+        else if (picture)
+            m_builder.add({std::move(*picture)}, link);
+        else
+            m_builder.addText(formula.text, properties, link);
+    }
+
+    static document::Picture pictureOf(const Formula& formula, int page) {
+        document::Picture picture;
+        picture.id = formula.picture;
+        picture.width = emuFromPoints(formula.box.width());
+        picture.height = emuFromPoints(formula.box.height());
+        picture.alternateText = formula.text;
+        picture.origin = {page, formula.box};
+        return picture;
     }
 
     void addComments(std::size_t page, const Span& span, const std::optional<LinkTarget>& link) {

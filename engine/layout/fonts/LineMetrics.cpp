@@ -1,6 +1,7 @@
 #include "layout/fonts/LineMetrics.h"
 
 #include "base/Utf8.h"
+#include "layout/formulas/FormulaFinder.h"
 #include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
 
@@ -43,6 +44,16 @@ Pitch pitchOf(const DraftParagraph& paragraph, const FontCatalog& fonts) {
     return {middle->first, middle->second, isKnown};
 }
 
+bool hasFormula(const DraftParagraph& paragraph) {
+    for (const DraftPiece& piece : paragraph.pieces)
+        for (const Line& line : piece.text.lines)
+            for (const Word& word : line.words)
+                if (std::any_of(word.spans.begin(), word.spans.end(),
+                                [](const Span& span) { return span.look.formula >= 0; }))
+                    return true;
+    return false;
+}
+
 /// Whether most characters are of a script whose lines word processors set on the page's grid.
 bool isEastAsian(const DraftParagraph& paragraph) {
     std::ptrdiff_t eastAsian = 0, all = 0;
@@ -77,6 +88,11 @@ LineExtent extentOf(const Line& line, std::size_t page, const FontCatalog& fonts
     LineExtent extent{0, 0, true};
     for (const Word& word : line.words) {
         for (const Span& span : word.spans) {
+            if (span.look.formula >= 0) {
+                extent.ascent = std::max(extent.ascent, line.baseline - span.box.top);
+                extent.descent = std::max(extent.descent, span.box.bottom - line.baseline);
+                continue;
+            }
             const MappedFont& font = fonts.font(page, span.look.font);
             extent.ascent = std::max(extent.ascent, font.ascent * span.look.size);
             extent.descent = std::max(extent.descent, font.descent * span.look.size);
@@ -108,6 +124,9 @@ LineExtent spacedExtent(const LineExtent& natural, const LineSpacing& spacing) {
 
 std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const FontCatalog& fonts,
                                          const LayoutParameters& parameters) {
+    // It needs all of its height: an exact one would cut it, a multiple would part it from its text.
+    if (isFormulaLine(paragraph.firstLine()))
+        return LineSpacing{};
     const Pitch pitch = pitchOf(paragraph, fonts);
     if (pitch.natural <= 0 || pitch.distance <= parameters.spacing.overlap * pitch.natural)
         return std::nullopt;
@@ -121,7 +140,10 @@ std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const 
     const bool isSet = multiple < limits.leastChosen && !isEastAsian(paragraph);
     if (isBelievable && !isOnGrid && !isSet && (pitch.isKnown || tidy != multiple))
         return LineSpacing{LineSpacingRule::Multiple, tidy, {}};
-    return exactSpacing(pitch.distance, limits);
+    LineSpacing spacing = exactSpacing(pitch.distance, limits);
+    if (hasFormula(paragraph))
+        spacing.rule = LineSpacingRule::AtLeast; // an exact height would cut those that are higher
+    return spacing;
 }
 
 } // namespace orvane::layout

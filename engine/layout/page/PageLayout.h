@@ -82,6 +82,7 @@ struct PageLayout {
     double width = 0;
     double height = 0;
     std::vector<pdf::Font> fonts;
+    std::vector<Formula> formulas;
     std::vector<pdf::Link> links;
     std::vector<pdf::Annotation> annotations;
     std::vector<pdf::FormField> fields;

@@ -48,6 +48,7 @@ private:
         m_layout.width = m_page.width;
         m_layout.height = m_page.height;
         m_layout.fonts = m_page.fonts;
+        m_layout.formulas = std::move(m_page.formulas);
         m_layout.links = std::move(m_page.links);
         m_layout.annotations = std::move(m_page.annotations);
         m_layout.fields = std::move(m_page.fields);

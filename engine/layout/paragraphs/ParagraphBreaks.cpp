@@ -1,5 +1,6 @@
 #include "layout/paragraphs/ParagraphBreaks.h"
 
+#include "layout/formulas/FormulaFinder.h"
 #include "layout/paragraphs/JustifiedLines.h"
 #include "layout/paragraphs/NaturalLeading.h"
 #include "layout/paragraphs/RaggedLines.h"
@@ -40,6 +41,8 @@ private:
     BreakReason reasonAt(std::size_t next) const {
         if (standsElsewhere(next))
             return BreakReason::Position;
+        if (isFormulaLine(m_lines[next]) || isFormulaLine(m_lines[next - 1]))
+            return BreakReason::Formula;
         if (isListItem(next))
             return BreakReason::Marker;
         if (hasSpaceAbove(next))

@@ -12,6 +12,7 @@ enum class BreakReason : std::uint8_t {
     None,      ///< it does go on
     First,     ///< there is no line before it
     Position,  ///< it stands beside or above the line before, or is turned another way
+    Formula,   ///< a formula stands on one of the two lines
     Marker,    ///< a list item starts
     Leading,   ///< there is space between the two
     Look,      ///< size or weight of whole lines changes

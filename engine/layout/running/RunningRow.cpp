@@ -72,7 +72,13 @@ public:
     }
 
 private:
+    static bool isFormula(const Word& word) { return !word.spans.empty() && word.spans.front().look.formula >= 0; }
+
     void readWord(std::size_t line, std::size_t index, const Word& word, bool isWholePart) {
+        if (isFormula(word)) {
+            m_row.skeleton += m_page.formulas[static_cast<std::size_t>(word.spans.front().look.formula)].text;
+            return;
+        }
         const std::u32string text = utf32FromUtf8(textOf(word));
         RowNumber place;
         place.line = line;

@@ -55,7 +55,7 @@ void addNoteLines(PageText& note, const PageText& source, std::vector<Line> line
     if (lines.empty())
         return;
     Mover<std::uint32_t> fonts;
-    Mover<int> links;
+    Mover<int> links, formulas;
     const double shift = note.lines.empty() ? 0 : note.lines.back().baseline + leading - lines.front().baseline;
     for (Line& line : lines) {
         moveDown(line, shift);
@@ -65,6 +65,8 @@ void addNoteLines(PageText& note, const PageText& source, std::vector<Line> line
                     span.look.font = fonts.move(span.look.font, source.fonts, note.fonts);
                 if (span.look.link >= 0)
                     span.look.link = links.move(span.look.link, source.links, note.links);
+                if (span.look.formula >= 0)
+                    span.look.formula = formulas.move(span.look.formula, source.formulas, note.formulas);
                 span.mark = -1;
                 span.look.field = -1;
             }

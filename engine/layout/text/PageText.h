@@ -33,6 +33,7 @@ struct Look {
     double characterSpacing = 0; ///< points beyond the font's own advances, averaged over the span
     int link = -1;               ///< index into PageText::links
     int field = -1;              ///< index into PageText::fields
+    int formula = -1;            ///< index into PageText::formulas, for which the span's one character stands
 
     bool operator==(const Look&) const = default;
 };
@@ -126,6 +127,17 @@ struct Figure {
     std::uint32_t paintOrder = 0;
 };
 
+/// A formula that stands on the page as one thing.
+struct Formula {
+    Rect box;                                       ///< of its ink
+    std::vector<Line> lines;                        ///< its text as it would be without knowing that it is a formula
+    std::string text;                               ///< all of it in one line
+    std::optional<document::FormulaPart> structure; ///< where it is certain
+    document::FormulaPlace place = document::FormulaPlace::Displayed;
+    PictureId picture;          ///< how it looks; 0 when it has not been painted
+    bool needsPainting = false; ///< the page's reader is to paint `box` and put the id into `picture`
+};
+
 /// One page after the stages that need no other page.
 struct PageText {
     int number = 0;
@@ -136,6 +148,7 @@ struct PageText {
     std::vector<Rule> rules;
     std::vector<Ground> grounds;
     std::vector<Figure> figures;
+    std::vector<Formula> formulas;
     std::vector<pdf::Link> links;
     std::vector<pdf::Annotation> annotations;
     std::vector<pdf::FormField> fields;

@@ -1,4 +1,5 @@
 #include "layout/Layout.h"
+#include "layout/formulas/FormulaFinder.h"
 #include "layout/graphics/FigureFinder.h"
 #include "layout/graphics/RuleFinder.h"
 #include "layout/text/ClusterBuilder.h"
@@ -47,6 +48,7 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
     text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
 
     findFigures(page, ruled.isTaken, text, parameters, diagnostics);
+    findFormulas(page, selection, text, parameters);
     return text;
 }
 
