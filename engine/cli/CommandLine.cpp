@@ -107,8 +107,8 @@ void addInspect(CLI::App& app, InspectOptions& options) {
         ->type_name("N");
     command
         .add_option("--stage", options.stage,
-                    "words, lines, rules, regions, paragraphs or tables; rules\n"
-                    "shows figures too")
+                    "words, lines, rules, figures, regions, paragraphs or\n"
+                    "tables; rules shows figures too")
         ->required()
         ->type_name("STAGE");
     command.add_option("-o,--output", options.output, "The SVG file to write. Default: IN-pN-STAGE.svg, here")

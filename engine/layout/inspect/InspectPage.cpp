@@ -13,7 +13,7 @@ std::string inspectPage(std::vector<PageText> pages, int number, InspectStage st
     const auto page =
         std::find_if(pages.begin(), pages.end(), [number](const PageText& text) { return text.number == number; });
     // The stages of a page alone show it whole, before the running heads are taken out.
-    if (stage == InspectStage::Words || stage == InspectStage::Lines)
+    if (stage == InspectStage::Words || stage == InspectStage::Lines || stage == InspectStage::Figures)
         return drawStage(*page, nullptr, stage);
     takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);

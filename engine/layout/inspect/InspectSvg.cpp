@@ -18,10 +18,11 @@ constexpr const char* kTable = "#2e7d32";
 constexpr const char* kUsed = "#2e7d32";
 constexpr const char* kFree = "#c62828";
 
-constexpr std::array<std::pair<std::string_view, InspectStage>, 6> kStageNames = {{
+constexpr std::array<std::pair<std::string_view, InspectStage>, 7> kStageNames = {{
     {"words", InspectStage::Words},
     {"lines", InspectStage::Lines},
     {"rules", InspectStage::Rules},
+    {"figures", InspectStage::Figures},
     {"regions", InspectStage::Regions},
     {"paragraphs", InspectStage::Paragraphs},
     {"tables", InspectStage::Tables},
@@ -47,6 +48,9 @@ public:
             break;
         case InspectStage::Rules:
             drawRules();
+            break;
+        case InspectStage::Figures:
+            drawFigures();
             break;
         case InspectStage::Regions:
             drawRegions();
@@ -96,6 +100,22 @@ private:
         }
         for (const Figure& figure : m_page.figures)
             m_canvas.box(figure.box, kFigure, figure.isBackground ? 0.02 : 0.1);
+    }
+
+    void drawFigures() {
+        for (const Figure& figure : m_page.figures) {
+            m_canvas.box(figure.box, kFigure, figure.isBackground ? 0.02 : 0.1);
+            for (const Line& label : figure.labels) {
+                drawText(label);
+                m_canvas.box(label.box, kText);
+            }
+            const char* kind = figure.isBackground ? "background" : figure.paths.empty() ? "picture" : "drawing";
+            m_canvas.label({figure.box.left, figure.box.top}, kind, kFigure);
+        }
+        for (const Formula& formula : m_page.formulas) {
+            m_canvas.box(formula.box, formula.structure ? kUsed : kTab, 0.1);
+            m_canvas.label({formula.box.left, formula.box.top}, formula.text, kFree);
+        }
     }
 
     void drawRegions() {

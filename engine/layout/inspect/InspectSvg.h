@@ -13,6 +13,7 @@ enum class InspectStage : std::uint8_t {
     Words,      ///< boxes of words, by the gap before them
     Lines,      ///< boxes and baselines
     Rules,      ///< rules and grounds, by whether a stage took them, and figures
+    Figures,    ///< pictures, drawings with their labels, formulas
     Regions,    ///< bands and columns
     Paragraphs, ///< everything in reading order, numbered
     Tables,     ///< grids and cells

@@ -170,6 +170,13 @@ std::string dump(const PageText& page) {
         for (const Line& label : figure.labels)
             fmt::format_to(out, "  label {}: {}\n", boxText(label.box), dump(label));
     }
+    for (const Formula& formula : page.formulas)
+        fmt::format_to(out, "formula {}{}{}: {}\n", boxText(formula.box),
+                       formula.place == document::FormulaPlace::InLine ? " in line" : "",
+                       formula.needsPainting ? " to paint"
+                       : formula.structure   ? ""
+                                             : " as text",
+                       formula.text);
     return text;
 }
 

@@ -30,7 +30,7 @@ TEST_F(InspectProgram, DrawsWhatAStageSawOnThePage) {
 
 TEST_F(InspectProgram, EveryStageThatTheHelpNamesIsThere) {
     const std::string pdf = makeTwoPages();
-    for (const char* stage : {"words", "lines", "rules", "regions", "paragraphs", "tables"}) {
+    for (const char* stage : {"words", "lines", "rules", "figures", "regions", "paragraphs", "tables"}) {
         const auto result = orvane({"inspect", pdf, "--stage", stage, "-o", path("out.svg")});
         EXPECT_EQ(result.exitCode, 0) << stage << ": " << result.errorOutput;
         EXPECT_THAT(orvane({"inspect", "--help"}).output, HasSubstr(stage));

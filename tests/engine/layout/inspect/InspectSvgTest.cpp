@@ -29,7 +29,7 @@ PageLayout layoutOf(const PageText& page) {
 TEST(InspectSvg, DrawsEveryStage) {
     const PageText page = twoParagraphs();
     const PageLayout layout = layoutOf(page);
-    for (const char* name : {"words", "lines", "rules", "regions", "paragraphs", "tables"}) {
+    for (const char* name : {"words", "lines", "rules", "figures", "regions", "paragraphs", "tables"}) {
         const auto stage = inspectStageFromName(name);
         ASSERT_TRUE(stage.has_value()) << name;
         const std::string svg = drawStage(page, &layout, *stage);
@@ -45,6 +45,14 @@ TEST(InspectSvg, NumbersBlocksInReadingOrder) {
     const PageLayout layout = layoutOf(page);
     EXPECT_THAT(drawStage(page, &layout, InspectStage::Paragraphs), HasSubstr(">2<"));
     EXPECT_THAT(drawStage(page, nullptr, InspectStage::Paragraphs), Not(HasSubstr(">2<"))) << "nothing to show yet";
+}
+
+TEST(InspectSvg, ShowsWhatFormulasSay) {
+    PageText page = twoParagraphs();
+    Formula& formula = page.formulas.emplace_back();
+    formula.box = {100, 100, 150, 120};
+    formula.text = "a/b";
+    EXPECT_THAT(drawStage(page, nullptr, InspectStage::Figures), HasSubstr(">a/b<"));
 }
 
 TEST(PageLayoutDump, ShowsThePageInReadingOrder) {
