@@ -95,6 +95,7 @@ void composeAccents(PageContent& page) {
             if (letter.unicode.size() != 1 || !isLatinLetter(letter.unicode[0]) || !standsOver(glyphs[i], letter))
                 continue;
             letter.unicode = composed(letter.unicode[0], combining);
+            letter.isComposed = true;
             isTaken[i] = isAnyTaken = true;
             break;
         }

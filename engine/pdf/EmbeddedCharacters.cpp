@@ -1,13 +1,11 @@
 #include "pdf/EmbeddedCharacters.h"
 
 #include "pdf/FontProgram.h"
+#include "pdf/GlyphIndices.h"
 
 #include <algorithm>
-#include <memory>
 
 #include <GfxFont.h>
-#include <fofi/FoFiTrueType.h>
-#include <goo/gmem.h>
 
 namespace orvane::pdf {
 namespace {
@@ -16,15 +14,11 @@ bool isTrueType(GfxFontType type) {
     return type == fontTrueType || type == fontTrueTypeOT;
 }
 
-/// Texts of the codes of a simple TrueType font, whose codes find their glyphs through the program's maps.
 GlyphTexts byTrueTypeCode(Gfx8BitFont& font, const std::vector<unsigned char>& bytes, const GlyphTexts& texts) {
     GlyphTexts byCode;
-    const std::unique_ptr<FoFiTrueType> program = FoFiTrueType::make(bytes.data(), static_cast<int>(bytes.size()));
-    int* const map = program ? font.getCodeToGIDMap(program.get()) : nullptr;
-    for (std::uint32_t code = 0; map && code < 256; ++code)
-        if (const auto text = texts.find(static_cast<std::uint32_t>(map[code])); map[code] > 0 && text != texts.end())
+    for (const auto& [code, glyph] : trueTypeGlyphs(font, bytes))
+        if (const auto text = texts.find(glyph); text != texts.end())
             byCode.emplace(code, text->second);
-    gfree(map);
     return byCode;
 }
 

@@ -60,6 +60,7 @@ struct Glyph {
     bool isOutlined = false;       ///< stroked without fill
     bool isFakeBold = false;       ///< filled and stroked in one colour, or painted twice with a small offset
     bool isUnicodeGuessed = false; ///< not from the file's own map
+    bool isComposed = false;       ///< an accent that was painted by itself belongs to it; `charCode` is the letter's
     Visibility visibility = Visibility::Visible;
     std::int32_t mark = -1;        ///< index into PageContent::marks; -1 outside marked content
     std::uint32_t paintOrder = 0;

@@ -6,6 +6,7 @@
 #include "pdf/DocumentOpener.h"
 #include "pdf/DoublePainting.h"
 #include "pdf/FaceLook.h"
+#include "pdf/FontPacker.h"
 #include "pdf/FormReader.h"
 #include "pdf/GlyphInk.h"
 #include "pdf/LinkReader.h"
@@ -207,6 +208,11 @@ PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double do
     if (complaints.hasSurplusRestore())
         picture = paintRegion(*m_impl->document, page, region, dotsPerInch, words, ContentRepair::SurplusRestores);
     return picture;
+}
+
+std::optional<std::string> PdfDocument::packFont(const FontRequest& request) const {
+    const ComplaintCollector silence;
+    return pdf::packFont(request, *m_impl->document->getXRef());
 }
 
 } // namespace orvane::pdf

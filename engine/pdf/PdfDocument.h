@@ -2,12 +2,14 @@
 
 #include "base/Diagnostic.h"
 #include "base/PictureStore.h"
+#include "pdf/FontRequest.h"
 #include "pdf/PageContent.h"
 #include "pdf/PagePictures.h"
 
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -106,6 +108,10 @@ public:
     /// apart.
     PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch,
                                 PaintedText words = PaintedText::Shown) const;
+
+    /// A TrueType file of the characters asked for, out of the font programs in the file. Unset where these may not
+    /// travel with a document that people edit, see packFont().
+    std::optional<std::string> packFont(const FontRequest& request) const;
 
 private:
     struct Impl;

@@ -1,5 +1,6 @@
 #include "engine/pdf/Type1Program.h"
 
+#include <array>
 #include <cstdint>
 
 namespace orvane::tests {
@@ -19,7 +20,7 @@ std::string encrypted(const std::string& plain, std::uint16_t key) {
     return out;
 }
 
-enum class Command : char { RLineTo = 5, ClosePath = 9, HSbw = 13, EndChar = 14, RMoveTo = 21 };
+enum class Command : char { RLineTo = 5, RRCurveTo = 8, ClosePath = 9, HSbw = 13, EndChar = 14, RMoveTo = 21 };
 
 class Charstring {
 public:
@@ -27,6 +28,11 @@ public:
         number(first);
         number(second);
         add(command);
+    }
+    void addCurve(const std::array<int, 6>& steps) {
+        for (const int step : steps)
+            number(step);
+        add(Command::RRCurveTo);
     }
     void add(Command command) { m_bytes += static_cast<char>(command); }
     const std::string& bytes() const { return m_bytes; }
@@ -40,7 +46,7 @@ private:
     std::string m_bytes;
 };
 
-std::string charstringOf(const std::vector<Polygon>& polygons) {
+std::string charstringOf(const std::vector<Polygon>& polygons, const std::vector<Disk>& disks) {
     Charstring string;
     string.add(0, 600, Command::HSbw);
     int x = 0, y = 0;
@@ -54,25 +60,40 @@ std::string charstringOf(const std::vector<Polygon>& polygons) {
         }
         string.add(Command::ClosePath);
     }
+    for (const Disk& disk : disks) {
+        const int r = disk.radius, bend = static_cast<int>(r * 0.5523);
+        string.add(disk.x + r - x, disk.y - y, Command::RMoveTo);
+        string.addCurve({0, bend, bend - r, r - bend, -bend, 0});
+        string.addCurve({-bend, 0, bend - r, bend - r, 0, -bend});
+        string.addCurve({0, -bend, r - bend, bend - r, bend, 0});
+        string.addCurve({bend, 0, r - bend, r - bend, 0, bend});
+        string.add(Command::ClosePath);
+        x = disk.x + r;
+        y = disk.y;
+    }
     string.add(Command::EndChar);
     return string.bytes();
 }
 
 } // namespace
 
-std::string type1Program(const std::vector<Type1Glyph>& glyphs) {
+std::string type1Program(const std::vector<Type1Glyph>& glyphs, std::optional<int> embeddingBits) {
     std::string charstrings;
-    const auto addGlyph = [&](const std::string& name, const std::vector<Polygon>& polygons) {
-        const std::string code = encrypted(charstringOf(polygons), kCharstringKey);
+    const auto addGlyph = [&](const std::string& name, const std::vector<Polygon>& polygons,
+                              const std::vector<Disk>& disks) {
+        const std::string code = encrypted(charstringOf(polygons, disks), kCharstringKey);
         charstrings += "/" + name + " " + std::to_string(code.size()) + " RD " + code + " ND\n";
     };
-    addGlyph(".notdef", {});
+    addGlyph(".notdef", {}, {});
     for (const Type1Glyph& glyph : glyphs)
-        addGlyph(glyph.name, glyph.polygons);
-    const std::string clear =
-        "%!PS-AdobeFont-1.0: Made 001.000\n12 dict begin\n/FontName /Made def\n/PaintType 0 def\n/FontType 1 def\n"
-        "/FontMatrix [0.001 0 0 0.001 0 0] readonly def\n/Encoding StandardEncoding def\n"
-        "/FontBBox {0 -200 1000 800} readonly def\ncurrentdict end\ncurrentfile eexec\n";
+        addGlyph(glyph.name, glyph.polygons, glyph.disks);
+    const std::string rights = embeddingBits ? "/FontInfo 1 dict dup begin\n/FSType " + std::to_string(*embeddingBits) +
+                                                   " def\nend readonly def\n"
+                                             : "";
+    const std::string clear = "%!PS-AdobeFont-1.0: Made 001.000\n12 dict begin\n" + rights +
+                              "/FontName /Made def\n/PaintType 0 def\n/FontType 1 def\n"
+                              "/FontMatrix [0.001 0 0 0.001 0 0] readonly def\n/Encoding StandardEncoding def\n"
+                              "/FontBBox {0 -200 1000 800} readonly def\ncurrentdict end\ncurrentfile eexec\n";
     const std::string hidden =
         "dup /Private 8 dict dup begin\n/RD {string currentfile exch readstring pop} executeonly def\n"
         "/ND {noaccess def} executeonly def\n/BlueValues [] def\n/password 5839 def\n"
