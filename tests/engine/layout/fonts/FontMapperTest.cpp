@@ -31,6 +31,7 @@ TEST(FontMapper, FindsFamiliesBehindPostScriptNames) {
         {"Times-Roman", "Times New Roman", "one of the fourteen"},
         {"Helvetica-BoldOblique", "Arial", "one of the fourteen"},
         {"Carlito-Bold", "Calibri", "twin by metrics"},
+        {"ArialUnicodeMS", "Arial", "its Latin letters are as wide, and machines have it no more"},
         {"LiberationSerif", "Times New Roman", "twin by metrics"},
         {"NimbusRomNo9L-ReguItal", "Times New Roman", "twin by metrics"},
         {"NotoSansCJKjp-Regular-VKana", "Noto Sans CJK JP", "East Asian, with a variant"},
