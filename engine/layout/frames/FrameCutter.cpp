@@ -40,6 +40,8 @@ public:
                 i = 0;
                 continue;
             }
+            if (isStretched(line, i))
+                line.words[i].gapBefore = Gap::Tab;
             if (line.words[i].gapBefore != Gap::Tab || line.words[i].leaderBefore != document::TabLeader::None)
                 continue;
             if (!hasOwnPlace(line, i)) {
@@ -63,13 +65,23 @@ private:
                behind.box.left < before.box.right - m_parameters.overlap * line.fontSize;
     }
 
-    /// True behind a wide gap, on a line of its own, and where another line starts: below a label the text hangs.
-    bool hasOwnPlace(const Line& line, std::size_t word) const {
+    /// True of a blank in a line by itself that is wider than any: numbers spread evenly along an axis look like words
+    /// of a line that was justified.
+    bool isStretched(const Line& line, std::size_t word) const {
+        return m_starts.size() == 1 && line.words[word].gapBefore == Gap::Space &&
+               gapBefore(line, word) >= m_parameters.widestBlank * line.fontSize;
+    }
+
+    static double gapBefore(const Line& line, std::size_t word) {
         const Rect& before = line.words[word - 1].box;
         const Rect& behind = line.words[word].box;
-        const double gap = std::max(behind.left - before.right, before.left - behind.right);
-        const double start = startOf(behind, line.isRightToLeft);
-        return m_starts.size() == 1 || gap >= m_parameters.widestBlank * line.fontSize ||
+        return std::max(behind.left - before.right, before.left - behind.right);
+    }
+
+    /// True behind a wide gap, on a line of its own, and where another line starts: below a label the text hangs.
+    bool hasOwnPlace(const Line& line, std::size_t word) const {
+        const double start = startOf(line.words[word].box, line.isRightToLeft);
+        return m_starts.size() == 1 || gapBefore(line, word) >= m_parameters.widestBlank * line.fontSize ||
                std::any_of(m_starts.begin(), m_starts.end(),
                            [&](double other) { return std::abs(other - start) <= m_parameters.edgeTolerance; });
     }

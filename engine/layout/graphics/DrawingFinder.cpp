@@ -7,6 +7,7 @@
 #include "layout/text/RuleBox.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane::layout {
 namespace {
@@ -34,7 +35,7 @@ public:
 
     std::vector<Figure> build() {
         groupPaths();
-        dropSpecks();
+        putSpecksAside();
         takeBars();
         for (int pass = 0; pass < m_limits.growthPasses && takeRulesAndGrounds(); ++pass) {
         }
@@ -80,10 +81,13 @@ private:
         }
     }
 
-    void dropSpecks() {
-        std::erase_if(m_drawings, [&](const Figure& drawing) {
+    /// What is too small to be a drawing by itself. In a chart it may be a point.
+    void putSpecksAside() {
+        const auto isSpeck = [&](const Figure& drawing) {
             return std::max(drawing.box.width(), drawing.box.height()) < m_limits.smallest;
-        });
+        };
+        std::copy_if(m_drawings.begin(), m_drawings.end(), std::back_inserter(m_specks), isSpeck);
+        std::erase_if(m_drawings, isSpeck);
     }
 
     /// Charts of bars may be nothing but grounds and rules.
@@ -178,11 +182,11 @@ private:
 
     /// Curves, points and the legend of a chart.
     void uniteFramed() {
-        if (m_drawings.empty())
+        if (m_drawings.empty() && m_specks.empty())
             return;
         for (const Rect& frame : findChartFrames(m_text, m_chartLimits)) {
             Figure chart;
-            std::erase_if(m_drawings, [&](const Figure& drawing) {
+            const auto takeWithin = [&](const Figure& drawing) {
                 const bool isWithin =
                     !isPageWide(drawing.box) && frame.contains(Point{drawing.box.centerX(), drawing.box.centerY()});
                 if (isWithin && chart.paths.empty())
@@ -190,7 +194,9 @@ private:
                 else if (isWithin)
                     takeOver(chart, drawing);
                 return isWithin;
-            });
+            };
+            std::erase_if(m_drawings, takeWithin);
+            std::erase_if(m_specks, takeWithin);
             if (chart.paths.empty())
                 continue;
             chart.box = chart.box.united(frame);
@@ -223,6 +229,7 @@ private:
     const GraphicsParameters::Bars& m_barLimits;
     const GraphicsParameters::Charts& m_chartLimits;
     std::vector<Figure> m_drawings;
+    std::vector<Figure> m_specks;
 };
 
 /// Whether so many words of the line follow each other with no more than blanks between them, over `width` or more. The

@@ -9,6 +9,18 @@
 namespace orvane::layout {
 namespace {
 
+/// Units: points.
+double longestWord(const std::vector<Cluster>& clusters) {
+    double longest = 0;
+    std::size_t first = 0;
+    for (std::size_t i = 0; i < clusters.size(); ++i) {
+        if (i > 0 && clusters[i].gapBefore.endsWord)
+            first = i;
+        longest = std::max(longest, clusters[i].end - clusters[first].start);
+    }
+    return longest;
+}
+
 /// The blank that is usual between the words of a row; 0 when it has too few that may be blanks.
 double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t fewest, double evenness) {
     std::vector<double> gaps, all;
@@ -19,11 +31,12 @@ double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t
                 gaps.push_back(all.back());
         }
     if (gaps.size() < fewest) {
-        // A short line that was stretched to its column has wide blanks, but all alike.
+        // A short line that was stretched to its column has wide blanks, but all alike. Where they are wider than its
+        // words, these stand apart, as numbers along an axis do.
         if (all.size() < fewest)
             return 0;
         const auto [least, most] = std::minmax_element(all.begin(), all.end());
-        return *most - *least <= evenness ? *least : 0;
+        return *most - *least <= evenness && *least <= longestWord(clusters) ? *least : 0;
     }
     const auto middle = gaps.begin() + static_cast<std::ptrdiff_t>(gaps.size() / 2);
     std::nth_element(gaps.begin(), middle, gaps.end());

@@ -99,6 +99,24 @@ TEST(FrameCutter, CutsAtTabulatorsThatGiveTextAPlace) {
         << "a label before text that hangs";
 }
 
+TEST(FrameCutter, CutsAtBlanksThatAreTooWideForThem) {
+    const auto spread = [](double step) {
+        Line line = makeLine("one two six", 72, 100);
+        for (std::size_t i = 1; i < line.words.size(); ++i) {
+            Word& word = line.words[i];
+            const double shift = 72 + step * static_cast<double>(i) - word.box.left;
+            for (Rect* box : {&word.box, &word.spans[0].box}) {
+                box->left += shift;
+                box->right += shift;
+            }
+            line.box = line.box.united(word.box);
+        }
+        return line;
+    };
+    EXPECT_EQ(textsOf(framesOf({spread(60)})), (Texts{"one", "two", "six"}));
+    EXPECT_EQ(textsOf(framesOf({spread(25)})), (Texts{"one two six"}));
+}
+
 TEST(FrameCutter, ALeaderStaysWithinItsLine) {
     Line line = makeLine("Aims\t7", 72, 100);
     line.words[1].leaderBefore = document::TabLeader::Dots;

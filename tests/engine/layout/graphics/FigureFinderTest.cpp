@@ -110,6 +110,24 @@ TEST(FigureFinder, MakesOneDrawingOfAChartWithItsScales) {
     ASSERT_THAT(text.lines, SizeIs(1)) << "the caption stays text";
 }
 
+TEST(FigureFinder, KeepsThePointsOfAChart) {
+    PageContentBuilder page;
+    page.horizontalRule(100, 300, 200);
+    page.horizontalRule(100, 300, 350);
+    page.verticalRule(100, 200, 350);
+    page.verticalRule(300, 200, 350);
+    for (int i = 0; i < 4; ++i) {
+        page.disk({130 + i * 40.0, 330 - i * 30.0}, 3);
+        page.text(88, 203.0 + i * 49, std::to_string(3 - i), 6);
+        page.text(100 + i * 60.0, 360, std::to_string(i), 6);
+    }
+    page.disk({500, 700}, 3); // no chart around it
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_THAT(text.figures[0].paths, SizeIs(testing::Ge(4u)));
+    EXPECT_LE(text.figures[0].box.right, 310);
+}
+
 TEST(FigureFinder, LeavesTheTextBesideADrawingThatIsNoChart) {
     PageContentBuilder page;
     for (int i = 0; i < 6; ++i)

@@ -149,6 +149,16 @@ TEST(LineBuilder, TakesTheEvenGapsOfAStretchedRowForBlanks) {
     EXPECT_THAT(linesOf(page), ElementsAre("one short line stretched", "The line below it."));
 }
 
+TEST(LineBuilder, TakesNumbersThatStandEvenlyApartForNoStretchedRow) {
+    PageContentBuilder page;
+    for (int i = 0; i < 5; ++i)
+        page.text(72 + i * 70, 100, std::to_string(i * 2), 10);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    for (std::size_t i = 1; i < 5; ++i)
+        EXPECT_EQ(text.lines[0].words.at(i).gapBefore, Gap::Tab);
+}
+
 TEST(LineBuilder, MakesLeadersTabs) {
     struct Row {
         const char* filler;
