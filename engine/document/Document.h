@@ -477,6 +477,14 @@ struct Comment {
     std::vector<Block> blocks;
 };
 
+/// A face that travels with the document, for readers without its family.
+struct EmbeddedFont {
+    std::string family;
+    bool isBold = false;
+    bool isItalic = false;
+    std::string program; ///< a whole TrueType file; it has the characters of the document only
+};
+
 struct Metadata {
     std::string title, author, subject, keywords, language;
     std::string created, modified; ///< ISO 8601
@@ -489,6 +497,7 @@ struct Document {
     std::vector<Note> notes;
     NoteCount footnoteCount = NoteCount::Continuous;
     std::vector<Comment> comments;
+    std::vector<EmbeddedFont> fonts;
     /// Whether a line of a justified paragraph that ends with a Break is spread over the whole width, as lines within
     /// the paragraph are. It suits lines that were cut by hand where they ended on the page; a line that somebody ended
     /// early is left at its natural width.

@@ -4,6 +4,7 @@
 #include "base/JobObserver.h"
 #include "document/Document.h"
 #include "layout/LayoutParameters.h"
+#include "layout/fonts/CarriedFonts.h"
 #include "layout/text/PageText.h"
 #include "pdf/PdfDocument.h"
 
@@ -26,6 +27,7 @@ struct DocumentFacts {
     pdf::Metadata metadata;
     std::vector<pdf::OutlineEntry> outline;
     std::vector<pdf::StructureElement> structure;
+    std::vector<CarriedFont> fonts; ///< that the document brings along; for LayoutMode::TruePage
 };
 
 /// The stages that need one page only: words, lines, rules, grounds, figures.

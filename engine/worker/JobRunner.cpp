@@ -11,6 +11,7 @@
 #include "protocol/PartFile.h"
 #include "worker/Capabilities.h"
 #include "worker/ContentCounter.h"
+#include "worker/FontCarrier.h"
 #include "worker/PageReader.h"
 #include "worker/PictureFolder.h"
 #include "worker/ScratchFolder.h"
@@ -175,7 +176,8 @@ void JobRunner::convert() {
                                m_reporter);
 
     m_reporter.stageReached(JobStage::Generating, 0, 0);
-    const layout::DocumentFacts facts{source.metadata(), source.outline(), source.structureTree()};
+    const layout::DocumentFacts facts{source.metadata(), source.outline(), source.structureTree(),
+                                      carriedFonts(m_job, source, read.pages, parameters)};
     const document::Document document =
         layout::layoutDocument(std::move(read.pages), facts, layoutRequest(m_job), parameters, m_reporter, diagnostics);
     requireNotCancelled(m_reporter);

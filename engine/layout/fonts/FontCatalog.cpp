@@ -8,7 +8,8 @@
 
 namespace orvane::layout {
 
-FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& parameters, Tracking tracking)
+FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& parameters, Tracking tracking,
+                         const CarriedFonts& carried)
     : m_unknown(mapFont(pdf::Font{})) {
     for (const PageLayout& page : draft.pages) {
         m_fonts.emplace_back();
@@ -17,6 +18,10 @@ FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& param
     }
     resolveFallbacks(m_fonts, draft, parameters.fallbacks);
     fitFonts(m_fonts, draft, tracking, parameters.fontFit);
+    // What was found to stand in for fonts that are brought along is not needed.
+    for (std::size_t page = 0; page < m_fonts.size(); ++page)
+        for (std::size_t font = 0; font < m_fonts[page].size(); ++font)
+            carried.apply(draft.pages[page].fonts[font], m_fonts[page][font]);
     std::array<std::map<std::string, std::size_t>, 3> counts;
     forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {
         for (const DraftPiece& piece : paragraph.pieces)

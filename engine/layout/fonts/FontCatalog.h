@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/fonts/CarriedFonts.h"
 #include "layout/fonts/FontFitter.h"
 #include "layout/structure/DocumentDraft.h"
 #include "layout/text/ScriptClass.h"
@@ -13,7 +14,8 @@ namespace orvane::layout {
 /// The fonts of all pages as the document names them, and its most used family for each kind of script.
 class FontCatalog {
 public:
-    FontCatalog(const DocumentDraft& draft, const FontParameters& parameters, Tracking tracking = Tracking::InWidths);
+    FontCatalog(const DocumentDraft& draft, const FontParameters& parameters, Tracking tracking = Tracking::InWidths,
+                const CarriedFonts& carried = {});
 
     /// Requires: `font` is an index into the page's fonts, or the page has none.
     const MappedFont& font(std::size_t page, std::uint32_t font) const;

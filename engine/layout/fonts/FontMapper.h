@@ -3,6 +3,8 @@
 #include "layout/fonts/FontTable.h"
 #include "pdf/PageContent.h"
 
+#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -19,7 +21,11 @@ struct MappedFont {
     bool isStandIn = false;     ///< the family is another one than the font's
     int widthPercent = 100;     ///< to stretch the family's letters to, so that they take the room of the font's
     bool isLineKnown = false;   ///< ascent and descent are those of the family, not a guess
+    /// em, by character; of a font that the document brings along, so that letters are as wide as in the PDF. Null for
+    /// others.
+    std::shared_ptr<const std::map<char32_t, double>> carriedAdvances{};
 
+    bool isCarried() const { return carriedAdvances != nullptr; }
     double lineHeight() const { return ascent + descent; }
 };
 

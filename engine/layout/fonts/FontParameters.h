@@ -24,6 +24,11 @@ struct FontParameters {
         std::size_t fewestSigns = 3; ///< bytes of digits and punctuation it takes to see the chosen font
         double sureShare = 0.9;      ///< of what stands in a font that must be letters, and of the signs in one font
     } fallbacks;
+
+    /// CarriedFonts: fonts that travel with the document.
+    struct Carried {
+        double leastCoverage = 0.98; ///< of the text's characters; what is missing is shown in another face
+    } carried;
 };
 
 } // namespace orvane::layout

@@ -35,8 +35,24 @@ double stretchOf(const MappedFont& font) {
 }
 
 bool areWidthsKnown(const Span& span, const MappedFont& font) {
+    if (font.isCarried())
+        return true;
     const bool isSimple = !font.isSymbol && scriptClassOf(span.text) == ScriptClass::Simple;
     return isSimple ? hasKnownWidths(font.family) : font.isLineKnown;
+}
+
+/// Natural width of a text. Units: em.
+std::optional<double> widthIn(const MappedFont& font, FontFace face, const std::u32string& text) {
+    if (!font.isCarried())
+        return naturalWidth(text, font.family, face);
+    double width = 0;
+    for (const char32_t character : text) {
+        const auto advance = font.carriedAdvances->find(character);
+        if (advance == font.carriedAdvances->end())
+            return std::nullopt;
+        width += advance->second;
+    }
+    return width;
 }
 
 } // namespace
@@ -100,8 +116,7 @@ std::optional<PartMeasure> LineMeter::measure(const Line& line, std::span<const 
             const Look& look = (&word - 1)->spans.back().look;
             measure.blanks = word.blanksBefore;
             measure.naturalBlank = naturalBlank(look);
-            part.knowsBlanks =
-                part.knowsBlanks && advanceOf(m_fonts.font(m_page, look.font).family, faceOf(look), U' ');
+            part.knowsBlanks = part.knowsBlanks && widthIn(m_fonts.font(m_page, look.font), faceOf(look), U" ");
         }
         part.words.push_back(measure);
     }
@@ -110,8 +125,7 @@ std::optional<PartMeasure> LineMeter::measure(const Line& line, std::span<const 
 
 double LineMeter::naturalBlank(const Look& look) const {
     const MappedFont& font = m_fonts.font(m_page, look.font);
-    return advanceOf(font.family, faceOf(look), U' ').value_or(m_parameters.usualBlank) * writtenSize(look) *
-           stretchOf(font);
+    return widthIn(font, faceOf(look), U" ").value_or(m_parameters.usualBlank) * writtenSize(look) * stretchOf(font);
 }
 
 std::optional<double> LineMeter::naturalWidthOf(const Span& span, double length) const {
@@ -121,7 +135,7 @@ std::optional<double> LineMeter::naturalWidthOf(const Span& span, double length)
     const bool isPlain = look.verticalPosition == document::VerticalPosition::Baseline && !look.isSmallCaps;
     const double kept = m_tracking == Tracking::Kept ? look.characterSpacing * static_cast<double>(text.size()) : 0;
     if (isPlain)
-        if (const auto known = naturalWidth(text, font.family, faceOf(look)))
+        if (const auto known = widthIn(font, faceOf(look), text))
             return *known * writtenSize(look) * stretchOf(font) + kept;
     // The font's own widths are those of its family, where it is one that word processors have.
     const bool isOwn = font.isLineKnown || font.isSymbol || scriptClassOf(span.text) != ScriptClass::Simple;

@@ -4,6 +4,7 @@
 #include "base/Geometry.h"
 #include "base/PictureData.h"
 #include "document/Document.h"
+#include "pdf/FontRequest.h"
 #include "pdf/PageContent.h"
 
 #include <cstdint>
@@ -144,6 +145,7 @@ struct PageText {
     double width = 0;
     double height = 0;
     std::vector<pdf::Font> fonts;
+    std::vector<std::vector<pdf::FontCharacter>> characters; ///< that each font shows, see charactersOf()
     std::vector<Line> lines; ///< top to bottom, not yet in reading order
     std::vector<Rule> rules;
     std::vector<Ground> grounds;

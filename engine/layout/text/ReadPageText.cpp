@@ -4,6 +4,7 @@
 #include "layout/graphics/RuleFinder.h"
 #include "layout/text/ClusterBuilder.h"
 #include "layout/text/FieldSigns.h"
+#include "layout/text/FontCharacters.h"
 #include "layout/text/FrameFinder.h"
 #include "layout/text/GlyphFilter.h"
 #include "layout/text/LineBuilder.h"
@@ -56,7 +57,9 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
 
 PageText readPageText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
     const bool isForm = std::any_of(page.fields.begin(), page.fields.end(), isFilledIn);
-    return readText(isForm ? withFieldSigns(page, parameters.fields) : page, parameters, diagnostics);
+    PageText text = readText(isForm ? withFieldSigns(page, parameters.fields) : page, parameters, diagnostics);
+    text.characters = charactersOf(page);
+    return text;
 }
 
 } // namespace orvane::layout

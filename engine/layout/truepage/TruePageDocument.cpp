@@ -102,7 +102,7 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
     DocumentDraft draft = draftOf(pages, context, parameters, observer, diagnostics);
     const LinkTargets links(draft, facts.outline, diagnostics);
     const Tracking tracking = request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths;
-    const FontCatalog fonts(draft, parameters, tracking);
+    const FontCatalog fonts(draft, parameters, tracking, CarriedFonts(facts.fonts));
     fitLines(draft.blocks, fonts, tracking, parameters.textBoxes);
     const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
     std::vector<BlockFlow> flows;
@@ -122,6 +122,8 @@ document::Document truePageDocument(std::vector<PageText> pages, const DocumentF
         binder.add(draft.pages[page], backdropOf(pages[page]), std::move(frames));
     }
     document.sections = binder.take();
+    for (const CarriedFont& font : facts.fonts)
+        document.fonts.push_back({font.request.family, font.request.isBold, font.request.isItalic, font.program});
     return document;
 }
 

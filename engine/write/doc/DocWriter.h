@@ -30,6 +30,7 @@
 ///   [x] footnotes, endnotes, with marks of their own or counted
 ///   [-] formulas are pictures
 ///   [x] form fields: text, check box, list; dates are text fields
+///   [ ] fonts that the document brings along
 ///   [ ] origins (pages and rectangles of the source)
 namespace orvane::write {
 

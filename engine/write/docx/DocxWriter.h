@@ -9,6 +9,7 @@
 /// What of the document model this writer puts into the file: [x] whole, [-] in part, [ ] not.
 ///
 ///   [x] characters: fonts by script, size, weight, slant, colour, ground, underline, spacing, width, raise, language
+///   [x] fonts that the document brings along
 ///   [x] paragraphs: alignment, indents, spacing, tabs, borders, ground, outline level, keeping together, direction
 ///   [x] styles, each as its difference against the one below
 ///   [x] lists of nine levels, equal ones with a shared definition, each started anew

@@ -1,6 +1,7 @@
 #include "write/docx/FontTablePart.h"
 
 #include "write/FontKinds.h"
+#include "write/docx/EmbeddedFontParts.h"
 #include "write/docx/XmlPart.h"
 
 namespace orvane::write::docx {
@@ -41,6 +42,7 @@ void addFontTablePart(DocumentState& state, Relationships& relationships) {
             part.xml().leaf("w:charset", {{"w:val", "02"}});
         part.xml().leaf("w:family", {{"w:val", nameOf(kind)}});
         part.xml().leaf("w:pitch", {{"w:val", kind == FontKind::Modern ? "fixed" : "variable"}});
+        embedFonts(state.document, name, part.xml(), part.relationships(), state.package);
     }
     part.xml().end();
     part.addTo(state.package);

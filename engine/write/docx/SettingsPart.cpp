@@ -43,6 +43,10 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
     xml.leaf("w:zoom", {{"w:percent", 100}});
     if (state.document.pageColor)
         xml.leaf("w:displayBackgroundShape");
+    if (!state.document.fonts.empty()) {
+        xml.leaf("w:embedTrueTypeFonts");
+        xml.leaf("w:saveSubsetFonts");
+    }
     xml.leaf("w:defaultTabStop", {{"w:val", 720}});
     if (state.document.dividesWords)
         xml.leaf("w:autoHyphenation");

@@ -29,6 +29,7 @@
 ///   [x] footnotes, endnotes, with marks of their own or counted; comments
 ///   [-] formulas are pictures
 ///   [-] form fields: text, check box, choice of up to 25; dates are text fields
+///   [ ] fonts that the document brings along
 ///   [ ] origins (pages and rectangles of the source)
 namespace orvane::write {
 

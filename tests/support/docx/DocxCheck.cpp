@@ -148,7 +148,8 @@ private:
         const std::pair<const char*, const char*> uses[] = {{"//w:hyperlink/@r:id", "hyperlink"},
                                                             {"//a:blip/@r:embed", "image"},
                                                             {"//w:headerReference/@r:id", "header"},
-                                                            {"//w:footerReference/@r:id", "footer"}};
+                                                            {"//w:footerReference/@r:id", "footer"},
+                                                            {"//w:font/*/@r:id", "font"}};
         for (const auto& [xpath, type] : uses)
             for (const pugi::xpath_node& use : xml.select_nodes(xpath)) {
                 const auto& known = m_relationships[name];

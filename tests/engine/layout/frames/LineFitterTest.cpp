@@ -1,6 +1,7 @@
 #include "layout/frames/LineFitter.h"
 
 #include "engine/layout/DraftSupport.h"
+#include "layout/frames/LineMeter.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +70,20 @@ TEST(LineFitter, MeasuresInTheSizeThatFormatsHold) {
 TEST(LineFitter, LeavesLinesAloneThatAreAsWide) {
     EXPECT_EQ(stretchIn(draftOf("Georgia", makeLine("some text", 72, 100))), 1) << "its widths are the font's own";
     EXPECT_EQ(stretchIn(draftOf(kTimes, makeLine("rr\trr", 72, 100))), 1) << "tabulators take what is left";
+}
+
+TEST(LineFitter, MeasuresFontsThatTravelByTheirOwnAdvances) {
+    DocumentDraft draft = draftOf("Lato", makeLine("abab", 72, 100));
+    draft.pages[0].fonts[0].objectNumber = 7;
+    CarriedFont font;
+    font.request.family = "Lato";
+    font.request.sources = {{7, {{U'a', 'a', 0.5}, {U'b', 'b', 0.6}}}};
+    const FontCatalog fonts(draft, FontParameters(), Tracking::InWidths, CarriedFonts(std::vector{font}));
+    EXPECT_TRUE(areWidthsKnown(draft.blocks[0].paragraph()->pieces[0].text, 0, fonts));
+    fitLines(draft.blocks, fonts, Tracking::InWidths, {});
+    // Each character is half an em wide on the page, where the letters were drawn together.
+    EXPECT_NEAR(draft.blocks[0].paragraph()->pieces[0].text.lines[0].words[0].spans[0].look.horizontalScale, 2 / 2.2,
+                0.006);
 }
 
 TEST(LineFitter, SetsBlanksSoThatWordsStartWhereTheyStood) {

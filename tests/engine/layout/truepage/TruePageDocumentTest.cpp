@@ -63,6 +63,28 @@ TEST(TruePageDocument, PutsTextIntoFramesWhereItStood) {
     EXPECT_EQ(paragraph.properties.lineSpacing.height, twipsFromPoints(12));
 }
 
+TEST(TruePageDocument, BringsFontsAlong) {
+    PageText page = makePage(1);
+    pdf::Font lato;
+    lato.name = "Lato";
+    lato.objectNumber = 7;
+    page.fonts = {lato};
+    page.lines = {makeLine("some text", 72, 140)};
+    DocumentFacts facts;
+    CarriedFont carried;
+    carried.request.family = "Lato";
+    carried.request.sources = {{7, {}}};
+    carried.program = "a program";
+    facts.fonts.push_back(carried);
+    Diagnostics diagnostics;
+    const Document document =
+        truePageDocument({page}, facts, {LayoutMode::TruePage, false, false}, {}, Starter(false), diagnostics);
+    ASSERT_EQ(document.fonts.size(), 1u);
+    EXPECT_EQ(document.fonts[0].family, "Lato");
+    EXPECT_EQ(document.fonts[0].program, "a program");
+    EXPECT_EQ(document.styles.front().run.fontFamily, "Lato") << "no other family stands in for it";
+}
+
 TEST(TruePageDocument, HasOnePageForEachPage) {
     PageText wide = makePage(3);
     std::swap(wide.width, wide.height);
