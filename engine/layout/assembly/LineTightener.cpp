@@ -1,6 +1,7 @@
 #include "layout/assembly/LineTightener.h"
 
 #include "layout/assembly/BlockPlace.h"
+#include "layout/support/Tally.h"
 
 #include <limits>
 #include <map>
@@ -51,6 +52,11 @@ public:
         for (const GivenSpacing& given : m_given)
             if (isTooHigh(given))
                 setSingle(*given.block);
+        for (BlockFlow& flow : m_flows)
+            closeUp(flow.blocks);
+        for (document::Style& style : styles)
+            if (m_closedUp.contains(style.id))
+                followParagraphs(style);
     }
 
 private:
@@ -90,6 +96,48 @@ private:
         measureLines(block, m_context);
     }
 
+    /// Lines of one style, each a paragraph, that stand closer than even single spacing allows: their fonts' lines are
+    /// lower than thought, or their height was set.
+    void closeUp(std::vector<AssembledBlock>& blocks) {
+        forEachPair(blocks, [this](AssembledBlock& upper, AssembledBlock& lower) {
+            if (!upper.draftParagraph() || !lower.draftParagraph() ||
+                upper.paragraph()->style != lower.paragraph()->style ||
+                upper.bottom - lower.top <= m_context.parameters.spacing.sameGap)
+                return;
+            const Line& last = upper.draftParagraph()->lastLine();
+            const double distance = lower.draftParagraph()->firstLine().baseline - last.baseline;
+            if (distance < last.fontSize)
+                return; // beside each other rather
+            for (AssembledBlock* block : {&upper, &lower})
+                if (isGiven(*block) && !isExact(*block))
+                    setExact(*block, distance);
+        });
+    }
+
+    void setExact(AssembledBlock& block, double height) {
+        if (block.bottom - block.lastTop <= height)
+            return;
+        m_closedUp.insert(block.paragraph()->style);
+        block.paragraph()->properties.lineSpacing = {document::LineSpacingRule::Exact, 1.0, twipsFromPoints(height)};
+        measureLines(block, m_context);
+    }
+
+    /// What most paragraphs of a style have belongs to the style.
+    void followParagraphs(document::Style& style) {
+        Tally<document::LineSpacing> spacings;
+        double count = 0;
+        for (BlockFlow& flow : m_flows)
+            forEachBlock(flow.blocks, flow.kind, [&](AssembledBlock& block, FlowKind) {
+                if (!block.draftParagraph() || block.paragraph()->style != style.id)
+                    return;
+                spacings.add(block.paragraph()->properties.lineSpacing);
+                ++count;
+            });
+        const document::LineSpacing* usual = spacings.heaviest();
+        if (usual && 2 * spacings.weightOf(*usual) > count)
+            style.paragraph.lineSpacing = *usual;
+    }
+
     /// Styles that have their spacing from another one, and whose lines mostly have no room for it.
     std::set<StyleId> stylesTooHigh() const {
         std::map<StyleId, int> surplus; // lines without room less those with
@@ -110,6 +158,7 @@ private:
     std::vector<BlockFlow>& m_flows;
     const AssemblyContext& m_context;
     std::vector<GivenSpacing> m_given;
+    std::set<StyleId> m_closedUp; ///< styles of paragraphs whose lines were
 };
 
 } // namespace

@@ -194,6 +194,15 @@ DocumentDraft draftOfCloseHeadings(double headingPitch) {
     return draft;
 }
 
+TEST(SpacingFinder, GivesSingleLinesThatStandVeryCloseTheirDistance) {
+    const auto document = documentOf(draftOfLines({{"one", 100}, {"two", 110}, {"three", 120}, {"far below", 160}}));
+    const document::LineSpacing close{document::LineSpacingRule::Exact, 1.0, Twips(200)};
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(paragraphAt(document, i).properties.lineSpacing, close) << i;
+    EXPECT_EQ(paragraphAt(document, 3).properties.lineSpacing, document::LineSpacing());
+    EXPECT_EQ(styleOf(document, "Normal").paragraph.lineSpacing, close) << "most of its paragraphs have it";
+}
+
 TEST(SpacingFinder, GivesSingleLinesTheSpacingOfBodyTextWhereThereIsRoom) {
     const auto document = documentOf(draftOfCloseHeadings(2 * kLine));
     EXPECT_DOUBLE_EQ(styleOf(document, "Heading1").paragraph.lineSpacing.multiple, 1.5);
