@@ -112,6 +112,8 @@ AssembledBlock assembleFigure(const FigureDraft& draft, const DraftBlock& place,
     }
     if (draft.figure.isBackground)
         figure.placement.wrapping = document::Wrapping::BehindText;
+    else if (draft.isOverlaid)
+        figure.placement.wrapping = document::Wrapping::None;
     assembled.block = {std::move(figure)};
     return assembled;
 }

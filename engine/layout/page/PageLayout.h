@@ -54,7 +54,8 @@ struct TableDraft {
 /// A picture or drawing in its place in the reading order.
 struct FigureDraft {
     Figure figure;
-    bool isInline = false; ///< stands alone between paragraphs, or within a line; else it floats beside the text
+    bool isInline = false;   ///< stands alone between paragraphs, or within a line; else it floats beside the text
+    bool isOverlaid = false; ///< floats over another figure, which does not make way for it
 };
 
 struct PageBlock {

@@ -86,7 +86,8 @@ private:
                 continue;
             }
             const bool hangs = block.box.top < tops.of(block.page) - m_parameters.pageSetup.sameEdge;
-            figure->isInline = !hangs && !(above && standsBeside(block, *above));
+            figure->isOverlaid = above && standsBeside(block, *above);
+            figure->isInline = !hangs && !figure->isOverlaid;
             if (figure->isInline)
                 above = &block;
         }

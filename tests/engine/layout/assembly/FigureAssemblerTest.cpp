@@ -49,6 +49,22 @@ TEST(FigureAssembler, HangsADrawingAndItsLabelsOnAParagraphOfItsHeight) {
     EXPECT_EQ(room.properties.lineSpacing.height, twipsFromPoints(100));
 }
 
+TEST(FigureAssembler, LetsNothingMakeWayForAPictureOverAnother) {
+    DocumentDraft draft = makeDraft(1);
+    for (const bool isOverlaid : {false, true}) {
+        draft.blocks.push_back(tests::makePictureBlock({72, 120, 272, 220}));
+        auto& figure = std::get<FigureDraft>(draft.blocks.back().value);
+        figure.isInline = false;
+        figure.isOverlaid = isOverlaid;
+    }
+    const document::Document document = tests::documentOf(draft);
+    std::vector<document::Wrapping> wrappings;
+    for (const document::Block& block : document.sections.at(0).blocks)
+        if (const auto* figure = std::get_if<document::Figure>(&block.value))
+            wrappings.push_back(figure->placement.wrapping);
+    EXPECT_EQ(wrappings, (std::vector{document::Wrapping::Square, document::Wrapping::None}));
+}
+
 TEST(FigureAssembler, LetsAPictureReachIntoTheMargins) {
     DocumentDraft draft = makeDraft(1);
     draft.blocks.push_back(tests::makePictureBlock({22, 120, 553, 220}));
