@@ -18,6 +18,7 @@ struct AssemblyParameters {
         double highestMultiple = 3.5;     ///< likewise above
         double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
         double smallestIndent = 1.0;      ///< points; less is noise
+        double smallestEndIndent = 3.0;   ///< points; likewise where lines that look justified end before their column
         double sameGap = 0.6;             ///< points; gaps between paragraphs that differ by less are one
         double smallestSpacer = 1.0;      ///< points; less space above a table needs no paragraph of its own
         double largestGap = 72.0;         ///< points; what is more is an empty part of the page, which no style has
@@ -46,6 +47,7 @@ struct AssemblyParameters {
         double usualMargin = 5.4;   ///< points; between a cell's side and its text, unless less is seen
         double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
         double slackBelow = 0.6;    ///< points; of the room below the text that is not written as a margin
+        double slackBeside = 0.6;   ///< points; likewise of the room where its lines end
     } tableCells;
 
     /// FigureAssembler.

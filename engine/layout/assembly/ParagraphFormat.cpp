@@ -19,19 +19,37 @@ Twips indent(double points, double smallest) {
 }
 
 /// Measures the indents from the section's column, whose edges the page alone did not show.
-void setIndents(const DraftPiece& piece, double smallest, document::ParagraphProperties& format) {
+void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, document::ParagraphProperties& format) {
+    const AssemblyParameters::Spacing& limits = parameters.spacing;
     const Line& line = piece.text.lines.front();
     const double first = line.isRightToLeft ? piece.column.right - line.box.right : line.box.left - piece.column.left;
-    format.indentStart = indent(first - piece.text.firstLine, smallest);
-    format.firstLine = indent(piece.text.firstLine, smallest);
+    format.indentStart = indent(first - piece.text.firstLine, limits.smallestIndent);
+    format.firstLine = indent(piece.text.firstLine, limits.smallestIndent);
     // The fullest line ends where the indent is.
     double end = std::numeric_limits<double>::infinity();
     for (const Line& l : piece.text.lines)
         end = std::min(end, l.isRightToLeft ? l.box.left - piece.column.left : piece.column.right - l.box.right);
     // Ideographs leave less than one of them free, and a full stop of theirs may stand beyond the edge.
-    const double least = endsWithoutBlanks(line) ? line.fontSize : smallest;
-    if (piece.text.alignment == Alignment::Justified || end < 0)
-        format.indentEnd = indent(end, least);
+    const double least = endsWithoutBlanks(line) ? line.fontSize
+                         : end > 0               ? limits.smallestEndIndent
+                                                 : limits.smallestIndent;
+    // A line as wide as it may be to the last hair may find no room in another program.
+    if ((format.alignment == Alignment::Justified || end < 0) && std::abs(end) >= least)
+        format.indentEnd = twipsFromPoints(end - parameters.pageSetup.roomSlack);
+}
+
+/// How far from the left or right side of the page a line reaches in its direction.
+double reachOf(const Line& line) {
+    return line.isRightToLeft ? -line.box.left : line.box.right;
+}
+
+/// Whether the last line is fuller than all before it, which it never is in justified text.
+bool isLastFullest(const DraftParagraph& paragraph, double tolerance) {
+    const std::vector<Line>& lines = paragraph.pieces.front().text.lines;
+    if (paragraph.pieces.size() > 1 || lines.size() < 2)
+        return false;
+    return std::none_of(lines.begin(), lines.end() - 1,
+                        [&](const Line& line) { return reachOf(line) + tolerance >= reachOf(lines.back()); });
 }
 
 /// An item has the indents of its list's level unless it clearly stands elsewhere.
@@ -72,9 +90,11 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
     document::ParagraphProperties format;
     format.alignment = first.text.alignment;
     format.isRightToLeft = paragraph.firstLine().isRightToLeft;
+    if (format.alignment == Alignment::Justified && isLastFullest(paragraph, parameters.spacing.smallestEndIndent))
+        format.alignment = Alignment::Start;
     // The edges of centred lines, and the start of those set against the end, follow from their lengths.
     if (format.alignment != Alignment::Center && format.alignment != Alignment::End)
-        setIndents(first, parameters.spacing.smallestIndent, format);
+        setIndents(first, parameters, format);
     if (paragraph.list)
         takeListIndents(
             numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],

@@ -139,7 +139,7 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     const double margin = sideMargin(draft, limits);
     for (const DraftCell& cell : draft.cells) {
         table.rows.at(static_cast<std::size_t>(cell.cell.row))
-            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, limits.slackBelow)));
+            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, limits.slackBeside)));
         assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margin), context));
     }
     assembled.block.value = std::move(table);

@@ -20,13 +20,14 @@ ParagraphProperties formatOfLines(std::vector<Line> lines, document::Alignment a
 
 TEST(ParagraphFormat, LetsTextReachPastTheColumnWhereItDid) {
     const auto format = formatOfLines({makeLine(std::string(100, 'x'), 72, 100)}, document::Alignment::Start);
-    EXPECT_NEAR(pointsFromTwips(format.indentEnd), 523 - (72 + 500), 0.1) << "else the line would break";
+    EXPECT_NEAR(pointsFromTwips(format.indentEnd), 523 - (72 + 500) - 0.5, 0.1) << "else the line would break";
 }
 
 TEST(ParagraphFormat, SeesAnEndIndentOnlyWhereTextIsJustified) {
     const auto lines = [] { return std::vector{makeLine("words that end early", 72, 100), makeLine("and", 72, 112)}; };
     EXPECT_EQ(formatOfLines(lines(), document::Alignment::Start).indentEnd, Twips(0));
-    EXPECT_NEAR(pointsFromTwips(formatOfLines(lines(), document::Alignment::Justified).indentEnd), 523 - 172, 0.1);
+    EXPECT_NEAR(pointsFromTwips(formatOfLines(lines(), document::Alignment::Justified).indentEnd), 523 - 172 - 0.5,
+                0.1);
 }
 
 TEST(ParagraphFormat, SeesNoEndIndentInWhatIdeographsLeaveFree) {
@@ -38,6 +39,27 @@ TEST(ParagraphFormat, SeesNoEndIndentInWhatIdeographsLeaveFree) {
     EXPECT_EQ(formatOfLines(lines(523 - 8), document::Alignment::Justified).indentEnd, Twips(0));
     EXPECT_EQ(formatOfLines(lines(523 + 8), document::Alignment::Start).indentEnd, Twips(0)) << "a hanging full stop";
     EXPECT_NE(formatOfLines(lines(523 - 30), document::Alignment::Justified).indentEnd, Twips(0));
+}
+
+TEST(ParagraphFormat, OverlooksWhereLinesHappenToEnd) {
+    const auto endOf = [](std::size_t characters) {
+        return formatOfLines({makeLine(std::string(characters, 'x'), 71, 100)}, document::Alignment::Justified)
+            .indentEnd;
+    };
+    EXPECT_EQ(endOf(90), Twips(0)) << "two points before the edge";
+    EXPECT_NEAR(pointsFromTwips(endOf(89)), 7 - 0.5, 0.1) << "with a hair of room";
+}
+
+TEST(ParagraphFormat, KnowsTextThatIsNotJustifiedByItsLastLine) {
+    const auto formatWith = [](std::size_t last) {
+        return formatOfLines({makeLine(std::string(60, 'x'), 72, 100), makeLine(std::string(last, 'x'), 72, 112)},
+                             document::Alignment::Justified);
+    };
+    EXPECT_EQ(formatWith(20).alignment, document::Alignment::Justified);
+    EXPECT_EQ(formatWith(60).alignment, document::Alignment::Justified);
+    EXPECT_EQ(formatWith(70).alignment, document::Alignment::Start)
+        << "no line of justified text is fuller than others";
+    EXPECT_EQ(formatWith(70).indentEnd, Twips(0));
 }
 
 TEST(ParagraphFormat, DrawsTheRulesBetweenEqualParagraphs) {
