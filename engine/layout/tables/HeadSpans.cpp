@@ -1,47 +1,13 @@
 #include "layout/tables/HeadSpans.h"
 
+#include "layout/tables/ColumnText.h"
+#include "layout/tables/HeadPlan.h"
+
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <limits>
-#include <map>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
-
-/// Which edge the texts of a column keep.
-enum class KeptEdge : std::size_t { Left, Middle, Right };
-
-/// Where the texts of one column stand.
-struct ColumnText {
-    std::vector<Rect> boxes;
-    Rect box; ///< around them
-    KeptEdge kept = KeptEdge::Left;
-    std::array<double, 3> edges{}; ///< by KeptEdge, of the text in the middle
-};
-
-double edgeOf(const Rect& box, std::size_t edge) {
-    return box.left + 0.5 * static_cast<double>(edge) * box.width();
-}
-
-void measure(ColumnText& column) {
-    double least = std::numeric_limits<double>::infinity();
-    for (std::size_t edge = 0; edge < column.edges.size() && !column.boxes.empty(); ++edge) {
-        std::vector<double> values;
-        for (const Rect& box : column.boxes)
-            values.push_back(edgeOf(box, edge));
-        std::sort(values.begin(), values.end());
-        column.edges[edge] = values[values.size() / 2];
-        double spread = 0;
-        for (const double value : values)
-            spread += std::abs(value - column.edges[edge]);
-        constexpr double kArithmetic = 0.01; // points; of equal edges the first counts
-        if (spread < least - kArithmetic) {
-            least = spread;
-            column.kept = static_cast<KeptEdge>(edge);
-        }
-    }
-}
 
 /// One cell of a head, with what it may grow to.
 struct Head {
@@ -178,7 +144,8 @@ private:
         head.choices.push_back(head.range);
         for (int from = first; from <= head.range.first; ++from)
             for (int to = head.range.last; to <= last; ++to)
-                if (to - from > head.range.last - head.range.first && isInTheMiddle(head.box, {from, to}))
+                if (to - from > head.range.last - head.range.first &&
+                    isInTheMiddle(head.box, m_columns, {from, to}, m_parameters))
                     head.choices.push_back({from, to});
     }
 
@@ -216,50 +183,12 @@ private:
         return box;
     }
 
-    /// Whether the middle of the head is that of the columns: of their texts, or of the cells that these show by the
-    /// edge which they keep.
-    bool isInTheMiddle(const Rect& head, const ColumnRange& range) const {
-        if (at(range.first).boxes.empty() || at(range.last).boxes.empty())
-            return false;
-        const auto edge = static_cast<std::size_t>(at(range.first).kept);
-        const double from = at(range.first).edges[edge];
-        const double to = at(range.last).edges[edge];
-        const double width = (to - from) / (range.last - range.first);
-        const double tolerance = m_parameters.headCenter * width;
-        const double ofCells = (from + to) / 2 + 0.5 * (1.0 - static_cast<double>(edge)) * width;
-        const double ofTexts = (at(range.first).box.left + at(range.last).box.right) / 2;
-        return std::abs(ofCells - head.centerX()) <= tolerance || std::abs(ofTexts - head.centerX()) <= tolerance;
-    }
-
     /// Gives the heads of a row those of their choices that do not overlap and leave fewest places empty.
     void widen(int row, const std::vector<Head>& heads) {
-        struct Plan {
-            int covered = 0;
-            std::vector<ColumnRange> ranges;
-        };
-        std::map<int, Plan> byEnd{{-1, {}}};
-        for (const Head& head : heads) {
-            std::map<int, Plan> next;
-            for (const auto& [end, plan] : byEnd) {
-                for (const ColumnRange& choice : head.choices) {
-                    if (choice.first <= end)
-                        continue;
-                    Plan longer = plan;
-                    longer.covered += choice.last - choice.first + 1;
-                    longer.ranges.push_back(choice);
-                    const auto at = next.find(choice.last);
-                    if (at == next.end() || at->second.covered < longer.covered)
-                        next[choice.last] = std::move(longer);
-                }
-            }
-            byEnd = std::move(next);
-        }
-        const auto best = std::max_element(byEnd.begin(), byEnd.end(), [](const auto& a, const auto& b) {
-            return a.second.covered < b.second.covered;
-        });
-        if (best == byEnd.end())
-            return;
-        for (const ColumnRange& range : best->second.ranges)
+        std::vector<std::vector<ColumnRange>> choices;
+        for (const Head& head : heads)
+            choices.push_back(head.choices);
+        for (const ColumnRange& range : widestRanges(choices))
             cover(row, range);
     }
 
