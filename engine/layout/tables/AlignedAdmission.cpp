@@ -1,9 +1,9 @@
 #include "layout/tables/AlignedAdmission.h"
 
 #include "layout/tables/ColumnPieces.h"
+#include "layout/tables/ItemLabels.h"
 
 #include <algorithm>
-#include <cctype>
 #include <set>
 
 namespace orvane::layout {
@@ -96,19 +96,20 @@ private:
         return m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment && isRising(m_columns.back(), lines());
     }
 
-    /// "1.", "a)", "(iv)", a bullet.
-    static bool isLabel(const std::string& text) {
-        const auto isAscii = [](char c) { return (static_cast<unsigned char>(c) & 0x80) == 0; };
-        if (text == "(" || text == "[") // a place to tick
-            return true;
-        const bool isSymbol = text.size() <= 3 && (!isAscii(text.front()) || text == "-" || text == "*" || text == "o");
-        const bool isNumber = text.size() <= 6 && (text.back() == '.' || text.back() == ')');
-        return isSymbol || isNumber;
+    /// Whether a column that is not the first holds little but the labels of items.
+    bool hasLabelsWithin() const {
+        return std::any_of(m_columns.begin() + 1, m_columns.end(), [&](const ColumnPieces& column) {
+            return column.share([&](const TextPiece* piece) { return countsItem(textOf(*piece, lines())); }) >
+                   m_parameters.labelShare;
+        });
     }
 
-    /// Whether most rows begin some column with a bullet: a list in columns.
+    /// Whether most rows begin some column with a bullet, or a column beside others numbers its items: a list in
+    /// columns.
     bool isListInColumns() const {
-        return m_evidence == AlignedEvidence::Alignment &&
+        if (m_evidence != AlignedEvidence::Alignment)
+            return false;
+        return hasLabelsWithin() ||
                shareOfRows([&](const PieceRow& row) {
                    return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
                        return isBullet(textOf(
@@ -140,7 +141,7 @@ private:
 
     bool isList() const {
         return m_columns.size() == 2 && labels().share([&](const TextPiece* piece) {
-            return isLabel(textOf(*piece, lines()));
+            return isItemLabel(textOf(*piece, lines()));
         }) > m_parameters.labelShare;
     }
 
@@ -160,13 +161,6 @@ private:
         return std::all_of(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
             return column.wordsPerPiece() > m_parameters.narrowProseWords && isFull(column, m_parameters);
         });
-    }
-
-    /// "12:": what counts the lines of a listing.
-    static bool isLineNumber(const std::string& text) {
-        return text.size() > 1 && text.back() == ':' && std::all_of(text.begin(), text.end() - 1, [](char c) {
-                   return std::isdigit(static_cast<unsigned char>(c)) != 0;
-               });
     }
 
     bool isCode() const {

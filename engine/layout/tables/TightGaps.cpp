@@ -1,6 +1,7 @@
 #include "layout/tables/TightGaps.h"
 
 #include "layout/support/Tally.h"
+#include "layout/tables/ItemLabels.h"
 
 #include <algorithm>
 #include <limits>
@@ -94,12 +95,7 @@ private:
         return isDash(textOf(pieceOf(m_lines[piece.line], piece.line, piece.endWord - 1, piece.endWord), m_lines));
     }
 
-    /// "1.", "a)", "*".
-    bool isLabel(const TextPiece& piece) const {
-        const std::string text = textOf(piece, m_lines);
-        return piece.wordCount() == 1 &&
-               (text.size() == 1 || (text.size() <= 4 && (text.back() == '.' || text.back() == ')')));
-    }
+    bool isLabel(const TextPiece& piece) const { return piece.wordCount() == 1 && isItemLabel(textOf(piece, m_lines)); }
 
     /// Whether words that begin at one place begin a column there.
     bool showsColumn(std::span<const Start> starts) const {

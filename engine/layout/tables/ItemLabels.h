@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+namespace orvane::layout {
+
+/// Whether the text is the label of an item in a list, or a place to tick: "1.", "a)", "(iv)", a bullet.
+bool isItemLabel(std::string_view text);
+
+/// Whether the text counts the items of a list, and is no number in brackets: "b.", "12)".
+bool countsItem(std::string_view text);
+
+/// Whether the text counts the lines of a listing: "12:".
+bool isLineNumber(std::string_view text);
+
+} // namespace orvane::layout
