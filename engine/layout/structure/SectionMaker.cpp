@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -76,21 +77,29 @@ private:
     }
 
     /// A picture that reaches above the text area, or beside the one before it, was not typed into a line of its own.
+    /// What floats hangs on the paragraph that follows, so such a one goes before the other, which stays on its page.
     void floatHangingPictures(std::size_t first, std::size_t last, const PageTops& tops) {
-        const DraftBlock* above = nullptr;
+        std::optional<std::size_t> above;
         for (std::size_t i = first; i < last; ++i) {
             const DraftBlock& block = m_draft.blocks[i];
             auto* figure = std::get_if<FigureDraft>(&m_draft.blocks[i].value);
             if (!figure || !figure->isInline) {
-                above = nullptr;
+                above.reset();
                 continue;
             }
             const bool hangs = block.box.top < tops.of(block.page) - m_parameters.pageSetup.sameEdge;
-            figure->isOverlaid = above && standsBeside(block, *above);
+            figure->isOverlaid = above && standsBeside(block, m_draft.blocks[*above]);
             figure->isInline = !hangs && !figure->isOverlaid;
             if (figure->isInline)
-                above = &block;
+                above = i;
+            else if (figure->isOverlaid)
+                moveBefore((*above)++, i);
         }
+    }
+
+    void moveBefore(std::size_t place, std::size_t index) {
+        const auto at = [&](std::size_t i) { return m_draft.blocks.begin() + static_cast<std::ptrdiff_t>(i); };
+        std::rotate(at(place), at(index), at(index) + 1);
     }
 
     bool standsBeside(const DraftBlock& block, const DraftBlock& above) const {

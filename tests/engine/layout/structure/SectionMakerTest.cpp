@@ -220,8 +220,9 @@ TEST(SectionMaker, FloatsAPictureThatStandsBesideTheOneBeforeIt) {
     draft.blocks.push_back(tests::makePictureBlock({72, 319, 372, 400}));
     sectionsOf(draft);
     const std::size_t first = draft.blocks.size() - 3;
-    EXPECT_TRUE(std::get<FigureDraft>(draft.blocks[first].value).isInline);
-    EXPECT_FALSE(std::get<FigureDraft>(draft.blocks[first + 1].value).isInline);
+    EXPECT_FALSE(std::get<FigureDraft>(draft.blocks[first].value).isInline);
+    EXPECT_EQ(draft.blocks[first].box.left, 300) << "it hangs on what stands on its page";
+    EXPECT_TRUE(std::get<FigureDraft>(draft.blocks[first + 1].value).isInline);
     EXPECT_TRUE(std::get<FigureDraft>(draft.blocks[first + 2].value).isInline)
         << "below the first, whose edge it meets";
 }
