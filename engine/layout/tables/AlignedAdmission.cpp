@@ -4,6 +4,7 @@
 #include "layout/tables/ItemLabels.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
 namespace orvane::layout {
@@ -163,13 +164,22 @@ private:
         });
     }
 
-    bool isCode() const {
-        const double numbered = shareOfRows([&](const PieceRow& row) {
+    /// Whether the rows are counted as the lines of a listing are: "1:", "2:", "3:".
+    bool areLinesCounted() const {
+        std::size_t counted = 0;
+        std::optional<long> last;
+        for (const PieceRow& row : m_aligned.rows) {
             const TextPiece& piece = row.pieces.front();
-            return isLineNumber(
-                textOf(pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines()));
-        });
-        if (numbered > m_parameters.labelShare)
+            const TextPiece word = pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1);
+            const std::optional<long> number = lineNumberOf(textOf(word, lines()));
+            counted += number && (!last || *number == *last + 1);
+            last = number;
+        }
+        return static_cast<double>(counted) > m_parameters.labelShare * static_cast<double>(m_aligned.rows.size());
+    }
+
+    bool isCode() const {
+        if (areLinesCounted())
             return true;
         if (m_evidence == AlignedEvidence::Rules)
             return false;

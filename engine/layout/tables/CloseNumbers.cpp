@@ -65,8 +65,10 @@ private:
 
     void addPair(std::size_t row, const TextPiece& left, const TextPiece& right, bool isNarrow) {
         const std::string text = textOf(right, m_lines);
-        // A dash between two numbers may lead from the one to the other.
-        if (left.box.right >= right.box.left || isDash(text) || isDash(textOf(left, m_lines)) ||
+        // A dash between two numbers may lead from the one to the other, and the share stands in brackets behind its
+        // number.
+        const bool isShare = text.front() == '(' && textOf(left, m_lines).front() != '(';
+        if (isShare || left.box.right >= right.box.left || isDash(text) || isDash(textOf(left, m_lines)) ||
             !isNumeric(left, m_lines) || !isNumeric(right, m_lines))
             return;
         m_pairs.push_back({row, left.box.right, right.box, beginsWithThreeDigits(text), isNarrow});

@@ -1,7 +1,7 @@
 #include "layout/tables/ItemLabels.h"
 
-#include <algorithm>
 #include <cctype>
+#include <charconv>
 
 namespace orvane::layout {
 
@@ -19,10 +19,11 @@ bool countsItem(std::string_view text) {
            (text.back() == '.' || text.back() == ')');
 }
 
-bool isLineNumber(std::string_view text) {
-    return text.size() > 1 && text.back() == ':' && std::all_of(text.begin(), text.end() - 1, [](char c) {
-               return std::isdigit(static_cast<unsigned char>(c)) != 0;
-           });
+std::optional<long> lineNumberOf(std::string_view text) {
+    long number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isCounted = error == std::errc{} && end + 1 == text.data() + text.size() && *end == ':';
+    return isCounted ? std::optional(number) : std::nullopt;
 }
 
 } // namespace orvane::layout

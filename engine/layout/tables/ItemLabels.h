@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 namespace orvane::layout {
@@ -10,7 +11,7 @@ bool isItemLabel(std::string_view text);
 /// Whether the text counts the items of a list, and is no number in brackets: "b.", "12)".
 bool countsItem(std::string_view text);
 
-/// Whether the text counts the lines of a listing: "12:".
-bool isLineNumber(std::string_view text);
+/// The number of a line in a listing, "12:"; nothing for other texts.
+std::optional<long> lineNumberOf(std::string_view text);
 
 } // namespace orvane::layout

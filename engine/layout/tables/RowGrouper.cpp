@@ -172,6 +172,23 @@ private:
         });
     }
 
+    /// Whether the row above holds nothing but the first line of this one's label, whose values stand beside its last.
+    bool endsLoneLabel(const RowContent& above, const RowContent& content) const {
+        const auto begins = above.byColumn.find(0);
+        const auto ends = content.byColumn.find(0);
+        return above.byColumn.size() == 1 && begins != above.byColumn.end() && ends != content.byColumn.end() &&
+               startsLowerCase(*ends->second, m_lines) &&
+               !hasRoomBehind(*begins->second, *ends->second, m_columnBoxes.at(0), m_lines, m_parameters);
+    }
+
+    /// Whether the only number stands below a label of several words, as the year of a date does.
+    bool endsLabel(const RowContent& above, const RowContent& content) const {
+        const auto label = above.byColumn.find(0);
+        return label != above.byColumn.end() && label->second->wordCount() > 1 && !isNumeric(*label->second, m_lines) &&
+               std::all_of(content.byColumn.begin(), content.byColumn.end(),
+                           [&](const auto& text) { return text.first == 0 || !isNumeric(*text.second, m_lines); });
+    }
+
     /// Whether all of several texts begin in lower case below such as do not.
     bool isMidSentence(const RowContent& above, const RowContent& content) const {
         return content.byColumn.size() > 1 &&
@@ -187,8 +204,10 @@ private:
         const RowContent& content = m_contents[i];
         if (!isTight(i) || content.hasSpan || above.hasSpan || content.looksUnlike(above))
             return false;
-        // Numbers stand in rows of their own, unless a hyphen says that they are the rest of one.
-        if (content.hasNumber && !isHyphenated(above, content))
+        if (endsLoneLabel(above, content))
+            return true;
+        // Numbers stand in rows of their own, unless a hyphen says that they are the rest of one, or the label goes on.
+        if (content.hasNumber && !isHyphenated(above, content) && !endsLabel(above, content))
             return false;
         for (const auto& [column, piece] : content.byColumn) {
             const auto before = above.byColumn.find(column);
