@@ -11,6 +11,7 @@ import sys
 sys.dont_write_bytecode = True
 
 import cells
+import frames
 import heads
 import pages
 import stubs
