@@ -37,6 +37,15 @@ def happens(condition, patience):
     return True
 
 
+def processor_time(process):
+    """Seconds of work of a process so far; 0 when it has ended."""
+    try:
+        fields = pathlib.Path(f"/proc/{process}/stat").read_text().rpartition(")")[2].split()
+    except OSError:
+        return 0
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
 def missing_tools():
     """What the tests need and this machine has not."""
     return [tool for tool in TOOLS if not shutil.which(tool)]
@@ -227,8 +236,11 @@ class Program:
 
     @contextlib.contextmanager
     def held_work(self):
-        """The conversion stands still meanwhile, so that it cannot end before the user acts."""
-        workers = wait_for("the work", self.workers)
+        """
+        The conversion stands still meanwhile, so that it cannot end before the user acts. It is held in the middle:
+        while the file is opened, which takes a tenth of this time, the program's keys wait.
+        """
+        workers = wait_for("the work", lambda: [worker for worker in self.workers() if processor_time(worker) >= 0.15])
         for worker in workers:
             os.kill(worker, signal.SIGSTOP)
         try:

@@ -32,7 +32,7 @@ class RunTest(DesktopTest):
         self.assertEqual([path.name for path in self.program.documents.iterdir() if "long" in path.name], [])
 
     def test_goes_on_when_cancelling_is_taken_back(self):
-        self.start(self.pdf("long.pdf", pages=300))
+        self.start(self.pdf("long.pdf", pages=900))
         progress = self.program.progress()
         with self.program.held_work():
             self.desktop.keys(progress, "Escape")
