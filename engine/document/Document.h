@@ -1,11 +1,10 @@
 #pragma once
 
-#include "base/Color.h"
-#include "base/Geometry.h"
-#include "base/PictureData.h"
-#include "base/Units.h"
+#include "document/Drawing.h"
+#include "document/Format.h"
+#include "document/Formula.h"
+#include "document/Picture.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -15,111 +14,7 @@
 /// The document that layout makes and every writer reads: values without behaviour. Texts are UTF-8.
 namespace orvane::document {
 
-/// Where an item came from; for logs, tests and pictures of what a stage saw.
-struct Origin {
-    int page = 0; ///< 1-based; 0 for what the engine added
-    Rect box;     ///< page space
-};
-
-// ---- Characters
-// ----------------------------------------------------------------------------------------------------------
-
-enum class VerticalPosition : std::uint8_t { Baseline, Superscript, Subscript };
-enum class UnderlineKind : std::uint8_t { None, Single, Double, Thick, Dotted, Dashed, Wavy };
-
-/// How characters look, complete: a writer puts down what differs from the paragraph's style.
-struct RunProperties {
-    std::string fontFamily;          ///< for Latin and other simple scripts
-    std::string eastAsianFontFamily; ///< empty: as fontFamily
-    std::string complexFontFamily;   ///< Arabic, Hebrew, Thai, ...; empty: as fontFamily
-    HalfPoints size{22};
-    Color color;
-    std::optional<Color> highlight; ///< behind the characters
-    UnderlineKind underline = UnderlineKind::None;
-    VerticalPosition verticalPosition = VerticalPosition::Baseline;
-    Twips characterSpacing; ///< added after each character
-    int widthPercent = 100; ///< glyphs stretched to this width
-    Twips raise;            ///< baseline shift, positive upwards
-    bool isBold = false;
-    bool isItalic = false;
-    bool isStruck = false;
-    bool isSmallCaps = false;
-    bool isAllCaps = false;
-    bool isOutlined = false;
-    bool isHidden = false;
-    bool isRightToLeft = false;
-    bool isEastAsian = false; ///< signs that fonts of several scripts have (quotes, dashes, dots) are East Asian
-    std::string language;     ///< BCP 47; empty for the document's
-
-    bool operator==(const RunProperties&) const = default;
-};
-
-// ---- Paragraph properties
-// ------------------------------------------------------------------------------------------------
-
-enum class Alignment : std::uint8_t { Start, Center, End, Justified, Distributed };
-enum class LineSpacingRule : std::uint8_t { Multiple, AtLeast, Exact };
-enum class TabAlignment : std::uint8_t { Start, Center, End, Decimal };
-enum class TabLeader : std::uint8_t { None, Dots, Hyphens, Underscore, MiddleDots };
-enum class BorderKind : std::uint8_t { None, Single, Double, Dotted, Dashed, Thick, Wave };
-
-struct LineSpacing {
-    LineSpacingRule rule = LineSpacingRule::Multiple;
-    double multiple = 1.0; ///< LineSpacingRule::Multiple
-    Twips height;          ///< the other two
-
-    bool operator==(const LineSpacing&) const = default;
-};
-
-struct TabStop {
-    Twips position; ///< from the text's start edge
-    TabAlignment alignment = TabAlignment::Start;
-    TabLeader leader = TabLeader::None;
-
-    bool operator==(const TabStop&) const = default;
-};
-
-struct Border {
-    BorderKind kind = BorderKind::None;
-    EighthPoints width{4};
-    Color color;
-    int spacePoints = 0; ///< between border and text
-
-    bool operator==(const Border&) const = default;
-};
-
-struct Borders {
-    Border top, bottom, left, right;
-
-    bool operator==(const Borders&) const = default;
-};
-
-/// How a paragraph stands, complete: a writer puts down what differs from the paragraph's style.
-struct ParagraphProperties {
-    Alignment alignment = Alignment::Start;
-    Twips indentStart;
-    Twips indentEnd;
-    Twips firstLine; ///< negative: hanging
-    Twips spaceBefore;
-    Twips spaceAfter;
-    LineSpacing lineSpacing;
-    std::vector<TabStop> tabs; ///< ascending
-    Borders borders;
-    Border betweenBorder; ///< between equal paragraphs that follow each other
-    std::optional<Color> shading;
-    int outlineLevel = 0; ///< 1 to 9; 0 for body text
-    bool keepWithNext = false;
-    bool keepLinesTogether = false;
-    bool pageBreakBefore = false;
-    bool isContextualSpacing = false; ///< no space between paragraphs of one style
-    bool hasWidowControl = true;
-    bool isRightToLeft = false;
-
-    bool operator==(const ParagraphProperties&) const = default;
-};
-
 // ---- Inlines
-// -------------------------------------------------------------------------------------------------------------
 
 struct Text {
     std::string text;
@@ -134,67 +29,6 @@ struct Tab {
 enum class BreakKind : std::uint8_t { Line, Column, Page };
 struct Break {
     BreakKind kind = BreakKind::Line;
-};
-
-/// How much of each side of a picture is cut away, as shares of its size.
-struct Crop {
-    double left = 0, top = 0, right = 0, bottom = 0;
-    bool operator==(const Crop&) const = default;
-};
-
-/// A picture with the size it is shown at.
-struct Picture {
-    PictureId id;
-    Emu width; ///< before it is turned; it turns about its middle
-    Emu height;
-    Crop crop;
-    double rotation = 0; ///< degrees clockwise
-    bool isMirroredHorizontally = false;
-    bool isMirroredVertically = false;
-    std::string alternateText;
-    Origin origin;
-};
-
-/// What a part of a formula is, and which parts of its own it has, in their order.
-enum class FormulaKind : std::uint8_t {
-    Text,     ///< `text`; no parts
-    Row,      ///< any number, side by side; none for an empty place
-    Script,   ///< base, subscript, superscript
-    Limits,   ///< base, what stands below it, what stands above it
-    Fraction, ///< numerator, denominator
-    Radical,  ///< what it is taken of, degree
-    Operator, ///< `text` is the sign: from, to, what it works on
-    Fence,    ///< `text` and `closing` are the signs, either may be empty: what is within
-    Accent,   ///< `text` is the combining character: what is below it
-    Bar,      ///< what is below the rule
-};
-
-enum class FormulaShape : std::uint8_t { Upright, Italic, Bold, BoldItalic };
-
-/// Where an operator has its limits.
-enum class LimitPlace : std::uint8_t { AboveAndBelow, Beside };
-
-/// A part of a formula.
-struct FormulaPart {
-    FormulaKind kind = FormulaKind::Row;
-    std::string text;
-    std::string closing;                           ///< Fence
-    FormulaShape shape = FormulaShape::Upright;    ///< Text
-    LimitPlace limits = LimitPlace::AboveAndBelow; ///< Operator
-    std::vector<FormulaPart> parts;
-
-    bool operator==(const FormulaPart&) const = default;
-};
-
-/// Whether a formula stands on a line of its own.
-enum class FormulaPlace : std::uint8_t { Displayed, InLine };
-
-/// A formula in its parts.
-struct Formula {
-    FormulaPart content;
-    FormulaPlace place = FormulaPlace::InLine;
-    RunProperties properties;       ///< its size and color; its shapes are those of the parts
-    std::optional<Picture> picture; ///< how it looks, for readers that know no formulas
 };
 
 /// Leads to a bookmark that stands somewhere in the document, or outside it.
@@ -255,7 +89,6 @@ struct Inline {
 };
 
 // ---- Blocks
-// --------------------------------------------------------------------------------------------------------------
 
 using StyleId = std::string;
 
@@ -310,49 +143,6 @@ struct Table {
     Origin origin;
 };
 
-enum class HorizontalAnchor : std::uint8_t { Page, Margin, Column };
-enum class VerticalAnchor : std::uint8_t { Page, Margin, Paragraph };
-enum class Wrapping : std::uint8_t { Square, TopAndBottom, None, BehindText };
-
-/// Where a floating object stands.
-struct Placement {
-    HorizontalAnchor horizontalAnchor = HorizontalAnchor::Page;
-    VerticalAnchor verticalAnchor = VerticalAnchor::Page;
-    Emu x;
-    Emu y;
-    Wrapping wrapping = Wrapping::Square;
-    Emu distanceLeft, distanceRight, distanceTop, distanceBottom;
-    int zOrder = 0; ///< ascending towards the reader
-};
-
-struct ShapeLine {
-    Color color;
-    Emu width;
-    BorderKind kind = BorderKind::Single;
-};
-
-/// A drawn outline, in its own box.
-struct Shape {
-    enum class Verb : std::uint8_t { Move, Line, Curve, Close };
-    struct Segment {
-        Verb verb = Verb::Move;
-        std::array<Emu, 6> xy; ///< Move, Line: first pair; Curve: two controls and the end; from the box's top left
-    };
-    Emu x, y, width, height; ///< within the drawing
-    std::vector<Segment> segments;
-    std::optional<ShapeLine> line;
-    std::optional<Color> fill;
-    double opacity = 1;
-};
-
-/// Shapes that belong together.
-struct Drawing {
-    Emu width;
-    Emu height;
-    std::vector<Shape> shapes; ///< in paint order
-    std::string alternateText;
-};
-
 /// A picture or a drawing that floats, anchored in the paragraph that follows it.
 struct Figure {
     std::variant<Picture, Drawing> content;
@@ -387,7 +177,6 @@ struct Block {
 };
 
 // ---- Sections
-// ------------------------------------------------------------------------------------------------------------
 
 enum class SectionStart : std::uint8_t { NextPage, Continuous, NextColumn, EvenPage, OddPage };
 enum class NumberFormat : std::uint8_t {
@@ -433,7 +222,6 @@ struct Section {
 };
 
 // ---- Styles, lists, notes
-// ------------------------------------------------------------------------------------------------
 
 /// A named paragraph style with complete properties.
 struct Style {

@@ -75,6 +75,15 @@ GlyphIndices::GlyphIndices(GfxFont& font, const FontProgram& program, const std:
     m_isIdentity = !composite.getCIDToGID() && m_glyphs.empty();
 }
 
+std::unordered_map<std::uint32_t, std::uint32_t> GlyphIndices::all(std::uint32_t glyphCount) const {
+    if (!m_isIdentity)
+        return m_glyphs;
+    Indices indices;
+    for (std::uint32_t glyph = 1; glyph < glyphCount; ++glyph)
+        indices.emplace(glyph, glyph);
+    return indices;
+}
+
 std::uint32_t GlyphIndices::glyphOf(std::uint32_t code) const {
     if (m_isIdentity)
         return code;

@@ -22,6 +22,8 @@ public:
     /// `program` is that of `bytes`, and both outlive this.
     GlyphIndices(GfxFont& font, const FontProgram& program, const std::vector<unsigned char>& bytes);
 
+    /// All glyphs of the program that codes lead to, by code. `glyphCount`: of the program.
+    std::unordered_map<std::uint32_t, std::uint32_t> all(std::uint32_t glyphCount) const;
     /// 0 where there is none. `code`: Glyph::charCode.
     std::uint32_t glyphOf(std::uint32_t code) const;
 

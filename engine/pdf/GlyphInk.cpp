@@ -1,76 +1,14 @@
 #include "pdf/GlyphInk.h"
 
 #include "pdf/FontProgram.h"
+#include "pdf/GlyphIndices.h"
 
 #include <GfxFont.h>
-#include <fofi/FoFiTrueType.h>
-#include <fofi/FoFiType1C.h>
-#include <goo/gmem.h>
 
 #include FT_OUTLINE_H
 
 namespace orvane::pdf {
 namespace {
-
-using GlyphOfCode = std::map<std::uint32_t, FT_UInt>;
-using Bytes = std::vector<unsigned char>;
-
-constexpr std::uint32_t kSimpleCodes = 256;
-
-/// Simple fonts other than TrueType find their glyphs by name.
-GlyphOfCode glyphsByName(Gfx8BitFont& font, FT_Face face) {
-    GlyphOfCode glyphs;
-    for (std::uint32_t code = 0; code < kSimpleCodes; ++code)
-        if (const char* name = font.getCharName(static_cast<int>(code)))
-            if (const FT_UInt glyph = FT_Get_Name_Index(face, name); glyph != 0)
-                glyphs.emplace(code, glyph);
-    return glyphs;
-}
-
-GlyphOfCode glyphsOfTrueType(Gfx8BitFont& font, const Bytes& bytes) {
-    GlyphOfCode glyphs;
-    const std::unique_ptr<FoFiTrueType> program = FoFiTrueType::make(bytes.data(), static_cast<int>(bytes.size()));
-    int* const map = program ? font.getCodeToGIDMap(program.get()) : nullptr;
-    for (std::uint32_t code = 0; map && code < kSimpleCodes; ++code)
-        if (map[code] > 0)
-            glyphs.emplace(code, static_cast<FT_UInt>(map[code]));
-    gfree(map);
-    return glyphs;
-}
-
-/// The glyphs of a composite font by character identifier, which is the code of its usual encodings.
-GlyphOfCode glyphsOfCids(const GfxCIDFont& font, const Bytes& bytes, FT_Face face) {
-    GlyphOfCode glyphs;
-    if (!font.getEncodingName().starts_with("Identity"))
-        return glyphs;
-    const auto take = [&glyphs](const int* map, int length) {
-        for (int cid = 0; map && cid < length; ++cid)
-            if (map[cid] > 0)
-                glyphs.emplace(static_cast<std::uint32_t>(cid), static_cast<FT_UInt>(map[cid]));
-    };
-    if (const int* map = font.getCIDToGID()) {
-        take(map, static_cast<int>(font.getCIDToGIDLen()));
-        return glyphs;
-    }
-    if (const std::unique_ptr<FoFiType1C> program{FoFiType1C::make(bytes.data(), static_cast<int>(bytes.size()))}) {
-        int length = 0;
-        int* const map = program->getCIDToGIDMap(&length);
-        take(map, length);
-        gfree(map);
-    }
-    if (glyphs.empty())
-        for (FT_UInt glyph = 1; glyph < static_cast<FT_UInt>(face->num_glyphs); ++glyph)
-            glyphs.emplace(glyph, glyph);
-    return glyphs;
-}
-
-GlyphOfCode glyphsOf(GfxFont& font, const Bytes& bytes, FT_Face face) {
-    if (font.isCIDFont())
-        return glyphsOfCids(static_cast<const GfxCIDFont&>(font), bytes, face);
-    auto& simple = static_cast<Gfx8BitFont&>(font);
-    const bool isTrueType = font.getType() == fontTrueType || font.getType() == fontTrueTypeOT;
-    return isTrueType ? glyphsOfTrueType(simple, bytes) : glyphsByName(simple, face);
-}
 
 Rect boxOf(FT_Face face, FT_UInt glyph) {
     if (FT_Load_Glyph(face, glyph, FT_LOAD_NO_SCALE | FT_LOAD_IGNORE_TRANSFORM) != 0 ||
@@ -115,7 +53,8 @@ GlyphInk::Boxes GlyphInk::measure(GfxFont& source) const {
     const FontProgram program(*bytes);
     if (!program.face())
         return boxes;
-    for (const auto& [code, glyph] : glyphsOf(source, *bytes, program.face()))
+    const GlyphIndices indices(source, program, *bytes);
+    for (const auto& [code, glyph] : indices.all(static_cast<std::uint32_t>(program.face()->num_glyphs)))
         if (const Rect box = boxOf(program.face(), glyph); !box.isEmpty())
             boxes.emplace(code, box);
     return boxes;

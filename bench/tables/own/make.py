@@ -13,8 +13,8 @@ sys.dont_write_bytecode = True
 import cells
 import frames
 import heads
+import labels
 import pages
-import stubs
 from odf import Setting
 from traps import TRAPS
 

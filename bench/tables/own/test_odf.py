@@ -11,8 +11,8 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
 import cells
 import frames
 import heads
+import labels
 import pages
-import stubs
 from odf import Document, Look, Setting
 from relations import Cell
 from traps import TRAPS

@@ -34,29 +34,25 @@ bool startsAs(std::string_view name, std::string_view start) {
            });
 }
 
-/// Source: The Unicode Standard, Mathematical Alphanumeric Symbols: the letters that were encoded before stand apart.
-char32_t scriptLetter(char32_t c) {
-    constexpr std::u32string_view kApart = U"BEFHILMR";
-    constexpr std::u32string_view kThere = U"\u212C\u2130\u2131\u210B\u2110\u2112\u2133\u211B";
-    if (const std::size_t at = kApart.find(c); at != std::u32string_view::npos)
-        return kThere[at];
-    return U'\U0001D49C' + (c - U'A');
-}
+/// Letters of one look. Source: The Unicode Standard, Mathematical Alphanumeric Symbols.
+struct Alphabet {
+    char32_t capitals;              ///< where "A" stands
+    char32_t smalls;                ///< where "a" stands; 0 for fonts without
+    std::u32string_view apart;      ///< capitals that were encoded before ...
+    std::u32string_view placeApart; ///< ... and where they stand
+};
 
-char32_t doubleStruckLetter(char32_t c) {
-    constexpr std::u32string_view kApart = U"CHNPQRZ";
-    constexpr std::u32string_view kThere = U"\u2102\u210D\u2115\u2119\u211A\u211D\u2124";
-    if (const std::size_t at = kApart.find(c); at != std::u32string_view::npos)
-        return kThere[at];
-    return U'\U0001D538' + (c - U'A');
-}
+constexpr Alphabet kScript{U'\U0001D49C', 0, U"BEFHILMR", U"\u212C\u2130\u2131\u210B\u2110\u2112\u2133\u211B"};
+constexpr Alphabet kDoubleStruck{U'\U0001D538', 0, U"CHNPQRZ", U"\u2102\u210D\u2115\u2119\u211A\u211D\u2124"};
+constexpr Alphabet kFraktur{U'\U0001D504', U'\U0001D51E', U"CHIRZ", U"\u212D\u210C\u2111\u211C\u2128"};
 
-char32_t frakturLetter(char32_t c) {
-    constexpr std::u32string_view kApart = U"CHIRZ";
-    constexpr std::u32string_view kThere = U"\u212D\u210C\u2111\u211C\u2128";
-    if (const std::size_t at = kApart.find(c); at != std::u32string_view::npos)
-        return kThere[at];
-    return isWithin(c, U'A', U'Z') ? U'\U0001D504' + (c - U'A') : U'\U0001D51E' + (c - U'a');
+/// `c` itself where the alphabet has no such letter.
+char32_t letterIn(const Alphabet& alphabet, char32_t c) {
+    if (const std::size_t at = alphabet.apart.find(c); at != std::u32string_view::npos)
+        return alphabet.placeApart[at];
+    if (isWithin(c, U'A', U'Z'))
+        return alphabet.capitals + (c - U'A');
+    return alphabet.smalls != 0 && isWithin(c, U'a', U'z') ? alphabet.smalls + (c - U'a') : c;
 }
 
 } // namespace
@@ -133,15 +129,13 @@ bool isSignFont(std::string_view name) {
 }
 
 char32_t alphabetLetter(std::string_view fontName, char32_t c) {
-    const bool isCapital = isWithin(c, U'A', U'Z');
-    const bool isSmall = isWithin(c, U'a', U'z');
-    if (isCapital && (startsAs(fontName, "cmsy") || startsAs(fontName, "cmbsy") || startsAs(fontName, "eusm") ||
-                      startsAs(fontName, "rsfs") || startsAs(fontName, "txsy") || startsAs(fontName, "pxsy")))
-        return scriptLetter(c);
-    if (isCapital && (startsAs(fontName, "msbm") || startsAs(fontName, "bbm") || startsAs(fontName, "dsrom")))
-        return doubleStruckLetter(c);
-    if ((isCapital || isSmall) && startsAs(fontName, "eufm"))
-        return frakturLetter(c);
+    if (startsAs(fontName, "cmsy") || startsAs(fontName, "cmbsy") || startsAs(fontName, "eusm") ||
+        startsAs(fontName, "rsfs") || startsAs(fontName, "txsy") || startsAs(fontName, "pxsy"))
+        return letterIn(kScript, c);
+    if (startsAs(fontName, "msbm") || startsAs(fontName, "bbm") || startsAs(fontName, "dsrom"))
+        return letterIn(kDoubleStruck, c);
+    if (startsAs(fontName, "eufm"))
+        return letterIn(kFraktur, c);
     return c;
 }
 

@@ -53,6 +53,8 @@ struct GraphicsParameters {
     struct Scans {
         std::size_t fewestWords = 8; ///< of a page that has been read; fewer are words in a picture
         double textShare = 0.05;     ///< of a picture under the words; pictures with as much are pictures of text
+        double sameSize = 0.2;       ///< of a font size; sizes that differ by less are one
+        double widestBlank = 3.0;    ///< of the font size; a wider gap between words is one that was meant
     } scans;
 
     /// ShapeMaker: drawings as shapes.

@@ -8,9 +8,6 @@
 namespace orvane::layout {
 namespace {
 
-constexpr double kSameSize = 0.2;    ///< of a font size; sizes that differ by less are one
-constexpr double kWidestBlank = 3.0; ///< of the font size; a wider gap is one that was meant
-
 bool isRecognised(const Line& line) {
     return !line.words.empty() && line.words.front().spans.front().look.isInvisible;
 }
@@ -73,33 +70,33 @@ bool isNear(double size, double other, double share) {
 }
 
 /// Recognition measures each word by itself: what is meant to be of one size differs a little.
-void evenSizes(Line& line, double pageSize) {
+void evenSizes(Line& line, double pageSize, double sameSize) {
     Sizes sizes;
     sizes.add(line);
     if (sizes.isEmpty())
         return;
     const double middle = sizes.middle();
-    line.fontSize = isNear(middle, pageSize, kSameSize) ? pageSize : middle;
+    line.fontSize = isNear(middle, pageSize, sameSize) ? pageSize : middle;
     for (Word& word : line.words)
         for (Span& span : word.spans)
-            if (isNear(span.look.size, middle, kSameSize))
+            if (isNear(span.look.size, middle, sameSize))
                 span.look.size = line.fontSize;
 }
 
 /// Words stand where they were found; a blank is as wide as the paper left it.
-void evenBlanks(Line& line) {
+void evenBlanks(Line& line, double widestBlank) {
     for (std::size_t i = 1; i < line.words.size(); ++i) {
         Word& word = line.words[i];
         const Rect &before = line.words[i - 1].box, &box = word.box;
         const double gap = std::max(box.left - before.right, before.left - box.right);
-        if (word.leaderBefore != document::TabLeader::None || gap > kWidestBlank * line.fontSize)
+        if (word.leaderBefore != document::TabLeader::None || gap > widestBlank * line.fontSize)
             continue;
         word.gapBefore = word.gapBefore == Gap::Tab ? Gap::Space : word.gapBefore;
         word.blanksBefore = 1;
     }
 }
 
-void evenRecognisedText(PageText& page) {
+void evenRecognisedText(PageText& page, const GraphicsParameters::Scans& limits) {
     Sizes sizes;
     for (const Line& line : page.lines)
         if (isRecognised(line))
@@ -110,8 +107,8 @@ void evenRecognisedText(PageText& page) {
     for (Line& line : page.lines) {
         if (!isRecognised(line))
             continue;
-        evenSizes(line, pageSize);
-        evenBlanks(line);
+        evenSizes(line, pageSize, limits.sameSize);
+        evenBlanks(line, limits.widestBlank);
     }
 }
 
@@ -144,7 +141,7 @@ void partTextFromScan(PageText& page, const GraphicsParameters& parameters, Diag
         return;
     }
     dropPicturesOfText(page, limits.textShare, diagnostics);
-    evenRecognisedText(page);
+    evenRecognisedText(page, limits);
 }
 
 } // namespace orvane::layout

@@ -10,9 +10,6 @@
 namespace orvane::layout {
 namespace {
 
-constexpr double kSameMiddle = 0.25; ///< of the font size; centred lines stand about one middle as exactly as this
-constexpr int kRowsOfAHead = 2;      ///< a name and where he or she works; one line is a heading of the column
-
 /// Lines about one middle.
 struct CentredRows {
     int count = 0;
@@ -32,7 +29,7 @@ struct CentredRows {
         return true;
     }
     /// Lines of one length that start below each other are no proof.
-    bool areHead(double tolerance) const { return count >= kRowsOfAHead && rightmost - leftmost > tolerance; }
+    bool areHead(int fewest, double tolerance) const { return count >= fewest && rightmost - leftmost > tolerance; }
 };
 
 /// Follows the lines beyond the gutter's end as long as they belong to its columns. `gapTo` tells how far a line lies
@@ -85,11 +82,12 @@ std::optional<double> findEndOfHeads(const ColumnGutter& gutter, std::span<const
         if (line.box.centerY() > gutter.bottom)
             return std::nullopt;
         const GutterSide side = sides.sideOf(line);
-        const double tolerance = kSameMiddle * line.fontSize;
+        const double tolerance = parameters.sameMiddle * line.fontSize;
         CentredRows& rows = side == GutterSide::Left ? left : right;
         if (side == GutterSide::Across || sides.isFlush(line, tolerance) || !rows.add(line, tolerance)) {
             const bool isSetOff = line.box.top - bottom >= parameters.sliceBlank * line.fontSize;
-            return isSetOff && left.areHead(tolerance) && right.areHead(tolerance)
+            return isSetOff && left.areHead(parameters.rowsOfHead, tolerance) &&
+                           right.areHead(parameters.rowsOfHead, tolerance)
                        ? std::optional((bottom + line.box.top) / 2)
                        : std::nullopt;
         }

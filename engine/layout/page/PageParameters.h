@@ -24,6 +24,8 @@ struct PageParameters {
             0.04; ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...
         std::size_t edgeLines = 3;       ///< ... but never more than so many
         double edgeReach = 1.0;          ///< of the font size; lines that end this near to each other end at one edge
+        double sameMiddle = 0.25;        ///< of the font size; centred lines stand about one middle as exactly as this
+        int rowsOfHead = 2;              ///< a name and where he or she works; one line is a heading of the column
         int maximumDepth = 8;            ///< how often parts are parted again
         std::size_t maximumStrips = 200; ///< empty strips followed at once
     } regions;

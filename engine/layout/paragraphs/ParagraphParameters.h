@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 namespace orvane::layout {
 
 /// Thresholds of the folder `paragraphs`: from lines to paragraphs. A field says its unit, its meaning and what taught
@@ -40,6 +42,16 @@ struct ParagraphParameters {
         double proseShare = 0.6; ///< of a block's lines that must be full, and of those whose sentence must go on, for
                                  ///< their longest to show its edge
         double fullLine = 2.5;   ///< of the font size; a column's last line with less room behind it may run on
+
+        /// RaggedLines: text whose lines leave room that their next word would have had.
+        struct Ragged {
+            std::size_t fewestLines = 8; ///< that run on, before anything is learnt from them
+            std::size_t wordsOfProse = 4;
+            double leastShare = 0.1; ///< of the lines that run on; with fewer that leave room it is chance
+            double proseShare = 0.8; ///< of the lines that run on leave no more room than ragged text does
+            double usualShare = 0.9; ///< of the lines that leave room leave no more than this
+            double mostRoom = 0.2;   ///< of the line's width that ragged text leaves
+        } ragged;
     } paragraphs;
 
     /// ListMarker: the labels of list items.

@@ -9,13 +9,6 @@
 namespace orvane::layout {
 namespace {
 
-constexpr std::size_t kFewestLines = 8; ///< that run on, before anything is learnt from them
-constexpr std::size_t kWordsOfProse = 4;
-constexpr double kRaggedShare = 0.1; ///< of the lines that run on; with fewer that leave room it is chance
-constexpr double kProseShare = 0.8;  ///< of the lines that run on leave no more room than ragged text does
-constexpr double kUsualShare = 0.9;  ///< of the lines that leave room leave no more than this
-constexpr double kMostRoom = 0.2;    ///< of the line's width that ragged text leaves
-
 bool endsWithComma(const Line& line) {
     return textOf(line.words.back()).ends_with(',');
 }
@@ -25,8 +18,8 @@ bool endsWithComma(const Line& line) {
 bool runsOn(const Line& line, const Line& next, const LineMeasure& measure, const LineMeasure& below,
             const ParagraphParameters::Paragraphs& parameters) {
     const double distance = next.baseline - line.baseline;
-    return line.words.size() >= kWordsOfProse && next.words.size() >= 2 && below.startsLowerCase && !below.marker &&
-           !measure.endsSentence && !endsWithComma(line) && !measure.hasLeader &&
+    return line.words.size() >= parameters.ragged.wordsOfProse && next.words.size() >= 2 && below.startsLowerCase &&
+           !below.marker && !measure.endsSentence && !endsWithComma(line) && !measure.hasLeader &&
            std::abs(measure.startGap - below.startGap) <= parameters.maximumFirstLine * line.fontSize && distance > 0 &&
            distance <= parameters.maximumLeading * line.fontSize && std::abs(line.fontSize - next.fontSize) < 0.1;
 }
@@ -35,6 +28,7 @@ bool runsOn(const Line& line, const Line& next, const LineMeasure& measure, cons
 
 double findRaggedRoom(std::span<const Line> lines, std::span<const LineMeasure> measures,
                       const ParagraphParameters::Paragraphs& parameters) {
+    const ParagraphParameters::Paragraphs::Ragged& limits = parameters.ragged;
     std::size_t all = 0, usual = 0;
     std::vector<double> rooms;
     for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
@@ -44,18 +38,19 @@ double findRaggedRoom(std::span<const Line> lines, std::span<const LineMeasure> 
             continue;
         ++all;
         const double room = measure.endGap - measure.blank - below.firstUnit;
-        if (room > kMostRoom * measure.width)
+        if (room > limits.mostRoom * measure.width)
             continue;
         ++usual;
         if (room > parameters.fitSlack * line.fontSize)
             rooms.push_back(room / line.fontSize);
     }
     const auto shareOf = [all](double share) { return share * static_cast<double>(all); };
-    if (all < kFewestLines || static_cast<double>(usual) < shareOf(kProseShare) ||
-        static_cast<double>(rooms.size()) < shareOf(kRaggedShare))
+    if (all < limits.fewestLines || static_cast<double>(usual) < shareOf(limits.proseShare) ||
+        static_cast<double>(rooms.size()) < shareOf(limits.leastShare))
         return 0;
     // The few that leave most are those before a word that could not be divided.
-    const auto most = rooms.begin() + static_cast<std::ptrdiff_t>(kUsualShare * static_cast<double>(rooms.size() - 1));
+    const auto most =
+        rooms.begin() + static_cast<std::ptrdiff_t>(limits.usualShare * static_cast<double>(rooms.size() - 1));
     std::nth_element(rooms.begin(), most, rooms.end());
     return *most;
 }

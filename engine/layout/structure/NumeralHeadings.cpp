@@ -13,8 +13,7 @@
 namespace orvane::layout {
 namespace {
 
-constexpr int kFewestNumerals = 3; ///< sections that show what the numerals stand for
-constexpr int kGreatestNumeral = 39;
+constexpr int kGreatestNumeral = 39; ///< that is written with the parts below
 
 /// The value of "IV."; 0 for what is none.
 int numeralOf(const std::string& word) {
@@ -71,7 +70,7 @@ public:
 
     void run() {
         findSections();
-        if (m_lastNumeral < kFewestNumerals)
+        if (m_lastNumeral < m_limits.fewestNumerals)
             return;
         findParts();
         for (const auto& [paragraph, level] : m_found) {

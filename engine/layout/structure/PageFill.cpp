@@ -2,6 +2,7 @@
 
 #include "layout/fonts/LineMetrics.h"
 #include "layout/structure/BlockExtent.h"
+#include "layout/structure/PageFloor.h"
 #include "layout/support/Tally.h"
 
 #include <algorithm>
@@ -12,8 +13,6 @@ namespace orvane::layout {
 namespace {
 
 using document::LineSpacing;
-
-constexpr std::size_t kKeptLines = 2; ///< word processors let no single line of a paragraph stand alone on a page
 
 void widen(PageFill& fill, double top, double bottom) {
     fill.top = fill.isEmpty ? top : std::min(fill.top, top);
@@ -93,8 +92,7 @@ double needOfBlock(const DocumentDraft& draft, std::size_t index, const FontCata
     if (!paragraph)
         return extentOf(block, fonts).firstHeight;
     const std::size_t lines = paragraph->pieces.front().text.lines.size();
-    // Of three lines neither the first nor the last may stand alone, so they stay together.
-    double need = needOfLines(paragraph->pieces.front(), lines <= kKeptLines + 1 ? lines : kKeptLines, fonts);
+    double need = needOfLines(paragraph->pieces.front(), linesToStart(lines), fonts);
     const bool isKept = paragraph->role == ParagraphRole::Heading || paragraph->role == ParagraphRole::Title;
     if (isKept && index + 1 < draft.blocks.size() && draft.blocks[index + 1].page == block.page) {
         const double gap = extentOf(draft.blocks[index + 1], fonts).top - extentOf(block, fonts).bottom;

@@ -7,18 +7,13 @@
 namespace orvane::layout {
 namespace {
 
-/// Lines of a paragraph that do not stand apart: of three neither the first nor the last may be alone.
-constexpr std::size_t kKeptLines = 3;
-constexpr std::size_t kFirstLines = 2;
-
 /// How far below its row's top the first part of the cell's text reaches that could stand on a page of its own.
 double needOf(const DraftCell& cell) {
     const DraftParagraph* first = cell.blocks.empty() ? nullptr : cell.blocks.front().paragraph();
     if (!first)
         return cell.cell.box.height();
     const std::vector<Line>& lines = first->pieces.front().text.lines;
-    const std::size_t count = lines.size() <= kKeptLines ? lines.size() : kFirstLines;
-    return lines[count - 1].box.bottom - cell.cell.box.top;
+    return lines[linesToStart(lines.size()) - 1].box.bottom - cell.cell.box.top;
 }
 
 /// What the row needs to start on a page. Cells that reach over several rows need not end with it.

@@ -37,6 +37,7 @@ struct StructureParameters {
         double crowdedShare = 0.34; ///< of a look's paragraphs that may be followed by another of the same look
         double titleSize = 1.35;    ///< of the body text's size
         int titleParagraphs = 3;    ///< more in the largest letters are no title
+        int fewestNumerals = 3;     ///< sections that show what the numerals before them stand for
     } headings;
 
     /// HandBreaks: lines that were ended by hand, not by the end of a paragraph. Spaces are shares of the leading.

@@ -11,9 +11,6 @@ namespace orvane::layout {
 namespace {
 
 constexpr double kBeforeAll = -std::numeric_limits<double>::infinity();
-constexpr double kBlankPlace = 0.2;  ///< of its width; the word after a blank may begin before the blank's end
-constexpr double kBlankTouch = 0.02; ///< of the font size; a blank that begins so near to a letter's end follows it
-constexpr double kScriptTouch = 0.1; ///< of the font size; scripts that only touch follow each other
 
 /// Clusters of one strip without a blank or the room for one between them.
 struct PaintedWord {
@@ -50,8 +47,8 @@ std::vector<std::vector<std::optional<std::size_t>>> cutWords(const std::vector<
     return wordOf;
 }
 
-/// Moves words that begin on words of other strips behind these. Letters painted by themselves stay: they may be accents,
-/// or painted into a gap that was left for them.
+/// Moves words that begin on words of other strips behind these. Letters painted by themselves stay: they may be
+/// accents, or painted into a gap that was left for them.
 void moveBehindCovered(std::vector<PaintedWord>& words, const std::vector<TextStrip>& strips, double kerning) {
     std::vector<std::size_t> byStart;
     for (std::size_t i = 0; i < words.size(); ++i)
@@ -74,14 +71,15 @@ void moveBehindCovered(std::vector<PaintedWord>& words, const std::vector<TextSt
     }
 }
 
-/// Where a blank stands: behind most of what begins before it ends, as the word after a blank may. But it goes before what
-/// was painted after it in one go, however soon that begins, and the last of a strip stays with the word that it touches.
-double placeOfBlank(const TextStrip& strip, std::size_t blank) {
+/// Where a blank stands: behind most of what begins before it ends, as the word after a blank may. But it goes before
+/// what was painted after it in one go, however soon that begins, and the last of a strip stays with the word that it
+/// touches.
+double placeOfBlank(const TextStrip& strip, std::size_t blank, const TextParameters::Strips& limits) {
     const Cluster& cluster = strip.clusters[blank];
-    const double place = cluster.start + kBlankPlace * cluster.width();
+    const double place = cluster.start + limits.blankPlace * cluster.width();
     if (blank + 1 < strip.clusters.size())
         return std::min(place, std::max(cluster.start, strip.clusters[blank + 1].start));
-    const bool touches = blank > 0 && cluster.start - strip.clusters[blank - 1].end <= kBlankTouch * cluster.size;
+    const bool touches = blank > 0 && cluster.start - strip.clusters[blank - 1].end <= limits.blankTouch * cluster.size;
     return touches ? cluster.start : place;
 }
 
@@ -111,10 +109,10 @@ std::vector<Cluster> inReadingOrder(std::vector<TextStrip> strips, const TextPar
                 cluster.beginsOnWord = words[*word].movedTo && (c == 0 || wordOf[s][c - 1] != word);
                 key = std::max(key, words[*word].movedTo.value_or(cluster.start));
             }
-            placed.push_back({word ? key : placeOfBlank(strip, c), std::move(cluster)});
+            placed.push_back({word ? key : placeOfBlank(strip, c, parameters.strips), std::move(cluster)});
         }
         if (strip.isScript) {
-            scriptEnd = strip.end - kScriptTouch * strip.size;
+            scriptEnd = strip.end - parameters.strips.scriptTouch * strip.size;
             scriptKey = key;
         }
     }

@@ -28,17 +28,17 @@ struct TextParameters {
 
     /// ClusterBuilder: glyphs that cannot be parted.
     struct Clusters {
-        double sizeStep = 0.1;      ///< points; font sizes are rounded to this, as the file's arithmetic blurs them
-        double scaleStep = 0.01;    ///< of the natural width
-        int boldWeight = 600;       ///< font weight from which on text is bold
-        double markRise = 0.5;      ///< of the font size; how far a mark's baseline may be off its letter's
-        double markReach = 0.3;     ///< of the font size; how far beside its letter a mark may be placed
-        double markTie = 0.05;      ///< of the font size; below this difference a mark goes with the letter before it
-        std::size_t mostMarks = 8;  ///< marks on one letter
-        double touch = 0.05;        ///< of the font size; glyphs this close touch
-        double hangingRise = 0.1;   ///< of the font size; signs that hang from their origin reach no higher above it ...
-        double hangingDepth = 0.3;  ///< ... and farther below
-        double axisHeight = 0.25;   ///< of the font size; the middle of large signs above the line they stand on
+        double sizeStep = 0.1;     ///< points; font sizes are rounded to this, as the file's arithmetic blurs them
+        double scaleStep = 0.01;   ///< of the natural width
+        int boldWeight = 600;      ///< font weight from which on text is bold
+        double markRise = 0.5;     ///< of the font size; how far a mark's baseline may be off its letter's
+        double markReach = 0.3;    ///< of the font size; how far beside its letter a mark may be placed
+        double markTie = 0.05;     ///< of the font size; below this difference a mark goes with the letter before it
+        std::size_t mostMarks = 8; ///< marks on one letter
+        double touch = 0.05;       ///< of the font size; glyphs this close touch
+        double hangingRise = 0.1;  ///< of the font size; signs that hang from their origin reach no higher above it ...
+        double hangingDepth = 0.3; ///< ... and farther below
+        double axisHeight = 0.25;  ///< of the font size; the middle of large signs above the line they stand on
         double accentOverlap = 0.5; ///< of the narrower one; a spacing accent over this much of a letter belongs to it
     } clusters;
 
@@ -179,6 +179,13 @@ struct TextParameters {
         double nextColumn = 1;        ///< of the font size; a gap that ends what the leader leads to
         unsigned longestTarget = 16;  ///< characters of what it leads to
     } leaders;
+
+    /// StripOrder: in which order pieces of one row that were painted apart are read.
+    struct Strips {
+        double blankPlace = 0.2;  ///< of its width; the word after a blank may begin before the blank's end
+        double blankTouch = 0.02; ///< of the font size; a blank that begins so near to a letter's end follows it
+        double scriptTouch = 0.1; ///< of the font size; scripts that only touch follow each other
+    } strips;
 
     /// WordDivision: hyphens at the ends of lines.
     struct Division {

@@ -9,7 +9,7 @@ BOOKED = ((0, ABOVE), (0, BELOW), (-1, BELOW))
 
 
 @trap(font="Liberation Sans", size=8)
-def stub_indented_in_three_steps_and_wrapped(d, v):
+def labels_indented_in_three_steps_and_wrapped(d, v):
     d.add("Table 3. Receipts by source", bold=True)
     d.table([5, 2.1, 2.1, 2.1, 2.1], [
         "Source|2006|2007|2008|2009",
@@ -28,7 +28,7 @@ def stub_indented_in_three_steps_and_wrapped(d, v):
 
 
 @trap(font="Carlito", size=9)
-def stub_indented_without_rules(d, v):
+def labels_indented_without_rules(d, v):
     d.add(RUNNING)
     d.table([6, 2.2, 2.2, 2.2], [
         "Occupation|Employed|Mean wage|Change",
@@ -85,7 +85,7 @@ def leaders_in_rows_that_wrap(d, v):
 
 
 @trap(font="Liberation Sans", size=8)
-def stub_of_groups_that_span_rows(d, v):
+def labels_of_groups_that_span_rows(d, v):
     d.add(RUNNING)
     d.table([3, 4, 2.2, 2.2, 2.2], [
         "Area|Measure|2007|2008|2009",
