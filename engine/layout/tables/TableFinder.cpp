@@ -2,6 +2,7 @@
 
 #include "layout/tables/BorderlessTableFinder.h"
 #include "layout/tables/CellBuilder.h"
+#include "layout/tables/GroundTableFinder.h"
 #include "layout/tables/HalfRuledTableFinder.h"
 #include "layout/tables/RuledTableFinder.h"
 
@@ -87,6 +88,8 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     take(std::move(halfRuled), others, TableEdges::HalfRuled);
     take(std::move(stacked), others, TableEdges::Ruled);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
+    const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
+    take(findGroundGrids(page, left, tables, limits), left, TableEdges::Ruled);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;
     });

@@ -76,6 +76,8 @@ struct TableParameters {
 
         // Cells that grounds show.
         double filledSnap = 1.5;      ///< points; edges of grounds that differ by less meet
+        double groundRowBlank = 1.0;  ///< of the font size; texts of rows between grounds stand no farther apart
+        double groundNeighbour = 4.0; ///< of the font size; a text this near beside a row of grounds belongs to it
         double filledRoom = 1.5;      ///< points; between where two filled cells meet and the words beside
         double filledTextShare = 0.8; ///< of the texts that must stand in filled cells for these to show the table
 
