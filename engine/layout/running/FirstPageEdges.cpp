@@ -157,6 +157,18 @@ bool saysNumberOnly(const RunningRow& row) {
            std::none_of(text.begin(), text.end(), [](char32_t c) { return isLetter(c); });
 }
 
+/// Whether a wide gap parts "1", "Page 1" or the like from the rest of the row.
+bool endsWithFirstNumber(const RunningRow& row, const PageText& page) {
+    if (row.numbers.size() != 1 || row.numbers[0].value != 1)
+        return false;
+    const RowNumber& number = row.numbers[0];
+    const std::vector<Word>& words = page.lines[number.line].words;
+    const bool hasName = number.word > 0 && words[number.word].gapBefore != Gap::Tab;
+    const std::size_t first = number.word - (hasName ? 1 : 0);
+    const bool isPiece = first == 0 ? row.lines.size() > 1 : words[first].gapBefore == Gap::Tab;
+    return isPiece && number.word + 1 == words.size();
+}
+
 } // namespace
 
 std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
@@ -167,7 +179,8 @@ std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const Pa
     const bool isApart =
         edge.rows.size() == 1 || edge.rows[1].fromEdge - end(row) >= parameters.ownFootGap * row.fontSize;
     // At the top a number alone may be that of a chapter.
-    const bool isNumber = saysFirstOfOne(row, parameters) || (side == PageEdge::Bottom && saysNumberOnly(row));
+    const bool isNumber = saysFirstOfOne(row, parameters) || endsWithFirstNumber(row, page) ||
+                          (side == PageEdge::Bottom && saysNumberOnly(row));
     if (!isNumber || !isApart)
         return std::nullopt;
     take(edge, 1);

@@ -332,9 +332,19 @@ TEST(RunningHeads, KnowsTheNumberOfASinglePage) {
     const struct {
         const char* text;
         std::size_t fields;
-    } rows[] = {
-        {"Page 1 of 1", 2}, {"1/1", 2}, {"- 1 | 1", 2}, {"Page 1 of 2", 0}, {"Article 1 of law 1 is in force", 0},
-        {"1 a 1 b", 0},     {"7", 1},   {"- 15 -", 1},  {"Figure 7", 0}};
+    } rows[] = {{"Page 1 of 1", 2},
+                {"1/1", 2},
+                {"- 1 | 1", 2},
+                {"Page 1 of 2", 0},
+                {"Article 1 of law 1 is in force", 0},
+                {"1 a 1 b", 0},
+                {"7", 1},
+                {"- 15 -", 1},
+                {"Figure 7", 0},
+                {"Annual report\tPage 1", 1},
+                {"Annual report\t1", 1},
+                {"Annual report 1", 0},
+                {"Annual report\tRoom 12", 0}};
     for (const auto& row : rows) {
         auto pages = pagesWith(1, [&](PageText& page, int) { page.lines.push_back(makeLine(row.text, 290, 800)); });
         const auto heads = takeRunningHeads(pages, {});
