@@ -10,7 +10,9 @@ struct GraphicsParameters {
     /// RuleFinder and RuleMerger: lines drawn on the page.
     struct Rules {
         double straightness = 0.5;       ///< points; how far the ends of a line may be off level
-        double thickest = 3.2;           ///< points; broader bars are grounds
+        double thickest = 3.2;           ///< points; broader bars are grounds ...
+        double broadest = 6.2;           ///< points; ... or rules, as broad as word processors draw them, ...
+        double broadLength = 20;         ///< ... if they are so many times as long as broad
         double thinnest = 0.1;           ///< points; width given to hairlines
         double slenderness = 2;          ///< length against width of a filled rectangle that is a rule
         double sameLine = 0.4;           ///< points; pieces this close in position are on one line

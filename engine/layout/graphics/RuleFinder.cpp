@@ -58,11 +58,17 @@ private:
             return true;
         const double thickness = std::min(box.width(), box.height());
         const double length = std::max(box.width(), box.height());
-        if (thickness <= m_limits.thickest && length >= m_limits.slenderness * thickness)
+        if (isRule(thickness, length))
             addRule(box, thickness, path.fill->color, document::BorderKind::Single, paint, path.paintOrder);
         else
             m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder});
         return true;
+    }
+
+    bool isRule(double thickness, double length) const {
+        return thickness <= m_limits.thickest
+                   ? length >= m_limits.slenderness * thickness
+                   : thickness <= m_limits.broadest && length >= m_limits.broadLength * thickness;
     }
 
     bool readStroke(const Subpath& subpath, const pdf::Path& path) {
@@ -78,7 +84,7 @@ private:
             const Rect seen = box.intersected(path.clip.inflated(m_limits.straightness));
             if (seen.right < seen.left || seen.bottom < seen.top)
                 continue;
-            if (width <= m_limits.thickest)
+            if (width <= m_limits.thickest || isRule(width, std::max(seen.width(), seen.height())))
                 addRule(seen, width, path.stroke->color, kind, RulePaint::Stroked, path.paintOrder);
             else
                 m_result.grounds.push_back(

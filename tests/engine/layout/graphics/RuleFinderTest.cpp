@@ -116,6 +116,17 @@ TEST(RuleFinder, TakesFilledRectanglesAsGrounds) {
     EXPECT_EQ(grounds[1].box, (Rect{80, 105, 120, 125})) << "white on a ground is seen";
 }
 
+TEST(RuleFinder, TakesLongBarsForBroadRules) {
+    PageContentBuilder page;
+    page.filledRectangle({72, 100, 300, 104.5}, kBlack); // a broad border
+    page.filledRectangle({72, 200, 120, 204.5}, kBlack); // a mark
+    page.filledRectangle({72, 300, 300, 307}, kBlack);   // too broad
+    const RuledPage ruled = rulesOf(page);
+    ASSERT_EQ(ruled.rules.size(), 1u);
+    EXPECT_NEAR(ruled.rules[0].width, 4.5, 0.01);
+    EXPECT_EQ(ruled.grounds.size(), 2u);
+}
+
 TEST(RuleFinder, TakesRoundedRectanglesAsRectangles) {
     PageContentBuilder page;
     pdf::Path& path = page.newPath();
