@@ -32,6 +32,12 @@ struct CentredRows {
     bool areHead(int fewest, double tolerance) const { return count >= fewest && rightmost - leftmost > tolerance; }
 };
 
+/// Narrows the gutter to where the line on its left leaves it.
+void keepClear(ColumnGutter& gutter, const Line& line, const GutterSides& sides) {
+    if (sides.sideOf(line) == GutterSide::Left)
+        gutter.left = std::max(gutter.left, line.box.right);
+}
+
 /// Follows the lines beyond the gutter's end as long as they belong to its columns. `gapTo` tells how far a line lies
 /// beyond that end, `take` moves the end over it.
 template<typename Lines, typename Beyond, typename GapTo, typename Take>
@@ -63,12 +69,18 @@ void extendOverNeighbours(ColumnGutter& gutter, std::span<const Line> lines,
     extend(
         lines, sides, parameters, [&](const Line& line) { return line.box.centerY() > gutter.bottom; },
         [&](const Line& line) { return line.box.top - gutter.bottom; },
-        [&](const Line& line) { gutter.bottom = std::max(gutter.bottom, line.box.bottom); });
+        [&](const Line& line) {
+            gutter.bottom = std::max(gutter.bottom, line.box.bottom);
+            keepClear(gutter, line, sides);
+        });
     extend(
         std::views::reverse(lines), sides, parameters,
         [&](const Line& line) { return line.box.centerY() < gutter.top; },
         [&](const Line& line) { return gutter.top - line.box.bottom; },
-        [&](const Line& line) { gutter.top = std::min(gutter.top, line.box.top); });
+        [&](const Line& line) {
+            gutter.top = std::min(gutter.top, line.box.top);
+            keepClear(gutter, line, sides);
+        });
 }
 
 std::optional<double> findEndOfHeads(const ColumnGutter& gutter, std::span<const Line> lines,

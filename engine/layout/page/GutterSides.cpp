@@ -1,5 +1,7 @@
 #include "layout/page/GutterSides.h"
 
+#include <cmath>
+
 namespace orvane::layout {
 namespace {
 
@@ -26,7 +28,12 @@ GutterSides::GutterSides(const ColumnGutter& gutter, std::span<const Line> lines
 GutterSide GutterSides::sideOf(const Line& line) const {
     if (line.box.right <= m_gutter.left + kTouch)
         return GutterSide::Left;
-    return line.box.left >= m_gutter.right - kTouch ? GutterSide::Right : GutterSide::Across;
+    if (line.box.left >= m_gutter.right - kTouch)
+        return GutterSide::Right;
+    // A ragged column may have longer lines than those at which the gutter was found.
+    const double reach = m_gutter.right - m_parameters.wideGutter * line.fontSize;
+    const bool startsAtEdge = std::abs(line.box.left - m_left.left) <= m_parameters.sameMiddle * line.fontSize;
+    return startsAtEdge && line.box.right <= reach ? GutterSide::Left : GutterSide::Across;
 }
 
 bool GutterSides::isFilledBy(const Line& line) const {

@@ -39,6 +39,20 @@ TEST(GutterReach, FollowsAColumnThatIsLongerThanItsNeighbour) {
     EXPECT_EQ(bottomWith({lineAt(50, 120, 240), lineAt(50, 290, 254)}), 264) << "a heading and its paragraph";
 }
 
+TEST(GutterReach, NarrowsForALongerLineOfARaggedColumn) {
+    std::vector<Line> lines;
+    for (int row = 0; row < 10; ++row) {
+        lines.push_back(lineAt(50, 150, 100 + 12 * row));
+        lines.push_back(lineAt(310, 550, 100 + 12 * row));
+    }
+    lines.push_back(lineAt(50, 190, 220));
+    lines.push_back(lineAt(50, 120, 232));
+    ColumnGutter gutter{150, 310, 100, 218, 10, 10};
+    extendOverNeighbours(gutter, lines, PageParameters::Regions{});
+    EXPECT_EQ(gutter.bottom, 242);
+    EXPECT_EQ(gutter.left, 190) << "no word of the line is beyond the gutter";
+}
+
 TEST(GutterReach, LeavesWhatIsNoTextOfTheColumn) {
     EXPECT_EQ(bottomWith({lineAt(50, 120, 240)}), 218) << "a short line set off from the columns";
     EXPECT_EQ(bottomWith({lineAt(50, 290, 250)}), 218) << "too far away";
