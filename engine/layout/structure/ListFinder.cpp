@@ -57,7 +57,7 @@ bool isList(const std::vector<const ListItem*>& run, const StructureParameters::
     if (first.format == document::NumberFormat::Bullet)
         return isStrong || (run.size() > 1 && first.labelStart > limits.sameIndent);
     if (run.size() == 1)
-        return isStrong && first.number() == 1 && first.labelStart > limits.sameIndent;
+        return isStrong && !first.isBare() && first.number() == 1 && first.labelStart > limits.sameIndent;
     return isStrong || first.labelStart > limits.sameIndent;
 }
 
@@ -65,6 +65,34 @@ bool isList(const std::vector<const ListItem*>& run, const StructureParameters::
 bool isNumberedByList(const std::vector<const ListItem*>& run) {
     return std::all_of(run.begin(), run.end(), [](const ListItem* item) { return item->label.isSet; }) &&
            run.front()->label.format != document::NumberFormat::Bullet;
+}
+
+bool isParentOf(const ListItem& parent, const ListItem& child) {
+    const std::vector<int>& numbers = child.label.numbers;
+    return parent.level + 1 == child.level &&
+           std::equal(parent.label.numbers.begin(), parent.label.numbers.end(), numbers.begin(), numbers.end() - 1);
+}
+
+/// "3.1" repeats the number of the level above; where the list does not write that, the 3 is part of the label's text,
+/// lest it come out as "1.1". Runs of such items are taken out of the group, each a group of its own.
+Groups takeOrphans(ListGroup& group) {
+    ListGroup kept;
+    std::map<std::size_t, ListGroup> orphans;
+    for (ListItem& item : group.items) {
+        const bool hasParent = std::any_of(kept.items.rbegin(), kept.items.rend(),
+                                           [&item](const ListItem& other) { return isParentOf(other, item); });
+        if (!item.isNested || hasParent) {
+            kept.items.push_back(std::move(item));
+            continue;
+        }
+        item.isNested = false;
+        orphans[item.run].items.push_back(std::move(item));
+    }
+    group = std::move(kept);
+    Groups taken;
+    for (auto& [run, orphan] : orphans)
+        taken.push_back(std::move(orphan));
+    return taken;
 }
 
 template<typename Admits>
@@ -78,17 +106,25 @@ void dropDoubtfulRuns(ListGroup& group, const Admits& admits) {
     std::erase_if(group.items, [&](const ListItem& item) { return !isKept[item.run]; });
 }
 
+template<typename Admits>
+void dropDoubtful(Groups& groups, const Admits& admits) {
+    Groups orphans;
+    for (ListGroup& group : groups) {
+        dropDoubtfulRuns(group, admits);
+        move(takeOrphans(group), orphans);
+    }
+    move(std::move(orphans), groups);
+}
+
 } // namespace
 
 void findLists(DocumentDraft& draft, const LayoutParameters& parameters) {
     const TypedBlanks blanks = typedBlanksOf(draft, parameters.lists);
     Groups lists;
     groupItems(draft.blocks, blanks, parameters, lists);
-    for (ListGroup& group : lists)
-        dropDoubtfulRuns(group, [&](const auto& run) { return isList(run, parameters.lists); });
+    dropDoubtful(lists, [&](const auto& run) { return isList(run, parameters.lists); });
     Groups headings = groupHeadings(draft.blocks, blanks, parameters);
-    for (ListGroup& group : headings)
-        dropDoubtfulRuns(group, isNumberedByList);
+    dropDoubtful(headings, isNumberedByList);
     std::erase_if(headings, [](const ListGroup& group) { return group.items.size() < 2; });
     move(std::move(headings), lists);
     for (const ListGroup& group : lists)

@@ -26,6 +26,8 @@ struct ListLabel {
     double labelStart = 0;    ///< from the column's start edge, points
     double textStart = 0;     ///< of what follows it
 
+    /// "1", which a list writes as seldom as a table writes it often.
+    bool isBare() const { return numbers.size() == 1 && before.empty() && after.empty(); }
     int number() const { return numbers.empty() ? 0 : numbers.back(); }
 };
 

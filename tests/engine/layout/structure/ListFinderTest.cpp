@@ -65,6 +65,7 @@ TEST(ListFinder, FindsLists) {
         {"a dash typed at the margin", {{"- one", 72}, {"- two", 72}}, "- -"},
         {"speech", {{"\u2014 one", 72}, {"\u2014 two", 72}}, "- -"},
         {"a single number", {{"2. one", 72}}, "-"},
+        {"a count and its price", {{"1\t69.99"}}, "-"},
         {"headings", {{"1.\tAims", 72, ParagraphRole::Heading}, {"2.\tMeans", 72, ParagraphRole::Heading}}, "- -"},
         {"numerals of Han", {{"\u4E00\u3001\tone"}, {"\u4E8C\u3001\ttwo"}}, "- -"},
         {"digits of another script", {{"\u0661.\tone"}, {"\u0662.\ttwo"}}, "- -"},
@@ -168,6 +169,20 @@ TEST(ListFinder, HeadingsThatAListNumbersStayHeadings) {
     EXPECT_EQ(levelOf(draft, 1, 0).text, "%1.0");
     EXPECT_EQ(levelOf(draft, 1, 1).text, "%1.%2");
     EXPECT_EQ(draft.blocks[1].paragraph()->role, ParagraphRole::Heading);
+}
+
+TEST(ListFinder, ARunWithoutTheLevelAboveItKeepsTheNumbersOfThatLevel) {
+    const std::vector<Row> rows = {{"3. Means", 72, ParagraphRole::Heading},
+                                   {"3.1 Money", 72, ParagraphRole::Heading},
+                                   {"3.2 Time", 72, ParagraphRole::Heading}};
+    DocumentDraft draft = paintedListOf(rows, BehindLabels::Nothing);
+    for (DraftBlock& block : draft.blocks)
+        block.paragraph()->list.reset();
+    draft.numberings.clear();
+    draft.blocks[1].paragraph()->pieces.front().text.lines.front().words[1].isTypedBefore = true;
+    findLists(draft, {});
+    EXPECT_EQ(placesOf(draft), "- - 0.1 0.1");
+    EXPECT_EQ(levelOf(draft, 0, 1).text, "3.%2") << "the heading above has typed its number";
 }
 
 TEST(ListFinder, HeadingsWhoseNumbersWereTypedKeepThem) {
