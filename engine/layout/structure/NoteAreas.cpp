@@ -70,9 +70,7 @@ public:
             --first;
         NoteArea area;
         for (std::size_t i = first; first > 0 && i < m_lines.size(); ++i) {
-            const bool isBesideLast = i > first && standBeside(line(m_lines[i - 1]), line(m_lines[i])) &&
-                                      !isMarkOf(line(m_lines[i - 1]), line(m_lines[i]));
-            if (isBesideLast || !addLine(area, m_lines[i]))
+            if (standsBesideLast(area, m_lines[i]) || !addLine(area, m_lines[i]))
                 return std::nullopt;
         }
         if (area.starts.empty())
@@ -82,8 +80,16 @@ public:
     }
 
 private:
+    using LineIterator = std::vector<std::size_t>::const_iterator;
+
     static bool standBeside(const Line& a, const Line& b) {
         return 2 * overlap(a.box.top, a.box.bottom, b.box.top, b.box.bottom) > std::min(a.box.height(), b.box.height());
+    }
+
+    /// Notes are read downwards: what stands beside the line before it is a table's, or names the parts of a chart.
+    bool standsBesideLast(const NoteArea& area, std::size_t index) const {
+        return !area.lines.empty() && standBeside(line(area.lines.back()), line(index)) &&
+               !isMarkOf(line(area.lines.back()), line(index));
     }
 
     const Line& line(std::size_t index) const { return m_page.lines[index]; }
@@ -94,15 +100,22 @@ private:
                length >= m_limits.shortestRule * m_page.width && length <= m_limits.longestRule * m_page.width;
     }
 
-    std::vector<std::size_t>::const_iterator firstBelow(double y) const {
+    LineIterator firstBelow(double y) const {
         return std::partition_point(m_lines.begin(), m_lines.end(),
                                     [&](std::size_t i) { return line(i).baseline <= y; });
     }
 
-    /// The text column in which the rule stands, told by the lines around it and below.
+    /// The text column in which the rule stands. The lines above it tell; where these are no columns, those below may
+    /// be, unless a line at the page's foot leads across them.
     Interval columnOf(const Rule& rule) const {
+        const auto from = firstBelow(rule.position - m_limits.columnReach);
+        const Interval above = columnAmong(rule, from, firstBelow(rule.position));
+        return std::isfinite(above.from) || std::isfinite(above.to) ? above : columnAmong(rule, from, m_lines.end());
+    }
+
+    Interval columnAmong(const Rule& rule, LineIterator from, LineIterator to) const {
         std::vector<Interval> parts;
-        for (auto i = firstBelow(rule.position - m_limits.columnReach); i != m_lines.end(); ++i)
+        for (auto i = from; i != to; ++i)
             parts.push_back({line(*i).box.left, line(*i).box.right});
         std::sort(parts.begin(), parts.end(), [](const Interval& a, const Interval& b) { return a.from < b.from; });
         const double narrowest = m_limits.narrowestColumn * m_page.width;
@@ -149,7 +162,7 @@ private:
                 break;
             if (area.lines.empty() && box.top - rule.position > m_limits.largestGap)
                 return std::nullopt;
-            if (!addLine(area, *i))
+            if (standsBesideLast(area, *i) || !addLine(area, *i))
                 return std::nullopt;
             left = std::min(left, box.left);
             right = std::max(right, box.right);

@@ -128,7 +128,7 @@ private:
 
     void takeArea(std::size_t page, const NoteArea& area, std::vector<bool>& isTaken) {
         const LineReferences matched = matchStarts(page, area);
-        // Without a mark that the text has, the area may go on with the last note of the page before.
+        // Without a mark that the text has, the area may go on with the last note of the page or column before.
         if (matched.empty() && (!area.starts.empty() || !followsNotes(page) || !looksLikeLast(page, area)))
             return;
         takeLines(page, area, matched, isTaken);
@@ -172,7 +172,8 @@ private:
                size == m_found.notes.back().content.lines.back().fontSize;
     }
 
-    bool followsNotes(std::size_t page) const { return page > 0 && m_lastPage == page - 1; }
+    /// On the page before, or in a column before.
+    bool followsNotes(std::size_t page) const { return m_lastPage == page || m_lastPage + 1 == page; }
 
     void takeLines(std::size_t page, const NoteArea& area, const LineReferences& matched, std::vector<bool>& isTaken) {
         PageText& source = m_pages[page];
@@ -181,13 +182,14 @@ private:
         Rect box;
         const auto finishNote = [&] {
             if (note)
-                addNoteLines(note->content, source, std::exchange(lines, {}), leadingOf(note->content));
+                addNoteLines(note->content, source, std::exchange(lines, {}), leadingOf(note->content),
+                             note->left - area.left);
         };
         for (const std::size_t index : area.lines) {
             const auto found = matched.find(index);
             if (found != matched.end()) {
                 finishNote();
-                note = &startNote(page, *found->second);
+                note = &startNote(page, area, *found->second);
                 partMark(source.lines[index]);
             }
             if (!note)
@@ -221,12 +223,12 @@ private:
         return note.lines.empty() ? 0 : m_context.bodyLeading / m_context.bodyFontSize * note.lines.back().fontSize;
     }
 
-    FoundNote& startNote(std::size_t page, const Reference& reference) {
+    FoundNote& startNote(std::size_t page, const NoteArea& area, const Reference& reference) {
         if (reference.isAlone)
             raise(m_pages[reference.page], reference.box);
         const bool isEndnote = reference.page < page || isNumeral(bareMark(reference.text));
         m_found.notes.push_back({isEndnote ? NoteKind::Endnote : NoteKind::Footnote, reference.text, reference.page,
-                                 reference.box, pageForNote(m_pages[page])});
+                                 reference.box, pageForNote(m_pages[page]), area.left});
         return m_found.notes.back();
     }
 

@@ -18,6 +18,7 @@ struct FoundNote {
     std::size_t referencePage = 0; ///< index of the page whose text refers to it
     Rect referenceBox;             ///< of the span there
     PageText content;              ///< its lines; the first word is the mark
+    double left = 0;               ///< where its lines begin, on the page or in the column where it starts
 };
 
 struct FoundNotes {

@@ -33,6 +33,21 @@ bool isMadeOf(std::u32string_view text, std::u32string_view characters) {
     return text.find_first_not_of(characters) == std::u32string_view::npos;
 }
 
+bool isEastAsian(char32_t c) {
+    const auto width = u_getIntPropertyValue(static_cast<UChar32>(c), UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH;
+}
+
+/// "1)" of "1)한국": in East Asian texts no blank parts the number from the text. Its length, 0 for none.
+std::size_t gluedMarkLength(std::u32string_view text) {
+    std::size_t length = 0;
+    while (length < text.size() && length < kLongestNumber && isDigit(text[length]))
+        ++length;
+    const bool isClosed = length > 0 && length + 1 < text.size() &&
+                          std::u32string_view(U")\uFF09").find(text[length]) != std::u32string_view::npos;
+    return isClosed && isEastAsian(text[length + 1]) ? length + 1 : 0;
+}
+
 } // namespace
 
 bool isNoteMark(const std::string& text) {
@@ -55,9 +70,15 @@ std::string markAtStart(const Word& word) {
     if (isRaisedMark(word.spans.front()))
         return word.spans.front().text;
     const std::string text = textOf(word);
+    if (const std::size_t length = gluedMarkLength(word); length > 0)
+        return utf8FromUtf32(utf32FromUtf8(word.spans.front().text).substr(0, length));
     // A letter on the line, "a" or "i", is a word like others.
     const std::u32string all = utf32FromUtf8(text);
     return isNoteMark(text) && !u_isalpha(static_cast<UChar32>(bare(all).front())) ? text : std::string();
+}
+
+std::size_t gluedMarkLength(const Word& word) {
+    return word.spans.empty() ? 0 : gluedMarkLength(utf32FromUtf8(word.spans.front().text));
 }
 
 bool isRaisedMark(const Span& span) {

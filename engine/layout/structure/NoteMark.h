@@ -15,6 +15,10 @@ std::string bareMark(const std::string& mark);
 /// The mark that a note's first word starts with: raised characters, or a number or sign by itself; empty for none.
 std::string markAtStart(const Word& word);
 
+/// How many characters of the word's first span are a number with its bracket that East Asian text follows at once; 0
+/// for none.
+std::size_t gluedMarkLength(const Word& word);
+
 /// True for a span that is raised and reads like a mark.
 bool isRaisedMark(const Span& span);
 

@@ -2,6 +2,7 @@
 
 #include "layout/structure/NoteMark.h"
 #include "layout/text/LineText.h"
+#include "layout/text/SpanPart.h"
 
 #include <map>
 #include <utility>
@@ -9,17 +10,19 @@
 namespace orvane::layout {
 namespace {
 
-void moveDown(Line& line, double by) {
-    const auto move = [by](Rect& box) {
-        box.top += by;
-        box.bottom += by;
+void moveBy(Line& line, double across, double down) {
+    const auto move = [across, down](Rect& box) {
+        box.left += across;
+        box.right += across;
+        box.top += down;
+        box.bottom += down;
     };
-    line.baseline += by;
+    line.baseline += down;
     move(line.box);
     for (Word& word : line.words) {
         move(word.box);
         for (Span& span : word.spans) {
-            span.baseline += by;
+            span.baseline += down;
             move(span.box);
         }
     }
@@ -51,14 +54,14 @@ PageText pageForNote(const PageText& source) {
     return page;
 }
 
-void addNoteLines(PageText& note, const PageText& source, std::vector<Line> lines, double leading) {
+void addNoteLines(PageText& note, const PageText& source, std::vector<Line> lines, double leading, double across) {
     if (lines.empty())
         return;
     Mover<std::uint32_t> fonts;
     Mover<int> links, formulas;
     const double shift = note.lines.empty() ? 0 : note.lines.back().baseline + leading - lines.front().baseline;
     for (Line& line : lines) {
-        moveDown(line, shift);
+        moveBy(line, across, shift);
         for (Word& word : line.words) {
             for (Span& span : word.spans) {
                 if (span.look.font < source.fonts.size())
@@ -77,7 +80,9 @@ void addNoteLines(PageText& note, const PageText& source, std::vector<Line> line
 
 void partMark(Line& line) {
     Word& first = line.words.front();
-    if (first.spans.size() < 2 || !isRaisedMark(first.spans.front()))
+    if (const std::size_t length = gluedMarkLength(first); length > 0)
+        partSpan(first, 0, 0, length);
+    else if (first.spans.size() < 2 || !isRaisedMark(first.spans.front()))
         return;
     Word rest = first;
     rest.spans.erase(rest.spans.begin());

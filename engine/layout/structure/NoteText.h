@@ -10,10 +10,12 @@ namespace orvane::layout {
 PageText pageForNote(const PageText& source);
 
 /// Moves lines of a page to the note's page, with the fonts and links that they use. Lines of a further page are put
-/// below what is there, `leading` points from baseline to baseline.
-void addNoteLines(PageText& note, const PageText& source, std::vector<Line> lines, double leading);
+/// below what is there, `leading` points from baseline to baseline; those of another column are moved `across`, by so
+/// many points to the right.
+void addNoteLines(PageText& note, const PageText& source, std::vector<Line> lines, double leading, double across);
 
-/// Makes the raised mark at the line's start a word of its own. Requires: the line starts with a mark.
+/// Makes the mark, raised or glued to the text, at the line's start a word of its own. Requires: the line starts with a
+/// mark.
 void partMark(Line& line);
 
 /// True when `mark` is nothing but a raised mark that stands beside the first line of its note.

@@ -216,6 +216,29 @@ TEST(NoteFinder, LeavesTheOtherColumnAlone) {
     EXPECT_EQ(pages[0].lines.size(), 76u);
 }
 
+TEST(NoteFinder, GoesOnInTheNextColumn) {
+    std::vector<PageText> pages{makePage(1)};
+    for (int i = 0; i < 36; ++i)
+        for (const double left : {72.0, 310.0})
+            pages[0].lines.push_back(makeLine("a column that has text enough", left, 190 + 14 * i));
+    pages[0].lines[0] = makeNotedLine("a column that has text^1", 72, 190);
+    addNotes(pages[0], {"^1 A long note of the left"});
+    pages[0].rules.push_back(noteRule(700, 310));
+    pages[0].lines.push_back(makeLine("ends in the right", 310, 712, {.size = 8}));
+    const FoundNotes found = take(pages);
+    EXPECT_EQ(notesOf(found), "foot 1@1: 1 A long note of the left ends in the right\n");
+    EXPECT_DOUBLE_EQ(found.notes[0].content.lines.at(1).box.left, 72) << "below its beginning";
+}
+
+TEST(NoteFinder, PartsAMarkFromEastAsianText) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1) and"})};
+    addNotes(pages[0], {"1)\uC190\uD574 note"});
+    const FoundNotes found = take(pages);
+    EXPECT_EQ(notesOf(found), "foot 1)@1: 1)\uC190\uD574 note\n");
+    ASSERT_EQ(found.notes.size(), 1u);
+    EXPECT_EQ(textOf(found.notes[0].content.lines[0].words[0]), "1)") << "a word of its own";
+}
+
 TEST(NoteMark, KnowsMarks) {
     for (const char* mark : {"1", "12", "iv", "b", "*", "**", "†", "(3)", "4.", "٤"})
         EXPECT_TRUE(isNoteMark(mark)) << mark;
