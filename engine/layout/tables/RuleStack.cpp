@@ -1,6 +1,7 @@
 #include "layout/tables/RuleStack.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvane::layout {
 namespace {
@@ -20,6 +21,29 @@ void appendLevels(const std::vector<BorderLine>& lines, std::vector<std::size_t>
     }
 }
 
+/// Makes the pieces of one height, [first, end) of `levels`, one level where it has the ends of a whole one: rules
+/// above totals are drawn column by column.
+void joinPieces(std::vector<RuleLevel>& levels, std::size_t first, std::size_t end,
+                const TableParameters::Tables& parameters) {
+    if (end - first < parameters.fewestRulePieces)
+        return;
+    const double left = levels[first].left, right = levels[end - 1].right;
+    const auto isNear = [&](double a, double b) { return std::abs(a - b) <= parameters.endSnap; };
+    bool isWhole = false;
+    for (std::size_t i = 0; i < levels.size(); ++i)
+        isWhole =
+            isWhole || ((i < first || i >= end) && isNear(levels[i].left, left) && isNear(levels[i].right, right));
+    for (std::size_t i = first + 1; i < end; ++i)
+        isWhole = isWhole && levels[i].left - levels[i - 1].right <= parameters.widestRuleGap;
+    if (!isWhole)
+        return;
+    for (std::size_t i = first + 1; i < end; ++i)
+        levels[first].lines.insert(levels[first].lines.end(), levels[i].lines.begin(), levels[i].lines.end());
+    levels[first].right = right;
+    levels.erase(levels.begin() + static_cast<std::ptrdiff_t>(first) + 1,
+                 levels.begin() + static_cast<std::ptrdiff_t>(end));
+}
+
 std::vector<RuleLevel> findLevels(const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
     std::vector<std::size_t> order;
     for (std::size_t i = 0; i < lines.size(); ++i)
@@ -33,6 +57,13 @@ std::vector<RuleLevel> findLevels(const std::vector<BorderLine>& lines, const Ta
         const auto last = std::find_if(first, order.end(), [&](std::size_t i) { return lines[i].position > reach; });
         appendLevels(lines, first, last, parameters, levels);
         first = last;
+    }
+    for (std::size_t end = levels.size(); end > 0;) {
+        std::size_t first = end - 1;
+        while (first > 0 && levels[end - 1].y - levels[first - 1].y <= parameters.lineSnap)
+            --first;
+        joinPieces(levels, first, end, parameters);
+        end = first;
     }
     return levels;
 }

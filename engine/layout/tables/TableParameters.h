@@ -86,14 +86,16 @@ struct TableParameters {
         double numberedShare = 0.8; ///< of a cell's lines that must be numbers for it to list them
 
         // Rules between rows only.
-        double ruleFill = 0.75;       ///< of the rules' length that the texts between them must take up
-        double levelGap = 20.0;       ///< points; rules of one height with a larger gap belong to two tables
-        double endSnap = 6.0;         ///< points; rules above each other whose ends differ by less belong together
-        int fewestTotalRules = 3;     ///< rules at the totals of a table whose first rows stand above all of them
-        double headReach = 10.0;      ///< of the font size; no head above the first rule is higher
-        double headSpace = 0.8;       ///< of the font size; its lines, and the rule below them, are this close
-        double bodyReach = 10.0;      ///< of the font size; rows below the last rule are not farther apart
-        double openProseShare = 0.55; ///< of the last rule's length; a text alone in its row that is longer runs on
+        double ruleFill = 0.75;           ///< of the rules' length that the texts between them must take up
+        double levelGap = 20.0;           ///< points; rules of one height with a larger gap belong to two tables
+        std::size_t fewestRulePieces = 3; ///< of one height that may be one rule over all columns
+        double widestRuleGap = 40.0;      ///< points; between such pieces
+        double endSnap = 6.0;             ///< points; rules above each other whose ends differ by less belong together
+        int fewestTotalRules = 3;         ///< rules at the totals of a table whose first rows stand above all of them
+        double headReach = 10.0;          ///< of the font size; no head above the first rule is higher
+        double headSpace = 0.8;           ///< of the font size; its lines, and the rule below them, are this close
+        double bodyReach = 10.0;          ///< of the font size; rows below the last rule are not farther apart
+        double openProseShare = 0.55;     ///< of the last rule's length; a text alone in its row that is longer runs on
 
         // Words in columns that are no table.
         double crossingPieceShare = 0.25; ///< of the pieces that may reach over a gap
