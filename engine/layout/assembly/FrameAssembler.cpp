@@ -2,6 +2,7 @@
 
 #include "base/Utf8.h"
 #include "layout/fonts/LineMetrics.h"
+#include "layout/frames/LineFitter.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -122,7 +123,9 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     const Line& first = text.lines.front();
     const auto& parameters = context.parameters.textBoxes;
     const LineExtent extent = extentOf(first, piece.page, context.fonts);
-    const double room = std::max(parameters.leastRoom, parameters.room * text.box.width());
+    const double room = !text.wrappingLines.empty()
+                            ? tightRoom(text.box.width(), parameters)
+                            : std::max(parameters.leastRoom, parameters.room * text.box.width());
 
     document::Paragraph& paragraph = *block.paragraph();
     Frame frame;

@@ -151,8 +151,11 @@ private:
                 continue;
             readWord(piece.page, line.words[i], i == 0 ? Position::StartsLine : Position::WithinLine);
         }
-        m_isBroken =
-            std::find(piece.text.hardBreaks.begin(), piece.text.hardBreaks.end(), index) != piece.text.hardBreaks.end();
+        const auto names = [index](const std::vector<std::size_t>& lines) {
+            return std::find(lines.begin(), lines.end(), index) != lines.end();
+        };
+        m_isBroken = names(piece.text.hardBreaks);
+        m_wraps = names(piece.text.wrappingLines);
     }
 
     enum class Position { StartsLine, WithinLine };
@@ -189,17 +192,14 @@ private:
                   const std::optional<LinkTarget>& link) {
         const auto gapLink = sameTarget(m_before->link, link) ? link : std::nullopt;
         if (position == Position::StartsLine && m_isBroken) {
-            m_builder.add({document::Break{document::BreakKind::Line}}, gapLink);
+            breakLine(word, gapLink);
             return;
         }
         LineJoin join = LineJoin::Blank;
         if (position == Position::StartsLine && isCutAddress(gapLink, m_before->text, textOf(word)))
             join = LineJoin::Nothing;
         else if (position == Position::StartsLine)
-            join = resolveLineEnd(m_before->text, textOf(word), m_context.document.vocabulary,
-                                  m_context.document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined,
-                                  m_context.document.division == WordDivision::Never ? HyphenSource::Typed
-                                                                                     : HyphenSource::Divided);
+            join = joinTo(word);
         else if (word.gapBefore == Gap::None)
             join = LineJoin::Nothing;
         if (position == Position::WithinLine && isTabulator(word))
@@ -208,6 +208,24 @@ private:
             m_builder.addText(blanksBefore(word, position), stretched(blankBefore(properties), word), gapLink);
         else if (join == LineJoin::DropHyphen)
             m_builder.dropLastCharacter();
+    }
+
+    LineJoin joinTo(const Word& word) const {
+        const DocumentContext& document = m_context.document;
+        return resolveLineEnd(m_before->text, textOf(word), document.vocabulary,
+                              document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined,
+                              document.division == WordDivision::Never ? HyphenSource::Typed : HyphenSource::Divided);
+    }
+
+    /// Ends the line before `word`. A word divided there stays one word, that it can be found and spelled.
+    void breakLine(const Word& word, const std::optional<LinkTarget>& link) {
+        constexpr std::string_view kSoftHyphen = "\u00AD";
+        if (m_wraps && joinTo(word) == LineJoin::DropHyphen) {
+            m_builder.dropLastCharacter();
+            m_builder.addText(kSoftHyphen, m_before->properties, link);
+        } else {
+            m_builder.add({document::Break{document::BreakKind::Line}}, link);
+        }
     }
 
     std::string blanksBefore(const Word& word, Position position) const {
@@ -312,7 +330,8 @@ private:
     InlineBuilder m_builder;
     std::size_t m_wordCount = 0;
     std::optional<Before> m_before;
-    bool m_isBroken = false;
+    bool m_isBroken = false; ///< the line before was ended by hand
+    bool m_wraps = false;    ///< it ends in a divided word, whose rest does not fit
 };
 
 bool hasLetterOrDigit(std::string_view text) {

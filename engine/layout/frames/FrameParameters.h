@@ -27,6 +27,7 @@ struct FrameParameters {
         // LineFitter
         double fitSlack = 0.006;     ///< of the line's width; one that fills its box by more may not fit into it
         double freeSlack = 0.025;    ///< likewise; one that nothing holds may be longer by so much
+        double tightRoom = 1.0;      ///< points; besides, in a frame that is no wider than its lines
         double leastStretch = 0.005; ///< of the width; text is not stretched by less, for formats hold whole percents
         double narrowest = 0.6;      ///< of the natural width; text that needs less is no fit
         double widest = 1.3;         ///< likewise

@@ -1,6 +1,7 @@
 #include "layout/frames/LineFitter.h"
 
 #include "layout/frames/LineMeter.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -199,9 +200,44 @@ public:
         for (Line& line : text.lines)
             if (isMeasurable(line))
                 fit(line);
+        text.wrappingLines = findWrappingLines();
     }
 
 private:
+    /// The lines that end in a divided word whose rest is sure not to fit behind it, in a frame hardly wider than the
+    /// lines. None where it is not sure that the lines fit such a frame.
+    std::vector<std::size_t> findWrappingLines() const {
+        const ParagraphDraft& text = m_piece.text;
+        const auto isLevel = [](const Line& line) {
+            return line.angle == 0 && !line.isVertical && !line.isRightToLeft &&
+                   std::none_of(line.words.begin(), line.words.end(),
+                                [](const Word& word) { return word.gapBefore == Gap::Tab; });
+        };
+        std::vector<std::size_t> wrapping;
+        if ((text.alignment != Alignment::Start && text.alignment != Alignment::Justified) ||
+            !std::all_of(text.lines.begin(), text.lines.end(), isLevel) || !areWidthsKnown(text, m_piece.page, m_fonts))
+            return wrapping;
+        const double edge = text.box.right + 2 * tightRoom(text.box.width(), m_parameters);
+        for (std::size_t i = 0; i + 1 < text.lines.size(); ++i) {
+            const Line& line = text.lines[i];
+            if (textOf(line.words.back()).ends_with('-') &&
+                naturalEnd(line) + text.lines[i + 1].words.front().box.width() > edge)
+                wrapping.push_back(i);
+        }
+        return wrapping;
+    }
+
+    /// Where the line would end if nothing spread its words over the width of a justified paragraph.
+    double naturalEnd(const Line& line) const {
+        if (m_piece.text.alignment != Alignment::Justified)
+            return line.box.right;
+        double end = line.words.front().box.left;
+        for (const Word& word : line.words)
+            end += word.box.width();
+        const auto blanks = static_cast<double>(line.words.size() - 1);
+        return std::min(line.box.right, end + blanks * m_parameters.usualBlank * line.fontSize);
+    }
+
     /// False where lines may turn out too wide, which must not be held between two edges, and where even blanks would
     /// not bring the words to their places.
     bool canBeJustified() const {
@@ -247,6 +283,10 @@ private:
 };
 
 } // namespace
+
+double tightRoom(double width, const Parameters& parameters) {
+    return parameters.freeSlack * width + parameters.tightRoom;
+}
 
 void fitLines(std::vector<DraftBlock>& frames, const FontCatalog& fonts, Tracking tracking,
               const Parameters& parameters) {

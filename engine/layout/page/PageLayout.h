@@ -19,9 +19,10 @@ struct ParagraphDraft {
     double leading = 0;          ///< baseline to baseline; of a single line what its font wants
     bool startsParagraph = true; ///< false: goes on from the column or page before
     bool endsParagraph = true;   ///< false: its last line is full and the text goes on in the next column or page
-    std::vector<std::size_t> hardBreaks; ///< indices of lines that the author ended by hand
-    bool isFloating = false;             ///< stands beside the flow of the page: a stamp along its edge
-    document::Borders borders;           ///< what is drawn around it
+    std::vector<std::size_t> hardBreaks;    ///< indices of lines that the author ended by hand
+    bool isFloating = false;                ///< stands beside the flow of the page: a stamp along its edge
+    std::vector<std::size_t> wrappingLines; ///< in a frame without room behind them: those that end in a divided word
+    document::Borders borders;              ///< what is drawn around it
     std::optional<Color> shading;
 };
 

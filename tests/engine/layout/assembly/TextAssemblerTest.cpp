@@ -76,6 +76,13 @@ TEST(TextAssembler, SetsNoBlankBetweenEastAsianLines) {
               "p Normal \"\u6771\u4EAC\u90FD\"{ea=Calibri}");
 }
 
+TEST(TextAssembler, KeepsDividedWordsWholeWhereTheirLineWraps) {
+    DocumentDraft draft = draftOf({makeLine("a divi-", 72, 100), makeLine("ded word", 72, 112)});
+    paragraphOf(draft).hardBreaks = {0};
+    paragraphOf(draft).wrappingLines = {0};
+    EXPECT_EQ(text(draft), "p Normal \"a divi\u00ADded word\"");
+}
+
 TEST(TextAssembler, KeepsBreaksMadeByHand) {
     DocumentDraft draft = draftOf({makeLine("Street 1", 72, 100), makeLine("Town", 72, 112)});
     paragraphOf(draft).hardBreaks = {0};

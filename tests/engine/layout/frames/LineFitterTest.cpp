@@ -152,5 +152,25 @@ TEST(LineFitter, MeasuresLinesThatRunUpThePage) {
     EXPECT_NEAR(stretchIn(draftOf(kTimes, line)), 1.28, 0.011);
 }
 
+/// Which of two lines of justified or ragged text wrap; the first is 100 points wide, and its last word is as typed.
+std::vector<std::size_t> wrappingIn(const char* end, double restWidth, Alignment alignment) {
+    Line first = makeLine(std::string("pppp pppp ") + end, 72, 100), second = makeLine("pp pppp pppp ppppp", 72, 112);
+    second.words[0].box.right = second.words[0].box.left + restWidth;
+    DocumentDraft draft = draftOf(kTimes, first, alignment);
+    ParagraphDraft& text = draft.blocks[0].paragraph()->pieces[0].text;
+    text.lines.push_back(second);
+    text.box.right = std::max(text.box.right, first.box.right);
+    text.hardBreaks = {0};
+    return fitted(std::move(draft)).wrappingLines;
+}
+
+TEST(LineFitter, KnowsTheLinesThatMustWrapInADividedWord) {
+    const std::vector<std::size_t> first{0}, none;
+    EXPECT_EQ(wrappingIn("ppppppp-", 30, Alignment::Start), first);
+    EXPECT_EQ(wrappingIn("pppppppp", 30, Alignment::Start), none) << "no word is divided";
+    EXPECT_EQ(wrappingIn("ppppppp-", 2, Alignment::Start), none) << "the rest might find room";
+    EXPECT_EQ(wrappingIn("ppppppp-", 30, Alignment::Center), none) << "centred lines have room at both sides";
+}
+
 } // namespace
 } // namespace orvane::layout::tests
