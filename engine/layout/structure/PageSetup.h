@@ -16,9 +16,9 @@ struct TextArea {
     PageTops tops;
 };
 
-/// The area within which the pages of a scheme set their text. Where nothing shows an edge exactly it is chosen so that
-/// lines and pages break where they broke, as a round margin if one fits.
+/// The area within which the pages of a scheme set their text, above `bottomMargin` points. Where nothing shows an edge
+/// exactly it is chosen so that lines break where they broke, as a round margin if one fits.
 TextArea findTextArea(const DocumentDraft& draft, const std::vector<PageFill>& fills, const RunningScheme& scheme,
-                      const LayoutParameters& parameters);
+                      double bottomMargin, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

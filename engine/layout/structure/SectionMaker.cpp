@@ -3,6 +3,7 @@
 #include "layout/running/RunningScheme.h"
 #include "layout/structure/BreakFinder.h"
 #include "layout/structure/ColumnSetup.h"
+#include "layout/structure/PageBottoms.h"
 #include "layout/structure/PageFill.h"
 #include "layout/structure/PageSetup.h"
 #include "layout/structure/RowKeeping.h"
@@ -27,13 +28,16 @@ public:
         , m_fills(measurePages(draft, FontCatalog(draft, parameters), parameters)) {}
 
     void run() {
+        const std::vector<RunningScheme> schemes = findSchemes(m_heads, chances());
+        const std::vector<double> bottoms = findBottomMargins(m_draft, m_fills, schemes, m_parameters.pageSetup);
         std::size_t block = 0;
-        for (const RunningScheme& scheme : findSchemes(m_heads, chances())) {
+        for (std::size_t i = 0; i < schemes.size(); ++i) {
+            const RunningScheme& scheme = schemes[i];
             const std::size_t first = block;
             while (block < m_draft.blocks.size() && m_draft.blocks[block].page <= scheme.lastPage)
                 ++block;
             if (block > first || m_draft.sections.empty())
-                addSections(scheme, first, block);
+                addSections(scheme, bottoms[i], first, block);
         }
     }
 
@@ -55,8 +59,8 @@ private:
     }
 
     /// The sections of pages with one scheme: one, or several where the number of columns changes.
-    void addSections(const RunningScheme& scheme, std::size_t first, std::size_t last) {
-        const TextArea area = findTextArea(m_draft, m_fills, scheme, m_parameters);
+    void addSections(const RunningScheme& scheme, double bottomMargin, std::size_t first, std::size_t last) {
+        const TextArea area = findTextArea(m_draft, m_fills, scheme, bottomMargin, m_parameters);
         DraftSection section;
         section.setup = setupOf(scheme, area.box);
         m_runningText.make(section, scheme);

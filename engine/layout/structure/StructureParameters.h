@@ -9,22 +9,25 @@ namespace orvane::layout {
 struct StructureParameters {
     /// TextEdges, PageSetup, SectionMaker: paper, margins, columns, page breaks.
     struct PageSetup {
-        double sameSize = 1.5;          ///< points; paper sizes that differ by less are one
-        double sameEdge = 1.5;          ///< points; lines that start this near start at one edge
-        double edgeShare = 0.03;        ///< of the lines that must start at an edge for it to be the margin
-        double fullWidth = 0.5;         ///< of the widest line; narrower ones that go on tell nothing about the edge
-        int flushLines = 5;             ///< so many justified lines show the end edge
-        double dissent = 0.03;          ///< of the lines that may contradict two margins of one width
-        double blank = 0.25;            ///< of the font size; the blank before a word that had no room
-        double farInside = 24.0;        ///< points; text that starts so far within most tables does not show the margin
-        double roomSlack = 0.5;         ///< points; a line may be this much longer than measured
-        double breakSlack = 1.0;        ///< points; likewise for pages
-        double tidyTolerance = 0.4;     ///< points; a margin this near to a round number is meant to be it
-        double usualMargin = 72.0;      ///< points; of pages that show none
-        double sameColumn = 12.0;       ///< points; columns of bands that differ by less are those of one section
+        double sameSize = 1.5;      ///< points; paper sizes that differ by less are one
+        double sameEdge = 1.5;      ///< points; lines that start this near start at one edge
+        double edgeShare = 0.03;    ///< of the lines that must start at an edge for it to be the margin
+        double fullWidth = 0.5;     ///< of the widest line; narrower ones that go on tell nothing about the edge
+        int flushLines = 5;         ///< so many justified lines show the end edge
+        double dissent = 0.03;      ///< of the lines that may contradict two margins of one width
+        double blank = 0.25;        ///< of the font size; the blank before a word that had no room
+        double farInside = 24.0;    ///< points; text that starts so far within most tables does not show the margin
+        double roomSlack = 0.5;     ///< points; a line may be this much longer than measured
+        double breakSlack = 1.0;    ///< points; likewise for pages
+        double tidyTolerance = 0.4; ///< points; a margin this near to a round number is meant to be it
+        double usualMargin = 72.0;  ///< points; of pages that show none
+        double leastMargin = 14.0;  ///< points; nearer to the edge printers do not reach
+        double endRoom = 0.05;      ///< of the text's height; what may come out higher than it stood, tables above all
+        double sameColumn = 12.0;   ///< points; columns of bands that differ by less are those of one section
         double smallestColumnGap = 6.0; ///< points; between columns
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
+        double plainStartRoom = 30.0; ///< points; likewise by a paragraph that is no heading
     } pageSetup;
 
     /// HeadingFinder, HeadingStyles: headings where only their looks tell them.

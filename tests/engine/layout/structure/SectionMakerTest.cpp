@@ -42,6 +42,11 @@ const DraftBlock& firstOn(const DocumentDraft& draft, std::size_t page) {
     return *std::find_if(draft.blocks.begin(), draft.blocks.end(), [&](const DraftBlock& b) { return b.page == page; });
 }
 
+/// The margin below the text of a section. Units: points.
+double setupBottom(const DocumentDraft& draft, std::size_t section) {
+    return pointsFromTwips(draft.sections.at(section).setup.marginBottom);
+}
+
 TEST(SectionMaker, TakesMarginsFromTheText) {
     DocumentDraft draft = makeDraft(2);
     fillPage(draft, 0);
@@ -130,6 +135,56 @@ TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     sectionsOf(draft);
     EXPECT_TRUE(firstOn(draft, 1).startsPage) << "the first page had room";
     EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
+}
+
+TEST(SectionMaker, LetsTextMoveWithALineOrTwoToSpareButNothingElse) {
+    for (const ParagraphRole role : {ParagraphRole::Body, ParagraphRole::Caption}) {
+        DocumentDraft draft = makeDraft(4);
+        fillPage(draft, 0);
+        fillPage(draft, 1, 725); // as some programs do for the sake of single lines
+        fillPage(draft, 2);
+        fillPage(draft, 3, 200);
+        for (DraftBlock& block : draft.blocks)
+            if (block.page == 2 && &block == &firstOn(draft, 2))
+                block.paragraph()->role = role;
+        sectionsOf(draft);
+        EXPECT_EQ(firstOn(draft, 2).startsPage, role == ParagraphRole::Caption);
+    }
+}
+
+TEST(SectionMaker, LeavesAPictureThatHadNoRoomToItself) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0, 660);
+    draft.blocks.push_back(tests::makePictureBlock({72, 74, 372, 274}));
+    draft.blocks.back().page = 1;
+    for (double baseline = 300; baseline <= 760; baseline += 20)
+        addLine(draft, 1, 72, baseline);
+    sectionsOf(draft);
+    EXPECT_FALSE(firstOn(draft, 1).startsPage) << "it starts at the top, though the text below it does not";
+}
+
+TEST(SectionMaker, LeavesRoomBelowPagesThatEndByHand) {
+    DocumentDraft draft = makeDraft(1);
+    fillPage(draft, 0, 764);
+    sectionsOf(draft);
+    EXPECT_LE(setupBottom(draft, 0), 842 - 766 - 20) << "the page may come out somewhat longer than it was";
+    EXPECT_GE(setupBottom(draft, 0), 14);
+}
+
+TEST(SectionMaker, GivesTheSectionsOfABookOneMargin) {
+    DocumentDraft draft = makeDraft(6);
+    std::vector<PageRunningHeads> heads(6);
+    for (std::size_t page = 0; page < 6; ++page) {
+        const bool isFirst = page < 3;
+        for (double baseline = isFirst ? 84 : 94; baseline <= (isFirst ? 744 : 734); baseline += 20)
+            addLine(draft, page, 72, baseline);
+        heads[page].header = RunningHead{tests::makePage(1), {}, isFirst ? "one chapter" : "another"};
+        heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
+    }
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 2u);
+    EXPECT_EQ(setupBottom(draft, 0), setupBottom(draft, 1));
+    EXPECT_LE(setupBottom(draft, 0), 842 - 746) << "the lines of the first have room";
 }
 
 /// Two full pages, the second with the rest of the first one's last paragraph on top.

@@ -1,0 +1,163 @@
+#include "layout/structure/PageBottoms.h"
+
+#include "layout/structure/PageTops.h"
+#include "layout/support/TidyLength.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace orvane::layout {
+namespace {
+
+/// The margins that some pages allow. Units: points.
+struct MarginWindow {
+    double least = 0;       ///< with less, what starts a page would have had room on the one before
+    double leastSpaced = 0; ///< likewise, with the usual space above it
+    double most = 0;        ///< with more, not all that stands on the pages would have had room
+    double top = 0;         ///< the margin above
+    double textHeight = 0;  ///< of the fullest page
+    double pages = 0;
+    bool isEmpty = false; ///< nothing stands on the pages
+    bool isFree = false;  ///< all pages end by hand or with the document
+};
+
+enum class SpaceAbove : unsigned char { Nothing, Usual };
+
+/// Reads the window of one scheme's pages.
+class WindowReader {
+public:
+    WindowReader(const std::vector<PageFill>& fills, const RunningScheme& scheme,
+                 const StructureParameters::PageSetup& limits)
+        : m_fills(fills)
+        , m_scheme(scheme)
+        , m_tops(findPageTops(fills, scheme, limits))
+        , m_limits(limits) {}
+
+    MarginWindow read(double pageHeight) const {
+        double lowest = 0;
+        for (std::size_t i = m_scheme.firstPage; i <= m_scheme.lastPage; ++i)
+            lowest = std::max(lowest, m_fills[i].bottom);
+        MarginWindow window;
+        window.top = m_tops.margin;
+        window.pages = static_cast<double>(m_scheme.lastPage - m_scheme.firstPage + 1);
+        window.isEmpty = lowest <= window.top;
+        if (window.isEmpty)
+            return window;
+        window.most = std::max(0.0, pageHeight - lowest);
+        window.textHeight = lowest - window.top;
+        const double highest = highestBottom(pageHeight, lowest, SpaceAbove::Nothing);
+        window.isFree = highest >= pageHeight;
+        window.least = pageHeight - highest + m_limits.breakSlack;
+        window.leastSpaced = pageHeight - highestBottom(pageHeight, lowest, SpaceAbove::Usual) + m_limits.breakSlack;
+        return window;
+    }
+
+private:
+    /// How high the lower edge may stand so that what starts the pages had no room on those before.
+    double highestBottom(double pageHeight, double lowest, SpaceAbove space) const {
+        double highest = pageHeight;
+        for (std::size_t i = m_scheme.firstPage; i < m_scheme.lastPage; ++i) {
+            if (startsLow(m_fills[i + 1], m_tops.of(i + 1), m_limits))
+                continue; // by hand, whatever room there was
+            const double gap = space == SpaceAbove::Usual ? m_fills[i + 1].gap : 0;
+            const double wouldEnd = m_fills[i].bottom + gap + m_fills[i + 1].need;
+            if (!m_fills[i].isEmpty && !m_fills[i + 1].isEmpty && wouldEnd > lowest)
+                highest = std::min(highest, wouldEnd);
+        }
+        return highest;
+    }
+
+    const std::vector<PageFill>& m_fills;
+    const RunningScheme& m_scheme;
+    PageTops m_tops;
+    const StructureParameters::PageSetup& m_limits;
+};
+
+/// Any margin will do, so the text gets room to come out somewhat higher than it stood.
+double roomyMargin(const MarginWindow& window, const StructureParameters::PageSetup& limits) {
+    return window.most - limits.endRoom * window.textHeight;
+}
+
+double freeMargin(const MarginWindow& window, const StructureParameters::PageSetup& limits) {
+    const double roomy = roomyMargin(window, limits);
+    const double least = std::min({window.most, window.top, limits.leastMargin});
+    return roomy <= least ? least : tidyLengthWithin(least, roomy, window.top).value_or(least);
+}
+
+double marginWithin(const MarginWindow& window, const StructureParameters::PageSetup& limits) {
+    if (window.isEmpty)
+        return limits.usualMargin;
+    if (window.isFree)
+        return freeMargin(window, limits);
+    const double slack = limits.breakSlack;
+    // How much space there was above what starts a page is not seen; only where no margin that people type goes without
+    // it is it taken to have been the usual one.
+    std::optional<double> margin = tidyLengthWithin(window.least, window.most - slack, window.top);
+    if (!margin)
+        margin = tidyLengthWithin(window.leastSpaced, window.most - slack, window.top);
+    // A margin that people type is believed to the hair.
+    if (!margin)
+        margin = tidyLengthWithin(window.least - slack, window.least, window.top);
+    if (!margin)
+        margin = tidyLength(window.least, window.most - slack, window.top, slack);
+    return std::clamp(*margin, 0.0, window.most);
+}
+
+bool allows(const MarginWindow& window, double margin, const StructureParameters::PageSetup& limits) {
+    if (window.isEmpty || window.isFree)
+        return window.isEmpty || margin <= roomyMargin(window, limits);
+    return margin >= window.leastSpaced - limits.breakSlack && margin <= window.most;
+}
+
+/// The margins that suit the most pages; nullopt where no two schemes agree.
+std::optional<MarginWindow> sharedWindow(const std::vector<MarginWindow>& windows,
+                                         const StructureParameters::PageSetup& limits) {
+    std::optional<MarginWindow> best;
+    for (const MarginWindow& candidate : windows) {
+        if (candidate.isEmpty || candidate.isFree)
+            continue;
+        MarginWindow shared = candidate;
+        shared.pages = 0;
+        std::size_t schemes = 0;
+        for (const MarginWindow& other : windows) {
+            if (other.isEmpty || other.isFree || !allows(other, candidate.least, limits))
+                continue;
+            shared.leastSpaced = std::max(shared.leastSpaced, other.leastSpaced);
+            shared.most = std::min(shared.most, other.most);
+            shared.pages += other.pages;
+            ++schemes;
+        }
+        if (schemes > 1 && (!best || shared.pages > best->pages))
+            best = shared;
+    }
+    return best;
+}
+
+bool hasSamePaper(const PageLayout& a, const PageLayout& b, double tolerance) {
+    return std::abs(a.width - b.width) <= tolerance && std::abs(a.height - b.height) <= tolerance;
+}
+
+} // namespace
+
+std::vector<double> findBottomMargins(const DocumentDraft& draft, const std::vector<PageFill>& fills,
+                                      const std::vector<RunningScheme>& schemes,
+                                      const StructureParameters::PageSetup& parameters) {
+    std::vector<MarginWindow> windows;
+    for (const RunningScheme& scheme : schemes)
+        windows.push_back(WindowReader(fills, scheme, parameters).read(draft.pages[scheme.firstPage].height));
+    std::vector<double> margins;
+    for (std::size_t i = 0; i < schemes.size(); ++i) {
+        std::vector<MarginWindow> ofPaper;
+        for (std::size_t j = 0; j < schemes.size(); ++j)
+            if (hasSamePaper(draft.pages[schemes[i].firstPage], draft.pages[schemes[j].firstPage], parameters.sameSize))
+                ofPaper.push_back(windows[j]);
+        const auto shared = sharedWindow(ofPaper, parameters);
+        const double margin = shared ? marginWithin(*shared, parameters) : 0;
+        margins.push_back(shared && allows(windows[i], margin, parameters) ? margin
+                                                                           : marginWithin(windows[i], parameters));
+    }
+    return margins;
+}
+
+} // namespace orvane::layout
