@@ -3,6 +3,7 @@
 #include "layout/running/EdgeRows.h"
 #include "layout/running/FirstPageEdges.h"
 #include "layout/running/HeadPlaces.h"
+#include "layout/running/OnlyPageFoot.h"
 #include "layout/running/RepeatedFigures.h"
 #include "layout/running/RepeatedRules.h"
 
@@ -254,6 +255,8 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         numbers[0] = takeOnlyNumber(bottoms[0], PageEdge::Bottom, pages[0], limits);
         if (!numbers[0])
             numbers[0] = takeOnlyNumber(tops[0], PageEdge::Top, pages[0], limits);
+        if (bottoms[0].taken == 0)
+            takeOnlyFoot(bottoms[0], pages[0], limits);
     } else {
         takeRepeated(tops, bottoms, numbers, pages, limits);
         takeLoneNumbers(bottoms, numbers);
