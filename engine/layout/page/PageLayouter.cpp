@@ -22,6 +22,7 @@ public:
 
     PageLayout run(Diagnostics& diagnostics) {
         takePageFacts();
+        m_isTurned = isLaidOnItsSide();
         takeTables(diagnostics);
         placeBackgrounds();
         takeTurnedLines();
@@ -66,12 +67,11 @@ private:
     /// come as paragraphs where they stand, and so does vertical writing.
     void takeTurnedLines() {
         std::erase_if(m_page.lines, [](const Line& line) { return line.words.empty(); });
-        const bool isPageTurned = isLaidOnItsSide();
         std::vector<Line> upright;
         for (Line& line : m_page.lines) {
             if (line.angle == 0 && !line.isVertical)
                 upright.push_back(std::move(line));
-            else if (line.angle == 0 || isPageTurned)
+            else if (line.angle == 0 || m_isTurned)
                 addObject(line.box, line.firstPaintOrder, turnedParagraph(std::move(line)));
             else
                 floatLine(std::move(line));
@@ -79,6 +79,7 @@ private:
         m_page.lines = std::move(upright);
     }
 
+    /// Tables count too: those of pages that were not turned hold level lines.
     bool isLaidOnItsSide() const {
         const auto turned = static_cast<std::size_t>(
             std::count_if(m_page.lines.begin(), m_page.lines.end(), [](const Line& line) { return line.angle != 0; }));
@@ -207,6 +208,7 @@ private:
     }
 
     PageText m_page;
+    bool m_isTurned = false; ///< the page was laid on its side
     const DocumentContext& m_context;
     const LayoutParameters& m_parameters;
     PageLayout m_layout;

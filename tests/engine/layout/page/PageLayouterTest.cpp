@@ -185,6 +185,41 @@ TEST(PageLayouter, KeepsThePageThatWasLaidOnItsSideInTheFlow) {
         EXPECT_FALSE(std::get<ParagraphDraft>(block.value).isFloating);
 }
 
+TEST(PageLayouter, FloatsTurnedTextBesideATableOfLevelLines) {
+    PageText page = makePage(1);
+    const auto draw = [&page](RuleDirection direction, double position, double from, double to) {
+        Rule& rule = page.rules.emplace_back();
+        rule.direction = direction;
+        rule.position = position;
+        rule.from = from;
+        rule.to = to;
+    };
+    for (int row = 0; row < 8; ++row) {
+        for (const double left : {70.0, 170.0, 270.0})
+            page.lines.push_back(makeLine("cell", left, 310.0 + 20 * row));
+        draw(RuleDirection::Horizontal, 296.0 + 20 * row, 60, 360);
+    }
+    draw(RuleDirection::Horizontal, 456, 60, 360);
+    for (const double x : {60.0, 160.0, 260.0, 360.0})
+        draw(RuleDirection::Vertical, x, 296, 456);
+    for (int i = 0; i < 5; ++i) {
+        Line turned = makeLine("head", 0, 0);
+        turned.angle = 90;
+        turned.box = {400.0 + 14 * i, 90, 410.0 + 14 * i, 200};
+        page.lines.push_back(turned);
+    }
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(page, {}, {}, diagnostics);
+    std::size_t floating = 0, tables = 0;
+    for (const PageBlock& block : layout.blocks) {
+        const auto* paragraph = std::get_if<ParagraphDraft>(&block.value);
+        floating += paragraph && paragraph->isFloating;
+        tables += std::holds_alternative<TableDraft>(block.value);
+    }
+    EXPECT_EQ(tables, 1U);
+    EXPECT_EQ(floating, 5U) << "they are heads, not the text of a page laid on its side";
+}
+
 TEST(PageLayouter, TellsWhereAParagraphGoesOnInTheNextColumn) {
     const PageLayout layout = layoutArt({"One two three four   goes on up here as",
                                          "is a column with a   it should do now", "sentence that then   and ends."});
