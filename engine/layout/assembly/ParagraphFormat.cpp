@@ -52,6 +52,15 @@ bool isLastFullest(const DraftParagraph& paragraph, double tolerance) {
                         [&](const Line& line) { return reachOf(line) + tolerance >= reachOf(lines.back()); });
 }
 
+/// Whether the paragraph is a column of single words, as of a list that runs down the page: nothing in them could be
+/// spread up to an edge.
+bool isWordColumn(const DraftParagraph& paragraph) {
+    const std::vector<Line>& lines = paragraph.pieces.front().text.lines;
+    return lines.size() > 2 && std::none_of(lines.begin(), lines.end(), [](const Line& line) {
+               return line.words.size() > 1 || endsWithoutBlanks(line);
+           });
+}
+
 /// An item has the indents of its list's level unless it clearly stands elsewhere.
 void takeListIndents(const document::NumberingLevel& level, std::size_t lines, double tolerance,
                      document::ParagraphProperties& format) {
@@ -90,7 +99,8 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
     document::ParagraphProperties format;
     format.alignment = first.text.alignment;
     format.isRightToLeft = paragraph.firstLine().isRightToLeft;
-    if (format.alignment == Alignment::Justified && isLastFullest(paragraph, parameters.spacing.smallestEndIndent))
+    if (format.alignment == Alignment::Justified &&
+        (isLastFullest(paragraph, parameters.spacing.smallestEndIndent) || isWordColumn(paragraph)))
         format.alignment = Alignment::Start;
     // The edges of centred lines, and the start of those set against the end, follow from their lengths.
     if (format.alignment != Alignment::Center && format.alignment != Alignment::End)

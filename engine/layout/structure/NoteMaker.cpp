@@ -76,17 +76,22 @@ std::optional<ColumnSpan> columnUnder(const Rect& note, const PageLayout& page, 
     return std::nullopt;
 }
 
-/// Word processors set notes in columns too: their indents count from the edge of that column.
+bool hasColumns(const PageLayout& page) {
+    return std::any_of(page.bands.begin(), page.bands.end(), [](const Band& band) { return band.columns.size() > 1; });
+}
+
+/// Word processors set notes in columns too: their indents count from the edge of that column. A note that reaches over
+/// several runs on from one into the other, so that its lines end at the edges of them all.
 void setColumn(DraftNote& note, const PageLayout& page, double tolerance) {
     Rect box;
     for (const DraftBlock& block : note.blocks)
         box = box.united(block.box);
     const std::optional<ColumnSpan> column = columnUnder(box, page, tolerance);
-    if (!column)
+    if (!column && !hasColumns(page))
         return;
     forEachParagraph(note.blocks, [&column](DraftParagraph& paragraph) {
         for (DraftPiece& piece : paragraph.pieces)
-            piece.column = *column;
+            piece.column = column.value_or(ColumnSpan{piece.column.left, piece.text.box.right});
     });
 }
 

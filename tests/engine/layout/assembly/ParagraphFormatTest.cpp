@@ -62,6 +62,13 @@ TEST(ParagraphFormat, KnowsTextThatIsNotJustifiedByItsLastLine) {
     EXPECT_EQ(formatWith(70).indentEnd, Twips(0));
 }
 
+TEST(ParagraphFormat, TakesNoColumnOfSingleWordsForJustifiedText) {
+    const auto format = formatOfLines({makeLine("w", 72, 100), makeLine("w", 72, 112), makeLine("w", 72, 124)},
+                                      document::Alignment::Justified);
+    EXPECT_EQ(format.alignment, document::Alignment::Start);
+    EXPECT_EQ(format.indentEnd, Twips(0)) << "else no word would have room";
+}
+
 TEST(ParagraphFormat, DrawsTheRulesBetweenEqualParagraphs) {
     document::Border rule{document::BorderKind::Single, EighthPoints(6), {}, 4};
     DraftBlock above = tests::makeBlock(tests::makeParagraph({makeLine("a heading", 72, 100)}));
