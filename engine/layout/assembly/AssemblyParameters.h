@@ -7,15 +7,15 @@ namespace orvane::layout {
 struct AssemblyParameters {
     /// TextAssembler: from spans to runs.
     struct Text {
-        double naturalScale = 0.02; ///< of the natural width; glyphs stretched by less are taken as natural
+        double naturalScale = 0.03; ///< of the natural width; glyphs stretched by less are taken as natural
     } text;
 
     /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
     struct Spacing {
-        double lowestMultiple = 0.7;      ///< line spacing below this is an exact height
-        double leastChosen = 0.95;        ///< a multiple below this is none that people choose, but a height
-        double overlap = 0.55;            ///< of single spacing; lines this close lie over each other: no height says so
-        double highestMultiple = 3.5;     ///< likewise above
+        double lowestMultiple = 0.7;  ///< line spacing below this is an exact height
+        double leastChosen = 0.95;    ///< a multiple below this is none that people choose, but a height
+        double overlap = 0.55;        ///< of single spacing; lines this close lie over each other: no height says so
+        double highestMultiple = 3.5; ///< likewise above
         double multipleTolerance = 0.012; ///< a multiple this near to a usual one (1.0, 1.15, 1.5 ...) is that one
         double smallestIndent = 1.0;      ///< points; less is noise
         double smallestEndIndent = 3.0;   ///< points; likewise where lines that look justified end before their column

@@ -17,6 +17,7 @@ struct GivenSpacing {
     AssembledBlock* block = nullptr;
     double floor = std::numeric_limits<double>::infinity();
     double ceiling = -std::numeric_limits<double>::infinity();
+    double slack = 0; ///< what the line may reach beyond them; none in cells, for rows grow by it, one after the other
 };
 
 bool isGiven(const AssembledBlock& block) {
@@ -62,10 +63,11 @@ public:
 private:
     void readPairs(std::vector<AssembledBlock>& blocks) {
         forEachPair(blocks, [this](AssembledBlock& upper, AssembledBlock& lower) {
+            const double slack = m_context.parameters.spacing.sameGap;
             if (isGiven(upper))
-                m_given.push_back({.block = &upper, .floor = lower.top});
+                m_given.push_back({.block = &upper, .floor = lower.top, .slack = slack});
             if (isGiven(lower) && isExact(lower))
-                m_given.push_back({.block = &lower, .ceiling = upper.bottom});
+                m_given.push_back({.block = &lower, .ceiling = upper.bottom, .slack = slack});
         });
     }
 
@@ -86,9 +88,8 @@ private:
         }
     }
 
-    bool isTooHigh(const GivenSpacing& given) const {
-        const double slack = m_context.parameters.spacing.sameGap;
-        return given.block->bottom > given.floor + slack || given.block->top < given.ceiling - slack;
+    static bool isTooHigh(const GivenSpacing& given) {
+        return given.block->bottom > given.floor + given.slack || given.block->top < given.ceiling - given.slack;
     }
 
     void setSingle(AssembledBlock& block) const {

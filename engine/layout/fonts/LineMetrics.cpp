@@ -1,5 +1,6 @@
 #include "layout/fonts/LineMetrics.h"
 
+#include "base/Units.h"
 #include "base/Utf8.h"
 #include "layout/formulas/FormulaFinder.h"
 #include "layout/text/Characters.h"
@@ -15,6 +16,11 @@ namespace {
 
 using document::LineSpacing;
 using document::LineSpacingRule;
+
+/// The size that the document gives the letters: word processors know half points only. Units: points.
+double writtenSize(const Look& look) {
+    return halfPointsFromPoints(look.size).value / 2.0;
+}
 
 /// The middle one of the distances between lines, and the height in single spacing of the lines that these distances
 /// lead to.
@@ -94,8 +100,9 @@ LineExtent extentOf(const Line& line, std::size_t page, const FontCatalog& fonts
                 continue;
             }
             const MappedFont& font = fonts.font(page, span.look.font);
-            extent.ascent = std::max(extent.ascent, font.ascent * span.look.size);
-            extent.descent = std::max(extent.descent, font.descent * span.look.size);
+            const double size = writtenSize(span.look);
+            extent.ascent = std::max(extent.ascent, font.ascent * size);
+            extent.descent = std::max(extent.descent, font.descent * size);
             extent.isKnown = extent.isKnown && font.isLineKnown;
         }
     }

@@ -140,6 +140,39 @@ DraftBlock tableAt(double top) {
     return block;
 }
 
+/// A cell of the column's width, from `top` down to `bottom`.
+DraftCell cellOf(ParagraphDraft paragraph, int row, double top, double bottom) {
+    DraftCell cell;
+    cell.cell.row = row;
+    cell.cell.box = {72, top, 523, bottom};
+    cell.blocks.push_back(makeBlock(std::move(paragraph)));
+    return cell;
+}
+
+TEST(SpacingFinder, LetsNoRowGrowByTheSpacingOfItsOnlyLine) {
+    for (const double missing : {0.0, 0.3}) {
+        const double step = 1.5 * kLine, top = 100 - 0.952 * 10;
+        const double edge = top + 3 * step + 1, last = edge + step + 0.1 - missing;
+        DraftTable table;
+        table.table.columnEdges = {72, 523};
+        table.table.rowEdges = {top, edge, last};
+        table.table.box = {72, top, 523, last};
+        table.cells.push_back(cellOf(makeParagraph({makeLine("one", 72, 100), makeLine("two", 72, 100 + step),
+                                                    makeLine("three", 72, 100 + 2 * step)}),
+                                     0, top, edge));
+        table.cells.push_back(cellOf(makeParagraph({makeLine("alone", 72, edge + 0.952 * 10)}), 1, edge, last));
+        DraftBlock block;
+        block.box = table.table.box;
+        block.value = std::move(table);
+        DocumentDraft draft = makeDraft(1);
+        draft.blocks = {std::move(block)};
+        const auto document = documentOf(draft);
+        const auto& written = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+        const auto& alone = std::get<document::Paragraph>(written.rows.at(1).cells.at(0).blocks.at(0).value);
+        EXPECT_DOUBLE_EQ(alone.properties.lineSpacing.multiple, missing > 0 ? 1.0 : 1.5) << missing;
+    }
+}
+
 TEST(SpacingFinder, SetsTablesApartWithAnEmptyParagraph) {
     DocumentDraft draft = makeDraft(1);
     draft.blocks = {tableAt(100), tableAt(150)};

@@ -45,6 +45,16 @@ TEST(LineMetrics, SetsExactHeightsForLinesCloserThanSingleOnes) {
     EXPECT_FALSE(givenAt(4)) << "most of each would be cut off";
 }
 
+TEST(LineMetrics, CountsWithTheSizeThatIsWritten) {
+    DocumentDraft draft = tests::makeDraft(1);
+    const FontCatalog fonts(draft, FontParameters());
+    const auto heightAt = [&](double size) {
+        return extentOf(tests::makeLine("word", 72, 100, {.size = size}), 0, fonts).height();
+    };
+    EXPECT_DOUBLE_EQ(heightAt(10.909), heightAt(11)) << "word processors know half points only";
+    EXPECT_LT(heightAt(10.6), heightAt(11));
+}
+
 TEST(LineMetrics, SetsEastAsianLinesOnTheirGrid) {
     const LineSpacing spacing = spacingAt(18.04, "Noto Sans CJK JP", "日本語の文章");
     EXPECT_EQ(spacing.rule, LineSpacingRule::Exact);
