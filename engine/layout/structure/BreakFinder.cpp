@@ -34,15 +34,6 @@ bool areTables(const DraftBlock& a, const DraftBlock& b) {
     return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<DraftTable>(b.value);
 }
 
-/// How much more room than it needs shows that a block was made to start its page. Few let a plain paragraph do so that
-/// had room for some of its lines: by the rules of some programs single lines moved with it.
-double roomOf(const DraftBlock& block, const StructureParameters::PageSetup& parameters) {
-    const DraftParagraph* paragraph = block.paragraph();
-    const bool isPlain =
-        paragraph && (paragraph->role == ParagraphRole::Body || paragraph->role == ParagraphRole::ListItem);
-    return isPlain ? parameters.plainStartRoom : parameters.startRoom;
-}
-
 } // namespace
 
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
@@ -57,7 +48,7 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
             const double room = floorOf(draft, end.page, end.band, range.area.box) - end.bottom;
             if (end.page < block.page)
                 block.startsPage = end.page + 1 < block.page || areTables(*before, block) ||
-                                   room > fills[block.page].need + roomOf(block, parameters) ||
+                                   room > fills[block.page].need + parameters.startRoom ||
                                    startsLow(fills[block.page], range.area.tops.of(block.page), parameters);
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = room > block.box.height() + parameters.startRoom ||

@@ -27,7 +27,6 @@ struct StructureParameters {
         double smallestColumnGap = 6.0; ///< points; between columns
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
-        double plainStartRoom = 30.0; ///< points; likewise by a paragraph that is no heading
     } pageSetup;
 
     /// HeadingFinder, HeadingStyles: headings where only their looks tell them.

@@ -137,21 +137,6 @@ TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
 }
 
-TEST(SectionMaker, LetsTextMoveWithALineOrTwoToSpareButNothingElse) {
-    for (const ParagraphRole role : {ParagraphRole::Body, ParagraphRole::Caption}) {
-        DocumentDraft draft = makeDraft(4);
-        fillPage(draft, 0);
-        fillPage(draft, 1, 725); // as some programs do for the sake of single lines
-        fillPage(draft, 2);
-        fillPage(draft, 3, 200);
-        for (DraftBlock& block : draft.blocks)
-            if (block.page == 2 && &block == &firstOn(draft, 2))
-                block.paragraph()->role = role;
-        sectionsOf(draft);
-        EXPECT_EQ(firstOn(draft, 2).startsPage, role == ParagraphRole::Caption);
-    }
-}
-
 TEST(SectionMaker, LeavesAPictureThatHadNoRoomToItself) {
     DocumentDraft draft = makeDraft(2);
     fillPage(draft, 0, 660);
