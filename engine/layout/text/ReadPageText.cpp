@@ -9,6 +9,7 @@
 #include "layout/text/GlyphFilter.h"
 #include "layout/text/LineBuilder.h"
 #include "layout/text/MarkupReader.h"
+#include "layout/text/RecognisedWidths.h"
 #include "layout/text/RowBuilder.h"
 #include "layout/text/SpanBuilder.h"
 #include "layout/text/TextDecoration.h"
@@ -39,6 +40,8 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
     const FrameSelection frames = findFrames(page, selection, parameters, diagnostics);
     std::vector<Cluster> clusters = buildClusters(page, selection, frames, parameters, diagnostics);
     std::vector<TextRow> rows = buildRows(std::move(clusters), parameters, diagnostics);
+    if (selection.isScanned)
+        fillRecognisedWidths(rows, {});
     rows = findWordGaps(std::move(rows), parameters, diagnostics);
     std::vector<TextRow> lines =
         buildLines(std::move(rows), frames.frames, text.rules, text.grounds, parameters, diagnostics);

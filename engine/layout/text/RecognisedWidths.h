@@ -1,0 +1,15 @@
+#pragma once
+
+#include "layout/text/RecognitionParameters.h"
+#include "layout/text/TextDraft.h"
+
+#include <vector>
+
+namespace orvane::layout {
+
+/// Some programs that recognise scans set every word where it begins, but in a font too narrow for the letters on the
+/// paper, so that all words seem far apart. Where the words of a page have much more room than they fill, they are
+/// stretched into it. Requires: the page is a scan; its blanks are still among the clusters.
+void fillRecognisedWidths(std::vector<TextRow>& rows, const RecognitionParameters& parameters);
+
+} // namespace orvane::layout
