@@ -9,6 +9,7 @@
 #include "pdf/FontPacker.h"
 #include "pdf/FormReader.h"
 #include "pdf/GlyphInk.h"
+#include "pdf/InkFinder.h"
 #include "pdf/LinkReader.h"
 #include "pdf/MaskedPictures.h"
 #include "pdf/OutlineReader.h"
@@ -208,6 +209,14 @@ PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double do
     if (complaints.hasSurplusRestore())
         picture = paintRegion(*m_impl->document, page, region, dotsPerInch, words, ContentRepair::SurplusRestores);
     return picture;
+}
+
+std::vector<Rect> PdfDocument::inkOf(int page, double side) const {
+    const ComplaintCollector complaints;
+    std::vector<Rect> ink = findInk(*m_impl->document, page, side, ContentRepair::None);
+    if (complaints.hasSurplusRestore())
+        ink = findInk(*m_impl->document, page, side, ContentRepair::SurplusRestores);
+    return ink;
 }
 
 std::optional<std::string> PdfDocument::packFont(const FontRequest& request) const {

@@ -109,6 +109,10 @@ public:
     PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch,
                                 PaintedText words = PaintedText::Shown) const;
 
+    /// The squares of a page, `side` points wide, that are darker than its paper; of use for scans, whose ink says
+    /// nothing by itself.
+    std::vector<Rect> inkOf(int page, double side) const;
+
     /// A TrueType file of the characters asked for, out of the font programs in the file. Unset where these may not
     /// travel with a document that people edit, see packFont().
     std::optional<std::string> packFont(const FontRequest& request) const;

@@ -1,6 +1,8 @@
 #include "worker/FigurePainter.h"
 
 #include "base/Failure.h"
+#include "layout/graphics/ScanIllustrations.h"
+#include "layout/graphics/ScannedPages.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,6 +39,19 @@ PictureId paint(const pdf::PdfDocument& document, int page, const Rect& box, pdf
 }
 
 } // namespace
+
+void findIllustrations(const pdf::PdfDocument& document, layout::PageText& page,
+                       const layout::GraphicsParameters& parameters, Diagnostics& diagnostics) {
+    if (!layout::isReadScan(page, parameters))
+        return;
+    try {
+        const layout::IllustrationParameters limits;
+        layout::addIllustrations(page, document.inkOf(page.number, limits.inkSquare), limits);
+    } catch (const Failure& failure) {
+        diagnostics.add(DiagnosticKind::PictureSimplified, page.number,
+                        fmt::format("a scan could not be searched for illustrations: {}", failure.what()));
+    }
+}
 
 void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, PictureStore& pictures,
                   Diagnostics& diagnostics) {

@@ -49,6 +49,10 @@ FieldReading fieldReading(Layout layout) {
     return layout == Layout::TruePage ? FieldReading::AsDrawn : FieldReading::AsControls;
 }
 
+ScanReading scanReading(Layout layout) {
+    return layout == Layout::Flowing ? ScanReading::AsText : ScanReading::AsPicture;
+}
+
 layout::LayoutRequest layoutRequest(const Job& job) {
     return {layoutMode(job.layout), job.pictures == Pictures::Remove, job.characterSpacing == CharacterSpacing::Exact};
 }
@@ -170,10 +174,11 @@ void JobRunner::convert() {
     m_reporter.stageReached(JobStage::Reading, 0, 0);
     PictureStore pictures(scratch.path());
     const layout::LayoutParameters parameters;
-    PagesRead read = readPages(source,
-                               {m_job.source, passwords, selection.pages, showsPictures(m_job) ? &pictures : nullptr,
-                                fieldReading(m_job.layout), parameters, m_job.limits.threads},
-                               m_reporter);
+    PagesRead read =
+        readPages(source,
+                  {m_job.source, passwords, selection.pages, showsPictures(m_job) ? &pictures : nullptr,
+                   fieldReading(m_job.layout), parameters, m_job.limits.threads, scanReading(m_job.layout)},
+                  m_reporter);
 
     m_reporter.stageReached(JobStage::Generating, 0, 0);
     const layout::DocumentFacts facts{source.metadata(), source.outline(), source.structureTree(),

@@ -124,6 +124,8 @@ private:
         if (m_reading.fields == FieldReading::AsDrawn)
             content.fields.clear();
         layout::PageText page = layout::readPageText(content, m_reading.parameters, diagnostics);
+        if (m_reading.pictures != nullptr && m_reading.scans == ScanReading::AsText)
+            findIllustrations(document, page, m_reading.parameters, diagnostics);
         if (m_reading.pictures != nullptr)
             paintFigures(document, page, *m_reading.pictures, diagnostics);
         return page;

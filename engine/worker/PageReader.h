@@ -13,13 +13,19 @@
 
 namespace orvane::worker {
 
-/// What reading pages needs to know.
 /// What becomes of the fields of forms.
 enum class FieldReading : std::uint8_t {
     AsControls, ///< they are part of the text
     AsDrawn,    ///< the page shows them as it is printed
 };
 
+/// What stands for a scanned page whose text was recognised.
+enum class ScanReading : std::uint8_t {
+    AsPicture, ///< its picture
+    AsText,    ///< the text, and of the picture the illustrations
+};
+
+/// What reading pages needs to know.
 struct PageReading {
     std::filesystem::path source;
     pdf::Passwords passwords;
@@ -28,6 +34,7 @@ struct PageReading {
     FieldReading fields = FieldReading::AsControls;
     layout::LayoutParameters parameters;
     int threads = 0; ///< 0: as many as the machine has, at most four
+    ScanReading scans = ScanReading::AsPicture;
 };
 
 struct PagesRead {

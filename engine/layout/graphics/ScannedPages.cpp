@@ -131,12 +131,16 @@ void moveWordsToPictures(PageText& page) {
 
 } // namespace
 
+bool isReadScan(const PageText& page, const GraphicsParameters& parameters) {
+    return page.isScanned && recognisedWords(page) >= parameters.scans.fewestWords;
+}
+
 void partTextFromScan(PageText& page, const GraphicsParameters& parameters, Diagnostics& diagnostics) {
     const GraphicsParameters::Scans& limits = parameters.scans;
     const bool hasPicture = std::any_of(page.figures.begin(), page.figures.end(), isPicture);
     if (!page.isScanned || !hasPicture)
         return;
-    if (recognisedWords(page) < limits.fewestWords) {
+    if (!isReadScan(page, parameters)) {
         moveWordsToPictures(page);
         return;
     }

@@ -190,6 +190,21 @@ TEST(Rendering, PaintsARegionOfThePage) {
     EXPECT_LT(std::int64_t{huge->pixelWidth} * huge->pixelHeight, 70'000'000) << "the resolution gives way";
 }
 
+TEST(Rendering, FindsInkOnPaperThatIsNotWhite) {
+    PdfPage page{".8 g 0 0 400 300 re f 0 g 100 100 40 40 re f .7 g 200 100 40 40 re f .76 g 300 100 40 40 re f",
+                 400,
+                 300,
+                 "",
+                 {},
+                 {}};
+    OpenedPdf pdf(PdfBuilder().page(page));
+    Rect ink;
+    for (const Rect& square : pdf.document().inkOf(1, 4))
+        ink = ink.united(square);
+    EXPECT_EQ(ink, (Rect{100, 160, 240, 200})) << "the black and the grey square, not the paper nor its grain";
+    EXPECT_THROW(pdf.document().inkOf(7, 4), Failure);
+}
+
 TEST(Rendering, LeavesWordsOutWhereTheyAreSetBesides) {
     OpenedPdf pdf(PdfBuilder().page("1 0 0 rg 50 100 100 100 re f 0 g BT /F4 90 Tf 60 110 Td (I) Tj ET"));
     const Rect region{50, 592, 150, 692};

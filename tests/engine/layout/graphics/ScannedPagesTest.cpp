@@ -1,5 +1,7 @@
 #include "layout/graphics/ScannedPages.h"
 
+#include "layout/graphics/ScanIllustrations.h"
+
 #include "engine/layout/PageReading.h"
 
 #include <gmock/gmock.h>
@@ -35,6 +37,51 @@ TEST(ScannedPages, LetsTextStandForThePictureOfIt) {
     EXPECT_THAT(text.lines, SizeIs(12));
     ASSERT_THAT(text.figures, SizeIs(1));
     EXPECT_EQ(text.figures[0].box, (Rect{300, 600, 500, 800}));
+}
+
+/// Squares of 4 points that fill `box`.
+std::vector<Rect> inkIn(const Rect& box) {
+    std::vector<Rect> ink;
+    for (double y = box.top; y < box.bottom; y += 4)
+        for (double x = box.left; x < box.right; x += 4)
+            ink.push_back({x, y, x + 4, y + 4});
+    return ink;
+}
+
+std::vector<Figure> illustrationsWith(const std::vector<Rect>& ink) {
+    PageText text = read(scanOf(12));
+    EXPECT_TRUE(isReadScan(text, LayoutParameters{}));
+    addIllustrations(text, ink, IllustrationParameters{});
+    Diagnostics diagnostics;
+    partTextFromScan(text, LayoutParameters{}, diagnostics);
+    return text.figures;
+}
+
+TEST(ScannedPages, KeepsInkThatNoWordAccountsForAsAnIllustration) {
+    const std::vector<Figure> figures = illustrationsWith(inkIn({300, 400, 400, 520}));
+    ASSERT_THAT(figures, SizeIs(1));
+    EXPECT_EQ(figures[0].box, (Rect{300, 400, 400, 520}));
+    EXPECT_TRUE(figures[0].needsPainting);
+}
+
+TEST(ScannedPages, KnowsInkThatIsNoIllustration) {
+    const struct {
+        const char* why;
+        Rect ink;
+    } cases[] = {{"the words themselves", {72, 92, 200, 256}},
+                 {"a rule", {72, 400, 500, 404}},
+                 {"a blot", {300, 400, 320, 420}},
+                 {"the shadow of the lid", {0, 0, 44, 842}},
+                 {"grey paper", {0, 0, 595, 842}}};
+    for (const auto& [why, ink] : cases)
+        EXPECT_THAT(illustrationsWith(inkIn(ink)), IsEmpty()) << why;
+}
+
+TEST(ScannedPages, LooksForIllustrationsOnlyWhereTextWasRead) {
+    EXPECT_FALSE(isReadScan(read(scanOf(1)), LayoutParameters{})) << "a few words in a picture";
+    PageContentBuilder page;
+    page.text(72, 100, "text that was set, and enough of it to be a page of its own", 10);
+    EXPECT_FALSE(isReadScan(read(page), LayoutParameters{}));
 }
 
 TEST(ScannedPages, TellsThatThePictureIsGone) {
