@@ -1,5 +1,6 @@
 #include "layout/paragraphs/ParagraphBuilder.h"
 
+#include "layout/paragraphs/CentredNeighbours.h"
 #include "layout/paragraphs/LocalEdges.h"
 #include "layout/paragraphs/ParagraphBreaks.h"
 #include "layout/paragraphs/ParagraphShape.h"
@@ -22,6 +23,7 @@ std::vector<ParagraphDraft> buildParagraphs(std::span<const Line> lines, ColumnS
         shapeParagraph(paragraph, std::span(measures).subspan(from, to - from), context, parameters.paragraphs);
         from = to;
     }
+    centreAmongCentred(paragraphs, parameters);
     return paragraphs;
 }
 
