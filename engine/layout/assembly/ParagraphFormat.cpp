@@ -91,13 +91,22 @@ void takeBorders(const DraftParagraph& paragraph, document::ParagraphProperties&
         format.betweenBorder = format.borders.top;
 }
 
+/// Of a paragraph that goes on in another column the longest part tells how it is set: the two lines that fit at the
+/// foot of the first one may look ragged by chance.
+Alignment alignmentOf(const DraftParagraph& paragraph) {
+    const auto longest = std::max_element(
+        paragraph.pieces.begin(), paragraph.pieces.end(),
+        [](const DraftPiece& a, const DraftPiece& b) { return a.text.lines.size() < b.text.lines.size(); });
+    return longest->text.alignment;
+}
+
 } // namespace
 
 document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
                                        const LayoutParameters& parameters) {
     const DraftPiece& first = paragraph.pieces.front();
     document::ParagraphProperties format;
-    format.alignment = first.text.alignment;
+    format.alignment = alignmentOf(paragraph);
     format.isRightToLeft = paragraph.firstLine().isRightToLeft;
     if (format.alignment == Alignment::Justified &&
         (isLastFullest(paragraph, parameters.spacing.smallestEndIndent) || isWordColumn(paragraph)))
