@@ -80,6 +80,30 @@ void bindStrings(VisualText& visual) {
     }
 }
 
+bool hasDigits(const std::u16string& units, std::size_t first, std::size_t last) {
+    return last <= units.size() &&
+           std::all_of(units.begin() + static_cast<std::ptrdiff_t>(first),
+                       units.begin() + static_cast<std::ptrdiff_t>(last), [](char16_t unit) { return isDigit(unit); });
+}
+
+/// A blank of a long number, "3 001": behind it stand three digits, before it up to three.
+bool partsDigitGroups(const std::u16string& units, std::size_t blank) {
+    constexpr std::size_t kGroup = 3;
+    const auto isDigitAt = [&](std::size_t i) { return i < units.size() && isDigit(units[i]); };
+    std::size_t before = 0;
+    while (before < blank && isDigit(units[blank - 1 - before]))
+        ++before;
+    return before > 0 && before <= kGroup && hasDigits(units, blank + 1, blank + 1 + kGroup) &&
+           !isDigitAt(blank + 1 + kGroup);
+}
+
+void bindDigitGroups(VisualText& visual) {
+    const std::u16string units = visual.units;
+    for (std::size_t i = 0; i < units.size(); ++i)
+        if (units[i] == u' ' && partsDigitGroups(units, i))
+            visual.units[i] = kNumberUnit;
+}
+
 /// True when `unit` is not known to have been painted apart from its right neighbour.
 bool mayBeOneString(const VisualText& visual, std::size_t unit) {
     return visual.stringOfUnit.empty() || visual.stringOfUnit[unit] == visual.stringOfUnit[unit + 1];
@@ -107,6 +131,7 @@ VisualText visualTextOf(const std::vector<Cluster>& clusters) {
 
 void bindChains(VisualText& visual) {
     bindStrings(visual);
+    bindDigitGroups(visual);
     std::u16string& units = visual.units;
     const auto ends = [&](std::size_t i) {
         return i >= units.size() || units[i] == u' ' || units[i] == u'\t' || isRightToLeftLetter(units[i]);

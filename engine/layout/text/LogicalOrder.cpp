@@ -17,6 +17,8 @@ struct BidiCloser {
 };
 using BidiPtr = std::unique_ptr<UBiDi, BidiCloser>;
 
+constexpr char32_t kNoBreakSpace = U'\u00A0';
+
 /// A bracket that reads the wrong way round from left to right was typed in right-to-left text.
 void markTurnedBrackets(VisualText& visual, const std::vector<Cluster>& clusters) {
     for (std::size_t unit = 0; unit < visual.units.size(); ++unit) {
@@ -110,6 +112,9 @@ LogicalLine toLogicalOrder(std::vector<Cluster> clusters, const DirectionCount& 
         if (source < 0) {
             // A gap is noted at the cluster to its right on the page.
             gap = clusters[static_cast<std::size_t>(visual.clusterOfUnit[unit + 1])].gapBefore;
+            // An ordinary blank would let the parts of a number change places where the text runs leftwards.
+            if (line.isBaseRightToLeft && isDigit(visual.units[unit]))
+                gap.blank = kNoBreakSpace;
             continue;
         }
         Cluster cluster = clusters[static_cast<std::size_t>(source)];

@@ -39,12 +39,21 @@ TEST(LogicalOrder, ReadsRightToLeftTextFromItsRight) {
         {"\u05D3\u05D2 50% \u05D1\u05D0", "\u05D0\u05D1 50% \u05D2\u05D3", "a percent sign belongs to its number"},
         {"\u05D1\u05D0 .1", "1. \u05D0\u05D1", "a label has its full stop on the left"},
         {".12", "12.", "also alone on its line"},
+        {"\u05D3\u05D2 10 001 \u05D1\u05D0", "\u05D0\u05D1 10 001 \u05D2\u05D3", "digits in groups are one number"},
+        {"\u05D3\u05D2 12 24 \u05D1\u05D0", "\u05D0\u05D1 24 12 \u05D2\u05D3", "two numbers are not"},
     };
     for (const Row& row : rows) {
         const Line line = lineOf(row.visual);
         EXPECT_EQ(textOf(line), row.logical) << row.why;
         EXPECT_TRUE(line.isRightToLeft) << row.why;
     }
+}
+
+TEST(LogicalOrder, KeepsTheGroupsOfANumberTogether) {
+    const Line line = lineOf("3 001 234");
+    EXPECT_EQ(textOf(line), "3 001 234");
+    for (const std::size_t word : {1u, 2u})
+        EXPECT_EQ(line.words.at(word).blankBefore, U'\u00A0') << "word processors would turn them around otherwise";
 }
 
 TEST(LogicalOrder, TurnsBracketsByTheirShapeOrAsTyped) {
