@@ -20,6 +20,7 @@ namespace orvane::layout {
 namespace {
 
 constexpr int kDeepestLevel = 9;
+constexpr std::size_t kLongestTitleBlock = 20; ///< paragraphs; what is centred for longer is text, verse for instance
 
 /// What headings of one level have in common. Ordered from the highest level down.
 struct HeadingLook {
@@ -81,6 +82,36 @@ TextTraits traitsOf(const std::u32string& text) {
     return traits;
 }
 
+/// Blocks of a draft, from the first to one behind the last.
+struct BlockRange {
+    std::size_t first = 0;
+    std::size_t last = 0;
+
+    bool contains(std::size_t block) const { return block >= first && block < last; }
+};
+
+bool isCentredOnFirstPage(const DraftBlock& block) {
+    const DraftParagraph* paragraph = block.paragraph();
+    return paragraph && paragraph->pieces.front().page == 0 &&
+           paragraph->pieces.front().text.alignment == document::Alignment::Center;
+}
+
+/// Who wrote it and where: what stands centred below a centred title, but for the last line, which may be the heading
+/// of what follows.
+BlockRange bylinesOf(const std::vector<DraftBlock>& blocks) {
+    const auto isOfFlow = [](const DraftBlock& block) {
+        const DraftParagraph* paragraph = block.paragraph();
+        return paragraph && paragraph->firstLine().angle == 0;
+    };
+    const auto title = std::find_if(blocks.begin(), blocks.end(), isOfFlow);
+    const auto end = std::find_if_not(title, blocks.end(), isCentredOnFirstPage);
+    const auto count = static_cast<std::size_t>(end - title);
+    if (count < 3 || count > kLongestTitleBlock)
+        return {};
+    const auto first = static_cast<std::size_t>(title - blocks.begin()) + 1;
+    return {first, first + count - 2};
+}
+
 class HeadingStyleFinder {
 public:
     HeadingStyleFinder(DocumentDraft& draft, const DocumentContext& context, const LayoutParameters& parameters)
@@ -108,10 +139,11 @@ private:
     }
 
     void collect() {
+        const BlockRange bylines = bylinesOf(m_draft.blocks);
         for (std::size_t i = 0; i < m_draft.blocks.size(); ++i) {
             const DraftParagraph* paragraph = m_draft.blocks[i].paragraph();
             m_letterCount += paragraph ? letterCount(*paragraph) : 0;
-            if (paragraph && paragraph->role == ParagraphRole::Body)
+            if (paragraph && paragraph->role == ParagraphRole::Body && !bylines.contains(i))
                 if (auto candidate = candidateOf(i, *paragraph))
                     m_candidates.push_back(std::move(*candidate));
         }

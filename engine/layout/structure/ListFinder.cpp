@@ -58,7 +58,9 @@ bool isList(const std::vector<const ListItem*>& run, const StructureParameters::
         return isStrong || (run.size() > 1 && first.labelStart > limits.sameIndent);
     if (run.size() == 1)
         return isStrong && !first.isBare() && first.number() == 1 && first.labelStart > limits.sameIndent;
-    return isStrong || first.labelStart > limits.sameIndent;
+    // "2.1", "2.2": nobody counts sections by mistake.
+    const bool isCounted = first.numbers.size() > 1;
+    return isStrong || isCounted || first.labelStart > limits.sameIndent;
 }
 
 /// Headings that one list numbers: of those only labels that nobody typed are sure.

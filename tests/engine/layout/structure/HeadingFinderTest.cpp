@@ -60,6 +60,23 @@ TEST(HeadingFinder, RanksLooksBySizeAndWeight) {
     EXPECT_EQ(headingsOf(draft), "Aims 1|First aim 2|Means 1|First means 2");
 }
 
+TEST(HeadingFinder, NamesCentredBelowTheTitleAreNoHeadings) {
+    const std::vector<std::pair<const char*, LineLook>> block = {{"On the Price of Paper", {.size = 12}},
+                                                                 {"Jane Doe", kBold},
+                                                                 {"University of Somewhere", {}},
+                                                                 {"Summary", kBold}};
+    DocumentDraft draft = draftWith({{"Aims", kBold}, {"Means", kBold}, {"Ends", kBold}});
+    std::vector<DraftBlock> blocks;
+    for (const auto& [text, look] : block) {
+        blocks.push_back(makeBlock(makeParagraph({makeLine(text, 200, 20, look)})));
+        blocks.back().paragraph()->pieces.front().text.alignment = document::Alignment::Center;
+    }
+    draft.blocks.erase(draft.blocks.begin()); // the text follows the last centred line
+    draft.blocks.insert(draft.blocks.begin(), blocks.begin(), blocks.end());
+    find(draft);
+    EXPECT_EQ(headingsOf(draft), "On the Price of Paper 1|Summary 2|Means 2|Ends 2");
+}
+
 constexpr LineLook kItalic{.size = 10, .isItalic = true};
 
 TEST(HeadingFinder, TellsHeadingsOfTheTextsSizeByNumerals) {

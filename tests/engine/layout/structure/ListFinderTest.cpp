@@ -61,6 +61,7 @@ TEST(ListFinder, FindsLists) {
          "0.0 0.1 0.0 0.1"},
         {"a list that starts anew", {{"1.\tone"}, {"2.\ttwo"}, {"1.\tone"}, {"2.\ttwo"}}, "0.0 0.0 1.0 1.0"},
         {"another sign", {{"\u2022\tone"}, {"\u25AA\ttwo"}}, "0.0 1.0"},
+        {"sections that count at the edge", {{"2.1. one", 72}, {"2.2. two", 72}}, "0.0 0.0"},
         {"numbers that do not count", {{"3.\tone", 72}, {"7.\ttwo", 72}}, "- -"},
         {"a dash typed at the margin", {{"- one", 72}, {"- two", 72}}, "- -"},
         {"speech", {{"\u2014 one", 72}, {"\u2014 two", 72}}, "- -"},
