@@ -146,16 +146,24 @@ std::vector<double> findBottomMargins(const DocumentDraft& draft, const std::vec
     std::vector<MarginWindow> windows;
     for (const RunningScheme& scheme : schemes)
         windows.push_back(WindowReader(fills, scheme, parameters).read(draft.pages[scheme.firstPage].height));
-    std::vector<double> margins;
+    std::vector<double> margins(schemes.size(), -1);
     for (std::size_t i = 0; i < schemes.size(); ++i) {
-        std::vector<MarginWindow> ofPaper;
-        for (std::size_t j = 0; j < schemes.size(); ++j)
-            if (hasSamePaper(draft.pages[schemes[i].firstPage], draft.pages[schemes[j].firstPage], parameters.sameSize))
-                ofPaper.push_back(windows[j]);
-        const auto shared = sharedWindow(ofPaper, parameters);
+        if (margins[i] >= 0)
+            continue;
+        std::vector<std::size_t> ofPaper;
+        std::vector<MarginWindow> theirs;
+        for (std::size_t j = i; j < schemes.size(); ++j) {
+            if (!hasSamePaper(draft.pages[schemes[i].firstPage], draft.pages[schemes[j].firstPage],
+                              parameters.sameSize))
+                continue;
+            ofPaper.push_back(j);
+            theirs.push_back(windows[j]);
+        }
+        const auto shared = sharedWindow(theirs, parameters);
         const double margin = shared ? marginWithin(*shared, parameters) : 0;
-        margins.push_back(shared && allows(windows[i], margin, parameters) ? margin
-                                                                           : marginWithin(windows[i], parameters));
+        for (const std::size_t j : ofPaper)
+            margins[j] =
+                shared && allows(windows[j], margin, parameters) ? margin : marginWithin(windows[j], parameters);
     }
     return margins;
 }
