@@ -13,8 +13,7 @@ namespace {
 
 constexpr std::size_t kLongestNumber = 3;
 constexpr std::size_t kLongestMark = 5;
-// Asterisk, daggers, section, paragraph, parallel lines; typesetting programs take some from their mathematical signs.
-constexpr std::u32string_view kSigns = U"*\u2217\u2020\u2021\u00A7\u00B6\u2016\u2225#";
+constexpr std::u32string_view kSigns = U"*\u2020\u2021\u00A7\u00B6#";
 constexpr std::u32string_view kNumerals = U"ivxlc";
 constexpr std::u32string_view kAround = U"()[].:\u200E\u200F";
 

@@ -240,7 +240,7 @@ TEST(NoteFinder, PartsAMarkFromEastAsianText) {
 }
 
 TEST(NoteMark, KnowsMarks) {
-    for (const char* mark : {"1", "12", "iv", "b", "*", "**", "∗", "†", "‖", "(3)", "4.", "٤"})
+    for (const char* mark : {"1", "12", "iv", "b", "*", "**", "†", "(3)", "4.", "٤"})
         EXPECT_TRUE(isNoteMark(mark)) << mark;
     for (const char* mark : {"", "th", "2004", "1a", "+", "()"})
         EXPECT_FALSE(isNoteMark(mark)) << mark;
