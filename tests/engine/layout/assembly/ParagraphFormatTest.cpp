@@ -50,6 +50,21 @@ TEST(ParagraphFormat, OverlooksWhereLinesHappenToEnd) {
     EXPECT_NEAR(pointsFromTwips(endOf(89)), 7 - 0.5, 0.1) << "with a hair of room";
 }
 
+TEST(ParagraphFormat, TakesTheAlignmentOfTheLongestPart) {
+    const auto part = [](std::size_t lines, document::Alignment alignment) {
+        std::vector<Line> text;
+        for (std::size_t i = 0; i < lines; ++i)
+            text.push_back(makeLine(std::string(60, 'x'), 72, 100 + 12 * static_cast<double>(i)));
+        ParagraphDraft paragraph = tests::makeParagraph(std::move(text));
+        paragraph.alignment = alignment;
+        return tests::makeBlock(std::move(paragraph));
+    };
+    DraftBlock block = part(2, document::Alignment::Start);
+    const DraftBlock rest = part(6, document::Alignment::Justified);
+    block.paragraph()->pieces.push_back(rest.paragraph()->pieces.front());
+    EXPECT_EQ(formatOf(*block.paragraph(), {}, {}).alignment, document::Alignment::Justified);
+}
+
 TEST(ParagraphFormat, KnowsTextThatIsNotJustifiedByItsLastLine) {
     const auto formatWith = [](std::size_t last) {
         return formatOfLines({makeLine(std::string(60, 'x'), 72, 100), makeLine(std::string(last, 'x'), 72, 112)},
