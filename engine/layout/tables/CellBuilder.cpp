@@ -89,7 +89,8 @@ bool isReadFromRight(const std::vector<std::vector<Line>>& linesOfCell, const Do
 }
 
 CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> lines, const ColumnRooms& rooms,
-                    const ParagraphContext& context, const LayoutParameters& parameters) {
+                    const ParagraphContext& context, const std::unordered_set<std::string>& vocabulary,
+                    const LayoutParameters& parameters) {
     CellDraft cell;
     cell.row = place.row;
     cell.column = place.column;
@@ -98,7 +99,7 @@ CellDraft buildCell(const GridCell& place, const Rect& box, std::vector<Line> li
     cell.box = box;
     cell.direction = directionOf(lines);
     const ColumnSpan room = rooms.roomOf(place.column, place.columnSpan);
-    for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(lines), box, room, context, parameters))
+    for (ParagraphDraft& paragraph : buildCellParagraphs(std::move(lines), box, room, context, vocabulary, parameters))
         cell.blocks.emplace_back().value = std::move(paragraph);
     return cell;
 }
@@ -119,8 +120,8 @@ TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& tex
     table.isRightToLeft = isReadFromRight(linesOfCell, context);
     const ColumnRooms rooms(grid, linesOfCell, edges);
     for (std::size_t i = 0; i < grid.cells.size(); ++i)
-        table.cells.push_back(
-            buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms, around, parameters));
+        table.cells.push_back(buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms,
+                                        around, context.vocabulary, parameters));
     drawBorders(table, page.rules, lines, limits);
     shadeCells(table, page.grounds, limits);
     table.headerRows = countHeaderRows(table, limits);

@@ -1,6 +1,7 @@
 #include "layout/tables/CellParagraphs.h"
 
 #include "layout/paragraphs/ParagraphBuilder.h"
+#include "layout/tables/BrokenWords.h"
 #include "layout/text/Line.h"
 
 #include <algorithm>
@@ -53,11 +54,14 @@ ParagraphDraft turnedParagraph(std::vector<Line> lines) {
 } // namespace
 
 std::vector<ParagraphDraft> buildCellParagraphs(std::vector<Line> lines, const Rect& cell, ColumnSpan room,
-                                                const ParagraphContext& context, const LayoutParameters& parameters) {
+                                                const ParagraphContext& context,
+                                                const std::unordered_set<std::string>& vocabulary,
+                                                const LayoutParameters& parameters) {
     const auto firstTurned = std::stable_partition(lines.begin(), lines.end(), isUpright);
     std::vector<Line> turned(std::make_move_iterator(firstTurned), std::make_move_iterator(lines.end()));
     lines.erase(firstTurned, lines.end());
-    const std::vector<Line> upright = joinLinesOfOneBaseline(std::move(lines), parameters.tables);
+    std::vector<Line> upright = joinLinesOfOneBaseline(std::move(lines), parameters.tables);
+    mendBrokenWords(upright, room, vocabulary);
     std::vector<ParagraphDraft> paragraphs = buildParagraphs(upright, room, context, parameters);
     for (ParagraphDraft& paragraph : paragraphs) {
         const bool isRightToLeft = paragraph.lines.front().isRightToLeft;
