@@ -1,6 +1,7 @@
 #include "layout/tables/AlignedAdmission.h"
 
 #include "layout/tables/ColumnPieces.h"
+#include "layout/tables/FieldTexts.h"
 #include "layout/tables/ItemLabels.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ public:
             return TableVerdict::List;
         if (isKeyValues())
             return TableVerdict::KeyValues;
-        if (isProseInColumns())
+        if (!holdsFields() && isProseInColumns())
             return TableVerdict::Prose;
         if (isCode())
             return TableVerdict::Code;
@@ -50,7 +51,8 @@ public:
             return TableVerdict::Empty;
         if (isRagged())
             return TableVerdict::Ragged;
-        if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn() && !showsRows())
+        if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn() && !showsRows() &&
+            !holdsFields())
             return TableVerdict::TooSmall;
         return TableVerdict::Table;
     }
@@ -121,6 +123,12 @@ private:
 
     /// Whether space between the rows, or filled cells, show a table as rules do, whatever stands in two columns.
     bool showsRows() const { return m_aligned.areSpaced || isFilled(); }
+
+    /// Whether fields of several lines stand side by side. Those of one line each may be parted by tabs.
+    bool holdsFields() const {
+        return m_aligned.groups.size() < m_aligned.rows.size() &&
+               areFields(m_aligned.rows, m_aligned.gaps, lines(), m_parameters);
+    }
 
     bool isFilled() const {
         double filled = 0;

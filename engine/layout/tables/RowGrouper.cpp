@@ -1,12 +1,14 @@
 #include "layout/tables/RowGrouper.h"
 
 #include "base/Utf8.h"
+#include "layout/tables/FieldTexts.h"
 #include "layout/tables/FilledRows.h"
 #include "layout/tables/RowContent.h"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <optional>
 #include <set>
 
 namespace orvane::layout {
@@ -38,9 +40,11 @@ public:
         , m_filled(rows, parameters) {
         for (const PieceRow& row : rows)
             m_contents.push_back(contentOf(row, gaps, lines, parameters));
+        m_areFields = areFields(rows, gaps, lines, parameters);
         measureColumns();
         measurePitch();
         countHead(part);
+        findLabels();
     }
 
     std::vector<RowGroup> join() const {
@@ -68,6 +72,8 @@ private:
         case FilledVerdict::Unknown:
             break;
         }
+        if (lacksItsLabel(i))
+            return true;
         const bool isNumbered = m_contents[i - 1].isNumbering || m_contents[i].isNumbering;
         return !isNumbered && !isRuledAbove(i) && (i < m_headRows ? goesOnInHead(i) : goesOn(i, filled));
     }
@@ -104,6 +110,35 @@ private:
         }
     }
 
+    /// The column whose texts end with colons, if there is one: each of them labels a row.
+    void findLabels() {
+        std::map<int, int> texts, labels;
+        for (const RowContent& content : m_contents) {
+            for (const auto& [column, piece] : content.byColumn) {
+                ++texts[column];
+                labels[column] += textOf(*piece, m_lines).ends_with(':');
+            }
+        }
+        const auto column = std::find_if(labels.begin(), labels.end(), [&](const auto& ofColumn) {
+            return ofColumn.second >= m_parameters.fewestPartedRows &&
+                   ofColumn.second > m_parameters.keyShare * texts.at(ofColumn.first);
+        });
+        if (column != labels.end())
+            m_labelColumn = column->first;
+    }
+
+    /// Whether the row holds nothing but values, texts whose label stands farther up, or the rest of fields.
+    bool lacksItsLabel(std::size_t i) const {
+        const RowContent& content = m_contents[i];
+        if (content.hasSpan || content.isOfNumbers)
+            return false;
+        if (m_areFields)
+            return std::none_of(m_rows[i].pieces.begin(), m_rows[i].pieces.end(),
+                                [&](const TextPiece& piece) { return isField(piece, m_lines); });
+        return m_labelColumn && i > 0 && m_contents[i - 1].byColumn.rbegin()->first > *m_labelColumn &&
+               content.byColumn.begin()->first > *m_labelColumn;
+    }
+
     /// The rows that may be the head: those before the first with numbers, if there is one.
     void countHead(RowsPart part) {
         const auto numbers = std::find_if(m_contents.begin(), m_contents.end(),
@@ -124,13 +159,26 @@ private:
         return static_cast<std::size_t>(body - m_contents.begin());
     }
 
+    /// Whether row `i` holds nothing but a label that is set apart, as another row below the head does: both are
+    /// titles.
+    bool isTitle(std::size_t i) const {
+        const auto isAlone = [](const RowContent& content) {
+            return content.byColumn.size() == 1 && content.byColumn.count(0) > 0 &&
+                   (content.isBold || content.isItalic);
+        };
+        return isAlone(m_contents[i]) && std::any_of(m_contents.begin() + static_cast<std::ptrdiff_t>(m_headRows),
+                                                     m_contents.end(), [&](const RowContent& content) {
+                                                         return isAlone(content) && !content.looksUnlike(m_contents[i]);
+                                                     });
+    }
+
     /// Whether row `i` of the head holds further lines of the texts above, which end or begin at one height.
     bool goesOnInHead(std::size_t i) const {
         const RowContent& above = m_contents[i - 1];
         const RowContent& content = m_contents[i];
         const double pitch = m_rows[i].baseline - m_rows[i - 1].lastBaseline;
         if (pitch > m_parameters.wrapPitch * m_rows[i].fontSize || content.hasSpan || above.hasSpan ||
-            content.looksUnlike(above))
+            content.looksUnlike(above) || isTitle(i))
             return false;
         const auto stands = [](const RowContent& inner, const RowContent& outer) {
             return std::all_of(inner.byColumn.begin(), inner.byColumn.end(),
@@ -227,6 +275,8 @@ private:
     std::map<int, Rect> m_columnBoxes; ///< around the texts of a column
     double m_leastPitch = 0;
     std::size_t m_headRows = 0;
+    std::optional<int> m_labelColumn; ///< its texts end with colons
+    bool m_areFields = false;
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "layout/tables/CellBuilder.h"
 #include "layout/tables/GroundTableFinder.h"
 #include "layout/tables/HalfRuledTableFinder.h"
+#include "layout/tables/LabelledTableFinder.h"
 #include "layout/tables/RuledTableFinder.h"
 
 #include <algorithm>
@@ -90,6 +91,7 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
     take(findGroundGrids(page, left, tables, limits), left, TableEdges::Ruled);
+    take(findLabelledGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;
     });

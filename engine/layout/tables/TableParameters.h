@@ -97,6 +97,12 @@ struct TableParameters {
         double bodyReach = 10.0;          ///< of the font size; rows below the last rule are not farther apart
         double openProseShare = 0.55;     ///< of the last rule's length; a text alone in its row that is longer runs on
 
+        // Labels and their values.
+        int longestValue = 8;           ///< lines; longer ones are running text beside a title
+        double leastLabelRoom = 5.0;    ///< of the font size; values that begin nearer to their labels hang from them
+        double runningLabelShare = 0.2; ///< of the labels that may go on in the next one: a column of running text
+        double fullValueShare = 0.5;    ///< of the values that may end where the next one's first word has no room
+
         // Words in columns that are no table.
         double crossingPieceShare = 0.25; ///< of the pieces that may reach over a gap
         double leaderRowShare = 0.4;      ///< of the rows that lead to a page number: contents
