@@ -35,10 +35,11 @@ public:
         std::vector<TextPiece> listed;
         int numbers = 0;
         int unwrapped = 0;
+        const bool arePairs = holdPairs(cells);
         for (BandCell& cell : cells) {
             const bool isOfNumbers = isColumnOfNumbers(cell.pieces);
             const bool isWrapped = isMostlyWrapped(cell);
-            cell.isListing = isLongEnough(cell.pieces) && (isOfNumbers || !isWrapped);
+            cell.isListing = isLongEnough(cell.pieces) ? isOfNumbers || !isWrapped : arePairs && isPair(cell);
             if (!cell.isListing)
                 continue;
             listed.insert(listed.end(), cell.pieces.begin(), cell.pieces.end());
@@ -71,6 +72,19 @@ private:
             hasTaken = true;
         }
         return hasTaken;
+    }
+
+    /// Whether the cell holds two numbers, one below the other.
+    bool isPair(const BandCell& cell) const {
+        return cell.pieces.size() == 2 && isColumnOfNumbers(cell.pieces) &&
+               groupIntoRows(cell.pieces, m_parameters).size() == 2;
+    }
+
+    /// Whether so many cells side by side hold two numbers that these are two rows.
+    bool holdPairs(const std::vector<BandCell>& cells) const {
+        const auto pairs =
+            std::count_if(cells.begin(), cells.end(), [&](const BandCell& cell) { return isPair(cell); });
+        return static_cast<std::size_t>(pairs) >= m_parameters.fullRow;
     }
 
     bool isLongEnough(const std::vector<TextPiece>& pieces) const {
