@@ -15,6 +15,7 @@ import frames
 import heads
 import labels
 import pages
+import reports
 from odf import Setting
 from traps import TRAPS
 

@@ -13,6 +13,7 @@ import frames
 import heads
 import labels
 import pages
+import reports
 from odf import Document, Look, Setting
 from relations import Cell
 from traps import TRAPS
