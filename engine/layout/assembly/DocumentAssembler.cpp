@@ -4,6 +4,7 @@
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/CommentAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
+#include "layout/assembly/HangulLines.h"
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/NumberingAssembler.h"
 #include "layout/assembly/PushedText.h"
@@ -145,7 +146,7 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     cutLabels(draft, parameters);
     const FontCatalog fonts(draft, parameters, tracking);
     fitLabels(draft, fonts, tracking, parameters);
-    const AssemblyContext assembly{draft, context, fonts, links, request, parameters};
+    const AssemblyContext assembly{draft, context, fonts, links, request, parameters, paintsEndsOfHangul(draft)};
     FlowSet flows(draft, assembly);
     document::Document document;
     document.metadata = metadataOf(facts.metadata, context);

@@ -2,6 +2,7 @@
 
 #include "base/Utf8.h"
 #include "layout/assembly/FieldControl.h"
+#include "layout/assembly/HangulLines.h"
 #include "layout/paragraphs/HyphenResolver.h"
 #include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
@@ -196,7 +197,8 @@ private:
             return;
         }
         LineJoin join = LineJoin::Blank;
-        if (position == Position::StartsLine && isCutAddress(gapLink, m_before->text, textOf(word)))
+        if (position == Position::StartsLine &&
+            (isCutAddress(gapLink, m_before->text, textOf(word)) || isCutHangul(word)))
             join = LineJoin::Nothing;
         else if (position == Position::StartsLine)
             join = joinTo(word);
@@ -226,6 +228,11 @@ private:
         } else {
             m_builder.add({document::Break{document::BreakKind::Line}}, link);
         }
+    }
+
+    /// A Korean word that the line's end cut: no blank stands there, as it does behind other lines.
+    bool isCutHangul(const Word& word) const {
+        return m_context.paintsEndsOfHangul && m_before->blanks == 0 && isCutInHangul(m_before->text, textOf(word));
     }
 
     std::string blanksBefore(const Word& word, Position position) const {

@@ -20,6 +20,7 @@ struct AssemblyContext {
     const LinkTargets& links;
     const LayoutRequest& request;
     const LayoutParameters& parameters;
+    bool paintsEndsOfHangul = false; ///< see HangulLines
 };
 
 /// The words of the paragraph as runs of one look each: blanks between words, lines joined (hyphens at their ends

@@ -2,7 +2,7 @@
 
 #include "engine/layout/DraftSupport.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace orvane::layout {
 namespace {
@@ -45,6 +45,24 @@ TEST(TextAssembler, WritesTheBlanksThatWerePaintedAtALinesEnd) {
     EXPECT_EQ(text(draft), "p Normal \"one.  Two\"");
     last.blanksAfter = 9;
     EXPECT_EQ(text(draft), "p Normal \"one. Two\"") << "they filled the line";
+}
+
+/// The only paragraph of the document that the whole assembly makes of the draft.
+std::string assembled(const DocumentDraft& draft) {
+    const document::Document document = tests::documentOf(draft);
+    return document::dump(tests::paragraphAt(document, 0), document);
+}
+
+TEST(TextAssembler, JoinsKoreanWordsWhereLinesPaintBlanksOnlyBetweenWords) {
+    std::vector<Line> lines;
+    for (const char* word : {"이슈", "감염", "병의", "예방", "법", "관리", "제도"})
+        lines.push_back(makeLine(word, 72, 100 + 12 * static_cast<double>(lines.size())));
+    DocumentDraft draft = draftOf(std::move(lines));
+    EXPECT_THAT(assembled(draft), testing::HasSubstr("\"이슈 감염 병의 예방 법 관리 제도\"")) << "nothing is known";
+    for (const std::size_t line : {0u, 1u, 2u})
+        paragraphOf(draft).lines[line].words.back().blanksAfter = 1;
+    EXPECT_THAT(assembled(draft), testing::HasSubstr("\"이슈 감염 병의 예방법관리 제도\""))
+        << "longer parts may be words";
 }
 
 TEST(TextAssembler, PutsTwoBlanksBehindSentencesAsTheDocumentDoes) {
