@@ -33,6 +33,22 @@ struct ShapeLine {
     BorderKind kind = BorderKind::Single;
 };
 
+struct GradientStop {
+    double position = 0; ///< 0 to 1
+    Color color;
+};
+
+enum class GradientKind : std::uint8_t { Linear, Radial };
+
+/// A fill whose colour changes evenly from stop to stop, within the box of what it fills.
+struct Gradient {
+    GradientKind kind = GradientKind::Linear;
+    /// Of a linear one the way that its colour changes, from the first corner that it meets to the last: degrees
+    /// clockwise, 0 runs rightwards. A radial one runs from the middle to the corners.
+    double angle = 0;
+    std::vector<GradientStop> stops; ///< ascending, at least two: the first at 0, the last at 1
+};
+
 /// A drawn outline, in its own box.
 struct Shape {
     enum class Verb : std::uint8_t { Move, Line, Curve, Close };
@@ -44,6 +60,7 @@ struct Shape {
     std::vector<Segment> segments;
     std::optional<ShapeLine> line;
     std::optional<Color> fill;
+    std::optional<Gradient> gradient; ///< in place of `fill`, which is its mean then
     double opacity = 1;
 };
 

@@ -1,6 +1,7 @@
 #include "write/doc/ShapeDoc.h"
 
 #include "write/ShapeOutline.h"
+#include "write/StoredGradient.h"
 #include "write/doc/ArtRecords.h"
 #include "write/doc/PropertyList.h"
 
@@ -31,8 +32,13 @@ constexpr int kGeometryBottom = 0x0143;
 constexpr int kShapePath = 0x0144;
 constexpr int kVertices = 0x0145;
 constexpr int kSegments = 0x0146;
+constexpr int kFillType = 0x0180;
 constexpr int kFillColor = 0x0181;
 constexpr int kFillOpacity = 0x0182;
+constexpr int kFillBackColor = 0x0183;
+constexpr int kFillBackOpacity = 0x0184;
+constexpr int kFillAngle = 0x018B;
+constexpr int kFillShadeColors = 0x0197;
 constexpr int kFillSwitches = 0x01BF;
 constexpr int kLineColor = 0x01C0;
 constexpr int kLineOpacity = 0x01C1;
@@ -64,6 +70,7 @@ constexpr int kLineCode = 0x0001;
 constexpr int kCurveCode = 0x2001;
 constexpr int kCloseCode = 0x6001;
 constexpr int kEndCode = 0x8000;
+constexpr int kScaledShade = 7; // Source: [MS-ODRAW] 2.4.11 (MSOFILLTYPE)
 constexpr int kDoubleLine = 1;
 constexpr int kDotted = 2;
 constexpr int kDashed = 6;
@@ -101,7 +108,29 @@ int verticalNumber(VerticalAnchor anchor) {
     return 1;
 }
 
+void addGradient(art::Options& options, const Gradient& gradient, double opacity) {
+    options.add(kFillType, kScaledShade);
+    options.add(kFillColor, colorNumber(gradient.stops.front().color));
+    if (opacity < 1)
+        options.add(kFillOpacity, std::llround(std::max(opacity, 0.0) * kBinaryPlaces));
+    options.add(kFillBackColor, colorNumber(gradient.stops.back().color));
+    if (opacity < 1)
+        options.add(kFillBackOpacity, std::llround(std::max(opacity, 0.0) * kBinaryPlaces));
+    options.add(kFillAngle, storedGradientAngle(gradient));
+    if (gradient.stops.size() > 2) {
+        Bytes stops;
+        for (const GradientStop& stop : gradient.stops)
+            stops.u32(colorNumber(stop.color)).u32(std::llround(stop.position * kBinaryPlaces));
+        options.addList(kFillShadeColors, gradient.stops.size(), 8, stops.str());
+    }
+    options.add(kFillSwitches, kIsFilled);
+}
+
 void addFill(art::Options& options, const Shape& shape) {
+    if (isStoredAsGradient(shape)) {
+        addGradient(options, *shape.gradient, shape.opacity);
+        return;
+    }
     if (shape.fill) {
         options.add(kFillColor, colorNumber(*shape.fill));
         if (shape.opacity < 1)

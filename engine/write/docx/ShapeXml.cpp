@@ -18,6 +18,37 @@ constexpr std::string_view kGroupNamespace = "http://schemas.microsoft.com/offic
 /// The widest line that readers take. Source: ECMA-376 part 1, 20.1.10.35.
 constexpr std::int64_t kWidestLine = 20116800;
 
+/// Thousandths of a percent, in which DrawingML tells shares.
+std::int64_t thousandths(double share) {
+    return std::llround(std::clamp(share, 0.0, 1.0) * 100000);
+}
+
+void writeColor(XmlWriter& xml, Color value, double opacity) {
+    const XmlElement color(xml, "a:srgbClr", {{"val", toHex(value)}});
+    if (opacity < 1)
+        xml.leaf("a:alpha", {{"val", thousandths(opacity)}});
+}
+
+/// Source: ECMA-376 part 1, 20.1.8.33 (gradFill), 20.1.8.41 (lin), 20.1.8.46 (path).
+void writeGradient(XmlWriter& xml, const Gradient& gradient, double opacity) {
+    constexpr double kPartsADegree = 60000;
+    const XmlElement fill(xml, "a:gradFill", {{"rotWithShape", 1}});
+    {
+        const XmlElement stops(xml, "a:gsLst");
+        for (const GradientStop& stop : gradient.stops) {
+            const XmlElement gs(xml, "a:gs", {{"pos", thousandths(stop.position)}});
+            writeColor(xml, stop.color, opacity);
+        }
+    }
+    if (gradient.kind == GradientKind::Linear) {
+        const std::int64_t fullTurn = std::llround(360 * kPartsADegree);
+        xml.leaf("a:lin", {{"ang", std::llround(gradient.angle * kPartsADegree) % fullTurn}, {"scaled", 0}});
+        return;
+    }
+    const XmlElement path(xml, "a:path", {{"path", "circle"}});
+    xml.leaf("a:fillToRect", {{"l", 50000}, {"t", 50000}, {"r", 50000}, {"b", 50000}});
+}
+
 void writeShape(XmlWriter& xml, const Shape& shape, std::optional<int> idInGroup) {
     const XmlElement wsp(xml, "wps:wsp");
     if (idInGroup)
@@ -26,7 +57,10 @@ void writeShape(XmlWriter& xml, const Shape& shape, std::optional<int> idInGroup
     {
         const XmlElement properties(xml, "wps:spPr");
         writeShapeGeometry(xml, shape);
-        writeFill(xml, shape.fill, shape.opacity);
+        if (shape.gradient)
+            writeGradient(xml, *shape.gradient, shape.opacity);
+        else
+            writeFill(xml, shape.fill, shape.opacity);
         writeOutlineLook(xml, shape.line, shape.opacity);
     }
     xml.leaf("wps:bodyPr");
@@ -68,9 +102,7 @@ void writeFill(XmlWriter& xml, const std::optional<Color>& fill, double opacity)
         return;
     }
     const XmlElement solid(xml, "a:solidFill");
-    const XmlElement color(xml, "a:srgbClr", {{"val", toHex(*fill)}});
-    if (opacity < 1)
-        xml.leaf("a:alpha", {{"val", std::llround(std::clamp(opacity, 0.0, 1.0) * 100000)}});
+    writeColor(xml, *fill, opacity);
 }
 
 void writeOutlineLook(XmlWriter& xml, const std::optional<ShapeLine>& line, double opacity) {

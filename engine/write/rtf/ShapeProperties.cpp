@@ -1,10 +1,13 @@
 #include "write/rtf/ShapeProperties.h"
 
 #include "write/StoredBox.h"
+#include "write/StoredGradient.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+
+#include <fmt/format.h>
 
 namespace orvane::write::rtf {
 namespace {
@@ -17,6 +20,7 @@ constexpr double kBinaryPlaces = 65536;
 constexpr int kDoubleLine = 1;
 constexpr int kDashed = 6;
 constexpr int kDotted = 2;
+constexpr int kScaledShade = 7; // Source: [MS-ODRAW] 2.4.11 (MSOFILLTYPE)
 
 /// The words and the property for what a position counts from. Source: RTF 1.9.1, "Shapes", \shpbxpage and others.
 struct AnchorWords {
@@ -117,6 +121,23 @@ void writeFill(RtfStream& rtf, const std::optional<Color>& fill, double opacity)
     writeShapeProperty(rtf, "fillColor", colorValue(*fill));
     if (opacity < 1)
         writeShapeProperty(rtf, "fillOpacity", std::llround(std::max(opacity, 0.0) * kBinaryPlaces));
+}
+
+void writeGradient(RtfStream& rtf, const Gradient& gradient, double opacity) {
+    writeShapeProperty(rtf, "fFilled", 1);
+    writeShapeProperty(rtf, "fillType", kScaledShade);
+    writeShapeProperty(rtf, "fillColor", colorValue(gradient.stops.front().color));
+    writeShapeProperty(rtf, "fillBackColor", colorValue(gradient.stops.back().color));
+    writeShapeProperty(rtf, "fillAngle", storedGradientAngle(gradient));
+    if (opacity < 1)
+        for (const char* name : {"fillOpacity", "fillBackOpacity"})
+            writeShapeProperty(rtf, name, std::llround(std::max(opacity, 0.0) * kBinaryPlaces));
+    if (gradient.stops.size() <= 2)
+        return;
+    std::string colors = fmt::format("8;{}", gradient.stops.size());
+    for (const GradientStop& stop : gradient.stops)
+        colors += fmt::format(";({},{})", colorValue(stop.color), std::llround(stop.position * kBinaryPlaces));
+    writeShapeProperty(rtf, "fillShadeColors", colors);
 }
 
 void writeOutlineLook(RtfStream& rtf, const std::optional<ShapeLine>& line, double opacity) {

@@ -24,6 +24,8 @@ void writePlacement(Story& story, const document::Placement& placement, const Sh
 
 /// Writes what a shape is filled with and how its outline is drawn. `opacity` is from 0 to 1.
 void writeFill(RtfStream& rtf, const std::optional<Color>& fill, double opacity);
+/// Requires: isStoredAsGradient().
+void writeGradient(RtfStream& rtf, const document::Gradient& gradient, double opacity);
 void writeOutlineLook(RtfStream& rtf, const std::optional<document::ShapeLine>& line, double opacity);
 
 /// Degrees clockwise as shapes take them: with 16 binary places, from 0 to below a full turn.

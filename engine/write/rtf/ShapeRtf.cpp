@@ -1,6 +1,7 @@
 #include "write/rtf/ShapeRtf.h"
 
 #include "write/ShapeOutline.h"
+#include "write/StoredGradient.h"
 #include "write/rtf/ShapeProperties.h"
 
 #include <array>
@@ -115,7 +116,10 @@ void writeGeometry(RtfStream& rtf, const Shape& shape, const char* flipH, const 
 }
 
 void writeLook(RtfStream& rtf, const Shape& shape) {
-    writeFill(rtf, shape.fill, shape.opacity);
+    if (isStoredAsGradient(shape))
+        writeGradient(rtf, *shape.gradient, shape.opacity);
+    else
+        writeFill(rtf, shape.fill, shape.opacity);
     writeOutlineLook(rtf, shape.line, shape.opacity);
 }
 

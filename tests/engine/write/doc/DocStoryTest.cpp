@@ -305,9 +305,21 @@ TEST(DocRunningText, HasDrawingsAtNumbersOfTheirOwn) {
     EXPECT_EQ(doc.read().numbers(40)[1023], 1024u + 2) << "the first of the body's";
 }
 
+TEST(DocShape, IsFilledWithALinearGradient) {
+    Shape box;
+    box.width = box.height = Emu(12700);
+    box.gradient = Gradient{GradientKind::Linear, 270, {{0, {255, 0, 0}}, {0.5, {0, 255, 0}}, {1, {0, 0, 255}}}};
+    const Figure figure{Drawing{box.width, box.height, {box}, ""}, {}, {}};
+    const WrittenDoc doc(documentOf({{figure}, {paragraph("a")}}));
+    const std::string shapes = doc.read().table(50);
+    EXPECT_THAT(shapes, HasSubstr(std::string("\x80\1\7\0\0\0\x81\1\xFF\0\0\0\x83\1\0\0\xFF\0", 18)));
+    EXPECT_THAT(shapes, HasSubstr(std::string("\3\0\3\0\x8\0\xFF\0\0\0\0\0\0\0\0\xFF\0\0\0\x80\0\0", 22)))
+        << "the list of its stops";
+}
+
 TEST(DocShape, IsAPathOrTheWordProcessorsOwn) {
     const Emu side(1000);
-    Shape line{{}, {}, side, side, {{Shape::Verb::Move, {}}, {Shape::Verb::Line, {side, side}}}, {}, {}, 1};
+    Shape line{{}, {}, side, side, {{Shape::Verb::Move, {}}, {Shape::Verb::Line, {side, side}}}, {}, {}, {}, 1};
     Shape drop = line;
     drop.segments[1] = {Shape::Verb::Curve, {side, Emu(0), side, side, Emu(0), side}};
     drop.fill = Color{1, 2, 3};

@@ -187,6 +187,19 @@ TEST_F(DrawingXml, WritesHowAShapeIsDrawn) {
     EXPECT_EQ(document.body("//a:ln/a:prstDash"), normalXml("<a:prstDash val='dash'/>"));
 }
 
+TEST_F(DrawingXml, FillsAShapeWithAGradient) {
+    Shape one = shape({to(Verb::Move, {0, 0}), to(Verb::Line, {800, 600})});
+    one.fill = Color{0x80, 0, 0x80};
+    one.gradient = Gradient{GradientKind::Linear, 90, {{0, {0xFF, 0, 0}}, {1, {0, 0, 0xFF}}}};
+    EXPECT_EQ(written({figure({one})}).body("//wps:spPr/a:gradFill"),
+              normalXml("<a:gradFill rotWithShape='1'><a:gsLst><a:gs pos='0'><a:srgbClr val='FF0000'/></a:gs>"
+                        "<a:gs pos='100000'><a:srgbClr val='0000FF'/></a:gs></a:gsLst>"
+                        "<a:lin ang='5400000' scaled='0'/></a:gradFill>"));
+    one.gradient->kind = GradientKind::Radial;
+    EXPECT_EQ(written({figure({one})}).body("//a:gradFill/a:path"),
+              normalXml("<a:path path='circle'><a:fillToRect l='50000' t='50000' r='50000' b='50000'/></a:path>"));
+}
+
 TEST_F(DrawingXml, GroupsShapesThatBelongTogether) {
     Shape first = shape({to(Verb::Move, {0, 0}), to(Verb::Line, {800, 600})});
     Shape second = first;

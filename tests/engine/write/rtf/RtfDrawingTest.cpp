@@ -96,7 +96,7 @@ TEST(RtfPicture, IsStoredOnItsSideWhenItIsTurned) {
 TEST(RtfShape, IsTheWordProcessorsOwnWhereItHasOne) {
     const Emu side = emuFromPoints(10);
     Shape line{{}, {}, side, side, {{Shape::Verb::Move, {Emu(0), side}}, {Shape::Verb::Line, {side, Emu(0)}}},
-               {}, {}, 1};
+               {}, {}, {},   1};
     line.line = ShapeLine{{255, 0, 0}, Emu(12700), BorderKind::Dashed};
     const WrittenRtf rtf(documentOf({{Figure{Drawing{side, side, {line}, ""}, {}, {}}}, {paragraph("anchor")}}));
     EXPECT_TRUE(rtf.has("{\\sn shapeType}{\\sv 20}}{\\sp{\\sn fFlipV}{\\sv 1}}"));
@@ -115,6 +115,7 @@ TEST(RtfShape, IsAPathOtherwise) {
                 {Shape::Verb::Close, {}}},
                {},
                Color{0, 0, 255},
+               {},
                0.5};
     const WrittenRtf rtf(documentOf({{Figure{Drawing{side, side, {drop}, ""}, {}, {}}}, {paragraph("anchor")}}));
     EXPECT_TRUE(rtf.has("{\\sn pVerticies}{\\sv 8;5;(0,0);(1000,0);(1000,1000);(0,1000);(0,0)}"));
@@ -136,9 +137,28 @@ TEST(RtfShape, EndsItsPathWhereItBeganWithoutALineMore) {
                   {Shape::Verb::Close, {}}},
                  {},
                  Color{0, 0, 255},
+                 {},
                  1};
     const WrittenRtf rtf(documentOf({{Figure{Drawing{side, side, {corner}, ""}, {}, {}}}, {paragraph("anchor")}}));
     EXPECT_TRUE(rtf.has("{\\sn pVerticies}{\\sv 8;4;(0,0);(1000,1000);(0,1000);(0,0)}"));
+}
+
+TEST(RtfShape, IsFilledWithALinearGradient) {
+    Shape box;
+    box.width = box.height = Emu(500);
+    box.fill = Color{128, 0, 128};
+    box.gradient = Gradient{GradientKind::Linear, 0, {{0, {255, 0, 0}}, {0.5, {0, 255, 0}}, {1, {0, 0, 255}}}};
+    const Figure figure{Drawing{box.width, box.height, {box}, ""}, {}, {}};
+    const WrittenRtf rtf(documentOf({{figure}, {paragraph("anchor")}}));
+    EXPECT_TRUE(
+        rtf.has("{\\sn fillType}{\\sv 7}}{\\sp{\\sn fillColor}{\\sv 255}}{\\sp{\\sn fillBackColor}{\\sv 16711680}}"));
+    EXPECT_TRUE(rtf.has("{\\sn fillShadeColors}{\\sv 8;3;(255,0);(65280,32768);(16711680,65536)}"));
+
+    Figure radial = figure;
+    std::get<Drawing>(radial.content).shapes[0].gradient->kind = GradientKind::Radial;
+    const WrittenRtf plain(documentOf({{radial}, {paragraph("anchor")}}));
+    EXPECT_FALSE(plain.has("fillType"));
+    EXPECT_TRUE(plain.has("{\\sn fillColor}{\\sv 8388736}}")) << "circles are filled with their mean";
 }
 
 TEST(RtfShape, StandsInAGroupWithOthers) {
