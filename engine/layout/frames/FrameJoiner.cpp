@@ -50,13 +50,34 @@ bool takeBehind(DraftBlock& frame, DraftBlock& next, const Parameters& parameter
     return true;
 }
 
+/// The frame that a leader comes from which ends at `frame`, in another cell or column; null where none does.
+DraftBlock* leaderStart(std::vector<DraftBlock>& frames, DraftBlock& frame, const Parameters& parameters) {
+    const Line* end = singleLine(frame);
+    if (!end || end->words.front().leaderBefore == document::TabLeader::None)
+        return nullptr;
+    DraftBlock* nearest = nullptr;
+    double right = 0;
+    for (auto other = frames.rbegin(); other != frames.rend() && other->page == frame.page; ++other) {
+        const Line* line = singleLine(*other);
+        if (!line || !standsBehind(*line, *end, parameters) || (nearest && line->box.right <= right))
+            continue;
+        nearest = &*other;
+        right = line->box.right;
+    }
+    return nearest;
+}
+
 } // namespace
 
 std::vector<DraftBlock> joinFrames(std::vector<DraftBlock> frames, const Parameters& parameters) {
     std::vector<DraftBlock> joined;
-    for (DraftBlock& frame : frames)
-        if (joined.empty() || !takeBehind(joined.back(), frame, parameters))
+    for (DraftBlock& frame : frames) {
+        if (!joined.empty() && takeBehind(joined.back(), frame, parameters))
+            continue;
+        DraftBlock* start = leaderStart(joined, frame, parameters);
+        if (!start || !takeBehind(*start, frame, parameters))
             joined.push_back(std::move(frame));
+    }
     return joined;
 }
 

@@ -28,11 +28,22 @@ const Figure* drawingAt(const Line& line, const std::vector<Figure>& figures) {
     return drawing == figures.end() ? nullptr : &*drawing;
 }
 
+/// The parts of a line that stand apart; what a leader leads to belongs to what it leads from.
+std::vector<Line> partsOf(Line line) {
+    std::vector<Line> parts;
+    for (Line& piece : piecesOf(std::move(line)))
+        if (!parts.empty() && piece.words.front().leaderBefore != document::TabLeader::None)
+            joinLines(parts.back(), std::move(piece), Gap::Tab);
+        else
+            parts.push_back(std::move(piece));
+    return parts;
+}
+
 /// Parts lines that run from one drawing into another, or into the text beside it.
 void partLines(PageText& text) {
     std::vector<Line> parted;
     for (Line& line : text.lines) {
-        std::vector<Line> pieces = piecesOf(line);
+        std::vector<Line> pieces = partsOf(line);
         const Figure* first = drawingAt(pieces.front(), text.figures);
         const bool isOfOne = std::all_of(pieces.begin(), pieces.end(),
                                          [&](const Line& piece) { return drawingAt(piece, text.figures) == first; });

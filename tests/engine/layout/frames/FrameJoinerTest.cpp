@@ -47,5 +47,16 @@ TEST(FrameJoiner, LinesOfOtherBaselinesOrDirectionsStayApart) {
     EXPECT_EQ(joined({makeLine("a", 172, 100), makeLine("b", 72, 100)}).size(), 2u) << "it stands before the other";
 }
 
+TEST(FrameJoiner, ALeaderStaysWithWhatItComesFrom) {
+    Line total = makeLine("10", 272, 100);
+    total.words.front().leaderBefore = document::TabLeader::Dots;
+    const auto frames = joined({makeLine("label", 72, 100), makeLine("other column", 72, 112), total});
+    ASSERT_EQ(frames.size(), 2u);
+    const Line& row = lineOf(frames[0]);
+    ASSERT_EQ(row.words.size(), 2u);
+    EXPECT_EQ(row.words[1].leaderBefore, document::TabLeader::Dots);
+    EXPECT_EQ(row.words[1].gapBefore, Gap::Tab);
+}
+
 } // namespace
 } // namespace orvane::layout::tests
