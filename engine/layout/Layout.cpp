@@ -8,6 +8,7 @@
 #include "layout/formulas/FormulaFinder.h"
 #include "layout/graphics/PageColor.h"
 #include "layout/graphics/ScannedPages.h"
+#include "layout/page/FreeDrawings.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
@@ -64,6 +65,7 @@ std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentC
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         layouts.push_back(layoutPage(std::move(page), context, parameters, diagnostics));
         findParagraphBorders(layouts.back(), parameters.paragraphBorders);
+        drawFreeRules(layouts.back(), parameters.freeDrawings);
     }
     return layouts;
 }

@@ -5,6 +5,7 @@
 #include "base/PictureData.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -83,11 +84,31 @@ struct StrokeStyle {
     double opacity = 1;
 };
 
+struct GradientStop {
+    double position = 0;         ///< 0 at the beginning, 1 at the end
+    Color color;
+};
+
+enum class GradientKind : std::uint8_t { Axial, Radial };
+
+/// A shading whose colour changes along an axis, or from one circle to another.
+struct Gradient {
+    GradientKind kind = GradientKind::Axial;
+    Point from;                  ///< of the axis, across which the colour stays the same; of a radial one the middle of the first circle
+    Point to;
+    double fromRadius = 0;       ///< of a radial one; points
+    double toRadius = 0;
+    bool extendsBefore = false;  ///< the first colour goes on before the beginning
+    bool extendsAfter = false;
+    std::vector<GradientStop> stops; ///< ascending; at least two
+};
+
 struct FillStyle {
     Color color;
     bool isEvenOdd = false;
     bool isPattern = false;      ///< a tiling pattern or a shading stands here; `color` is its mean colour
     double opacity = 1;
+    std::shared_ptr<const Gradient> gradient; ///< the shading, where it is one of these
 };
 
 /// One painted path.

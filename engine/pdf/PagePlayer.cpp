@@ -88,7 +88,7 @@ PageSlice sliceOf(const Rect& region, double scale) {
 
 void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
               const PageSlice& slice, PlayedAnnotations played) {
-    const double dpi = 72.0 * userUnitOf(page) * slice.scale;
+    const double dpi = 72.0 * scaleOf(page) * slice.scale;
     const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, slice.x, slice.y, slice.width,
                                                     slice.height, false, &TimeBudget::isSpent, &budget,
                                                     document.getXRef()));

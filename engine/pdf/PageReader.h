@@ -99,7 +99,8 @@ public:
 
 private:
     void fill(GfxState& state, FillRule rule);
-    void shade(GfxState& state, Color meanColor);
+    void shade(GfxState& state, const PatternLook& look);
+    void fillDot(GfxState& state, Color color);
     void addPicture(GfxState& state, const PictureSource& source, const ::Object* reference);
     Color meanColorOf(GfxState& state, Gfx& gfx, GfxTilingPattern& pattern);
 

@@ -2,6 +2,8 @@
 
 #include "pdf/PageSpace.h"
 #include "pdf/PaintedColor.h"
+#include "pdf/ShadingColor.h"
+#include "pdf/ShadingGradient.h"
 
 #include <Gfx.h>
 #include <GfxState.h>
@@ -23,7 +25,7 @@ bool PageReader::tilingPatternFill(GfxState* state, Gfx* gfx, Catalog*, GfxTilin
     const bool isSingleCell = x1 - x0 <= 1 && y1 - y0 <= 1;
     if (isSingleCell && !m_textClip.isActive())
         return false;
-    shade(*state, meanColorOf(*state, *gfx, *pattern));
+    shade(*state, {meanColorOf(*state, *gfx, *pattern), nullptr});
     return true;
 }
 
@@ -59,37 +61,37 @@ Color PageReader::meanColorOf(GfxState& state, Gfx& gfx, GfxTilingPattern& patte
     return mean;
 }
 
-void PageReader::shade(GfxState& state, Color meanColor) {
+void PageReader::shade(GfxState& state, const PatternLook& look) {
     if (m_textClip.isActive()) {
-        m_textClip.paint(meanColor);
+        m_textClip.paint(look.meanColor);
         return;
     }
-    m_paths.fillClipWithPattern(state, meanColor, m_marks.current(), m_paintOrder++);
+    m_paths.fillClipWithPattern(state, look, m_marks.current(), m_paintOrder++);
     m_transparency.coverLastPath();
 }
 
 bool PageReader::functionShadedFill(GfxState* state, GfxFunctionShading* shading) {
-    shade(*state, pdf::meanColorOf(*shading));
+    shade(*state, {pdf::meanColorOf(*shading), nullptr});
     return true;
 }
 
 bool PageReader::axialShadedFill(GfxState* state, GfxAxialShading* shading, double, double) {
-    shade(*state, pdf::meanColorOf(*shading));
+    shade(*state, {pdf::meanColorOf(*shading), gradientOf(*shading, currentMatrix(*state))});
     return true;
 }
 
 bool PageReader::radialShadedFill(GfxState* state, GfxRadialShading* shading, double, double) {
-    shade(*state, pdf::meanColorOf(*shading));
+    shade(*state, {pdf::meanColorOf(*shading), gradientOf(*shading, currentMatrix(*state))});
     return true;
 }
 
 bool PageReader::gouraudTriangleShadedFill(GfxState* state, GfxGouraudTriangleShading* shading) {
-    shade(*state, pdf::meanColorOf(*shading));
+    shade(*state, {pdf::meanColorOf(*shading), nullptr});
     return true;
 }
 
 bool PageReader::patchMeshShadedFill(GfxState* state, GfxPatchMeshShading* shading) {
-    shade(*state, pdf::meanColorOf(*shading));
+    shade(*state, {pdf::meanColorOf(*shading), nullptr});
     return true;
 }
 

@@ -26,7 +26,27 @@ PictureSource stencilOf(const GfxState& state, ::Stream* stream, int width, int 
     return source;
 }
 
+/// Whether a mask of one dot paints it. Source: ISO 32000-1, 8.9.6.2.
+bool paintsDot(::Stream& stream, bool isInverted) {
+    stream.reset();
+    const int byte = stream.getChar();
+    stream.close();
+    constexpr int kFirstBit = 0x80;
+    return byte != EOF && ((byte & kFirstBit) != 0) == isInverted;
+}
+
 } // namespace
+
+/// Some programs paint their rules as masks of a single dot.
+void PageReader::fillDot(GfxState& state, Color color) {
+    if (m_textClip.isActive()) {
+        m_textClip.paint(color);
+        return;
+    }
+    m_paths.fillUnitSquare(state, {color, false, false, state.getFillOpacity(), nullptr}, m_marks.current(),
+                           m_paintOrder++);
+    m_transparency.coverLastPath();
+}
 
 void PageReader::addPicture(GfxState& state, const PictureSource& source, const ::Object* reference) {
     if (m_textClip.isActive()) {
@@ -42,7 +62,11 @@ void PageReader::addPicture(GfxState& state, const PictureSource& source, const 
 
 void PageReader::drawImageMask(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,
                                bool isInverted, bool, bool) {
-    addPicture(*state, stencilOf(*state, stream, width, height, isInverted), reference);
+    const PictureSource source = stencilOf(*state, stream, width, height, isInverted);
+    if (width != 1 || height != 1)
+        addPicture(*state, source, reference);
+    else if (paintsDot(*stream, isInverted))
+        fillDot(*state, source.stencilColor);
 }
 
 void PageReader::drawImage(GfxState* state, ::Object* reference, ::Stream* stream, int width, int height,

@@ -16,6 +16,21 @@ bool isQuarterTurned(const ::Page& page) {
     return page.getRotate() == 90 || page.getRotate() == 270;
 }
 
+double userUnitOf(::Page& page) {
+    const ::Object dictionary = page.getDoc()->getXRef()->fetch(page.getRef());
+    if (!dictionary.isDict())
+        return 1;
+    const ::Object unit = dictionary.dictLookup("UserUnit");
+    const double size = unit.isNum() ? unit.getNum() : 1;
+    return std::isfinite(size) && size > 0 && size <= 1000 ? size : 1;
+}
+
+Rect boxAt(double pointsAUnit, ::Page& page) {
+    const double width = std::abs(page.getCropWidth()) * pointsAUnit;
+    const double height = std::abs(page.getCropHeight()) * pointsAUnit;
+    return isQuarterTurned(page) ? Rect{0, 0, height, width} : Rect{0, 0, width, height};
+}
+
 } // namespace
 
 Matrix currentMatrix(const GfxState& state) {
@@ -50,27 +65,26 @@ Color onWhite(Color color, double opacity) {
     return {mixed(color.red), mixed(color.green), mixed(color.blue)};
 }
 
-double userUnitOf(::Page& page) {
-    const ::Object dictionary = page.getDoc()->getXRef()->fetch(page.getRef());
-    if (!dictionary.isDict())
-        return 1;
-    const ::Object unit = dictionary.dictLookup("UserUnit");
-    const double size = unit.isNum() ? unit.getNum() : 1;
-    return std::isfinite(size) && size > 0 && size <= 1000 ? size : 1;
+double scaleOf(::Page& page) {
+    constexpr double kLargestPaper = 22 * kPointsPerInch;
+    const double unit = userUnitOf(page);
+    const double longer = std::max(std::abs(page.getCropWidth()), std::abs(page.getCropHeight()));
+    return longer * unit > kLargestPaper ? kLargestPaper / longer : unit;
 }
 
 Matrix defaultMatrix(::Page& page) {
-    const double dpi = kPointsPerInch * userUnitOf(page);
+    const double dpi = kPointsPerInch * scaleOf(page);
     double m[6];
     page.getDefaultCTM(m, dpi, dpi, 0, false, true);
     return {m[0], m[1], m[2], m[3], m[4], m[5]};
 }
 
 Rect pageBox(::Page& page) {
-    const double unit = userUnitOf(page);
-    const double width = std::abs(page.getCropWidth()) * unit;
-    const double height = std::abs(page.getCropHeight()) * unit;
-    return isQuarterTurned(page) ? Rect{0, 0, height, width} : Rect{0, 0, width, height};
+    return boxAt(scaleOf(page), page);
+}
+
+Rect paperBox(::Page& page) {
+    return boxAt(userUnitOf(page), page);
 }
 
 } // namespace orvane::pdf

@@ -23,11 +23,14 @@ Color toColor(const GfxRGB& color);
 /// How a colour of this opacity looks on paper.
 Color onWhite(Color color, double opacity);
 
-/// The size of a user space unit against a point. Source: ISO 32000-1, 7.7.3.3 (UserUnit).
-double userUnitOf(::Page& page);
+/// The points of page space that a unit of user space takes: the page's UserUnit, or less where the page would be
+/// larger than the paper that word processors have. Source: ISO 32000-1, 7.7.3.3 (UserUnit).
+double scaleOf(::Page& page);
 /// The matrix from a page's default user space to its page space.
 Matrix defaultMatrix(::Page& page);
 /// The page's size in page space, rotation applied.
 Rect pageBox(::Page& page);
+/// Likewise in points of the paper itself, however large it is.
+Rect paperBox(::Page& page);
 
 } // namespace orvane::pdf

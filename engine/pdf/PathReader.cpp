@@ -106,6 +106,15 @@ bool isUprightRectangle(const std::vector<PathSegment>& segments) {
     return true;
 }
 
+std::vector<PathSegment> outlineOf(const Rect& box, const Matrix& matrix) {
+    const auto at = [&](double x, double y) { return matrix.apply({x, y}); };
+    return {{PathVerb::Move, {}, {}, at(box.left, box.top)},
+            {PathVerb::Line, {}, {}, at(box.right, box.top)},
+            {PathVerb::Line, {}, {}, at(box.right, box.bottom)},
+            {PathVerb::Line, {}, {}, at(box.left, box.bottom)},
+            {PathVerb::Close, {}, {}, {}}};
+}
+
 bool isFinite(const Rect& box) {
     return std::isfinite(box.left + box.top + box.right + box.bottom);
 }
@@ -153,7 +162,7 @@ void PathReader::fill(GfxState& state, FillRule rule, std::int32_t mark, std::ui
         return;
     GfxRGB color;
     state.getFillRGB(&color);
-    path.fill = FillStyle{toColor(color), rule == FillRule::EvenOdd, false, state.getFillOpacity()};
+    path.fill = FillStyle{toColor(color), rule == FillRule::EvenOdd, false, state.getFillOpacity(), nullptr};
     m_page.paths.push_back(std::move(path));
 }
 
@@ -175,12 +184,16 @@ void PathReader::stroke(GfxState& state, std::int32_t mark, std::uint32_t paintO
 
 void PathReader::clip(const GfxState& state, FillRule rule) {
     std::vector<PathSegment> segments = segmentsOf(state);
-    const bool isOdd = m_clip.isOdd || !isUprightRectangle(segments);
-    m_clip = {std::move(segments), rule == FillRule::EvenOdd, std::nullopt, isOdd};
+    const bool isUpright = isUprightRectangle(segments);
+    // A box around what is left already cuts nothing off it: that of a shading often lies around the shape.
+    if (isUpright && !m_clip.segments.empty() && boxOf(segments).contains(boxOf(m_clip.segments)))
+        return;
+    const bool isCutOddly = m_clip.isOdd;
+    m_clip = {std::move(segments), rule == FillRule::EvenOdd, std::nullopt, isCutOddly || !isUpright, isCutOddly};
 }
 
 void PathReader::clipToStroke(GfxState& state) {
-    m_clip = {segmentsOf(state), false, strokeStyleOf(state), true};
+    m_clip = {segmentsOf(state), false, strokeStyleOf(state), true, m_clip.isOdd};
 }
 
 void PathReader::restoreState() {
@@ -190,25 +203,32 @@ void PathReader::restoreState() {
     m_clipLevels.pop_back();
 }
 
-void PathReader::fillClipWithPattern(GfxState& state, Color meanColor, std::int32_t mark, std::uint32_t paintOrder) {
+void PathReader::fillClipWithPattern(GfxState& state, const PatternLook& look, std::int32_t mark,
+                                     std::uint32_t paintOrder) {
     std::vector<PathSegment> segments = m_clip.segments;
-    if (segments.empty()) {
-        const Rect box = clipBox(state);
-        segments = {{PathVerb::Move, {}, {}, {box.left, box.top}},
-                    {PathVerb::Line, {}, {}, {box.right, box.top}},
-                    {PathVerb::Line, {}, {}, {box.right, box.bottom}},
-                    {PathVerb::Line, {}, {}, {box.left, box.bottom}},
-                    {PathVerb::Close, {}, {}, {}}};
-    }
+    if (segments.empty())
+        segments = outlineOf(clipBox(state), {});
     Path path = makePath(state, std::move(segments), mark, paintOrder);
     if (!isFinite(path.box))
         return;
+    // The clip is the shape itself; only those around it cut it.
+    path.isSimplified = m_clip.isCutOddly || state.getBlendMode() != gfxBlendNormal;
     if (m_clip.stroke) {
         path.stroke = m_clip.stroke;
-        path.stroke->color = meanColor;
+        path.stroke->color = look.meanColor;
+        path.isSimplified = true;
     } else {
-        path.fill = FillStyle{meanColor, m_clip.isEvenOdd, true, state.getFillOpacity()};
+        path.fill = FillStyle{look.meanColor, m_clip.isEvenOdd, true, state.getFillOpacity(), look.gradient};
     }
+    m_page.paths.push_back(std::move(path));
+}
+
+void PathReader::fillUnitSquare(const GfxState& state, const FillStyle& style, std::int32_t mark,
+                                std::uint32_t paintOrder) {
+    Path path = makePath(state, outlineOf({0, 0, 1, 1}, currentMatrix(state)), mark, paintOrder);
+    if (!isFinite(path.box))
+        return;
+    path.fill = style;
     m_page.paths.push_back(std::move(path));
 }
 

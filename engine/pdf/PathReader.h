@@ -4,12 +4,17 @@
 
 #include <vector>
 
-class GfxShading;
 class GfxState;
 
 namespace orvane::pdf {
 
 enum class FillRule : std::uint8_t { NonZero, EvenOdd };
+
+/// What stands for a shading or a tiling pattern.
+struct PatternLook {
+    Color meanColor;
+    std::shared_ptr<const Gradient> gradient;
+};
 
 /// Turns painted paths into the page's paths.
 class PathReader {
@@ -25,8 +30,10 @@ public:
     void clip(const GfxState& state, FillRule rule);
     /// Likewise with what a stroke of the current path would cover.
     void clipToStroke(GfxState& state);
-    /// Paints the innermost clip path, as shadings and patterns do, in one colour that stands for theirs.
-    void fillClipWithPattern(GfxState& state, Color meanColor, std::int32_t mark, std::uint32_t paintOrder);
+    /// Paints the innermost clip path, as shadings and patterns do.
+    void fillClipWithPattern(GfxState& state, const PatternLook& look, std::int32_t mark, std::uint32_t paintOrder);
+    /// Fills what the picture of a single dot covers.
+    void fillUnitSquare(const GfxState& state, const FillStyle& style, std::int32_t mark, std::uint32_t paintOrder);
 
     /// Follows q and Q, which bound the clip path.
     void saveState() { m_clipLevels.push_back(m_clip); }
@@ -38,6 +45,7 @@ private:
         bool isEvenOdd = false;
         std::optional<StrokeStyle> stroke; ///< where the outline is meant, not what it encloses
         bool isOdd = false;                ///< it, or one around it, is no upright rectangle
+        bool isCutOddly = false;           ///< one around it is none
     };
     Path makePath(const GfxState& state, std::vector<PathSegment> segments, std::int32_t mark,
                   std::uint32_t paintOrder) const;
@@ -46,8 +54,5 @@ private:
     ClipPath m_clip;
     std::vector<ClipPath> m_clipLevels;
 };
-
-/// One colour for a whole shading: the mean of its samples.
-Color meanColorOf(GfxShading& shading);
 
 } // namespace orvane::pdf

@@ -142,7 +142,7 @@ PageInfo PdfDocument::pageInfo(int number) const {
     ::Page* page = m_impl->page(number);
     if (!page)
         return info;
-    const Rect box = pageBox(*page);
+    const Rect box = paperBox(*page);
     info.width = box.width();
     info.height = box.height();
     info.rotation = page->getRotate();

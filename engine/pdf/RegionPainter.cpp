@@ -12,6 +12,7 @@
 #include <PDFDoc.h>
 #include <Page.h>
 #include <SplashOutputDev.h>
+#include <splash/Splash.h>
 #include <splash/SplashBitmap.h>
 
 namespace orvane::pdf {
@@ -19,6 +20,8 @@ namespace {
 
 constexpr double kPointsPerInch = 72.0;
 constexpr double kMaxPixels = 64e6;
+constexpr double kThinnestLine =
+    0.35; ///< points; screens draw no line thinner, and a picture is shown smaller than it is
 constexpr std::chrono::seconds kTimeBudget{30};
 
 /// Pixels a point for this resolution, or for what the largest picture allows.
@@ -29,9 +32,16 @@ double scaleOf(const Rect& region, double dotsPerInch) {
 /// Paints with or without the words.
 class RegionDevice : public SplashOutputDev {
 public:
-    RegionDevice(SplashColorPtr paper, PaintedText words)
+    /// Units: `thinnestLine` in pixels.
+    RegionDevice(SplashColorPtr paper, PaintedText words, double thinnestLine)
         : SplashOutputDev(splashModeRGB8, 1, false, paper)
-        , m_words(words) {}
+        , m_words(words)
+        , m_thinnestLine(thinnestLine) {}
+
+    void startPage(int number, GfxState* state, XRef* objects) override {
+        SplashOutputDev::startPage(number, state, objects);
+        getSplash()->setMinLineWidth(m_thinnestLine);
+    }
 
     void drawChar(GfxState* state, double x, double y, double dx, double dy, double originX, double originY,
                   CharCode code, int byteCount, const Unicode* unicode, int unicodeLength) override {
@@ -48,6 +58,7 @@ public:
 
 private:
     PaintedText m_words;
+    double m_thinnestLine;
 };
 
 PictureData encode(const SplashBitmap& bitmap) {
@@ -68,7 +79,7 @@ PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, dou
 
     const PageSlice slice = sliceOf(visible, scaleOf(visible, dotsPerInch));
     SplashColor paper = {255, 255, 255};
-    RegionDevice device(paper, words);
+    RegionDevice device(paper, words, kThinnestLine * slice.scale);
     device.startDoc(&document);
     TimeBudget budget(kTimeBudget);
     playPage(*source, document, device, budget, repair, slice);

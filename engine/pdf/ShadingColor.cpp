@@ -1,5 +1,4 @@
-#include "pdf/PageSpace.h"
-#include "pdf/PathReader.h"
+#include "pdf/ShadingColor.h"
 
 #include <algorithm>
 

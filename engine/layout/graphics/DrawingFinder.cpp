@@ -3,6 +3,7 @@
 #include "layout/graphics/BarFinder.h"
 #include "layout/graphics/ChartFrames.h"
 #include "layout/graphics/ConnectorFinder.h"
+#include "layout/graphics/GradientMaker.h"
 #include "layout/tables/CellComponents.h"
 #include "layout/text/RuleBox.h"
 
@@ -31,7 +32,8 @@ public:
         , m_text(text)
         , m_limits(parameters.drawings)
         , m_barLimits(parameters.bars)
-        , m_chartLimits(parameters.charts) {}
+        , m_chartLimits(parameters.charts)
+        , m_gradientLimits(parameters.gradients) {}
 
     std::vector<Figure> build() {
         groupPaths();
@@ -42,6 +44,7 @@ public:
         uniteOverlapping();
         uniteConnected();
         uniteFramed();
+        uniteOverlapping();
         for (Figure& drawing : m_drawings)
             drawing.isBackground = isPageWide(drawing.box) || liesUnderText(drawing.box, m_text.lines, m_limits);
         useUpRulesAndGrounds();
@@ -57,8 +60,8 @@ private:
         CellComponents components(m_page.width, m_page.height, m_limits.gap);
         std::vector<std::pair<std::size_t, Rect>> seeds;
         for (std::size_t i = 0; i < m_page.paths.size(); ++i) {
-            const Rect box = m_isRuling[i] ? Rect{} : seenBox(m_page.paths[i], m_page);
-            if (box.isEmpty())
+            const Rect box = seenBox(m_page.paths[i], m_page);
+            if (box.isEmpty() || (m_isRuling[i] && !isPicturesque(m_page.paths[i], box)))
                 continue;
             if (isPageWide(box)) {
                 m_drawings.push_back(drawingOf(i, box)); // on its own, or it would swallow all others
@@ -79,6 +82,15 @@ private:
                 drawing.paths.push_back(path);
             drawing.box = drawing.box.united(box);
         }
+    }
+
+    /// A ground that nothing is written on, with a pattern or a shading that cannot be told otherwise.
+    bool isPicturesque(const pdf::Path& path, const Rect& box) const {
+        return path.fill && path.fill->isPattern && !gradientIn(box, path, m_gradientLimits) &&
+               std::min(box.width(), box.height()) >= m_limits.smallest && !isPageWide(box) &&
+               std::none_of(m_text.lines.begin(), m_text.lines.end(), [&](const Line& line) {
+                   return box.contains(Point{line.box.centerX(), line.box.centerY()});
+               });
     }
 
     /// What is too small to be a drawing by itself. In a chart it may be a point.
@@ -228,6 +240,7 @@ private:
     const GraphicsParameters::Drawings& m_limits;
     const GraphicsParameters::Bars& m_barLimits;
     const GraphicsParameters::Charts& m_chartLimits;
+    const GraphicsParameters::Gradients& m_gradientLimits;
     std::vector<Figure> m_drawings;
     std::vector<Figure> m_specks;
 };

@@ -113,23 +113,24 @@ std::vector<Figure> findPictures(const pdf::PageContent& page, const GraphicsPar
     return pictures;
 }
 
-/// Makes one figure of a picture and the drawing over it, which is painted as a whole.
+/// Makes one figure of a drawing and the pictures under it or over it, which is painted as a whole.
 void uniteWithDrawings(std::vector<Figure>& pictures, const std::vector<Figure>& drawings, double overlapShare) {
     for (const Figure& drawing : drawings) {
-        const auto host = std::find_if(pictures.begin(), pictures.end(), [&](const Figure& picture) {
-            const double smaller = std::min(picture.box.area(), drawing.box.area());
-            return !picture.isBackground && !drawing.isBackground &&
-                   picture.box.intersected(drawing.box).area() > overlapShare * smaller;
-        });
-        if (host == pictures.end()) {
-            pictures.push_back(drawing);
-            continue;
-        }
         Figure united = drawing;
-        united.box = united.box.united(host->box);
-        united.paintOrder = std::min(united.paintOrder, host->paintOrder);
-        united.alternateText = host->alternateText;
-        *host = std::move(united);
+        std::erase_if(pictures, [&](const Figure& other) {
+            const double smaller = std::min(other.box.area(), drawing.box.area());
+            if (other.isBackground || drawing.isBackground ||
+                other.box.intersected(drawing.box).area() <= overlapShare * smaller)
+                return false;
+            united.box = united.box.united(other.box);
+            united.paintOrder = std::min(united.paintOrder, other.paintOrder);
+            united.paths.insert(united.paths.end(), other.paths.begin(), other.paths.end());
+            united.holdsPicture |= other.holdsPicture || other.paths.empty();
+            if (united.alternateText.empty())
+                united.alternateText = other.alternateText;
+            return true;
+        });
+        pictures.push_back(std::move(united));
     }
 }
 

@@ -14,6 +14,7 @@ struct GraphicsParameters {
         double broadest = 6.2;           ///< points; ... or rules, as broad as word processors draw them, ...
         double broadLength = 20;         ///< ... if they are so many times as long as broad
         double thinnest = 0.1;           ///< points; width given to hairlines
+        double steepest = 0.1;           ///< rise against length of a short line that counts as level
         double slenderness = 2;          ///< length against width of a filled rectangle that is a rule
         double sameLine = 0.4;           ///< points; pieces this close in position are on one line
         double joinGap = 1.0;            ///< points; pieces this close continue each other
@@ -67,6 +68,14 @@ struct GraphicsParameters {
         double thinnestLine = 0.25;      ///< points; width given to hairlines
         double dotLength = 1.6;          ///< of the line's width; shorter dashes are dots
     } shapes;
+
+    /// GradientMaker: shadings as the gradients of shapes.
+    struct Gradients {
+        double bareShare = 0.02;   ///< of the axis; so much of the shape may lie beside a shading that ends
+        double sameMiddle = 0.05;  ///< of the radius; how far the circles' middles may lie apart, and from the shape's
+        double squareness = 0.9;   ///< shorter side against the longer one of what circles fill evenly
+        std::size_t mostStops = 8; ///< more are a picture
+    } gradients;
 
     /// BarFinder: the bars of charts.
     struct Bars {

@@ -1,5 +1,6 @@
 #include "layout/graphics/RuleFinder.h"
 
+#include "layout/graphics/GradientMaker.h"
 #include "layout/graphics/PathPieces.h"
 #include "layout/graphics/RuleMerger.h"
 #include "layout/support/CoverageGrid.h"
@@ -21,9 +22,10 @@ document::BorderKind kindOf(const pdf::StrokeStyle& stroke, const GraphicsParame
 /// Turns the paths of a page into single pieces of rules and into grounds.
 class PathReader {
 public:
-    PathReader(const pdf::PageContent& page, const GraphicsParameters::Rules& limits, RuledPage& result)
+    PathReader(const pdf::PageContent& page, const GraphicsParameters& parameters, RuledPage& result)
         : m_page(page)
-        , m_limits(limits)
+        , m_limits(parameters.rules)
+        , m_gradients(parameters.gradients)
         , m_result(result) {}
 
     void read() {
@@ -61,7 +63,8 @@ private:
         if (isRule(thickness, length))
             addRule(box, thickness, path.fill->color, document::BorderKind::Single, paint, path.paintOrder);
         else
-            m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder});
+            m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder,
+                                        gradientIn(box, path, m_gradients)});
         return true;
     }
 
@@ -76,10 +79,13 @@ private:
             return false;
         const document::BorderKind kind = kindOf(*path.stroke, m_limits);
         const double width = std::max(path.stroke->width, m_limits.thinnest);
+        // A ground has no gaps.
+        if (width > m_limits.thickest && kind != document::BorderKind::Single)
+            return false;
         for (const PathLine& line : subpath.hasCurves ? sidesOf(*subpath.rectangle) : subpath.lines) {
             const Rect box{std::min(line.from.x, line.to.x), std::min(line.from.y, line.to.y),
                            std::max(line.from.x, line.to.x), std::max(line.from.y, line.to.y)};
-            if (std::min(box.width(), box.height()) > m_limits.straightness)
+            if (!isStraight(box, subpath.box))
                 return false;
             const Rect seen = box.intersected(path.clip.inflated(m_limits.straightness));
             if (seen.right < seen.left || seen.bottom < seen.top)
@@ -87,10 +93,17 @@ private:
             if (width <= m_limits.thickest || isRule(width, std::max(seen.width(), seen.height())))
                 addRule(seen, width, path.stroke->color, kind, RulePaint::Stroked, path.paintOrder);
             else
-                m_result.grounds.push_back(
-                    {inked(seen, width), path.stroke->color, path.stroke->opacity, false, path.paintOrder});
+                m_result.grounds.push_back({inked(seen, width), path.stroke->color, path.stroke->opacity, false,
+                                            path.paintOrder, std::nullopt});
         }
         return true;
+    }
+
+    /// Level or plumb. Of an outline in very short lines each is nearly so, though the whole is a curve or a slope.
+    bool isStraight(const Rect& line, const Rect& whole) const {
+        const double rise = std::min(line.width(), line.height()), length = std::max(line.width(), line.height());
+        const bool isWholeThin = std::min(whole.width(), whole.height()) <= m_limits.straightness;
+        return rise <= m_limits.straightness && (isWholeThin || rise <= m_limits.steepest * length);
     }
 
     static std::vector<PathLine> sidesOf(const Rect& box) {
@@ -125,6 +138,7 @@ private:
 
     const pdf::PageContent& m_page;
     const GraphicsParameters::Rules& m_limits;
+    const GraphicsParameters::Gradients& m_gradients;
     RuledPage& m_result;
 };
 
@@ -143,7 +157,7 @@ void dropPaper(std::vector<Ground>& grounds, const pdf::PageContent& page, const
 
 RuledPage findRules(const pdf::PageContent& page, const GraphicsParameters& parameters, Diagnostics&) {
     RuledPage result;
-    PathReader(page, parameters.rules, result).read();
+    PathReader(page, parameters, result).read();
     std::erase_if(result.rules, [](const Rule& rule) { return rule.color == kWhite; });
     mergeRules(result.rules, parameters);
     dropPaper(result.grounds, page, parameters.rules);

@@ -30,7 +30,8 @@ void absorb(Rule& rule, const Rule& next) {
     rule.width = std::max(rule.width, next.width);
     if (nextLength > length)
         rule.paint = next.paint;
-    rule.paintOrder = std::min(rule.paintOrder, next.paintOrder);
+    // What covers the earlier piece may have been painted before the later one, which is seen.
+    rule.paintOrder = std::max(rule.paintOrder, next.paintOrder);
 }
 
 bool isAlike(const Rule& a, const Rule& b, const GraphicsParameters::Rules& limits) {

@@ -50,8 +50,6 @@ Shape strokedShape(const Rule& rule, const Rect& box) {
     return shape;
 }
 
-} // namespace
-
 Shape filledShape(const Rect& box, Color color, double opacity) {
     Shape shape = shapeAt(box);
     shape.segments = {segment(Shape::Verb::Move), segment(Shape::Verb::Line, shape.width),
@@ -61,6 +59,8 @@ Shape filledShape(const Rect& box, Color color, double opacity) {
     shape.opacity = opacity;
     return shape;
 }
+
+} // namespace
 
 std::vector<Shape> shapesOf(const Rule& rule) {
     std::vector<Shape> shapes;
@@ -73,19 +73,22 @@ std::vector<Shape> shapesOf(const Rule& rule) {
     return shapes;
 }
 
-Figure figureOf(const Rule& rule) {
-    Figure figure;
-    figure.box = boxOf(rule);
-    figure.paintOrder = rule.paintOrder;
-    document::Drawing& drawing = figure.drawing.emplace();
-    drawing.width = emuFromPoints(figure.box.width());
-    drawing.height = emuFromPoints(figure.box.height());
-    for (Shape& shape : shapesOf(rule)) {
-        shape.x = shape.x - emuFromPoints(figure.box.left);
-        shape.y = shape.y - emuFromPoints(figure.box.top);
-        drawing.shapes.push_back(std::move(shape));
+Shape shapeOf(const Ground& ground) {
+    Shape shape = filledShape(ground.box, ground.color, ground.opacity);
+    shape.gradient = ground.gradient;
+    return shape;
+}
+
+document::Drawing drawingOf(std::vector<Shape> shapes, const Rect& box) {
+    document::Drawing drawing;
+    drawing.width = emuFromPoints(box.width());
+    drawing.height = emuFromPoints(box.height());
+    for (Shape& shape : shapes) {
+        shape.x = shape.x - emuFromPoints(box.left);
+        shape.y = shape.y - emuFromPoints(box.top);
     }
-    return figure;
+    drawing.shapes = std::move(shapes);
+    return drawing;
 }
 
 } // namespace orvane::layout

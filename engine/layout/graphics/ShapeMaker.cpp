@@ -1,5 +1,6 @@
 #include "layout/graphics/ShapeMaker.h"
 
+#include "layout/graphics/GradientMaker.h"
 #include "layout/graphics/PathPieces.h"
 
 #include <algorithm>
@@ -32,6 +33,7 @@ public:
         , m_reach(drawing.box.inflated(parameters.drawings.reach))
         , m_page(page)
         , m_limits(parameters.shapes)
+        , m_gradients(parameters.gradients)
         , m_straightness(parameters.rules.straightness) {}
 
     std::optional<ShapedDrawing> make() {
@@ -73,19 +75,28 @@ private:
     /// False when the path does not look like a shape.
     bool add(const pdf::Path& path) {
         m_segmentCount += path.segments.size();
-        if (path.isSimplified || (path.fill && path.fill->isPattern) || m_segmentCount > m_limits.mostSegments ||
+        if (path.isSimplified || m_segmentCount > m_limits.mostSegments ||
             m_drawing.shapes.size() >= m_limits.mostShapes)
             return false;
-        if (path.clip.inflated(m_limits.cut).contains(path.box)) {
-            add(shapeOf(path, path.segments, path.box), path.box);
-            return true;
-        }
+        if (path.clip.inflated(m_limits.cut).contains(path.box))
+            return addShape(path, path.segments, path.box);
         // What is left of a filled rectangle is another one.
         const std::vector<Subpath> subpaths = takeApart(path, m_straightness);
         if (path.stroke || subpaths.size() != 1 || !subpaths.front().rectangle || subpaths.front().hasCurves)
             return false;
         const Rect box = path.box.intersected(path.clip);
-        add(shapeOf(path, outlineOf(box), box), box);
+        return addShape(path, outlineOf(box), box);
+    }
+
+    /// False when it is filled with what no shape can be filled with.
+    bool addShape(const pdf::Path& path, const std::vector<pdf::PathSegment>& segments, const Rect& box) {
+        Shape shape = shapeOf(path, segments, box);
+        if (path.fill && path.fill->isPattern) {
+            shape.gradient = gradientIn(box, path, m_gradients);
+            if (!shape.gradient)
+                return false;
+        }
+        add(std::move(shape), box);
         return true;
     }
 
@@ -149,6 +160,7 @@ private:
     Rect m_reach;
     const pdf::PageContent& m_page;
     const GraphicsParameters::Shapes& m_limits;
+    const GraphicsParameters::Gradients& m_gradients;
     double m_straightness;
     Drawing m_drawing;
     Rect m_extent; ///< of the shapes
@@ -159,7 +171,7 @@ private:
 
 std::optional<ShapedDrawing> shapesOf(const Figure& drawing, const pdf::PageContent& page,
                                       const GraphicsParameters& parameters) {
-    if (drawing.paths.empty() || drawing.picture.value != 0)
+    if (drawing.paths.empty() || drawing.picture.value != 0 || drawing.holdsPicture)
         return std::nullopt;
     return ShapeMaker(drawing, page, parameters).make();
 }

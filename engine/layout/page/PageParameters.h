@@ -7,6 +7,11 @@ namespace orvane::layout {
 /// Thresholds of the folder `page`: columns and reading order. A field says its unit, its meaning and what taught its
 /// value.
 struct PageParameters {
+    /// FreeDrawings: rules and grounds that no other stage took.
+    struct FreeDrawings {
+        double gap = 3; ///< points; those that lie this close are one drawing
+    } freeDrawings;
+
     /// ColumnGutter, RegionFinder: where columns are.
     struct Regions {
         double narrowGutter = 0.7;    ///< of the font size; narrower gaps never part columns

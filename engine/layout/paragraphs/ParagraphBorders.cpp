@@ -53,7 +53,7 @@ public:
     }
 
     void run() {
-        for (const Ground& ground : m_layout.freeGrounds)
+        for (Ground& ground : m_layout.freeGrounds)
             shade(ground);
         for (Rule& rule : m_layout.freeRules)
             if (rule.direction == RuleDirection::Horizontal)
@@ -64,13 +64,22 @@ public:
     }
 
 private:
-    /// The smallest ground that holds the paragraph whole is the one that is seen around it.
-    void shade(const Ground& ground) {
+    /// The smallest ground that holds the paragraph whole is the one that is seen around it. One that is much higher
+    /// than its text, or of several colours, is more than the shading of paragraphs.
+    void shade(Ground& ground) {
         if (ground.box.width() * ground.box.height() > m_parameters.pageShare * m_layout.width * m_layout.height)
             return;
+        std::vector<ParagraphDraft*> held;
+        double textHeight = 0;
         for (const Placed& placed : m_paragraphs)
-            if (ground.box.inflated(m_parameters.overhang).contains(placed.paragraph->box))
-                placed.paragraph->shading = ground.color;
+            if (ground.box.inflated(m_parameters.overhang).contains(placed.paragraph->box)) {
+                held.push_back(placed.paragraph);
+                textHeight += placed.paragraph->box.height();
+            }
+        ground.isUsed =
+            !held.empty() && !ground.gradient && textHeight >= m_parameters.filledShare * ground.box.height();
+        for (ParagraphDraft* paragraph : held)
+            paragraph->shading = ground.isUsed ? std::optional(ground.color) : std::nullopt;
     }
 
     double tolerance(const Placed& placed) const {
@@ -113,7 +122,7 @@ private:
     }
 
     /// A rule beside paragraphs, along all of each.
-    void lineVertically(const Rule& rule) {
+    void lineVertically(Rule& rule) {
         for (const Placed& placed : m_paragraphs) {
             const Rect& box = placed.paragraph->box;
             // Between columns it parts them and belongs to neither.
@@ -121,10 +130,13 @@ private:
                 rule.to < box.bottom - m_parameters.overhang)
                 continue;
             const double left = placed.edges.left - rule.position, right = rule.position - placed.edges.right;
-            if (left >= -m_parameters.overhang && left <= m_parameters.greatestSpace)
+            const bool isAtLeft = left >= -m_parameters.overhang && left <= m_parameters.greatestSpace;
+            const bool isAtRight = right >= -m_parameters.overhang && right <= m_parameters.greatestSpace;
+            if (isAtLeft)
                 placed.paragraph->borders.left = borderOf(rule, left);
-            else if (right >= -m_parameters.overhang && right <= m_parameters.greatestSpace)
+            else if (isAtRight)
                 placed.paragraph->borders.right = borderOf(rule, right);
+            rule.isUsed |= isAtLeft || isAtRight;
         }
     }
 

@@ -13,6 +13,7 @@ struct ParagraphParameters {
         double overhang = 1.0;      ///< points by which letters may reach over what is drawn around them
         double greatestSpace = 31;  ///< points between text and border. Source: ISO/IEC 29500-1, 17.3.1.7
         double pageShare = 0.8;     ///< of the page; larger grounds are the page's
+        double filledShare = 0.35;  ///< of a ground's height that its paragraphs take if it is their shading
     } paragraphBorders;
 
     /// LineMeasures, ParagraphBreaks, ParagraphShape: lines of one column become paragraphs.

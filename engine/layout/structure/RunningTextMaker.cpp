@@ -1,6 +1,6 @@
 #include "layout/structure/RunningTextMaker.h"
 
-#include "layout/graphics/RuleShapes.h"
+#include "layout/page/FreeDrawings.h"
 #include "layout/page/PageLayouter.h"
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/structure/BlockExtent.h"
@@ -46,18 +46,6 @@ void joinRows(PageText& page, const RunningParameters::RunningHeads& limits) {
     page.lines = std::move(rows);
 }
 
-/// Level rules that are no paragraph's border, for their head has no text or text of another width, are drawn over the
-/// head.
-void drawFreeRules(PageLayout& page) {
-    std::vector<PageBlock> drawn;
-    for (const Rule& rule : page.freeRules)
-        if (!rule.isUsed && rule.direction == RuleDirection::Horizontal)
-            drawn.push_back({FigureDraft{figureOf(rule), false}});
-    // What floats hangs on the paragraph behind it.
-    page.blocks.insert(page.blocks.begin(), std::make_move_iterator(drawn.begin()),
-                       std::make_move_iterator(drawn.end()));
-}
-
 enum class Side { Header, Footer };
 
 /// How near the blocks come to the page's edge; infinite without blocks in the flow.
@@ -95,7 +83,7 @@ RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningH
     joinRows(content, m_parameters.runningHeads);
     PageLayout page = layoutPage(std::move(content), m_context, m_parameters, m_diagnostics);
     findParagraphBorders(page, m_parameters.paragraphBorders);
-    drawFreeRules(page);
+    drawFreeRules(page, m_parameters.freeDrawings);
     std::vector<DraftBlock> blocks = addPage(m_draft, std::move(page));
     m_draft.fields.back() = head->fields;
     m_made.emplace(key, blocks);

@@ -26,7 +26,7 @@ TextMarkup markupOf(const std::vector<pdf::Annotation>& annotations, const TextP
             case pdf::AnnotationKind::Highlight:
                 // A highlight without a colour is not seen; nobody highlights in black.
                 if (annotation.color != kBlack)
-                    markup.grounds.push_back({quad, annotation.color, 1, false, 0});
+                    markup.grounds.push_back({quad, annotation.color, 1, false, 0, std::nullopt});
                 break;
             case pdf::AnnotationKind::Underline:
             case pdf::AnnotationKind::Squiggly:

@@ -109,6 +109,7 @@ struct Ground {
     double opacity = 1;
     bool isUsed = false;
     std::uint32_t paintOrder = 0;
+    std::optional<document::Gradient> gradient; ///< what `color` is the mean of
 };
 
 /// A picture, or a group of drawn paths that belong together.
@@ -122,6 +123,7 @@ struct Figure {
     bool isBackground = false; ///< covers (nearly) the whole page, or lies under text
     std::string alternateText;
     std::vector<std::size_t> paths;           ///< of a drawing: indices into pdf::PageContent::paths
+    bool holdsPicture = false;                ///< a drawing over a picture, both painted as one
     std::optional<document::Drawing> drawing; ///< what it is in shapes, if they look as it does and are few
     std::vector<Line> labels;                 ///< the text within a drawing; no line of the page
     bool showsLabels = false;                 ///< they are painted with it and need not be set

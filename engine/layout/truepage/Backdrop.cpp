@@ -41,25 +41,17 @@ public:
         for (Shape& shape : shapesOf(rule))
             add(boxOf(rule), std::move(shape), rule.paintOrder);
     }
-    void add(const Ground& ground) {
-        add(ground.box, filledShape(ground.box, ground.color, ground.opacity), ground.paintOrder);
-    }
+    void add(const Ground& ground) { add(ground.box, shapeOf(ground), ground.paintOrder); }
 
-    bool isEmpty() const { return m_drawing.shapes.empty(); }
+    bool isEmpty() const { return m_shapes.empty(); }
 
     document::Figure finish(int page) {
-        for (Shape& shape : m_drawing.shapes) {
-            shape.x = shape.x - emuFromPoints(m_box.left);
-            shape.y = shape.y - emuFromPoints(m_box.top);
-        }
-        m_drawing.width = emuFromPoints(m_box.width());
-        m_drawing.height = emuFromPoints(m_box.height());
         document::Figure figure;
         figure.origin = {page, m_box};
         figure.placement.x = emuFromPoints(m_box.left);
         figure.placement.y = emuFromPoints(m_box.top);
         figure.placement.zOrder = m_order;
-        figure.content = std::exchange(m_drawing, {});
+        figure.content = drawingOf(std::exchange(m_shapes, {}), m_box);
         m_box = {};
         return figure;
     }
@@ -69,10 +61,10 @@ private:
         if (isEmpty())
             m_order = static_cast<int>(order);
         m_box = m_box.united(box);
-        m_drawing.shapes.push_back(std::move(shape));
+        m_shapes.push_back(std::move(shape));
     }
 
-    document::Drawing m_drawing;
+    std::vector<Shape> m_shapes;
     Rect m_box;
     int m_order = 0;
 };

@@ -82,7 +82,9 @@ public:
     void horizontalRule(double left, double right, double y, double width = 0.5) { line({left, y}, {right, y}, width); }
     void verticalRule(double x, double top, double bottom, double width = 0.5) { line({x, top}, {x, bottom}, width); }
 
-    void filledRectangle(const Rect& box, Color color) { rectangle(box).fill = FillStyle{color, false, false, 1}; }
+    void filledRectangle(const Rect& box, Color color) {
+        rectangle(box).fill = FillStyle{color, false, false, 1, nullptr};
+    }
     void strokedRectangle(const Rect& box, double width = 0.5) {
         rectangle(box).stroke = StrokeStyle{kBlack, width, {}, 1};
     }
@@ -98,7 +100,7 @@ public:
                          {PathVerb::Curve, at(-1, -kBend), at(-kBend, -1), at(0, -1)},
                          {PathVerb::Curve, at(kBend, -1), at(1, -kBend), at(1, 0)},
                          {PathVerb::Close, {}, {}, {}}};
-        path.fill = FillStyle{color, false, false, 1};
+        path.fill = FillStyle{color, false, false, 1, nullptr};
         path.box = {center.x - radius, center.y - radius, center.x + radius, center.y + radius};
     }
 

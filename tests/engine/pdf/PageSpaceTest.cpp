@@ -42,6 +42,18 @@ TEST(PageSpace, HasItsOriginAtTheTopLeftOfTheCropBoxAsShown) {
     }
 }
 
+TEST(PageSpace, ShrinksAPageToTheLargestPaper) {
+    PdfPage page{"BT /F1 10 Tf 50 100 Td (A) Tj ET", 3168, 300, {}, {}, {}};
+    OpenedPdf pdf(PdfBuilder().page(page));
+    const PageContent content = pdf.page();
+    EXPECT_NEAR(content.width, 1584, 1e-6) << "22 inches";
+    EXPECT_NEAR(content.height, 150, 1e-6);
+    ASSERT_EQ(content.glyphs.size(), 1u);
+    EXPECT_NEAR(content.glyphs[0].origin.x, 25, 1e-6);
+    EXPECT_NEAR(content.glyphs[0].fontSize, 5, 1e-6);
+    EXPECT_NEAR(pdf.document().pageInfo(1).width, 3168, 1e-6) << "the paper itself";
+}
+
 TEST(PageSpace, TakesPathsAndPicturesAlong) {
     PdfBuilder builder;
     const int image = builder.addStream(tests::pdfImage(1, 1, "/DeviceGray", 8), "\x40");

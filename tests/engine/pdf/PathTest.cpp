@@ -115,6 +115,53 @@ TEST(Paths, StandForShadings) {
     }
 }
 
+TEST(Paths, TellHowTheColoursOfShadingsChange) {
+    const std::string radial =
+        "/ShadingType 3 /ColorSpace /DeviceRGB /Coords [50 50 0 50 50 40] /Extend [false true] /Function "
+        "<< /FunctionType 3 /Domain [0 1] /Bounds [0.5] /Encode [0 1 0 1] /Functions [ "
+        "<< /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 1 0] /N 1 >> "
+        "<< /FunctionType 2 /Domain [0 1] /C0 [0 1 0] /C1 [0 0 1] /N 1 >> ] >>";
+    PdfPage page{"q 2 0 0 2 0 0 cm 0 0 m 100 0 l 50 100 l h W n /Sh1 sh Q q 0 0 100 100 re W n /Sh2 sh Q", 612, 792, {},
+                 std::string("/Shading << /Sh1 << ") + kRedToBlue + " >> /Sh2 << " + radial + " >> >>",    {}};
+    OpenedPdf pdf(PdfBuilder().page(page));
+    const PageContent content = pdf.page();
+    ASSERT_EQ(content.paths.size(), 2u);
+    EXPECT_FALSE(content.paths[0].isSimplified) << "the triangle is the shape, nothing else cuts it";
+    ASSERT_TRUE(content.paths[0].fill->gradient);
+    const Gradient& axial = *content.paths[0].fill->gradient;
+    EXPECT_EQ(axial.kind, GradientKind::Axial);
+    EXPECT_EQ(axial.from, (Point{0, 792}));
+    EXPECT_EQ(axial.to, (Point{200, 792}));
+    ASSERT_EQ(axial.stops.size(), 2u);
+    EXPECT_EQ(axial.stops[1].color, (Color{0, 0, 255}));
+    ASSERT_TRUE(content.paths[1].fill->gradient);
+    const Gradient& circles = *content.paths[1].fill->gradient;
+    EXPECT_EQ(circles.kind, GradientKind::Radial);
+    EXPECT_EQ(circles.from, (Point{50, 742}));
+    EXPECT_EQ(circles.toRadius, 40);
+    EXPECT_FALSE(circles.extendsBefore);
+    EXPECT_TRUE(circles.extendsAfter);
+    ASSERT_EQ(circles.stops.size(), 3u);
+    EXPECT_EQ(circles.stops[1].position, 0.5);
+    EXPECT_EQ(circles.stops[1].color, (Color{0, 255, 0}));
+}
+
+TEST(Paths, AreMasksOfASingleDot) {
+    PdfPage page{"q 100 0 0 2 50 600 cm 1 0 0 rg BI /W 1 /H 1 /BPC 1 /IM true /D [1 0] ID \x80 EI Q "
+                 "q 100 0 0 2 50 500 cm BI /W 1 /H 1 /BPC 1 /IM true ID \x80 EI Q",
+                 612,
+                 792,
+                 {},
+                 {},
+                 {}};
+    OpenedPdf pdf(PdfBuilder().page(page));
+    const PageContent content = pdf.page();
+    EXPECT_TRUE(content.pictures.empty());
+    ASSERT_EQ(content.paths.size(), 1u) << "the second mask lets nothing through";
+    EXPECT_EQ(content.paths[0].box, (Rect{50, 190, 150, 192}));
+    EXPECT_EQ(content.paths[0].fill->color, (Color{255, 0, 0}));
+}
+
 TEST(Paths, StandForPatternsInTheirMeanColour) {
     PdfBuilder builder;
     const int half = builder.addStream("/Type /Pattern /PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 10 10] "

@@ -141,7 +141,7 @@ TEST(Pictures, AreOpaqueWhereNothingShowsThrough) {
     const int faded = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8) + " /SMask " + pdfRef(soft), "\x40");
     const int keyed = builder.addStream(pdfImage(1, 1, "/DeviceGray", 8) + " /Mask [0 9]", "\x40");
     const int stencil = builder.addStream(
-        "/Type /XObject /Subtype /Image /ImageMask true /Width 1 /Height 1 /BitsPerComponent 1", "\x40");
+        "/Type /XObject /Subtype /Image /ImageMask true /Width 2 /Height 1 /BitsPerComponent 1", "\x40");
     builder.page(pageWith(plain)).page(pageWith(faded)).page(pageWith(keyed)).page(pageWith(stencil));
     PdfPage multiplied = pageWith(plain, "/Multiply gs");
     multiplied.resources += " /ExtGState << /Multiply << /BM /Multiply >> >>";

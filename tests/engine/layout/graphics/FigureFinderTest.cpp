@@ -43,6 +43,34 @@ TEST(FigureFinder, JoinsTheStripsOfAPicture) {
     EXPECT_FALSE(figures[1].needsPainting);
 }
 
+TEST(FigureFinder, PaintsAPictureWithWhatIsDrawnOverIt) {
+    PageContentBuilder page;
+    page.picture({100, 100, 300, 250});
+    page.disk({200, 180}, 20);
+    page.content().paths.back().paintOrder = 1;
+    const std::vector<Figure> figures = read(page).figures;
+    ASSERT_THAT(figures, SizeIs(1));
+    EXPECT_EQ(figures[0].box, (Rect{100, 100, 300, 250}));
+    EXPECT_TRUE(figures[0].needsPainting) << "shapes would leave the picture out";
+    EXPECT_FALSE(figures[0].drawing);
+
+    page.picture({302, 110, 312, 120});
+    page.disk({285, 130}, 30);
+    EXPECT_THAT(read(page).figures, SizeIs(1)) << "another disk lies over both pictures";
+}
+
+TEST(FigureFinder, PaintsAPatternThatNobodyWritesOn) {
+    PageContentBuilder page;
+    page.filledRectangle({100, 100, 300, 250}, {200, 100, 100});
+    page.content().paths.back().fill->isPattern = true;
+    ASSERT_THAT(read(page).figures, SizeIs(1));
+    EXPECT_TRUE(read(page).figures[0].needsPainting);
+    page.text(120, 180, "words", 12);
+    const PageText written = read(page);
+    EXPECT_THAT(written.figures, IsEmpty());
+    EXPECT_THAT(written.grounds, SizeIs(1)) << "the ground of words has one colour";
+}
+
 TEST(FigureFinder, LeavesSpacersOut) {
     PageContentBuilder page;
     page.picture({100, 100, 101, 101});

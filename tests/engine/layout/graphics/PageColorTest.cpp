@@ -16,9 +16,9 @@ std::vector<PageText> pagesWith(int yellow, int plain) {
     std::vector<PageText> pages;
     for (int i = 0; i < yellow + plain; ++i) {
         PageText page = makePage(i + 1);
-        page.grounds.push_back({{72, 72, 200, 100}, {0, 0, 255}, 1, false, 2});
+        page.grounds.push_back({{72, 72, 200, 100}, {0, 0, 255}, 1, false, 2, {}});
         if (i < yellow)
-            page.grounds.push_back({{0, 0, page.width, page.height}, kYellow, 1, false, 1});
+            page.grounds.push_back({{0, 0, page.width, page.height}, kYellow, 1, false, 1, {}});
         pages.push_back(std::move(page));
     }
     return pages;

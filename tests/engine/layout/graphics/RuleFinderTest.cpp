@@ -65,6 +65,39 @@ TEST(RuleFinder, MakesFourRulesOfAStrokedRectangle) {
     EXPECT_TRUE(result.grounds.empty());
 }
 
+TEST(RuleFinder, TakesASlopeInVeryShortLinesForNoRules) {
+    PageContentBuilder page;
+    pdf::Path& path = page.newPath();
+    path.segments.push_back({pdf::PathVerb::Move, {}, {}, {100, 100}});
+    for (int i = 1; i <= 200; ++i)
+        path.segments.push_back({pdf::PathVerb::Line, {}, {}, {100 + 0.5 * i, 100 + 0.25 * i}});
+    path.box = {100, 100, 200, 150};
+    path.stroke = pdf::StrokeStyle{kBlack, 1, {}, 1};
+    const RuledPage result = rulesOf(page);
+    EXPECT_TRUE(result.rules.empty());
+    EXPECT_FALSE(result.isTaken[0]);
+}
+
+TEST(RuleFinder, PaintsAJoinedRuleWithTheLastOfItsPieces) {
+    PageContentBuilder page;
+    page.horizontalRule(72, 200, 100);
+    page.filledRectangle({72, 80, 300, 120}, {200, 200, 200});
+    page.horizontalRule(200, 300, 100);
+    const RuledPage result = rulesOf(page);
+    ASSERT_EQ(result.rules.size(), 1u);
+    EXPECT_GT(result.rules[0].paintOrder, result.grounds.at(0).paintOrder);
+}
+
+TEST(RuleFinder, LeavesABroadDashedLineToTheDrawings) {
+    PageContentBuilder page;
+    page.line({72, 100}, {300, 100}, 4, kBlack, {16, 12});
+    page.line({72, 200}, {300, 200}, 4);
+    const RuledPage result = rulesOf(page);
+    EXPECT_FALSE(result.isTaken[0]);
+    EXPECT_TRUE(result.isTaken[1]);
+    EXPECT_EQ(result.grounds.size(), 1u);
+}
+
 TEST(RuleFinder, JoinsPiecesOfOneLine) {
     PageContentBuilder page;
     page.horizontalRule(200, 300, 100.1);
@@ -141,7 +174,7 @@ TEST(RuleFinder, TakesRoundedRectanglesAsRectangles) {
                      {PathVerb::Line, {}, {}, {72, 108}},
                      {PathVerb::Curve, {72, 104}, {76, 100}, {80, 100}},
                      {PathVerb::Close, {}, {}, {}}};
-    path.fill = pdf::FillStyle{{200, 200, 200}, false, false, 1};
+    path.fill = pdf::FillStyle{{200, 200, 200}, false, false, 1, nullptr};
     path.box = {72, 100, 200, 160};
     const RuledPage result = rulesOf(page);
     ASSERT_EQ(result.grounds.size(), 1u);

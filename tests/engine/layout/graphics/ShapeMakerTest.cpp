@@ -75,6 +75,22 @@ TEST(ShapeMaker, LeavesWhatIsMoreThanShapesToThePainter) {
     EXPECT_FALSE(shapesIn(box, photo));
 }
 
+TEST(ShapeMaker, FillsAShapeWithItsGradient) {
+    PageContentBuilder page;
+    page.disk({140, 140}, 40);
+    pdf::Gradient gradient;
+    gradient.from = {140, 100};
+    gradient.to = {140, 180};
+    gradient.stops = {{0, {255, 0, 0}}, {1, {0, 0, 255}}};
+    pdf::FillStyle& fill = *page.content().paths.back().fill;
+    fill.isPattern = true;
+    fill.gradient = std::make_shared<const pdf::Gradient>(gradient);
+    const auto shaped = shapesIn({90, 90, 190, 190}, page);
+    ASSERT_TRUE(shaped);
+    ASSERT_TRUE(shaped->drawing.shapes.at(0).gradient);
+    EXPECT_EQ(shaped->drawing.shapes[0].gradient->angle, 90);
+}
+
 TEST(ShapeMaker, LeavesDrawingsOfVeryManyShapesToThePainter) {
     PageContentBuilder page;
     for (int i = 0; i < 6; ++i)

@@ -116,10 +116,20 @@ TEST(ParagraphBorders, ARuleBetweenColumnsBelongsToNone) {
 TEST(ParagraphBorders, AGroundIsShading) {
     PageLayout page = pageWith({100, 200});
     const Color grey(0xEE, 0xEE, 0xEE), blue(0, 0, 0xFF);
-    page.freeGrounds = {{{0, 0, 595, 842}, blue, 1, false, 0}, {{60, 80, 530, 120}, grey, 1, false, 0}};
+    page.freeGrounds = {{{0, 0, 595, 842}, blue, 1, false, 0, {}}, {{60, 88, 530, 108}, grey, 1, false, 0, {}}};
     page = found(std::move(page));
     EXPECT_EQ(at(page, 0).shading, grey);
     EXPECT_EQ(at(page, 1).shading, std::nullopt) << "the ground of the whole page is not the paragraph's";
+    EXPECT_FALSE(page.freeGrounds[0].isUsed);
+    EXPECT_TRUE(page.freeGrounds[1].isUsed);
+}
+
+TEST(ParagraphBorders, AGroundMuchHigherThanItsTextIsNoShading) {
+    PageLayout page = pageWith({100});
+    page.freeGrounds = {{{60, 60, 530, 140}, {0xEE, 0xEE, 0xEE}, 1, false, 0, {}}};
+    page = found(std::move(page));
+    EXPECT_EQ(at(page, 0).shading, std::nullopt);
+    EXPECT_FALSE(page.freeGrounds[0].isUsed);
 }
 
 } // namespace

@@ -1,0 +1,82 @@
+#include "layout/page/FreeDrawings.h"
+
+#include "engine/layout/LineArt.h"
+
+#include <gmock/gmock.h>
+
+namespace orvane::layout {
+namespace {
+
+using testing::SizeIs;
+
+/// A page with a paragraph of one line at each of the baselines.
+PageLayout pageWith(const std::vector<double>& baselines) {
+    PageLayout page;
+    page.width = 595;
+    page.height = 842;
+    page.bands.push_back({72, 770, {{72, 523}}, false});
+    for (const double baseline : baselines) {
+        ParagraphDraft paragraph;
+        paragraph.lines.push_back(tests::makeLine("a line of text", 72, baseline));
+        paragraph.box = paragraph.lines.front().box;
+        page.blocks.emplace_back().value = std::move(paragraph);
+    }
+    return page;
+}
+
+Rule ruleAt(RuleDirection direction, double position, double from, double to) {
+    Rule rule;
+    rule.direction = direction;
+    rule.position = position;
+    rule.from = from;
+    rule.to = to;
+    return rule;
+}
+
+const Figure& figureAt(const PageLayout& page, std::size_t index) {
+    return std::get<FigureDraft>(page.blocks.at(index).value).figure;
+}
+
+TEST(FreeDrawings, DrawCrossingRulesAsOne) {
+    PageLayout page = pageWith({100, 400});
+    page.freeRules = {ruleAt(RuleDirection::Horizontal, 300, 100, 200), ruleAt(RuleDirection::Vertical, 150, 250, 350)};
+    drawFreeRules(page, {});
+    ASSERT_THAT(page.blocks, SizeIs(3));
+    const Figure& star = figureAt(page, 1);
+    EXPECT_TRUE(star.isBackground) << "what stands over it keeps its place";
+    ASSERT_TRUE(star.drawing);
+    EXPECT_THAT(star.drawing->shapes, SizeIs(2));
+    EXPECT_EQ(star.box, (Rect{100, 250, 200, 350}));
+    EXPECT_TRUE(page.freeRules.empty());
+}
+
+TEST(FreeDrawings, HangOnTheNearestParagraph) {
+    PageLayout page = pageWith({100, 200, 300});
+    page.freeRules = {ruleAt(RuleDirection::Horizontal, 205, 72, 120)};
+    drawFreeRules(page, {});
+    ASSERT_THAT(page.blocks, SizeIs(4));
+    EXPECT_TRUE(std::holds_alternative<FigureDraft>(page.blocks[1].value)) << "before the second one";
+}
+
+TEST(FreeDrawings, LeaveOutWhatIsDrawnOtherwise) {
+    PageLayout page = pageWith({100});
+    page.freeRules = {ruleAt(RuleDirection::Horizontal, 110, 72, 523)};
+    page.freeRules[0].isUsed = true;
+    drawFreeRules(page, {});
+    EXPECT_THAT(page.blocks, SizeIs(1));
+}
+
+TEST(FreeDrawings, KeepTheGradientOfAGround) {
+    PageLayout page = pageWith({});
+    Ground ground;
+    ground.box = {100, 100, 200, 150};
+    ground.gradient = document::Gradient{document::GradientKind::Linear, 90, {{0, kBlack}, {1, kWhite}}};
+    page.freeGrounds = {ground};
+    drawFreeRules(page, {});
+    ASSERT_THAT(page.blocks, SizeIs(1));
+    ASSERT_TRUE(figureAt(page, 0).drawing);
+    EXPECT_TRUE(figureAt(page, 0).drawing->shapes.at(0).gradient);
+}
+
+} // namespace
+} // namespace orvane::layout
