@@ -47,13 +47,21 @@ public:
         window.most = std::max(0.0, pageHeight - lowest);
         window.textHeight = lowest - window.top;
         const double highest = highestBottom(pageHeight, lowest, SpaceAbove::Nothing);
-        window.isFree = highest >= pageHeight;
+        window.isFree = highest >= pageHeight && !goesOnOverPages();
         window.least = pageHeight - highest + m_limits.breakSlack;
         window.leastSpaced = pageHeight - highestBottom(pageHeight, lowest, SpaceAbove::Usual) + m_limits.breakSlack;
         return window;
     }
 
 private:
+    /// Whether a page ends within a paragraph or a table, of which the next row had no room then.
+    bool goesOnOverPages() const {
+        for (std::size_t i = m_scheme.firstPage + 1; i <= m_scheme.lastPage; ++i)
+            if (m_fills[i].isSplit)
+                return true;
+        return false;
+    }
+
     /// How high the lower edge may stand so that what starts the pages had no room on those before.
     double highestBottom(double pageHeight, double lowest, SpaceAbove space) const {
         double highest = pageHeight;

@@ -58,8 +58,7 @@ PageTops findPageTops(const std::vector<PageFill>& fills, const RunningScheme& s
 }
 
 bool startsLow(const PageFill& fill, double top, const StructureParameters::PageSetup& parameters) {
-    // A picture that starts the page stands where that starts.
-    return !fill.isEmpty && !fill.isSplit && fill.top > top + parameters.sameEdge + fill.topSlack;
+    return !fill.isEmpty && !fill.isSplit && topOf(fill) > top + parameters.sameEdge + fill.topSlack;
 }
 
 } // namespace orvane::layout

@@ -137,17 +137,6 @@ TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
 }
 
-TEST(SectionMaker, LeavesAPictureThatHadNoRoomToItself) {
-    DocumentDraft draft = makeDraft(2);
-    fillPage(draft, 0, 660);
-    draft.blocks.push_back(tests::makePictureBlock({72, 74, 372, 274}));
-    draft.blocks.back().page = 1;
-    for (double baseline = 300; baseline <= 760; baseline += 20)
-        addLine(draft, 1, 72, baseline);
-    sectionsOf(draft);
-    EXPECT_FALSE(firstOn(draft, 1).startsPage) << "it starts at the top, though the text below it does not";
-}
-
 TEST(SectionMaker, LeavesRoomBelowPagesThatEndByHand) {
     DocumentDraft draft = makeDraft(1);
     fillPage(draft, 0, 764);
