@@ -91,7 +91,7 @@ TEST(RuleFinder, PaintsAJoinedRuleWithTheLastOfItsPieces) {
 TEST(RuleFinder, LeavesABroadDashedLineToTheDrawings) {
     PageContentBuilder page;
     page.line({72, 100}, {300, 100}, 4, kBlack, {16, 12});
-    page.line({72, 200}, {300, 200}, 4);
+    page.line({72, 200}, {300, 200}, 8);
     const RuledPage result = rulesOf(page);
     EXPECT_FALSE(result.isTaken[0]);
     EXPECT_TRUE(result.isTaken[1]);
