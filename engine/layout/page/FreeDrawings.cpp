@@ -20,8 +20,8 @@ struct Piece {
     std::vector<document::Shape> shapes;
 };
 
-/// What is free, in the order of painting.
-std::vector<Piece> freePieces(const PageLayout& layout) {
+/// What is free, in the order of painting; no specks, such as the caps of a line that is something else.
+std::vector<Piece> freePieces(const PageLayout& layout, double speck) {
     std::vector<Piece> pieces;
     for (const Ground& ground : layout.freeGrounds)
         if (!ground.isUsed)
@@ -29,6 +29,7 @@ std::vector<Piece> freePieces(const PageLayout& layout) {
     for (const Rule& rule : layout.freeRules)
         if (!rule.isUsed)
             pieces.push_back({boxOf(rule), rule.paintOrder, shapesOf(rule)});
+    std::erase_if(pieces, [&](const Piece& piece) { return std::max(piece.box.width(), piece.box.height()) < speck; });
     std::stable_sort(pieces.begin(), pieces.end(),
                      [](const Piece& a, const Piece& b) { return a.paintOrder < b.paintOrder; });
     return pieces;
@@ -82,10 +83,29 @@ void insert(PageLayout& layout, Figure figure) {
     layout.blocks.insert(layout.blocks.begin() + static_cast<std::ptrdiff_t>(place), std::move(block));
 }
 
+/// Pictures that a free ground was painted over, such as the shadow of a box, go behind the text with it.
+void sinkCovered(PageLayout& layout, const std::vector<Piece>& pieces, double share) {
+    for (PageBlock& block : layout.blocks) {
+        auto* draft = std::get_if<FigureDraft>(&block.value);
+        if (!draft || draft->figure.isBackground || draft->figure.picture.value == 0)
+            continue;
+        Figure& figure = draft->figure;
+        const bool isCovered = std::any_of(pieces.begin(), pieces.end(), [&](const Piece& piece) {
+            return piece.paintOrder > figure.paintOrder &&
+                   piece.box.intersected(figure.box).area() >= share * figure.box.area();
+        });
+        if (isCovered) {
+            figure.isBackground = true;
+            draft->isInline = false;
+        }
+    }
+}
+
 } // namespace
 
 void drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters) {
-    std::vector<Piece> pieces = freePieces(layout);
+    std::vector<Piece> pieces = freePieces(layout, parameters.speck);
+    sinkCovered(layout, pieces, parameters.coveredShare);
     BoxGroups groups(parameters.gap);
     for (const Piece& piece : pieces)
         groups.add(piece.box);

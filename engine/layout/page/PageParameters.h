@@ -9,7 +9,9 @@ namespace orvane::layout {
 struct PageParameters {
     /// FreeDrawings: rules and grounds that no other stage took.
     struct FreeDrawings {
-        double gap = 3; ///< points; those that lie this close are one drawing
+        double gap = 3;            ///< points; those that lie this close are one drawing
+        double speck = 1;          ///< points; what is smaller both ways is not seen
+        double coveredShare = 0.6; ///< of a picture that a ground painted over it covers for it to lie behind the text
     } freeDrawings;
 
     /// ColumnGutter, RegionFinder: where columns are.

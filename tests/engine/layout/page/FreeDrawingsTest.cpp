@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace orvane::layout {
 namespace {
 
@@ -76,6 +78,36 @@ TEST(FreeDrawings, KeepTheGradientOfAGround) {
     ASSERT_THAT(page.blocks, SizeIs(1));
     ASSERT_TRUE(figureAt(page, 0).drawing);
     EXPECT_TRUE(figureAt(page, 0).drawing->shapes.at(0).gradient);
+}
+
+TEST(FreeDrawings, LeaveOutSpecks) {
+    PageLayout page = pageWith({100});
+    page.freeRules = {ruleAt(RuleDirection::Horizontal, 110, 72, 72.1)};
+    page.freeRules[0].width = 0.5;
+    drawFreeRules(page, {});
+    EXPECT_THAT(page.blocks, SizeIs(1));
+}
+
+TEST(FreeDrawings, PutPicturesBehindThatAGroundCovers) {
+    const auto isSunk = [](std::uint32_t paintOrder) {
+        PageLayout page = pageWith({});
+        Figure shadow;
+        shadow.box = {105, 105, 205, 155};
+        shadow.picture.value = 1;
+        shadow.paintOrder = 5;
+        page.blocks.emplace_back().value = FigureDraft{shadow, true};
+        Ground box;
+        box.box = {100, 100, 200, 150};
+        box.paintOrder = paintOrder;
+        page.freeGrounds = {box};
+        drawFreeRules(page, {});
+        return std::any_of(page.blocks.begin(), page.blocks.end(), [](const PageBlock& block) {
+            const auto* draft = std::get_if<FigureDraft>(&block.value);
+            return draft && draft->figure.picture.value == 1 && draft->figure.isBackground && !draft->isInline;
+        });
+    };
+    EXPECT_TRUE(isSunk(6));
+    EXPECT_FALSE(isSunk(4)) << "a picture on a ground is seen";
 }
 
 } // namespace
