@@ -65,7 +65,9 @@ std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentC
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         layouts.push_back(layoutPage(std::move(page), context, parameters, diagnostics));
         findParagraphBorders(layouts.back(), parameters.paragraphBorders);
-        drawFreeRules(layouts.back(), parameters.freeDrawings);
+        if (!drawFreeRules(layouts.back(), parameters.freeDrawings, mostFreeShapes(pages.size())))
+            diagnostics.add(DiagnosticKind::PictureSimplified, layouts.back().number,
+                            "its many lines and grounds beside the text are left out");
     }
     return layouts;
 }

@@ -103,16 +103,24 @@ void sinkCovered(PageLayout& layout, const std::vector<Piece>& pieces, double sh
 
 } // namespace
 
-void drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters) {
+std::size_t mostFreeShapes(std::size_t pages) {
+    constexpr std::size_t kOfDocument = 1500, kLeastOfPage = 4;
+    return std::max(kLeastOfPage, kOfDocument / std::max<std::size_t>(1, pages));
+}
+
+bool drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters, std::size_t most) {
     std::vector<Piece> pieces = freePieces(layout, parameters.speck);
+    layout.freeRules.clear();
+    layout.freeGrounds.clear();
+    if (pieces.size() > most)
+        return false;
     sinkCovered(layout, pieces, parameters.coveredShare);
     BoxGroups groups(parameters.gap);
     for (const Piece& piece : pieces)
         groups.add(piece.box);
     for (const std::vector<std::size_t>& members : groups.groups())
         insert(layout, figureOf(pieces, members));
-    layout.freeRules.clear();
-    layout.freeGrounds.clear();
+    return true;
 }
 
 } // namespace orvane::layout
