@@ -60,14 +60,13 @@ std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentC
                                     Diagnostics& diagnostics) {
     std::vector<PageLayout> layouts;
     layouts.reserve(pages.size());
+    const std::size_t mostShapes = mostFreeShapes(pages.size(), parameters.freeDrawings);
     for (PageText& page : pages) {
         if (observer.isCancelled())
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         layouts.push_back(layoutPage(std::move(page), context, parameters, diagnostics));
         findParagraphBorders(layouts.back(), parameters.paragraphBorders);
-        if (!drawFreeRules(layouts.back(), parameters.freeDrawings, mostFreeShapes(pages.size())))
-            diagnostics.add(DiagnosticKind::PictureSimplified, layouts.back().number,
-                            "its many lines and grounds beside the text are left out");
+        drawFreeRules(layouts.back(), parameters.freeDrawings, mostShapes, diagnostics);
     }
     return layouts;
 }

@@ -45,7 +45,7 @@ void findIllustrations(const pdf::PdfDocument& document, layout::PageText& page,
     if (!layout::isReadScan(page, parameters))
         return;
     try {
-        const layout::IllustrationParameters limits;
+        const layout::GraphicsParameters::Illustrations& limits = parameters.illustrations;
         layout::addIllustrations(page, document.inkOf(page.number, limits.inkSquare), limits);
     } catch (const Failure& failure) {
         diagnostics.add(DiagnosticKind::PictureSimplified, page.number,

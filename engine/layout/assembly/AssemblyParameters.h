@@ -10,6 +10,13 @@ struct AssemblyParameters {
         double naturalScale = 0.03; ///< of the natural width; glyphs stretched by less are taken as natural
     } text;
 
+    /// HangulLines: a Korean word has three or four syllables; where words are cut at random every fourth line ends
+    /// between two.
+    struct HangulLines {
+        int endsForOne = 5; ///< one in so many ends of lines with a blank shows that blanks are painted there
+        int fewestEnds = 3; ///< with a blank; fewer may be chance
+    } hangulLines;
+
     /// LineMetrics, ParagraphFormat, SpacingFinder: white space, as its author typed it.
     struct Spacing {
         double lowestMultiple = 0.7;  ///< line spacing below this is an exact height

@@ -146,7 +146,8 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     cutLabels(draft, parameters);
     const FontCatalog fonts(draft, parameters, tracking);
     fitLabels(draft, fonts, tracking, parameters);
-    const AssemblyContext assembly{draft, context, fonts, links, request, parameters, paintsEndsOfHangul(draft)};
+    const AssemblyContext assembly{
+        draft, context, fonts, links, request, parameters, paintsEndsOfHangul(draft, parameters.hangulLines)};
     FlowSet flows(draft, assembly);
     document::Document document;
     document.metadata = metadataOf(facts.metadata, context);

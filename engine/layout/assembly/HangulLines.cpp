@@ -8,10 +8,6 @@
 namespace orvane::layout {
 namespace {
 
-// A Korean word has three or four syllables: where words are cut at random every fourth line ends between two.
-constexpr int kEndsForOne = 5; ///< one in so many ends of lines with a blank shows that blanks are painted there
-constexpr int kFewestEnds = 3; ///< with a blank; fewer may be chance
-
 bool endsInHangul(const std::string& text) {
     const std::u32string characters = utf32FromUtf8(text);
     return !characters.empty() && isHangul(characters.back());
@@ -19,7 +15,7 @@ bool endsInHangul(const std::string& text) {
 
 } // namespace
 
-bool paintsEndsOfHangul(const DocumentDraft& draft) {
+bool paintsEndsOfHangul(const DocumentDraft& draft, const AssemblyParameters::HangulLines& parameters) {
     int all = 0, painted = 0;
     forEachParagraph(draft.blocks, [&](const DraftParagraph& paragraph) {
         for (const DraftPiece& piece : paragraph.pieces)
@@ -30,7 +26,7 @@ bool paintsEndsOfHangul(const DocumentDraft& draft) {
                 painted += line.words.back().blanksAfter > 0;
             }
     });
-    return painted >= kFewestEnds && kEndsForOne * painted >= all;
+    return painted >= parameters.fewestEnds && parameters.endsForOne * painted >= all;
 }
 
 bool isCutInHangul(const std::string& last, const std::string& next) {

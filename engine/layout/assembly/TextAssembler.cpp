@@ -1,8 +1,8 @@
 #include "layout/assembly/TextAssembler.h"
 
 #include "base/Utf8.h"
-#include "layout/assembly/FieldControl.h"
 #include "layout/assembly/HangulLines.h"
+#include "layout/assembly/InlineBuilder.h"
 #include "layout/paragraphs/HyphenResolver.h"
 #include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
@@ -19,72 +19,6 @@ namespace {
 using document::Inline;
 using document::LinkTarget;
 using document::RunProperties;
-
-/// Collects runs, joins those of one look, and puts what belongs to one link or form field into it.
-class InlineBuilder {
-public:
-    void addText(std::string_view text, const RunProperties& properties, const std::optional<LinkTarget>& link) {
-        if (text.empty())
-            return;
-        enterLink(link);
-        std::vector<Inline>& inlines = target();
-        document::Text* last = inlines.empty() ? nullptr : std::get_if<document::Text>(&inlines.back().value);
-        if (last && last->properties == properties)
-            last->text += text;
-        else
-            inlines.push_back({document::Text{std::string(text), properties}});
-    }
-    void add(Inline item, const std::optional<LinkTarget>& link) {
-        enterLink(link);
-        target().push_back(std::move(item));
-    }
-    /// Takes the last character off, a hyphen that joins two lines.
-    void dropLastCharacter() {
-        std::vector<Inline>& inlines = target();
-        document::Text* last = inlines.empty() ? nullptr : std::get_if<document::Text>(&inlines.back().value);
-        if (!last)
-            return;
-        while (!last->text.empty() && (static_cast<unsigned char>(last->text.back()) & 0xC0) == 0x80)
-            last->text.pop_back();
-        if (!last->text.empty())
-            last->text.pop_back();
-        if (last->text.empty())
-            inlines.pop_back();
-    }
-    /// What is added from now on stands in the field; null for none.
-    void enterField(const pdf::FormField* field) {
-        if (field == m_field)
-            return;
-        enterLink(std::nullopt);
-        if (m_field && !m_fieldInlines.empty())
-            m_inlines.push_back({controlOf(*m_field, std::exchange(m_fieldInlines, {}))});
-        m_field = field;
-    }
-    std::vector<Inline> finish() {
-        enterField(nullptr);
-        enterLink(std::nullopt);
-        return std::move(m_inlines);
-    }
-
-private:
-    std::vector<Inline>& outside() { return m_field ? m_fieldInlines : m_inlines; }
-    std::vector<Inline>& target() { return m_link ? m_linkInlines : outside(); }
-    void enterLink(const std::optional<LinkTarget>& link) {
-        const bool isSame = m_link.has_value() == link.has_value() &&
-                            (!link || (m_link->uri == link->uri && m_link->bookmark == link->bookmark));
-        if (isSame)
-            return;
-        if (m_link && !m_linkInlines.empty())
-            outside().push_back({document::Link{*m_link, std::exchange(m_linkInlines, {})}});
-        m_link = link;
-    }
-
-    std::vector<Inline> m_inlines;
-    std::vector<Inline> m_fieldInlines;
-    const pdf::FormField* m_field = nullptr;
-    std::vector<Inline> m_linkInlines;
-    std::optional<LinkTarget> m_link;
-};
 
 /// The look of a blank: decoration reaches over it only when it is on both sides.
 RunProperties blankBetween(const RunProperties& before, const RunProperties& after) {

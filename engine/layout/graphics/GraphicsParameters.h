@@ -60,6 +60,17 @@ struct GraphicsParameters {
         double widestBlank = 3.0;    ///< of the font size; a wider gap between words is one that was meant
     } scans;
 
+    /// ScanIllustrations: what a scan shows besides its words.
+    struct Illustrations {
+        double inkSquare = 4.0;   ///< points; ink is looked for so coarsely
+        double inkGap = 8.0;      ///< points; parts of one illustration lie this close
+        double wordMargin = 0.35; ///< of the font size; ink this near to words that were read is theirs
+        double smallest = 40.0;   ///< points, each side; less is a blot, a rule or a letter that was not read
+        double largest = 0.8;     ///< of the page's area; more is the paper's own shade
+        double wordShare = 0.05;  ///< of its area; with more it is ruled or shaded text
+        double edge = 8.0;        ///< points; what comes so near to opposite edges of the page is the scanner's shadow
+    } illustrations;
+
     /// ShapeMaker: drawings as shapes.
     struct Shapes {
         std::size_t mostShapes = 150;    ///< of a drawing that somebody would take apart

@@ -10,7 +10,8 @@ namespace orvane::layout {
 namespace {
 
 /// Ink that no word accounts for, in groups.
-std::vector<Rect> unreadInk(const PageText& page, const std::vector<Rect>& ink, const IllustrationParameters& limits) {
+std::vector<Rect> unreadInk(const PageText& page, const std::vector<Rect>& ink,
+                            const GraphicsParameters::Illustrations& limits) {
     CoverageGrid read(page.width, page.height, limits.inkSquare);
     for (const Line& line : page.lines)
         read.cover(line.box.inflated(limits.wordMargin * line.fontSize));
@@ -44,7 +45,7 @@ double wordArea(const Rect& box, const PageText& page) {
     return area;
 }
 
-bool isIllustration(const Rect& box, const PageText& page, const IllustrationParameters& limits) {
+bool isIllustration(const Rect& box, const PageText& page, const GraphicsParameters::Illustrations& limits) {
     return std::min(box.width(), box.height()) >= limits.smallest &&
            box.area() <= limits.largest * page.width * page.height && !isAtOppositeEdges(box, page, limits.edge) &&
            wordArea(box, page) <= limits.wordShare * box.area();
@@ -52,7 +53,8 @@ bool isIllustration(const Rect& box, const PageText& page, const IllustrationPar
 
 } // namespace
 
-void addIllustrations(PageText& page, const std::vector<Rect>& ink, const IllustrationParameters& parameters) {
+void addIllustrations(PageText& page, const std::vector<Rect>& ink,
+                      const GraphicsParameters::Illustrations& parameters) {
     for (const Rect& box : unreadInk(page, ink, parameters)) {
         if (!isIllustration(box, page, parameters))
             continue;

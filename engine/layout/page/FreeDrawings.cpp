@@ -103,24 +103,26 @@ void sinkCovered(PageLayout& layout, const std::vector<Piece>& pieces, double sh
 
 } // namespace
 
-std::size_t mostFreeShapes(std::size_t pages) {
-    constexpr std::size_t kOfDocument = 1500, kLeastOfPage = 4;
-    return std::max(kLeastOfPage, kOfDocument / std::max<std::size_t>(1, pages));
+std::size_t mostFreeShapes(std::size_t pages, const PageParameters::FreeDrawings& parameters) {
+    return std::max(parameters.leastShapesOfPage, parameters.shapesOfDocument / std::max<std::size_t>(1, pages));
 }
 
-bool drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters, std::size_t most) {
+void drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters, std::size_t most,
+                   Diagnostics& diagnostics) {
     std::vector<Piece> pieces = freePieces(layout, parameters.speck);
     layout.freeRules.clear();
     layout.freeGrounds.clear();
-    if (pieces.size() > most)
-        return false;
+    if (pieces.size() > most) {
+        diagnostics.add(DiagnosticKind::PictureSimplified, layout.number,
+                        "its many lines and grounds beside the text are left out");
+        return;
+    }
     sinkCovered(layout, pieces, parameters.coveredShare);
     BoxGroups groups(parameters.gap);
     for (const Piece& piece : pieces)
         groups.add(piece.box);
     for (const std::vector<std::size_t>& members : groups.groups())
         insert(layout, figureOf(pieces, members));
-    return true;
 }
 
 } // namespace orvane::layout

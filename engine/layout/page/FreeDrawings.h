@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Diagnostic.h"
 #include "layout/page/PageLayout.h"
 #include "layout/page/PageParameters.h"
 
@@ -7,13 +8,14 @@
 
 namespace orvane::layout {
 
-/// Draws the rules and grounds that are neither of a table nor of a paragraph, behind the text where they stood, so
-/// that nothing that was painted is lost. False, with nothing drawn, where they are more than `most`.
-/// Requires: findParagraphBorders() has taken its own.
-bool drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters, std::size_t most);
+/// Draws the rules and grounds that are neither of a table nor of a paragraph, behind the text where they stood. Where
+/// they are more than `most` none is drawn, and the diagnostics tell. Requires: findParagraphBorders() has taken its
+/// own.
+void drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters, std::size_t most,
+                   Diagnostics& diagnostics);
 
 /// How many rules and grounds each page of a document may have drawn: with thousands of shapes, word processors take
 /// minutes to lay a document out.
-std::size_t mostFreeShapes(std::size_t pages);
+std::size_t mostFreeShapes(std::size_t pages, const PageParameters::FreeDrawings& parameters);
 
 } // namespace orvane::layout

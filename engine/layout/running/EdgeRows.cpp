@@ -148,4 +148,9 @@ std::vector<EdgeRows> readEdgeRows(const std::vector<PageText>& pages, PageEdge 
     return EdgeReader(pages, edge, parameters).read();
 }
 
+void takeRows(EdgeRows& edge, std::size_t count) {
+    std::fill_n(edge.matches.begin(), count, RowMatch::Text);
+    edge.taken = count;
+}
+
 } // namespace orvane::layout

@@ -18,6 +18,9 @@ struct EdgeRows {
 std::vector<EdgeRows> readEdgeRows(const std::vector<PageText>& pages, PageEdge edge,
                                    const RunningParameters::RunningHeads& parameters);
 
+/// Makes the outermost `count` rows the running head: they stand by themselves, like no row of another page.
+void takeRows(EdgeRows& edge, std::size_t count);
+
 /// How far apart the pages are whose heads are compared: odd and even pages may differ.
 inline constexpr std::ptrdiff_t kRunningReach = 2;
 

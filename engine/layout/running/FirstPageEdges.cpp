@@ -1,8 +1,6 @@
 #include "layout/running/FirstPageEdges.h"
 
-#include "base/Utf8.h"
 #include "layout/running/HeadPlaces.h"
-#include "layout/text/Characters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,15 +8,6 @@
 
 namespace orvane::layout {
 namespace {
-
-double end(const RunningRow& row) {
-    return row.fromEdge + row.box.height();
-}
-
-void take(EdgeRows& edge, std::size_t count) {
-    std::fill_n(edge.matches.begin(), count, RowMatch::Text);
-    edge.taken = count;
-}
 
 /// Where so many pages begin their text at one edge that it cannot begin nearer to it.
 struct TextPlace {
@@ -76,7 +65,7 @@ std::size_t countSetOff(const EdgeRows& edge, const PageText& page, const TextPl
         if (inner.fromEdge + limits.samePosition < text.fromEdge || shareFrame(page, outer, inner))
             continue;
         const double gap = limits.ownHeadGap * std::min(outer.fontSize, inner.fontSize);
-        return inner.fromEdge - end(outer) >= gap ? i : 0;
+        return inner.fromEdge - endOf(outer) >= gap ? i : 0;
     }
     return 0;
 }
@@ -113,9 +102,9 @@ void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::Runnin
             std::upper_bound(starts.begin(), starts.end(), starts.front() + parameters.fullPage * last.fontSize) -
             starts.begin();
         if (full < parameters.fewestAlike || starts.front() > parameters.deepestFirstFoot ||
-            end(last) + parameters.ownFootGap * last.fontSize > starts.front())
+            endOf(last) + parameters.ownFootGap * last.fontSize > starts.front())
             continue;
-        take(first, count);
+        takeRows(first, count);
         return;
     }
 }
@@ -139,52 +128,7 @@ void takeFirstHead(std::vector<EdgeRows>& edges, const std::vector<PageText>& pa
         return;
     const std::size_t count = countSetOff(first, pages.front(), *text, parameters);
     if (count > 0 && !hasTitle(first, count, pages.front(), *text, parameters))
-        take(first, count);
-}
-
-namespace {
-
-/// Whether the row says "1 of 1" in whatever words.
-bool saysFirstOfOne(const RunningRow& row, const RunningParameters::RunningHeads& parameters) {
-    return row.numbers.size() == 2 && row.numbers[0].value == 1 && row.numbers[1].value == 1 &&
-           row.skeleton.ends_with('#') && row.skeleton.size() <= parameters.longestOnlyRow;
-}
-
-/// Whether the row is a number and perhaps dashes around it.
-bool saysNumberOnly(const RunningRow& row) {
-    const std::u32string text = utf32FromUtf8(row.skeleton);
-    return row.numbers.size() == 1 && row.numbers[0].value > 0 &&
-           std::none_of(text.begin(), text.end(), [](char32_t c) { return isLetter(c); });
-}
-
-/// Whether a wide gap parts "1", "Page 1" or the like from the rest of the row.
-bool endsWithFirstNumber(const RunningRow& row, const PageText& page) {
-    if (row.numbers.size() != 1 || row.numbers[0].value != 1)
-        return false;
-    const RowNumber& number = row.numbers[0];
-    const std::vector<Word>& words = page.lines[number.line].words;
-    const bool hasName = number.word > 0 && words[number.word].gapBefore != Gap::Tab;
-    const std::size_t first = number.word - (hasName ? 1 : 0);
-    const bool isPiece = first == 0 ? row.lines.size() > 1 : words[first].gapBefore == Gap::Tab;
-    return isPiece && number.word + 1 == words.size();
-}
-
-} // namespace
-
-std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
-                                         const RunningParameters::RunningHeads& parameters) {
-    if (edge.rows.empty() || edge.rows[0].fromEdge > parameters.onlyNumberReach * page.height)
-        return std::nullopt;
-    const RunningRow& row = edge.rows[0];
-    const bool isApart =
-        edge.rows.size() == 1 || edge.rows[1].fromEdge - end(row) >= parameters.ownFootGap * row.fontSize;
-    // At the top a number alone may be that of a chapter.
-    const bool isNumber = saysFirstOfOne(row, parameters) || endsWithFirstNumber(row, page) ||
-                          (side == PageEdge::Bottom && saysNumberOnly(row));
-    if (!isNumber || !isApart)
-        return std::nullopt;
-    take(edge, 1);
-    return PageNumber{row.numbers[0].value, row.numbers[0].format};
+        takeRows(first, count);
 }
 
 } // namespace orvane::layout

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "layout/running/EdgeRows.h"
-#include "layout/running/PageNumbers.h"
 
-#include <optional>
 #include <vector>
 
 namespace orvane::layout {
@@ -17,10 +15,5 @@ void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::Runnin
 /// `edges` holds the tops of `pages`.
 void takeFirstHead(std::vector<EdgeRows>& edges, const std::vector<PageText>& pages,
                    const RunningParameters::RunningHeads& parameters);
-
-/// Takes the outermost row of the only page of a document where it says "1 of 1" in whatever words, or at the foot
-/// nothing but a number; returns that of the page if it did. `edge` holds the rows at one edge.
-std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
-                                         const RunningParameters::RunningHeads& parameters);
 
 } // namespace orvane::layout

@@ -87,7 +87,7 @@ void takeOwnHeads(std::vector<EdgeRows>& edges, const RunningParameters::Running
         const RunningRow& row = edge.rows.front();
         const auto alike = std::count_if(heads.begin(), heads.end(),
                                          [&](const RunningRow* head) { return standsAlike(row, *head, parameters); });
-        const bool isBeforeText = row.fromEdge + row.box.height() <= text;
+        const bool isBeforeText = endOf(row) <= text;
         const bool isApart = edge.rows.size() == 1 || edge.rows[1].fromEdge >= text - parameters.samePosition ||
                              isSetApart(row, edge.rows[1], parameters);
         if (alike < kFewestAlike || !isBeforeText || !isApart)

@@ -3,7 +3,7 @@
 #include "layout/running/EdgeRows.h"
 #include "layout/running/FirstPageEdges.h"
 #include "layout/running/HeadPlaces.h"
-#include "layout/running/OnlyPageFoot.h"
+#include "layout/running/OnlyPageEdges.h"
 #include "layout/running/RepeatedFigures.h"
 #include "layout/running/RepeatedRules.h"
 

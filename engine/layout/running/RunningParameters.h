@@ -32,7 +32,7 @@ struct RunningParameters {
         double fullPage = 2;              ///< of the font size; full pages end within this of each other
         std::ptrdiff_t fewestAlike = 2;   ///< pages that show where the text begins or ends
         std::size_t longestOnlyRow = 24;  ///< bytes of a row that says nothing but "page 1 of 1"
-        // OnlyPageFoot
+        // OnlyPageEdges
         double onlyFootReach = 0.13;       ///< of the page's height; no row of the only page's foot begins farther in
         double onlyFootGap = 2.0;          ///< of the font size; between it and all text
         std::size_t longestOnlyFoot = 5;   ///< rows

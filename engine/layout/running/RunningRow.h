@@ -36,6 +36,11 @@ struct RunningRow {
     std::vector<RowNumber> numbers;
 };
 
+/// How far its far side is from the page's edge, points.
+inline double endOf(const RunningRow& row) {
+    return row.fromEdge + row.box.height();
+}
+
 /// The rows of the page from that edge inwards, as far as running heads may reach.
 std::vector<RunningRow> rowsFromEdge(const PageText& page, PageEdge edge,
                                      const RunningParameters::RunningHeads& parameters);

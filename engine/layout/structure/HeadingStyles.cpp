@@ -20,7 +20,6 @@ namespace orvane::layout {
 namespace {
 
 constexpr int kDeepestLevel = 9;
-constexpr std::size_t kLongestTitleBlock = 20; ///< paragraphs; what is centred for longer is text, verse for instance
 
 /// What headings of one level have in common. Ordered from the highest level down.
 struct HeadingLook {
@@ -98,7 +97,7 @@ bool isCentredOnFirstPage(const DraftBlock& block) {
 
 /// Who wrote it and where: what stands centred below a centred title, but for the last line, which may be the heading
 /// of what follows.
-BlockRange bylinesOf(const std::vector<DraftBlock>& blocks) {
+BlockRange bylinesOf(const std::vector<DraftBlock>& blocks, const StructureParameters::Headings& parameters) {
     const auto isOfFlow = [](const DraftBlock& block) {
         const DraftParagraph* paragraph = block.paragraph();
         return paragraph && paragraph->firstLine().angle == 0;
@@ -106,7 +105,7 @@ BlockRange bylinesOf(const std::vector<DraftBlock>& blocks) {
     const auto title = std::find_if(blocks.begin(), blocks.end(), isOfFlow);
     const auto end = std::find_if_not(title, blocks.end(), isCentredOnFirstPage);
     const auto count = static_cast<std::size_t>(end - title);
-    if (count < 3 || count > kLongestTitleBlock)
+    if (count < 3 || count > parameters.longestTitleBlock)
         return {};
     const auto first = static_cast<std::size_t>(title - blocks.begin()) + 1;
     return {first, first + count - 2};
@@ -139,7 +138,7 @@ private:
     }
 
     void collect() {
-        const BlockRange bylines = bylinesOf(m_draft.blocks);
+        const BlockRange bylines = bylinesOf(m_draft.blocks, m_limits);
         for (std::size_t i = 0; i < m_draft.blocks.size(); ++i) {
             const DraftParagraph* paragraph = m_draft.blocks[i].paragraph();
             m_letterCount += paragraph ? letterCount(*paragraph) : 0;

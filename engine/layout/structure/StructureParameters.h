@@ -32,14 +32,15 @@ struct StructureParameters {
     /// HeadingFinder, HeadingStyles: headings where only their looks tell them.
     struct Headings {
         int maximumLines = 3;
-        int maximumLength = 160;    ///< characters
-        double lookShare = 0.85;    ///< of the characters that one look must have to be the paragraph's
-        double largerSize = 1.12;   ///< of the body text's size; from there on letters are larger
-        double letterShare = 0.12;  ///< of the document's letters; a look with more is not that of headings
-        double crowdedShare = 0.34; ///< of a look's paragraphs that may be followed by another of the same look
-        double titleSize = 1.35;    ///< of the body text's size
-        int titleParagraphs = 3;    ///< more in the largest letters are no title
-        int fewestNumerals = 3;     ///< sections that show what the numerals before them stand for
+        int maximumLength = 160;            ///< characters
+        double lookShare = 0.85;            ///< of the characters that one look must have to be the paragraph's
+        double largerSize = 1.12;           ///< of the body text's size; from there on letters are larger
+        double letterShare = 0.12;          ///< of the document's letters; a look with more is not that of headings
+        double crowdedShare = 0.34;         ///< of a look's paragraphs that may be followed by another of the same look
+        double titleSize = 1.35;            ///< of the body text's size
+        int titleParagraphs = 3;            ///< more in the largest letters are no title
+        std::size_t longestTitleBlock = 20; ///< paragraphs; what is centred for longer is text, verse for instance
+        int fewestNumerals = 3;             ///< sections that show what the numerals before them stand for
     } headings;
 
     /// HandBreaks: lines that were ended by hand, not by the end of a paragraph. Spaces are shares of the leading.

@@ -65,9 +65,12 @@ public:
         , m_parameters(parameters) {}
 
     std::vector<BorderLine> read() {
-        std::vector<GroundBand> bands = bandsOf(m_page.grounds, m_parameters.filledSnap);
-        while (!bands.empty()) {
-            const std::vector<GroundBand> table = takeTable(bands);
+        const std::vector<GroundBand> bands = bandsOf(m_page.grounds, m_parameters.filledSnap);
+        std::vector<char> isTaken(bands.size(), false);
+        for (std::size_t first = 0; first < bands.size(); ++first) {
+            if (isTaken[first])
+                continue;
+            const std::vector<GroundBand> table = tableFrom(bands, first, isTaken);
             if (table.size() >= static_cast<std::size_t>(m_parameters.fewestPartedRows) && !hasTextsBeside(table))
                 addLines(table);
         }
@@ -75,18 +78,23 @@ public:
     }
 
 private:
-    /// The first of `bands`, and those below that go on with its columns, taken out of `bands`.
-    std::vector<GroundBand> takeTable(std::vector<GroundBand>& bands) const {
-        std::vector<GroundBand> table{bands.front()}, others;
-        for (std::size_t i = 1; i < bands.size(); ++i) {
-            const bool goesOn = haveEqualSides(table.back(), bands[i], m_parameters.filledSnap) &&
-                                bands[i].box.top >= table.back().box.bottom - m_parameters.filledSnap &&
-                                !openEdges(table.back(), bands[i]).empty() &&
-                                endOfTexts(table.back(), 1) >= bands[i].box.top - m_parameters.filledSnap;
-            (goesOn ? table : others).push_back(std::move(bands[i]));
+    /// The band and those below it that go on with its columns, which are marked as taken.
+    std::vector<GroundBand> tableFrom(const std::vector<GroundBand>& bands, std::size_t first,
+                                      std::vector<char>& isTaken) const {
+        std::vector<GroundBand> table{bands[first]};
+        for (std::size_t i = first + 1; i < bands.size(); ++i) {
+            if (isTaken[i] || !goesOn(table.back(), bands[i]))
+                continue;
+            table.push_back(bands[i]);
+            isTaken[i] = true;
         }
-        bands = std::move(others);
         return table;
+    }
+
+    bool goesOn(const GroundBand& above, const GroundBand& below) const {
+        return haveEqualSides(above, below, m_parameters.filledSnap) &&
+               below.box.top >= above.box.bottom - m_parameters.filledSnap && !openEdges(above, below).empty() &&
+               endOfTexts(above, 1) >= below.box.top - m_parameters.filledSnap;
     }
 
     /// Whether texts stand beside most bands: columns without ground belong to the table.

@@ -41,7 +41,7 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
     std::vector<Cluster> clusters = buildClusters(page, selection, frames, parameters, diagnostics);
     std::vector<TextRow> rows = buildRows(std::move(clusters), parameters, diagnostics);
     if (selection.isScanned)
-        fillRecognisedWidths(rows, {});
+        fillRecognisedWidths(rows, parameters.recognition);
     rows = findWordGaps(std::move(rows), parameters, diagnostics);
     std::vector<TextRow> lines =
         buildLines(std::move(rows), frames.frames, text.rules, text.grounds, parameters, diagnostics);

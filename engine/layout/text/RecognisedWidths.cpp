@@ -20,7 +20,7 @@ struct InkedWord {
     double width() const { return end - start; }
 };
 
-std::vector<InkedWord> wordsOf(const TextRow& row, const RecognitionParameters& limits) {
+std::vector<InkedWord> wordsOf(const TextRow& row, const TextParameters::Recognition& limits) {
     std::vector<InkedWord> words;
     bool isOpen = false;
     for (std::size_t i = 0; i < row.clusters.size(); ++i) {
@@ -43,7 +43,7 @@ std::vector<InkedWord> wordsOf(const TextRow& row, const RecognitionParameters& 
 }
 
 /// How much wider than set the page's words must have been, by the middle of them; 1 where too few tell.
-double stretchOf(const std::vector<TextRow>& rows, const RecognitionParameters& limits) {
+double stretchOf(const std::vector<TextRow>& rows, const TextParameters::Recognition& limits) {
     std::vector<double> shares;
     for (const TextRow& row : rows)
         for (const InkedWord& word : wordsOf(row, limits))
@@ -75,7 +75,7 @@ void stretchWord(TextRow& row, const InkedWord& word, double stretch, double lea
 
 } // namespace
 
-void fillRecognisedWidths(std::vector<TextRow>& rows, const RecognitionParameters& parameters) {
+void fillRecognisedWidths(std::vector<TextRow>& rows, const TextParameters::Recognition& parameters) {
     const double stretch = stretchOf(rows, parameters);
     if (stretch < parameters.leastStretch)
         return;

@@ -26,6 +26,15 @@ struct TextParameters {
         double smallestSkew = 0.05; ///< degrees; less than this is not worth turning by
     } frames;
 
+    /// RecognisedWidths: the words of a scan.
+    struct Recognition {
+        double gap = 0.15;            ///< of the font size; wider gaps part words where no blank is painted
+        std::size_t shortestWord = 3; ///< characters of a word whose room tells how wide it was
+        std::size_t fewestWords = 20; ///< of a page; of fewer there is no middle to trust
+        double leastStretch = 1.3;    ///< of the set width; less is what justified lines have
+        double leastBlank = 0.8;      ///< of the blank; what is left between stretched words
+    } recognition;
+
     /// ClusterBuilder: glyphs that cannot be parted.
     struct Clusters {
         double sizeStep = 0.1;     ///< points; font sizes are rounded to this, as the file's arithmetic blurs them

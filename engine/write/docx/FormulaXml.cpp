@@ -1,6 +1,7 @@
 #include "write/docx/FormulaXml.h"
 
 #include "write/docx/FontTablePart.h"
+#include "write/docx/Justification.h"
 #include "write/docx/PictureXml.h"
 #include "write/docx/RunXml.h"
 
@@ -30,17 +31,6 @@ const char* styleOf(FormulaShape shape) {
 /// Words within a formula, of which the blanks count.
 bool isWords(std::string_view text) {
     return text.find(' ') != std::string_view::npos;
-}
-
-const char* justificationOf(Alignment alignment) {
-    switch (alignment) {
-    case Alignment::Center:
-        return "center";
-    case Alignment::End:
-        return "right";
-    default:
-        return "left";
-    }
 }
 
 class FormulaWriter {

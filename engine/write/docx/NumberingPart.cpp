@@ -2,6 +2,7 @@
 
 #include "write/ListLevels.h"
 #include "write/docx/FontTablePart.h"
+#include "write/docx/Justification.h"
 #include "write/docx/RunXml.h"
 #include "write/docx/XmlPart.h"
 
@@ -14,17 +15,6 @@ namespace orvane::write::docx {
 namespace {
 
 using namespace document;
-
-const char* nameOf(Alignment alignment) {
-    switch (alignment) {
-    case Alignment::Center:
-        return "center";
-    case Alignment::End:
-        return "right";
-    default:
-        return "left";
-    }
-}
 
 void writeLevelIndents(XmlWriter& xml, const NumberingLevel& level) {
     const XmlElement pPr(xml, "w:pPr");
@@ -45,7 +35,7 @@ void writeLevel(DocumentState& state, XmlWriter& xml, const NumberingLevel& leve
     if (level.firstLine >= Twips(0))
         xml.leaf("w:suff", {{"w:val", "space"}});
     xml.leaf("w:lvlText", {{"w:val", level.text}});
-    xml.leaf("w:lvlJc", {{"w:val", nameOf(level.alignment)}});
+    xml.leaf("w:lvlJc", {{"w:val", justificationOf(level.alignment)}});
     writeLevelIndents(xml, level);
     if (level.run) {
         collectFonts(state, *level.run);

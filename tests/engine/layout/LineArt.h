@@ -53,4 +53,19 @@ inline std::vector<std::string> textsOf(const std::vector<ParagraphDraft>& parag
     return texts;
 }
 
+/// A page with one column of 72 to 523 points and a paragraph of one line at each of the baselines.
+inline PageLayout pageWith(const std::vector<double>& baselines) {
+    PageLayout page;
+    page.width = 595;
+    page.height = 842;
+    page.bands.push_back({72, 770, {{72, 523}}, false});
+    for (const double baseline : baselines) {
+        ParagraphDraft paragraph;
+        paragraph.lines.push_back(makeLine("a line of text", 72, baseline));
+        paragraph.box = paragraph.lines.front().box;
+        page.blocks.emplace_back().value = std::move(paragraph);
+    }
+    return page;
+}
+
 } // namespace orvane::layout::tests

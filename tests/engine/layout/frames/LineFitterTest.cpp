@@ -152,9 +152,11 @@ TEST(LineFitter, MeasuresLinesThatRunUpThePage) {
     EXPECT_NEAR(stretchIn(draftOf(kTimes, line)), 1.28, 0.011);
 }
 
-/// Which of two lines of justified or ragged text wrap; the first is 100 points wide, and its last word is as typed.
-std::vector<std::size_t> wrappingIn(const char* end, double restWidth, Alignment alignment) {
-    Line first = makeLine(std::string("pppp pppp ") + end, 72, 100), second = makeLine("pp pppp pppp ppppp", 72, 112);
+/// Which of two lines wrap. The first ends with the word, and its blanks are `spread` points wider than typed; the
+/// second begins with a word of that width.
+std::vector<std::size_t> wrappingIn(const char* end, double restWidth, Alignment alignment, double spread = 0) {
+    Line first = moved(moved(makeLine(std::string("pppp pppp ") + end, 72, 100), 1, spread), 2, spread),
+         second = makeLine("pp pppp pppp ppppp", 72, 112);
     second.words[0].box.right = second.words[0].box.left + restWidth;
     DocumentDraft draft = draftOf(kTimes, first, alignment);
     ParagraphDraft& text = draft.blocks[0].paragraph()->pieces[0].text;
@@ -169,6 +171,9 @@ TEST(LineFitter, KnowsTheLinesThatMustWrapInADividedWord) {
     EXPECT_EQ(wrappingIn("ppppppp-", 30, Alignment::Start), first);
     EXPECT_EQ(wrappingIn("pppppppp", 30, Alignment::Start), none) << "no word is divided";
     EXPECT_EQ(wrappingIn("ppppppp-", 2, Alignment::Start), none) << "the rest might find room";
+    EXPECT_EQ(wrappingIn("ppppppppppppppp-", 30, Alignment::Justified), first);
+    EXPECT_EQ(wrappingIn("ppppppppppppppp-", 30, Alignment::Justified, 20), none)
+        << "its blanks are spread: it has room";
     EXPECT_EQ(wrappingIn("ppppppp-", 30, Alignment::Center), none) << "centred lines have room at both sides";
 }
 

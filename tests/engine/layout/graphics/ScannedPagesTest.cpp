@@ -51,7 +51,7 @@ std::vector<Rect> inkIn(const Rect& box) {
 std::vector<Figure> illustrationsWith(const std::vector<Rect>& ink) {
     PageText text = read(scanOf(12));
     EXPECT_TRUE(isReadScan(text, LayoutParameters{}));
-    addIllustrations(text, ink, IllustrationParameters{});
+    addIllustrations(text, ink, GraphicsParameters::Illustrations{});
     Diagnostics diagnostics;
     partTextFromScan(text, LayoutParameters{}, diagnostics);
     return text.figures;

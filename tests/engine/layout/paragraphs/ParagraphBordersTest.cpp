@@ -8,21 +8,7 @@ namespace orvane::layout {
 namespace {
 
 using document::BorderKind;
-
-/// A page with one column of 72 to 523 points and a paragraph of one line at each of the baselines.
-PageLayout pageWith(const std::vector<double>& baselines) {
-    PageLayout page;
-    page.width = 595;
-    page.height = 842;
-    page.bands.push_back({72, 770, {{72, 523}}, false});
-    for (const double baseline : baselines) {
-        ParagraphDraft paragraph;
-        paragraph.lines.push_back(tests::makeLine("a line of text", 72, baseline));
-        paragraph.box = paragraph.lines.front().box;
-        page.blocks.emplace_back().value = std::move(paragraph);
-    }
-    return page;
-}
+using tests::pageWith;
 
 Rule horizontal(double y, double from = 72, double to = 523) {
     Rule rule;

@@ -1,4 +1,7 @@
-#include "layout/running/OnlyPageFoot.h"
+#include "layout/running/OnlyPageEdges.h"
+
+#include "base/Utf8.h"
+#include "layout/text/Characters.h"
 
 #include <algorithm>
 
@@ -9,7 +12,7 @@ namespace {
 std::size_t countApart(const EdgeRows& edge, const PageText& page, const RunningParameters::RunningHeads& limits) {
     for (std::size_t i = 1; i < edge.rows.size() && i <= limits.longestOnlyFoot; ++i) {
         const RunningRow& outer = edge.rows[i - 1];
-        const double end = outer.fromEdge + outer.box.height();
+        const double end = endOf(outer);
         if (end > limits.onlyFootReach * page.height)
             return 0;
         if (edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize))
@@ -52,7 +55,48 @@ bool isInTable(const RunningRow& row, const PageText& page) {
     });
 }
 
+/// Whether the row says "1 of 1" in whatever words.
+bool saysFirstOfOne(const RunningRow& row, const RunningParameters::RunningHeads& parameters) {
+    return row.numbers.size() == 2 && row.numbers[0].value == 1 && row.numbers[1].value == 1 &&
+           row.skeleton.ends_with('#') && row.skeleton.size() <= parameters.longestOnlyRow;
+}
+
+/// Whether the row is a number and perhaps dashes around it.
+bool saysNumberOnly(const RunningRow& row) {
+    const std::u32string text = utf32FromUtf8(row.skeleton);
+    return row.numbers.size() == 1 && row.numbers[0].value > 0 &&
+           std::none_of(text.begin(), text.end(), [](char32_t c) { return isLetter(c); });
+}
+
+/// Whether a wide gap parts "1", "Page 1" or the like from the rest of the row.
+bool endsWithFirstNumber(const RunningRow& row, const PageText& page) {
+    if (row.numbers.size() != 1 || row.numbers[0].value != 1)
+        return false;
+    const RowNumber& number = row.numbers[0];
+    const std::vector<Word>& words = page.lines[number.line].words;
+    const bool hasName = number.word > 0 && words[number.word].gapBefore != Gap::Tab;
+    const std::size_t first = number.word - (hasName ? 1 : 0);
+    const bool isPiece = first == 0 ? row.lines.size() > 1 : words[first].gapBefore == Gap::Tab;
+    return isPiece && number.word + 1 == words.size();
+}
+
 } // namespace
+
+std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
+                                         const RunningParameters::RunningHeads& parameters) {
+    if (edge.rows.empty() || edge.rows[0].fromEdge > parameters.onlyNumberReach * page.height)
+        return std::nullopt;
+    const RunningRow& row = edge.rows[0];
+    const bool isApart =
+        edge.rows.size() == 1 || edge.rows[1].fromEdge - endOf(row) >= parameters.ownFootGap * row.fontSize;
+    // At the top a number alone may be that of a chapter.
+    const bool isNumber = saysFirstOfOne(row, parameters) || endsWithFirstNumber(row, page) ||
+                          (side == PageEdge::Bottom && saysNumberOnly(row));
+    if (!isNumber || !isApart)
+        return std::nullopt;
+    takeRows(edge, 1);
+    return PageNumber{row.numbers[0].value, row.numbers[0].format};
+}
 
 void takeOnlyFoot(EdgeRows& edge, const PageText& page, const RunningParameters::RunningHeads& parameters) {
     const std::size_t count = countApart(edge, page, parameters);
@@ -69,10 +113,9 @@ void takeOnlyFoot(EdgeRows& edge, const PageText& page, const RunningParameters:
     if ((!isSmall && !isNumbered) ||
         std::any_of(first, last, [&](const RunningRow& row) { return isInTable(row, page); }))
         return;
-    std::fill_n(edge.matches.begin(), count, RowMatch::Text);
+    takeRows(edge, count);
     for (auto row = first; row != last; ++row)
         row->numbers.clear(); // they count pages of another document, if any
-    edge.taken = count;
 }
 
 } // namespace orvane::layout

@@ -1,8 +1,16 @@
 #pragma once
 
 #include "layout/running/EdgeRows.h"
+#include "layout/running/PageNumbers.h"
+
+#include <optional>
 
 namespace orvane::layout {
+
+/// Takes the outermost row of the only page of a document where it says "1 of 1" in whatever words, or at the foot
+/// nothing but a number; returns that of the page if it did. `edge` holds the rows at one edge.
+std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
+                                         const RunningParameters::RunningHeads& parameters);
 
 /// Takes the rows at the foot of the only page of a document that stand apart from its text, near the edge: in smaller
 /// letters, as the bank accounts below a letter, or with the number of a page. No other page can show that they

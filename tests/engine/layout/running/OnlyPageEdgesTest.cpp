@@ -1,0 +1,73 @@
+#include "layout/running/OnlyPageEdges.h"
+
+#include "engine/layout/running/RunningPages.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::linesOf;
+using tests::makeLine;
+using tests::pagesWith;
+
+TEST(OnlyPageEdges, LeavesWordsOfSinglePagesAlone) {
+    auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("one", 290, 800)); });
+    EXPECT_FALSE(takeRunningHeads(pages, {})[0].footer);
+    EXPECT_EQ(pages[0].lines.size(), 31u);
+}
+
+TEST(OnlyPageEdges, LeavesANumberAtTheHeadOfASinglePageAlone) {
+    auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("7", 290, 40)); });
+    EXPECT_FALSE(takeRunningHeads(pages, {})[0].header) << "it may be a chapter's";
+}
+
+TEST(OnlyPageEdges, KnowsTheNumberOfASinglePage) {
+    const struct {
+        const char* text;
+        std::size_t fields;
+    } rows[] = {{"Page 1 of 1", 2},
+                {"1/1", 2},
+                {"- 1 | 1", 2},
+                {"Article 1 of law 1 is in force", 0},
+                {"1 a 1 b", 0},
+                {"7", 1},
+                {"- 15 -", 1},
+                {"Figure 7", 0},
+                {"Annual report\tPage 1", 1},
+                {"Annual report\t1", 1},
+                {"Annual report 1", 0},
+                {"Annual report\tRoom 12", 0}};
+    for (const auto& row : rows) {
+        auto pages = pagesWith(1, [&](PageText& page, int) { page.lines.push_back(makeLine(row.text, 290, 800)); });
+        const auto heads = takeRunningHeads(pages, {});
+        EXPECT_EQ(heads[0].footer ? heads[0].footer->fields.size() : 0, row.fields) << row.text;
+        EXPECT_EQ(pages[0].lines.size(), row.fields > 0 ? 30u : 31u) << row.text;
+    }
+}
+
+TEST(OnlyPageEdges, TakesTheFootOfASinglePage) {
+    const struct {
+        const char* text;
+        double size;
+        double baseline;
+        bool isFoot;
+        const char* why;
+    } rows[] = {{"Page 1 of 2", 10, 800, true, "it counts the pages of a longer document"},
+                {"Bank of Somewhere, account 12 34", 8, 800, true, "in small letters at the edge"},
+                {"and so the text ends", 10, 800, false, "in the letters of the text"},
+                {"and so the text ends", 8, 703, false, "right below the text"},
+                {"a note in small letters", 8, 730, false, "far from the edge"}};
+    for (const auto& row : rows) {
+        auto pages = pagesWith(1, [&](PageText& page, int) {
+            page.lines.push_back(makeLine(row.text, 290, row.baseline, {.size = row.size}));
+        });
+        const auto heads = takeRunningHeads(pages, {});
+        EXPECT_EQ(heads[0].footer.has_value(), row.isFoot) << row.text << ": " << row.why;
+        EXPECT_EQ(linesOf(heads[0].footer), row.isFoot ? row.text : "");
+        EXPECT_FALSE(heads[0].number) << "the page itself has no number";
+    }
+}
+
+} // namespace
+} // namespace orvane::layout

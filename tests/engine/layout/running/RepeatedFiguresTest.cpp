@@ -1,0 +1,51 @@
+#include "layout/running/RepeatedFigures.h"
+
+#include "engine/layout/running/RunningPages.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeLine;
+using tests::pagesWith;
+
+TEST(RepeatedFigures, TakesLogosAndRulesAlong) {
+    auto pages = pagesWith(3, [](PageText& page, int) {
+        page.lines.push_back(makeLine("Annual report", 72, 50));
+        Rule rule;
+        rule.position = 55;
+        rule.from = 72;
+        rule.to = 523;
+        page.rules.push_back(rule);
+        Figure logo;
+        logo.picture = PictureId{7};
+        logo.box = {480, 20, 523, 60};
+        page.figures.push_back(logo);
+        Figure picture;
+        picture.picture = PictureId{static_cast<std::uint32_t>(10 + page.number)};
+        picture.box = {100, 300, 300, 400};
+        page.figures.push_back(picture);
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    EXPECT_EQ(heads[1].header->content.rules.size(), 1u);
+    ASSERT_EQ(heads[1].header->content.figures.size(), 1u);
+    EXPECT_EQ(heads[1].header->content.figures[0].picture, PictureId{7});
+    ASSERT_EQ(pages[1].figures.size(), 1u) << "the page's own picture stays";
+    EXPECT_EQ(pages[1].figures[0].picture, PictureId{12});
+}
+
+TEST(RepeatedFigures, LeavesThePictureOfOnePageThatHangsDownFromTheRows) {
+    auto pages = pagesWith(3, [](PageText& page, int) { page.lines.push_back(makeLine("Annual report", 72, 50)); });
+    Figure ribbon;
+    ribbon.picture = PictureId{7};
+    ribbon.box = {480, 20, 523, 68};
+    pages[0].figures.push_back(ribbon);
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[0].header);
+    EXPECT_TRUE(heads[0].header->content.figures.empty());
+    EXPECT_EQ(pages[0].figures.size(), 1u);
+}
+
+} // namespace
+} // namespace orvane::layout
