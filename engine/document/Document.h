@@ -150,6 +150,12 @@ struct Figure {
     Origin origin;
 };
 
+/// Whether a frame may become higher than it is made.
+enum class FrameGrowth : std::uint8_t {
+    WithText,
+    Never, ///< text below its foot is not to be seen
+};
+
 /// A box of text that floats, anchored in the paragraph that follows it.
 struct Frame {
     Placement placement;
@@ -160,9 +166,15 @@ struct Frame {
     TextDirection direction = TextDirection::Horizontal;
     std::optional<ShapeLine> line;
     std::optional<Color> fill;
+    FrameGrowth growth = FrameGrowth::WithText;
     std::vector<Block> blocks;
     Origin origin;
 };
+
+/// Text that turns out higher than its box is cut off where the box is seen; one that nobody sees grows instead.
+inline bool growsWithText(const Frame& frame) {
+    return frame.growth == FrameGrowth::WithText && !frame.fill && !frame.line;
+}
 
 /// A list of headings with the pages they stand on, which a word processor can renew.
 struct TableOfContents {

@@ -21,6 +21,7 @@ enum class Visibility : std::uint8_t {
     OffPage,     ///< wholly outside the crop box
     ClippedAway, ///< wholly outside the clip path
     HiddenLayer, ///< optional content that is switched off; PdfDocument leaves it out
+    Replaced,    ///< something else is set in its place: the sign of a check box for its drawing
 };
 
 /// A font as the page's text uses it.

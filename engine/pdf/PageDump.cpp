@@ -21,6 +21,8 @@ const char* nameOf(Visibility visibility) {
         return " clipped-away";
     case Visibility::HiddenLayer:
         return " hidden-layer";
+    case Visibility::Replaced:
+        return " replaced";
     }
     return "";
 }

@@ -76,7 +76,8 @@ private:
     template<typename T>
     void addInline(const T& item) {
         if constexpr (std::is_same_v<T, Text>) {
-            m_counts.charactersWritten += countCharacters(item.text);
+            if (!item.properties.isHidden) // nor was it counted where it was read
+                m_counts.charactersWritten += countCharacters(item.text);
         } else if constexpr (std::is_same_v<T, Picture>) {
             ++m_counts.picturesWritten;
         } else if constexpr (std::is_same_v<T, Formula>) {

@@ -39,7 +39,8 @@ double pitchOf(const ParagraphDraft& text, const LineExtent& extent) {
 FrameBox levelBox(const ParagraphDraft& text, const LineExtent& extent, double room, double pageWidth) {
     const double pitch = pitchOf(text, extent);
     const double top = text.lines.front().baseline - spacedExtent(extent, exactly(pitch)).ascent;
-    Rect box{text.box.left, top, text.box.right, top + pitch * static_cast<double>(text.lines.size())};
+    Rect box{text.box.left, top, text.box.right,
+             top + pitch * static_cast<double>(text.lines.size() - text.linesBelow)};
     const bool isRightToLeft = text.lines.front().isRightToLeft;
     const bool growsLeft = text.alignment == (isRightToLeft ? Alignment::Start : Alignment::End);
     if (text.alignment == Alignment::Center) {
@@ -149,6 +150,7 @@ Frame frameOf(AssembledBlock block, const AssemblyContext& context) {
     paragraph.properties.indentEnd = {};
     standStill(paragraph.properties, pitch);
     frame.placement.zOrder = static_cast<int>(first.firstPaintOrder);
+    frame.growth = text.linesBelow > 0 ? document::FrameGrowth::Never : document::FrameGrowth::WithText;
     frame.origin = paragraph.origin;
     frame.blocks.push_back(std::move(block.block));
     return frame;

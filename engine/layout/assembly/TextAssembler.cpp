@@ -310,6 +310,7 @@ RunProperties runProperties(const Span& span, std::size_t page, const ScriptFami
     run.isStruck = look.isStruck;
     run.isSmallCaps = look.isSmallCaps;
     run.isOutlined = look.isOutlined;
+    run.isHidden = look.isClippedAway;
     run.isRightToLeft = span.isRightToLeft;
     // Where lines keep their places their scale was chosen; elsewhere little of it is how the PDF was typeset.
     const double least = context.request.mode == LayoutMode::TruePage ? 0 : context.parameters.text.naturalScale;

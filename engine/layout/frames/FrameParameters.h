@@ -20,6 +20,9 @@ struct FrameParameters {
         double protrusion = 0.4; ///< of the font size; by how much hyphens and full stops stand out over an edge
         double room = 0.6;       ///< of the text's width; other fonts may need so much more
         double leastRoom = 12.0; ///< points; likewise
+        // truepage/ClippedText
+        double sameSize = 0.1;   ///< points; type sizes of one entry
+        double entryPitch = 1.5; ///< of the font size; farthest from the only line of a field that is seen to the next
         // FrameJoiner
         double sameBaseline = 0.3; ///< points; lines of one row
         double rowGap = 0.5;       ///< of the font size; between lines that a tabulator can part

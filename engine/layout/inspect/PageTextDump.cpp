@@ -63,6 +63,8 @@ std::string lookText(const Look& look, double lineSize) {
         add("outlined");
     if (look.isInvisible)
         add("invisible");
+    if (look.isClippedAway)
+        add("clipped");
     if (look.size != lineSize)
         add(fmt::format("{:g}pt", look.size));
     if (look.color != kBlack)

@@ -20,6 +20,7 @@ struct ParagraphDraft {
     bool startsParagraph = true; ///< false: goes on from the column or page before
     bool endsParagraph = true;   ///< false: its last line is full and the text goes on in the next column or page
     std::vector<std::size_t> hardBreaks;    ///< indices of lines that the author ended by hand
+    std::size_t linesBelow = 0;             ///< of a frame: so many of its lines are below its foot, where none is seen
     bool isFloating = false;                ///< stands beside the flow of the page: a stamp along its edge
     std::vector<std::size_t> wrappingLines; ///< in a frame without room behind them: those that end in a divided word
     document::Borders borders;              ///< what is drawn around it

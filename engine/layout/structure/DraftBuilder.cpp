@@ -27,30 +27,6 @@ ColumnSpan columnOf(const PageBlock& block, const Place& place) {
 
 std::vector<DraftBlock> draftBlocks(std::vector<PageBlock> blocks, const Place& place);
 
-/// The lines within a drawing; those that touch are one label.
-std::vector<DraftBlock> draftLabels(std::vector<Line> lines, std::size_t page) {
-    BoxGroups groups(0);
-    for (const Line& line : lines)
-        groups.add(line.box);
-    std::vector<DraftBlock> labels;
-    for (const std::vector<std::size_t>& members : groups.groups()) {
-        ParagraphDraft label;
-        for (const std::size_t member : members) {
-            label.box = label.box.united(lines[member].box);
-            label.lines.push_back(std::move(lines[member]));
-        }
-        std::stable_sort(label.lines.begin(), label.lines.end(),
-                         [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
-        DraftBlock& block = labels.emplace_back();
-        block.page = page;
-        block.box = label.box;
-        DraftParagraph paragraph;
-        paragraph.pieces.push_back({page, 0, 0, {label.box.left, label.box.right}, std::move(label)});
-        block.value = std::move(paragraph);
-    }
-    return labels;
-}
-
 DraftBlock draftBlock(PageBlock block, const Place& place) {
     DraftBlock draft;
     draft.page = place.page;
@@ -102,6 +78,29 @@ std::vector<DraftBlock> addPage(DocumentDraft& draft, PageLayout page) {
     draft.pages.push_back(std::move(page));
     draft.fields.emplace_back();
     return blocks;
+}
+
+std::vector<DraftBlock> draftLabels(std::vector<Line> lines, std::size_t page) {
+    BoxGroups groups(0);
+    for (const Line& line : lines)
+        groups.add(line.box);
+    std::vector<DraftBlock> labels;
+    for (const std::vector<std::size_t>& members : groups.groups()) {
+        ParagraphDraft label;
+        for (const std::size_t member : members) {
+            label.box = label.box.united(lines[member].box);
+            label.lines.push_back(std::move(lines[member]));
+        }
+        std::stable_sort(label.lines.begin(), label.lines.end(),
+                         [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+        DraftBlock& block = labels.emplace_back();
+        block.page = page;
+        block.box = label.box;
+        DraftParagraph paragraph;
+        paragraph.pieces.push_back({page, 0, 0, {label.box.left, label.box.right}, std::move(label)});
+        block.value = std::move(paragraph);
+    }
+    return labels;
 }
 
 DocumentDraft buildDraft(std::vector<PageLayout> pages) {

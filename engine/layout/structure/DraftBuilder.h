@@ -12,4 +12,7 @@ DocumentDraft buildDraft(std::vector<PageLayout> pages);
 /// Adds a page to the draft's pages and returns its blocks.
 std::vector<DraftBlock> addPage(DocumentDraft& draft, PageLayout page);
 
+/// Lines that stand outside the page's columns, in a drawing for instance. Those that touch are one paragraph.
+std::vector<DraftBlock> draftLabels(std::vector<Line> lines, std::size_t page);
+
 } // namespace orvane::layout

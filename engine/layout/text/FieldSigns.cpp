@@ -76,11 +76,11 @@ private:
     void hideBox(const Rect& box) {
         for (Glyph& glyph : m_page.glyphs)
             if (isIn(glyph, box))
-                glyph.visibility = Visibility::ClippedAway;
+                glyph.visibility = Visibility::Replaced;
         const Rect area = box.inflated(m_limits.boxReach);
         for (pdf::Path& path : m_page.paths)
             if (area.contains(path.box.intersected(path.clip)))
-                path.visibility = Visibility::ClippedAway;
+                path.visibility = Visibility::Replaced;
     }
 
     /// That of the nearest text beside the field; where there is none, one at the foot of the field.

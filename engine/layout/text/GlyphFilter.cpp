@@ -155,12 +155,32 @@ GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& 
             continue;
         }
         duplicates.add(glyph, selection.glyphs.size());
-        selection.glyphs.push_back({i, isRecognised, glyph.isFakeBold});
+        selection.glyphs.push_back({i, isRecognised ? GlyphSight::Recognised : GlyphSight::Seen, glyph.isFakeBold});
     }
     // A stamp or a line about where the scan comes from is written on many.
     const bool isTextHidden = static_cast<double>(seen) <= limits.stampShare * static_cast<double>(recognised);
     const bool isCovered = pictures.coveredShare({0, 0, page.width, page.height}) >= limits.scannedPageShare;
     selection.isScanned = isTextHidden && (recognised > 0 || isCovered);
+    return selection;
+}
+
+GlyphSelection clippedGlyphs(const pdf::PageContent& page, const GlyphSelection& seen,
+                             const TextParameters& parameters) {
+    const auto isClipped = [](const pdf::Glyph& glyph) { return glyph.visibility == Visibility::ClippedAway; };
+    GlyphSelection selection;
+    if (std::none_of(page.glyphs.begin(), page.glyphs.end(), isClipped))
+        return selection;
+    DuplicateFinder ofSeen(parameters.glyphs), ofClipped(parameters.glyphs);
+    for (std::size_t i = 0; i < seen.glyphs.size(); ++i)
+        ofSeen.add(page.glyphs[seen.glyphs[i].index], i);
+    for (std::uint32_t i = 0; i < page.glyphs.size(); ++i) {
+        const pdf::Glyph& glyph = page.glyphs[i];
+        if (!isClipped(glyph) || !isWorthReading(glyph, parameters.glyphs) ||
+            ofSeen.find(page, seen.glyphs, glyph) >= 0 || ofClipped.find(page, selection.glyphs, glyph) >= 0)
+            continue;
+        ofClipped.add(glyph, selection.glyphs.size());
+        selection.glyphs.push_back({i, GlyphSight::ClippedAway, glyph.isFakeBold});
+    }
     return selection;
 }
 

@@ -9,10 +9,17 @@
 
 namespace orvane::layout {
 
+/// How a glyph came to take part in the text.
+enum class GlyphSight : std::uint8_t {
+    Seen,
+    Recognised,  ///< text behind a scanned picture, where nobody sees it
+    ClippedAway, ///< outside the clip path
+};
+
 /// A glyph that takes part in the text.
 struct SelectedGlyph {
-    std::uint32_t index = 0;   ///< into pdf::PageContent::glyphs
-    bool isRecognised = false; ///< text behind a scanned picture, where nobody sees it
+    std::uint32_t index = 0; ///< into pdf::PageContent::glyphs
+    GlyphSight sight = GlyphSight::Seen;
     bool isBold = false; ///< made bold by painting: stroked as well as filled, or painted twice with a small offset
 };
 
@@ -27,5 +34,10 @@ struct GlyphSelection {
 /// then hides it. Glyphs painted again at nearly the same place (shadows, bold by painting) count
 /// once.
 GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& parameters, Diagnostics& diagnostics);
+
+/// The glyphs on the page that clip paths cut off, each once: the end of an entry that is longer than its field, say.
+/// None of them repeats a glyph of `seen`, for what is painted in strips is there in each.
+GlyphSelection clippedGlyphs(const pdf::PageContent& page, const GlyphSelection& seen,
+                             const TextParameters& parameters);
 
 } // namespace orvane::layout

@@ -30,6 +30,7 @@ struct Look {
     bool isSmallCaps = false;
     bool isOutlined = false;
     bool isInvisible = false; ///< recognised text behind a scanned picture, that nobody sees
+    bool isClippedAway = false; ///< outside the clip path: nobody sees it, and nothing stands in its place
     double horizontalScale = 1;
     double characterSpacing = 0; ///< points beyond the font's own advances, averaged over the span
     int link = -1;               ///< index into PageText::links
@@ -149,6 +150,7 @@ struct PageText {
     std::vector<pdf::Font> fonts;
     std::vector<std::vector<pdf::FontCharacter>> characters; ///< that each font shows, see charactersOf()
     std::vector<Line> lines; ///< top to bottom, not yet in reading order
+    std::vector<Line> clippedLines; ///< that clip paths cut off, top to bottom; no part of the page's layout
     std::vector<Rule> rules;
     std::vector<Ground> grounds;
     std::vector<Figure> figures;

@@ -20,6 +20,19 @@
 namespace orvane::layout {
 namespace {
 
+/// What clip paths cut off. Rules and grounds mean nothing to it: nobody saw it beside them.
+std::vector<Line> readClippedLines(const pdf::PageContent& page, const GlyphSelection& selection,
+                                   const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    if (selection.glyphs.empty())
+        return {};
+    const FrameSelection frames = findFrames(page, selection, parameters, diagnostics);
+    std::vector<TextRow> rows =
+        buildRows(buildClusters(page, selection, frames, parameters, diagnostics), parameters, diagnostics);
+    std::vector<TextRow> lines = buildLines(findWordGaps(std::move(rows), parameters, diagnostics), frames.frames, {},
+                                            {}, parameters, diagnostics);
+    return finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
+}
+
 PageText readText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
     PageText text;
     text.number = page.number;
@@ -37,6 +50,7 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
 
     const GlyphSelection selection = filterGlyphs(page, parameters, diagnostics);
     text.isScanned = selection.isScanned;
+    text.clippedLines = readClippedLines(page, clippedGlyphs(page, selection, parameters), parameters, diagnostics);
     const FrameSelection frames = findFrames(page, selection, parameters, diagnostics);
     std::vector<Cluster> clusters = buildClusters(page, selection, frames, parameters, diagnostics);
     std::vector<TextRow> rows = buildRows(std::move(clusters), parameters, diagnostics);

@@ -12,6 +12,7 @@
 #include "layout/page/PageLayouter.h"
 #include "layout/structure/DraftBuilder.h"
 #include "layout/truepage/Backdrop.h"
+#include "layout/truepage/ClippedText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -88,6 +89,7 @@ DocumentDraft draftOf(const std::vector<PageText>& pages, const DocumentContext&
         std::vector<DraftBlock> blocks = addPage(draft, layoutPage(page, context, parameters, diagnostics));
         std::vector<DraftBlock> frames =
             joinFrames(cutIntoFrames(std::move(blocks), parameters.textBoxes), parameters.textBoxes);
+        addClippedText(frames, page.clippedLines, draft.pages.size() - 1, parameters.textBoxes);
         std::move(frames.begin(), frames.end(), std::back_inserter(draft.blocks));
     }
     return draft;

@@ -313,8 +313,6 @@ std::string frameRecords(const Frame& frame, int id, int box) {
     Shape look;
     look.fill = frame.fill;
     look.line = frame.line;
-    // Text that turns out higher than its box is cut off; a box that nobody sees grows instead.
-    const bool isVisible = frame.fill || frame.line;
     art::Options options;
     if (frame.rotation != 0)
         options.add(kRotation, art::angle(frame.rotation));
@@ -325,7 +323,7 @@ std::string frameRecords(const Frame& frame, int id, int box) {
     options.add(kTextBottom, length(frame.insetBottom));
     if (frame.direction != TextDirection::Horizontal)
         options.add(kTextFlow, frame.direction == TextDirection::Upwards ? kUpwards : kDownwards);
-    options.add(kTextSwitches, isVisible ? kHasFixedSize : kFitsItsText);
+    options.add(kTextSwitches, growsWithText(frame) ? kFitsItsText : kHasFixedSize);
     addFill(options, look);
     addLine(options, look);
     addPlacement(options, frame.placement, {});

@@ -53,9 +53,7 @@ void writeBody(XmlWriter& xml, const Frame& frame) {
                            {"bIns", drawingLength(frame.insetBottom)},
                            {"anchor", "t"},
                            {"anchorCtr", 0}});
-    // Text that turns out higher than its box is cut off; a box that nobody sees grows instead.
-    const bool isVisible = frame.fill || frame.line;
-    xml.leaf(isVisible ? "a:noAutofit" : "a:spAutoFit");
+    xml.leaf(growsWithText(frame) ? "a:spAutoFit" : "a:noAutofit");
 }
 
 } // namespace

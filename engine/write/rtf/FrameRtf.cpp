@@ -39,9 +39,7 @@ void writeProperties(Story& story, const Frame& frame) {
     writeShapeProperty(rtf, "dyTextBottom", shapeLength(frame.insetBottom));
     if (frame.direction != TextDirection::Horizontal)
         writeShapeProperty(rtf, "txflTextFlow", flowNumber(frame.direction));
-    // Text that turns out higher than its box is cut off; a box that nobody sees grows instead.
-    const bool isVisible = frame.fill || frame.line;
-    writeShapeProperty(rtf, "fFitShapeToText", isVisible ? 0 : 1);
+    writeShapeProperty(rtf, "fFitShapeToText", growsWithText(frame) ? 1 : 0);
     writeFill(rtf, frame.fill, 1);
     writeOutlineLook(rtf, frame.line, 1);
 }

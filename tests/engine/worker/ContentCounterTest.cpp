@@ -74,5 +74,16 @@ TEST(ContentCounter, CountsWhatADocumentHolds) {
     EXPECT_EQ(counts, (protocol::Counts{0, 3 + 2 + 1 + 1 + 4 + 3 + 4 + 4 + 4 + 3, 0, 2, 0, 1}));
 }
 
+TEST(ContentCounter, LeavesOutHiddenText) {
+    document::Text hidden{"cut off", {}};
+    hidden.properties.isHidden = true;
+    Document document;
+    document.sections.resize(1);
+    document.sections[0].blocks = {paragraphOf({textInline("seen"), {hidden}})};
+    protocol::Counts counts;
+    countWritten(document, counts);
+    EXPECT_EQ(counts.charactersWritten, 4);
+}
+
 } // namespace
 } // namespace orvane::worker

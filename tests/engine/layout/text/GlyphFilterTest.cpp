@@ -23,6 +23,30 @@ TEST(GlyphFilter, LeavesOutWhatIsNotSeen) {
     }
 }
 
+TEST(GlyphFilter, KeepsWhatIsClippedAwayBesideTheText) {
+    PageContentBuilder page;
+    page.text(72, 100, "the start ", 10);
+    page.text(122, 100, "and the end", 10, {.visibility = Visibility::ClippedAway});
+    page.text(300, 100, "beyond", 10, {.visibility = Visibility::OffPage});
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_EQ(textOf(text.lines[0]), "the start");
+    ASSERT_EQ(text.clippedLines.size(), 1u);
+    EXPECT_EQ(textOf(text.clippedLines[0]), "and the end");
+    EXPECT_TRUE(text.clippedLines[0].words[0].spans[0].look.isClippedAway);
+}
+
+TEST(GlyphFilter, LeavesOutWhatIsSeenInAnotherStrip) {
+    PageContentBuilder page;
+    page.text(72, 100, "in strips", 10, {.visibility = Visibility::ClippedAway});
+    page.text(72, 100, "in strips", 10);
+    page.text(72, 300, "never seen", 10, {.visibility = Visibility::ClippedAway});
+    page.text(72, 300, "never seen", 10, {.visibility = Visibility::ClippedAway});
+    const PageText text = read(page);
+    ASSERT_EQ(text.clippedLines.size(), 1u);
+    EXPECT_EQ(textOf(text.clippedLines[0]), "never seen");
+}
+
 TEST(GlyphFilter, TakesTheRecognisedTextOfAScannedPage) {
     PageContentBuilder page;
     page.picture({0, 0, 595, 842});

@@ -234,6 +234,9 @@ TEST_F(DrawingXml, LetsABoxThatNobodySeesGrowWithItsText) {
     EXPECT_EQ(written({box}).count("//a:spAutoFit"), 1u);
     box.line = ShapeLine{kBlack, Emu(1), BorderKind::Single};
     EXPECT_EQ(written({box}).count("//a:noAutofit"), 1u);
+    box.line.reset();
+    box.growth = document::FrameGrowth::Never;
+    EXPECT_EQ(written({box}).count("//a:noAutofit"), 1u);
 }
 
 } // namespace

@@ -186,5 +186,13 @@ TEST(RtfFrame, HoldsParagraphsAndSendsFloatsBesideIt) {
     EXPECT_THAT(body, HasSubstr("{\\sn dxTextLeft}{\\sv 635}"));
 }
 
+TEST(RtfFrame, GrowsUnlessItHidesWhatIsBelowItsFoot) {
+    Frame box;
+    box.blocks = {{paragraph("boxed")}};
+    EXPECT_TRUE(WrittenRtf(documentOf({{box}, {paragraph("a")}})).has("{\\sn fFitShapeToText}{\\sv 1}"));
+    box.growth = document::FrameGrowth::Never;
+    EXPECT_TRUE(WrittenRtf(documentOf({{box}, {paragraph("a")}})).has("{\\sn fFitShapeToText}{\\sv 0}"));
+}
+
 } // namespace
 } // namespace orvane::tests
