@@ -76,6 +76,8 @@ std::vector<AssembledBlock> assembleCellBlocks(const DraftCell& cell, Twips marg
     for (AssembledBlock& block : blocks)
         if (document::Paragraph* paragraph = block.paragraph())
             takeMargin(*paragraph, margin);
+        else if (auto* table = std::get_if<document::Table>(&block.block.value))
+            table->indent = table->indent - margin;
     return blocks;
 }
 

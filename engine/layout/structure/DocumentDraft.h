@@ -73,11 +73,11 @@ struct DraftBlock {
     std::size_t page = 0; ///< index into DocumentDraft::pages, where it starts
     int band = 0;         ///< index into the page's bands
     int column = 0;
-    Rect box;                                ///< on that page
-    std::vector<DraftBlock> labels;          ///< of a drawing: paragraphs that stand within it
-    std::optional<ColumnSpan> sectionColumn; ///< of a table or figure: the column of its section that it stands in
-    bool startsPage = false;                 ///< its author let it start a page
-    bool startsColumn = false;               ///< likewise a column
+    Rect box;                             ///< on that page
+    std::vector<DraftBlock> labels;       ///< of a drawing: paragraphs that stand within it
+    std::optional<ColumnSpan> textColumn; ///< of a table or figure: the column of its section, or the cell, around it
+    bool startsPage = false;              ///< its author let it start a page
+    bool startsColumn = false;            ///< likewise a column
 
     DraftParagraph* paragraph() { return std::get_if<DraftParagraph>(&value); }
     const DraftParagraph* paragraph() const { return std::get_if<DraftParagraph>(&value); }

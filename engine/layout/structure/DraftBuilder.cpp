@@ -32,6 +32,8 @@ DraftBlock draftBlock(PageBlock block, const Place& place) {
     draft.page = place.page;
     draft.band = block.band;
     draft.column = block.column;
+    if (!place.bands)
+        draft.textColumn = place.cell;
     const ColumnSpan column = columnOf(block, place);
     if (auto* paragraph = std::get_if<ParagraphDraft>(&block.value)) {
         draft.box = paragraph->box;

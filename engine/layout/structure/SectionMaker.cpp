@@ -200,7 +200,7 @@ private:
                 for (DraftPiece& piece : paragraph->pieces)
                     piece.column = columns.size() == 1 ? area.seen : columnAt(piece.columnIndex);
             else
-                block.sectionColumn = columnAt(block.column);
+                block.textColumn = columnAt(block.column);
         }
     }
 

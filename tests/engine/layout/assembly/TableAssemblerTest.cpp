@@ -1,6 +1,7 @@
 #include "layout/assembly/TableAssembler.h"
 
 #include "engine/layout/DraftSupport.h"
+#include "layout/structure/DraftBuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -64,7 +65,7 @@ TEST(TableAssembler, CountsColumnsFromTheSideWhereReadingStarts) {
 
 TEST(TableAssembler, MeasuresTheIndentFromTheColumnOfTheSection) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
-    draft.blocks[0].sectionColumn = ColumnSpan{90, 500};
+    draft.blocks[0].textColumn = ColumnSpan{90, 500};
     const document::Document document = tests::documentOf(draft);
     EXPECT_EQ(std::get<document::Table>(document.sections.at(0).blocks.at(0).value).indent, Twips(1640));
 }
@@ -102,6 +103,45 @@ TEST(TableAssembler, LeavesTheBordersTheirRoom) {
     EXPECT_NEAR(pointsFromTwips(between.marginTop), 2.29 - 1, 0.05) << "half of the border lies within the row";
     EXPECT_NEAR(pointsFromTwips(between.marginBottom), 5.5 - 1.125 - slack, 0.05)
         << "likewise of two lines and their gap";
+}
+
+/// A page with a table of one cell from 172 to 472 points that holds this.
+document::TableCell cellWith(PageBlock inside) {
+    PageLayout page = tests::makeLayout(1);
+    TableDraft table;
+    table.box = {172, 100, 472, 200};
+    table.columnEdges = {172, 472};
+    table.rowEdges = {100, 200};
+    CellDraft& cell = table.cells.emplace_back();
+    cell.box = table.box;
+    cell.blocks.push_back(std::move(inside));
+    page.blocks.emplace_back().value = std::move(table);
+    const document::Document document = tests::documentOf(buildDraft({std::move(page)}));
+    return std::get<document::Table>(document.sections.at(0).blocks.at(0).value).rows.at(0).cells.at(0);
+}
+
+TEST(TableAssembler, IndentsATableWithinACellFromTheCellsText) {
+    TableDraft inner;
+    inner.box = {222, 120, 322, 140};
+    inner.columnEdges = {222, 322};
+    inner.rowEdges = {120, 140};
+    inner.cells.emplace_back().box = inner.box;
+    PageBlock block;
+    block.value = std::move(inner);
+    const document::TableCell cell = cellWith(std::move(block));
+    EXPECT_EQ(std::get<document::Table>(cell.blocks.at(0).value).indent, twipsFromPoints(50) - cell.marginLeft);
+}
+
+TEST(TableAssembler, IndentsAPictureWithinACellFromTheCellsText) {
+    FigureDraft picture;
+    picture.figure.box = {202, 120, 302, 180};
+    picture.isInline = true;
+    PageBlock block;
+    block.value = std::move(picture);
+    const document::TableCell cell = cellWith(std::move(block));
+    const auto& paragraph = std::get<document::Paragraph>(cell.blocks.at(0).value);
+    EXPECT_EQ(paragraph.properties.indentStart, twipsFromPoints(30) - cell.marginLeft);
+    EXPECT_EQ(paragraph.properties.alignment, document::Alignment::Start);
 }
 
 } // namespace
