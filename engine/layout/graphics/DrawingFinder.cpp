@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 namespace orvane::layout {
 namespace {
@@ -222,16 +223,27 @@ private:
         host.paths.insert(host.paths.end(), other.paths.begin(), other.paths.end());
     }
 
+    /// What lies over a background belongs to the text there, but for what the background itself is made of.
     void useUpRulesAndGrounds() {
         for (const Figure& drawing : m_drawings) {
-            if (drawing.isBackground)
-                continue;
             const Rect area = drawing.box.inflated(m_limits.reach);
+            const std::set<std::uint32_t> own = ordersOf(drawing);
+            const auto isPart = [&](const Rect& box, std::uint32_t paintOrder) {
+                return area.contains(box) && (!drawing.isBackground || own.count(paintOrder) > 0);
+            };
             for (Rule& rule : m_text.rules)
-                rule.isUsed |= area.contains(boxOf(rule));
+                rule.isUsed |= isPart(boxOf(rule), rule.paintOrder);
             for (Ground& ground : m_text.grounds)
-                ground.isUsed |= area.contains(ground.box);
+                ground.isUsed |= isPart(ground.box, ground.paintOrder);
         }
+    }
+
+    /// When its paths were painted.
+    std::set<std::uint32_t> ordersOf(const Figure& drawing) const {
+        std::set<std::uint32_t> orders;
+        for (const std::size_t path : drawing.paths)
+            orders.insert(m_page.paths[path].paintOrder);
+        return orders;
     }
 
     const pdf::PageContent& m_page;

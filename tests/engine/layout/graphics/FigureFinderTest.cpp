@@ -90,6 +90,21 @@ TEST(FigureFinder, MarksWhatLiesBehindThePageOrItsText) {
     EXPECT_TRUE(read(poster).figures.at(0).isBackground);
 }
 
+// A gradient of bands, each painted down to the foot of all: what lies on it belongs to the text there, but not they.
+TEST(FigureFinder, UsesUpTheGroundsThatABackgroundIsMadeOf) {
+    PageContentBuilder page;
+    for (int i = 0; i < 32; ++i) {
+        const auto shade = static_cast<std::uint8_t>(220 - 2 * i);
+        page.filledRectangle({72, 72 + 20.0 * i, 567, 712}, {shade, shade, 240});
+    }
+    page.filledRectangle({278, 20, 504, 257}, {68, 84, 106});
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_TRUE(text.figures[0].isBackground);
+    for (const Ground& ground : text.grounds)
+        EXPECT_EQ(ground.isUsed, ground.box.left < 200) << "but the box over it";
+}
+
 // The labels below the axis stand in one line but say nothing together.
 TEST(FigureFinder, TakesTheLabelsOfAnAxisForNoText) {
     PageContentBuilder page;
