@@ -176,14 +176,30 @@ private:
         return std::max(to, std::min(from + 1, last));
     }
 
+    /// Pieces that go on from one column to the next stand in several.
+    static void noteLines(DraftBlock& block, std::vector<SeenColumn>& seen) {
+        DraftParagraph* paragraph = block.paragraph();
+        if (!paragraph)
+            return;
+        for (const DraftPiece& piece : paragraph->pieces) {
+            const auto column = static_cast<std::size_t>(piece.columnIndex);
+            const bool areEnded = paragraph->pieces.size() == 1 && piece.text.alignment == document::Alignment::Start &&
+                                  piece.text.hardBreaks.size() + 1 >= piece.text.lines.size();
+            if (column < seen.size() && !areEnded)
+                seen[column].lines = ColumnLines::Wrapped;
+        }
+    }
+
     void setColumns(DraftSection& section, std::size_t from, std::size_t to, const TextArea& area) {
-        std::vector<ColumnSpan> seen;
+        std::vector<SeenColumn> seen;
         bool hasSeparator = false;
         for (std::size_t i = from; i < to; ++i) {
             const std::vector<ColumnSpan>& columns = columnsOf(m_draft.blocks[i]);
-            seen.resize(std::max(seen.size(), columns.size()), {1e9, -1e9});
+            seen.resize(std::max(seen.size(), columns.size()), {{1e9, -1e9}, ColumnLines::EndedByHand});
             for (std::size_t c = 0; c < columns.size(); ++c)
-                seen[c] = {std::min(seen[c].left, columns[c].left), std::max(seen[c].right, columns[c].right)};
+                seen[c].span = {std::min(seen[c].span.left, columns[c].left),
+                                std::max(seen[c].span.right, columns[c].right)};
+            noteLines(m_draft.blocks[i], seen);
             const auto band = static_cast<std::size_t>(m_draft.blocks[i].band);
             const std::vector<Band>& bands = m_draft.pages[m_draft.blocks[i].page].bands;
             hasSeparator = hasSeparator || (band < bands.size() && bands[band].hasSeparator);

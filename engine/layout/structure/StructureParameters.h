@@ -25,6 +25,7 @@ struct StructureParameters {
         double endRoom = 0.05;      ///< of the text's height; what may come out higher than it stood, tables above all
         double sameColumn = 12.0;   ///< points; columns of bands that differ by less are those of one section
         double smallestColumnGap = 6.0; ///< points; between columns
+        double widestColumnGap = 54.0;  ///< likewise, where no line shows that it ends at a column's edge
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
     } pageSetup;
