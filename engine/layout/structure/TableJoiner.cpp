@@ -74,20 +74,33 @@ private:
             return false;
         const int head = countSharedRows(table, next, limits.maximumHeaderRows);
         // A head of its own heads a table of its own; and nothing but a head is a form that each page has.
-        if ((head == 0 && next.table.headerRows > 0) || head == rowCount(next))
+        if ((head == 0 && hasOwnHead(table, next, page)) || head == rowCount(next))
             return false;
         dropFirstRows(next, head);
         // Rows that look like a head but do not stand on the next page again are none that repeats.
         table.table.headerRows = table.furtherParts.empty() ? head : std::max(table.table.headerRows, head);
         setColumnEdges(table, columns->edges, 0, limits.joinedEdge);
         setColumnEdges(next, columns->edges, columns->shift, limits.joinedEdge);
-        const ParagraphContext around{m_context.bodyFontSize, m_context.bodyLeading, m_draft.pages[page].fonts, {}};
+        const ParagraphContext around = contextOf(page);
         if (goesOnWithRow(table, next, around, m_parameters))
             joinRows(table, next, around, m_parameters);
         else
             joinMergedCells(table, next);
         appendRows(table, next);
         return true;
+    }
+
+    ParagraphContext contextOf(std::size_t page) const {
+        return {m_context.bodyFontSize, m_context.bodyLeading, m_draft.pages[page].fonts, {}};
+    }
+
+    /// Whether the first rows of `next` head it: neither the rest of a row that the page break cut nor the heading of
+    /// some rows of the table looks like that for more than the one row.
+    bool hasOwnHead(DraftTable& table, DraftTable& next, std::size_t page) const {
+        if (next.table.headerRows == 0 || startsWithSection(table, next))
+            return false;
+        const bool haveSameColumns = table.table.columnEdges.size() == next.table.columnEdges.size();
+        return !haveSameColumns || !goesOnWithRow(table, next, contextOf(page), m_parameters);
     }
 
     static void appendRows(DraftTable& table, DraftTable& next) {

@@ -34,6 +34,14 @@ bool endsWholly(const DraftTable& table, int rows) {
     });
 }
 
+/// The only cell of a row, if it reaches over all columns.
+const DraftCell* sectionIn(const DraftTable& table, int row) {
+    const std::vector<const DraftCell*> cells = cellsOfRow(table, row);
+    const int columns = static_cast<int>(table.table.columnEdges.size()) - 1;
+    const bool isOne = cells.size() == 1 && cells.front()->cell.columnSpan == columns && columns > 1;
+    return isOne && cells.front()->cell.rowSpan == 1 ? cells.front() : nullptr;
+}
+
 template<typename Predicate>
 std::vector<DraftCell*> selectCells(DraftTable& table, const Predicate& predicate) {
     std::vector<DraftCell*> cells;
@@ -69,6 +77,18 @@ int countSharedRows(const DraftTable& table, const DraftTable& next, int most) {
             shared = row + 1;
     }
     return shared;
+}
+
+bool startsWithSection(const DraftTable& table, const DraftTable& next) {
+    const DraftCell* first = sectionIn(next, 0);
+    if (!first || next.table.headerRows > 1)
+        return false;
+    for (int row = 1; row < rowCount(table); ++row) {
+        const DraftCell* section = sectionIn(table, row);
+        if (section && section->cell.shading == first->cell.shading && hasText({section}) == hasText({first}))
+            return true;
+    }
+    return false;
 }
 
 void dropFirstRows(DraftTable& table, int count) {

@@ -19,6 +19,10 @@ std::string plainTextOf(const DraftCell& cell);
 /// How many of the first rows stand in both tables alike. Rows without text do not count at the end.
 int countSharedRows(const DraftTable& table, const DraftTable& next, int most);
 
+/// Whether the first row of `next` is one cell over all columns, and looks as such a row below the first of `table`
+/// does: it heads the rows that follow, and no table.
+bool startsWithSection(const DraftTable& table, const DraftTable& next);
+
 /// Takes the first `count` rows out. Requires: no cell reaches beyond them.
 void dropFirstRows(DraftTable& table, int count);
 

@@ -3,6 +3,7 @@
 #include "layout/tables/ColumnPieces.h"
 #include "layout/tables/FieldTexts.h"
 #include "layout/tables/ItemLabels.h"
+#include "layout/tables/TextAround.h"
 
 #include <algorithm>
 #include <optional>
@@ -42,6 +43,8 @@ public:
         if (isKeyValues())
             return TableVerdict::KeyValues;
         if (!holdsFields() && isProseInColumns())
+            return TableVerdict::Prose;
+        if (m_evidence == AlignedEvidence::Alignment && runsThrough(m_page, m_aligned, m_parameters))
             return TableVerdict::Prose;
         if (isCode())
             return TableVerdict::Code;
@@ -94,17 +97,32 @@ private:
                });
     }
 
-    /// Whether the last of two columns counts up as page numbers do.
+    /// Whether the last column counts up behind titles as page numbers do; before these may stand their numbers.
     bool endsInPageNumbers() const {
-        return m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment && isRising(m_columns.back(), lines());
+        return m_columns.size() <= 3 && m_evidence == AlignedEvidence::Alignment &&
+               isRising(m_columns.back(), lines()) && (m_columns.size() == 2 || !isOfNumbers(m_columns[1]));
     }
 
-    /// Whether a column that is not the first holds little but the labels of items.
+    bool isOfNumbers(const ColumnPieces& column) const {
+        return column.share([&](const TextPiece* piece) { return isNumeric(*piece, lines()); }) >
+               m_parameters.numericShare;
+    }
+
+    /// Whether the column holds little but the labels of items. Marks in brackets that stay the same count nothing.
+    bool holdsLabels(const ColumnPieces& column) const {
+        std::string last;
+        return column.share([&](const TextPiece* piece) {
+            const std::string text = textOf(*piece, lines());
+            const bool isOther = text != last;
+            last = text;
+            return countsItem(text) || (isLetterInBrackets(text) && isOther);
+        }) > m_parameters.labelShare;
+    }
+
+    /// Whether a column that is not the first holds labels.
     bool hasLabelsWithin() const {
-        return std::any_of(m_columns.begin() + 1, m_columns.end(), [&](const ColumnPieces& column) {
-            return column.share([&](const TextPiece* piece) { return countsItem(textOf(*piece, lines())); }) >
-                   m_parameters.labelShare;
-        });
+        return std::any_of(m_columns.begin() + 1, m_columns.end(),
+                           [&](const ColumnPieces& column) { return holdsLabels(column); });
     }
 
     /// Whether most rows begin some column with a bullet, or a column beside others numbers its items: a list in
@@ -154,17 +172,22 @@ private:
         }) > m_parameters.labelShare;
     }
 
+    /// Keys that end in colons, or stand before a column of colons.
     bool isKeyValues() const {
-        if (m_columns.size() != 2 || m_evidence == AlignedEvidence::Rules || showsRows())
+        if (m_columns.size() > 3 || m_evidence == AlignedEvidence::Rules || showsRows())
             return false;
-        return labels().share([&](const TextPiece* piece) { return textOf(*piece, lines()).back() == ':'; }) >
-               m_parameters.keyShare;
+        const ColumnPieces& keys = m_columns.size() == 2 ? labels() : m_columns[1];
+        return keys.share([&](const TextPiece* piece) {
+            const std::string text = textOf(*piece, lines());
+            return text.back() == ':' && (m_columns.size() == 2 || text.size() == 1);
+        }) > m_parameters.keyShare;
     }
 
     /// Running text in at least two columns, or in narrow columns of which none looks like something else.
     bool isProseInColumns() const {
-        const auto count = std::count_if(m_columns.begin(), m_columns.end(),
-                                         [&](const ColumnPieces& column) { return isProse(column, m_parameters); });
+        const auto count = std::count_if(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
+            return isProse(column, m_parameters) && (m_columns.size() == 2 || !holdsEntries(column, lines()));
+        });
         if (count >= 2 || (count == 1 && m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment))
             return true;
         return std::all_of(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
@@ -222,10 +245,8 @@ private:
 
     /// Whether one of two columns holds numbers: texts side by side may be anything.
     bool hasStrongColumn() const {
-        return std::any_of(m_columns.begin() + 1, m_columns.end(), [&](const ColumnPieces& column) {
-            return column.share([&](const TextPiece* piece) { return isNumeric(*piece, lines()); }) >
-                   m_parameters.numericShare;
-        });
+        return std::any_of(m_columns.begin() + 1, m_columns.end(),
+                           [&](const ColumnPieces& column) { return isOfNumbers(column); });
     }
 
     const PageText& m_page;

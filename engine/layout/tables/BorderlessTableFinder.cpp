@@ -15,7 +15,7 @@ namespace {
 /// The rows of the page that may belong to a table: running text and what lies within drawings is left out.
 std::vector<PieceRow> candidateRows(const PageText& page, const TableParameters::Tables& parameters) {
     std::vector<TextPiece> pieces = cutIntoPieces(page, parameters);
-    const std::vector<char> isProse = markProse(pieces, parameters);
+    const std::vector<char> isProse = markProse(pieces, page.lines, parameters);
     std::vector<TextPiece> kept;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         const bool isDrawn = std::any_of(page.figures.begin(), page.figures.end(), [&](const Figure& figure) {

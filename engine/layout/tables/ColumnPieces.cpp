@@ -1,6 +1,8 @@
 #include "layout/tables/ColumnPieces.h"
 
+#include "base/Utf8.h"
 #include "layout/support/Tally.h"
+#include "layout/text/Characters.h"
 
 #include <charconv>
 #include <string>
@@ -49,6 +51,13 @@ bool isFull(const ColumnPieces& column, const TableParameters::Tables& parameter
 bool isProse(const ColumnPieces& column, const TableParameters::Tables& parameters) {
     return static_cast<int>(column.pieces.size()) >= parameters.proseLines &&
            column.wordsPerPiece() > parameters.proseWords && isFull(column, parameters);
+}
+
+bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines) {
+    return std::all_of(column.pieces.begin(), column.pieces.end(), [&](const TextPiece* piece) {
+        const std::u32string text = utf32FromUtf8(textOf(*piece, lines));
+        return text.size() > 1 && isUpperCase(text[0]) && isLowerCase(text[1]);
+    });
 }
 
 bool isRising(const ColumnPieces& column, const std::vector<Line>& lines) {

@@ -4,6 +4,29 @@
 #include <charconv>
 
 namespace orvane::layout {
+namespace {
+
+bool isLetterOrDigit(char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) != 0;
+}
+
+/// Whether the text is the label of an item below others, as long as it may be: "IX.A.1.", "12.3.4)".
+bool isNestedLabel(std::string_view text) {
+    if (text.size() < 4 || (text.back() != '.' && text.back() != ')'))
+        return false;
+    const std::string_view parts = text.substr(0, text.size() - 1);
+    bool hasPoint = false;
+    for (std::size_t i = 0, length = 0; i < parts.size(); ++i) {
+        const bool isPoint = parts[i] == '.';
+        if (isPoint ? length == 0 || i + 1 == parts.size() : !isLetterOrDigit(parts[i]) || length == 4)
+            return false;
+        hasPoint |= isPoint;
+        length = isPoint ? 0 : length + 1;
+    }
+    return hasPoint;
+}
+
+} // namespace
 
 bool isItemLabel(std::string_view text) {
     const auto isAscii = [](char c) { return (static_cast<unsigned char>(c) & 0x80) == 0; };
@@ -11,12 +34,16 @@ bool isItemLabel(std::string_view text) {
         return true;
     const bool isSymbol = text.size() <= 3 && (!isAscii(text.front()) || text == "-" || text == "*" || text == "o");
     const bool isNumber = text.size() <= 6 && (text.back() == '.' || text.back() == ')');
-    return isSymbol || isNumber;
+    return isSymbol || isNumber || isNestedLabel(text);
 }
 
 bool countsItem(std::string_view text) {
-    return text.size() >= 2 && text.size() <= 3 && std::isalnum(static_cast<unsigned char>(text.front())) != 0 &&
+    return text.size() >= 2 && text.size() <= 3 && isLetterOrDigit(text.front()) &&
            (text.back() == '.' || text.back() == ')');
+}
+
+bool isLetterInBrackets(std::string_view text) {
+    return text.size() == 3 && text.front() == '(' && text[1] >= 'a' && text[1] <= 'z' && text.back() == ')';
 }
 
 std::optional<long> lineNumberOf(std::string_view text) {

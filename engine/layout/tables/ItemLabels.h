@@ -5,11 +5,14 @@
 
 namespace orvane::layout {
 
-/// Whether the text is the label of an item in a list, or a place to tick: "1.", "a)", "(iv)", a bullet.
+/// Whether the text is the label of an item in a list, or a place to tick: "1.", "a)", "(iv)", "2.1.3.", a bullet.
 bool isItemLabel(std::string_view text);
 
 /// Whether the text counts the items of a list, and is no number in brackets: "b.", "12)".
 bool countsItem(std::string_view text);
+
+/// Whether the text is a small letter in brackets, as the items of laws are counted: "(b)".
+bool isLetterInBrackets(std::string_view text);
 
 /// The number of a line in a listing, "12:"; nothing for other texts.
 std::optional<long> lineNumberOf(std::string_view text);

@@ -22,22 +22,39 @@ bool followsOn(const TextPiece& above, const TextPiece& below, const TableParame
     return shared > parameters.proseFill * narrower;
 }
 
-bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& lines,
-                   const TableParameters::Tables& parameters) {
-    if (static_cast<int>(lines.size()) < parameters.proseLines - 1)
+/// Whether all lines but the last of a paragraph within end where the first word of the next has no room: however
+/// ragged, they are one text.
+bool isWrapped(const std::vector<TextPiece>& pieces, std::vector<std::size_t> order, const std::vector<Line>& lines,
+               const TableParameters::Tables& parameters) {
+    std::sort(order.begin(), order.end(),
+              [&](std::size_t a, std::size_t b) { return pieces[a].baseline < pieces[b].baseline; });
+    Rect column;
+    for (const std::size_t i : order)
+        column = column.united(pieces[i].box);
+    std::size_t ends = 0;
+    for (std::size_t i = 1; i < order.size(); ++i)
+        ends += hasRoomBehind(pieces[order[i - 1]], pieces[order[i]], column, lines, parameters);
+    return ends <= 1;
+}
+
+bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& order,
+                   const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    if (static_cast<int>(order.size()) < parameters.proseLines - 1)
         return false;
     double words = 0;
     double widest = 0;
-    for (const std::size_t i : lines) {
+    for (const std::size_t i : order) {
         words += static_cast<double>(pieces[i].wordCount());
         widest = std::max(widest, pieces[i].box.width());
     }
-    const auto full = std::count_if(lines.begin(), lines.end(), [&](std::size_t i) {
+    const auto full = std::count_if(order.begin(), order.end(), [&](std::size_t i) {
         return pieces[i].box.width() > parameters.proseFill * widest;
     });
-    const auto count = static_cast<double>(lines.size());
-    return words > parameters.proseWords * count && static_cast<double>(full) > parameters.proseFullShare * count &&
-           widest > parameters.proseWidth * pieces[lines.front()].fontSize;
+    const auto count = static_cast<double>(order.size());
+    if (widest <= parameters.proseWidth * pieces[order.front()].fontSize || words <= parameters.proseWords * count)
+        return false;
+    return static_cast<double>(full) > parameters.proseFullShare * count ||
+           (static_cast<int>(order.size()) > parameters.proseLines && isWrapped(pieces, order, lines, parameters));
 }
 
 /// Whether a few lines are the text of one cell: shorter texts begin beside them in two other columns at least.
@@ -57,7 +74,8 @@ bool isTextOfCell(const std::vector<TextPiece>& pieces, const std::vector<std::s
 
 } // namespace
 
-std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TableParameters::Tables& parameters) {
+std::vector<char> markProse(const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
+                            const TableParameters::Tables& parameters) {
     std::vector<std::size_t> order(pieces.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(),
@@ -77,9 +95,9 @@ std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TablePar
     }
     std::vector<char> isProse(pieces.size(), 0);
     const std::vector<std::vector<std::size_t>> groups = texts.groups();
-    for (const std::vector<std::size_t>& lines : groups)
-        if (isRunningText(pieces, lines, parameters) && !isTextOfCell(pieces, lines, groups, parameters))
-            for (const std::size_t i : lines)
+    for (const std::vector<std::size_t>& text : groups)
+        if (isRunningText(pieces, text, lines, parameters) && !isTextOfCell(pieces, text, groups, parameters))
+            for (const std::size_t i : text)
                 isProse[i] = 1;
     return isProse;
 }

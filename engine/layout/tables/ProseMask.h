@@ -7,7 +7,8 @@
 namespace orvane::layout {
 
 /// For each piece whether it is a line of running text: one of several long lines one below the other that fill their
-/// column.
-std::vector<char> markProse(const std::vector<TextPiece>& pieces, const TableParameters::Tables& parameters);
+/// column, or go on in the next because its first word has no room.
+std::vector<char> markProse(const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
+                            const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

@@ -106,7 +106,11 @@ private:
         return 2 * wrapped > static_cast<int>(cell.pieces.size()) - 1;
     }
 
+    /// Dashes alone are a line that is drawn with them.
     bool isColumnOfNumbers(const std::vector<TextPiece>& pieces) const {
+        if (std::all_of(pieces.begin(), pieces.end(),
+                        [&](const TextPiece& piece) { return isDash(textOf(piece, m_lines)); }))
+            return false;
         const auto numbers = std::count_if(pieces.begin(), pieces.end(),
                                            [&](const TextPiece& piece) { return isNumeric(piece, m_lines); });
         return !pieces.empty() &&

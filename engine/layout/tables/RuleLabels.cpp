@@ -16,7 +16,7 @@ public:
         : m_pieces(pieces)
         , m_lines(lines)
         , m_parameters(parameters)
-        , m_isProse(markProse(pieces, parameters)) {}
+        , m_isProse(markProse(pieces, lines, parameters)) {}
 
     /// Where the labels of the rows between or below the rules begin; nothing when these have none outside.
     std::optional<double> labelsOf(const RuleStack& stack) const {

@@ -21,7 +21,7 @@ void addRule(PageText& page, RuleDirection direction, double position, double fr
 }
 
 /// What a test says about a page with one ruled table: rows of 40 points, columns of 100 points from `left` on; lines
-/// of a cell are parted by '/'. A cell of "^" belongs to the one above.
+/// of a cell are parted by '/'. A cell of "^" belongs to the one above, one of "<" to the one before.
 struct TablePage {
     Rows rows;
     double left = 72;
@@ -32,10 +32,12 @@ PageLayout layoutOf(const TablePage& source, int number) {
     PageText page = makePage(number);
     page.fonts.front().spaceWidth = 0.5;
     const double top = 72;
-    const double bottom = top + 40 * static_cast<double>(source.rows.size());
     const auto columns = static_cast<int>(source.rows.front().size());
     for (int i = 0; i <= columns; ++i)
-        addRule(page, RuleDirection::Vertical, source.left + 100 * i, top, bottom);
+        for (std::size_t row = 0; row < source.rows.size(); ++row)
+            if (i == columns || source.rows[row][static_cast<std::size_t>(i)] != "<")
+                addRule(page, RuleDirection::Vertical, source.left + 100 * i, top + 40 * static_cast<double>(row),
+                        top + 40 * static_cast<double>(row + 1));
     for (std::size_t i = 0; i <= source.rows.size(); ++i) {
         for (int column = 0; column < columns; ++column) {
             if (i < source.rows.size() && source.rows[i][static_cast<std::size_t>(column)] == "^")
@@ -47,7 +49,7 @@ PageLayout layoutOf(const TablePage& source, int number) {
     for (std::size_t row = 0; row < source.rows.size(); ++row) {
         for (std::size_t column = 0; column < source.rows[row].size(); ++column) {
             double baseline = top + 40 * static_cast<double>(row) + 12;
-            if (source.rows[row][column] == "^")
+            if (source.rows[row][column] == "^" || source.rows[row][column] == "<")
                 continue;
             std::stringstream text(source.rows[row][column]);
             for (std::string line; std::getline(text, line, '/'); baseline += 12)
@@ -140,6 +142,20 @@ TEST(TableJoiner, LeavesTablesWithOtherColumnsApart) {
 TEST(TableJoiner, LeavesATableWithAHeadOfItsOwnApart) {
     EXPECT_EQ(joinedTables({{{{"a", "1"}, {"b", "2"}}}, {{{"Other", "Head"}, {"d", "4"}}, 72, true}}),
               "a|1/b|2 & *Other|Head/d|4");
+}
+
+TEST(TableJoiner, TakesTheHeadingOfSomeRowsForNoHead) {
+    EXPECT_EQ(joinedTables({{{{"North", "<"}, {"a", "1"}, {"South", "<"}, {"b", "2"}}},
+                            {{{"West", "<"}, {"c", "3"}}, 72, true}}),
+              "North/a|1/South/b|2/West/c|3");
+    EXPECT_EQ(joinedTables({{{{"a", "1"}, {"b", "2"}}}, {{{"West", "<"}, {"c", "3"}}, 72, true}}),
+              "a|1/b|2 & *West/c|3");
+}
+
+TEST(TableJoiner, TakesTheRestOfACutRowForNoHead) {
+    EXPECT_EQ(joinedTables({{{{"why it is so that a/long text goes on", "1"}}, 72, true},
+                            {{{"behind the page", ""}, {"why not", "2"}}, 72, true}}),
+              "why it is so that a long text goes on behind the page|1/why not|2");
 }
 
 TEST(TableJoiner, LeavesAFormThatEachPageHasApart) {

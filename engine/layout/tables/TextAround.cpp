@@ -1,0 +1,80 @@
+#include "layout/tables/TextAround.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace orvane::layout {
+namespace {
+
+/// Goes from line to line of the text above or below some rows.
+class TextBeyond {
+public:
+    TextBeyond(const PageText& page, const AlignedRows& aligned, const TableParameters::Tables& parameters)
+        : m_page(page)
+        , m_parameters(parameters)
+        , m_fontSize(aligned.rows.front().fontSize) {
+        for (const PieceRow& row : aligned.rows)
+            m_box = m_box.united(row.box);
+        m_pitch = (aligned.rows.back().lastBaseline - aligned.rows.front().baseline) /
+                  static_cast<double>(std::max<std::size_t>(aligned.rows.size() - 1, 1));
+    }
+
+    /// How many lines of running text follow each other from `baseline` on, upwards (-1) or downwards (1).
+    std::size_t follow(double baseline, int side) const {
+        std::size_t count = 0;
+        for (std::optional<double> next = nextLine(baseline, side); next; next = nextLine(*next, side))
+            ++count;
+        return count;
+    }
+
+    /// Whether no text stands within the columns of the rows, from `baseline` on.
+    bool isEmptyBeyond(double baseline, int side) const {
+        return std::none_of(m_page.lines.begin(), m_page.lines.end(), [&](const Line& line) {
+            return (line.baseline - baseline) * side > m_parameters.rowSnap * m_fontSize &&
+                   overlap(line.box.left, line.box.right, m_box.left, m_box.right) > 0;
+        });
+    }
+
+private:
+    /// The baseline of the running text one pitch beyond `baseline`, if it stands there between the edges of the rows.
+    /// Lines of one word may be cells.
+    std::optional<double> nextLine(double baseline, int side) const {
+        const double snap = m_parameters.rowSnap * m_fontSize;
+        Rect box;
+        double words = 0, parts = 0;
+        for (const Line& line : m_page.lines) {
+            if (line.angle != 0 || std::abs((line.baseline - baseline) * side - m_pitch) > snap ||
+                overlap(line.box.left, line.box.right, m_box.left, m_box.right) <= 0)
+                continue;
+            box = box.united(line.box);
+            words += static_cast<double>(line.words.size());
+            parts += 1;
+        }
+        const double edge = m_parameters.startSnap;
+        const bool isThere = parts > 0 && std::abs(box.left - m_box.left) <= edge &&
+                             std::abs(box.right - m_box.right) <= edge && words >= 2 * parts;
+        return isThere ? std::optional(baseline + side * m_pitch) : std::nullopt;
+    }
+
+    const PageText& m_page;
+    const TableParameters::Tables& m_parameters;
+    Rect m_box;
+    double m_fontSize;
+    double m_pitch;
+};
+
+} // namespace
+
+bool runsThrough(const PageText& page, const AlignedRows& aligned, const TableParameters::Tables& parameters) {
+    const TextBeyond beyond(page, aligned, parameters);
+    const double first = aligned.rows.front().baseline;
+    const double last = aligned.rows.back().lastBaseline;
+    const std::size_t above = beyond.follow(first, -1);
+    if (above == 0)
+        return false;
+    return beyond.follow(last, 1) > 0 ||
+           (static_cast<int>(above) >= parameters.proseLines && beyond.isEmptyBeyond(last, 1));
+}
+
+} // namespace orvane::layout
