@@ -106,15 +106,16 @@ private:
         return 2 * wrapped > static_cast<int>(cell.pieces.size()) - 1;
     }
 
-    /// Dashes alone are a line that is drawn with them.
+    /// Dashes alone, and letters between them, are a line that is drawn with them.
     bool isColumnOfNumbers(const std::vector<TextPiece>& pieces) const {
-        if (std::all_of(pieces.begin(), pieces.end(),
-                        [&](const TextPiece& piece) { return isDash(textOf(piece, m_lines)); }))
+        const auto isNumber = [&](const TextPiece& piece) {
+            return isNumeric(piece, m_lines) && !isDash(textOf(piece, m_lines));
+        };
+        if (std::none_of(pieces.begin(), pieces.end(), isNumber))
             return false;
         const auto numbers = std::count_if(pieces.begin(), pieces.end(),
                                            [&](const TextPiece& piece) { return isNumeric(piece, m_lines); });
-        return !pieces.empty() &&
-               static_cast<double>(numbers) >= m_parameters.numberedShare * static_cast<double>(pieces.size());
+        return static_cast<double>(numbers) >= m_parameters.numberedShare * static_cast<double>(pieces.size());
     }
 
     TextRows rowsOf(const std::vector<PieceRow>& rows) const {

@@ -7,6 +7,12 @@
 namespace orvane::layout {
 namespace {
 
+/// Which edges of the rows a line of running text must reach.
+enum class Reach {
+    BothEdges,
+    OneEdge, ///< it may be the first line of a paragraph, or the last
+};
+
 /// Goes from line to line of the text above or below some rows.
 class TextBeyond {
 public:
@@ -20,26 +26,28 @@ public:
                   static_cast<double>(std::max<std::size_t>(aligned.rows.size() - 1, 1));
     }
 
-    /// How many lines of running text follow each other from `baseline` on, upwards (-1) or downwards (1).
-    std::size_t follow(double baseline, int side) const {
+    /// How many lines of running text follow each other from `baseline` on upwards.
+    std::size_t countAbove(double baseline) const {
         std::size_t count = 0;
-        for (std::optional<double> next = nextLine(baseline, side); next; next = nextLine(*next, side))
+        for (auto next = nextLine(baseline, -1, Reach::BothEdges); next; next = nextLine(*next, -1, Reach::BothEdges))
             ++count;
         return count;
     }
 
-    /// Whether no text stands within the columns of the rows, from `baseline` on.
-    bool isEmptyBeyond(double baseline, int side) const {
+    bool goesOnBelow(double baseline) const { return nextLine(baseline, 1, Reach::OneEdge).has_value(); }
+
+    /// Whether no text stands below `baseline` within the columns of the rows.
+    bool isEmptyBelow(double baseline) const {
         return std::none_of(m_page.lines.begin(), m_page.lines.end(), [&](const Line& line) {
-            return (line.baseline - baseline) * side > m_parameters.rowSnap * m_fontSize &&
+            return line.baseline - baseline > m_parameters.rowSnap * m_fontSize &&
                    overlap(line.box.left, line.box.right, m_box.left, m_box.right) > 0;
         });
     }
 
 private:
-    /// The baseline of the running text one pitch beyond `baseline`, if it stands there between the edges of the rows.
-    /// Lines of one word may be cells.
-    std::optional<double> nextLine(double baseline, int side) const {
+    /// The baseline of the running text one pitch above (-1) or below (1) `baseline`, if it stands there between the
+    /// edges of the rows. Lines of one word may be cells.
+    std::optional<double> nextLine(double baseline, int side, Reach reach) const {
         const double snap = m_parameters.rowSnap * m_fontSize;
         Rect box;
         double words = 0, parts = 0;
@@ -52,8 +60,10 @@ private:
             parts += 1;
         }
         const double edge = m_parameters.startSnap;
-        const bool isThere = parts > 0 && std::abs(box.left - m_box.left) <= edge &&
-                             std::abs(box.right - m_box.right) <= edge && words >= 2 * parts;
+        const double before = box.left - m_box.left;
+        const double behind = m_box.right - box.right;
+        const double room = reach == Reach::BothEdges ? std::max(before, behind) : std::min(before, behind);
+        const bool isThere = parts > 0 && std::min(before, behind) >= -edge && room <= edge && words >= 2 * parts;
         return isThere ? std::optional(baseline + side * m_pitch) : std::nullopt;
     }
 
@@ -70,11 +80,10 @@ bool runsThrough(const PageText& page, const AlignedRows& aligned, const TablePa
     const TextBeyond beyond(page, aligned, parameters);
     const double first = aligned.rows.front().baseline;
     const double last = aligned.rows.back().lastBaseline;
-    const std::size_t above = beyond.follow(first, -1);
+    const std::size_t above = beyond.countAbove(first);
     if (above == 0)
         return false;
-    return beyond.follow(last, 1) > 0 ||
-           (static_cast<int>(above) >= parameters.proseLines && beyond.isEmptyBeyond(last, 1));
+    return beyond.goesOnBelow(last) || (static_cast<int>(above) >= parameters.proseLines && beyond.isEmptyBelow(last));
 }
 
 } // namespace orvane::layout
