@@ -209,17 +209,29 @@ private:
         return static_cast<double>(counted) > m_parameters.labelShare * static_cast<double>(m_aligned.rows.size());
     }
 
+    bool isInTypewriter(const TextPiece& piece) const {
+        const Look& look = lines()[piece.line].words[piece.firstWord].spans.front().look;
+        return look.font < m_page.fonts.size() && m_page.fonts[look.font].isFixedPitch;
+    }
+
+    /// Whether numbers in another font count the lines of a column in a typewriter's.
+    bool areTypedLinesCounted() const {
+        const auto typed = [&](const TextPiece* piece) { return isInTypewriter(*piece); };
+        for (std::size_t i = 1; i < m_columns.size(); ++i)
+            if (m_columns[i].share(typed) > m_parameters.codeShare && m_columns[i - 1].share(typed) == 0 &&
+                isRising(m_columns[i - 1], lines()) && !m_columns[i - 1].pieces.empty())
+                return true;
+        return false;
+    }
+
     bool isCode() const {
         if (areLinesCounted())
             return true;
         if (m_evidence == AlignedEvidence::Rules)
             return false;
-        return m_columns.size() == 2 &&
-               shareOfRows([&](const PieceRow& row) {
-                   const TextPiece& piece = row.pieces.front();
-                   const Look& look = lines()[piece.line].words[piece.firstWord].spans.front().look;
-                   return look.font < m_page.fonts.size() && m_page.fonts[look.font].isFixedPitch;
-               }) > m_parameters.codeShare;
+        return areTypedLinesCounted() || (m_columns.size() == 2 && shareOfRows([&](const PieceRow& row) {
+                                                                       return isInTypewriter(row.pieces.front());
+                                                                   }) > m_parameters.codeShare);
     }
 
     bool isSparse() const {

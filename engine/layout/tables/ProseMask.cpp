@@ -37,10 +37,16 @@ bool isWrapped(const std::vector<TextPiece>& pieces, std::vector<std::size_t> or
     return ends <= 1;
 }
 
-bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& order,
-                   const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+enum class TextKind {
+    Other,
+    Ragged, ///< running text by its line ends only
+    Full,
+};
+
+TextKind kindOf(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& order,
+                const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     if (static_cast<int>(order.size()) < parameters.proseLines - 1)
-        return false;
+        return TextKind::Other;
     double words = 0;
     double widest = 0;
     for (const std::size_t i : order) {
@@ -52,9 +58,23 @@ bool isRunningText(const std::vector<TextPiece>& pieces, const std::vector<std::
     });
     const auto count = static_cast<double>(order.size());
     if (widest <= parameters.proseWidth * pieces[order.front()].fontSize || words <= parameters.proseWords * count)
-        return false;
-    return static_cast<double>(full) > parameters.proseFullShare * count ||
-           (static_cast<int>(order.size()) > parameters.proseLines && isWrapped(pieces, order, lines, parameters));
+        return TextKind::Other;
+    if (static_cast<double>(full) > parameters.proseFullShare * count)
+        return TextKind::Full;
+    const bool isRagged =
+        static_cast<int>(order.size()) > parameters.proseLines && isWrapped(pieces, order, lines, parameters);
+    return isRagged ? TextKind::Ragged : TextKind::Other;
+}
+
+/// Whether a text of one line stands beside one of the lines: these are what belongs to that label.
+bool standsBesideLabel(const std::vector<TextPiece>& pieces, const std::vector<std::size_t>& lines,
+                       const std::vector<std::vector<std::size_t>>& texts, const TableParameters::Tables& parameters) {
+    return std::any_of(texts.begin(), texts.end(), [&](const std::vector<std::size_t>& other) {
+        return other.size() == 1 && std::any_of(lines.begin(), lines.end(), [&](std::size_t i) {
+                   return std::abs(pieces[i].baseline - pieces[other.front()].baseline) <=
+                          parameters.rowSnap * pieces[i].fontSize;
+               });
+    });
 }
 
 /// Whether a few lines are the text of one cell: shorter texts begin beside them in two other columns at least.
@@ -95,10 +115,14 @@ std::vector<char> markProse(const std::vector<TextPiece>& pieces, const std::vec
     }
     std::vector<char> isProse(pieces.size(), 0);
     const std::vector<std::vector<std::size_t>> groups = texts.groups();
-    for (const std::vector<std::size_t>& text : groups)
-        if (isRunningText(pieces, text, lines, parameters) && !isTextOfCell(pieces, text, groups, parameters))
-            for (const std::size_t i : text)
-                isProse[i] = 1;
+    for (const std::vector<std::size_t>& text : groups) {
+        const TextKind kind = kindOf(pieces, text, lines, parameters);
+        if (kind == TextKind::Other || isTextOfCell(pieces, text, groups, parameters) ||
+            (kind == TextKind::Ragged && standsBesideLabel(pieces, text, groups, parameters)))
+            continue;
+        for (const std::size_t i : text)
+            isProse[i] = 1;
+    }
     return isProse;
 }
 

@@ -18,6 +18,7 @@ class TextBeyond {
 public:
     TextBeyond(const PageText& page, const AlignedRows& aligned, const TableParameters::Tables& parameters)
         : m_page(page)
+        , m_pieces(cutIntoPieces(page, parameters))
         , m_parameters(parameters)
         , m_fontSize(aligned.rows.front().fontSize) {
         for (const PieceRow& row : aligned.rows)
@@ -46,28 +47,29 @@ public:
 
 private:
     /// The baseline of the running text one pitch above (-1) or below (1) `baseline`, if it stands there between the
-    /// edges of the rows. Lines of one word may be cells.
+    /// edges of the rows. Texts that are most often one word may be cells.
     std::optional<double> nextLine(double baseline, int side, Reach reach) const {
         const double snap = m_parameters.rowSnap * m_fontSize;
         Rect box;
-        double words = 0, parts = 0;
-        for (const Line& line : m_page.lines) {
-            if (line.angle != 0 || std::abs((line.baseline - baseline) * side - m_pitch) > snap ||
-                overlap(line.box.left, line.box.right, m_box.left, m_box.right) <= 0)
+        std::size_t words = 0, texts = 0;
+        for (const TextPiece& piece : m_pieces) {
+            if (std::abs((piece.baseline - baseline) * side - m_pitch) > snap ||
+                overlap(piece.box.left, piece.box.right, m_box.left, m_box.right) <= 0)
                 continue;
-            box = box.united(line.box);
-            words += static_cast<double>(line.words.size());
-            parts += 1;
+            words += piece.wordCount();
+            ++texts;
+            box = box.united(piece.box);
         }
         const double edge = m_parameters.startSnap;
         const double before = box.left - m_box.left;
         const double behind = m_box.right - box.right;
         const double room = reach == Reach::BothEdges ? std::max(before, behind) : std::min(before, behind);
-        const bool isThere = parts > 0 && std::min(before, behind) >= -edge && room <= edge && words >= 2 * parts;
+        const bool isThere = words > 0 && words >= 2 * texts && std::min(before, behind) >= -edge && room <= edge;
         return isThere ? std::optional(baseline + side * m_pitch) : std::nullopt;
     }
 
     const PageText& m_page;
+    std::vector<TextPiece> m_pieces;
     const TableParameters::Tables& m_parameters;
     Rect m_box;
     double m_fontSize;
