@@ -185,6 +185,7 @@ DocumentContext analyseDocument(const std::vector<PageText>& pages, const Layout
     context.doublesBlanks = areBlanksDoubled(pages, limits);
     context.partsScripts = areScriptsParted(pages);
     context.vocabulary = collectVocabulary(pages, limits);
+    context.compounds = CompoundWords(context.vocabulary);
     context.division = findDivision(pages, context.vocabulary, parameters.division);
     context.language = guessLanguage(pages, parameters.languages);
     return context;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "layout/paragraphs/CompoundWords.h"
 #include "layout/text/WordDivision.h"
 
 #include <string>
@@ -20,7 +21,8 @@ struct DocumentContext {
     bool partsScripts = false;  ///< blanks are typed between East Asian and other letters
     std::string language;       ///< BCP 47, as the words tell it; empty where they do not
     std::unordered_set<std::string>
-        vocabulary; ///< words that stand whole within a line, lower case; to judge hyphens by
+        vocabulary;          ///< words that stand whole within a line, lower case; to judge hyphens by
+    CompoundWords compounds; ///< among them
 };
 
 } // namespace orvane::layout

@@ -150,7 +150,8 @@ private:
         const DocumentContext& document = m_context.document;
         return resolveLineEnd(m_before->text, textOf(word), document.vocabulary,
                               document.partsScripts ? ScriptBoundary::Blank : ScriptBoundary::Joined,
-                              document.division == WordDivision::Never ? HyphenSource::Typed : HyphenSource::Divided);
+                              document.division == WordDivision::Never ? HyphenSource::Typed : HyphenSource::Divided,
+                              document.compounds);
     }
 
     /// Ends the line before `word`. A word divided there stays one word, that it can be found and spelled.

@@ -52,9 +52,18 @@ bool isConjunction(std::u32string_view word) {
     return std::find(std::begin(kConjunctions), std::end(kConjunctions), word) != std::end(kConjunctions);
 }
 
+/// Whether the document's words tell that the two are parts of a compound rather than of one word.
+bool areCompound(const std::u32string& head, const std::u32string& tail,
+                 const std::unordered_set<std::string>& vocabulary, const CompoundWords& compounds) {
+    const bool isWord = knows(vocabulary, head);
+    return (isWord && (knows(vocabulary, tail) || compounds.mayEnd(utf8FromUtf32(lowerCase(tail))))) ||
+           compounds.surelyBegins(utf8FromUtf32(lowerCase(head)));
+}
+
 /// A hyphen between letters at the end of a line: of the line, or of the word?
 LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
-                       const std::unordered_set<std::string>& vocabulary, HyphenSource source) {
+                       const std::unordered_set<std::string>& vocabulary, const CompoundWords& compounds,
+                       HyphenSource source) {
     std::u32string_view stem = last;
     stem.remove_suffix(1);
     const std::u32string_view head = core(stem);
@@ -74,8 +83,8 @@ LineJoin resolveHyphen(const std::u32string& last, const std::u32string& next,
         return LineJoin::Nothing;
     if (source == HyphenSource::Typed)
         return LineJoin::Nothing;
-    const bool bothAreWords = knows(vocabulary, std::u32string(head)) && knows(vocabulary, std::u32string(tail));
-    return bothAreWords ? LineJoin::Nothing : LineJoin::DropHyphen;
+    return areCompound(std::u32string(head), std::u32string(tail), vocabulary, compounds) ? LineJoin::Nothing
+                                                                                          : LineJoin::DropHyphen;
 }
 
 /// Korean has blanks between words, but lines may end behind any syllable: the document tells where it has the word
@@ -91,8 +100,8 @@ bool isDividedHangul(const std::u32string& last, const std::u32string& next,
 } // namespace
 
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
-                        const std::unordered_set<std::string>& vocabulary, ScriptBoundary boundary,
-                        HyphenSource source) {
+                        const std::unordered_set<std::string>& vocabulary, ScriptBoundary boundary, HyphenSource source,
+                        const CompoundWords& compounds) {
     const std::u32string last = utf32FromUtf8(lastWord);
     const std::u32string next = utf32FromUtf8(nextWord);
     if (last.empty() || next.empty())
@@ -113,7 +122,7 @@ LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
     if (end == kSoftHyphen)
         return LineJoin::DropHyphen;
     if ((end == U'-' || end == U'\u2010') && isLetter(before))
-        return resolveHyphen(last, next, vocabulary, source);
+        return resolveHyphen(last, next, vocabulary, compounds, source);
     // A dash set without blanks: "word-dash" "word".
     if (end == U'-' || end == U'\u2014')
         return LineJoin::Nothing;

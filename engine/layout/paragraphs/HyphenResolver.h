@@ -1,5 +1,7 @@
 #pragma once
 
+#include "layout/paragraphs/CompoundWords.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,9 +26,10 @@ enum class HyphenSource : std::uint8_t {
 };
 
 /// Decides how the last word of a line meets the first word of the next. `vocabulary` are words that stand whole
-/// somewhere in the document, lower case (DocumentContext::vocabulary).
+/// somewhere in the document, lower case (DocumentContext::vocabulary), `compounds` what they show of compounds.
 LineJoin resolveLineEnd(std::string_view lastWord, std::string_view nextWord,
                         const std::unordered_set<std::string>& vocabulary,
-                        ScriptBoundary boundary = ScriptBoundary::Joined, HyphenSource source = HyphenSource::Divided);
+                        ScriptBoundary boundary = ScriptBoundary::Joined, HyphenSource source = HyphenSource::Divided,
+                        const CompoundWords& compounds = {});
 
 } // namespace orvane::layout

@@ -37,6 +37,20 @@ TEST(HyphenResolver, JoinsLineEnds) {
             << row.last << ' ' << row.next << ": " << row.why;
 }
 
+TEST(HyphenResolver, KeepsHyphensOfCompoundsLikeOthersInTheDocument) {
+    const std::unordered_set<std::string> vocabulary = {"well-known", "multi-agent",     "multiple", "well",
+                                                        "two-stage",  "low-dimensional", "high",     "non-root"};
+    const CompoundWords compounds(vocabulary);
+    const auto resolve = [&](const char* last, const char* next) {
+        return resolveLineEnd(last, next, vocabulary, ScriptBoundary::Joined, HyphenSource::Divided, compounds);
+    };
+    EXPECT_EQ(resolve("well-", "studied"), LineJoin::Nothing) << "as in well-known; no other word starts so";
+    EXPECT_EQ(resolve("Non-", "linear,"), LineJoin::Nothing) << "as in non-root";
+    EXPECT_EQ(resolve("multi-", "plier"), LineJoin::DropHyphen) << "multiple is one word";
+    EXPECT_EQ(resolve("high-", "dimensional"), LineJoin::Nothing) << "a word, and the end of low-dimensional";
+    EXPECT_EQ(resolve("inter-", "dimensional"), LineJoin::DropHyphen) << "inter is no word here";
+}
+
 TEST(HyphenResolver, JoinsKoreanWordsThatALineCuts) {
     const std::unordered_set<std::string> vocabulary = {"\uAC10\uC5FC\uBCD1", "\uBCF4\uD5D8", "\uC57D\uAD00",
                                                         "\uBCF4\uD5D8\uC57D\uAD00"};
