@@ -105,7 +105,7 @@ void takeRules(PageText& page, std::size_t index, const std::vector<RepeatedRule
         std::optional<RunningHead>& head = common.edge == PageEdge::Top ? heads.header : heads.footer;
         if (!head)
             head = emptyHead(page);
-        head->key += '_' + std::to_string(std::lround(common.rule.position)) + '\n';
+        head->rules += '_' + std::to_string(std::lround(common.rule.position)) + '\n';
         moveParts(page.rules, head->content.rules,
                   [&](const Rule& rule) { return isSamePlace(rule, common.rule, limits); });
     }

@@ -14,7 +14,8 @@ namespace orvane::layout {
 struct RunningHead {
     PageText content; ///< its lines, rules, grounds and pictures where they stood; size and fonts of the page
     std::vector<RunningField> fields;
-    std::string key; ///< equal for heads that show the same, page numbers aside
+    std::string key;   ///< equal for heads that show the same, page numbers and rules aside
+    std::string rules; ///< equal for heads with the same rules
 };
 
 struct PageRunningHeads {

@@ -1,25 +1,56 @@
 #include "layout/running/RunningScheme.h"
 
+#include "layout/support/Tally.h"
+
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <string>
 
 namespace orvane::layout {
 namespace {
 
-/// What the heads of a page say; empty for a page without.
-std::string keyOf(const PageRunningHeads& heads) {
-    std::string key = heads.header ? heads.header->key : "";
+/// What the heads of a page say and how; both empty for a page without.
+struct HeadKey {
+    std::string text;
+    std::string rules;
+};
+
+HeadKey keyOf(const PageRunningHeads& heads) {
+    HeadKey key;
+    if (heads.header)
+        key = {heads.header->key, heads.header->rules};
     if (heads.footer)
-        key += '\f' + heads.footer->key;
+        key = {key.text + '\f' + heads.footer->key, key.rules + '\f' + heads.footer->rules};
     return key;
+}
+
+/// The rules that most pages of one text have. A page without them has them in a drawing that touches them.
+std::map<std::string, std::string> usualRules(const std::vector<HeadKey>& keys) {
+    std::map<std::string, Tally<std::string>> seen;
+    for (const HeadKey& key : keys)
+        seen[key.text].add(key.rules);
+    std::map<std::string, std::string> usual;
+    for (const auto& [text, rules] : seen)
+        usual.emplace(text, *rules.heaviest());
+    return usual;
+}
+
+bool isBlank(const std::string& key) {
+    return key.find_first_not_of("\f\n") == std::string::npos;
 }
 
 class SchemeFinder {
 public:
     SchemeFinder(const std::vector<PageRunningHeads>& heads, const std::vector<SectionChance>& chances)
         : m_chances(chances) {
+        std::vector<HeadKey> keys;
+        std::transform(heads.begin(), heads.end(), std::back_inserter(keys), keyOf);
+        const std::map<std::string, std::string> usual = usualRules(keys);
         for (std::size_t i = 0; i < heads.size(); ++i) {
-            m_keys.push_back(keyOf(heads[i]));
+            const HeadKey& key = keys[i];
+            m_isWhole.push_back(isBlank(key.text) || !isBlank(key.rules) || isBlank(usual.at(key.text)));
+            m_keys.push_back(key.text + (m_isWhole.back() ? key.rules : usual.at(key.text)));
             m_isEven.push_back((heads[i].number ? heads[i].number->value : static_cast<int>(i) + 1) % 2 == 0);
         }
     }
@@ -31,6 +62,7 @@ public:
             while (limit < m_keys.size() && m_chances[limit] != SectionChance::Must)
                 ++limit;
             schemes.push_back(schemeFrom(start, limit));
+            showWhole(schemes.back());
             start = schemes.back().lastPage + 1;
         }
         return schemes;
@@ -59,6 +91,20 @@ private:
         const std::size_t even = m_isEven[first] ? first : first + 1;
         const std::size_t odd = m_isEven[first] ? first + 1 : first;
         return {start, start, odd, even, first != start};
+    }
+
+    /// Names pages that show the heads with their rules, if there are any.
+    void showWhole(RunningScheme& scheme) const {
+        scheme.standard = wholePage(scheme, scheme.standard);
+        if (scheme.even)
+            scheme.even = wholePage(scheme, *scheme.even);
+    }
+
+    std::size_t wholePage(const RunningScheme& scheme, std::size_t like) const {
+        for (std::size_t page = like; page <= scheme.lastPage; ++page)
+            if (m_isWhole[page] && m_keys[page] == m_keys[like])
+                return page;
+        return like;
     }
 
     bool fits(const RunningScheme& scheme, std::size_t page) const {
@@ -94,6 +140,7 @@ private:
     const std::vector<SectionChance>& m_chances;
     std::vector<std::string> m_keys;
     std::vector<bool> m_isEven;
+    std::vector<bool> m_isWhole; ///< the page's heads have the rules that go with their text
 };
 
 } // namespace

@@ -76,7 +76,7 @@ RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningH
     if (!head)
         return std::nullopt;
     const std::string key =
-        fmt::format("{} {:.0f} {:.0f} {}", side, head->content.width, head->content.height, head->key);
+        fmt::format("{} {:.0f} {:.0f} {}{}", side, head->content.width, head->content.height, head->key, head->rules);
     if (const auto made = m_made.find(key); made != m_made.end())
         return made->second;
     PageText content = head->content;

@@ -47,6 +47,27 @@ TEST(RunningScheme, KnowsOddAndEvenPages) {
     EXPECT_EQ(withTitle[0].standard, 2u);
 }
 
+TEST(RunningScheme, GoesOnWhereADrawingTookTheRuleOfTheHead) {
+    std::vector<PageRunningHeads> heads(5);
+    for (PageRunningHeads& page : heads) {
+        page.header.emplace().key = "Annual report";
+        page.header->rules = "_60";
+    }
+    heads[0].header->rules.clear();
+    heads[3].header->rules.clear();
+    const auto schemes = findSchemes(heads, std::vector<SectionChance>(5, SectionChance::May));
+    ASSERT_EQ(schemes.size(), 1u);
+    EXPECT_EQ(schemes[0].standard, 1u) << "shows the rule";
+}
+
+TEST(RunningScheme, StartsAnewWhereHeadsOfRulesAloneEnd) {
+    std::vector<PageRunningHeads> heads(4);
+    for (const std::size_t page : {0, 1})
+        heads[page].header.emplace().rules = "_60";
+    const auto schemes = findSchemes(heads, std::vector<SectionChance>(4, SectionChance::May));
+    EXPECT_EQ(schemes.size(), 2u);
+}
+
 TEST(RunningScheme, StartsAnewWhereHeadsChange) {
     const auto schemes = schemesOf("aaabbb");
     ASSERT_EQ(schemes.size(), 2u);

@@ -81,7 +81,7 @@ TEST(PageSetup, GivesTheSectionsOfABookOneMargin) {
         const bool isFirst = page < 3;
         for (double baseline = isFirst ? 84 : 94; baseline <= (isFirst ? 744 : 734); baseline += 20)
             addLine(draft, page, 72, baseline);
-        heads[page].header = RunningHead{tests::makePage(1), {}, isFirst ? "one chapter" : "another"};
+        heads[page].header = RunningHead{tests::makePage(1), {}, isFirst ? "one chapter" : "another", {}};
         heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
     }
     sectionsOf(draft, heads);

@@ -60,7 +60,7 @@ TEST(PageTops, LetsAHeaderPushTheTextOfAllPagesButTheFirst) {
     DocumentDraft draft = draftOfPushedText();
     std::vector<PageRunningHeads> heads(3);
     for (const std::size_t page : {1u, 2u}) {
-        heads[page].header = RunningHead{tests::makePage(1), {}, "head"};
+        heads[page].header = RunningHead{tests::makePage(1), {}, "head", {}};
         heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
     }
     sectionsOf(draft, heads);
@@ -80,7 +80,7 @@ TEST(PageTops, PushesTextWithABlankHeaderWhereNoneIsSeen) {
     DocumentDraft draft = draftOfPushedText();
     std::vector<PageRunningHeads> heads(3);
     for (const std::size_t page : {1u, 2u}) {
-        heads[page].footer = RunningHead{tests::makePage(1), {}, "foot"};
+        heads[page].footer = RunningHead{tests::makePage(1), {}, "foot", {}};
         heads[page].footer->content.lines.push_back(makeLine("a foot", 72, 800));
     }
     sectionsOf(draft, heads);

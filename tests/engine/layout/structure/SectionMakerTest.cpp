@@ -34,7 +34,7 @@ TEST(SectionMaker, MakesHeadsThatShowTheSameOnce) {
     std::vector<PageRunningHeads> heads(6);
     for (std::size_t page = 0; page < 6; ++page) {
         addLine(draft, page, 72, 84);
-        heads[page].header = RunningHead{tests::makePage(1), {}, kKeys[page]};
+        heads[page].header = RunningHead{tests::makePage(1), {}, kKeys[page], {}};
         heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
     }
     sectionsOf(draft, heads);
