@@ -144,7 +144,9 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     const LinkTargets links(draft, facts.outline, diagnostics);
     const Tracking tracking = request.keepCharacterSpacing ? Tracking::Kept : Tracking::InWidths;
     cutLabels(draft, parameters);
-    const FontCatalog fonts(draft, parameters, tracking);
+    FontCatalog fonts(draft, parameters, tracking);
+    if (tracking == Tracking::InWidths)
+        fonts.narrowSqueezed(draft, parameters);
     fitLabels(draft, fonts, tracking, parameters);
     const AssemblyContext assembly{
         draft, context, fonts, links, request, parameters, paintsEndsOfHangul(draft, parameters.hangulLines)};

@@ -143,7 +143,7 @@ private:
         else if (join == LineJoin::Blank)
             m_builder.addText(blanksBefore(word, position), stretched(blankBefore(properties), word), gapLink);
         else if (join == LineJoin::DropHyphen)
-            m_builder.dropLastCharacter();
+            dropHyphen(gapLink);
     }
 
     LineJoin joinTo(const Word& word) const {
@@ -154,15 +154,29 @@ private:
                               document.compounds);
     }
 
+    /// Joins a divided word. Where words are divided throughout, so that lines break as they do, the place stays known:
+    /// not every word processor has the rules of the language.
+    void dropHyphen(const std::optional<LinkTarget>& link) {
+        const bool isFlowing = m_context.request.mode == LayoutMode::Flowing;
+        if (isFlowing && m_context.document.division == WordDivision::Always)
+            softenHyphen(link);
+        else
+            m_builder.dropLastCharacter();
+    }
+
+    /// The hyphen is shown at the end of a line only.
+    void softenHyphen(const std::optional<LinkTarget>& link) {
+        constexpr std::string_view kSoftHyphen = "\u00AD";
+        m_builder.dropLastCharacter();
+        m_builder.addText(kSoftHyphen, m_before->properties, link);
+    }
+
     /// Ends the line before `word`. A word divided there stays one word, that it can be found and spelled.
     void breakLine(const Word& word, const std::optional<LinkTarget>& link) {
-        constexpr std::string_view kSoftHyphen = "\u00AD";
-        if (m_wraps && joinTo(word) == LineJoin::DropHyphen) {
-            m_builder.dropLastCharacter();
-            m_builder.addText(kSoftHyphen, m_before->properties, link);
-        } else {
+        if (m_wraps && joinTo(word) == LineJoin::DropHyphen)
+            softenHyphen(link);
+        else
             m_builder.add({document::Break{document::BreakKind::Line}}, link);
-        }
     }
 
     /// A Korean word that the line's end cut: no blank stands there, as it does behind other lines.

@@ -1,6 +1,7 @@
 #include "layout/fonts/FontCatalog.h"
 
 #include "layout/fonts/FallbackFonts.h"
+#include "layout/fonts/SqueezedLines.h"
 #include "layout/structure/DraftWalk.h"
 
 #include <algorithm>
@@ -38,6 +39,10 @@ FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& param
         if (most != counts[kind].end())
             m_main[kind] = most->first;
     }
+}
+
+void FontCatalog::narrowSqueezed(const DocumentDraft& draft, const FontParameters& parameters) {
+    narrowSqueezedFonts(m_fonts, draft, parameters.squeeze);
 }
 
 const MappedFont& FontCatalog::font(std::size_t page, std::uint32_t font) const {

@@ -17,6 +17,9 @@ public:
     FontCatalog(const DocumentDraft& draft, const FontParameters& parameters, Tracking tracking = Tracking::InWidths,
                 const CarriedFonts& carried = {});
 
+    /// See narrowSqueezedFonts(). For text whose lines are not kept.
+    void narrowSqueezed(const DocumentDraft& draft, const FontParameters& parameters);
+
     /// Requires: `font` is an index into the page's fonts, or the page has none.
     const MappedFont& font(std::size_t page, std::uint32_t font) const;
     /// Empty when the document has no text of that kind.

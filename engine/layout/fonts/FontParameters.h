@@ -19,6 +19,16 @@ struct FontParameters {
         double faceDifference = 0.03; ///< of the natural width; faces of a family this close are stretched alike
     } fontFit;
 
+    /// SqueezedLines: justified lines that are fuller than word processors fill them.
+    struct Squeeze {
+        std::size_t fewestLines = 10; ///< of a family; fewer say nothing
+        std::size_t fewestWords = 4;  ///< of a line
+        double leastSqueeze = 0.003;  ///< of the width; a line that is natural by more was squeezed
+        double squeezedShare = 0.08;  ///< of the lines; with so many of them squeezed it is how the text was set
+        double fittingShare = 0.95;   ///< of the lines that are to fit
+        double mostMisfit = 0.04;     ///< of the width; a line farther off is not what it seems
+    } squeeze;
+
     /// FallbackFonts: fonts that helped out for letters the chosen font does not have.
     struct Fallbacks {
         std::size_t fewestSigns = 3; ///< bytes of digits and punctuation it takes to see the chosen font

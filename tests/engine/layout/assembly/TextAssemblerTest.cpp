@@ -89,6 +89,19 @@ TEST(TextAssembler, ResolvesHyphensAtLineEnds) {
     EXPECT_EQ(text(draftOf({makeLine("soft\u00AD", 72, 100), makeLine("ness", 72, 112)})), "p Normal \"softness\"");
 }
 
+TEST(TextAssembler, KeepsThePlacesOfHyphensWhereWordsAreDividedThroughout) {
+    const DocumentDraft draft =
+        draftOf({makeLine("A line that ends with a conver-", 72, 100), makeLine("sion of it", 72, 112)});
+    DocumentContext divided;
+    divided.division = WordDivision::Always;
+    EXPECT_EQ(tests::textOfParagraph(draft, 0, {}, divided),
+              "p Normal \"A line that ends with a conver\u00ADsion of it\"");
+    EXPECT_EQ(tests::textOfParagraph(draft, 0, {.mode = LayoutMode::PlainText}, divided),
+              "p Normal \"A line that ends with a conversion of it\"");
+    divided.division = WordDivision::Sometimes;
+    EXPECT_EQ(tests::textOfParagraph(draft, 0, {}, divided), "p Normal \"A line that ends with a conversion of it\"");
+}
+
 TEST(TextAssembler, SetsNoBlankBetweenEastAsianLines) {
     EXPECT_EQ(text(draftOf({makeLine("\u6771\u4EAC", 72, 100), makeLine("\u90FD", 72, 112)})),
               "p Normal \"\u6771\u4EAC\u90FD\"{ea=Calibri}");
