@@ -57,7 +57,7 @@ struct TableDraft {
 struct FigureDraft {
     Figure figure;
     bool isInline = false;   ///< stands alone between paragraphs, or within a line; else it floats beside the text
-    bool isOverlaid = false; ///< floats over another figure, which does not make way for it
+    bool isOverlaid = false; ///< floats over another figure or over text, which make no way for it
 };
 
 struct PageBlock {

@@ -3,6 +3,7 @@
 #include "layout/running/RunningScheme.h"
 #include "layout/structure/BreakFinder.h"
 #include "layout/structure/ColumnSetup.h"
+#include "layout/structure/FloatOverlays.h"
 #include "layout/structure/PageBottoms.h"
 #include "layout/structure/PageFill.h"
 #include "layout/structure/PageSetup.h"
@@ -66,6 +67,7 @@ private:
         m_runningText.make(section, scheme);
         section.tops = area.tops;
         floatHangingPictures(first, last, area.tops);
+        findOverlaidFigures(m_draft, first, last, m_parameters.floats);
         std::size_t from = first;
         do {
             const std::size_t to = endOfColumns(from, last);

@@ -65,6 +65,14 @@ struct StructureParameters {
         double paintedShare = 0.8;     ///< of them; with so many the file has all
     } lists;
 
+    /// FloatOverlays: figures beside the text.
+    struct Floats {
+        double sharedHeight = 0.4;     ///< of the lower one of a line and a figure that stand side by side
+        double sharedWidth = 2.0;      ///< points; text that reaches so far into a figure stands on it
+        double leastRoomBeside = 57.0; ///< points; word processors set no text into less (two centimetres)
+        std::size_t fewestOfSlide = 4; ///< figures of a page that has no more lines of text than them: a slide
+    } floats;
+
     /// ContentsFinder: tables of contents.
     struct Contents {
         std::size_t fewestEntries = 3; ///< that follow each other

@@ -1,8 +1,10 @@
 #include "layout/tables/CellParagraphs.h"
 
+#include "base/Utf8.h"
 #include "layout/paragraphs/ParagraphBuilder.h"
 #include "layout/tables/BrokenWords.h"
 #include "layout/text/Line.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,27 +16,45 @@ bool isUpright(const Line& line) {
     return line.angle == 0 && !line.isVertical;
 }
 
-/// Joins two lines of one baseline in the order they are read.
-Line joinInOrder(Line a, Line b, const TableParameters::Tables& parameters) {
-    const bool aIsFirst = (a.box.left <= b.box.left) != a.isRightToLeft;
-    Line& first = aIsFirst ? a : b;
-    Line& second = aIsFirst ? b : a;
-    const double gap = std::max(second.box.left - first.box.right, first.box.left - second.box.right);
-    joinLines(first, std::move(second), gap > parameters.tabGap * first.fontSize ? Gap::Tab : Gap::Space);
-    return std::move(first);
+/// An arrow, a box: fonts of signs have baselines of their own.
+bool isSign(const Line& line) {
+    constexpr std::size_t kLongestSign = 1; // characters
+    return line.words.size() == 1 && utf32FromUtf8(textOf(line)).size() <= kLongestSign;
+}
+
+bool areOneLine(const Line& above, const Line& below, const TableParameters::Tables& parameters) {
+    const double step = std::abs(above.baseline - below.baseline);
+    const bool standApart = above.box.right <= below.box.left || below.box.right <= above.box.left;
+    return step <= parameters.baselineSnap * below.fontSize ||
+           ((isSign(above) || isSign(below)) && standApart &&
+            step <= parameters.signSnap * std::min(above.fontSize, below.fontSize));
+}
+
+/// The lines of one row as one line, in the order they are read.
+Line joinRow(std::vector<Line> row, const TableParameters::Tables& parameters) {
+    std::stable_sort(row.begin(), row.end(), [](const Line& a, const Line& b) {
+        return a.isRightToLeft ? a.box.left > b.box.left : a.box.left < b.box.left;
+    });
+    Line joined = std::move(row.front());
+    for (std::size_t i = 1; i < row.size(); ++i) {
+        const double gap = std::max(row[i].box.left - joined.box.right, joined.box.left - row[i].box.right);
+        const Gap between = gap > parameters.tabGap * joined.fontSize ? Gap::Tab : Gap::Space;
+        joinLines(joined, std::move(row[i]), between);
+    }
+    return joined;
 }
 
 std::vector<Line> joinLinesOfOneBaseline(std::vector<Line> lines, const TableParameters::Tables& parameters) {
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
-    std::vector<Line> joined;
+    std::vector<std::vector<Line>> rows;
     for (Line& line : lines) {
-        const bool continues = !joined.empty() && std::abs(joined.back().baseline - line.baseline) <=
-                                                      parameters.baselineSnap * line.fontSize;
-        if (continues)
-            joined.back() = joinInOrder(std::move(joined.back()), std::move(line), parameters);
-        else
-            joined.push_back(std::move(line));
+        if (rows.empty() || !areOneLine(rows.back().back(), line, parameters))
+            rows.emplace_back();
+        rows.back().push_back(std::move(line));
     }
+    std::vector<Line> joined;
+    for (std::vector<Line>& row : rows)
+        joined.push_back(joinRow(std::move(row), parameters));
     return joined;
 }
 

@@ -133,6 +133,7 @@ struct TableParameters {
         double uprightRoom = 0.8; ///< of the font size; with less room above and below, upright alignment shows nothing
         double uprightTolerance = 0.35; ///< of the font size; room above and below that differs by less is equal
         double baselineSnap = 0.2;      ///< of the font size; baselines in a cell this near are one line
+        double signSnap = 0.6;          ///< likewise, of an arrow or a box of another font beside the text
         double tabGap = 0.8;            ///< of the font size; a wider gap between words of one line is a tab
         double blankWidth = 0.25;       ///< of the font size; the blank before a word that did not fit
         int maximumHeaderRows = 4;      ///< more rows that look alike are no head

@@ -10,6 +10,8 @@
 namespace orvane::layout {
 namespace {
 
+constexpr char32_t kReplacement = 0xFFFD; ///< for bytes that are no character
+
 /// The outermost mark around `mark` that has an actual text: it speaks for all within it. -1 for none.
 int speakingMark(const std::vector<pdf::Mark>& marks, int mark) {
     int speaking = -1;
@@ -89,6 +91,9 @@ void applyActualTexts(std::vector<Cluster>& clusters, const std::vector<pdf::Mar
             if (marks[static_cast<std::size_t>(mark)].mcid < 0)
                 member->mark = marks[static_cast<std::size_t>(mark)].parent;
         }
+        // Some programs write bytes that are no text, and glyphs that everybody can read.
+        if (text.find(kReplacement) != std::u32string::npos && painted.find(kReplacement) == std::u32string::npos)
+            continue;
         // A single character is always worth it: a hyphen that says it is a soft one.
         if (text.size() != 1 && saySame(essenceOf(painted), essenceOf(text)))
             continue;

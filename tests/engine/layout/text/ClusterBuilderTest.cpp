@@ -107,6 +107,15 @@ TEST(ClusterBuilder, LetsAMarkSayItsActualText) {
     EXPECT_THAT(linesOf(page), ElementsAre("very fast"));
 }
 
+TEST(ClusterBuilder, BelievesNoActualTextThatIsNone) {
+    PageContentBuilder page;
+    pdf::Mark mark;
+    mark.actualText = "\uFFFD\uFFFD";
+    const int index = page.mark(mark);
+    page.text(72, 100, "12", 12, {.mark = index});
+    EXPECT_THAT(linesOf(page), ElementsAre("12"));
+}
+
 TEST(ClusterBuilder, LeavesTextAloneThatSaysItsActualText) {
     PageContentBuilder page;
     pdf::Mark mark;

@@ -1,0 +1,89 @@
+#include "layout/structure/FloatOverlays.h"
+
+#include "layout/structure/BlockColumn.h"
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+namespace orvane::layout {
+namespace {
+
+/// Something of the text that a word processor would move out of a figure's way.
+struct Item {
+    std::size_t page = 0;
+    Rect box;
+    ColumnSpan column;
+};
+
+bool isFloat(const DraftBlock& block) {
+    const auto* figure = std::get_if<FigureDraft>(&block.value);
+    return figure && !figure->isInline && !figure->figure.isBackground;
+}
+
+bool isBackground(const DraftBlock& block) {
+    const auto* figure = std::get_if<FigureDraft>(&block.value);
+    return figure && figure->figure.isBackground;
+}
+
+/// The lines of the text, and what stands in it whole.
+std::vector<Item> itemsOf(const DocumentDraft& draft, std::size_t first, std::size_t last) {
+    std::vector<Item> items;
+    for (std::size_t i = first; i < last; ++i) {
+        const DraftBlock& block = draft.blocks[i];
+        const auto* paragraph = std::get_if<DraftParagraph>(&block.value);
+        if (!paragraph && !isFloat(block) && !isBackground(block))
+            items.push_back({block.page, block.box, columnOf(block, draft)});
+        else if (paragraph)
+            for (const DraftPiece& piece : paragraph->pieces)
+                for (const Line& line : piece.text.lines)
+                    if (!piece.text.isFloating)
+                        items.push_back({piece.page, line.box, piece.column});
+    }
+    return items;
+}
+
+bool isOnEarlierPage(const Item& a, const Item& b) {
+    return a.page < b.page;
+}
+
+/// Whether the item would have to make way for the figure, and could not stay where it is.
+bool wouldMove(const Item& item, const Rect& figure, const StructureParameters::Floats& limits) {
+    const Rect& box = item.box;
+    const double height = overlap(box.top, box.bottom, figure.top, figure.bottom);
+    if (height < limits.sharedHeight * std::min(box.height(), figure.height()))
+        return false;
+    if (overlap(box.left, box.right, figure.left, figure.right) > limits.sharedWidth)
+        return true;
+    const double room =
+        box.left >= figure.centerX() ? item.column.right - figure.right : figure.left - item.column.left;
+    return room < limits.leastRoomBeside;
+}
+
+} // namespace
+
+void findOverlaidFigures(DocumentDraft& draft, std::size_t first, std::size_t last,
+                         const StructureParameters::Floats& parameters) {
+    const auto isAnyFloat = [](const DraftBlock& block) { return isFloat(block); };
+    const auto begin = draft.blocks.begin();
+    if (std::none_of(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last), isAnyFloat))
+        return;
+    std::vector<Item> items = itemsOf(draft, first, last);
+    std::stable_sort(items.begin(), items.end(), isOnEarlierPage);
+    std::map<std::size_t, std::size_t> floats; // by page
+    for (std::size_t i = first; i < last; ++i)
+        floats[draft.blocks[i].page] += isFloat(draft.blocks[i]) ? 1 : 0;
+    for (std::size_t i = first; i < last; ++i) {
+        DraftBlock& block = draft.blocks[i];
+        if (!isFloat(block))
+            continue;
+        const auto [from, to] = std::equal_range(items.begin(), items.end(), Item{block.page, {}, {}}, isOnEarlierPage);
+        const std::size_t count = floats[block.page];
+        auto& figure = std::get<FigureDraft>(block.value);
+        figure.isOverlaid =
+            figure.isOverlaid || (count >= parameters.fewestOfSlide && count >= static_cast<std::size_t>(to - from)) ||
+            std::any_of(from, to, [&](const Item& item) { return wouldMove(item, block.box, parameters); });
+    }
+}
+
+} // namespace orvane::layout

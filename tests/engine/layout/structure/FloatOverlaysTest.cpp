@@ -1,0 +1,63 @@
+#include "layout/structure/FloatOverlays.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeBlock;
+using tests::makeLine;
+using tests::makeParagraph;
+
+/// Whether text makes way for a picture that floats there beside a line of it from `left` to 523 points.
+bool isOverlaid(const Rect& picture, double left) {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.blocks.push_back(tests::makePictureBlock(picture));
+    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    Line line = makeLine("some words", left, 200);
+    draft.blocks.push_back(makeBlock(makeParagraph({line})));
+    findOverlaidFigures(draft, 0, draft.blocks.size(), {});
+    return std::get<FigureDraft>(draft.blocks.front().value).isOverlaid;
+}
+
+TEST(FloatOverlays, FindFiguresThatTextStandsOn) {
+    EXPECT_TRUE(isOverlaid({100, 150, 400, 300}, 200));
+    EXPECT_FALSE(isOverlaid({100, 220, 400, 300}, 200)) << "it stands above";
+}
+
+TEST(FloatOverlays, FindFiguresWithoutRoomForTextBesideThem) {
+    EXPECT_FALSE(isOverlaid({72, 150, 250, 300}, 300));
+    EXPECT_TRUE(isOverlaid({72, 150, 480, 300}, 490)) << "a word processor would move the text below";
+    EXPECT_TRUE(isOverlaid({110, 150, 523, 300}, 50)) << "likewise on the other side";
+}
+
+TEST(FloatOverlays, FindTheFiguresOfSlides) {
+    const auto overlaid = [](int lines) {
+        DocumentDraft draft = tests::makeDraft(1);
+        for (int i = 0; i < 4; ++i) {
+            draft.blocks.push_back(tests::makePictureBlock({72.0 + 100 * i, 100, 150.0 + 100 * i, 150}));
+            std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+        }
+        for (int i = 0; i < lines; ++i)
+            draft.blocks.push_back(makeBlock(makeParagraph({makeLine("a label", 72, 300 + 40 * i)})));
+        findOverlaidFigures(draft, 0, draft.blocks.size(), {});
+        return std::get<FigureDraft>(draft.blocks.front().value).isOverlaid;
+    };
+    EXPECT_TRUE(overlaid(4));
+    EXPECT_FALSE(overlaid(5));
+}
+
+TEST(FloatOverlays, LookAtLinesRatherThanAtParagraphs) {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.blocks.push_back(tests::makePictureBlock({72, 150, 250, 210}));
+    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    // Set around the picture, so that the box of both lines touches it.
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("beside it", 260, 205), makeLine("below", 72, 220)})));
+    findOverlaidFigures(draft, 0, draft.blocks.size(), {});
+    EXPECT_FALSE(std::get<FigureDraft>(draft.blocks.front().value).isOverlaid);
+}
+
+} // namespace
+} // namespace orvane::layout
