@@ -42,8 +42,9 @@ public:
         std::vector<bool> isTaken(m_page.lines.size(), false);
         for (const std::size_t rule : rules)
             if (auto area = areaBelow(rule, isTaken)) {
+                // What stands side by side is seldom notes, and part of those above if they are.
                 for (const std::size_t line : area->lines)
-                    isTaken[line] = true;
+                    isTaken[line] = isTaken[line] || !area->hasRows;
                 areas.push_back(std::move(*area));
             }
         std::stable_sort(areas.begin(), areas.end(), [&](const NoteArea& a, const NoteArea& b) {
@@ -152,7 +153,7 @@ private:
         if (below == m_lines.end())
             return std::nullopt;
         const Interval column = columnOf(rule);
-        NoteArea area{index, rule.from, rule.position, {}, {}};
+        NoteArea area{index, rule.from, rule.position, {}, {}, std::isfinite(column.from) || std::isfinite(column.to)};
         double left = m_page.width, right = 0;
         for (auto i = below; i != m_lines.end(); ++i) {
             const Rect& box = line(*i).box;
@@ -162,7 +163,8 @@ private:
                 break;
             if (area.lines.empty() && box.top - rule.position > m_limits.largestGap)
                 return std::nullopt;
-            if (standsBesideLast(area, *i) || !addLine(area, *i))
+            area.hasRows = area.hasRows || standsBesideLast(area, *i);
+            if (!addLine(area, *i))
                 return std::nullopt;
             left = std::min(left, box.left);
             right = std::max(right, box.right);

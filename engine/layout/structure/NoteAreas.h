@@ -24,6 +24,8 @@ struct NoteArea {
     double top = 0;                  ///< likewise
     std::vector<std::size_t> lines;  ///< indices into PageText::lines, top to bottom
     std::vector<NoteStart> starts;   ///< likewise; empty where the area goes on with a note of the page before
+    bool isInColumn = false;         ///< at the foot of one of several columns
+    bool hasRows = false;            ///< lines stand side by side
 };
 
 /// The areas below short rules, column by column from the left, those of a column from the top.

@@ -2,12 +2,14 @@
 
 #include "layout/structure/NoteAreas.h"
 #include "layout/structure/NoteMark.h"
+#include "layout/structure/NoteRows.h"
 #include "layout/structure/NoteText.h"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace orvane::layout {
@@ -67,7 +69,7 @@ private:
         std::vector<bool> isInArea(page.lines.size(), false);
         for (const NoteArea& area : m_areas[index])
             for (const std::size_t line : area.lines)
-                isInArea[line] = true;
+                isInArea[line] = isInArea[line] || !area.hasRows;
         for (std::size_t i = 0; i < page.lines.size(); ++i)
             for (const Word& word : page.lines[i].words)
                 for (const Span& span : word.spans) {
@@ -116,10 +118,16 @@ private:
         return reference && reference->page == page && reference->box.top < bottom ? reference : nullptr;
     }
 
+    /// Below columns such notes are of the title above them. There LibreOffice leaves most of a page empty if its
+    /// columns have notes too, so they stay as text.
+    static bool isThanks(const NoteArea& area, const NoteStart& start) {
+        return area.isInColumn && isBorrowedMark(start.mark);
+    }
+
     LineReferences matchStarts(std::size_t page, const NoteArea& area) {
         LineReferences matched;
         for (const NoteStart& start : area.starts)
-            if (Reference* reference = referenceTo(start.mark, page)) {
+            if (Reference* reference = isThanks(area, start) ? nullptr : referenceTo(start.mark, page)) {
                 reference->isTaken = true;
                 matched[start.line] = reference;
             }
@@ -127,10 +135,31 @@ private:
     }
 
     void takeArea(std::size_t page, const NoteArea& area, std::vector<bool>& isTaken) {
+        if (area.hasRows) {
+            takeTable(page, area, isTaken);
+            return;
+        }
         const LineReferences matched = matchStarts(page, area);
         // Without a mark that the text has, the area may go on with the last note of the page or column before.
         if (matched.empty() && (!area.starts.empty() || !followsNotes(page) || !looksLikeLast(page, area)))
             return;
+        takeLines(page, area, matched, isTaken);
+    }
+
+    /// What stands side by side below a rule may be the names in a chart; it is notes only if every mark there is one.
+    void takeTable(std::size_t page, NoteArea area, std::vector<bool>& isTaken) {
+        const auto isReferredTo = [&](const NoteStart& start) {
+            const Reference* reference = referenceAbove(start.mark, page, area.top);
+            return reference && !reference->isAlone;
+        };
+        std::set<std::string> marks;
+        for (const NoteStart& start : area.starts)
+            if (!isReferredTo(start) || !marks.insert(start.mark).second)
+                return;
+        if (area.starts.empty())
+            return;
+        putMarksFirst(area, m_pages[page]);
+        const LineReferences matched = matchStarts(page, area);
         takeLines(page, area, matched, isTaken);
     }
 
@@ -186,6 +215,10 @@ private:
                              note->left - area.left);
         };
         for (const std::size_t index : area.lines) {
+            if (source.lines[index].words.empty()) {
+                isTaken[index] = true; // its mark stands before the note
+                continue;
+            }
             const auto found = matched.find(index);
             if (found != matched.end()) {
                 finishNote();

@@ -14,6 +14,8 @@ namespace {
 constexpr std::size_t kLongestNumber = 3;
 constexpr std::size_t kLongestMark = 5;
 constexpr std::u32string_view kSigns = U"*\u2020\u2021\u00A7\u00B6#";
+// Asterisk and parallel lines of mathematics.
+constexpr std::u32string_view kBorrowedSigns = U"\u2217\u2016\u2225";
 constexpr std::u32string_view kNumerals = U"ivxlc";
 constexpr std::u32string_view kAround = U"()[].:\u200E\u200F";
 
@@ -57,7 +59,12 @@ bool isNoteMark(const std::string& text) {
         return false;
     const bool isNumber = mark.size() <= kLongestNumber && std::all_of(mark.begin(), mark.end(), isDigit);
     const bool isLetter = mark.size() == 1 && mark[0] >= U'a' && mark[0] <= U'z';
-    return isNumber || isLetter || isMadeOf(mark, kSigns) || isMadeOf(mark, kNumerals);
+    return isNumber || isLetter || isMadeOf(mark, kSigns) || isMadeOf(mark, kBorrowedSigns) ||
+           isMadeOf(mark, kNumerals);
+}
+
+bool isBorrowedMark(const std::string& mark) {
+    return isMadeOf(utf32FromUtf8(mark), kBorrowedSigns);
 }
 
 std::string bareMark(const std::string& mark) {

@@ -9,6 +9,9 @@ namespace orvane::layout {
 /// True for "12", "iv", "b", "*", "†", "(1)": what people refer to notes by.
 bool isNoteMark(const std::string& text);
 
+/// True for marks made of signs that typesetting programs take from their mathematical fonts. Requires: a bare mark.
+bool isBorrowedMark(const std::string& mark);
+
 /// The mark without brackets and full stops around it, by which a note is compared with its reference.
 std::string bareMark(const std::string& mark);
 

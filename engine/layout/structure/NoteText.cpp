@@ -95,6 +95,17 @@ void partMark(Line& line) {
     line.words.insert(line.words.begin() + 1, std::move(rest));
 }
 
+Line takeMark(Line& line) {
+    partMark(line);
+    Line mark = line;
+    mark.words.resize(1);
+    measureAnew(mark);
+    line.words.erase(line.words.begin());
+    if (!line.words.empty())
+        measureAnew(line);
+    return mark;
+}
+
 bool isMarkOf(const Line& mark, const Line& first) {
     return mark.words.size() == 1 && mark.baseline <= first.baseline &&
            2 * overlap(mark.box.top, mark.box.bottom, first.box.top, first.box.bottom) > mark.box.height();

@@ -18,6 +18,10 @@ void addNoteLines(PageText& note, const PageText& source, std::vector<Line> line
 /// mark.
 void partMark(Line& line);
 
+/// Takes the mark with which the line starts off it, as a line of its own. A line that is nothing else has no words
+/// then.
+Line takeMark(Line& line);
+
 /// True when `mark` is nothing but a raised mark that stands beside the first line of its note.
 bool isMarkOf(const Line& mark, const Line& first);
 

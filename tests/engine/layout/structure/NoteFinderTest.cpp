@@ -239,8 +239,42 @@ TEST(NoteFinder, PartsAMarkFromEastAsianText) {
     EXPECT_EQ(textOf(found.notes[0].content.lines[0].words[0]), "1)") << "a word of its own";
 }
 
+/// Two notes below the page's text, each a row of two cells with its mark beside the second line.
+PageText pageWithTablesInNotes(const std::string& text) {
+    PageText page = pageWithText(1, {text});
+    page.rules.push_back(noteRule(700));
+    double baseline = 700;
+    for (const char* mark : {"^1", "^2"}) {
+        baseline += 12;
+        page.lines.push_back(makeNotedLine("A name", 90, baseline, 8));
+        page.lines.push_back(makeNotedLine("a long title", 250, baseline, 8));
+        baseline += 12;
+        page.lines.push_back(makeNotedLine(mark, 72, baseline, 8));
+        page.lines.push_back(makeNotedLine("in two lines", 250, baseline, 8));
+    }
+    return page;
+}
+
+TEST(NoteFinder, TakesNotesThatAreTables) {
+    std::vector<PageText> pages = {pageWithTablesInNotes("Some text^1 and more^2 of it")};
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A name a long title in two lines\n"
+                                    "foot 2@1: 2 A name a long title in two lines\n");
+}
+
+TEST(NoteFinder, LeavesRowsOfWhichNotAllAreNotes) {
+    std::vector<PageText> pages = {pageWithTablesInNotes("Some text^1 and more of it")};
+    EXPECT_EQ(notesOf(take(pages)), "");
+    EXPECT_EQ(pages[0].lines.size(), 9u);
+}
+
+TEST(NoteFinder, TakesNotesMarkedBySignsOfMathematics) {
+    std::vector<PageText> pages = {pageWithText(1, {"A title with thanks^∗", "and text that goes on"})};
+    addNotes(pages[0], {"^∗ We thank everybody"});
+    EXPECT_EQ(notesOf(take(pages)), "foot ∗@1: ∗ We thank everybody\n");
+}
+
 TEST(NoteMark, KnowsMarks) {
-    for (const char* mark : {"1", "12", "iv", "b", "*", "**", "†", "(3)", "4.", "٤"})
+    for (const char* mark : {"1", "12", "iv", "b", "*", "**", "∗", "†", "‖", "(3)", "4.", "٤"})
         EXPECT_TRUE(isNoteMark(mark)) << mark;
     for (const char* mark : {"", "th", "2004", "1a", "+", "()"})
         EXPECT_FALSE(isNoteMark(mark)) << mark;
