@@ -11,19 +11,30 @@ double distance(double a0, double a1, double b0, double b1) {
     return std::max({0.0, b0 - a1, a0 - b1});
 }
 
-/// How badly an object fits into a region: first by height on the page, then across.
-std::tuple<double, double, double> misfit(const Rect& box, const Region& region) {
-    return {std::round(distance(box.top, box.bottom, region.box.top, region.box.bottom)),
+/// Around the lines of all columns of a band.
+Rect boxOfBand(int band, const PageRegions& page) {
+    Rect box;
+    for (const Region& region : page.regions)
+        if (region.band == band)
+            box = box.united(region.box);
+    return box;
+}
+
+using Misfit = std::tuple<double, double, double>;
+
+/// How badly an object fits into a region: first by height on the page, then across. At the head of a column no line
+/// stands as high as it does, but lines of the columns beside.
+Misfit misfit(const Rect& box, const Region& region, const Rect& band) {
+    return {std::round(distance(box.top, box.bottom, band.top, band.bottom)),
             distance(box.left, box.right, region.span.left, region.span.right),
             -overlap(box.left, box.right, region.span.left, region.span.right)};
 }
 
 std::size_t nearestRegion(const Rect& box, const PageRegions& page) {
-    std::size_t best = 0;
-    for (std::size_t i = 1; i < page.regions.size(); ++i)
-        if (misfit(box, page.regions[i]) < misfit(box, page.regions[best]))
-            best = i;
-    return best;
+    std::vector<Misfit> misfits;
+    for (const Region& region : page.regions)
+        misfits.push_back(misfit(box, region, boxOfBand(region.band, page)));
+    return static_cast<std::size_t>(std::min_element(misfits.begin(), misfits.end()) - misfits.begin());
 }
 
 ObjectPlace placeOne(const Rect& box, std::size_t object, const PageRegions& page,
