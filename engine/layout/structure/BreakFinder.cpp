@@ -9,6 +9,9 @@
 namespace orvane::layout {
 namespace {
 
+/// Of the text's height: with so much room left above it no program began a page, but its author did.
+constexpr double kFloatRoom = 0.25;
+
 /// Where a block ends: the place of its last piece.
 struct BlockEnd {
     std::size_t page = 0;
@@ -34,10 +37,38 @@ bool areTables(const DraftBlock& a, const DraftBlock& b) {
     return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<DraftTable>(b.value);
 }
 
+bool isHeading(const DraftBlock& block) {
+    const DraftParagraph* paragraph = block.paragraph();
+    return paragraph && (paragraph->role == ParagraphRole::Heading || paragraph->role == ParagraphRole::Title);
+}
+
+/// For each page whether something floats on it, at a place that it has on that page only.
+std::vector<bool> pagesWithFloats(const DocumentDraft& draft) {
+    std::vector<bool> pages(draft.pages.size(), false);
+    for (const DraftBlock& block : draft.blocks)
+        if (isFloating(block))
+            pages[block.page] = true;
+    return pages;
+}
+
+/// Whether the page that starts with `block` was started by hand, though `room` points were left above it.
+bool wasStartedByHand(const DraftBlock& block, double room, const PageFill& fill, const BlockRange& range,
+                      PageMaking making, const StructureParameters::PageSetup& limits) {
+    if (making == PageMaking::Program && !isHeading(block))
+        return room > fill.need + kFloatRoom * range.area.box.height();
+    return room > fill.need + limits.startRoom || startsLow(fill, range.area.tops.of(block.page), limits);
+}
+
+/// A picture that has no room below a table, and goes to the next page by itself, is not shown by LibreOffice.
+bool isPictureBelowTable(const DraftBlock& a, const DraftBlock& b) {
+    return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<FigureDraft>(b.value);
+}
+
 } // namespace
 
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
                 const StructureParameters::PageSetup& parameters) {
+    const std::vector<bool> hasFloats = pagesWithFloats(draft);
     const DraftBlock* before = nullptr;
     for (std::size_t i = range.first; i < range.last; ++i) {
         DraftBlock& block = draft.blocks[i];
@@ -47,9 +78,10 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
             const BlockEnd end = endOf(*before);
             const double room = floorOf(draft, end.page, end.band, range.area.box) - end.bottom;
             if (end.page < block.page)
-                block.startsPage = end.page + 1 < block.page || areTables(*before, block) ||
-                                   room > fills[block.page].need + parameters.startRoom ||
-                                   startsLow(fills[block.page], range.area.tops.of(block.page), parameters);
+                block.startsPage =
+                    end.page + 1 < block.page || areTables(*before, block) || isPictureBelowTable(*before, block) ||
+                    wasStartedByHand(block, room, fills[block.page], range,
+                                     hasFloats[block.page] ? PageMaking::Author : range.making, parameters);
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = room > block.box.height() + parameters.startRoom ||
                                      areColumnsUneven(draft, {end.page, end.band, end.bottom}, i, parameters.startRoom);

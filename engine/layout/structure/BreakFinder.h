@@ -8,11 +8,18 @@
 
 namespace orvane::layout {
 
+/// Who decides what stands on which page.
+enum class PageMaking : unsigned char {
+    Author, ///< with pages that are full, or were ended by hand
+    Program ///< that moves pictures and tables to the tops of pages, and leaves room where a part would stand alone
+};
+
 /// Blocks `first` to `last` (one behind the last), set within `area`.
 struct BlockRange {
     std::size_t first = 0;
     std::size_t last = 0;
     const TextArea& area;
+    PageMaking making = PageMaking::Author;
 };
 
 /// Marks blocks that start a page or a column though there was room for them on the page or in the column before, or

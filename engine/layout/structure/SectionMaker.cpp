@@ -78,7 +78,8 @@ private:
             section.setup.firstPageNumber.reset();
             from = to;
         } while (from < last);
-        markBreaks(m_draft, m_fills, {first, last, area}, m_parameters.pageSetup);
+        const PageMaking making = m_context.division == WordDivision::Always ? PageMaking::Program : PageMaking::Author;
+        markBreaks(m_draft, m_fills, {first, last, area, making}, m_parameters.pageSetup);
         findWholeRows(m_draft, {first, last, area}, m_parameters.pageSetup);
     }
 

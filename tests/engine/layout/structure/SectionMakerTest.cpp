@@ -54,6 +54,58 @@ TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
 }
 
+/// Two pages of a text whose words are divided throughout: the first ends at `end`, a picture starts the second.
+DocumentDraft typesetPages(double end) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0, end);
+    draft.blocks.push_back(tests::makePictureBlock({72, 78, 372, 178}));
+    draft.blocks.back().page = 1;
+    for (double baseline = 200; baseline <= 760; baseline += 20)
+        addLine(draft, 1, 72, baseline);
+    return draft;
+}
+
+DocumentContext typesetText() {
+    DocumentContext context;
+    context.division = WordDivision::Always;
+    return context;
+}
+
+TEST(SectionMaker, LeavesPicturesWhereProgramsPutThem) {
+    DocumentDraft draft = typesetPages(640);
+    sectionsOf(draft, {}, typesetText());
+    EXPECT_FALSE(firstOn(draft, 1).startsPage) << "the program moved it there";
+    DocumentDraft byHand = typesetPages(640);
+    sectionsOf(byHand);
+    EXPECT_TRUE(firstOn(byHand, 1).startsPage);
+}
+
+TEST(SectionMaker, KnowsPagesThatNoProgramLeavesSoEmpty) {
+    DocumentDraft draft = typesetPages(300);
+    sectionsOf(draft, {}, typesetText());
+    EXPECT_TRUE(firstOn(draft, 1).startsPage);
+}
+
+TEST(SectionMaker, KeepsPagesWithWhatFloatsOnThem) {
+    DocumentDraft draft = typesetPages(640);
+    draft.blocks.push_back(tests::makePictureBlock({400, 300, 500, 400}));
+    draft.blocks.back().page = 1;
+    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    sectionsOf(draft, {}, typesetText());
+    EXPECT_TRUE(firstOn(draft, 1).startsPage);
+}
+
+TEST(SectionMaker, LetsAPictureBelowATableStartItsPage) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0, 730);
+    draft.blocks.push_back(tableAt(0, 741, true));
+    draft.blocks.push_back(tests::makePictureBlock({72, 74.3, 372, 178}));
+    draft.blocks.back().page = 1;
+    fillPage(draft, 1);
+    sectionsOf(draft);
+    EXPECT_TRUE(firstOn(draft, 1).startsPage);
+}
+
 TEST(SectionMaker, FloatsAPictureThatHangsAboveTheText) {
     DocumentDraft draft = makeDraft(2);
     draft.blocks.push_back(tests::makePictureBlock({72, 40, 172, 120}));

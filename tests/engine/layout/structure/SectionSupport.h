@@ -21,10 +21,11 @@ inline void fillPage(DocumentDraft& draft, std::size_t page, double last = 760) 
         addLine(draft, page, 72, baseline);
 }
 
-inline void sectionsOf(DocumentDraft& draft, std::vector<PageRunningHeads> heads = {}) {
+inline void sectionsOf(DocumentDraft& draft, std::vector<PageRunningHeads> heads = {},
+                       const DocumentContext& context = {}) {
     heads.resize(draft.pages.size());
     Diagnostics diagnostics;
-    makeSections(draft, heads, {}, {}, diagnostics);
+    makeSections(draft, heads, context, {}, diagnostics);
 }
 
 inline const DraftBlock& firstOn(const DocumentDraft& draft, std::size_t page) {
