@@ -44,7 +44,8 @@ public:
             return TableVerdict::KeyValues;
         if (!holdsFields() && isProseInColumns())
             return TableVerdict::Prose;
-        if (m_evidence == AlignedEvidence::Alignment && runsThrough(m_page, m_aligned, m_parameters))
+        if (m_evidence == AlignedEvidence::Alignment &&
+            (holdsFullLines() || runsThrough(m_page, m_aligned, m_parameters)))
             return TableVerdict::Prose;
         if (isCode())
             return TableVerdict::Code;
@@ -172,15 +173,36 @@ private:
         }) > m_parameters.labelShare;
     }
 
-    /// Keys that end in colons, or stand before a column of colons.
+    /// Keys that end in colons, or stand before a column of colons; behind their values may stand a few other texts.
     bool isKeyValues() const {
-        if (m_columns.size() > 3 || m_evidence == AlignedEvidence::Rules || showsRows())
+        if (m_evidence == AlignedEvidence::Rules || showsRows())
             return false;
-        const ColumnPieces& keys = m_columns.size() == 2 ? labels() : m_columns[1];
-        return keys.share([&](const TextPiece* piece) {
-            const std::string text = textOf(*piece, lines());
-            return text.back() == ':' && (m_columns.size() == 2 || text.size() == 1);
-        }) > m_parameters.keyShare;
+        const auto share = [&](const ColumnPieces& column, std::size_t least) {
+            return column.share([&](const TextPiece* piece) {
+                const std::string text = textOf(*piece, lines());
+                return text.back() == ':' && text.size() <= least;
+            });
+        };
+        if (m_columns.size() == 3 && share(m_columns[1], 1) > m_parameters.keyShare)
+            return true;
+        const bool areOthersFew = std::all_of(m_columns.begin() + 2, m_columns.end(), [&](const ColumnPieces& column) {
+            return static_cast<double>(column.pieces.size()) <
+                   m_parameters.filledRowShare * static_cast<double>(m_columns[1].pieces.size());
+        });
+        return areOthersFew && share(labels(), std::string::npos) > m_parameters.keyShare;
+    }
+
+    /// Whether a good part of the rows are one text that fills them: lines of a paragraph between such as were spread.
+    bool holdsFullLines() const {
+        double left = m_aligned.rows.front().box.left;
+        double right = m_aligned.rows.front().box.right;
+        for (const PieceRow& row : m_aligned.rows) {
+            left = std::min(left, row.box.left);
+            right = std::max(right, row.box.right);
+        }
+        return shareOfRows([&](const PieceRow& row) {
+                   return row.pieces.size() == 1 && row.box.width() > m_parameters.proseFill * (right - left);
+               }) > m_parameters.crossedRowShare;
     }
 
     /// Running text in at least two columns, or in narrow columns of which none looks like something else.

@@ -1,6 +1,7 @@
 #include "layout/tables/BorderlessTableFinder.h"
 
 #include "layout/tables/AlignedAdmission.h"
+#include "layout/tables/FieldTexts.h"
 #include "layout/tables/HeadSpans.h"
 #include "layout/tables/ProseMask.h"
 #include "layout/tables/RuledAdmission.h"
@@ -12,19 +13,46 @@
 namespace orvane::layout {
 namespace {
 
-/// The rows of the page that may belong to a table: running text and what lies within drawings is left out.
-std::vector<PieceRow> candidateRows(const PageText& page, const TableParameters::Tables& parameters) {
+/// The texts of a page by what they may be.
+struct PageRows {
+    std::vector<PieceRow> rows;   ///< that may belong to a table
+    std::vector<TextPiece> prose; ///< lines of running text
+};
+
+/// Running text and what lies within drawings belongs to no table.
+PageRows readRows(const PageText& page, const TableParameters::Tables& parameters) {
     std::vector<TextPiece> pieces = cutIntoPieces(page, parameters);
     const std::vector<char> isProse = markProse(pieces, page.lines, parameters);
+    PageRows found;
     std::vector<TextPiece> kept;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         const bool isDrawn = std::any_of(page.figures.begin(), page.figures.end(), [&](const Figure& figure) {
             return !figure.isBackground && figure.box.intersects(pieces[i].box);
         });
-        if (!isProse[i] && !isDrawn)
+        if (isProse[i])
+            found.prose.push_back(std::move(pieces[i]));
+        else if (!isDrawn)
             kept.push_back(std::move(pieces[i]));
     }
-    return groupIntoRows(std::move(kept), parameters);
+    found.rows = groupIntoRows(std::move(kept), parameters);
+    return found;
+}
+
+/// Whether running text goes on over the upper or the lower edge of the grid.
+bool cutsProse(const TableGrid& grid, const std::vector<TextPiece>& prose, const TableParameters::Tables& parameters) {
+    const Rect box = grid.box();
+    const auto isWithin = [&](const TextPiece& piece) {
+        return piece.box.centerX() > box.left && piece.box.centerX() < box.right && piece.baseline > box.top &&
+               piece.baseline < box.bottom;
+    };
+    for (const TextPiece& piece : prose) {
+        if (!isWithin(piece))
+            continue;
+        for (const TextPiece& other : prose)
+            if (!isWithin(other) && (followsOn(piece, other, parameters) || followsOn(other, piece, parameters)))
+                return true;
+    }
+    return false;
 }
 
 /// Grows a table downwards from a row with at least two pieces.
@@ -129,9 +157,11 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
         return aligned;
     }
     aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, rules, RowsPart::Any, parameters.tables);
-    // What follows the last full row and is no part of it is other text.
+    // What follows the last full row and is no part of it is other text, unless it is one more field.
+    const bool holdsFields = areFields(aligned.rows, aligned.gaps, lines, parameters.tables);
     while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&
-           aligned.rows.back().pieces.size() == 1) {
+           aligned.rows.back().pieces.size() == 1 &&
+           !(holdsFields && isField(aligned.rows.back().pieces.front(), lines))) {
         aligned.groups.pop_back();
         aligned.rows.pop_back();
     }
@@ -141,7 +171,8 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
 } // namespace
 
 std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutParameters& parameters) {
-    const std::vector<PieceRow> rows = candidateRows(page, parameters.tables);
+    const PageRows texts = readRows(page, parameters.tables);
+    const std::vector<PieceRow>& rows = texts.rows;
     const std::vector<BorderLine> rules = collectBorderLines(page.rules, parameters.tables);
     RegionGrower grower(rows, page.lines, parameters.tables);
     std::vector<TableGrid> grids;
@@ -157,7 +188,7 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
             continue;
         TableGrid grid =
             spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);
-        if (isDrawnOver(page, grid, parameters.tables))
+        if (isDrawnOver(page, grid, parameters.tables) || cutsProse(grid, texts.prose, parameters.tables))
             continue;
         grids.push_back(std::move(grid));
         first = used = start + aligned.rows.size();

@@ -7,9 +7,7 @@
 #include <numeric>
 
 namespace orvane::layout {
-namespace {
 
-/// Whether `below` may be the next line of the text that `above` belongs to.
 bool followsOn(const TextPiece& above, const TextPiece& below, const TableParameters::Tables& parameters) {
     const double size = std::max(above.fontSize, below.fontSize);
     const double pitch = below.baseline - above.baseline;
@@ -21,6 +19,8 @@ bool followsOn(const TextPiece& above, const TextPiece& below, const TableParame
     const double narrower = std::min(above.box.width(), below.box.width());
     return shared > parameters.proseFill * narrower;
 }
+
+namespace {
 
 /// Whether all lines but the last of a paragraph within end where the first word of the next has no room: however
 /// ragged, they are one text.
