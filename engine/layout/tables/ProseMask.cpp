@@ -1,6 +1,7 @@
 #include "layout/tables/ProseMask.h"
 
 #include "layout/support/DisjointSets.h"
+#include "layout/tables/FieldTexts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -107,10 +108,12 @@ std::vector<char> markProse(const std::vector<TextPiece>& pieces, const std::vec
             const TextPiece& below = pieces[order[j]];
             if (below.baseline - above.baseline > parameters.proseLeading * 2 * above.fontSize)
                 break;
-            if (followsOn(above, below, parameters)) {
+            if (!followsOn(above, below, parameters))
+                continue;
+            // A field begins a text of its own.
+            if (!isField(below, lines))
                 texts.unite(order[i], order[j]);
-                break;
-            }
+            break;
         }
     }
     std::vector<char> isProse(pieces.size(), 0);

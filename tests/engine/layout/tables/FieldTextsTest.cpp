@@ -1,6 +1,7 @@
 #include "layout/tables/FieldTexts.h"
 
 #include "engine/layout/TextBuilder.h"
+#include "layout/tables/TableFinder.h"
 
 #include <gtest/gtest.h>
 
@@ -26,6 +27,23 @@ TEST(FieldTexts, AreBoldLabelsWithValues) {
     EXPECT_FALSE(isFieldLine(fieldLine("Duty station: Buffalo", 50, 70, 3))) << "a heading";
     EXPECT_FALSE(isFieldLine(fieldLine("Duty station:", 50, 70, 2))) << "no value";
     EXPECT_FALSE(isFieldLine(fieldLine("Duty station Buffalo", 50, 70, 2))) << "no colon";
+}
+
+TEST(FieldTexts, AreATableThoughOneColumnGoesOnAlone) {
+    PageText page = makePage(1);
+    page.fonts.front().spaceWidth = 0.5;
+    page.lines = {fieldLine("Salary: 54494 to 84913 a year", 50, 70, 1),
+                  fieldLine("Open: the first of January", 300, 70, 1),
+                  makeLine("Rates are higher in larger towns", 50, 82),
+                  fieldLine("Grade: GS-11", 50, 96, 1),
+                  fieldLine("Place: in Lund or elsewhere", 300, 96, 1),
+                  fieldLine("Duty: many places in the North", 300, 110, 1)};
+    Diagnostics diagnostics;
+    const std::vector<TableDraft> tables = findTables(page, {}, {}, diagnostics);
+    ASSERT_EQ(tables.size(), 1U);
+    EXPECT_EQ(tables.front().rowEdges.size(), 4U);
+    EXPECT_EQ(tables.front().columnEdges.size(), 3U);
+    EXPECT_TRUE(page.lines.empty());
 }
 
 TEST(FieldTexts, FillTwoColumns) {
