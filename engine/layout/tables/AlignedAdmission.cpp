@@ -208,7 +208,8 @@ private:
     /// Running text in at least two columns, or in narrow columns of which none looks like something else.
     bool isProseInColumns() const {
         const auto count = std::count_if(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
-            return isProse(column, m_parameters) && (m_columns.size() == 2 || !holdsEntries(column, lines()));
+            return isProse(column, m_parameters) &&
+                   (m_columns.size() == 2 || !holdsEntries(column, lines(), m_parameters));
         });
         if (count >= 2 || (count == 1 && m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment))
             return true;

@@ -115,10 +115,13 @@ private:
         return true;
     }
 
-    /// A row with one piece joins within a column, or as a heading over several if a row of the table follows.
+    /// A row with one piece joins within a column, or as a heading over several if a row of the table follows: one in
+    /// much larger letters heads a table of its own.
     bool takeSingle(std::size_t i) {
         const ColumnRange range = columnsOf(m_rows[i].pieces.front(), m_gaps);
         const bool isWithin = range.first == range.last;
+        if ((1 - m_parameters.rowSnap) * m_rows[i].fontSize > m_rows[i - 1].fontSize)
+            return false;
         if (!isWithin && (i + 1 >= m_rows.size() || !isMulti(i + 1) || !isMulti(i - 1)))
             return false;
         m_region.push_back(m_rows[i]);

@@ -1,8 +1,6 @@
 #include "layout/tables/ColumnPieces.h"
 
-#include "base/Utf8.h"
 #include "layout/support/Tally.h"
-#include "layout/text/Characters.h"
 
 #include <charconv>
 #include <string>
@@ -53,11 +51,10 @@ bool isProse(const ColumnPieces& column, const TableParameters::Tables& paramete
            column.wordsPerPiece() > parameters.proseWords && isFull(column, parameters);
 }
 
-bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines) {
-    return std::all_of(column.pieces.begin(), column.pieces.end(), [&](const TextPiece* piece) {
-        const std::u32string text = utf32FromUtf8(textOf(*piece, lines));
-        return text.size() > 1 && isUpperCase(text[0]) && isLowerCase(text[1]);
-    });
+bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines,
+                  const TableParameters::Tables& parameters) {
+    return column.share([&](const TextPiece* piece) { return beginsLikeSentence(*piece, lines); }) >=
+           parameters.numberedShare;
 }
 
 bool isRising(const ColumnPieces& column, const std::vector<Line>& lines) {

@@ -36,8 +36,9 @@ bool isFull(const ColumnPieces& column, const TableParameters::Tables& parameter
 /// Whether the column runs on from line to line: many long lines that fill it.
 bool isProse(const ColumnPieces& column, const TableParameters::Tables& parameters);
 
-/// Whether each text of the column begins as a sentence does: lines of one text go on with whatever word comes next.
-bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines);
+/// Whether the texts of the column begin as sentences do: lines of one text go on with whatever word comes next.
+bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines,
+                  const TableParameters::Tables& parameters);
 
 /// Whether the column holds nothing but whole numbers of which none is less than the one above.
 bool isRising(const ColumnPieces& column, const std::vector<Line>& lines);

@@ -60,6 +60,10 @@ TextKind kindOf(const std::vector<TextPiece>& pieces, const std::vector<std::siz
     const auto count = static_cast<double>(order.size());
     if (widest <= parameters.proseWidth * pieces[order.front()].fontSize || words <= parameters.proseWords * count)
         return TextKind::Other;
+    const auto sentences =
+        std::count_if(order.begin(), order.end(), [&](std::size_t i) { return beginsLikeSentence(pieces[i], lines); });
+    if (static_cast<double>(sentences) >= parameters.numberedShare * count)
+        return TextKind::Other;
     if (static_cast<double>(full) > parameters.proseFullShare * count)
         return TextKind::Full;
     const bool isRagged =

@@ -1,6 +1,8 @@
 #include "layout/tables/TextPiece.h"
 
+#include "base/Utf8.h"
 #include "layout/tables/FilledCells.h"
+#include "layout/text/Characters.h"
 
 #include <algorithm>
 #include <array>
@@ -200,6 +202,11 @@ bool isUpperLineOf(const PieceRow& row, const PieceRow& below, const TableParame
         });
         return over == 1 && piece.box.left > below.pieces.front().box.right;
     });
+}
+
+bool beginsLikeSentence(const TextPiece& piece, const std::vector<Line>& lines) {
+    const std::u32string text = utf32FromUtf8(textOf(piece, lines));
+    return text.size() > 1 && isUpperCase(text[0]) && isLowerCase(text[1]);
 }
 
 bool hasRoomBehind(const TextPiece& above, const TextPiece& piece, const Rect& column, const std::vector<Line>& lines,

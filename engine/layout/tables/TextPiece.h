@@ -67,6 +67,9 @@ void cutPiece(const TextPiece& piece, const Line& line, const Predicate& isCutBe
 /// Whether every word of the piece is a number, an amount, a date or stands for none (a dash).
 bool isNumeric(const TextPiece& piece, const std::vector<Line>& lines);
 
+/// Whether the text begins with a capital letter, as sentences and names do.
+bool beginsLikeSentence(const TextPiece& piece, const std::vector<Line>& lines);
+
 /// Whether the first word of `piece` would have had room behind `above`, the text before it in a column with the texts
 /// within `column`.
 bool hasRoomBehind(const TextPiece& above, const TextPiece& piece, const Rect& column, const std::vector<Line>& lines,
