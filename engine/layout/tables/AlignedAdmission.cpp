@@ -1,12 +1,11 @@
 #include "layout/tables/AlignedAdmission.h"
 
-#include "layout/tables/ColumnPieces.h"
+#include "layout/tables/CodeListing.h"
 #include "layout/tables/FieldTexts.h"
 #include "layout/tables/ItemLabels.h"
 #include "layout/tables/TextAround.h"
 
 #include <algorithm>
-#include <optional>
 #include <set>
 
 namespace orvane::layout {
@@ -218,43 +217,9 @@ private:
         });
     }
 
-    /// Whether the rows are counted as the lines of a listing are: "1:", "2:", "3:".
-    bool areLinesCounted() const {
-        std::size_t counted = 0;
-        std::optional<long> last;
-        for (const PieceRow& row : m_aligned.rows) {
-            const TextPiece& piece = row.pieces.front();
-            const TextPiece word = pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1);
-            const std::optional<long> number = lineNumberOf(textOf(word, lines()));
-            counted += number && (!last || *number == *last + 1);
-            last = number;
-        }
-        return static_cast<double>(counted) > m_parameters.labelShare * static_cast<double>(m_aligned.rows.size());
-    }
-
-    bool isInTypewriter(const TextPiece& piece) const {
-        const Look& look = lines()[piece.line].words[piece.firstWord].spans.front().look;
-        return look.font < m_page.fonts.size() && m_page.fonts[look.font].isFixedPitch;
-    }
-
-    /// Whether numbers in another font count the lines of a column in a typewriter's.
-    bool areTypedLinesCounted() const {
-        const auto typed = [&](const TextPiece* piece) { return isInTypewriter(*piece); };
-        for (std::size_t i = 1; i < m_columns.size(); ++i)
-            if (m_columns[i].share(typed) > m_parameters.codeShare && m_columns[i - 1].share(typed) == 0 &&
-                isRising(m_columns[i - 1], lines()) && !m_columns[i - 1].pieces.empty())
-                return true;
-        return false;
-    }
-
     bool isCode() const {
-        if (areLinesCounted())
-            return true;
-        if (m_evidence == AlignedEvidence::Rules)
-            return false;
-        return areTypedLinesCounted() || (m_columns.size() == 2 && shareOfRows([&](const PieceRow& row) {
-                                                                       return isInTypewriter(row.pieces.front());
-                                                                   }) > m_parameters.codeShare);
+        return areLinesCounted(m_aligned, lines(), m_parameters) ||
+               (m_evidence == AlignedEvidence::Alignment && areTyped(m_page, m_aligned, m_columns, m_parameters));
     }
 
     bool isSparse() const {

@@ -46,6 +46,10 @@ bool isLetterInBrackets(std::string_view text) {
     return text.size() == 3 && text.front() == '(' && text[1] >= 'a' && text[1] <= 'z' && text.back() == ')';
 }
 
+bool hasSignsOfCode(std::string_view text) {
+    return text.find_first_of("{}\\") != std::string_view::npos || text.ends_with(';');
+}
+
 std::optional<long> lineNumberOf(std::string_view text) {
     long number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);

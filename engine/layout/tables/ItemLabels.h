@@ -14,6 +14,9 @@ bool countsItem(std::string_view text);
 /// Whether the text is a small letter in brackets, as the items of laws are counted: "(b)".
 bool isLetterInBrackets(std::string_view text);
 
+/// Whether the text holds signs that programs are full of: braces, backslashes, a semicolon at its end.
+bool hasSignsOfCode(std::string_view text);
+
 /// The number of a line in a listing, "12:"; nothing for other texts.
 std::optional<long> lineNumberOf(std::string_view text);
 
