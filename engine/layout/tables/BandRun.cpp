@@ -6,11 +6,11 @@
 
 namespace orvane::layout {
 
-bool isHeadingOnly(const Band& band) {
+bool isHeadingOnly(const RuleBand& band) {
     return std::all_of(band.rows.begin(), band.rows.end(), [](const PieceRow& row) { return row.pieces.size() < 2; });
 }
 
-BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TableParameters::Tables& parameters) {
+BandRun growRun(const std::vector<RuleBand>& bands, std::size_t first, const TableParameters::Tables& parameters) {
     BandRun run{first, first, {}};
     std::vector<PieceRow> rows;
     std::size_t mostGaps = 0;
@@ -42,7 +42,7 @@ struct RuledPart {
     std::size_t end = 0;
 };
 
-std::vector<RuledPart> partsOf(const std::vector<Band>& bands, const BandRun& run) {
+std::vector<RuledPart> partsOf(const std::vector<RuleBand>& bands, const BandRun& run) {
     std::vector<RuledPart> parts;
     std::size_t row = 0;
     for (std::size_t i = run.first; i < run.end; ++i) {
@@ -68,7 +68,7 @@ bool areRowsRuled(const std::vector<RuledPart>& parts, const AlignedRows& aligne
 }
 
 /// Takes texts alone in their rows off the open end of a run, unless they go on from the row above.
-void dropNotes(const std::vector<Band>& bands, BandRun& run) {
+void dropNotes(const std::vector<RuleBand>& bands, BandRun& run) {
     AlignedRows& aligned = run.aligned;
     while (!aligned.groups.empty() && !bands[run.end - 1].hasRuleBelow && !bands[run.end - 1].isFollowed) {
         const std::span rows = std::span(aligned.rows).subspan(aligned.groups.back().first);
@@ -82,7 +82,7 @@ void dropNotes(const std::vector<Band>& bands, BandRun& run) {
 
 } // namespace
 
-void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
+void alignRun(const std::vector<RuleBand>& bands, const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
               const LayoutParameters& parameters, BandRun& run) {
     AlignedRows& aligned = run.aligned;
     for (std::size_t i = run.first; i < run.end; ++i)

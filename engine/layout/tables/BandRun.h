@@ -13,14 +13,14 @@ struct BandRun {
 };
 
 /// Whether no row of the band has texts side by side.
-bool isHeadingOnly(const Band& band);
+bool isHeadingOnly(const RuleBand& band);
 
 /// Takes bands from `first` on for as long as the columns of what was taken remain.
-BandRun growRun(const std::vector<Band>& bands, std::size_t first, const TableParameters::Tables& parameters);
+BandRun growRun(const std::vector<RuleBand>& bands, std::size_t first, const TableParameters::Tables& parameters);
 
 /// Finds the columns and rows of a run, and takes texts alone in their rows off its open end, unless they go on from
 /// the row above.
-void alignRun(const std::vector<Band>& bands, const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
+void alignRun(const std::vector<RuleBand>& bands, const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
               const LayoutParameters& parameters, BandRun& run);
 
 } // namespace orvane::layout

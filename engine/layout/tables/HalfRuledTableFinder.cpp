@@ -28,16 +28,16 @@ bool fillsRules(const BandRun& run, const RuleLevel& level, const TableParameter
 }
 
 /// Whether the run begins with rows that stand each in a band of its own above the first rule.
-bool beginsAboveTotals(const std::vector<Band>& bands, const BandRun& run) {
-    const Band& first = bands[run.first];
+bool beginsAboveTotals(const std::vector<RuleBand>& bands, const BandRun& run) {
+    const RuleBand& first = bands[run.first];
     return !first.hasRuleAbove && !first.hasRuleBelow && first.level == 0 && run.end > run.first + 1;
 }
 
 /// Whether two rules stand around the totals of a table that shows its rows by their places only: what is right above
 /// the first rule is no head, but a label and amounts as between the rules.
-bool isTailOfTable(const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run,
+bool isTailOfTable(const RuleStack& stack, const std::vector<RuleBand>& bands, const BandRun& run,
                    const std::vector<Line>& lines) {
-    const Band& above = bands[run.first];
+    const RuleBand& above = bands[run.first];
     const auto hasAmount = [&](const PieceRow& row) { return isLabelWithAmount(row, lines); };
     return stack.size() == 2 && !above.hasRuleAbove && !above.rows.empty() && run.end > run.first + 1 &&
            std::all_of(above.rows.begin(), above.rows.end(), hasAmount) &&
@@ -45,7 +45,7 @@ bool isTailOfTable(const RuleStack& stack, const std::vector<Band>& bands, const
 }
 
 /// One past the last band of the run that is no total.
-std::size_t endWithoutTotals(const std::vector<Band>& bands, const BandRun& run) {
+std::size_t endWithoutTotals(const std::vector<RuleBand>& bands, const BandRun& run) {
     std::size_t end = run.end;
     while (end > run.first && bands[end - 1].isTotal)
         --end;
@@ -55,7 +55,7 @@ std::size_t endWithoutTotals(const std::vector<Band>& bands, const BandRun& run)
 /// Whether a rule lies right below the head, or rules close the run above and below.
 enum class Frame { Closed, Headed, None };
 
-Frame frameOf(const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run) {
+Frame frameOf(const RuleStack& stack, const std::vector<RuleBand>& bands, const BandRun& run) {
     const std::size_t end = endWithoutTotals(bands, run);
     if (end > run.first && bands[run.first].hasRuleAbove && bands[end - 1].hasRuleBelow)
         return Frame::Closed;
@@ -66,7 +66,7 @@ Frame frameOf(const RuleStack& stack, const std::vector<Band>& bands, const Band
 }
 
 /// Whether the first band has a text in each column but the first, which may need no head.
-bool isHeaded(const std::vector<Band>& bands, const BandRun& run, const TableParameters::Tables& parameters) {
+bool isHeaded(const std::vector<RuleBand>& bands, const BandRun& run, const TableParameters::Tables& parameters) {
     std::set<int> headed;
     const std::size_t rows =
         beginsAboveTotals(bands, run)
@@ -84,7 +84,7 @@ bool isHeaded(const std::vector<Band>& bands, const BandRun& run, const TablePar
 }
 
 /// The edges that rules draw lie on them, the outer ones too.
-void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band>& bands, const BandRun& run) {
+void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<RuleBand>& bands, const BandRun& run) {
     std::size_t group = 0;
     std::size_t start = 0;
     for (std::size_t i = run.first; i < run.end; ++i) {
@@ -105,7 +105,8 @@ void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<Band
 
 /// The grid of a run, cut to what belongs to it; nothing when it is no table.
 std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<BorderLine>& rules, const RuleStack& stack,
-                                   const std::vector<Band>& bands, const LayoutParameters& parameters, BandRun& run) {
+                                   const std::vector<RuleBand>& bands, const LayoutParameters& parameters,
+                                   BandRun& run) {
     const TableParameters::Tables& limits = parameters.tables;
     if (run.end == run.first || isTailOfTable(stack, bands, run, page.lines) ||
         frameOf(stack, bands, run) == Frame::None)
@@ -141,7 +142,7 @@ std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vecto
                      [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
     std::vector<TableGrid> grids;
     for (const RuleStack& stack : sortedStacks(rules, pieces, page.lines, limits)) {
-        const std::vector<Band> bands = bandsOf(stack, pieces, page.lines, limits);
+        const std::vector<RuleBand> bands = bandsOf(stack, pieces, page.lines, limits);
         for (std::size_t first = 0; first < bands.size();) {
             BandRun run{first, first, {}};
             if (!bands[first].rows.empty() && !isHeadingOnly(bands[first]))

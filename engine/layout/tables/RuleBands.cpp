@@ -37,8 +37,8 @@ std::vector<PieceRow>::iterator endOfTable(std::vector<PieceRow>& rows, const Ru
 }
 
 /// Cuts a band where a table ends in it. What follows is the head of the next.
-void appendParts(Band band, const RuleLevel& level, const std::vector<Line>& lines,
-                 const TableParameters::Tables& parameters, std::vector<Band>& bands) {
+void appendParts(RuleBand band, const RuleLevel& level, const std::vector<Line>& lines,
+                 const TableParameters::Tables& parameters, std::vector<RuleBand>& bands) {
     const auto first = endOfTable(band.rows, level, lines, parameters);
     if (first == band.rows.end()) {
         bands.push_back(std::move(band));
@@ -46,12 +46,12 @@ void appendParts(Band band, const RuleLevel& level, const std::vector<Line>& lin
     }
     const auto end =
         std::find_if(first + 1, band.rows.end(), [](const PieceRow& row) { return row.pieces.size() > 1; });
-    Band rest{.top = first->box.top,
-              .bottom = band.bottom,
-              .rows = {end, band.rows.end()},
-              .hasRuleAbove = false,
-              .hasRuleBelow = band.hasRuleBelow,
-              .level = band.level};
+    RuleBand rest{.top = first->box.top,
+                  .bottom = band.bottom,
+                  .rows = {end, band.rows.end()},
+                  .hasRuleAbove = false,
+                  .hasRuleBelow = band.hasRuleBelow,
+                  .level = band.level};
     const bool isAtRule = first == band.rows.begin();
     band.rows.erase(first, band.rows.end());
     if (isAtRule && !bands.empty()) {
@@ -66,9 +66,9 @@ void appendParts(Band band, const RuleLevel& level, const std::vector<Line>& lin
         bands.push_back(std::move(rest));
 }
 
-std::vector<Band> bandsBetween(const RuleStack& stack, const std::vector<TextPiece>& pieces,
-                               const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
-    std::vector<Band> bands;
+std::vector<RuleBand> bandsBetween(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+                                   const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    std::vector<RuleBand> bands;
     for (std::size_t i = 0; i + 1 < stack.size(); ++i) {
         const Rect box{std::min(stack[i].left, stack[i + 1].left) - parameters.endSnap, stack[i].y,
                        std::max(stack[i].right, stack[i + 1].right) + parameters.endSnap, stack[i + 1].y};
@@ -84,7 +84,7 @@ std::vector<Band> bandsBetween(const RuleStack& stack, const std::vector<TextPie
 }
 
 /// A rule below the head, or one at each side of it, leaves the table open; more rules close it with their last.
-StackEnd endOf(const RuleStack& stack, const std::vector<PieceRow>& head, const std::vector<Band>& between,
+StackEnd endOf(const RuleStack& stack, const std::vector<PieceRow>& head, const std::vector<RuleBand>& between,
                const TableParameters::Tables& parameters) {
     const bool isHeadBetween = stack.size() == 2 && !between.empty() &&
                                static_cast<int>(between.front().rows.size()) <= parameters.maximumHeaderRows;
@@ -93,12 +93,13 @@ StackEnd endOf(const RuleStack& stack, const std::vector<PieceRow>& head, const 
 }
 
 /// The head above the first level; where rules stand at totals only, the rows above it, each a band of its own.
-std::vector<Band> bandsAbove(const RuleStack& stack, std::vector<PieceRow> head, const std::vector<TextPiece>& pieces,
-                             const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+std::vector<RuleBand> bandsAbove(const RuleStack& stack, std::vector<PieceRow> head,
+                                 const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
+                                 const TableParameters::Tables& parameters) {
     std::vector<PieceRow> rows;
     if (static_cast<int>(stack.size()) >= parameters.fewestTotalRules)
         rows = rowsAbove(stack.front(), pieces, lines, parameters);
-    std::vector<Band> bands;
+    std::vector<RuleBand> bands;
     if (rows.size() > head.size()) {
         for (PieceRow& row : rows) {
             const Rect box = row.box;
@@ -120,12 +121,12 @@ std::vector<Band> bandsAbove(const RuleStack& stack, std::vector<PieceRow> head,
 }
 
 /// The rows below the last level, each a band of its own: of a closed stack only totals.
-std::vector<Band> bandsBelow(const RuleStack& stack, StackEnd stackEnd, const std::vector<TextPiece>& pieces,
-                             const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+std::vector<RuleBand> bandsBelow(const RuleStack& stack, StackEnd stackEnd, const std::vector<TextPiece>& pieces,
+                                 const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     const RuleLevel& last = stack.back();
     std::vector<PieceRow> rows =
         stackEnd == StackEnd::Open ? rowsBelow(last, pieces, parameters) : totalsBelow(last, pieces, lines, parameters);
-    std::vector<Band> bands;
+    std::vector<RuleBand> bands;
     double top = last.y;
     for (PieceRow& row : rows) {
         const double bottom = row.box.bottom;
@@ -143,12 +144,12 @@ std::vector<Band> bandsBelow(const RuleStack& stack, StackEnd stackEnd, const st
 
 } // namespace
 
-std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
-                          const TableParameters::Tables& parameters) {
+std::vector<RuleBand> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+                              const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
     std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
-    std::vector<Band> between = bandsBetween(stack, pieces, lines, parameters);
-    std::vector<Band> below = bandsBelow(stack, endOf(stack, head, between, parameters), pieces, lines, parameters);
-    std::vector<Band> bands = bandsAbove(stack, std::move(head), pieces, lines, parameters);
+    std::vector<RuleBand> between = bandsBetween(stack, pieces, lines, parameters);
+    std::vector<RuleBand> below = bandsBelow(stack, endOf(stack, head, between, parameters), pieces, lines, parameters);
+    std::vector<RuleBand> bands = bandsAbove(stack, std::move(head), pieces, lines, parameters);
     std::move(between.begin(), between.end(), std::back_inserter(bands));
     std::move(below.begin(), below.end(), std::back_inserter(bands));
     return bands;

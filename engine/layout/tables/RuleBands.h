@@ -8,7 +8,7 @@
 namespace orvane::layout {
 
 /// Rows of text between two levels of a stack, or beyond its ends.
-struct Band {
+struct RuleBand {
     double top = 0;
     double bottom = 0;
     std::vector<PieceRow> rows;
@@ -22,7 +22,7 @@ struct Band {
 /// The bands of a stack from top to bottom: those between its levels, cut where a paragraph stands between two tables,
 /// and where the stack is open the head or rows above its first level and the rows below its last. `pieces` are sorted
 /// by their baselines.
-std::vector<Band> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces, const std::vector<Line>& lines,
-                          const TableParameters::Tables& parameters);
+std::vector<RuleBand> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+                              const std::vector<Line>& lines, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout
