@@ -131,14 +131,14 @@ std::unique_ptr<PictureRows> PagePictures::openMask(std::size_t index) const {
 
 std::optional<StateMask> PagePictures::stateMask(std::size_t index) const {
     const ComplaintCollector silence;
-    const auto start = std::chrono::steady_clock::now();
+    const auto start = threadTime();
     TimeBudget budget(std::max(kMaskTime - m_impl->maskTime, std::chrono::milliseconds(0)));
     const CollectedPicture& collected = m_impl->collected[index];
     std::optional<StateMask> mask;
     if (!budget.isSpent())
         mask = paintStateMask({m_impl->painted[index], collected.painting, collected.hasOwnSoftMask()}, *m_impl->page,
                               m_impl->document, m_impl->repair, budget);
-    m_impl->maskTime += std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    m_impl->maskTime += std::chrono::duration_cast<std::chrono::milliseconds>(threadTime() - start);
     return mask;
 }
 

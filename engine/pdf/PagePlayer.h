@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "pdf/ThreadTime.h"
 
 #include <chrono>
 #include <cstdint>
@@ -15,18 +16,19 @@ namespace orvane::pdf {
 /// Ends content that would go on for ever: forms that call each other in endless variations, millions of operators.
 class TimeBudget {
 public:
+/// Thread: used by the one that made it, whose processor time it counts.
     explicit TimeBudget(std::chrono::milliseconds budget)
-        : m_end(std::chrono::steady_clock::now() + budget) {}
+        : m_end(threadTime() + budget) {}
 
     bool isSpent() {
-        m_isSpent = m_isSpent || std::chrono::steady_clock::now() > m_end;
+        m_isSpent = m_isSpent || threadTime() > m_end;
         return m_isSpent;
     }
     /// The library's abort callback; `budget` is a TimeBudget.
     static bool isSpent(void* budget) { return static_cast<TimeBudget*>(budget)->isSpent(); }
 
 private:
-    std::chrono::steady_clock::time_point m_end;
+    std::chrono::nanoseconds m_end;
     bool m_isSpent = false;
 };
 
