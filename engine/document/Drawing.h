@@ -68,7 +68,8 @@ struct Shape {
 struct Drawing {
     Emu width;
     Emu height;
-    std::vector<Shape> shapes; ///< in paint order
+    std::vector<Shape> shapes;    ///< in paint order
+    bool isPictureAtBest = false; ///< so many upright boxes and lines that word processors bear them as a picture only
     std::string alternateText;
 };
 

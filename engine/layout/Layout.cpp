@@ -60,14 +60,17 @@ std::vector<PageLayout> layoutPages(std::vector<PageText> pages, const DocumentC
                                     Diagnostics& diagnostics) {
     std::vector<PageLayout> layouts;
     layouts.reserve(pages.size());
-    const std::size_t mostShapes = mostFreeShapes(pages.size(), parameters.freeDrawings);
+    std::vector<std::size_t> shapes;
     for (PageText& page : pages) {
         if (observer.isCancelled())
             throw Failure(FailureCode::Cancelled, "the job was cancelled", {page.number, 0});
         layouts.push_back(layoutPage(std::move(page), context, parameters, diagnostics));
         findParagraphBorders(layouts.back(), parameters.paragraphBorders);
-        drawFreeRules(layouts.back(), parameters.freeDrawings, mostShapes, diagnostics);
+        shapes.push_back(countFreeShapes(layouts.back(), parameters.freeDrawings));
     }
+    const std::size_t mostShapes = mostFreeShapes(std::move(shapes), parameters.freeDrawings);
+    for (PageLayout& layout : layouts)
+        drawFreeRules(layout, mostShapes, parameters);
     return layouts;
 }
 

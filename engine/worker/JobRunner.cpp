@@ -11,6 +11,7 @@
 #include "protocol/PartFile.h"
 #include "worker/Capabilities.h"
 #include "worker/ContentCounter.h"
+#include "worker/DrawingPainter.h"
 #include "worker/FontCarrier.h"
 #include "worker/PageReader.h"
 #include "worker/PictureFolder.h"
@@ -183,9 +184,11 @@ void JobRunner::convert() {
     m_reporter.stageReached(JobStage::Generating, 0, 0);
     const layout::DocumentFacts facts{source.metadata(), source.outline(), source.structureTree(),
                                       carriedFonts(m_job, source, read.pages, parameters)};
-    const document::Document document =
+    document::Document document =
         layout::layoutDocument(std::move(read.pages), facts, layoutRequest(m_job), parameters, m_reporter, diagnostics);
     requireNotCancelled(m_reporter);
+    if (showsPictures(m_job))
+        paintDrawings(document, pictures);
     writeDocument(m_job.format, document, pictures, target.part(), diagnostics);
     requireNotCancelled(m_reporter);
     m_reporter.report(diagnostics);

@@ -78,6 +78,7 @@ struct GraphicsParameters {
         double cut = 0.75;               ///< points; a clip that takes less away is not seen
         double thinnestLine = 0.25;      ///< points; width given to hairlines
         double dotLength = 1.6;          ///< of the line's width; shorter dashes are dots
+        std::size_t looksBack = 16;      ///< looks among the last ones painted that an alike shape is sought in
     } shapes;
 
     /// GradientMaker: shadings as the gradients of shapes.

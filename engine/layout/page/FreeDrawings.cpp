@@ -1,13 +1,14 @@
 #include "layout/page/FreeDrawings.h"
 
+#include "layout/graphics/AlikeShapes.h"
 #include "layout/graphics/RuleShapes.h"
+#include "layout/page/FloatPlace.h"
 #include "layout/support/BoxGroups.h"
 #include "layout/text/RuleBox.h"
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
-#include <optional>
+#include <numeric>
 #include <utility>
 
 namespace orvane::layout {
@@ -49,38 +50,46 @@ Figure figureOf(std::vector<Piece>& pieces, const std::vector<std::size_t>& memb
     return figure;
 }
 
-double gapBetween(double from, double to, double otherFrom, double otherTo) {
-    return std::max({0.0, otherFrom - to, from - otherTo});
+/// Those that lie close to each other as one figure.
+std::vector<Figure> figuresOf(std::vector<Piece> pieces, double gap) {
+    BoxGroups groups(gap);
+    for (const Piece& piece : pieces)
+        groups.add(piece.box);
+    std::vector<Figure> figures;
+    for (const std::vector<std::size_t>& members : groups.groups())
+        figures.push_back(figureOf(pieces, members));
+    return figures;
 }
 
-/// The paragraph of the flow nearest to the box: what floats hangs on the paragraph behind it.
-std::optional<std::size_t> nearestParagraph(const PageLayout& layout, const Rect& box) {
-    std::optional<std::size_t> nearest;
-    double distance = std::numeric_limits<double>::infinity();
-    for (std::size_t i = 0; i < layout.blocks.size(); ++i) {
-        const auto* paragraph = std::get_if<ParagraphDraft>(&layout.blocks[i].value);
-        if (!paragraph || paragraph->isFloating)
-            continue;
-        const Rect& text = paragraph->box;
-        const double here = gapBetween(text.top, text.bottom, box.top, box.bottom) +
-                            gapBetween(text.left, text.right, box.left, box.right);
-        if (here < distance) {
-            distance = here;
-            nearest = i;
-        }
-    }
-    return nearest;
+Figure wholeOf(std::vector<Piece> pieces) {
+    std::vector<std::size_t> all(pieces.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    return figureOf(pieces, all);
 }
 
-void insert(PageLayout& layout, Figure figure) {
-    const std::size_t place = nearestParagraph(layout, figure.box).value_or(0);
-    PageBlock block;
-    if (place < layout.blocks.size()) {
-        block.band = layout.blocks[place].band;
-        block.column = layout.blocks[place].column;
+std::size_t joinShapes(Figure& figure, const GraphicsParameters::Shapes& parameters) {
+    figure.drawing->shapes = joinAlike(std::move(figure.drawing->shapes), parameters);
+    return figure.drawing->shapes.size();
+}
+
+/// Too many pieces in figures of no more than `most` shapes: what looks alike is one shape, all of it one drawing if
+/// need be, and at last one picture.
+std::vector<Figure> fewerFigures(const std::vector<Piece>& pieces, std::size_t most,
+                                 const LayoutParameters& parameters) {
+    Figure whole = wholeOf(pieces);
+    if (pieces.size() <= parameters.freeDrawings.mostJoined) {
+        std::vector<Figure> figures = figuresOf(pieces, parameters.freeDrawings.gap);
+        std::size_t shapes = 0;
+        for (Figure& figure : figures)
+            shapes += joinShapes(figure, parameters.shapes);
+        if (shapes <= most)
+            return figures;
+        Figure joined = whole;
+        if (joinShapes(joined, parameters.shapes) <= most)
+            return {std::move(joined)};
     }
-    block.value = FigureDraft{std::move(figure), false};
-    layout.blocks.insert(layout.blocks.begin() + static_cast<std::ptrdiff_t>(place), std::move(block));
+    whole.drawing->isPictureAtBest = true;
+    return {std::move(whole)};
 }
 
 /// Pictures that a free ground was painted over, such as the shadow of a box, go behind the text with it.
@@ -103,26 +112,33 @@ void sinkCovered(PageLayout& layout, const std::vector<Piece>& pieces, double sh
 
 } // namespace
 
-std::size_t mostFreeShapes(std::size_t pages, const PageParameters::FreeDrawings& parameters) {
-    return std::max(parameters.leastShapesOfPage, parameters.shapesOfDocument / std::max<std::size_t>(1, pages));
+std::size_t countFreeShapes(const PageLayout& layout, const PageParameters::FreeDrawings& parameters) {
+    return freePieces(layout, parameters.speck).size();
 }
 
-void drawFreeRules(PageLayout& layout, const PageParameters::FreeDrawings& parameters, std::size_t most,
-                   Diagnostics& diagnostics) {
-    std::vector<Piece> pieces = freePieces(layout, parameters.speck);
+std::size_t mostFreeShapes(std::vector<std::size_t> ofPages, const PageParameters::FreeDrawings& parameters) {
+    std::sort(ofPages.begin(), ofPages.end());
+    std::size_t left = parameters.shapesOfDocument;
+    for (std::size_t i = 0; i < ofPages.size(); ++i) {
+        const std::size_t share = left / (ofPages.size() - i);
+        if (ofPages[i] > share)
+            return std::max(parameters.leastShapesOfPage, share);
+        left -= ofPages[i];
+    }
+    return parameters.shapesOfDocument;
+}
+
+void drawFreeRules(PageLayout& layout, std::size_t most, const LayoutParameters& parameters) {
+    const PageParameters::FreeDrawings& limits = parameters.freeDrawings;
+    std::vector<Piece> pieces = freePieces(layout, limits.speck);
     layout.freeRules.clear();
     layout.freeGrounds.clear();
-    if (pieces.size() > most) {
-        diagnostics.add(DiagnosticKind::PictureSimplified, layout.number,
-                        "its many lines and grounds beside the text are left out");
+    if (pieces.empty())
         return;
-    }
-    sinkCovered(layout, pieces, parameters.coveredShare);
-    BoxGroups groups(parameters.gap);
-    for (const Piece& piece : pieces)
-        groups.add(piece.box);
-    for (const std::vector<std::size_t>& members : groups.groups())
-        insert(layout, figureOf(pieces, members));
+    sinkCovered(layout, pieces, limits.coveredShare);
+    for (Figure& figure :
+         pieces.size() <= most ? figuresOf(std::move(pieces), limits.gap) : fewerFigures(pieces, most, parameters))
+        hangOnNearestParagraph(layout, std::move(figure), limits);
 }
 
 } // namespace orvane::layout

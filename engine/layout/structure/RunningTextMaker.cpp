@@ -84,7 +84,7 @@ RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningH
     PageLayout page = layoutPage(std::move(content), m_context, m_parameters, m_diagnostics);
     findParagraphBorders(page, m_parameters.paragraphBorders);
     // A head is written once, however many pages show it.
-    drawFreeRules(page, m_parameters.freeDrawings, m_parameters.freeDrawings.shapesOfDocument, m_diagnostics);
+    drawFreeRules(page, m_parameters.freeDrawings.shapesOfDocument, m_parameters);
     std::vector<DraftBlock> blocks = addPage(m_draft, std::move(page));
     m_draft.fields.back() = head->fields;
     m_made.emplace(key, blocks);

@@ -12,11 +12,9 @@ namespace {
 using testing::SizeIs;
 using tests::pageWith;
 
-/// Draws what is free, where nine pieces are the most; how many diagnostics there are.
-std::size_t draw(PageLayout& page) {
-    Diagnostics diagnostics;
-    drawFreeRules(page, {}, 9, diagnostics);
-    return diagnostics.entries().size();
+/// Draws what is free, where nine pieces are the most.
+void draw(PageLayout& page) {
+    drawFreeRules(page, 9, {});
 }
 
 Rule ruleAt(RuleDirection direction, double position, double from, double to) {
@@ -53,6 +51,30 @@ TEST(FreeDrawings, HangOnTheNearestParagraph) {
     EXPECT_TRUE(std::holds_alternative<FigureDraft>(page.blocks[1].value)) << "before the second one";
 }
 
+TEST(FreeDrawings, HangInTheCellThatTheyLieIn) {
+    PageLayout page = pageWith({100});
+    TableDraft table;
+    table.box = {72, 200, 472, 300};
+    for (const double left : {72.0, 272.0}) {
+        CellDraft& cell = table.cells.emplace_back();
+        cell.box = {left, 200, left + 200, 300};
+        ParagraphDraft paragraph;
+        paragraph.lines.push_back(tests::makeLine("label", left + 5, 215));
+        paragraph.box = paragraph.lines.front().box;
+        cell.blocks.emplace_back().value = std::move(paragraph);
+    }
+    page.blocks.emplace_back().value = std::move(table);
+    page.freeRules = {ruleAt(RuleDirection::Horizontal, 250, 282, 462),
+                      ruleAt(RuleDirection::Horizontal, 280, 82, 462)};
+    draw(page);
+    ASSERT_THAT(page.blocks, SizeIs(3)) << "what lies over both cells is of the page";
+    EXPECT_TRUE(std::holds_alternative<FigureDraft>(page.blocks[0].value));
+    const auto& drawn = std::get<TableDraft>(page.blocks[2].value);
+    EXPECT_THAT(drawn.cells[0].blocks, SizeIs(1));
+    ASSERT_THAT(drawn.cells[1].blocks, SizeIs(2));
+    EXPECT_TRUE(std::holds_alternative<FigureDraft>(drawn.cells[1].blocks[0].value));
+}
+
 TEST(FreeDrawings, LeaveOutWhatIsDrawnOtherwise) {
     PageLayout page = pageWith({100});
     page.freeRules = {ruleAt(RuleDirection::Horizontal, 110, 72, 523)};
@@ -73,13 +95,48 @@ TEST(FreeDrawings, KeepTheGradientOfAGround) {
     EXPECT_TRUE(figureAt(page, 0).drawing->shapes.at(0).gradient);
 }
 
-TEST(FreeDrawings, AreNotMoreThanWordProcessorsBear) {
+TEST(FreeDrawings, OfOneLookAreOneShapeWhereTheyAreMany) {
     PageLayout page = pageWith({100});
-    page.freeRules.assign(10, ruleAt(RuleDirection::Horizontal, 110, 72, 523));
-    EXPECT_EQ(draw(page), 1u) << "the log tells";
-    EXPECT_THAT(page.blocks, SizeIs(1));
-    EXPECT_GT(mostFreeShapes(1, {}), 1000u);
-    EXPECT_LT(mostFreeShapes(200, {}), 10u);
+    for (int i = 0; i < 10; ++i)
+        page.freeRules.push_back(ruleAt(RuleDirection::Horizontal, 110 + i, 72, 523));
+    draw(page);
+    ASSERT_THAT(page.blocks, SizeIs(2));
+    ASSERT_TRUE(figureAt(page, 0).drawing);
+    EXPECT_THAT(figureAt(page, 0).drawing->shapes, SizeIs(1));
+    EXPECT_FALSE(figureAt(page, 0).drawing->isPictureAtBest);
+}
+
+TEST(FreeDrawings, AreOneDrawingWhereTheirGroupsAreTooMany) {
+    PageLayout page = pageWith({100});
+    for (int i = 0; i < 10; ++i)
+        page.freeRules.push_back(ruleAt(RuleDirection::Horizontal, 110 + 20 * i, 72, 523));
+    draw(page);
+    ASSERT_THAT(page.blocks, SizeIs(2));
+    EXPECT_EQ(figureAt(page, 0).box.bottom, 290.25);
+    EXPECT_THAT(figureAt(page, 0).drawing->shapes, SizeIs(1));
+}
+
+TEST(FreeDrawings, AreOnePictureWhereTheirLooksAreTooMany) {
+    PageLayout page = pageWith({100});
+    for (std::uint8_t i = 0; i < 10; ++i) {
+        Ground ground;
+        ground.box = {100.0 + 5 * i, 100, 105.0 + 5 * i, 105};
+        ground.color = {i, 0, 0};
+        page.freeGrounds.push_back(ground);
+    }
+    draw(page);
+    ASSERT_THAT(page.blocks, SizeIs(2));
+    ASSERT_TRUE(figureAt(page, 0).drawing);
+    EXPECT_TRUE(figureAt(page, 0).drawing->isPictureAtBest);
+    EXPECT_THAT(figureAt(page, 0).drawing->shapes, SizeIs(10)) << "none is lost";
+}
+
+TEST(FreeDrawings, ShareWhatADocumentBears) {
+    const PageParameters::FreeDrawings limits;
+    EXPECT_EQ(mostFreeShapes({limits.shapesOfDocument}, limits), limits.shapesOfDocument);
+    EXPECT_EQ(mostFreeShapes({0, 0, 0, 100000}, limits), limits.shapesOfDocument) << "pages without any leave theirs";
+    EXPECT_EQ(mostFreeShapes({500, 100000, 100000}, limits), (limits.shapesOfDocument - 500) / 2);
+    EXPECT_EQ(mostFreeShapes(std::vector<std::size_t>(1000, 100), limits), limits.leastShapesOfPage);
 }
 
 TEST(FreeDrawings, LeaveOutSpecks) {
