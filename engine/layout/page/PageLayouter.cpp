@@ -1,5 +1,7 @@
 #include "layout/page/PageLayouter.h"
 
+#include "layout/page/ColumnSeparators.h"
+#include "layout/page/FloatPlace.h"
 #include "layout/page/ReadingOrder.h"
 #include "layout/page/RegionFinder.h"
 #include "layout/page/WideObjects.h"
@@ -125,6 +127,7 @@ private:
         m_places = placeObjects(m_objects, m_regions, m_parameters);
     }
 
+        findColumnSeparators(m_regions.bands, m_page.rules, m_parameters.separators);
     void fillColumns() {
         auto place = m_places.begin();
         for (std::size_t r = 0; r < m_regions.regions.size(); ++r) {

@@ -18,6 +18,15 @@ struct PageParameters {
         std::size_t mostJoined = 20000; ///< rules and grounds of a page; among more nobody looks for those of one look
     } freeDrawings;
 
+    /// ColumnSeparators: rules between columns.
+    struct Separators {
+        double thickest = 3;       ///< points; broader ones are bars
+        double slack = 1;          ///< points; how far into a column's room it may stand
+        double lowestBand = 24;    ///< points; beside less it may be anything
+        double leastShare = 0.8;   ///< of the band's height that it reaches over
+        double insideShare = 0.75; ///< of its length within the columns; one that reaches farther is drawn as it is
+    } separators;
+
     /// ColumnGutter, RegionFinder: where columns are.
     struct Regions {
         double narrowGutter = 0.7;    ///< of the font size; narrower gaps never part columns
