@@ -69,7 +69,14 @@ struct Field {
     std::vector<Inline> result;
 };
 
-enum class ControlKind : std::uint8_t { Text, CheckBox, DropDown, Date };
+enum class ControlKind : std::uint8_t {
+    Text,
+    CheckBox,
+    RadioButton, ///< as a check box with a round sign: word processors know no others
+    DropDown,
+    ComboBox, ///< a list that takes other texts too
+    Date
+};
 
 /// A form field as a content control.
 struct ContentControl {
@@ -77,7 +84,7 @@ struct ContentControl {
     std::string name;
     std::string tooltip;
     std::vector<std::string> choices;
-    bool isChecked = false;
+    bool isChecked = false; ///< CheckBox, RadioButton
     bool isMultiline = false;
     std::vector<Inline> content;
 };

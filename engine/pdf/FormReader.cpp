@@ -43,7 +43,8 @@ void readChoice(const ::FormWidgetChoice& widget, FormField& field) {
             field.value += '\n';
         field.value += field.choices.back();
     }
-    if (field.value.empty() && widget.isCombo() && widget.hasEdit())
+    field.isEditable = widget.isCombo() && widget.hasEdit();
+    if (field.value.empty() && field.isEditable)
         field.value = textFromPdf(widget.getEditChoice());
 }
 

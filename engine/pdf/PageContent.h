@@ -186,6 +186,7 @@ struct FormField {
 };
 
 /// A marked-content sequence.
+    bool isEditable = false;     ///< ComboBox: takes texts that are no choice
 struct Mark {
     std::string tag;             ///< "P", "Span", "Artifact", ...
     int mcid = -1;               ///< number into the structure tree; -1 for none

@@ -41,9 +41,9 @@ FormField formFieldOf(const ContentControl& control) {
     field.help = shortened(control.tooltip, kLongestHelp);
     field.isDate = control.kind == ControlKind::Date;
     field.isChecked = control.isChecked;
-    if (control.kind == ControlKind::CheckBox)
+    if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton)
         field.type = FormFieldType::CheckBox;
-    else if (control.kind == ControlKind::DropDown)
+    else if (control.kind == ControlKind::DropDown || control.kind == ControlKind::ComboBox)
         takeChoices(field, control);
     return field;
 }

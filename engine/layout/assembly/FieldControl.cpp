@@ -21,9 +21,11 @@ using document::Text;
 ControlKind kindOf(const pdf::FormField& field) {
     switch (field.kind) {
     case pdf::FieldKind::CheckBox:
-    case pdf::FieldKind::RadioButton:
         return ControlKind::CheckBox;
+    case pdf::FieldKind::RadioButton:
+        return ControlKind::RadioButton;
     case pdf::FieldKind::ComboBox:
+        return field.isEditable ? ControlKind::ComboBox : ControlKind::DropDown;
     case pdf::FieldKind::ListBox:
         return ControlKind::DropDown;
     default:
@@ -61,7 +63,7 @@ ContentControl controlOf(const pdf::FormField& field, std::vector<Inline> seen) 
     control.choices = field.choices;
     control.isChecked = field.isOn;
     control.isMultiline = field.isMultiline;
-    if (control.kind == ControlKind::CheckBox)
+    if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton)
         return control; // each format has its own sign
     const std::u32string letters = lettersOf(document::plainText(seen));
     const auto* first = seen.empty() ? nullptr : std::get_if<Text>(&seen.front().value);

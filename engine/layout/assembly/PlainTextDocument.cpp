@@ -42,7 +42,8 @@ private:
     void add(const Field& field) { addAll(field.result); }
     void add(const NoteReference& reference) { m_text += noteMark(reference.note, reference.customMark); }
     void add(const ContentControl& control) {
-        if (control.content.empty() && control.kind == ControlKind::CheckBox)
+        if (control.content.empty() &&
+            (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton))
             m_text += control.isChecked ? kCheckedBox : kUncheckedBox;
         addAll(control.content);
     }

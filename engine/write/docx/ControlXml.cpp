@@ -6,6 +6,8 @@
 
 #include <set>
 
+#include <fmt/format.h>
+
 namespace orvane::write::docx {
 namespace {
 
@@ -14,8 +16,6 @@ using namespace document;
 /// Word processors call a document damaged that has a longer name.
 constexpr std::size_t kLongestName = 64;
 constexpr const char* kBoxFont = "MS Gothic";
-constexpr const char* kCheckedBox = "\u2612";
-constexpr const char* kUncheckedBox = "\u2610";
 /// What stands in an empty text field, so that it can be seen and clicked.
 constexpr const char* kEmptyField = "\u00A0\u00A0\u00A0\u00A0\u00A0";
 
@@ -23,15 +23,31 @@ std::string shortened(const std::string& name) {
     return utf8FromUtf32(utf32FromUtf8(name).substr(0, kLongestName));
 }
 
+/// What a box shows, as a code point.
+struct BoxSigns {
+    char32_t checked = 0;
+    char32_t unchecked = 0;
+};
+
+bool isBox(const ContentControl& control) {
+    return control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton;
+}
+
+BoxSigns signsOf(const ContentControl& control) {
+    return control.kind == ControlKind::RadioButton ? BoxSigns{0x25C9, 0x25CB} : BoxSigns{0x2612, 0x2610};
+}
+
 void writeCheckBox(XmlWriter& xml, const ContentControl& control) {
+    const auto [checked, unchecked] = signsOf(control);
     const XmlElement box(xml, "w14:checkbox");
     xml.leaf("w14:checked", {{"w14:val", control.isChecked ? 1 : 0}});
-    xml.leaf("w14:checkedState", {{"w14:val", "2612"}, {"w14:font", kBoxFont}});
-    xml.leaf("w14:uncheckedState", {{"w14:val", "2610"}, {"w14:font", kBoxFont}});
+    xml.leaf("w14:checkedState", {{"w14:val", fmt::format("{:04X}", std::uint32_t{checked})}, {"w14:font", kBoxFont}});
+    xml.leaf("w14:uncheckedState",
+             {{"w14:val", fmt::format("{:04X}", std::uint32_t{unchecked})}, {"w14:font", kBoxFont}});
 }
 
 void writeChoices(XmlWriter& xml, const ContentControl& control) {
-    const XmlElement list(xml, "w:dropDownList");
+    const XmlElement list(xml, control.kind == ControlKind::ComboBox ? "w:comboBox" : "w:dropDownList");
     std::set<std::string_view> written;
     for (const std::string& choice : control.choices)
         if (!choice.empty() && written.insert(choice).second)
@@ -55,9 +71,11 @@ void writeKind(Story& story, const ContentControl& control) {
         return;
     }
     case ControlKind::CheckBox:
+    case ControlKind::RadioButton:
         writeCheckBox(story.xml, control);
         return;
     case ControlKind::DropDown:
+    case ControlKind::ComboBox:
         writeChoices(story.xml, control);
         return;
     case ControlKind::Date:
@@ -74,21 +92,21 @@ void writeProperties(Story& story, const ContentControl& control) {
     if (!control.name.empty())
         story.xml.leaf("w:tag", {{"w:val", shortened(control.name)}});
     story.xml.leaf("w:id", {{"w:val", story.state.nextControlId++}});
-    if (control.content.empty() && control.kind != ControlKind::CheckBox)
+    if (control.content.empty() && !isBox(control))
         story.xml.leaf("w:showingPlcHdr");
     writeKind(story, control);
 }
 
 void writePlaceholder(XmlWriter& xml, const ContentControl& control, const RunProperties& base) {
-    const bool isBox = control.kind == ControlKind::CheckBox;
     RunProperties look = base;
-    if (isBox)
+    if (isBox(control))
         look.fontFamily = look.eastAsianFontFamily = look.complexFontFamily = kBoxFont;
     const XmlElement run(xml, "w:r");
     writeRunProperties(xml, look, &base, ScriptUse::Simple);
-    if (isBox)
-        writeRunText(xml, control.isChecked ? kCheckedBox : kUncheckedBox);
-    else
+    if (isBox(control)) {
+        const auto [checked, unchecked] = signsOf(control);
+        writeRunText(xml, utf8FromUtf32(std::u32string{control.isChecked ? checked : unchecked}));
+    } else
         writeRunText(xml, kEmptyField);
 }
 

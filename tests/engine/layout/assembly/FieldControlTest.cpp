@@ -35,9 +35,13 @@ TEST(FieldControl, TellsKindsApart) {
     field.choices = {"Red", "Blue"};
     EXPECT_EQ(controlOf(field, {}).kind, ControlKind::DropDown);
     EXPECT_THAT(controlOf(field, {}).choices, SizeIs(2));
+    field.isEditable = true;
+    EXPECT_EQ(controlOf(field, {}).kind, ControlKind::ComboBox);
+    field.kind = FieldKind::CheckBox;
+    EXPECT_EQ(controlOf(field, {}).kind, ControlKind::CheckBox);
     field.kind = FieldKind::RadioButton;
     field.isOn = true;
-    EXPECT_EQ(controlOf(field, {}).kind, ControlKind::CheckBox);
+    EXPECT_EQ(controlOf(field, {}).kind, ControlKind::RadioButton);
     EXPECT_TRUE(controlOf(field, {}).isChecked);
 }
 

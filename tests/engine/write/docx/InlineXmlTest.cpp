@@ -141,6 +141,23 @@ TEST(InlineXml, WritesACheckBoxWithItsState) {
     }
 }
 
+TEST(InlineXml, WritesARadioButtonAsARoundBox) {
+    ContentControl control;
+    control.kind = ControlKind::RadioButton;
+    control.isChecked = true;
+    const WrittenDocument written(documentOf(paragraph({{control}})));
+    EXPECT_EQ(written.body("//w14:checkedState/@w14:val"), "25C9\n");
+    EXPECT_EQ(written.body("//w14:uncheckedState/@w14:val"), "25CB\n");
+    EXPECT_EQ(written.body("//w:sdtContent//w:t/text()"), "\u25C9");
+}
+
+TEST(InlineXml, WritesAListThatTakesOtherTextsAsACombination) {
+    ContentControl control{ControlKind::ComboBox, "c", "", {"red", "green"}, false, false, {text("blue")}};
+    const WrittenDocument written(documentOf(paragraph({{control}})));
+    EXPECT_EQ(written.count("//w:comboBox/w:listItem"), 2u);
+    EXPECT_EQ(written.body("//w:sdtContent//w:t/text()"), "blue");
+}
+
 TEST(InlineXml, WritesEachChoiceOnce) {
     ContentControl control{ControlKind::DropDown, "c", "", {"red", "", "green", "red"}, false, false, {text("green")}};
     const WrittenDocument written(documentOf(paragraph({{control}})));
