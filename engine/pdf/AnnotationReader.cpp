@@ -89,18 +89,24 @@ Color colorOf(const ::AnnotColor* color) {
 
 } // namespace
 
-std::vector<Annotation> readAnnotations(::Page& page) {
+std::vector<Annotation> readAnnotations(::Page& page, const PaintRanges& painted) {
     std::vector<Annotation> annotations;
     ::Annots* sources = page.getAnnots();
     if (!sources)
         return annotations;
     const Matrix matrix = defaultMatrix(page);
-    for (::Annot* source : sources->getAnnots()) {
+    for (std::size_t number = 0; number < sources->getAnnots().size(); ++number) {
+        ::Annot* source = sources->getAnnots()[number];
         const auto kind = kindOf(source->getType());
         if (!kind || (source->getFlags() & (::Annot::flagHidden | ::Annot::flagNoView)) != 0)
             continue;
         Annotation annotation;
         annotation.kind = *kind;
+        annotation.number = number;
+        if (const auto range = painted.find(number); range != painted.end()) {
+            annotation.paintedFrom = range->second.from;
+            annotation.paintedTo = range->second.to;
+        }
         const PDFRectangle& rect = source->getRect();
         annotation.box = matrix.applyToBox({rect.x1, rect.y1, rect.x2, rect.y2});
         annotation.contents = textFromPdf(source->getContents());

@@ -75,7 +75,7 @@ private:
 
 } // namespace
 
-std::vector<Rect> findInk(::PDFDoc& document, int page, double side, ContentRepair repair) {
+std::vector<Rect> findInk(::PDFDoc& document, int page, double side, ContentRepair repair, Diagnostics& diagnostics) {
     ::Page* source = document.getPage(page);
     if (!source)
         throw Failure(FailureCode::InvalidRequest, "there is no such page to look for ink on", {page, 0});
@@ -84,6 +84,9 @@ std::vector<Rect> findInk(::PDFDoc& document, int page, double side, ContentRepa
     device.startDoc(&document);
     TimeBudget budget(kTimeBudget);
     playPage(*source, document, device, budget, repair, {.scale = kPixelsAPoint});
+    if (budget.isSpent())
+        diagnostics.add(DiagnosticKind::TimeBudgetExceeded, page,
+                        "the page takes too long to be searched for illustrations; the rest of it is left out");
     const SplashBitmap* bitmap = device.getBitmap();
     if (!bitmap || !bitmap->getDataPtr())
         throw std::bad_alloc();

@@ -1,8 +1,8 @@
 #include "pdf/MaskedPictures.h"
 
-#include "base/PngEncoder.h"
 #include "pdf/MaskOnlyDevice.h"
 #include "pdf/PageSpace.h"
+#include "pdf/TransparentPicture.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,7 +58,7 @@ private:
     double m_scale;
 };
 
-/// What a slice of the page shows of one picture on a ground of one grey, as rows of red, green, blue.
+/// What a slice of the page shows of one picture on a ground of one grey.
 class Painting {
 public:
     /// False when the time was not enough.
@@ -72,36 +72,11 @@ public:
         return !budget.isSpent() && m_bitmap && m_bitmap->getDataPtr() && m_bitmap->getWidth() == slice.width &&
                m_bitmap->getHeight() == slice.height;
     }
-    const std::uint8_t* row(int y) const {
-        return m_bitmap->getDataPtr() + static_cast<std::ptrdiff_t>(y) * m_bitmap->getRowSize();
-    }
+    SplashBitmap& bitmap() const { return *m_bitmap; }
 
 private:
     std::unique_ptr<SplashBitmap> m_bitmap;
 };
-
-/// Colour and opacity of a pixel from how it looks on black and on white: what shines through is the difference.
-void separate(const std::uint8_t* onBlack, const std::uint8_t* onWhite, std::uint8_t* rgba) {
-    int shining = 0;
-    for (int c = 0; c < 3; ++c)
-        shining = std::max(shining, onWhite[c] - onBlack[c]);
-    const int opacity = 255 - shining;
-    for (int c = 0; c < 3; ++c)
-        rgba[c] =
-            opacity == 0 ? 255 : static_cast<std::uint8_t>(std::min(255, (onBlack[c] * 255 + opacity / 2) / opacity));
-    rgba[3] = static_cast<std::uint8_t>(opacity);
-}
-
-PictureData encode(const Painting& onBlack, const Painting& onWhite, const PageSlice& slice) {
-    PngEncoder png(slice.width, slice.height, PngPixels::RgbAlpha8);
-    std::vector<std::uint8_t> row(pngRowBytes(PngPixels::RgbAlpha8, slice.width));
-    for (int y = 0; y < slice.height; ++y) {
-        for (int x = 0; x < slice.width; ++x)
-            separate(onBlack.row(y) + x * 3, onWhite.row(y) + x * 3, &row[static_cast<std::size_t>(x) * 4]);
-        png.writeRow(row.data());
-    }
-    return png.finish();
-}
 
 /// Paints the picture's visible part alone and puts it in the picture's place. False when it could not be painted.
 bool paintAlone(Picture& picture, const PageContent& page, ::Page& source, ::PDFDoc& document, ContentRepair repair,
@@ -118,7 +93,7 @@ bool paintAlone(Picture& picture, const PageContent& page, ::Page& source, ::PDF
     if (!onBlack.paint(0, picture, source, document, repair, slice, budget) ||
         !onWhite.paint(255, picture, source, document, repair, slice, budget))
         return false;
-    picture.id = store.add(encode(onBlack, onWhite, slice));
+    picture.id = store.add(transparentPicture(onBlack.bitmap(), onWhite.bitmap()));
     picture.pixelWidth = slice.width;
     picture.pixelHeight = slice.height;
     picture.matrix = {slice.width / scale, 0, 0, slice.height / scale, slice.x / scale, slice.y / scale};

@@ -167,6 +167,9 @@ struct Annotation {
     std::string author;
     std::string date;            ///< ISO 8601, empty when unknown
     Color color;
+    std::size_t number = 0;      ///< among all annotations of the page, links and fields too
+    std::uint32_t paintedFrom = 0; ///< what it paints has a paint order from here on ...
+    std::uint32_t paintedTo = 0; ///< ... and below this; equal when it paints nothing
 };
 
 enum class FieldKind { Text, CheckBox, RadioButton, ComboBox, ListBox, PushButton, Signature };
@@ -183,10 +186,10 @@ struct FormField {
     std::string dateFormat;      ///< Text: how it writes the dates that it takes, "dd/mm/yyyy"; empty for other fields
     bool isMultiline = false;
     bool isReadOnly = false;
+    bool isEditable = false;     ///< ComboBox: takes texts that are no choice
 };
 
 /// A marked-content sequence.
-    bool isEditable = false;     ///< ComboBox: takes texts that are no choice
 struct Mark {
     std::string tag;             ///< "P", "Span", "Artifact", ...
     int mcid = -1;               ///< number into the structure tree; -1 for none

@@ -56,6 +56,14 @@ void playContent(::Page& page, ::Gfx& gfx, ContentRepair repair) {
     gfx.restoreState();
 }
 
+std::unique_ptr<::Gfx> interpreterOf(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget,
+                                     const PageSlice& slice) {
+    const double dpi = 72.0 * scaleOf(page) * slice.scale;
+    return std::unique_ptr<::Gfx>(page.createGfx(&device, dpi, dpi, 0, false, true, slice.x, slice.y, slice.width,
+                                                 slice.height, false, &TimeBudget::isSpent, &budget,
+                                                 document.getXRef()));
+}
+
 } // namespace
 
 bool isPartOfPage(::Annot* annotation, void*) {
@@ -87,16 +95,28 @@ PageSlice sliceOf(const Rect& region, double scale) {
 }
 
 void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
-              const PageSlice& slice, PlayedAnnotations played) {
-    const double dpi = 72.0 * scaleOf(page) * slice.scale;
-    const std::unique_ptr<::Gfx> gfx(page.createGfx(&device, dpi, dpi, 0, false, true, slice.x, slice.y, slice.width,
-                                                    slice.height, false, &TimeBudget::isSpent, &budget,
-                                                    document.getXRef()));
+              const PageSlice& slice, PlayedAnnotations played, const AnnotationWatch& watch) {
+    const std::unique_ptr<::Gfx> gfx = interpreterOf(page, document, device, budget, slice);
     playContent(page, *gfx, repair);
-    if (::Annots* annotations = page.getAnnots())
-        for (::Annot* annotation : annotations->getAnnots())
-            if ((played == PlayedAnnotations::All || isPartOfPage(annotation, nullptr)) && !budget.isSpent())
-                annotation->draw(gfx.get(), false);
+    ::Annots* annotations = page.getAnnots();
+    for (std::size_t i = 0; annotations && i < annotations->getAnnots().size(); ++i) {
+        ::Annot* annotation = annotations->getAnnots()[i];
+        if ((played != PlayedAnnotations::All && !isPartOfPage(annotation, nullptr)) || budget.isSpent())
+            continue;
+        if (watch.before)
+            watch.before(i);
+        annotation->draw(gfx.get(), false);
+        if (watch.after)
+            watch.after(i);
+    }
+}
+
+void playAnnotation(::Page& page, std::size_t number, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget,
+                    const PageSlice& slice) {
+    const std::unique_ptr<::Gfx> gfx = interpreterOf(page, document, device, budget, slice);
+    ::Annots* annotations = page.getAnnots();
+    if (annotations && number < annotations->getAnnots().size())
+        annotations->getAnnots()[number]->draw(gfx.get(), false);
 }
 
 } // namespace orvane::pdf

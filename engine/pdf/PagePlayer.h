@@ -4,7 +4,9 @@
 #include "pdf/ThreadTime.h"
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 
 class Annot;
 class OutputDev;
@@ -14,9 +16,9 @@ class Page;
 namespace orvane::pdf {
 
 /// Ends content that would go on for ever: forms that call each other in endless variations, millions of operators.
+/// Thread: used by the one that made it, whose processor time it counts.
 class TimeBudget {
 public:
-/// Thread: used by the one that made it, whose processor time it counts.
     explicit TimeBudget(std::chrono::milliseconds budget)
         : m_end(threadTime() + budget) {}
 
@@ -57,8 +59,19 @@ enum class PlayedAnnotations : std::uint8_t {
     All,        ///< all that are shown
 };
 
+/// Told of each annotation that is played, by its place among all of the page.
+struct AnnotationWatch {
+    std::function<void(std::size_t)> before;
+    std::function<void(std::size_t)> after;
+};
+
 /// Interprets a page's content and its annotations on a device. Without a slice the device's space is page space.
 void playPage(::Page& page, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget, ContentRepair repair,
-              const PageSlice& slice = {}, PlayedAnnotations annotations = PlayedAnnotations::PartOfPage);
+              const PageSlice& slice = {}, PlayedAnnotations annotations = PlayedAnnotations::PartOfPage,
+              const AnnotationWatch& watch = {});
+
+/// Interprets one annotation of a page on a device, and nothing else of it.
+void playAnnotation(::Page& page, std::size_t number, ::PDFDoc& document, ::OutputDev& device, TimeBudget& budget,
+                    const PageSlice& slice);
 
 } // namespace orvane::pdf

@@ -34,6 +34,8 @@ public:
 
     const GlyphReader& glyphs() const { return m_glyphs; }
     const TransparencyReader& transparency() const { return m_transparency; }
+    /// Of what is painted next.
+    std::uint32_t paintOrder() const { return m_paintOrder; }
 
     bool upsideDown() override { return true; }
     bool useDrawChar() override { return true; }

@@ -41,6 +41,20 @@ void tellComplaints(const ComplaintCollector& complaints, int page, Diagnostics&
             fmt::format("{} faults in the page's content, the first: {}", complaints.count(), complaints.first()));
 }
 
+/// What `play` makes of a page as it stands, or without its surplus restores if it has such.
+template<typename Play>
+auto repaired(const Play& play, Diagnostics& diagnostics) {
+    const ComplaintCollector complaints;
+    Diagnostics told;
+    auto made = play(ContentRepair::None, told);
+    if (complaints.hasSurplusRestore()) {
+        told = Diagnostics();
+        made = play(ContentRepair::SurplusRestores, told);
+    }
+    diagnostics.append(told);
+    return made;
+}
+
 } // namespace
 
 struct PdfDocument::Impl {
@@ -68,7 +82,11 @@ struct PdfDocument::Impl {
         content.height = box.height();
         content.rotation = page.getRotate();
         PageReader reader({*document, content, pictures, options.pictures, diagnostics, budget});
-        playPage(page, *document, reader, budget, repair);
+        PaintRanges painted;
+        playPage(page, *document, reader, budget, repair, {}, PlayedAnnotations::PartOfPage,
+                 {[&](std::size_t number) { painted[number].from = reader.paintOrder(); },
+                  [&](std::size_t number) { painted[number].to = reader.paintOrder(); }});
+        content.annotations = readAnnotations(page, painted);
         unicode.repair(content, reader.glyphs().sources(), diagnostics);
         faces.apply(content, reader.glyphs().sources());
         ink.apply(content, reader.glyphs().sources());
@@ -169,7 +187,6 @@ PageContent PdfDocument::readPage(int number, const PageReadOptions& options, Di
         content = m_impl->play(*page, options, own, budget, ContentRepair::SurplusRestores);
     }
     diagnostics.append(own);
-    content.annotations = readAnnotations(*page);
     content.fields = readFormFields(*page);
     content.links = readLinks(*page, *m_impl->document, diagnostics);
 
@@ -203,20 +220,25 @@ PagePictures PdfDocument::paintedPictures(int number, Diagnostics& diagnostics) 
     return PagePictures(std::move(pictures));
 }
 
-PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words) const {
-    const ComplaintCollector complaints;
-    PictureDataPtr picture = paintRegion(*m_impl->document, page, region, dotsPerInch, words, ContentRepair::None);
-    if (complaints.hasSurplusRestore())
-        picture = paintRegion(*m_impl->document, page, region, dotsPerInch, words, ContentRepair::SurplusRestores);
-    return picture;
+PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
+                                         Diagnostics& diagnostics) const {
+    const auto paint = [&](ContentRepair repair, Diagnostics& told) {
+        return paintRegion(*m_impl->document, page, region, dotsPerInch, words, repair, told);
+    };
+    return repaired(paint, diagnostics);
 }
 
-std::vector<Rect> PdfDocument::inkOf(int page, double side) const {
-    const ComplaintCollector complaints;
-    std::vector<Rect> ink = findInk(*m_impl->document, page, side, ContentRepair::None);
-    if (complaints.hasSurplusRestore())
-        ink = findInk(*m_impl->document, page, side, ContentRepair::SurplusRestores);
-    return ink;
+PictureDataPtr PdfDocument::renderAnnotation(int page, std::size_t annotation, const Rect& region, double dotsPerInch,
+                                             PaintedText words, Diagnostics& diagnostics) const {
+    const ComplaintCollector silence;
+    return paintAnnotation(*m_impl->document, page, annotation, region, dotsPerInch, words, diagnostics);
+}
+
+std::vector<Rect> PdfDocument::inkOf(int page, double side, Diagnostics& diagnostics) const {
+    const auto find = [&](ContentRepair repair, Diagnostics& told) {
+        return findInk(*m_impl->document, page, side, repair, told);
+    };
+    return repaired(find, diagnostics);
 }
 
 std::optional<std::string> PdfDocument::packFont(const FontRequest& request) const {

@@ -106,12 +106,17 @@ public:
 
     /// Paints part of a page (page space, points) as a PNG with a white ground. Used for drawings too rich to take
     /// apart.
-    PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch,
-                                PaintedText words = PaintedText::Shown) const;
+    PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
+                                Diagnostics& diagnostics) const;
+
+    /// Paints what one annotation, by its Annotation::number, shows in a region, and nothing else: a PNG that is
+    /// transparent where it paints nothing.
+    PictureDataPtr renderAnnotation(int page, std::size_t annotation, const Rect& region, double dotsPerInch,
+                                    PaintedText words, Diagnostics& diagnostics) const;
 
     /// The squares of a page, `side` points wide, that are darker than its paper; of use for scans, whose ink says
     /// nothing by itself.
-    std::vector<Rect> inkOf(int page, double side) const;
+    std::vector<Rect> inkOf(int page, double side, Diagnostics& diagnostics) const;
 
     /// A TrueType file of the characters asked for, out of the font programs in the file. Unset where these may not
     /// travel with a document that people edit, see packFont().

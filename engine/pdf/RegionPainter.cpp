@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/PngEncoder.h"
 #include "pdf/PageSpace.h"
+#include "pdf/TransparentPicture.h"
 
 #include <algorithm>
 #include <cmath>
@@ -68,25 +69,64 @@ PictureData encode(const SplashBitmap& bitmap) {
     return png.finish();
 }
 
-} // namespace
+/// What of a region can be painted, and how.
+struct Painting {
+    ::Page& page;
+    Rect visible;
+    PageSlice slice;
+};
 
-PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, double dotsPerInch, PaintedText words,
-                           ContentRepair repair) {
+Painting paintingOf(::PDFDoc& document, int page, const Rect& region, double dotsPerInch) {
     ::Page* source = document.getPage(page);
     const Rect visible = source ? region.intersected(pageBox(*source)) : Rect{};
     if (visible.isEmpty() || !(dotsPerInch > 0))
         throw Failure(FailureCode::InvalidRequest, "nothing of the page is in the region to paint", {page, 0});
+    return {*source, visible, sliceOf(visible, scaleOf(visible, dotsPerInch))};
+}
 
-    const PageSlice slice = sliceOf(visible, scaleOf(visible, dotsPerInch));
-    SplashColor paper = {255, 255, 255};
-    RegionDevice device(paper, words, kThinnestLine * slice.scale);
-    device.startDoc(&document);
-    TimeBudget budget(kTimeBudget);
-    playPage(*source, document, device, budget, repair, slice);
-    const SplashBitmap* bitmap = device.getBitmap();
+void tellOfTime(TimeBudget& budget, int page, const Rect& region, Diagnostics& diagnostics) {
+    if (budget.isSpent())
+        diagnostics.add(DiagnosticKind::TimeBudgetExceeded, page,
+                        "a part of the page takes too long to paint; the rest of it is left out", region);
+}
+
+void requireBitmap(SplashBitmap* bitmap) {
     if (!bitmap || !bitmap->getDataPtr())
         throw std::bad_alloc();
-    return std::make_shared<const PictureData>(encode(*bitmap));
+}
+
+} // namespace
+
+PictureDataPtr paintRegion(::PDFDoc& document, int page, const Rect& region, double dotsPerInch, PaintedText words,
+                           ContentRepair repair, Diagnostics& diagnostics) {
+    const Painting painting = paintingOf(document, page, region, dotsPerInch);
+    SplashColor paper = {255, 255, 255};
+    RegionDevice device(paper, words, kThinnestLine * painting.slice.scale);
+    device.startDoc(&document);
+    TimeBudget budget(kTimeBudget);
+    playPage(painting.page, document, device, budget, repair, painting.slice);
+    tellOfTime(budget, page, painting.visible, diagnostics);
+    requireBitmap(device.getBitmap());
+    return std::make_shared<const PictureData>(encode(*device.getBitmap()));
+}
+
+PictureDataPtr paintAnnotation(::PDFDoc& document, int page, std::size_t annotation, const Rect& region,
+                               double dotsPerInch, PaintedText words, Diagnostics& diagnostics) {
+    const Painting painting = paintingOf(document, page, region, dotsPerInch);
+    TimeBudget budget(kTimeBudget);
+    const auto paintOn = [&](unsigned char ground) {
+        SplashColor paper = {ground, ground, ground};
+        RegionDevice device(paper, words, kThinnestLine * painting.slice.scale);
+        device.startDoc(&document);
+        playAnnotation(painting.page, annotation, document, device, budget, painting.slice);
+        std::unique_ptr<SplashBitmap> bitmap(device.takeBitmap());
+        requireBitmap(bitmap.get());
+        return bitmap;
+    };
+    const auto onBlack = paintOn(0);
+    const auto onWhite = paintOn(255);
+    tellOfTime(budget, page, painting.visible, diagnostics);
+    return std::make_shared<const PictureData>(transparentPicture(*onBlack, *onWhite));
 }
 
 } // namespace orvane::pdf

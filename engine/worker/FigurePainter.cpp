@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include <fmt/format.h>
 
@@ -23,17 +24,31 @@ double resolutionFor(const Rect& box) {
     return pixels <= kMaxPixels ? kResolution : kResolution * std::sqrt(kMaxPixels / pixels);
 }
 
+/// What is painted of a page.
+struct Wanted {
+    Rect box;
+    pdf::PaintedText words = pdf::PaintedText::Shown;
+    std::optional<std::size_t> annotation; ///< the only one
+};
+
+PictureDataPtr paintWanted(const pdf::PdfDocument& document, int page, const Wanted& wanted, Diagnostics& diagnostics) {
+    const double resolution = resolutionFor(wanted.box);
+    return wanted.annotation
+               ? document.renderAnnotation(page, *wanted.annotation, wanted.box, resolution, wanted.words, diagnostics)
+               : document.renderRegion(page, wanted.box, resolution, wanted.words, diagnostics);
+}
+
 /// A part of the page as a picture; none where it cannot be painted, with a diagnostic.
-PictureId paint(const pdf::PdfDocument& document, int page, const Rect& box, pdf::PaintedText words,
-                PictureStore& pictures, Diagnostics& diagnostics) {
+PictureId paint(const pdf::PdfDocument& document, int page, const Wanted& wanted, PictureStore& pictures,
+                Diagnostics& diagnostics) {
     try {
-        if (const PictureDataPtr painted = document.renderRegion(page, box, resolutionFor(box), words))
+        if (const PictureDataPtr painted = paintWanted(document, page, wanted, diagnostics))
             return pictures.add(*painted);
     } catch (const Failure& failure) {
         if (failure.code() == FailureCode::TargetUnwritable)
             throw; // the disk is full, and not only for this drawing
         diagnostics.add(DiagnosticKind::DrawingSimplified, page,
-                        fmt::format("a drawing could not be painted: {}", failure.what()), box);
+                        fmt::format("a drawing could not be painted: {}", failure.what()), wanted.box);
     }
     return {};
 }
@@ -46,7 +61,7 @@ void findIllustrations(const pdf::PdfDocument& document, layout::PageText& page,
         return;
     try {
         const layout::GraphicsParameters::Illustrations& limits = parameters.illustrations;
-        layout::addIllustrations(page, document.inkOf(page.number, limits.inkSquare), limits);
+        layout::addIllustrations(page, document.inkOf(page.number, limits.inkSquare, diagnostics), limits);
     } catch (const Failure& failure) {
         diagnostics.add(DiagnosticKind::PictureSimplified, page.number,
                         fmt::format("a scan could not be searched for illustrations: {}", failure.what()));
@@ -59,13 +74,15 @@ void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, Pict
         if (!figure.needsPainting || figure.box.isEmpty())
             continue;
         const pdf::PaintedText words = figure.showsLabels ? pdf::PaintedText::Shown : pdf::PaintedText::LeftOut;
-        const PictureId painted = paint(document, page.number, figure.box, words, pictures, diagnostics);
+        const PictureId painted =
+            paint(document, page.number, {figure.box, words, figure.annotation}, pictures, diagnostics);
         if (painted.value != 0)
             figure.picture = painted;
     }
     for (layout::Formula& formula : page.formulas)
         if (formula.needsPainting)
-            formula.picture = paint(document, page.number, formula.box, pdf::PaintedText::Shown, pictures, diagnostics);
+            formula.picture =
+                paint(document, page.number, {formula.box, pdf::PaintedText::Shown, {}}, pictures, diagnostics);
 }
 
 } // namespace orvane::worker

@@ -110,10 +110,10 @@ AssembledBlock assembleFigure(const FigureDraft& draft, const DraftBlock& place,
         assembled.floats.push_back({std::move(figure)});
         return assembled;
     }
-    if (draft.figure.isBackground)
-        figure.placement.wrapping = document::Wrapping::BehindText;
-    else if (draft.isOverlaid)
+    if (draft.figure.isForeground || draft.isOverlaid)
         figure.placement.wrapping = document::Wrapping::None;
+    else if (draft.figure.isBackground)
+        figure.placement.wrapping = document::Wrapping::BehindText;
     assembled.block = {std::move(figure)};
     return assembled;
 }

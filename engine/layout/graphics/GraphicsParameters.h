@@ -89,6 +89,12 @@ struct GraphicsParameters {
         std::size_t mostStops = 8; ///< more are a picture
     } gradients;
 
+    /// AnnotationFigures: stamps, ink and typed texts that were laid over the page's text.
+    struct Annotations {
+        std::size_t fewestCovered = 3; ///< letters under it; fewer are touched by chance
+        double coveredShare = 0.3;     ///< of a letter's box within the annotation for it to be covered
+    } annotationFigures;
+
     /// BarFinder: the bars of charts.
     struct Bars {
         double sameEdge = 1.0;  ///< points; bars stand on one line, and are alike in breadth, within this

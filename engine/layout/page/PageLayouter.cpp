@@ -33,6 +33,8 @@ public:
         fillColumns();
         partWideObjects(m_layout, m_context.bodyFontSize, m_parameters.readingOrder);
         joinColumns();
+        for (Figure& figure : m_overlaid)
+            hangOnNearestParagraph(m_layout, std::move(figure), m_parameters.freeDrawings);
         leaveFreeRules();
         return std::move(m_layout);
     }
@@ -60,9 +62,11 @@ private:
 
     void placeBackgrounds() {
         for (Figure& figure : m_page.figures)
-            if (figure.isBackground)
+            if (figure.isForeground)
+                m_overlaid.push_back(std::move(figure));
+            else if (figure.isBackground)
                 m_layout.blocks.emplace_back().value = FigureDraft{std::move(figure), false};
-        std::erase_if(m_page.figures, [](const Figure& figure) { return figure.isBackground; });
+        std::erase_if(m_page.figures, [](const Figure& figure) { return figure.isBackground || figure.isForeground; });
     }
 
     /// Turned lines say nothing about columns. They float, unless it is the page that was laid on its side; then they
@@ -123,11 +127,11 @@ private:
             const Rect& area = m_context.textArea;
             m_regions.bands.push_back({area.top, area.bottom, {{area.left, area.right}}, false});
         }
+        findColumnSeparators(m_regions.bands, m_page.rules, m_parameters.separators);
         m_layout.bands = m_regions.bands;
         m_places = placeObjects(m_objects, m_regions, m_parameters);
     }
 
-        findColumnSeparators(m_regions.bands, m_page.rules, m_parameters.separators);
     void fillColumns() {
         auto place = m_places.begin();
         for (std::size_t r = 0; r < m_regions.regions.size(); ++r) {
@@ -215,6 +219,7 @@ private:
     const DocumentContext& m_context;
     const LayoutParameters& m_parameters;
     PageLayout m_layout;
+    std::vector<Figure> m_overlaid; ///< in front of the text
     std::vector<Rect> m_walls;
     std::vector<PageObject> m_objects;
     std::vector<PageBlock> m_objectBlocks; ///< one for each of m_objects

@@ -29,7 +29,7 @@ struct Look {
     bool isStruck = false;
     bool isSmallCaps = false;
     bool isOutlined = false;
-    bool isInvisible = false; ///< recognised text behind a scanned picture, that nobody sees
+    bool isInvisible = false;   ///< recognised text behind a scanned picture, that nobody sees
     bool isClippedAway = false; ///< outside the clip path: nobody sees it, and nothing stands in its place
     double horizontalScale = 1;
     double characterSpacing = 0; ///< points beyond the font's own advances, averaged over the span
@@ -64,8 +64,8 @@ struct Word {
     int blanksBefore = 1;        ///< some people type two after a full stop, or many in place of a tabulator
     char32_t blankBefore = U' '; ///< of which kind they are
     int blanksAfter = 0;         ///< painted at the end of its line; 0 also where programs paint none there
-    double blankStretch = 1;    ///< how much wider each of them is than the font's, in text that keeps its place
-    bool isTypedBefore = false; ///< blanks fill the gap, be it as wide as a Gap::Tab
+    double blankStretch = 1;     ///< how much wider each of them is than the font's, in text that keeps its place
+    bool isTypedBefore = false;  ///< blanks fill the gap, be it as wide as a Gap::Tab
     document::TabLeader leaderBefore = document::TabLeader::None; ///< what fills a Gap::Tab
     bool isRightToLeft = false;
 };
@@ -121,7 +121,9 @@ struct Figure {
     Matrix matrix;              ///< of a picture; see pdf::Picture
     document::Crop crop;
     double opacity = 1;
-    bool isBackground = false; ///< covers (nearly) the whole page, or lies under text
+    bool isBackground = false;             ///< covers (nearly) the whole page, or lies under text
+    bool isForeground = false;             ///< lies over text, which stays as it is
+    std::optional<std::size_t> annotation; ///< the pdf::Annotation::number of the only one to paint
     std::string alternateText;
     std::vector<std::size_t> paths;           ///< of a drawing: indices into pdf::PageContent::paths
     bool holdsPicture = false;                ///< a drawing over a picture, both painted as one
@@ -149,7 +151,7 @@ struct PageText {
     double height = 0;
     std::vector<pdf::Font> fonts;
     std::vector<std::vector<pdf::FontCharacter>> characters; ///< that each font shows, see charactersOf()
-    std::vector<Line> lines; ///< top to bottom, not yet in reading order
+    std::vector<Line> lines;                                 ///< top to bottom, not yet in reading order
     std::vector<Line> clippedLines; ///< that clip paths cut off, top to bottom; no part of the page's layout
     std::vector<Rule> rules;
     std::vector<Ground> grounds;

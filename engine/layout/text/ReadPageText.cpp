@@ -1,5 +1,6 @@
 #include "layout/Layout.h"
 #include "layout/formulas/FormulaFinder.h"
+#include "layout/graphics/AnnotationFigures.h"
 #include "layout/graphics/FigureFinder.h"
 #include "layout/graphics/RuleFinder.h"
 #include "layout/text/ClusterBuilder.h"
@@ -16,6 +17,7 @@
 #include "layout/text/WordBuilder.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace orvane::layout {
 namespace {
@@ -31,6 +33,12 @@ std::vector<Line> readClippedLines(const pdf::PageContent& page, const GlyphSele
     std::vector<TextRow> lines = buildLines(findWordGaps(std::move(rows), parameters, diagnostics), frames.frames, {},
                                             {}, parameters, diagnostics);
     return finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
+}
+
+/// A reader's mark is meant for what it covers, wherever it begins and ends.
+TextParameters forMarkup(TextParameters parameters) {
+    parameters.decoration.slack = std::numeric_limits<double>::infinity();
+    return parameters;
 }
 
 PageText readText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
@@ -61,7 +69,7 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
         buildLines(std::move(rows), frames.frames, text.rules, text.grounds, parameters, diagnostics);
     decorateText(lines, frames.frames, text.rules, text.grounds, text.links, parameters, diagnostics);
     TextMarkup markup = markupOf(page.annotations, parameters.markup);
-    decorateText(lines, frames.frames, markup.rules, markup.grounds, {}, parameters, diagnostics);
+    decorateText(lines, frames.frames, markup.rules, markup.grounds, {}, forMarkup(parameters), diagnostics);
     markFields(lines, frames.frames, page.fields, parameters);
     text.lines = finishLines(std::move(lines), frames.frames, page, parameters, diagnostics);
 
@@ -70,11 +78,33 @@ PageText readText(const pdf::PageContent& page, const LayoutParameters& paramete
     return text;
 }
 
+/// The text of what lies over the page, which has nothing to do with the text below.
+std::vector<Line> linesOf(const OverlaidAnnotation& overlaid, const LayoutParameters& parameters,
+                          Diagnostics& diagnostics) {
+    PageText text = readText(overlaid.content, parameters, diagnostics);
+    restoreFormulaLines(text, RestoredFormulas::All);
+    return std::move(text.lines);
+}
+
+PageText readFilled(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    const bool isForm = std::any_of(page.fields.begin(), page.fields.end(), isFilledIn);
+    return readText(isForm ? withFieldSigns(page, parameters.fields) : page, parameters, diagnostics);
+}
+
+/// The page without the annotations that lie over its text, and these in front of it.
+PageText readOverlaid(pdf::PageContent page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
+    const std::vector<OverlaidAnnotation> overlaid = takeOverlaidAnnotations(page, parameters.annotationFigures);
+    PageText text = readFilled(page, parameters, diagnostics);
+    for (const OverlaidAnnotation& annotation : overlaid)
+        text.figures.push_back(figureOf(annotation, linesOf(annotation, parameters, diagnostics), parameters));
+    return text;
+}
+
 } // namespace
 
 PageText readPageText(const pdf::PageContent& page, const LayoutParameters& parameters, Diagnostics& diagnostics) {
-    const bool isForm = std::any_of(page.fields.begin(), page.fields.end(), isFilledIn);
-    PageText text = readText(isForm ? withFieldSigns(page, parameters.fields) : page, parameters, diagnostics);
+    PageText text = page.annotations.empty() ? readFilled(page, parameters, diagnostics)
+                                             : readOverlaid(page, parameters, diagnostics);
     text.characters = charactersOf(page);
     return text;
 }

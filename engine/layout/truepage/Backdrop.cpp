@@ -51,6 +51,7 @@ public:
         figure.placement.x = emuFromPoints(m_box.left);
         figure.placement.y = emuFromPoints(m_box.top);
         figure.placement.zOrder = m_order;
+        figure.placement.wrapping = document::Wrapping::BehindText;
         figure.content = drawingOf(std::exchange(m_shapes, {}), m_box);
         m_box = {};
         return figure;
@@ -81,8 +82,11 @@ std::vector<document::Figure> backdropOf(const PageText& page) {
     for (const Painted& painted : paintedOf(page)) {
         if (const auto* figure = std::get_if<const Figure*>(&painted.item)) {
             finishDrawing();
-            if ((*figure)->picture.value != 0 || (*figure)->drawing)
-                backdrop.push_back(floatingFigure(**figure, page.number));
+            if ((*figure)->picture.value == 0 && !(*figure)->drawing)
+                continue;
+            backdrop.push_back(floatingFigure(**figure, page.number));
+            backdrop.back().placement.wrapping =
+                (*figure)->isForeground ? document::Wrapping::None : document::Wrapping::BehindText;
         } else if (const auto* rule = std::get_if<const Rule*>(&painted.item)) {
             drawing.add(**rule);
         } else {
@@ -90,8 +94,6 @@ std::vector<document::Figure> backdropOf(const PageText& page) {
         }
     }
     finishDrawing();
-    for (document::Figure& figure : backdrop)
-        figure.placement.wrapping = document::Wrapping::BehindText;
     return backdrop;
 }
 

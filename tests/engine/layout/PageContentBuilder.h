@@ -89,6 +89,19 @@ public:
         rectangle(box).stroke = StrokeStyle{kBlack, width, {}, 1};
     }
 
+    /// The paint order of what comes next.
+    std::uint32_t paintOrder() const { return m_paintOrder; }
+
+    /// Makes an annotation of what was painted from `paintedFrom` on.
+    void annotation(AnnotationKind kind, std::uint32_t paintedFrom, std::string contents = {}) {
+        Annotation& annotation = m_page.annotations.emplace_back();
+        annotation.kind = kind;
+        annotation.contents = std::move(contents);
+        annotation.number = m_page.annotations.size() - 1;
+        annotation.paintedFrom = paintedFrom;
+        annotation.paintedTo = m_paintOrder;
+    }
+
     /// A filled disk of four curves.
     void disk(Point center, double radius, Color color = kBlack) {
         constexpr double kBend = 0.5523; // control points of a quarter circle

@@ -1,3 +1,4 @@
+#include "Pixels.h"
 #include "ReadPages.h"
 
 #include <gtest/gtest.h>
@@ -50,6 +51,31 @@ TEST(Annotations, ThatStandOnThePageArePainted) {
     EXPECT_EQ(textOf(content), "typed");
     EXPECT_NEAR(content.glyphs.at(0).origin.x, 102, 1e-6);
     EXPECT_NEAR(content.glyphs.at(0).origin.y, 87, 1e-6);
+}
+
+TEST(Annotations, TellWhatTheyPaintAndArePaintedAlone) {
+    PdfBuilder builder;
+    const int appearance =
+        builder.addStream("/Type /XObject /Subtype /Form /BBox [0 0 100 20]", "1 0 0 rg 0 0 50 20 re f");
+    const int link = builder.add("<< /Type /Annot /Subtype /Link /Rect [0 0 10 10] >>");
+    const int stamp = builder.add("<< /Type /Annot /Subtype /Stamp /Rect [100 700 200 720] /AP << /N " +
+                                  pdfRef(appearance) + " >> >>");
+    OpenedPdf pdf(builder.page(
+        PdfPage{"0 g 0 690 612 40 re f", 612, 792, "/Annots [" + pdfRef(link) + " " + pdfRef(stamp) + "]", {}, {}}));
+    const PageContent content = pdf.page();
+    ASSERT_EQ(content.annotations.size(), 1u);
+    const Annotation& read = content.annotations.front();
+    EXPECT_EQ(read.number, 1u) << "links count";
+    ASSERT_EQ(content.paths.size(), 2u);
+    EXPECT_LT(content.paths[0].paintOrder, read.paintedFrom);
+    EXPECT_GE(content.paths[1].paintOrder, read.paintedFrom);
+    EXPECT_LT(content.paths[1].paintOrder, read.paintedTo);
+    const PictureDataPtr alone =
+        pdf.document().renderAnnotation(1, read.number, read.box, 72, PaintedText::Shown, pdf.diagnostics());
+    ASSERT_TRUE(alone);
+    const Pixels pixels = readPng(alone->bytes);
+    EXPECT_EQ(pixels.at(10, 10), "FF0000FF");
+    EXPECT_EQ(pixels.at(80, 10).substr(6), "00") << "the black of the page is not its own";
 }
 
 /// A form of one text field, a check box and a choice.

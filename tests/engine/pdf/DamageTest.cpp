@@ -176,7 +176,8 @@ TEST(Rendering, PaintsARegionOfThePage) {
     PdfPage page{"1 0 0 rg 50 100 100 100 re f", 400, 300, "/CropBox [50 0 350 300]", {}, {}};
     OpenedPdf pdf(PdfBuilder().page(page));
     // In page space the square is at 0,100 to 100,200.
-    const PictureDataPtr picture = pdf.document().renderRegion(1, {50, 150, 150, 250}, 144);
+    const PictureDataPtr picture =
+        pdf.document().renderRegion(1, {50, 150, 150, 250}, 144, PaintedText::Shown, pdf.diagnostics());
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->pixelWidth, 200);
     EXPECT_EQ(picture->pixelHeight, 200);
@@ -184,9 +185,10 @@ TEST(Rendering, PaintsARegionOfThePage) {
     EXPECT_EQ(pixels.at(20, 20), "FF0000FF");
     EXPECT_EQ(pixels.at(180, 20), "FFFFFFFF");
     EXPECT_EQ(pixels.at(20, 180), "FFFFFFFF");
-    EXPECT_THROW(pdf.document().renderRegion(1, {500, 0, 600, 10}, 72), Failure);
-    EXPECT_THROW(pdf.document().renderRegion(7, {0, 0, 10, 10}, 72), Failure);
-    const PictureDataPtr huge = pdf.document().renderRegion(1, {0, 0, 300, 300}, 100000);
+    EXPECT_THROW(pdf.document().renderRegion(1, {500, 0, 600, 10}, 72, PaintedText::Shown, pdf.diagnostics()), Failure);
+    EXPECT_THROW(pdf.document().renderRegion(7, {0, 0, 10, 10}, 72, PaintedText::Shown, pdf.diagnostics()), Failure);
+    const PictureDataPtr huge =
+        pdf.document().renderRegion(1, {0, 0, 300, 300}, 100000, PaintedText::Shown, pdf.diagnostics());
     EXPECT_LT(std::int64_t{huge->pixelWidth} * huge->pixelHeight, 70'000'000) << "the resolution gives way";
 }
 
@@ -199,10 +201,10 @@ TEST(Rendering, FindsInkOnPaperThatIsNotWhite) {
                  {}};
     OpenedPdf pdf(PdfBuilder().page(page));
     Rect ink;
-    for (const Rect& square : pdf.document().inkOf(1, 4))
+    for (const Rect& square : pdf.document().inkOf(1, 4, pdf.diagnostics()))
         ink = ink.united(square);
     EXPECT_EQ(ink, (Rect{100, 160, 240, 200})) << "the black and the grey square, not the paper nor its grain";
-    EXPECT_THROW(pdf.document().inkOf(7, 4), Failure);
+    EXPECT_THROW(pdf.document().inkOf(7, 4, pdf.diagnostics()), Failure);
 }
 
 TEST(Rendering, LeavesWordsOutWhereTheyAreSetBesides) {
@@ -215,8 +217,8 @@ TEST(Rendering, LeavesWordsOutWhereTheyAreSetBesides) {
                 return false;
         return true;
     };
-    EXPECT_FALSE(isRed(pdf.document().renderRegion(1, region, 72)));
-    EXPECT_TRUE(isRed(pdf.document().renderRegion(1, region, 72, PaintedText::LeftOut)));
+    EXPECT_FALSE(isRed(pdf.document().renderRegion(1, region, 72, PaintedText::Shown, pdf.diagnostics())));
+    EXPECT_TRUE(isRed(pdf.document().renderRegion(1, region, 72, PaintedText::LeftOut, pdf.diagnostics())));
 }
 
 } // namespace

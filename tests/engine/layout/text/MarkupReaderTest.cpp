@@ -9,8 +9,8 @@ using pdf::Annotation;
 using pdf::AnnotationKind;
 using pdf::tests::PageContentBuilder;
 
-/// A line of three words whose second one a reader has marked.
-PageText markedWord(AnnotationKind kind) {
+/// A line of three words whose second one a reader has marked; the mark ends `beyond` points behind it.
+PageText markedWord(AnnotationKind kind, double beyond = 0) {
     PageContentBuilder page;
     const double from = page.text(72, 100, "read ", 10);
     const double to = page.text(from, 100, "this", 10);
@@ -18,7 +18,7 @@ PageText markedWord(AnnotationKind kind) {
     Annotation annotation;
     annotation.kind = kind;
     annotation.color = {255, 255, 0};
-    annotation.quads = {{from, 91, to, 102.5}};
+    annotation.quads = {{from, 91, to + beyond, 102.5}};
     annotation.box = annotation.quads[0];
     page.content().annotations.push_back(annotation);
     return tests::read(page);
@@ -34,6 +34,14 @@ TEST(MarkupReader, HighlightsTheMarkedWords) {
     EXPECT_FALSE(lookOf(text, 0).highlight);
     EXPECT_FALSE(lookOf(text, 2).highlight);
     EXPECT_TRUE(text.grounds.empty()) << "nothing was painted";
+}
+
+TEST(MarkupReader, TakesMarksThatEndAnywhere) {
+    // Up to the middle of the next word.
+    const PageText text = markedWord(AnnotationKind::Highlight, 15);
+    EXPECT_EQ(lookOf(text, 1).highlight, (Color{255, 255, 0}));
+    EXPECT_FALSE(lookOf(text, 0).highlight);
+    EXPECT_EQ(lookOf(markedWord(AnnotationKind::Underline, 200), 2).underline, document::UnderlineKind::Single);
 }
 
 TEST(MarkupReader, UnderlinesAndStrikesTheMarkedWords) {
