@@ -97,7 +97,12 @@ std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts
     return blocks;
 }
 
-std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, const AssemblyContext& context) {
+std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, const AssemblyContext& context,
+                                          const std::optional<CellOrigin>& cell) {
+    for (AssembledBlock& block : blocks)
+        if (!block.labels.empty())
+            frameLabels(block, context);
+    hangOnText(blocks, cell, context);
     std::vector<document::Block> finished;
     finished.reserve(blocks.size());
     bool isContents = false;
@@ -113,8 +118,6 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
             continue;
         if (std::holds_alternative<document::Table>(block.block.value))
             fillCells(block, context);
-        if (!block.labels.empty())
-            frameLabels(block, context);
         std::move(block.floats.begin(), block.floats.end(), std::back_inserter(finished));
         finished.push_back(std::move(block.block));
     }

@@ -151,9 +151,12 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
 void fillCells(AssembledBlock& assembled, const AssemblyContext& context) {
     auto& table = std::get<document::Table>(assembled.block.value);
     auto inside = assembled.cells.begin();
+    auto draft = std::get<DraftTable>(assembled.draft->value).cells.begin();
     for (document::TableRow& row : table.rows) {
         for (document::TableCell& cell : row.cells) {
-            cell.blocks = finishBlocks(std::move(*inside++), context);
+            const Rect& box = (draft++)->cell.box;
+            const CellOrigin origin{box.left + pointsFromTwips(cell.marginLeft), box.top};
+            cell.blocks = finishBlocks(std::move(*inside++), context, origin);
             // A cell ends with a paragraph, whatever else stands in it.
             if (cell.blocks.empty() || !std::holds_alternative<document::Paragraph>(cell.blocks.back().value))
                 cell.blocks.push_back({emptyParagraph(context)});

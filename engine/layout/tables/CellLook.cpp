@@ -1,5 +1,8 @@
 #include "layout/tables/CellLook.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace orvane::layout {
 namespace {
 
@@ -26,6 +29,37 @@ Color seenColor(const Ground& ground) {
     return {blend(ground.color.red), blend(ground.color.green), blend(ground.color.blue)};
 }
 
+/// Whether the rule runs along the side of a cell. What else is drawn in a table, such as the boxes of a form, is none
+/// of its borders.
+bool isBorder(const Rule& rule, const TableDraft& table, const TableParameters::Tables& parameters) {
+    const bool isLevel = rule.direction == RuleDirection::Horizontal;
+    return std::any_of(table.cells.begin(), table.cells.end(), [&](const CellDraft& cell) {
+        const Rect& box = cell.box;
+        const double first = isLevel ? box.top : box.left, last = isLevel ? box.bottom : box.right;
+        const double along = isLevel ? overlap(rule.from, rule.to, box.left, box.right)
+                                     : overlap(rule.from, rule.to, box.top, box.bottom);
+        const double side = isLevel ? box.width() : box.height();
+        const double distance = std::min(std::abs(rule.position - first), std::abs(rule.position - last));
+        // A field that fills its cell has sides almost as near, but shorter ones.
+        return along > 0 &&
+               distance <= (along >= parameters.borderShare * side ? parameters.lineSnap : parameters.borderReach);
+    });
+}
+
+/// Whether the ground is no broader than a border along the side of a cell.
+bool isRim(const Ground& ground, const TableDraft& table, const TableParameters::Tables& parameters) {
+    const Rect& box = ground.box;
+    if (std::min(box.width(), box.height()) > parameters.lineSnap)
+        return false;
+    Rule rule;
+    rule.direction = box.width() > box.height() ? RuleDirection::Horizontal : RuleDirection::Vertical;
+    const bool isLevel = rule.direction == RuleDirection::Horizontal;
+    rule.position = isLevel ? box.centerY() : box.centerX();
+    rule.from = isLevel ? box.left : box.top;
+    rule.to = isLevel ? box.right : box.bottom;
+    return isBorder(rule, table, parameters);
+}
+
 } // namespace
 
 void drawBorders(TableDraft& table, std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
@@ -43,7 +77,7 @@ void drawBorders(TableDraft& table, std::vector<Rule>& rules, const std::vector<
     }
     for (const BorderLine& line : own)
         for (const std::size_t index : line.rules)
-            rules[index].isUsed = true;
+            rules[index].isUsed |= isBorder(rules[index], table, parameters);
 }
 
 void shadeCells(TableDraft& table, std::vector<Ground>& grounds, const TableParameters::Tables& parameters) {
@@ -51,11 +85,15 @@ void shadeCells(TableDraft& table, std::vector<Ground>& grounds, const TablePara
     for (Ground& ground : grounds)
         if (!ground.isUsed && ground.box.intersects(table.box))
             own.push_back(&ground);
+    std::vector<const Ground*> seen;
     for (CellDraft& cell : table.cells) {
         std::uint32_t topmost = 0;
         for (Ground* ground : own) {
             const double share = ground->box.intersected(cell.box).area() / cell.box.area();
-            if (share < parameters.shadingCover || ground->paintOrder < topmost)
+            if (share < parameters.shadingCover)
+                continue;
+            seen.push_back(ground);
+            if (ground->paintOrder < topmost)
                 continue;
             topmost = ground->paintOrder;
             cell.shading = seenColor(*ground);
@@ -63,9 +101,12 @@ void shadeCells(TableDraft& table, std::vector<Ground>& grounds, const TablePara
                 cell.shading.reset();
         }
     }
+    // What covers no cell is drawn in one: a field, a bar.
+    std::sort(seen.begin(), seen.end());
     for (Ground* ground : own)
         if (table.box.inflated(parameters.lineSnap).contains(ground->box))
-            ground->isUsed = true;
+            ground->isUsed |= seenColor(*ground) == kWhite || isRim(*ground, table, parameters) ||
+                              std::binary_search(seen.begin(), seen.end(), ground);
 }
 
 } // namespace orvane::layout

@@ -12,6 +12,8 @@ struct TableParameters {
         // The drawn grid. Producers paint borders cell by cell, so ends and positions differ by about a border's width.
         double joinGap = 3.0;  ///< points; rules that end this near to each other or to a crossing meet
         double lineSnap = 3.0; ///< points; parallel rules this near have no room for text between them: one line
+        double borderReach = 1.0; ///< points; a rule within a table this near to a cell's side is a border of it, ...
+        double borderShare = 0.9; ///< ... and one as near as lineSnap that runs along as much of the side
         double minimumLineLength = 4.0; ///< points; shorter ones are dots, ticks, corners
         double minimumCellSide = 5.0;   ///< points; lines that overshoot the outermost crossing line by less end there
         double missingShare = 0.1;      ///< of a cell's side that may be undrawn for the side to count as drawn

@@ -1,0 +1,88 @@
+#include "layout/assembly/FigureAnchors.h"
+
+#include "layout/structure/BlockExtent.h"
+
+#include <algorithm>
+#include <variant>
+
+namespace orvane::layout {
+namespace {
+
+document::Placement* placementOf(document::Block& block) {
+    if (auto* figure = std::get_if<document::Figure>(&block.value))
+        return &figure->placement;
+    if (auto* frame = std::get_if<document::Frame>(&block.value))
+        return &frame->placement;
+    return nullptr;
+}
+
+bool takesNoRoom(const document::Placement& placement) {
+    return placement.wrapping == document::Wrapping::BehindText || placement.wrapping == document::Wrapping::None;
+}
+
+/// The paragraph that what floats at `index` is written into.
+const AssembledBlock* hostOf(const std::vector<AssembledBlock>& blocks, std::size_t index) {
+    const std::size_t page = blocks[index].draft->page;
+    for (std::size_t i = index + 1; i < blocks.size(); ++i) {
+        const AssembledBlock& block = blocks[i];
+        if (std::holds_alternative<document::Figure>(block.block.value) || (block.draft && isFloating(*block.draft)))
+            continue;
+        return block.draftParagraph() && block.paragraph() && block.draft->page == page ? &block : nullptr;
+    }
+    return nullptr;
+}
+
+/// Where a word processor lets the paragraph begin: above the space before it.
+double topOf(const AssembledBlock& paragraph) {
+    return paragraph.top - pointsFromTwips(paragraph.paragraph()->properties.spaceBefore);
+}
+
+bool belongsTo(const AssembledBlock& figure, const AssembledBlock& paragraph, const AssemblyContext& context) {
+    const AssemblyParameters::Figures& limits = context.parameters.figures;
+    const PageLayout& page = context.draft.pages[figure.draft->page];
+    const Rect& box = figure.draft->box;
+    const Rect& text = paragraph.draft->box;
+    return std::max(text.top - box.bottom, box.top - text.bottom) <= limits.hangingReach &&
+           box.area() <= limits.largestHanging * page.width * page.height;
+}
+
+void hangFrom(document::Placement& placement, double top) {
+    if (placement.verticalAnchor != document::VerticalAnchor::Page)
+        return;
+    placement.verticalAnchor = document::VerticalAnchor::Paragraph;
+    placement.y = placement.y - emuFromPoints(top);
+}
+
+void moveIntoCell(document::Placement& placement, double left) {
+    if (placement.horizontalAnchor != document::HorizontalAnchor::Page)
+        return;
+    placement.horizontalAnchor = document::HorizontalAnchor::Column;
+    placement.x = placement.x - emuFromPoints(left);
+}
+
+} // namespace
+
+void hangOnText(std::vector<AssembledBlock>& blocks, const std::optional<CellOrigin>& cell,
+                const AssemblyContext& context) {
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        AssembledBlock& block = blocks[i];
+        document::Placement* placement = placementOf(block.block);
+        if (!placement || !block.draft || !takesNoRoom(*placement))
+            continue;
+        const AssembledBlock* host = hostOf(blocks, i);
+        if (!cell && (!host || !belongsTo(block, *host, context)))
+            continue;
+        const double top = host ? topOf(*host) : cell->top;
+        std::vector<document::Placement*> hanging{placement};
+        for (document::Block& floating : block.floats)
+            if (document::Placement* label = placementOf(floating))
+                hanging.push_back(label);
+        for (document::Placement* each : hanging) {
+            hangFrom(*each, top);
+            if (cell)
+                moveIntoCell(*each, cell->left);
+        }
+    }
+}
+
+} // namespace orvane::layout

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "layout/assembly/AssembledBlock.h"
+#include "layout/assembly/TextAssembler.h"
+
+#include <optional>
+#include <vector>
+
+namespace orvane::layout {
+
+/// Where the text of a table cell begins. Units: points, page space.
+struct CellOrigin {
+    double left = 0;
+    double top = 0;
+};
+
+/// Hangs what lies behind or in front of text on the paragraph that it was drawn into, so that boxes stay around their
+/// words wherever these go. In a cell everything hangs, for there a page's places are the cell's. Requires: the space
+/// between the blocks is known.
+void hangOnText(std::vector<AssembledBlock>& blocks, const std::optional<CellOrigin>& cell,
+                const AssemblyContext& context);
+
+} // namespace orvane::layout

@@ -1,0 +1,99 @@
+#include "layout/assembly/FigureAnchors.h"
+
+#include "engine/layout/DraftSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+using tests::makeBlock;
+using tests::makeDraft;
+using tests::makeLine;
+using tests::makeParagraph;
+
+/// A box behind the text.
+DraftBlock makeBox(const Rect& box) {
+    DraftBlock block;
+    block.box = box;
+    FigureDraft figure;
+    figure.figure.box = box;
+    figure.figure.isBackground = true;
+    figure.figure.drawing.emplace();
+    figure.figure.drawing->shapes.emplace_back();
+    block.value = std::move(figure);
+    return block;
+}
+
+const document::Placement& placementIn(const std::vector<document::Block>& blocks, std::size_t index) {
+    return std::get<document::Figure>(blocks.at(index).value).placement;
+}
+
+double points(Emu length) {
+    return static_cast<double>(length.value) / 12700;
+}
+
+TEST(FigureAnchors, HangABoxOnTheParagraphThatItStandsAround) {
+    DocumentDraft draft = makeDraft(1);
+    for (const double baseline : {88.0, 100.0, 112.0, 124.0, 136.0})
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Above", 72, baseline)})));
+    draft.blocks.push_back(makeBox({70, 190, 200, 204}));
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Name", 72, 200)})));
+    const document::Document document = tests::documentOf(draft);
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    const document::Placement& placement = placementIn(blocks, 5);
+    EXPECT_EQ(placement.wrapping, document::Wrapping::BehindText);
+    EXPECT_EQ(placement.verticalAnchor, document::VerticalAnchor::Paragraph);
+    EXPECT_EQ(placement.horizontalAnchor, document::HorizontalAnchor::Page);
+    EXPECT_EQ(placement.x, emuFromPoints(70));
+    const auto& paragraph = std::get<document::Paragraph>(blocks.at(6).value);
+    const double above = pointsFromTwips(paragraph.properties.spaceBefore);
+    EXPECT_GT(above, 40);
+    EXPECT_NEAR(points(placement.y), above, 8) << "the space before a paragraph is part of it";
+}
+
+TEST(FigureAnchors, LeaveOnThePageWhatIsOfThePage) {
+    struct Row {
+        Rect box;
+        std::size_t page;
+        const char* why;
+    };
+    const Row rows[] = {
+        {{0, 0, 595, 842}, 0, "the paper's colour"},
+        {{70, 400, 200, 420}, 0, "nothing is written there"},
+        {{70, 190, 200, 204}, 1, "the paragraph behind it stands on the next page"},
+    };
+    for (const Row& row : rows) {
+        DocumentDraft draft = makeDraft(2);
+        draft.blocks.push_back(makeBox(row.box));
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Name", 72, 200)}), row.page));
+        const document::Document document = tests::documentOf(draft);
+        EXPECT_EQ(placementIn(document.sections.at(0).blocks, 0).verticalAnchor, document::VerticalAnchor::Page)
+            << row.why;
+    }
+}
+
+TEST(FigureAnchors, HangABoxInACellOnTheCell) {
+    DocumentDraft draft = makeDraft(1);
+    DraftTable table;
+    table.table.columnEdges = {172, 372};
+    table.table.rowEdges = {100, 160};
+    table.table.box = {172, 100, 372, 160};
+    DraftCell& cell = table.cells.emplace_back();
+    cell.cell.box = table.table.box;
+    cell.blocks.push_back(makeBox({182, 130, 282, 145}));
+    DraftBlock& block = draft.blocks.emplace_back();
+    block.box = table.table.box;
+    block.value = std::move(table);
+    const document::Document document = tests::documentOf(draft);
+    const auto& made = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+    const document::TableCell& written = made.rows.at(0).cells.at(0);
+    const document::Placement& placement = placementIn(written.blocks, 0);
+    EXPECT_EQ(placement.verticalAnchor, document::VerticalAnchor::Paragraph);
+    EXPECT_EQ(placement.horizontalAnchor, document::HorizontalAnchor::Column);
+    EXPECT_EQ(placement.y, emuFromPoints(30));
+    EXPECT_NEAR(points(placement.x), 10 - pointsFromTwips(written.marginLeft), 0.01);
+}
+
+} // namespace
+} // namespace orvane::layout
