@@ -65,12 +65,11 @@ private:
     /// Words stand within a formula, but above no rule and below no sum.
     static bool isOfSigns(const FormulaPiece& piece) { return piece.kind != FormulaPieceKind::Words; }
 
-    /// Borders of tables meet others; rules of formulas end freely.
+    /// Borders of tables and axes of charts meet others or cross them; rules of formulas stand alone.
     bool meetsUpright(const Rule& rule) const {
         return std::any_of(m_rules.begin(), m_rules.end(), [&](const Rule& other) {
-            const bool isAtEnd = std::abs(other.position - rule.from) < 1 || std::abs(other.position - rule.to) < 1;
-            return other.direction == RuleDirection::Vertical && isAtEnd && other.from <= rule.position + 1 &&
-                   other.to >= rule.position - 1;
+            return other.direction == RuleDirection::Vertical && other.position > rule.from - 1 &&
+                   other.position < rule.to + 1 && other.from <= rule.position + 1 && other.to >= rule.position - 1;
         });
     }
 

@@ -168,6 +168,13 @@ TEST(FormulaFinder, LeavesSentencesWithSignsAlone) {
     EXPECT_TRUE(read(page).formulas.empty());
 }
 
+TEST(FormulaFinder, LeavesTheNamesAlongCrossingAxesAlone) {
+    FormulaPage page = pageWithFraction();
+    EXPECT_THAT(read(page).formulas, testing::SizeIs(1));
+    page.verticalRule(page.content().paths.back().box.left + 3, 130, 165, 0.4);
+    EXPECT_THAT(read(page).formulas, testing::IsEmpty()) << "no fraction is crossed by another rule";
+}
+
 TEST(FormulaFinder, LeavesTheNumbersOfAnAxisAlone) {
     FormulaPage page;
     page.prose(100, 3);
