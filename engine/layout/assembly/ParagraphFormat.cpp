@@ -1,6 +1,8 @@
 #include "layout/assembly/ParagraphFormat.h"
 
+#include "base/Utf8.h"
 #include "layout/assembly/TabStopFinder.h"
+#include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -18,6 +20,14 @@ Twips indent(double points, double smallest) {
     return std::abs(points) < smallest ? Twips(0) : twipsFromPoints(points);
 }
 
+/// Whether the line is drawn of one sign: "________".
+bool isDrawnOfCharacters(const Line& line) {
+    constexpr std::size_t kShortest = 5;
+    const std::u32string text = line.words.size() == 1 ? utf32FromUtf8(textOf(line.words.front())) : std::u32string();
+    return text.size() >= kShortest && !isLetter(text.front()) &&
+           text.find_first_not_of(text.front()) == std::u32string::npos;
+}
+
 /// Measures the indents from the section's column, whose edges the page alone did not show.
 void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, document::ParagraphProperties& format) {
     const AssemblyParameters::Spacing& limits = parameters.spacing;
@@ -33,8 +43,11 @@ void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, doc
     const double least = endsWithoutBlanks(line) ? line.fontSize
                          : end > 0               ? limits.smallestEndIndent
                                                  : limits.smallestIndent;
-    // A line as wide as it may be to the last hair may find no room in another program.
-    if ((format.alignment == Alignment::Justified || end < 0) && std::abs(end) >= least)
+    // A line as wide as it may be to the last hair may find no room in another program. One that is drawn as wide as
+    // the text must not break whatever its characters' width.
+    if (piece.text.lines.size() == 1 && isDrawnOfCharacters(line) && end < limits.smallestEndIndent)
+        format.indentEnd = twipsFromPoints(end - limits.smallestEndIndent);
+    else if ((format.alignment == Alignment::Justified || end < 0) && std::abs(end) >= least)
         format.indentEnd = twipsFromPoints(end - parameters.pageSetup.roomSlack);
 }
 

@@ -23,6 +23,15 @@ TEST(ParagraphFormat, LetsTextReachPastTheColumnWhereItDid) {
     EXPECT_NEAR(pointsFromTwips(format.indentEnd), 523 - (72 + 500) - 0.5, 0.1) << "else the line would break";
 }
 
+TEST(ParagraphFormat, GivesRoomToLinesDrawnOfCharacters) {
+    const auto format = [](const std::string& text) {
+        return formatOfLines({makeLine(text, 72, 100)}, document::Alignment::Start);
+    };
+    EXPECT_LT(format(std::string(90, '_')).indentEnd, Twips(0)) << "450 of 451 points";
+    EXPECT_EQ(format(std::string(60, '_')).indentEnd, Twips(0));
+    EXPECT_EQ(format(std::string(90, 'a')).indentEnd, Twips(0)) << "a word";
+}
+
 TEST(ParagraphFormat, SeesAnEndIndentOnlyWhereTextIsJustified) {
     const auto lines = [] { return std::vector{makeLine("words that end early", 72, 100), makeLine("and", 72, 112)}; };
     EXPECT_EQ(formatOfLines(lines(), document::Alignment::Start).indentEnd, Twips(0));
