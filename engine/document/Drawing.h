@@ -68,9 +68,9 @@ struct Shape {
 struct Drawing {
     Emu width;
     Emu height;
-    std::vector<Shape> shapes;    ///< in paint order
-    bool isPictureAtBest = false; ///< so many upright boxes and lines that word processors bear them as a picture only
+    std::vector<Shape> shapes; ///< in paint order
     std::string alternateText;
+    bool isPictureAtBest = false; ///< so many upright boxes and lines that word processors bear them as a picture only
 };
 
 } // namespace orvane::document

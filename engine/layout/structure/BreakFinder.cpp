@@ -9,9 +9,6 @@
 namespace orvane::layout {
 namespace {
 
-/// Of the text's height: with so much room left above it no program began a page, but its author did.
-constexpr double kFloatRoom = 0.25;
-
 /// Where a block ends: the place of its last piece.
 struct BlockEnd {
     std::size_t page = 0;
@@ -55,7 +52,7 @@ std::vector<bool> pagesWithFloats(const DocumentDraft& draft) {
 bool wasStartedByHand(const DraftBlock& block, double room, const PageFill& fill, const BlockRange& range,
                       PageMaking making, const StructureParameters::PageSetup& limits) {
     if (making == PageMaking::Program && !isHeading(block))
-        return room > fill.need + kFloatRoom * range.area.box.height();
+        return room > fill.need + limits.floatRoom * range.area.box.height();
     return room > fill.need + limits.startRoom || startsLow(fill, range.area.tops.of(block.page), limits);
 }
 

@@ -28,6 +28,8 @@ struct StructureParameters {
         double widestColumnGap = 54.0;  ///< likewise, where no line shows that it ends at a column's edge
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
+        double floatRoom =
+            0.25; ///< of the text's height; with so much room above no program began a page, but its author did
     } pageSetup;
 
     /// HeadingFinder, HeadingStyles: headings where only their looks tell them.
