@@ -16,7 +16,7 @@ class Page;
 namespace orvane::pdf {
 
 /// Ends content that would go on for ever: forms that call each other in endless variations, millions of operators.
-    /// Thread: used by the one that made it, whose processor time it counts.
+/// Thread: used by the one that made it, whose processor time it counts.
 class TimeBudget {
 public:
     explicit TimeBudget(std::chrono::milliseconds budget)

@@ -60,7 +60,7 @@ struct AssemblyParameters {
     /// FigureAssembler.
     struct Figures {
         double alignmentTolerance =
-            3.0; ///< points; a picture this near to the middle or edge of its column was set there
+            3.0;                     ///< points; a picture this near to the middle or edge of its column was set there
         double hangingReach = 24;    ///< points; what lies behind text hangs on a paragraph that is so near ...
         double largestHanging = 0.5; ///< ... unless it covers more of the page: then it belongs to that
     } figures;

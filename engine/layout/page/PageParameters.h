@@ -12,7 +12,7 @@ struct PageParameters {
         double gap = 3;            ///< points; those that lie this close are one drawing
         double speck = 1;          ///< points; what is smaller both ways is not seen
         double coveredShare = 0.6; ///< of a picture that a ground painted over it covers for it to lie behind the text
-        double cellReach = 0.5; ///< points; by which what is drawn in a table's cell may stick out of it
+        double cellReach = 0.5;    ///< points; by which what is drawn in a table's cell may stick out of it
         std::size_t shapesOfDocument = 1500; ///< rules and grounds; word processors lay out thousands for minutes
         std::size_t leastShapesOfPage = 4;   ///< however many pages there are
         std::size_t mostJoined = 20000; ///< rules and grounds of a page; among more nobody looks for those of one look

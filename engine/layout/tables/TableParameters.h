@@ -10,8 +10,8 @@ struct TableParameters {
     /// TableFinder and its stages: what is drawn as a grid, and what words set as one.
     struct Tables {
         // The drawn grid. Producers paint borders cell by cell, so ends and positions differ by about a border's width.
-        double joinGap = 3.0;  ///< points; rules that end this near to each other or to a crossing meet
-        double lineSnap = 3.0; ///< points; parallel rules this near have no room for text between them: one line
+        double joinGap = 3.0;     ///< points; rules that end this near to each other or to a crossing meet
+        double lineSnap = 3.0;    ///< points; parallel rules this near have no room for text between them: one line
         double borderReach = 1.0; ///< points; a rule within a table this near to a cell's side is a border of it, ...
         double borderShare = 0.9; ///< ... and one as near as lineSnap that runs along as much of the side
         double minimumLineLength = 4.0; ///< points; shorter ones are dots, ticks, corners
