@@ -79,8 +79,14 @@ bool areLinesCounted(const AlignedRows& aligned, const std::vector<Line>& lines,
 bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const ColumnPieces> columns,
               const TableParameters::Tables& parameters) {
     const auto beginsTyped = [&](const PieceRow& row) { return isInTypewriter(row.pieces.front(), page); };
+    const auto hasSigns = [&](const PieceRow& row) {
+        return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
+            return isInTypewriter(piece, page) && hasSignsOfCode(textOf(piece, page.lines));
+        });
+    };
     return areTypedLinesCounted(page, columns, parameters) ||
-           (columns.size() == 2 && shareOfRows(aligned, beginsTyped) > parameters.codeShare);
+           (shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
+            (columns.size() == 2 || shareOfRows(aligned, hasSigns) > parameters.codeShare));
 }
 
 } // namespace orvane::layout
