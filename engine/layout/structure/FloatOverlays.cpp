@@ -1,6 +1,7 @@
 #include "layout/structure/FloatOverlays.h"
 
 #include "layout/structure/BlockColumn.h"
+#include "layout/structure/BlockExtent.h"
 
 #include <algorithm>
 #include <map>
@@ -16,14 +17,10 @@ struct Item {
     ColumnSpan column;
 };
 
-bool isFloat(const DraftBlock& block) {
+/// A figure that text makes way for, unless it is told not to.
+bool isBesideText(const DraftBlock& block) {
     const auto* figure = std::get_if<FigureDraft>(&block.value);
-    return figure && !figure->isInline && !figure->figure.isBackground;
-}
-
-bool isBackground(const DraftBlock& block) {
-    const auto* figure = std::get_if<FigureDraft>(&block.value);
-    return figure && figure->figure.isBackground;
+    return figure && isFloating(block) && !figure->figure.isBackground;
 }
 
 /// The lines of the text, and what stands in it whole.
@@ -31,14 +28,16 @@ std::vector<Item> itemsOf(const DocumentDraft& draft, std::size_t first, std::si
     std::vector<Item> items;
     for (std::size_t i = first; i < last; ++i) {
         const DraftBlock& block = draft.blocks[i];
-        const auto* paragraph = std::get_if<DraftParagraph>(&block.value);
-        if (!paragraph && !isFloat(block) && !isBackground(block))
+        if (isFloating(block))
+            continue;
+        const DraftParagraph* paragraph = block.paragraph();
+        if (!paragraph) {
             items.push_back({block.page, block.box, columnOf(block, draft)});
-        else if (paragraph)
-            for (const DraftPiece& piece : paragraph->pieces)
-                for (const Line& line : piece.text.lines)
-                    if (!piece.text.isFloating)
-                        items.push_back({piece.page, line.box, piece.column});
+            continue;
+        }
+        for (const DraftPiece& piece : paragraph->pieces)
+            for (const Line& line : piece.text.lines)
+                items.push_back({piece.page, line.box, piece.column});
     }
     return items;
 }
@@ -64,18 +63,18 @@ bool wouldMove(const Item& item, const Rect& figure, const StructureParameters::
 
 void findOverlaidFigures(DocumentDraft& draft, std::size_t first, std::size_t last,
                          const StructureParameters::Floats& parameters) {
-    const auto isAnyFloat = [](const DraftBlock& block) { return isFloat(block); };
     const auto begin = draft.blocks.begin();
-    if (std::none_of(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last), isAnyFloat))
+    if (std::none_of(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last),
+                     isBesideText))
         return;
     std::vector<Item> items = itemsOf(draft, first, last);
     std::stable_sort(items.begin(), items.end(), isOnEarlierPage);
     std::map<std::size_t, std::size_t> floats; // by page
     for (std::size_t i = first; i < last; ++i)
-        floats[draft.blocks[i].page] += isFloat(draft.blocks[i]) ? 1 : 0;
+        floats[draft.blocks[i].page] += isBesideText(draft.blocks[i]) ? 1 : 0;
     for (std::size_t i = first; i < last; ++i) {
         DraftBlock& block = draft.blocks[i];
-        if (!isFloat(block))
+        if (!isBesideText(block))
             continue;
         const auto [from, to] = std::equal_range(items.begin(), items.end(), Item{block.page, {}, {}}, isOnEarlierPage);
         const std::size_t count = floats[block.page];

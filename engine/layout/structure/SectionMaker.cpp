@@ -180,8 +180,8 @@ private:
     }
 
     /// Pieces that go on from one column to the next stand in several.
-    static void noteLines(DraftBlock& block, std::vector<SeenColumn>& seen) {
-        DraftParagraph* paragraph = block.paragraph();
+    static void noteLines(const DraftBlock& block, std::vector<SeenColumn>& seen) {
+        const DraftParagraph* paragraph = block.paragraph();
         if (!paragraph)
             return;
         for (const DraftPiece& piece : paragraph->pieces) {

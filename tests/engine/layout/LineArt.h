@@ -30,6 +30,16 @@ inline std::vector<Line> linesFromArt(const std::vector<std::string>& rows, doub
     return lines;
 }
 
+/// A rule as thin as most are. Positions in points.
+inline Rule ruleAt(RuleDirection direction, double position, double from, double to) {
+    Rule rule;
+    rule.direction = direction;
+    rule.position = position;
+    rule.from = from;
+    rule.to = to;
+    return rule;
+}
+
 /// A column as wide as so many characters.
 inline ColumnSpan artColumn(int characters) {
     return {0, characters * kArtAdvance};

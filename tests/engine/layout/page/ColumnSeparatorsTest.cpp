@@ -1,16 +1,14 @@
 #include "layout/page/ColumnSeparators.h"
 
+#include "engine/layout/LineArt.h"
+
 #include <gtest/gtest.h>
 
 namespace orvane::layout {
 namespace {
 
 Rule upright(double x, double from, double to, double width = 0.5) {
-    Rule rule;
-    rule.direction = RuleDirection::Vertical;
-    rule.position = x;
-    rule.from = from;
-    rule.to = to;
+    Rule rule = tests::ruleAt(RuleDirection::Vertical, x, from, to);
     rule.width = width;
     return rule;
 }

@@ -11,19 +11,11 @@ namespace {
 
 using testing::SizeIs;
 using tests::pageWith;
+using tests::ruleAt;
 
 /// Draws what is free, where nine pieces are the most.
 void draw(PageLayout& page) {
     drawFreeRules(page, 9, {});
-}
-
-Rule ruleAt(RuleDirection direction, double position, double from, double to) {
-    Rule rule;
-    rule.direction = direction;
-    rule.position = position;
-    rule.from = from;
-    rule.to = to;
-    return rule;
 }
 
 const Figure& figureAt(const PageLayout& page, std::size_t index) {

@@ -11,17 +11,11 @@ using document::BorderKind;
 using tests::pageWith;
 
 Rule horizontal(double y, double from = 72, double to = 523) {
-    Rule rule;
-    rule.position = y;
-    rule.from = from;
-    rule.to = to;
-    return rule;
+    return tests::ruleAt(RuleDirection::Horizontal, y, from, to);
 }
 
 Rule vertical(double x, double from, double to) {
-    Rule rule = horizontal(x, from, to);
-    rule.direction = RuleDirection::Vertical;
-    return rule;
+    return tests::ruleAt(RuleDirection::Vertical, x, from, to);
 }
 
 const ParagraphDraft& at(const PageLayout& page, std::size_t index) {

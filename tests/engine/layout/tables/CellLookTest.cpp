@@ -1,9 +1,13 @@
 #include "layout/tables/CellLook.h"
 
+#include "engine/layout/LineArt.h"
+
 #include <gtest/gtest.h>
 
 namespace orvane::layout {
 namespace {
+
+using tests::ruleAt;
 
 /// One row of two cells of 100 by 50 points, at 0, 0.
 TableDraft tableOfTwo() {
@@ -14,15 +18,6 @@ TableDraft tableOfTwo() {
         cell.box = {left, 0, left + 100, 50};
     }
     return table;
-}
-
-Rule ruleAt(RuleDirection direction, double position, double from, double to) {
-    Rule rule;
-    rule.direction = direction;
-    rule.position = position;
-    rule.from = from;
-    rule.to = to;
-    return rule;
 }
 
 TEST(CellLook, UsesUpTheRulesAlongTheSidesOfCells) {
