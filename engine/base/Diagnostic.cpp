@@ -17,6 +17,7 @@ const char* toString(DiagnosticKind kind) {
     case DiagnosticKind::PagesOutOfRange: return "PagesOutOfRange";
     case DiagnosticKind::FormatLimitReached: return "FormatLimitReached";
     case DiagnosticKind::TimeBudgetExceeded: return "TimeBudgetExceeded";
+    case DiagnosticKind::ContentLeftOut: return "ContentLeftOut";
     }
     return "ContentDamaged";
 }

@@ -22,6 +22,7 @@ enum class DiagnosticKind {
     PagesOutOfRange,      ///< the page range was cut to the document
     FormatLimitReached,   ///< more than the target format can hold: page size, columns, tables in tables
     TimeBudgetExceeded,   ///< a stage was cut short and a simpler method was used
+    ContentLeftOut,       ///< something of a page is not in the document
 };
 
 /// One thing worth telling about the source or its conversion; goes to the conversion log.

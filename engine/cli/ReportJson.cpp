@@ -28,7 +28,8 @@ void addFailure(const Outcome& outcome, ordered_json& object) {
 ordered_json countsJson(const Counts& counts) {
     return {{"charactersRead", counts.charactersRead}, {"charactersWritten", counts.charactersWritten},
             {"picturesRead", counts.picturesRead},     {"picturesWritten", counts.picturesWritten},
-            {"linksRead", counts.linksRead},           {"linksWritten", counts.linksWritten}};
+            {"linksRead", counts.linksRead},           {"linksWritten", counts.linksWritten},
+            {"valuesRead", counts.valuesRead},         {"valuesWritten", counts.valuesWritten}};
 }
 
 ordered_json notesJson(const std::vector<Diagnostic>& diagnostics) {

@@ -3,6 +3,7 @@
 #include "document/Drawing.h"
 #include "document/Format.h"
 #include "document/Formula.h"
+#include "document/LinkTarget.h"
 #include "document/Picture.h"
 
 #include <cstdint>
@@ -29,12 +30,6 @@ struct Tab {
 enum class BreakKind : std::uint8_t { Line, Column, Page };
 struct Break {
     BreakKind kind = BreakKind::Line;
-};
-
-/// Leads to a bookmark that stands somewhere in the document, or outside it.
-struct LinkTarget {
-    std::string uri;      ///< outside
-    std::string bookmark; ///< inside
 };
 
 /// The start of a named place; its end is where it stands.
@@ -106,6 +101,12 @@ struct ListReference {
     bool operator==(const ListReference&) const = default;
 };
 
+/// Where a paragraph goes on on a later page of the source.
+struct PageTurn {
+    int page = 0;            ///< 1-based
+    std::size_t letters = 0; ///< letters and digits of the paragraph's runs before it
+};
+
 struct Paragraph {
     StyleId style; ///< of Document::styles
     std::optional<ListReference> list;
@@ -113,6 +114,7 @@ struct Paragraph {
     RunProperties markProperties; ///< of the paragraph mark: decides the height of an empty paragraph
     std::vector<Inline> inlines;
     Origin origin;
+    std::vector<PageTurn> turns; ///< ascending
 };
 
 struct Block;

@@ -3,7 +3,9 @@
 #include "base/Geometry.h"
 #include "base/PictureData.h"
 #include "base/Units.h"
+#include "document/LinkTarget.h"
 
+#include <optional>
 #include <string>
 
 namespace orvane::document {
@@ -31,6 +33,7 @@ struct Picture {
     bool isMirroredVertically = false;
     std::string alternateText;
     Origin origin;
+    std::optional<LinkTarget> link; ///< of one that floats; another stands in a Link
 };
 
 } // namespace orvane::document

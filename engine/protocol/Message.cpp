@@ -33,7 +33,7 @@ constexpr EnumNames<JobStage, 10> kStages{{{JobStage::Opening, "opening"},
 constexpr std::size_t kMaxListed = 1000;
 constexpr std::size_t kMaxPages = 1'000'000;
 
-constexpr DiagnosticKind kLastDiagnosticKind = DiagnosticKind::TimeBudgetExceeded;
+constexpr DiagnosticKind kLastDiagnosticKind = DiagnosticKind::ContentLeftOut;
 
 std::string cut(const std::string& text) {
     if (text.size() <= kMaxTextLength)
@@ -122,6 +122,8 @@ json toJson(const Finished& m) {
             {"picturesWritten", m.counts.picturesWritten},
             {"linksRead", m.counts.linksRead},
             {"linksWritten", m.counts.linksWritten},
+            {"valuesRead", m.counts.valuesRead},
+            {"valuesWritten", m.counts.valuesWritten},
             {"diagnostics", m.diagnostics},
             {"seconds", m.seconds}};
 }
@@ -234,6 +236,8 @@ Message readFinished(JsonReader& reader) {
     m.counts.picturesWritten = reader.longInteger("picturesWritten", kLongCount);
     m.counts.linksRead = reader.longInteger("linksRead", kLongCount);
     m.counts.linksWritten = reader.longInteger("linksWritten", kLongCount);
+    m.counts.valuesRead = reader.longInteger("valuesRead", kLongCount);
+    m.counts.valuesWritten = reader.longInteger("valuesWritten", kLongCount);
     m.diagnostics = reader.integer("diagnostics", kCount);
     m.seconds = reader.number("seconds");
     return m;

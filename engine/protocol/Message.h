@@ -77,6 +77,8 @@ struct Counts {
     std::int64_t picturesWritten = 0;
     std::int64_t linksRead = 0;
     std::int64_t linksWritten = 0;
+    std::int64_t valuesRead = 0; ///< of form fields that are filled in
+    std::int64_t valuesWritten = 0;
 
     bool operator==(const Counts&) const = default;
 };

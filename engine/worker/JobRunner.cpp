@@ -10,7 +10,7 @@
 #include "pictures/PictureExtractor.h"
 #include "protocol/PartFile.h"
 #include "worker/Capabilities.h"
-#include "worker/ContentCounter.h"
+#include "worker/ContentAudit.h"
 #include "worker/DrawingPainter.h"
 #include "worker/FontCarrier.h"
 #include "worker/PageReader.h"
@@ -62,6 +62,11 @@ layout::LayoutRequest layoutRequest(const Job& job) {
 bool showsPictures(const Job& job) {
     const bool isText = job.layout == Layout::Continuous || job.layout == Layout::PlainText;
     return job.pictures == Pictures::Keep && !isText;
+}
+
+/// The layouts without pages leave out by promise what pages have beside their text.
+AuditScope auditScope(const Job& job) {
+    return {showsPictures(job), fieldReading(job.layout) == FieldReading::AsControls};
 }
 
 void requireOtherFile(const Job& job) {
@@ -190,13 +195,13 @@ void JobRunner::convert() {
     if (showsPictures(m_job))
         paintDrawings(document, pictures);
     writeDocument(m_job.format, document, pictures, target.part(), diagnostics);
+    const Counts counts = auditContent(read.inventories, document, auditScope(m_job), diagnostics);
     requireNotCancelled(m_reporter);
     m_reporter.report(diagnostics);
     target.commit();
 
-    countWritten(document, read.counts);
     m_reporter.stageReached(JobStage::DocumentComplete, 0, 0);
-    m_reporter.finish(read.counts);
+    m_reporter.finish(counts);
 }
 
 void JobRunner::extractPictures() {
@@ -269,7 +274,7 @@ void JobRunner::draw() {
     requireNotCancelled(m_reporter);
     m_reporter.report(diagnostics);
     target.commit();
-    m_reporter.finish(read.counts);
+    m_reporter.finish({});
 }
 
 bool JobRunner::forceEnd(StarterChannel::ForcedEnd reason) {

@@ -2,7 +2,6 @@
 
 #include "base/Failure.h"
 #include "layout/Layout.h"
-#include "worker/ContentCounter.h"
 #include "worker/FigurePainter.h"
 
 #include <algorithm>
@@ -49,6 +48,7 @@ public:
         : m_reading(reading)
         , m_reporter(reporter) {
         m_result.pages.resize(reading.pages.size());
+        m_result.inventories.resize(reading.pages.size());
     }
 
     void takePages(const pdf::PdfDocument& document) {
@@ -90,21 +90,18 @@ private:
         if (m_reporter.isCancelled())
             throw Failure(FailureCode::Cancelled, "the conversion was cancelled");
         Diagnostics diagnostics;
-        protocol::Counts counts;
-        m_result.pages[index] = readOrReplace(document, m_reading.pages[index], diagnostics, counts);
+        m_result.pages[index] =
+            readOrReplace(document, m_reading.pages[index], diagnostics, m_result.inventories[index]);
 
         const std::lock_guard lock(m_mutex);
-        m_result.counts.charactersRead += counts.charactersRead;
-        m_result.counts.picturesRead += counts.picturesRead;
-        m_result.counts.linksRead += counts.linksRead;
         m_reporter.report(diagnostics);
         m_reporter.stageReached(JobStage::PageOfPages, ++m_done, static_cast<int>(m_reading.pages.size()));
     }
 
     layout::PageText readOrReplace(const pdf::PdfDocument& document, int number, Diagnostics& diagnostics,
-                                   protocol::Counts& counts) {
+                                   PageInventory& inventory) {
         try {
-            return read(document, number, diagnostics, counts);
+            return read(document, number, diagnostics, inventory);
         } catch (const Failure& failure) {
             if (!isFaultOfThePage(failure.code()))
                 throw;
@@ -118,9 +115,9 @@ private:
     }
 
     layout::PageText read(const pdf::PdfDocument& document, int number, Diagnostics& diagnostics,
-                          protocol::Counts& counts) {
+                          PageInventory& inventory) {
         pdf::PageContent content = document.readPage(number, {m_reading.pictures}, diagnostics);
-        countRead(content, counts);
+        const std::vector<pdf::FormField> fields = content.fields;
         if (m_reading.fields == FieldReading::AsDrawn)
             content.fields.clear();
         layout::PageText page = layout::readPageText(content, m_reading.parameters, diagnostics);
@@ -128,6 +125,7 @@ private:
             findIllustrations(document, page, m_reading.parameters, diagnostics);
         if (m_reading.pictures != nullptr)
             paintFigures(document, page, *m_reading.pictures, diagnostics);
+        inventory = inventoryOf(content, fields, page, m_reading.parameters);
         return page;
     }
 

@@ -4,7 +4,7 @@
 #include "layout/LayoutParameters.h"
 #include "layout/text/PageText.h"
 #include "pdf/PdfDocument.h"
-#include "protocol/Message.h"
+#include "worker/PageInventory.h"
 #include "worker/RunReporter.h"
 
 #include <cstdint>
@@ -38,8 +38,8 @@ struct PageReading {
 };
 
 struct PagesRead {
-    std::vector<layout::PageText> pages; ///< in the order asked for
-    protocol::Counts counts;
+    std::vector<layout::PageText> pages;    ///< in the order asked for
+    std::vector<PageInventory> inventories; ///< of the pages
 };
 
 /// Reads the pages, on several threads where there are enough of them, each with a document of its own beside

@@ -34,7 +34,9 @@ AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& 
     const std::optional<document::LineSpacing> spacing = lineSpacingOf(source, context.fonts, context.parameters);
     if (spacing)
         paragraph.properties.lineSpacing = *spacing;
-    paragraph.inlines = assembleText(source, context);
+    AssembledText text = assembleText(source, context);
+    paragraph.inlines = std::move(text.inlines);
+    paragraph.turns = std::move(text.turns);
     paragraph.markProperties = markProperties(source, context);
     paragraph.list = source.list;
     paragraph.origin = {context.draft.pages[draft.page].number, draft.box};

@@ -57,12 +57,19 @@ public:
     std::vector<document::Note> takeNotes() {
         std::vector<document::Note> notes;
         for (const DraftNote& note : m_draft.notes)
-            notes.push_back({note.kind, finishBlocks(std::move(m_flows[m_next++].blocks), m_context), {}});
+            notes.push_back({note.kind, finishBlocks(std::move(m_flows[m_next++].blocks), m_context), originOf(note)});
         return notes;
     }
 
 private:
     using Blocks = std::vector<AssembledBlock>;
+
+    document::Origin originOf(const DraftNote& note) const {
+        if (note.blocks.empty())
+            return {};
+        const DraftBlock& first = note.blocks.front();
+        return {m_draft.pages[first.page].number, first.box};
+    }
 
     /// The page on which a section starts; 0 where that is not known.
     std::size_t pageOf(const std::vector<AssembledBlock>& body, std::size_t section) const {

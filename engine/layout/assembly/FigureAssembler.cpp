@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -33,6 +34,17 @@ document::Picture pictureOf(const Figure& figure, int page) {
     return picture;
 }
 
+/// Where the link leads that lies over the picture. Of a link over other things too the picture is one.
+std::optional<document::LinkTarget> linkOf(const Figure& figure, std::size_t page, const AssemblyContext& context) {
+    constexpr double kMostOfIt = 0.5;
+    const std::vector<pdf::Link>& links = context.draft.pages[page].links;
+    for (std::size_t i = 0; i < links.size(); ++i)
+        for (const Rect& box : links[i].boxes)
+            if (figure.box.intersected(box).area() > kMostOfIt * figure.box.area())
+                return context.links.target(page, static_cast<int>(i));
+    return std::nullopt;
+}
+
 document::Alignment alignmentIn(const ColumnSpan& column, const Rect& box, double tolerance) {
     const double left = box.left - column.left, right = column.right - box.right;
     if (left > tolerance && std::abs(left - right) <= tolerance)
@@ -52,7 +64,10 @@ document::Block paragraphWith(document::Picture picture, const DraftBlock& place
     }
     paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
     paragraph.markProperties.size = kPictureMarkSize;
-    paragraph.inlines.push_back({std::move(picture)});
+    if (std::optional<document::LinkTarget> link = std::exchange(picture.link, std::nullopt))
+        paragraph.inlines.push_back({document::Link{std::move(*link), {{std::move(picture)}}}});
+    else
+        paragraph.inlines.push_back({std::move(picture)});
     return {std::move(paragraph)};
 }
 
@@ -96,14 +111,19 @@ document::Figure floatingFigure(const Figure& source, int page) {
 
 AssembledBlock assembleFigure(const FigureDraft& draft, const DraftBlock& place, const AssemblyContext& context) {
     const int page = context.draft.pages[place.page].number;
+    const std::optional<document::LinkTarget> link = linkOf(draft.figure, place.page, context);
     const bool isDrawn = draft.figure.drawing || !place.labels.empty();
     AssembledBlock assembled;
     assembled.labels = assembleBlocks(place.labels, context);
     if (draft.isInline && !isDrawn) {
-        assembled.block = paragraphWith(pictureOf(draft.figure, page), place, context);
+        document::Picture picture = pictureOf(draft.figure, page);
+        picture.link = link;
+        assembled.block = paragraphWith(std::move(picture), place, context);
         return assembled;
     }
     document::Figure figure = floatingFigure(draft.figure, page);
+    if (auto* picture = std::get_if<document::Picture>(&figure.content))
+        picture->link = link;
     if (draft.isInline) {
         assembled.block = paragraphUnder(draft.figure, page, context);
         hangOnParagraph(figure, columnOf(place, context.draft), draft.figure.box);

@@ -61,7 +61,7 @@ document::Text* InlineBuilder::lastText() {
 
 void InlineBuilder::enterLink(const std::optional<LinkTarget>& link) {
     const bool isSame = m_link.has_value() == link.has_value() &&
-                        (!link || (m_link->uri == link->uri && m_link->bookmark == link->bookmark));
+                        (!link || *m_link == *link);
     if (isSame)
         return;
     if (m_link && !m_linkInlines.empty())

@@ -34,7 +34,7 @@ RunProperties blankBetween(const RunProperties& before, const RunProperties& aft
 }
 
 bool sameTarget(const std::optional<LinkTarget>& a, const std::optional<LinkTarget>& b) {
-    return a && b && a->uri == b->uri && a->bookmark == b->bookmark;
+    return a && b && *a == *b;
 }
 
 /// Whether an address that the link leads to was cut by the end of a line between the two words.
@@ -61,13 +61,20 @@ public:
         , m_context(context)
         , m_families(paragraph, context.fonts) {}
 
-    std::vector<Inline> read() {
+    AssembledText read() {
         for (const std::string& name : m_paragraph.bookmarks)
             m_builder.add({document::Bookmark{name}}, std::nullopt);
-        for (const DraftPiece& piece : m_paragraph.pieces)
+        AssembledText assembled;
+        std::size_t page = m_paragraph.pieces.front().page;
+        for (const DraftPiece& piece : m_paragraph.pieces) {
+            if (piece.page != page)
+                assembled.turns.push_back({m_context.draft.pages[piece.page].number, m_letters});
+            page = piece.page;
             for (std::size_t i = 0; i < piece.text.lines.size(); ++i)
                 readLine(piece, i);
-        return m_builder.finish();
+        }
+        assembled.inlines = m_builder.finish();
+        return assembled;
     }
 
 private:
@@ -115,12 +122,17 @@ private:
             else if (const auto field = fieldAt(page, span.box))
                 m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
             else
-                m_builder.addText(span.text, properties, link);
+                addRun(span, properties, link);
             addComments(page, span, link);
             m_before = Before{properties, link, formField, {}};
         }
         m_before->text = textOf(word);
         m_before->blanks = word.blanksAfter;
+    }
+
+    void addRun(const Span& span, const RunProperties& properties, const std::optional<LinkTarget>& link) {
+        m_builder.addText(span.text, properties, link);
+        m_letters += countLetters(utf32FromUtf8(span.text));
     }
 
     void separate(const Word& word, Position position, const RunProperties& properties,
@@ -285,6 +297,7 @@ private:
     ScriptFamilies m_families;
     InlineBuilder m_builder;
     std::size_t m_wordCount = 0;
+    std::size_t m_letters = 0; ///< added so far
     std::optional<Before> m_before;
     bool m_isBroken = false; ///< the line before was ended by hand
     bool m_wraps = false;    ///< it ends in a divided word, whose rest does not fit
@@ -336,7 +349,7 @@ RunProperties runProperties(const Span& span, std::size_t page, const ScriptFami
     return run;
 }
 
-std::vector<Inline> assembleText(const DraftParagraph& paragraph, const AssemblyContext& context) {
+AssembledText assembleText(const DraftParagraph& paragraph, const AssemblyContext& context) {
     return ParagraphReader(paragraph, context).read();
 }
 

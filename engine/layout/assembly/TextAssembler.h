@@ -23,9 +23,14 @@ struct AssemblyContext {
     bool paintsEndsOfHangul = false; ///< see HangulLines
 };
 
+struct AssembledText {
+    std::vector<document::Inline> inlines;
+    std::vector<document::PageTurn> turns;
+};
+
 /// The words of the paragraph as runs of one look each: blanks between words, lines joined (hyphens at their ends
 /// resolved), tabs, breaks made by hand, links, bookmarks. Label words are left out.
-std::vector<document::Inline> assembleText(const DraftParagraph& paragraph, const AssemblyContext& context);
+AssembledText assembleText(const DraftParagraph& paragraph, const AssemblyContext& context);
 
 /// How a span's characters look, in the document's words. `families` are those around it.
 document::RunProperties runProperties(const Span& span, std::size_t page, const ScriptFamilies& families,

@@ -116,6 +116,11 @@ bool isDigit(char32_t c) {
     return u_isdigit(toIcu(c));
 }
 
+std::size_t countLetters(std::u32string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char32_t c) { return isLetter(c) || isDigit(c); }));
+}
+
 char32_t toLowerCase(char32_t c) {
     return static_cast<char32_t>(u_tolower(toIcu(c)));
 }

@@ -21,6 +21,8 @@ bool isLetter(char32_t c);
 bool isUpperCase(char32_t c);
 bool isLowerCase(char32_t c);
 bool isDigit(char32_t c);
+/// How many letters and digits the text has.
+std::size_t countLetters(std::u32string_view text);
 char32_t toLowerCase(char32_t c);
 /// A letter of a script that is written from right to left.
 bool isRightToLeftLetter(char32_t c);

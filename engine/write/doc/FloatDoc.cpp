@@ -17,6 +17,14 @@ void tellOnce(Story& story, bool& isTold, const Origin& origin, const char* mess
         story.state.diagnostics.add(DiagnosticKind::DrawingSimplified, origin.page, message, origin.box);
 }
 
+/// Shapes keep no links here.
+void tellOfLink(Story& story, const Figure& figure) {
+    const auto* picture = std::get_if<Picture>(&figure.content);
+    if (picture && picture->link)
+        story.state.diagnostics.add(DiagnosticKind::ContentLeftOut, figure.origin.page,
+                                    "the link of a floating picture is left out", figure.origin.box);
+}
+
 void writeFigure(Story& story, const Figure& figure) {
     const auto* picture = std::get_if<Picture>(&figure.content);
     if (!picture) {
@@ -33,6 +41,8 @@ void writeFigure(Story& story, const Figure& figure) {
     paragraph.properties.hasWidowControl = style.paragraph.hasWidowControl;
     paragraph.markProperties = style.run;
     paragraph.inlines = {{*picture}};
+    if (picture->link)
+        paragraph.inlines = {{Link{*picture->link, paragraph.inlines}}};
     writeParagraph(story, paragraph, {});
 }
 
@@ -72,6 +82,8 @@ void writeAnchor(Story& story, const Block& block) {
     object.place = story.text.length();
     object.figure = std::get_if<Figure>(&block.value);
     object.frame = std::get_if<Frame>(&block.value);
+    if (object.figure)
+        tellOfLink(story, *object.figure);
     story.text.add({&character::kFloatingObject, 1}, PropertyList().add(sprm::kCFSpec, 1).bytes());
     if (object.frame)
         object.box = writeBox(story, *object.frame);

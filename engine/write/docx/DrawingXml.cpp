@@ -83,6 +83,8 @@ void writeName(XmlWriter& xml, const DrawingOutline& outline, int id) {
     const XmlElement docPr(xml, "wp:docPr", {{"id", id}, {"name", fmt::format("{} {}", outline.kind, id)}});
     if (!outline.description.empty())
         xml.attribute({"descr", outline.description});
+    if (!outline.link.empty())
+        xml.leaf("a:hlinkClick", {{"r:id", outline.link}});
 }
 
 void writeAnchor(Story& story, const DrawingOutline& outline, const Placement& placement,

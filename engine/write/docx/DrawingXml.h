@@ -15,6 +15,7 @@ struct DrawingOutline {
     double rotation = 0;     ///< degrees clockwise
     std::string kind;        ///< "Picture", for the object's name
     std::string description; ///< alternate text
+    std::string link;        ///< the relationship that leads to its target; empty without one
 };
 
 /// Which words a reader must know to show a drawing.

@@ -1,5 +1,6 @@
 #include "write/docx/PictureXml.h"
 
+#include "write/LinkNames.h"
 #include "write/docx/DrawingXml.h"
 
 #include <algorithm>
@@ -64,8 +65,18 @@ std::string relationshipOf(Story& story, const Picture& picture) {
     return story.relationships.add("image", name);
 }
 
-DrawingOutline outlineOf(const Picture& picture) {
-    return {picture.width, picture.height, picture.rotation, "Picture", picture.alternateText};
+/// The relationship that leads to where the picture does; empty when it leads nowhere.
+/// Source: ECMA-376 part 1, 20.1.2.2.23 (CT_Hyperlink).
+std::string linkOf(Story& story, const Picture& picture) {
+    if (!picture.link)
+        return {};
+    const std::string anchor = bookmarkName(picture.link->bookmark);
+    const std::string target = anchor.empty() ? linkAddress(picture.link->uri) : "#" + anchor;
+    return target.empty() ? std::string() : story.relationships.add("hyperlink", target, TargetMode::External);
+}
+
+DrawingOutline outlineOf(const Picture& picture, std::string link) {
+    return {picture.width, picture.height, picture.rotation, "Picture", picture.alternateText, std::move(link)};
 }
 
 } // namespace
@@ -73,14 +84,14 @@ DrawingOutline outlineOf(const Picture& picture) {
 void writeInlinePicture(Story& story, const Picture& picture) {
     const std::string relationship = relationshipOf(story, picture);
     if (!relationship.empty())
-        writeInlineDrawing(story, outlineOf(picture), DrawingDialect::Picture,
+        writeInlineDrawing(story, outlineOf(picture, {}), DrawingDialect::Picture,
                            [&](int id) { writePicture(story.xml, picture, relationship, id); });
 }
 
 void writeFloatingPicture(Story& story, const Picture& picture, const Placement& placement) {
     const std::string relationship = relationshipOf(story, picture);
     if (!relationship.empty())
-        writeFloatingDrawing(story, outlineOf(picture), placement, DrawingDialect::Picture,
+        writeFloatingDrawing(story, outlineOf(picture, linkOf(story, picture)), placement, DrawingDialect::Picture,
                              [&](int id) { writePicture(story.xml, picture, relationship, id); });
 }
 

@@ -1,5 +1,6 @@
 #include "write/rtf/PictureRtf.h"
 
+#include "write/LinkNames.h"
 #include "write/rtf/PictureData.h"
 #include "write/rtf/ShapeProperties.h"
 
@@ -89,6 +90,28 @@ void writeCropProperty(RtfStream& rtf, const char* name, double share) {
         writeShapeProperty(rtf, name, std::llround(std::min(share, 1.0) * kWhole));
 }
 
+/// Lets a click on the shape lead where the picture does. Source: Rich Text Format 1.9.1, "Hyperlinks" of shapes.
+void writeShapeLink(RtfStream& rtf, const Picture& picture) {
+    if (!picture.link)
+        return;
+    const std::string anchor = bookmarkName(picture.link->bookmark);
+    const std::string address = anchor.empty() ? linkAddress(picture.link->uri) : std::string();
+    if (anchor.empty() && address.empty())
+        return;
+    const RtfGroup property(rtf, "sp");
+    {
+        const RtfGroup name(rtf, "sn");
+        rtf.text("pihlShape");
+    }
+    const RtfGroup value(rtf, "sv");
+    const RtfDestination link(rtf, "hl");
+    const auto part = [&rtf](const char* word, const std::string& text) {
+        const RtfGroup group(rtf, word);
+        rtf.text(text);
+    };
+    part(anchor.empty() ? "hlsrc" : "hlloc", anchor.empty() ? address : anchor);
+}
+
 } // namespace
 
 void writeInlinePicture(Story& story, const Picture& picture) {
@@ -121,6 +144,7 @@ void writeFloatingPicture(Story& story, const Picture& picture, const Placement&
     writeCropProperty(rtf, "cropFromBottom", picture.crop.bottom);
     writeShapeProperty(rtf, "fLine", 0);
     writeDescription(rtf, picture);
+    writeShapeLink(rtf, picture);
     const RtfGroup property(rtf, "sp");
     {
         const RtfGroup name(rtf, "sn");

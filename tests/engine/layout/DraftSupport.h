@@ -84,7 +84,8 @@ inline std::vector<document::Inline> inlinesOfParagraph(const DocumentDraft& dra
     noFit.fontFit.leastCoverage = 2;
     const FontCatalog fonts(linked, noFit);
     const LayoutParameters parameters;
-    return assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters});
+    return assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters})
+        .inlines;
 }
 
 /// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.

@@ -65,6 +65,22 @@ TEST(FigureAssembler, LetsNothingMakeWayForAPictureOverAnother) {
     EXPECT_EQ(wrappings, (std::vector{document::Wrapping::Square, document::Wrapping::None}));
 }
 
+TEST(FigureAssembler, LeadsWhereTheLinkOverAPictureDoes) {
+    DocumentDraft draft = makeDraft(1);
+    draft.pages[0].links.resize(2);
+    draft.pages[0].links[0] = {{{70, 330, 270, 340}}, "https://example.org/beside", {}};
+    draft.pages[0].links[1] = {{{70, 118, 274, 430}}, "https://example.org/over", {}};
+    draft.blocks.push_back(tests::makePictureBlock({72, 120, 272, 220}));
+    draft.blocks.push_back(tests::makePictureBlock({72, 320, 272, 420}));
+    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    const document::Document document = tests::documentOf(draft);
+    const auto& link = std::get<document::Link>(tests::paragraphAt(document, 0).inlines.at(0).value);
+    EXPECT_EQ(link.target.uri, "https://example.org/over");
+    EXPECT_TRUE(std::holds_alternative<document::Picture>(link.inlines.at(0).value));
+    const auto& figure = std::get<document::Figure>(document.sections.at(0).blocks.at(1).value);
+    EXPECT_EQ(std::get<document::Picture>(figure.content).link, link.target);
+}
+
 TEST(FigureAssembler, LetsAPictureReachIntoTheMargins) {
     DocumentDraft draft = makeDraft(1);
     draft.blocks.push_back(tests::makePictureBlock({22, 120, 553, 220}));

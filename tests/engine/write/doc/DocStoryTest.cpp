@@ -227,6 +227,20 @@ TEST(DocPicture, FloatsWhereItIsPlaced) {
     EXPECT_THAT(doc.read().stream(u"WordDocument"), HasSubstr(std::string(std::istreambuf_iterator<char>(in), {})));
 }
 
+TEST(DocPicture, TellsOfItsLinkWhereItFloats) {
+    const TemporaryFolder folder;
+    PictureStore pictures(folder.path());
+    Picture picture;
+    picture.id = pictures.add(pngPicture(8, 4, kBlack));
+    picture.link = LinkTarget{"https://example.org/", ""};
+    Figure figure{picture, {}, {}};
+    figure.origin.page = 3;
+    const WrittenDoc doc(documentOf({{figure}, {paragraph("b")}}), pictures);
+    ASSERT_EQ(doc.diagnostics().entries().size(), 1u);
+    EXPECT_EQ(doc.diagnostics().entries()[0].kind, DiagnosticKind::ContentLeftOut);
+    EXPECT_EQ(doc.diagnostics().entries()[0].page, 3);
+}
+
 /// A picture beside the text and one behind it.
 struct TwoFloats {
     TemporaryFolder folder;

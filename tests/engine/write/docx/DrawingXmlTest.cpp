@@ -113,6 +113,18 @@ TEST_F(DrawingXml, AnchorsAFloatingPictureWhereItStands) {
                         "<wp:wrapSquare wrapText='bothSides'/>"));
 }
 
+TEST_F(DrawingXml, LeadsWhereAFloatingPictureDoes) {
+    Picture outside = picture(), inside = picture();
+    outside.link = LinkTarget{"https://example.org/", ""};
+    inside.link = LinkTarget{"", "Chapter 2"};
+    const WrittenDocument document(
+        documentOf({{Figure{outside, {}, {}}}, {Figure{inside, {}, {}}}, {paragraph("after")}}), m_pictures);
+    EXPECT_EQ(document.body("//wp:docPr/a:hlinkClick"),
+              normalXml("<a:hlinkClick r:id='rId2'/><a:hlinkClick r:id='rId3'/>"));
+    EXPECT_EQ(document.select("word/_rels/document.xml.rels", "//*[@TargetMode='External']/@Target"),
+              "https://example.org/\n#Chapter_2\n");
+}
+
 TEST_F(DrawingXml, WrapsTextInEachWay) {
     struct Row {
         Wrapping wrapping;

@@ -85,6 +85,17 @@ TEST(RtfPicture, FloatsWhereItIsPlaced) {
     EXPECT_TRUE(rtf.has("{\\sp{\\sn pib}{\\sv{\\pict\\picw8"));
 }
 
+TEST(RtfPicture, LeadsWhereItsLinkDoes) {
+    Stored stored(pngPicture(8, 4, kBlack));
+    stored.picture.link = LinkTarget{"https://example.org/", ""};
+    Figure outside{stored.picture, {}, {}};
+    stored.picture.link = LinkTarget{"", "place"};
+    Figure inside{stored.picture, {}, {}};
+    const WrittenRtf rtf(documentOf({{outside}, {inside}, {paragraph("anchor")}}), stored.pictures);
+    EXPECT_TRUE(rtf.has("{\\sp{\\sn pihlShape}{\\sv{\\*\\hl{\\hlsrc https://example.org/}}}}"));
+    EXPECT_TRUE(rtf.has("{\\sp{\\sn pihlShape}{\\sv{\\*\\hl{\\hlloc place}}}}"));
+}
+
 TEST(RtfPicture, IsStoredOnItsSideWhenItIsTurned) {
     Stored stored(pngPicture(8, 4, kBlack));
     stored.picture.rotation = 90;
