@@ -187,7 +187,9 @@ void snapToStyle(AssembledBlock& block, const Style& style, const AssemblyParame
         format.indentStart = usual.indentStart;
         format.firstLine = usual.firstLine;
     }
-    if (isNear(format.indentEnd, usual.indentEnd, limits.sameIndent) || isSingleLine)
+    // A line that ends beyond the column's edge would break without the room that it takes there.
+    const bool standsOut = format.indentEnd < Twips(0) && format.indentEnd < usual.indentEnd;
+    if (isNear(format.indentEnd, usual.indentEnd, limits.sameIndent) || (isSingleLine && !standsOut))
         format.indentEnd = usual.indentEnd;
 }
 

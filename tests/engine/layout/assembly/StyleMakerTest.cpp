@@ -9,6 +9,7 @@ namespace {
 
 using tests::documentOf;
 using tests::draftOfLines;
+using tests::kColumn;
 using tests::makeBlock;
 using tests::makeLine;
 using tests::makeParagraph;
@@ -99,6 +100,14 @@ TEST(StyleMaker, LeavesPicturesTheirHeight) {
     EXPECT_EQ(document.styles[0].paragraph.lineSpacing.rule, document::LineSpacingRule::Exact);
     EXPECT_EQ(paragraphAt(document, 1).properties.lineSpacing, document::LineSpacing{})
         << "closer spacing would cut the picture";
+}
+
+TEST(StyleMaker, LeavesALineBeyondTheEdgeItsRoom) {
+    DocumentDraft draft = draftOfLines({{"one", 100}, {"two", 120}, {"three", 140}});
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("a remark in the margin", kColumn.right + 10, 160)})));
+    const auto document = documentOf(draft);
+    EXPECT_LT(paragraphAt(document, 3).properties.indentEnd, Twips(0)) << "it would break after each letter";
+    EXPECT_EQ(paragraphAt(document, 2).properties.indentEnd, Twips(0));
 }
 
 TEST(StyleMaker, OverlooksSmallDifferencesOfIndents) {
