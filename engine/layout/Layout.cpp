@@ -16,6 +16,7 @@
 #include "layout/structure/CommentFinder.h"
 #include "layout/structure/ContentsFinder.h"
 #include "layout/structure/DraftBuilder.h"
+#include "layout/structure/FieldLines.h"
 #include "layout/structure/HandBreaks.h"
 #include "layout/structure/HeadingFinder.h"
 #include "layout/structure/ListFinder.h"
@@ -96,6 +97,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     const DocumentContext context = analyseDocument(pages, parameters);
     FoundNotes notes = takeNotes(pages, context, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
+    joinFieldLines(draft, parameters.textBoxes);
     joinParagraphs(draft, context, parameters);
     joinTables(draft, context, parameters);
     makeNotes(draft, std::move(notes), context, parameters, diagnostics);

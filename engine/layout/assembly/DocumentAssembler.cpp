@@ -155,8 +155,14 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     if (tracking == Tracking::InWidths)
         fonts.narrowSqueezed(draft, parameters);
     fitLabels(draft, fonts, tracking, parameters);
-    const AssemblyContext assembly{
-        draft, context, fonts, links, request, parameters, paintsEndsOfHangul(draft, parameters.hangulLines)};
+    const AssemblyContext assembly{draft,
+                                   context,
+                                   fonts,
+                                   links,
+                                   request,
+                                   parameters,
+                                   paintsEndsOfHangul(draft, parameters.hangulLines),
+                                   UnseenValues(draft)};
     FlowSet flows(draft, assembly);
     document::Document document;
     document.metadata = metadataOf(facts.metadata, context);

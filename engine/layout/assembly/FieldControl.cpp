@@ -1,11 +1,12 @@
 #include "layout/assembly/FieldControl.h"
 
 #include "base/TextLines.h"
-#include "base/Utf8.h"
-#include "document/InlineText.h"
 #include "layout/text/FieldSigns.h"
+#include "layout/text/FieldValue.h"
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -33,13 +34,6 @@ ControlKind kindOf(const pdf::FormField& field) {
     }
 }
 
-/// The characters without blanks: the cells of a comb part them.
-std::u32string lettersOf(std::string_view text) {
-    std::u32string letters = utf32FromUtf8(std::string(text));
-    std::erase_if(letters, [](char32_t c) { return c <= U' ' || c == U'\u00A0'; });
-    return letters;
-}
-
 /// The value in the look of what stands there, a line for each of its lines.
 std::vector<Inline> typed(std::string_view value, const document::RunProperties& look) {
     const std::vector<std::string_view> lines = linesOf(value);
@@ -51,6 +45,37 @@ std::vector<Inline> typed(std::string_view value, const document::RunProperties&
             inlines.push_back({Text{std::string(lines[i]), look}});
     }
     return inlines;
+}
+
+/// The text without what is out of sight.
+std::string shownText(const std::vector<Inline>& inlines) {
+    std::string text;
+    for (const Inline& item : inlines)
+        if (const auto* run = std::get_if<Text>(&item.value); run && !run->properties.isHidden)
+            text += run->text;
+    return text;
+}
+
+/// What is seen as it was typed, between what is out of sight before and behind it. As it is where the field says
+/// something else.
+std::vector<Inline> typedAsValue(const pdf::FormField& field, std::vector<Inline> seen, const std::string& text) {
+    const auto isShown = [](const Inline& item) {
+        const auto* run = std::get_if<Text>(&item.value);
+        return run && !run->properties.isHidden;
+    };
+    const std::optional<ShownValue> value = findShown(field.value, text);
+    const auto first = std::find_if(seen.begin(), seen.end(), isShown);
+    const auto end = std::find_if(seen.rbegin(), seen.rend(), isShown).base();
+    // Elsewhere the other parts of the value are seen in places of their own.
+    const bool isWhole =
+        value && (first == seen.begin()) == value->before.empty() && (end == seen.end()) == value->after.empty();
+    if (!isWhole)
+        return seen;
+    std::vector<Inline> content(seen.begin(), first);
+    std::vector<Inline> shown = typed(value->shown, std::get<Text>(first->value).properties);
+    std::move(shown.begin(), shown.end(), std::back_inserter(content));
+    content.insert(content.end(), end, seen.end());
+    return content;
 }
 
 } // namespace
@@ -65,15 +90,9 @@ ContentControl controlOf(const pdf::FormField& field, std::vector<Inline> seen) 
     control.isMultiline = field.isMultiline;
     if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton)
         return control; // each format has its own sign
-    const std::u32string letters = lettersOf(document::plainText(seen));
-    const auto* first = seen.empty() ? nullptr : std::get_if<Text>(&seen.front().value);
-    const std::u32string value = lettersOf(field.value);
-    if (letters == std::u32string{kEmptyField})
-        return control;
-    if (first && letters == value && !value.empty())
-        control.content = typed(field.value, first->properties);
-    else
-        control.content = std::move(seen);
+    const std::string text = shownText(seen);
+    if (lettersOf(text) != std::u32string{kEmptyField})
+        control.content = typedAsValue(field, std::move(seen), text);
     return control;
 }
 

@@ -115,6 +115,7 @@ private:
             if (i == 0 && m_before)
                 separate(word, position, properties, link);
             m_builder.enterField(formField);
+            addUnseen(m_context.unseenValues.before(span), properties);
             if (const Formula* formula = formulaOf(page, span))
                 addFormula(*formula, page, properties, link);
             else if (const DraftNoteReference* note = noteAt(page, span))
@@ -122,7 +123,8 @@ private:
             else if (const auto field = fieldAt(page, span.box))
                 m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
             else
-                addRun(span, properties, link);
+                addRun(span.text, properties, link);
+            addUnseen(m_context.unseenValues.after(span), properties);
             addComments(page, span, link);
             m_before = Before{properties, link, formField, {}};
         }
@@ -130,9 +132,18 @@ private:
         m_before->blanks = word.blanksAfter;
     }
 
-    void addRun(const Span& span, const RunProperties& properties, const std::optional<LinkTarget>& link) {
-        m_builder.addText(span.text, properties, link);
-        m_letters += countLetters(utf32FromUtf8(span.text));
+    void addRun(const std::string& text, const RunProperties& properties, const std::optional<LinkTarget>& link) {
+        m_builder.addText(text, properties, link);
+        m_letters += countLetters(utf32FromUtf8(text));
+    }
+
+    /// The part of a field's value that its box has no room for: there, yet not seen.
+    void addUnseen(std::string_view text, const RunProperties& properties) {
+        if (text.empty())
+            return;
+        RunProperties hidden = properties;
+        hidden.isHidden = true;
+        addRun(std::string(text), hidden, std::nullopt);
     }
 
     void separate(const Word& word, Position position, const RunProperties& properties,

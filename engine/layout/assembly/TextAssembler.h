@@ -5,6 +5,7 @@
 #include "layout/LayoutParameters.h"
 #include "layout/assembly/LinkTargets.h"
 #include "layout/assembly/ScriptFamilies.h"
+#include "layout/assembly/UnseenValues.h"
 #include "layout/fonts/FontCatalog.h"
 #include "layout/structure/DocumentDraft.h"
 
@@ -21,6 +22,7 @@ struct AssemblyContext {
     const LayoutRequest& request;
     const LayoutParameters& parameters;
     bool paintsEndsOfHangul = false; ///< see HangulLines
+    UnseenValues unseenValues{};     ///< none in true pages, where they go on below their frames
 };
 
 struct AssembledText {

@@ -40,7 +40,7 @@ public:
         for (DraftBlock& block : m_draft.blocks) {
             const auto space = joined.empty() ? std::nullopt : spaceBetween(joined.back(), block);
             if (space && *space <= m_limits.closeSpace && *space >= -m_limits.closeSpace)
-                append(joined.back(), block);
+                appendByHand(joined.back(), block);
             else
                 joined.push_back(std::move(block));
         }
@@ -116,23 +116,6 @@ private:
                static_cast<double>(usual.count) >= m_limits.usualShare * static_cast<double>(spaces.size());
     }
 
-    static void append(DraftBlock& block, DraftBlock& next) {
-        ParagraphDraft& text = block.paragraph()->pieces.back().text;
-        std::vector<DraftPiece>& pieces = next.paragraph()->pieces;
-        ParagraphDraft& more = pieces.front().text;
-        const std::size_t count = text.lines.size();
-        text.hardBreaks.push_back(count - 1);
-        for (const std::size_t line : more.hardBreaks)
-            text.hardBreaks.push_back(count + line);
-        text.lines.insert(text.lines.end(), std::make_move_iterator(more.lines.begin()),
-                          std::make_move_iterator(more.lines.end()));
-        text.box = text.box.united(more.box);
-        text.endsParagraph = more.endsParagraph;
-        block.box = block.box.united(next.box);
-        block.paragraph()->pieces.insert(block.paragraph()->pieces.end(), std::make_move_iterator(pieces.begin() + 1),
-                                         std::make_move_iterator(pieces.end()));
-    }
-
     DocumentDraft& m_draft;
     const DocumentContext& m_context;
     const StructureParameters::HandBreaks& m_limits;
@@ -141,6 +124,23 @@ private:
 };
 
 } // namespace
+
+void appendByHand(DraftBlock& block, DraftBlock& next) {
+    ParagraphDraft& text = block.paragraph()->pieces.back().text;
+    std::vector<DraftPiece>& pieces = next.paragraph()->pieces;
+    ParagraphDraft& more = pieces.front().text;
+    const std::size_t count = text.lines.size();
+    text.hardBreaks.push_back(count - 1);
+    for (const std::size_t line : more.hardBreaks)
+        text.hardBreaks.push_back(count + line);
+    text.lines.insert(text.lines.end(), std::make_move_iterator(more.lines.begin()),
+                      std::make_move_iterator(more.lines.end()));
+    text.box = text.box.united(more.box);
+    text.endsParagraph = more.endsParagraph;
+    block.box = block.box.united(next.box);
+    block.paragraph()->pieces.insert(block.paragraph()->pieces.end(), std::make_move_iterator(pieces.begin() + 1),
+                                     std::make_move_iterator(pieces.end()));
+}
 
 void joinLinesEndedByHand(DocumentDraft& draft, const DocumentContext& context, const LayoutParameters& parameters) {
     HandBreakJoiner(draft, context, parameters).run();

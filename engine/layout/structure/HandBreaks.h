@@ -11,4 +11,7 @@ namespace orvane::layout {
 /// same; empty lines between paragraphs say nothing.
 void joinLinesEndedByHand(DocumentDraft& draft, const DocumentContext& context, const LayoutParameters& parameters);
 
+/// Makes the lines of the next block's paragraph a part of the block's, which ends its own last line by hand.
+void appendByHand(DraftBlock& block, DraftBlock& next);
+
 } // namespace orvane::layout

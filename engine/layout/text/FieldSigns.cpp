@@ -1,11 +1,13 @@
 #include "layout/text/FieldSigns.h"
 
 #include "base/Utf8.h"
+#include "layout/text/FieldValue.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string>
+#include <vector>
 
 namespace orvane::layout {
 namespace {
@@ -51,6 +53,7 @@ public:
 
 private:
     void write(const FormField& field) {
+        hideCutText(field);
         if (isBox(field)) {
             const WritingLine line = lineFor(field);
             hideBox(field.box);
@@ -70,6 +73,38 @@ private:
     bool hasText(const Rect& box) const {
         return std::any_of(m_page.glyphs.begin(), m_page.glyphs.end(),
                            [&](const Glyph& glyph) { return isIn(glyph, box) && !isBlank(glyph); });
+    }
+
+    bool isSeenAt(std::size_t index, const Rect& box) const {
+        const Glyph& glyph = m_page.glyphs[index];
+        return glyph.visibility == Visibility::Visible && !glyph.box.intersected(box).isEmpty();
+    }
+
+    /// Characters of the value that the field's edge cuts through their middle are out of sight as those beyond it.
+    void hideCutText(const FormField& field) {
+        const auto isInField = [&](const Glyph& glyph) { return isIn(glyph, field.box); };
+        const auto first = std::find_if(m_page.glyphs.begin(), m_page.glyphs.end(), isInField);
+        if (field.value.empty() || first == m_page.glyphs.end())
+            return;
+        const auto last = std::find_if(m_page.glyphs.rbegin(), m_page.glyphs.rend(), isInField);
+        auto begin = static_cast<std::size_t>(first - m_page.glyphs.begin());
+        auto end = static_cast<std::size_t>(m_page.glyphs.rend() - last);
+        while (begin > 0 && isSeenAt(begin - 1, field.box))
+            --begin;
+        while (end < m_page.glyphs.size() && isSeenAt(end, field.box))
+            ++end;
+        std::u32string seen;
+        std::vector<std::size_t> cut;
+        for (std::size_t i = begin; i < end; ++i) {
+            if (!isSeenAt(i, field.box))
+                continue;
+            seen += m_page.glyphs[i].unicode;
+            if (!isIn(m_page.glyphs[i], field.box))
+                cut.push_back(i);
+        }
+        if (!cut.empty() && findShown(field.value, utf8FromUtf32(seen)))
+            for (const std::size_t i : cut)
+                m_page.glyphs[i].visibility = Visibility::ClippedAway;
     }
 
     /// What is drawn of the box and its mark goes: the sign shows both.

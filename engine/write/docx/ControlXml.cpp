@@ -5,6 +5,8 @@
 #include "write/docx/TextXml.h"
 
 #include <set>
+#include <string_view>
+#include <variant>
 
 #include <fmt/format.h>
 
@@ -62,9 +64,17 @@ void writeDate(XmlWriter& xml, const Metadata& metadata) {
     xml.leaf("w:calendar", {{"w:val", "gregorian"}});
 }
 
+/// A control of plain text has one look; word processors join its lines.
+bool isPlain(const ContentControl& control) {
+    return control.content.empty() ||
+           (control.content.size() == 1 && std::holds_alternative<Text>(control.content.front().value));
+}
+
 void writeKind(Story& story, const ContentControl& control) {
     switch (control.kind) {
     case ControlKind::Text: {
+        if (!isPlain(control))
+            return;
         const XmlElement text(story.xml, "w:text");
         if (control.isMultiline)
             story.xml.attribute({"w:multiLine", 1});

@@ -55,6 +55,28 @@ TEST(FieldControl, TakesTheValueAsItWasTyped) {
     EXPECT_EQ(textOf(controlOf(field, {{Text{"as it looks", {}}}})), "as it looks");
 }
 
+TEST(FieldControl, HoldsWhatItsBoxHasNoRoomFor) {
+    DocumentDraft draft = tests::draftOfLines({{"Remarks: is what", 100}, {"is seen", 112}});
+    draft.pages[0].fields.emplace_back().name = "remarks";
+    draft.pages[0].fields.back().value = "First line\nThis is what\nis seen\nand the rest";
+    for (DraftBlock& block : draft.blocks)
+        for (Word& word : block.paragraph()->pieces[0].text.lines[0].words)
+            word.spans[0].look.field = 0;
+    draft.blocks[0].paragraph()->pieces[0].text.lines[0].words[0].spans[0].look.field = -1;
+    EXPECT_EQ(tests::textOfParagraph(draft, 0),
+              "p Normal \"Remarks: \" control(remarks)[ \"First line This \"{hidden} \"is what\" ]");
+    EXPECT_EQ(tests::textOfParagraph(draft, 1), "p Normal control(remarks)[ \"is seen\" \" and the rest\"{hidden} ]");
+}
+
+TEST(FieldControl, TypesWhatIsSeenOfALongerValue) {
+    document::RunProperties hidden;
+    hidden.isHidden = true;
+    FormField field;
+    field.value = "one\ntwo three";
+    EXPECT_EQ(textOf(controlOf(field, {{Text{"one two", {}}}, {Text{" three", hidden}}})), "one\ntwo three");
+    EXPECT_EQ(textOf(controlOf(field, {{Text{"one two", {}}}})), "one two") << "another control has the rest";
+}
+
 TEST(FieldControl, LeavesEmptyFieldsEmpty) {
     EXPECT_THAT(controlOf({}, {{Text{"\uFFFC", {}}}}).content, IsEmpty());
 }

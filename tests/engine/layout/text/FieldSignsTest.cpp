@@ -45,6 +45,19 @@ TEST(FieldSigns, LeaveWhatAFieldShows) {
     EXPECT_EQ(text.lines.at(0).words.at(2).spans.at(0).look.field, 0);
 }
 
+TEST(FieldSigns, LeaveOutWhatTheEdgeOfAFieldCuts) {
+    PageContentBuilder page;
+    page.text(72, 60, "Remarks", 10);
+    page.text(106, 100, "The first line", 10);
+    page.text(106, 112, "and a second", 10);
+    page.content().fields.push_back(
+        fieldAt({104, 85, 230, 106}, FieldKind::Text, "The first line\nand a second\nand a third"));
+    EXPECT_THAT(tests::linesOf(page), ElementsAre("Remarks", "The first line"));
+    page.content().fields.front().value = "something else";
+    EXPECT_THAT(tests::linesOf(page), ElementsAre("Remarks", "The first line", "and a second"))
+        << "what is not of the value is text of the page";
+}
+
 TEST(FieldSigns, SetAValueThatIsShownNowhere) {
     PageContentBuilder page;
     page.text(72, 100, "Name:", 10);

@@ -124,6 +124,15 @@ TEST(InlineXml, WritesATextField) {
                         "<w:sdtContent><w:r><w:t>Ada</w:t></w:r></w:sdtContent></w:sdt>"));
 }
 
+TEST(InlineXml, LetsATextFieldOfSeveralLooksOrLinesHaveThem) {
+    ContentControl control{ControlKind::Text, "note", "", {}, false, true, {text("one")}};
+    control.content.push_back({Break{BreakKind::Line}});
+    control.content.push_back(text("two"));
+    const WrittenDocument written(documentOf(paragraph({{control}})));
+    EXPECT_EQ(written.count("//w:sdtPr/w:text"), 0u);
+    EXPECT_EQ(written.count("//w:sdtContent//w:br"), 1u);
+}
+
 TEST(InlineXml, ShowsAnEmptyTextField) {
     const WrittenDocument written(documentOf(paragraph({{ContentControl{}}})));
     EXPECT_EQ(written.count("//w:sdtPr/w:showingPlcHdr"), 1u);
