@@ -37,6 +37,11 @@ void countGlyphs(const pdf::PageContent& page, const layout::PageText& text, con
     }
 }
 
+/// A single pixel shows nothing: it keeps other things apart, or fills an area.
+bool isSpacer(const pdf::Picture& picture) {
+    return picture.pixelWidth <= 1 && picture.pixelHeight <= 1;
+}
+
 void listLinks(const std::vector<pdf::Link>& links, PageInventory& inventory) {
     inventory.links = links.size();
     std::set<std::string> addresses;
@@ -69,7 +74,7 @@ PageInventory inventoryOf(const pdf::PageContent& page, const std::vector<pdf::F
     inventory.isScanned = text.isScanned;
     countGlyphs(page, text, parameters, inventory);
     for (const pdf::Picture& picture : page.pictures)
-        if (picture.visibility == pdf::Visibility::Visible)
+        if (picture.visibility == pdf::Visibility::Visible && !isSpacer(picture))
             inventory.pictures.push_back(picture.box);
     listLinks(page.links, inventory);
     listValues(fields, inventory);

@@ -272,13 +272,34 @@ bool hasProse(const Line& line, double width, const GraphicsParameters::Drawings
     return false;
 }
 
+/// Whether the line is one text, wherever that is: nothing in it stands apart but what a leader leads to.
+bool isOneText(const Line& line) {
+    return std::none_of(line.words.begin() + 1, line.words.end(), [](const Word& word) {
+        return word.gapBefore == Gap::Tab && word.leaderBefore == document::TabLeader::None;
+    });
+}
+
+/// Whether lines run over the sides of the box as if it were not there: most of those in it, and some at least.
+bool isRunOver(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
+    constexpr std::size_t kLeastRunOver = 3;
+    std::size_t within = 0, over = 0;
+    for (const Line& line : lines) {
+        if (!box.contains(Point{line.box.centerX(), line.box.centerY()}))
+            continue;
+        ++within;
+        const double beyond = std::max(box.left - line.box.left, line.box.right - box.right);
+        over += isOneText(line) && beyond > limits.reach ? 1 : 0;
+    }
+    return over >= kLeastRunOver && 2 * over > within;
+}
+
 } // namespace
 
 bool liesUnderText(const Rect& box, const std::vector<Line>& lines, const GraphicsParameters::Drawings& limits) {
-    return std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
-        return box.contains(Point{line.box.centerX(), line.box.centerY()}) &&
-               hasProse(line, limits.proseShare * box.width(), limits);
-    });
+    return isRunOver(box, lines, limits) || std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
+               return box.contains(Point{line.box.centerX(), line.box.centerY()}) &&
+                      hasProse(line, limits.proseShare * box.width(), limits);
+           });
 }
 
 std::vector<Figure> findDrawings(const pdf::PageContent& page, const std::vector<bool>& isRuling, PageText& text,

@@ -5,6 +5,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -53,6 +57,13 @@ private:
     const RunningParameters::RunningHeads& m_limits;
 };
 
+/// Gives the words over a drawing back to the page: what repeats is the drawing.
+void giveBackLabels(Figure& figure, PageText& page) {
+    std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(page.lines));
+    figure.labels.clear();
+    figure.alternateText.clear();
+}
+
 } // namespace
 
 std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<PageText>& pages,
@@ -71,6 +82,30 @@ std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<Page
         }
     }
     return repeated;
+}
+
+Labels takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repeated, const BodyRange& body,
+                           PageRunningHeads& heads) {
+    const std::size_t lines = page.lines.size();
+    std::vector<Figure> rest;
+    for (std::size_t i = 0; i < page.figures.size(); ++i) {
+        Figure& figure = page.figures[i];
+        if (std::find(repeated.begin(), repeated.end(), i) == repeated.end()) {
+            rest.push_back(std::move(figure));
+            continue;
+        }
+        if (figure.box.centerY() > body.top && figure.box.centerY() < body.bottom)
+            giveBackLabels(figure, page);
+        // What lies behind the whole page is anchored in the header.
+        const bool isHeader = figure.isBackground || figure.box.centerY() < page.height / 2;
+        std::optional<RunningHead>& head = isHeader ? heads.header : heads.footer;
+        if (!head)
+            head = emptyHead(page);
+        head->key += std::to_string(figure.picture.value) + '\n';
+        head->content.figures.push_back(std::move(figure));
+    }
+    page.figures = std::move(rest);
+    return page.lines.size() > lines ? Labels::GivenBack : Labels::None;
 }
 
 } // namespace orvane::layout

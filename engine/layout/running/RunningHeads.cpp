@@ -57,35 +57,9 @@ PageEdges measureEdges(const PageText& page, EdgeRows top, EdgeRows bottom) {
     return edges;
 }
 
-RunningHead emptyHead(const PageText& page) {
-    RunningHead head;
-    head.content.number = page.number;
-    head.content.width = page.width;
-    head.content.height = page.height;
-    head.content.fonts = page.fonts;
-    head.content.links = page.links;
-    head.content.marks = page.marks;
-    return head;
-}
-
-/// Moves pictures that repeat to the head of their half of the page.
-void takeFigures(PageText& page, const std::vector<std::size_t>& repeated, PageRunningHeads& heads) {
-    std::vector<Figure> rest;
-    for (std::size_t i = 0; i < page.figures.size(); ++i) {
-        Figure& figure = page.figures[i];
-        if (std::find(repeated.begin(), repeated.end(), i) == repeated.end()) {
-            rest.push_back(std::move(figure));
-            continue;
-        }
-        // What lies behind the whole page is anchored in the header.
-        const bool isHeader = figure.isBackground || figure.box.centerY() < page.height / 2;
-        std::optional<RunningHead>& head = isHeader ? heads.header : heads.footer;
-        if (!head)
-            head = emptyHead(page);
-        head->key += std::to_string(figure.picture.value) + '\n';
-        head->content.figures.push_back(std::move(figure));
-    }
-    page.figures = std::move(rest);
+void sortLines(PageText& page) {
+    std::stable_sort(page.lines.begin(), page.lines.end(),
+                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
 }
 
 /// Moves the elements for which `isPart` holds from one vector to the other.
@@ -134,12 +108,11 @@ BodyRange reachOf(const EdgeRows& edge) {
     return {rows.top - highest, rows.bottom + highest};
 }
 
-/// Whether a picture beside the rows reaches farther into the page than they do. It is one of this page then, unless it
-/// is found on others too.
-bool hangsOut(const Rect& box, const EdgeRows& edge, PageEdge side) {
+/// Whether a picture stands beside the rows or beyond them. One that reaches farther into the page is one of this page,
+/// unless it is found on others too.
+bool isBesideRows(const Rect& box, const EdgeRows& edge, PageEdge side) {
     const BodyRange reach = reachOf(edge);
-    return side == PageEdge::Top ? box.top < reach.bottom && box.bottom > reach.bottom
-                                 : box.bottom > reach.top && box.top < reach.top;
+    return side == PageEdge::Top ? box.bottom <= reach.bottom : box.top >= reach.top;
 }
 
 /// Moves what is drawn around the rows, up to `limit`, where the text may begin.
@@ -150,7 +123,7 @@ void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, double limit
     moveParts(page.grounds, head.grounds,
               [&](const Ground& ground) { return isBeyond(ground.box.top, ground.box.bottom); });
     moveParts(page.figures, head.figures, [&](const Figure& figure) {
-        return isBeyond(figure.box.top, figure.box.bottom) && !hangsOut(figure.box, edge, side);
+        return isBeyond(figure.box.top, figure.box.bottom) && isBesideRows(figure.box, edge, side);
     });
     moveParts(page.rules, head.rules, [&](const Rule& rule) {
         return rule.direction == RuleDirection::Vertical ? isBeyond(rule.from, rule.to)
@@ -243,6 +216,17 @@ void takeRepeated(std::vector<EdgeRows>& tops, std::vector<EdgeRows>& bottoms,
 
 } // namespace
 
+RunningHead emptyHead(const PageText& page) {
+    RunningHead head;
+    head.content.number = page.number;
+    head.content.width = page.width;
+    head.content.height = page.height;
+    head.content.fonts = page.fonts;
+    head.content.links = page.links;
+    head.content.marks = page.marks;
+    return head;
+}
+
 std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, const RunningParameters& parameters) {
     std::vector<PageRunningHeads> heads(pages.size());
     if (pages.empty())
@@ -278,9 +262,11 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         // The rows name lines by their index, so the numbers are cut out before any line moves.
         const auto topFields = cutOutNumbers(pages[i], edge.top, numbers[i], greatest(numbers));
         const auto bottomFields = cutOutNumbers(pages[i], edge.bottom, numbers[i], greatest(numbers));
-        takeFigures(pages[i], figures[i], heads[i]);
+        const bool hasLabels = takeRepeatedFigures(pages[i], figures[i], bodies[i], heads[i]) == Labels::GivenBack;
         takeRules(pages[i], i, rules, limits, heads[i]);
         takeHeads(pages[i], edge, limits, heads[i]);
+        if (hasLabels)
+            sortLines(pages[i]);
         if (heads[i].header)
             heads[i].header->fields = topFields;
         if (heads[i].footer)

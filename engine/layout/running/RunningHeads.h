@@ -24,6 +24,9 @@ struct PageRunningHeads {
     std::optional<PageNumber> number;
 };
 
+/// A head or foot of the page with nothing in it yet.
+RunningHead emptyHead(const PageText& page);
+
 /// Takes what repeats over pages near their edges out of `pages`: rows are peeled off from the edge inwards, each
 /// compared with those of the next and the second next page (heads of odd and even pages differ) and with the ones
 /// before; page numbers count. Pictures and rules that belong to them come along. Returns one entry a page.

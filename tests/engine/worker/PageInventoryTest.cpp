@@ -47,11 +47,14 @@ TEST(PageInventory, LeavesLettersInPicturesAndFormulasToThese) {
     EXPECT_EQ(listed.letters, 1U);
 }
 
-TEST(PageInventory, ListsPicturesThatAreShown) {
+TEST(PageInventory, ListsPicturesThatShowSomething) {
     pdf::PageContent page;
-    page.pictures.resize(2);
+    page.pictures.resize(3);
+    for (pdf::Picture& picture : page.pictures)
+        picture.pixelWidth = picture.pixelHeight = 8;
     page.pictures[0].box = {10, 10, 60, 60};
     page.pictures[1].visibility = pdf::Visibility::ClippedAway;
+    page.pictures[2].pixelWidth = page.pictures[2].pixelHeight = 1;
     EXPECT_EQ(inventory(page).pictures, (std::vector<Rect>{{10, 10, 60, 60}}));
 }
 

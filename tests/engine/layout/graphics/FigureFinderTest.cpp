@@ -90,6 +90,20 @@ TEST(FigureFinder, MarksWhatLiesBehindThePageOrItsText) {
     EXPECT_TRUE(read(poster).figures.at(0).isBackground);
 }
 
+// A faint mark in the middle of the page, which the entries of a table of contents run over.
+TEST(FigureFinder, KnowsABackgroundByTheLinesThatRunOverItsSides) {
+    PageContentBuilder page;
+    page.line({200, 150}, {300, 200});
+    page.line({300, 200}, {250, 320});
+    page.line({250, 320}, {200, 150});
+    for (int i = 0; i < 6; ++i)
+        page.text(120, 160 + 20.0 * i, "Contents of this chapter and more", 16);
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1));
+    EXPECT_TRUE(text.figures[0].isBackground);
+    EXPECT_THAT(text.lines, SizeIs(6));
+}
+
 // A gradient of bands, each painted down to the foot of all: what lies on it belongs to the text there, but not they.
 TEST(FigureFinder, UsesUpTheGroundsThatABackgroundIsMadeOf) {
     PageContentBuilder page;

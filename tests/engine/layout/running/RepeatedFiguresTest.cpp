@@ -47,5 +47,38 @@ TEST(RepeatedFigures, LeavesThePictureOfOnePageThatHangsDownFromTheRows) {
     EXPECT_EQ(pages[0].figures.size(), 1u);
 }
 
+TEST(RepeatedFigures, LeavesTheWordsOverADrawingToTheirPage) {
+    auto pages = pagesWith(3, [](PageText& page, int number) {
+        Figure watermark;
+        watermark.drawing.emplace();
+        watermark.drawing->shapes.resize(2);
+        watermark.box = {72, 90, 500, 700};
+        watermark.labels = {makeLine("Words of page " + std::to_string(number), 72, 310)};
+        watermark.alternateText = "Words";
+        page.figures.push_back(watermark);
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[1].header);
+    ASSERT_EQ(heads[1].header->content.figures.size(), 1u);
+    EXPECT_TRUE(heads[1].header->content.figures[0].labels.empty());
+    EXPECT_TRUE(heads[1].header->content.figures[0].alternateText.empty());
+    ASSERT_EQ(pages[1].lines.size(), 31u);
+    EXPECT_EQ(textOf(pages[1].lines[11]), "Words of page 2") << "among the lines around it";
+}
+
+TEST(RepeatedFigures, LeavesThePicturesBelowTheTextOfAShortPage) {
+    auto pages = pagesWith(
+        3, [](PageText& page, int number) { page.lines.push_back(makeLine(std::to_string(number), 290, 800)); });
+    pages[1].lines.erase(pages[1].lines.begin() + 3, pages[1].lines.end() - 1);
+    Figure picture;
+    picture.picture = PictureId{7};
+    picture.box = {100, 590, 300, 650};
+    pages[1].figures.push_back(picture);
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[1].footer);
+    EXPECT_TRUE(heads[1].footer->content.figures.empty());
+    EXPECT_EQ(pages[1].figures.size(), 1u);
+}
+
 } // namespace
 } // namespace orvane::layout
