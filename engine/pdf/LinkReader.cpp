@@ -80,6 +80,14 @@ std::optional<Destination> resolveNamedAction(const std::string& name, ::PDFDoc&
     return std::nullopt;
 }
 
+/// A bare mail address leads to no file of that name.
+std::string withScheme(const std::string& uri) {
+    const std::size_t sign = uri.find('@');
+    const bool isMail = sign > 0 && sign != uri.npos && uri.find('.', sign) != uri.npos &&
+                        uri.find('@', sign + 1) == uri.npos && uri.find_first_of(":/?# ") == uri.npos;
+    return isMail ? "mailto:" + uri : uri;
+}
+
 /// One box a line where the file tells, else the annotation's own.
 std::vector<Rect> boxesOf(const ::AnnotLink& link, const Matrix& toPage) {
     std::vector<Rect> boxes = quadBoxes(link.getQuadrilaterals(), toPage);
@@ -98,7 +106,7 @@ ActionTarget targetOf(const ::LinkAction* action, ::PDFDoc& document) {
         return target;
     switch (action->getKind()) {
     case actionURI:
-        target.uri = static_cast<const ::LinkURI*>(action)->getURI();
+        target.uri = withScheme(static_cast<const ::LinkURI*>(action)->getURI());
         break;
     case actionGoTo: {
         const auto& go = *static_cast<const ::LinkGoTo*>(action);

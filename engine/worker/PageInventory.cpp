@@ -42,11 +42,15 @@ bool isSpacer(const pdf::Picture& picture) {
     return picture.pixelWidth <= 1 && picture.pixelHeight <= 1;
 }
 
-void listLinks(const std::vector<pdf::Link>& links, PageInventory& inventory) {
-    inventory.links = links.size();
+void listLinks(const pdf::PageContent& page, PageInventory& inventory) {
+    const Rect area{0, 0, page.width, page.height};
+    const auto isOnPage = [&](const Rect& box) { return box.intersects(area); };
     std::set<std::string> addresses;
     std::set<std::pair<int, double>> places;
-    for (const pdf::Link& link : links) {
+    for (const pdf::Link& link : page.links) {
+        if (std::none_of(link.boxes.begin(), link.boxes.end(), isOnPage))
+            continue;
+        ++inventory.links;
         if (!link.uri.empty())
             addresses.insert(link.uri);
         else if (link.destination && link.destination->page > 0)
@@ -76,7 +80,7 @@ PageInventory inventoryOf(const pdf::PageContent& page, const std::vector<pdf::F
     for (const pdf::Picture& picture : page.pictures)
         if (picture.visibility == pdf::Visibility::Visible && !isSpacer(picture))
             inventory.pictures.push_back(picture.box);
-    listLinks(page.links, inventory);
+    listLinks(page, inventory);
     listValues(fields, inventory);
     return inventory;
 }

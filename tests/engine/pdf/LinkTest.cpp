@@ -49,6 +49,13 @@ TEST(Links, LeadToAddresses) {
     EXPECT_EQ(page.links[0].boxes[0], (Rect{100, 80, 200, 100}));
 }
 
+TEST(Links, LeadToMailAddressesByTheirScheme) {
+    EXPECT_EQ(LinkPdf("/A << /S /URI /URI (ada@example.org) >>").page().links.at(0).uri, "mailto:ada@example.org");
+    EXPECT_EQ(LinkPdf("/A << /S /URI /URI (mailto:ada@example.org) >>").page().links.at(0).uri,
+              "mailto:ada@example.org");
+    EXPECT_EQ(LinkPdf("/A << /S /URI /URI (notes/@ada.html) >>").page().links.at(0).uri, "notes/@ada.html");
+}
+
 TEST(Links, CoverEachOfTheirLines) {
     LinkPdf pdf(
         "/QuadPoints [150 720 200 720 150 710 200 710 100 710 130 710 100 700 130 700] /A << /S /URI /URI (x:y) >>");

@@ -60,10 +60,15 @@ TEST(PageInventory, ListsPicturesThatShowSomething) {
 
 TEST(PageInventory, CountsEachTargetOfLinksOnce) {
     pdf::PageContent page;
-    page.links.resize(5);
+    page.width = 595;
+    page.height = 842;
+    page.links.resize(6);
+    for (pdf::Link& link : page.links)
+        link.boxes = {{100, 100, 200, 112}};
     page.links[0].uri = page.links[1].uri = "https://example.org/";
     page.links[2].destination = page.links[3].destination = pdf::Destination{2, 100.0};
     page.links[4].destination = pdf::Destination{0, {}}; // leads nowhere
+    page.links[5] = {{{100, 900, 200, 912}}, "https://example.org/below-the-page", {}};
     const PageInventory listed = inventory(page);
     EXPECT_EQ(listed.links, 5U);
     EXPECT_EQ(listed.addresses, std::vector<std::string>{"https://example.org/"});
