@@ -1,6 +1,7 @@
 #include "layout/tables/RowParter.h"
 
 #include "layout/tables/CellPieces.h"
+#include "layout/tables/PairedLines.h"
 #include "layout/tables/RowGrouper.h"
 
 #include <algorithm>
@@ -30,6 +31,20 @@ public:
         : m_grid(grid)
         , m_lines(lines)
         , m_parameters(parameters) {}
+
+    /// Each line a row.
+    TextRows readLines(std::vector<BandCell>& cells) const {
+        std::vector<TextPiece> listed;
+        for (BandCell& cell : cells) {
+            cell.isListing = true;
+            listed.insert(listed.end(), cell.pieces.begin(), cell.pieces.end());
+        }
+        const std::vector<PieceRow> rows = groupIntoRows(std::move(listed), m_parameters);
+        std::vector<RowGroup> groups;
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            groups.push_back({i, i + 1});
+        return rowsOf(rows, groups);
+    }
 
     TextRows read(std::vector<BandCell>& cells) const {
         std::vector<TextPiece> listed;
@@ -123,10 +138,14 @@ private:
             std::count_if(rows.begin(), rows.end(), [&](const PieceRow& row) { return columnCount(row) >= 2; });
         if (static_cast<double>(parted) < m_parameters.filledRowShare * static_cast<double>(rows.size()))
             return {};
+        return rowsOf(rows,
+                      groupRows(rows, edgesAsGaps(rows.front().fontSize), m_lines, {}, RowsPart::Any, m_parameters));
+    }
+
+    static TextRows rowsOf(const std::vector<PieceRow>& rows, const std::vector<RowGroup>& groups) {
         TextRows found;
         Rect above;
-        for (const RowGroup& group :
-             groupRows(rows, edgesAsGaps(rows.front().fontSize), m_lines, {}, RowsPart::Any, m_parameters)) {
+        for (const RowGroup& group : groups) {
             Rect box;
             found.firstBaselines.push_back(rows[group.first].baseline);
             for (std::size_t i = group.first; i < group.end; ++i) {
@@ -180,6 +199,7 @@ TableGrid partAtTextRows(const TableGrid& grid, const std::vector<Line>& lines,
                          const TableParameters::Tables& parameters) {
     std::vector<std::vector<BandCell>> bands(static_cast<std::size_t>(grid.rows()));
     std::vector<std::vector<TextPiece>> pieces = piecesByCell(lines, grid, parameters);
+    const bool arePaired = areLinesPaired(grid, pieces, lines, parameters);
     for (std::size_t i = 0; i < grid.cells.size(); ++i)
         if (grid.cells[i].rowSpan == 1)
             bands[static_cast<std::size_t>(grid.cells[i].row)].push_back({i, std::move(pieces[i]), false});
@@ -191,7 +211,9 @@ TableGrid partAtTextRows(const TableGrid& grid, const std::vector<Line>& lines,
     for (std::size_t row = 0; row < bands.size(); ++row) {
         newRow.push_back(static_cast<int>(parted.rowEdges.size()));
         parted.rowEdges.push_back(grid.rowEdges[row]);
-        const TextRows rows = reader.read(bands[row]);
+        TextRows rows = reader.read(bands[row]);
+        if (rows.tops.empty() && arePaired)
+            rows = reader.readLines(bands[row]);
         parted.rowEdges.insert(parted.rowEdges.end(), rows.tops.begin(), rows.tops.end());
         for (const BandCell& cell : bands[row])
             isParted[cell.cell] = !rows.tops.empty() && followsRows(cell, rows, parameters);

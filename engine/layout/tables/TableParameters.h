@@ -86,6 +86,9 @@ struct TableParameters {
         // Rows and columns of a drawn grid between which no rule is drawn.
         int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them
         double numberedShare = 0.8; ///< of a cell's lines that must be numbers for it to list them
+        std::size_t fewestPairedLines =
+            3; ///< side by side in drawn columns as wide as they are, to be rows below a head
+        std::size_t fewestPairedLinesAnywhere = 6; ///< side by side in drawn columns of any width to be rows
 
         // Rules between rows only.
         double ruleFill = 0.75;           ///< of the rules' length that the texts between them must take up
