@@ -1,8 +1,11 @@
 #include "layout/tables/AlignedAdmission.h"
 
 #include "layout/tables/CodeListing.h"
+#include "layout/tables/ContentsEntries.h"
 #include "layout/tables/FieldTexts.h"
+#include "layout/tables/IndexEntries.h"
 #include "layout/tables/ItemLabels.h"
+#include "layout/tables/ListsSideBySide.h"
 #include "layout/tables/TextAround.h"
 
 #include <algorithm>
@@ -35,8 +38,10 @@ public:
     TableVerdict judge() const {
         if (isTooSmall())
             return TableVerdict::TooSmall;
-        if (isContents())
+        if (areContents(m_aligned, m_columns, m_evidence, lines(), m_parameters))
             return TableVerdict::Contents;
+        if (isIndex())
+            return TableVerdict::Index;
         if (isList() || isListInColumns())
             return TableVerdict::List;
         if (isKeyValues())
@@ -46,8 +51,12 @@ public:
         if (m_evidence == AlignedEvidence::Alignment &&
             (holdsFullLines() || runsThrough(m_page, m_aligned, m_parameters)))
             return TableVerdict::Prose;
+        if (areListsSideBySide(m_columns, m_parameters))
+            return TableVerdict::SideBySide;
         if (isCode())
             return TableVerdict::Code;
+        if (m_evidence == AlignedEvidence::Alignment && holdsLargeBrackets())
+            return TableVerdict::Formula;
         if (m_crossingCount > m_parameters.crossingPieceShare * m_pieceCount)
             return TableVerdict::StraddlingWords;
         if (isSparse())
@@ -72,40 +81,6 @@ private:
     double shareOfRows(const Predicate& predicate) const {
         const auto count = std::count_if(m_aligned.rows.begin(), m_aligned.rows.end(), predicate);
         return static_cast<double>(count) / static_cast<double>(m_aligned.rows.size());
-    }
-
-    bool isContents() const {
-        const double led = shareOfRows([&](const PieceRow& row) {
-            return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
-                const Word& word = lines()[piece.line].words[piece.firstWord];
-                return word.leaderBefore != document::TabLeader::None ||
-                       textOf(piece, lines()).find("....") != std::string::npos;
-            });
-        });
-        return (led > m_parameters.leaderRowShare && !leadsToAmounts()) || endsInPageNumbers();
-    }
-
-    /// Whether the leaders lead to amounts: several columns of numbers, or one of large or broken numbers, which go up
-    /// and down. The numbers of pages are small, and most often rise.
-    bool leadsToAmounts() const {
-        std::vector<const ColumnPieces*> falling;
-        for (std::size_t i = 1; i < m_columns.size(); ++i)
-            if (isFalling(m_columns[i], lines(), m_parameters))
-                falling.push_back(&m_columns[i]);
-        return falling.size() >= 2 || std::any_of(falling.begin(), falling.end(), [&](const ColumnPieces* column) {
-                   return brokenNumberShare(*column, lines()) > m_parameters.brokenNumberShare;
-               });
-    }
-
-    /// Whether the last column counts up behind titles as page numbers do; before these may stand their numbers.
-    bool endsInPageNumbers() const {
-        return m_columns.size() <= 3 && m_evidence == AlignedEvidence::Alignment &&
-               isRising(m_columns.back(), lines()) && (m_columns.size() == 2 || !isOfNumbers(m_columns[1]));
-    }
-
-    bool isOfNumbers(const ColumnPieces& column) const {
-        return column.share([&](const TextPiece* piece) { return isNumeric(*piece, lines()); }) >
-               m_parameters.numericShare;
     }
 
     /// Whether the column holds little but the labels of items. Marks in brackets that stay the same count nothing.
@@ -137,6 +112,18 @@ private:
                            pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines()));
                    });
                }) > m_parameters.labelShare;
+    }
+
+    /// Whether the columns hold an index. One head over all of them, or rules, make a table of it.
+    bool isIndex() const {
+        if (m_evidence == AlignedEvidence::Rules)
+            return false;
+        std::vector<std::string> heads;
+        for (const TextPiece& piece : m_aligned.rows.front().pieces)
+            heads.push_back(textOf(piece, lines()));
+        std::sort(heads.begin(), heads.end());
+        return std::adjacent_find(heads.begin(), heads.end()) == heads.end() &&
+               areIndexEntries(m_columns, lines(), m_parameters);
     }
 
     /// Whether space between the rows, or filled cells, show a table as rules do, whatever stands in two columns.
@@ -172,23 +159,22 @@ private:
         }) > m_parameters.labelShare;
     }
 
-    /// Keys that end in colons, or stand before a column of colons; behind their values may stand a few other texts.
+    /// Keys that end in colons, or stand before a column of colons, equals signs or arrows; behind their values may
+    /// stand a few other texts.
     bool isKeyValues() const {
         if (m_evidence == AlignedEvidence::Rules || showsRows())
             return false;
-        const auto share = [&](const ColumnPieces& column, std::size_t least) {
-            return column.share([&](const TextPiece* piece) {
-                const std::string text = textOf(*piece, lines());
-                return text.back() == ':' && text.size() <= least;
-            });
-        };
-        if (m_columns.size() == 3 && share(m_columns[1], 1) > m_parameters.keyShare)
+        if (m_columns.size() >= 3 && m_columns[1].share([&](const TextPiece* piece) {
+                return isJoiningSign(textOf(*piece, lines()));
+            }) > m_parameters.keyShare)
             return true;
         const bool areOthersFew = std::all_of(m_columns.begin() + 2, m_columns.end(), [&](const ColumnPieces& column) {
             return static_cast<double>(column.pieces.size()) <
                    m_parameters.filledRowShare * static_cast<double>(m_columns[1].pieces.size());
         });
-        return areOthersFew && share(labels(), std::string::npos) > m_parameters.keyShare;
+        return areOthersFew && labels().share([&](const TextPiece* piece) {
+            return textOf(*piece, lines()).ends_with(':');
+        }) > m_parameters.keyShare;
     }
 
     /// Whether a good part of the rows are one text that fills them: lines of a paragraph between such as were spread.
@@ -222,6 +208,15 @@ private:
                (m_evidence == AlignedEvidence::Alignment && areTyped(m_page, m_aligned, m_columns, m_parameters));
     }
 
+    /// Whether parts of brackets higher than a line stand below each other: a formula.
+    bool holdsLargeBrackets() const {
+        return std::any_of(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
+            return std::count_if(column.pieces.begin(), column.pieces.end(), [&](const TextPiece* piece) {
+                       return holdsPartOfBracket(textOf(*piece, lines()));
+                   }) >= 2;
+        });
+    }
+
     bool isSparse() const {
         int filled = 0;
         for (const RowGroup& group : m_aligned.groups) {
@@ -246,7 +241,7 @@ private:
     /// Whether one of two columns holds numbers: texts side by side may be anything.
     bool hasStrongColumn() const {
         return std::any_of(m_columns.begin() + 1, m_columns.end(),
-                           [&](const ColumnPieces& column) { return isOfNumbers(column); });
+                           [&](const ColumnPieces& column) { return isOfNumbers(column, lines(), m_parameters); });
     }
 
     const PageText& m_page;

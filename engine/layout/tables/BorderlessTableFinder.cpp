@@ -187,7 +187,11 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
         if (end < first)
             continue;
         const AlignedRows aligned = alignRegion(rows, start, end, page.lines, rules, parameters);
-        if (judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables) != TableVerdict::Table)
+        const TableVerdict verdict = judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables);
+        // A few entries of these alone need not look like it.
+        if (verdict == TableVerdict::Index || verdict == TableVerdict::SideBySide)
+            first = used = end;
+        if (verdict != TableVerdict::Table)
             continue;
         TableGrid grid =
             spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);

@@ -1,6 +1,7 @@
 #include "layout/tables/CodeListing.h"
 
 #include "layout/tables/ItemLabels.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <charconv>
@@ -69,6 +70,26 @@ bool areLinesWithSignsCounted(const AlignedRows& aligned, const std::vector<Line
            }) > parameters.labelShare;
 }
 
+/// Whether the typed rows begin with the marks of a program that answers, or most of their texts end in commas.
+bool arePrinted(const PageText& page, const AlignedRows& aligned, std::span<const ColumnPieces> columns,
+                const TableParameters::Tables& parameters) {
+    const auto beginsWithMark = [&](const PieceRow& row) {
+        const TextPiece& piece = row.pieces.front();
+        return isInTypewriter(piece, page) && isMark(textOf(page.lines[piece.line].words[piece.firstWord]));
+    };
+    if (shareOfRows(aligned, beginsWithMark) > parameters.codeShare)
+        return true;
+    std::size_t texts = 0;
+    std::size_t commas = 0;
+    for (const ColumnPieces& column : columns) {
+        for (const TextPiece* piece : column.pieces) {
+            ++texts;
+            commas += isInTypewriter(*piece, page) && textOf(*piece, page.lines).ends_with(',');
+        }
+    }
+    return static_cast<double>(commas) > parameters.commaShare * static_cast<double>(texts);
+}
+
 } // namespace
 
 bool areLinesCounted(const AlignedRows& aligned, const std::vector<Line>& lines,
@@ -84,7 +105,7 @@ bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const 
             return isInTypewriter(piece, page) && hasSignsOfCode(textOf(piece, page.lines));
         });
     };
-    return areTypedLinesCounted(page, columns, parameters) ||
+    return areTypedLinesCounted(page, columns, parameters) || arePrinted(page, aligned, columns, parameters) ||
            (shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
             (columns.size() == 2 || shareOfRows(aligned, hasSigns) > parameters.codeShare));
 }

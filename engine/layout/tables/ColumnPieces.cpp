@@ -57,6 +57,11 @@ bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines,
            parameters.numberedShare;
 }
 
+bool isOfNumbers(const ColumnPieces& column, const std::vector<Line>& lines,
+                 const TableParameters::Tables& parameters) {
+    return column.share([&](const TextPiece* piece) { return isNumeric(*piece, lines); }) > parameters.numericShare;
+}
+
 bool isRising(const ColumnPieces& column, const std::vector<Line>& lines) {
     long last = 0;
     for (const TextPiece* piece : column.pieces) {

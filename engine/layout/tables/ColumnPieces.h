@@ -40,6 +40,9 @@ bool isProse(const ColumnPieces& column, const TableParameters::Tables& paramete
 bool holdsEntries(const ColumnPieces& column, const std::vector<Line>& lines,
                   const TableParameters::Tables& parameters);
 
+/// Whether most texts of the column are numbers.
+bool isOfNumbers(const ColumnPieces& column, const std::vector<Line>& lines, const TableParameters::Tables& parameters);
+
 /// Whether the column holds nothing but whole numbers of which none is less than the one above.
 bool isRising(const ColumnPieces& column, const std::vector<Line>& lines);
 

@@ -1,5 +1,9 @@
 #include "layout/tables/ItemLabels.h"
 
+#include "base/Utf8.h"
+
+#include <algorithm>
+#include <array>
 #include <cctype>
 #include <charconv>
 
@@ -26,6 +30,12 @@ bool isNestedLabel(std::string_view text) {
     return hasPoint;
 }
 
+/// "[7]", "[Knu84]": the label of a work that is referred to.
+bool isReference(std::string_view text) {
+    return text.size() > 2 && text.front() == '[' && text.back() == ']' &&
+           std::all_of(text.begin() + 1, text.end() - 1, [](char c) { return c != ' ' && c != '[' && c != ']'; });
+}
+
 } // namespace
 
 bool isItemLabel(std::string_view text) {
@@ -34,7 +44,7 @@ bool isItemLabel(std::string_view text) {
         return true;
     const bool isSymbol = text.size() <= 3 && (!isAscii(text.front()) || text == "-" || text == "*" || text == "o");
     const bool isNumber = text.size() <= 6 && (text.back() == '.' || text.back() == ')');
-    return isSymbol || isNumber || isNestedLabel(text);
+    return isSymbol || isNumber || isNestedLabel(text) || isReference(text);
 }
 
 bool countsItem(std::string_view text) {
@@ -48,6 +58,23 @@ bool isLetterInBrackets(std::string_view text) {
 
 bool hasSignsOfCode(std::string_view text) {
     return text.find_first_of("{}\\") != std::string_view::npos || text.ends_with(';');
+}
+
+bool isJoiningSign(std::string_view text) {
+    static constexpr std::array<std::string_view, 10> kSigns{":",  "=",      ":=",     "::=",    "->",
+                                                             "=>", "\u2190", "\u2192", "\u21D2", "\u2261"};
+    return std::ranges::find(kSigns, text) != kSigns.end();
+}
+
+bool isMark(std::string_view text) {
+    return !text.empty() && text.size() <= 3 && std::all_of(text.begin(), text.end(), [](char c) {
+        return std::ispunct(static_cast<unsigned char>(c)) != 0;
+    });
+}
+
+bool holdsPartOfBracket(std::string_view text) {
+    const std::u32string characters = utf32FromUtf8(text);
+    return std::any_of(characters.begin(), characters.end(), [](char32_t c) { return c >= 0x239B && c <= 0x23B3; });
 }
 
 std::optional<long> lineNumberOf(std::string_view text) {

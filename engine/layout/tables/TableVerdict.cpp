@@ -24,14 +24,20 @@ const char* toString(TableVerdict verdict) {
         return "TooSmall";
     case TableVerdict::Contents:
         return "Contents";
+    case TableVerdict::Index:
+        return "Index";
     case TableVerdict::List:
         return "List";
     case TableVerdict::KeyValues:
         return "KeyValues";
     case TableVerdict::Prose:
         return "Prose";
+    case TableVerdict::SideBySide:
+        return "SideBySide";
     case TableVerdict::Code:
         return "Code";
+    case TableVerdict::Formula:
+        return "Formula";
     case TableVerdict::Ragged:
         return "Ragged";
     }

@@ -14,10 +14,13 @@ enum class TableVerdict {
     PageFrame,       ///< one cell holds most of the page: a frame around it
     TooSmall,        ///< too few rows or columns for what else speaks for a table
     Contents,        ///< a table of contents: titles, leaders, page numbers
+    Index,           ///< words in the order of the alphabet, column by column
     List,            ///< labels and the items of a list
     KeyValues,       ///< "Name:" and what belongs to it, parted by tabs
     Prose,           ///< running text in columns
+    SideBySide,      ///< lists side by side without a row in common
     Code,            ///< a listing in a typewriter font
+    Formula,         ///< lines of a formula within large brackets
     Ragged,          ///< the columns keep no edge
 };
 

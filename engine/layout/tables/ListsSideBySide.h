@@ -1,0 +1,13 @@
+#pragma once
+
+#include "layout/tables/ColumnPieces.h"
+
+#include <span>
+
+namespace orvane::layout {
+
+/// Whether at least three columns have no rows in common: time and again lines that follow each other in one of them
+/// run past the space between two texts of its neighbour, and the other way round.
+bool areListsSideBySide(std::span<const ColumnPieces> columns, const TableParameters::Tables& parameters);
+
+} // namespace orvane::layout
