@@ -1,5 +1,7 @@
 #include "layout/page/ColumnGutter.h"
 
+#include "layout/support/Stretches.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -35,7 +37,7 @@ bool endsWithColon(const Word& word) {
     return text.ends_with(':') || text.ends_with("\xEF\xBC\x9A"); // the full-width one
 }
 
-/// Cuts lines at gaps wide enough for a gutter.
+/// Cuts lines at gaps wide enough for a gutter. A leader fills its gap.
 std::vector<Piece> cutIntoPieces(std::span<const Line> lines, std::span<const Rect> walls, double narrowest) {
     std::vector<Piece> pieces;
     for (const Rect& wall : walls)
@@ -47,7 +49,8 @@ std::vector<Piece> cutIntoPieces(std::span<const Line> lines, std::span<const Re
         std::sort(words.begin(), words.end(), [](const Word* a, const Word* b) { return a->box.left < b->box.left; });
         const std::size_t firstOfLine = pieces.size();
         for (const Word* word : words) {
-            if (pieces.size() == firstOfLine || word->box.left - pieces.back().box.right >= narrowest)
+            const bool isLedTo = word->leaderBefore != document::TabLeader::None;
+            if (pieces.size() == firstOfLine || (!isLedTo && word->box.left - pieces.back().box.right >= narrowest))
                 pieces.push_back({word->box, line.fontSize, false});
             else
                 pieces.back().box = pieces.back().box.united(word->box);
@@ -138,9 +141,10 @@ struct Side {
     }
     /// How much of the column its lines cover: prose fills most of it, labels and values do not.
     double fill() const { return rows > 0 && extent > 0 ? inkWidth / (extent * rows) : 0; }
-    bool isColumn(double fontSize, const PageParameters::Regions& parameters) const {
-        return fill() >= parameters.minimumFill && extent >= parameters.minimumColumn * fontSize;
+    bool isWide(double fontSize, const PageParameters::Regions& parameters) const {
+        return extent >= parameters.minimumColumn * fontSize;
     }
+    bool isFilled(const PageParameters::Regions& parameters) const { return fill() >= parameters.minimumFill; }
 };
 
 /// Names with their values beside them, "Date:  3 May", are read along the rows: most pieces of the left side end with
@@ -155,6 +159,37 @@ bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
         labels += piece.isLabel && beside != right.end() && beside->box.top <= middle;
     }
     return 2 * labels > left.size();
+}
+
+/// The middles of the lines of the column next to the gutter, which ends where no piece stands across.
+std::vector<double> linesNextTo(const ColumnGutter& gutter, std::span<const Piece> pieces) {
+    struct Reach {
+        double near, far, middle;
+    };
+    std::vector<Reach> reaches;
+    for (const Piece& piece : pieces) {
+        const bool isLeft = piece.box.right <= gutter.left + 0.01;
+        const double near = isLeft ? gutter.left - piece.box.right : piece.box.left - gutter.right;
+        reaches.push_back({near, near + piece.box.width(), piece.box.centerY()});
+    }
+    std::sort(reaches.begin(), reaches.end(), [](const Reach& a, const Reach& b) { return a.near < b.near; });
+    std::vector<double> middles;
+    double far = reaches.empty() ? 0 : reaches.front().far;
+    for (const Reach& reach : reaches) {
+        if (reach.near > far)
+            break;
+        far = std::max(far, reach.far);
+        middles.push_back(reach.middle);
+    }
+    return middles;
+}
+
+/// Lists in columns, an index say: space between the lines of each side stands beside lines of the other.
+bool areLists(const ColumnGutter& gutter, std::span<const Piece> left, std::span<const Piece> right, double fontSize,
+              const PageParameters::Regions& parameters) {
+    const double step = (1 + parameters.columnStep) * fontSize;
+    return runPastEachOther(stretchesOf(linesNextTo(gutter, left), step), stretchesOf(linesNextTo(gutter, right), step),
+                            parameters.minimumRows);
 }
 
 /// Cuts the strip to where both sides have text, and counts it. False when it parts no columns.
@@ -181,8 +216,11 @@ bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fon
     gutter.bottom = std::min(left.bottom, right.bottom);
     const bool isNarrow = gutter.right - gutter.left < parameters.wideGutter * fontSize;
     const int least = isNarrow ? parameters.minimumRowsNarrow : parameters.minimumRows;
-    return gutter.rows >= least && gutter.bottom > gutter.top && left.isColumn(fontSize, parameters) &&
-           right.isColumn(fontSize, parameters) && !areLabels(leftPieces, rightPieces);
+    if (gutter.rows < least || gutter.bottom <= gutter.top || !left.isWide(fontSize, parameters) ||
+        !right.isWide(fontSize, parameters) || areLabels(leftPieces, rightPieces))
+        return false;
+    return (left.isFilled(parameters) && right.isFilled(parameters)) ||
+           areLists(gutter, leftPieces, rightPieces, fontSize, parameters);
 }
 
 } // namespace

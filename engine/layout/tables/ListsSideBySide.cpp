@@ -1,35 +1,18 @@
 #include "layout/tables/ListsSideBySide.h"
 
+#include "layout/support/Stretches.h"
+
 namespace orvane::layout {
 namespace {
 
-/// From one baseline to another.
-struct Stretch {
-    double from = 0;
-    double to = 0;
-};
-
-/// The lines of a column that follow each other, as stretches from the first baseline to the last.
-std::vector<Stretch> blocksOf(const ColumnPieces& column, const TableParameters::Tables& parameters) {
-    std::vector<Stretch> blocks;
+std::vector<Stretch> linesThatFollow(const ColumnPieces& column, const TableParameters::Tables& parameters) {
+    std::vector<double> baselines;
+    double fontSize = 0;
     for (const TextPiece* piece : column.pieces) {
-        if (blocks.empty() || piece->baseline - blocks.back().to > parameters.proseLeading * piece->fontSize)
-            blocks.push_back({piece->baseline, piece->baseline});
-        blocks.back().to = piece->baseline;
+        baselines.push_back(piece->baseline);
+        fontSize = std::max(fontSize, piece->fontSize);
     }
-    return blocks;
-}
-
-/// How many spaces between `blocks` the lines of one of the `others` run past.
-int countCrossed(const std::vector<Stretch>& blocks, const std::vector<Stretch>& others) {
-    int crossed = 0;
-    auto other = others.begin();
-    for (std::size_t i = 1; i < blocks.size(); ++i) {
-        while (other != others.end() && other->to < blocks[i].from)
-            ++other;
-        crossed += other != others.end() && other->from <= blocks[i - 1].to;
-    }
-    return crossed;
+    return stretchesOf(std::move(baselines), parameters.proseLeading * fontSize);
 }
 
 } // namespace
@@ -37,13 +20,12 @@ int countCrossed(const std::vector<Stretch>& blocks, const std::vector<Stretch>&
 bool areListsSideBySide(std::span<const ColumnPieces> columns, const TableParameters::Tables& parameters) {
     if (columns.size() < 3)
         return false;
-    std::vector<Stretch> last = blocksOf(columns.front(), parameters);
+    std::vector<Stretch> last = linesThatFollow(columns.front(), parameters);
     for (const ColumnPieces& column : columns.subspan(1)) {
-        std::vector<Stretch> blocks = blocksOf(column, parameters);
-        if (countCrossed(last, blocks) < parameters.fewestPartedRows ||
-            countCrossed(blocks, last) < parameters.fewestPartedRows)
+        std::vector<Stretch> next = linesThatFollow(column, parameters);
+        if (!runPastEachOther(last, next, parameters.fewestPartedRows))
             return false;
-        last = std::move(blocks);
+        last = std::move(next);
     }
     return true;
 }

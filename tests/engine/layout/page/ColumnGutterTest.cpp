@@ -1,0 +1,64 @@
+#include "layout/page/ColumnGutter.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::layout {
+namespace {
+
+Word wordAt(double left, double right, double top) {
+    Word word;
+    word.box = {left, top, right, top + 10};
+    return word;
+}
+
+/// A line of 10 points with such words.
+Line lineOf(std::vector<Word> words) {
+    Line line;
+    line.fontSize = 10;
+    for (const Word& word : words)
+        line.box = line.box.united(word.box);
+    line.baseline = line.box.top + 8;
+    line.words = std::move(words);
+    return line;
+}
+
+/// Two columns of a list, 50 to 250 and 300 to 500; every sixth line is blank, in the right one `shift` lines later.
+std::vector<Line> listsWithBlanks(int shift) {
+    std::vector<Line> lines;
+    for (int row = 0; row < 24; ++row) {
+        const double right = row == 4 ? 200 : 40; // of one long line and many short ones
+        if (row % 6 != 0)
+            lines.push_back(lineOf({wordAt(50, 50 + right, 100 + 12 * row)}));
+        if ((row + 6 - shift) % 6 != 0)
+            lines.push_back(lineOf({wordAt(300, 300 + right, 100 + 12 * row)}));
+    }
+    return lines;
+}
+
+bool areColumns(const std::vector<Line>& lines) {
+    return findColumnGutter(lines, {}, PageParameters::Regions{}).has_value();
+}
+
+TEST(ColumnGutter, PartsEntriesThatLeadToTheirPages) {
+    const auto entries = [](document::TabLeader leader) {
+        std::vector<Line> lines;
+        for (int row = 0; row < 8; ++row) {
+            for (const double left : {50.0, 300.0}) {
+                Word page = wordAt(left + 190, left + 200, 100 + 12 * row);
+                page.leaderBefore = leader;
+                lines.push_back(lineOf({wordAt(left, left + 60, 100 + 12 * row), page}));
+            }
+        }
+        return lines;
+    };
+    EXPECT_TRUE(areColumns(entries(document::TabLeader::Dots)));
+    EXPECT_FALSE(areColumns(entries(document::TabLeader::None))) << "they may be four columns of a table";
+}
+
+TEST(ColumnGutter, PartsListsThatHaveNoRowsInCommon) {
+    EXPECT_TRUE(areColumns(listsWithBlanks(3)));
+    EXPECT_FALSE(areColumns(listsWithBlanks(0))) << "the blank lines part rows of both";
+}
+
+} // namespace
+} // namespace orvane::layout
