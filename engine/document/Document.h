@@ -107,6 +107,19 @@ struct PageTurn {
     std::size_t letters = 0; ///< letters and digits of the paragraph's runs before it
 };
 
+enum class DropCapKind : std::uint8_t {
+    Dropped, ///< the lines beside it are shorter
+    InMargin
+};
+
+/// The first letters of a paragraph set over several of its lines.
+struct DropCap {
+    DropCapKind kind = DropCapKind::Dropped;
+    int lines = 3;
+    Twips height;   ///< of these lines
+    Twips distance; ///< to the text beside it
+};
+
 struct Paragraph {
     StyleId style; ///< of Document::styles
     std::optional<ListReference> list;
@@ -115,6 +128,7 @@ struct Paragraph {
     std::vector<Inline> inlines;
     Origin origin;
     std::vector<PageTurn> turns; ///< ascending
+    std::optional<DropCap> dropCap; ///< which the first Text among the inlines is
 };
 
 struct Block;

@@ -167,6 +167,9 @@ public:
         std::string text = fmt::format("p {}", paragraph.style);
         if (paragraph.list)
             text += fmt::format(" list={}.{}", paragraph.list->numbering, paragraph.list->level);
+        if (paragraph.dropCap)
+            text += fmt::format(" dropcap={}{}", paragraph.dropCap->lines,
+                                paragraph.dropCap->kind == DropCapKind::InMargin ? ":margin" : "");
         const std::string format = differences(paragraph.properties, usual.paragraph);
         if (!format.empty())
             text += fmt::format(" {}", format);

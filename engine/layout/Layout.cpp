@@ -10,6 +10,7 @@
 #include "layout/graphics/ScannedPages.h"
 #include "layout/page/FreeDrawings.h"
 #include "layout/page/PageLayouter.h"
+#include "layout/paragraphs/DropCaps.h"
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
 #include "layout/structure/AddressLinks.h"
@@ -87,8 +88,11 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
         for (PageText& page : pages)
             restoreFormulaLines(page, request.mode == LayoutMode::TruePage ? RestoredFormulas::All
                                                                            : RestoredFormulas::Painted);
-    if (request.mode == LayoutMode::TruePage)
+    if (request.mode == LayoutMode::TruePage) {
+        for (PageText& page : pages)
+            partDropCaps(page);
         return truePageDocument(std::move(pages), facts, request, parameters, observer, diagnostics);
+    }
     const std::optional<Color> pageColor = takePageColor(pages, parameters.pageColor);
     if (request.mode == LayoutMode::Flowing)
         for (PageText& page : pages)

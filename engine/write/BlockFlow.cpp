@@ -1,5 +1,7 @@
 #include "write/BlockFlow.h"
 
+#include "write/ParagraphParts.h"
+
 #include <utility>
 
 namespace orvane::write {
@@ -62,8 +64,20 @@ private:
     }
 
     void give(const Paragraph& paragraph, bool isLast) {
-        m_sink.paragraph(paragraph, isLast ? takeLastLoad() : takeLoad());
+        if (paragraph.dropCap)
+            giveParted(paragraph, isLast);
+        else
+            m_sink.paragraph(paragraph, isLast ? takeLastLoad() : takeLoad());
         m_isAfterTable = false;
+    }
+
+    /// What the paragraph carries is anchored in the part that is no frame, but a mark stands before the letters.
+    void giveParted(const Paragraph& paragraph, bool isLast) {
+        const DropCapParts parts = partDropCap(paragraph);
+        if (parts.breaks)
+            m_sink.paragraph(*parts.breaks, {});
+        m_sink.paragraph(parts.capital, {{}, nullptr, std::exchange(m_load.writeLead, {}), {}});
+        m_sink.paragraph(parts.rest, isLast ? takeLastLoad() : takeLoad());
     }
 
     ParagraphLoad takeLoad() { return std::exchange(m_load, {}); }

@@ -1,5 +1,6 @@
 #include "layout/assembly/BlockAssembler.h"
 
+#include "layout/assembly/DropCapAssembler.h"
 #include "layout/assembly/FigureAssembler.h"
 #include "layout/assembly/FrameAssembler.h"
 #include "layout/assembly/LabelFrames.h"
@@ -39,6 +40,7 @@ AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& 
     paragraph.turns = std::move(text.turns);
     paragraph.markProperties = markProperties(source, context);
     paragraph.list = source.list;
+    setDropCap(paragraph, source, context);
     paragraph.origin = {context.draft.pages[draft.page].number, draft.box};
 
     AssembledBlock assembled;

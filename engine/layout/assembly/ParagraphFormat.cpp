@@ -32,7 +32,9 @@ bool isDrawnOfCharacters(const Line& line) {
 void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, document::ParagraphProperties& format) {
     const AssemblyParameters::Spacing& limits = parameters.spacing;
     const Line& line = piece.text.lines.front();
-    const double first = line.isRightToLeft ? piece.column.right - line.box.right : line.box.left - piece.column.left;
+    const double left =
+        piece.text.dropCap == document::DropCapKind::InMargin ? startBehindDropCap(line) : line.box.left;
+    const double first = line.isRightToLeft ? piece.column.right - line.box.right : left - piece.column.left;
     format.indentStart = indent(first - piece.text.firstLine, limits.smallestIndent);
     format.firstLine = indent(piece.text.firstLine, limits.smallestIndent);
     // The fullest line ends where the indent is.

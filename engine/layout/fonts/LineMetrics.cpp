@@ -92,8 +92,11 @@ double tidyMultiple(double multiple, double tolerance) {
 
 LineExtent extentOf(const Line& line, std::size_t page, const FontCatalog& fonts) {
     LineExtent extent{0, 0, true};
+    const Span* const rest = line.words.empty() ? nullptr : line.words.front().spans.data() + dropCapSpans(line);
     for (const Word& word : line.words) {
         for (const Span& span : word.spans) {
+            if (&word == &line.words.front() && &span < rest)
+                continue; // a drop cap takes no part in its line's height
             if (span.look.formula >= 0) {
                 extent.ascent = std::max(extent.ascent, line.baseline - span.box.top);
                 extent.descent = std::max(extent.descent, span.box.bottom - line.baseline);

@@ -9,7 +9,7 @@
 
 namespace orvane::layout {
 
-/// How far a line in single spacing reaches above and below its baseline. Units: points.
+/// How far a line in single spacing, without its drop cap, reaches above and below its baseline. Units: points.
 struct LineExtent {
     double ascent = 0;
     double descent = 0;

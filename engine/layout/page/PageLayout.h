@@ -25,6 +25,7 @@ struct ParagraphDraft {
     std::vector<std::size_t> wrappingLines; ///< in a frame without room behind them: those that end in a divided word
     document::Borders borders;              ///< what is drawn around it
     std::optional<Color> shading;
+    std::optional<document::DropCapKind> dropCap; ///< how that of its first line stands
 };
 
 struct PageBlock;

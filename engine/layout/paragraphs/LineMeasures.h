@@ -46,6 +46,7 @@ struct LineMeasure {
     bool startsCaseless = false;
     bool endsSentence = false; ///< with a full stop or the like, be it within quotes or brackets
     bool isFiller = false;     ///< nothing but strokes or dots: a line to write on
+    std::optional<document::DropCapKind> dropCap;
 };
 
 /// Measures lines against their column.

@@ -1,6 +1,7 @@
 #include "layout/paragraphs/ParagraphBuilder.h"
 
 #include "layout/paragraphs/CentredNeighbours.h"
+#include "layout/paragraphs/DropCaps.h"
 #include "layout/paragraphs/LocalEdges.h"
 #include "layout/paragraphs/ParagraphBreaks.h"
 #include "layout/paragraphs/ParagraphShape.h"
@@ -10,6 +11,7 @@ namespace orvane::layout {
 std::vector<ParagraphDraft> buildParagraphs(std::span<const Line> lines, ColumnSpan column,
                                             const ParagraphContext& context, const ParagraphParameters& parameters) {
     std::vector<LineMeasure> measures = measureLines(lines, column, context, parameters);
+    settleDropCaps(lines, measures, parameters.paragraphs);
     applyLocalEdges(lines, measures, context, parameters.paragraphs);
     const std::vector<BreakReason> breaks = findBreaks(lines, measures, context, parameters);
     std::vector<ParagraphDraft> paragraphs;

@@ -115,6 +115,7 @@ void shapeParagraph(ParagraphDraft& paragraph, std::span<const LineMeasure> meas
     paragraph.alignment = findAlignment(measures, paragraph.lines, parameters);
     setIndents(paragraph, measures);
     paragraph.leading = leadingOf(paragraph.lines, context);
+    paragraph.dropCap = measures[0].dropCap;
 }
 
 } // namespace orvane::layout

@@ -42,6 +42,23 @@ std::string plainWord(const Word& word) {
     return utf8FromUtf32(plain);
 }
 
+namespace {
+
+/// A drop cap reaches over the lines below, and sometimes over the one above: the line is as high as the rest of it.
+void leaveDropCapOut(Line& line) {
+    const std::size_t cap = dropCapSpans(line);
+    Rect rest;
+    for (std::size_t word = 0; word < line.words.size(); ++word)
+        for (std::size_t span = word == 0 ? cap : 0; span < line.words[word].spans.size(); ++span)
+            rest = rest.united(line.words[word].spans[span].box);
+    if (rest.isEmpty())
+        return;
+    line.box.top = rest.top;
+    line.box.bottom = rest.bottom;
+}
+
+} // namespace
+
 void measureAnew(Line& line) {
     std::map<double, std::size_t> sizes;
     std::size_t rightToLeft = 0;
@@ -59,6 +76,26 @@ void measureAnew(Line& line) {
             line.fontSize = size;
             most = count;
         }
+    if (line.dropCapLines > 0)
+        leaveDropCapOut(line);
+}
+
+std::size_t dropCapSpans(const Line& line) {
+    if (line.dropCapLines == 0 || line.words.empty())
+        return 0;
+    const std::vector<Span>& spans = line.words.front().spans;
+    const auto end =
+        std::find_if(spans.begin(), spans.end(), [&line](const Span& span) { return span.look.size <= line.fontSize; });
+    return static_cast<std::size_t>(end - spans.begin());
+}
+
+double startBehindDropCap(const Line& line) {
+    const std::size_t cap = dropCapSpans(line);
+    if (cap == 0)
+        return line.box.left;
+    if (cap < line.words.front().spans.size())
+        return line.words.front().spans[cap].box.left;
+    return line.words.size() > 1 ? line.words[1].box.left : line.box.left;
 }
 
 bool isWithoutBlanks(char32_t character) {

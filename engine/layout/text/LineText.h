@@ -21,6 +21,12 @@ std::string plainWord(const Word& word);
 /// stay. Requires: at least one word.
 void measureAnew(Line& line);
 
+/// How many spans at the start of the line's first word are its drop cap; 0 without one.
+std::size_t dropCapSpans(const Line& line);
+
+/// Where the line starts behind its drop cap; without one where it starts. For lines read from the left.
+double startBehindDropCap(const Line& line);
+
 /// True for scripts that are written without blanks and may break after nearly every character: Han and kana with their
 /// punctuation. Hangul has blanks between words, and lines that end at them.
 bool isWithoutBlanks(char32_t character);

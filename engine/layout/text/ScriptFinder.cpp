@@ -87,12 +87,41 @@ bool isDropCap(const TextStrip& cap, const TextStrip& firstLine, const TextParam
            std::abs(capTop - lineTop) <= limits.dropCapTop * firstLine.size;
 }
 
-/// Moves drop caps to the first line they stand at.
+/// A letter, perhaps with a quotation mark before it.
+bool mayBeDropCap(const TextStrip& strip, const TextParameters::Scripts& limits) {
+    return strip.inkCount <= limits.dropCapLetters &&
+           std::any_of(strip.clusters.begin(), strip.clusters.end(),
+                       [](const Cluster& cluster) { return isLetter(cluster.text.front()); });
+}
+
+/// How many lines stand beside the cap, from `strips[first]` on, which are sorted by baseline; where there are fewer
+/// than it has room for, that.
+int linesBeside(const TextStrip& cap, const std::vector<TextStrip>& strips, std::size_t first,
+                const TextParameters::Scripts& limits) {
+    const TextStrip& line = strips[first];
+    const double reach = cap.baseline + limits.dropCapTop * line.size;
+    double last = line.baseline;
+    int count = 1;
+    for (std::size_t i = first + 1; i < strips.size() && strips[i].frame == cap.frame; ++i) {
+        const TextStrip& next = strips[i];
+        if (next.baseline > reach)
+            break;
+        if (next.start < cap.end - limits.overlap * line.size || next.start > cap.end + limits.dropCapGap * line.size ||
+            next.baseline - last < limits.dropCapTop * line.size)
+            continue;
+        ++count;
+        last = next.baseline;
+    }
+    const double leading = count > 1 ? (last - line.baseline) / (count - 1) : limits.dropCapLeading * line.size;
+    return std::max(2, 1 + static_cast<int>(std::lround((cap.baseline - line.baseline) / leading)));
+}
+
+/// Moves drop caps to the first line they stand at; their letters stay where they are.
 void joinDropCaps(std::vector<TextStrip>& strips, const TextParameters::Scripts& limits) {
     std::vector<std::pair<std::size_t, std::size_t>> found;
     for (std::size_t i = 0; i < strips.size(); ++i) {
         const TextStrip& cap = strips[i];
-        if (cap.inkCount == 0 || cap.inkCount > limits.dropCapLetters || !isLetter(cap.clusters.front().text.front()))
+        if (!mayBeDropCap(cap, limits))
             continue;
         for (std::size_t j = i; j-- > 0;) {
             if (strips[j].frame != cap.frame || cap.baseline - strips[j].baseline > cap.size)
@@ -106,11 +135,8 @@ void joinDropCaps(std::vector<TextStrip>& strips, const TextParameters::Scripts&
     for (const auto& [capIndex, lineIndex] : found) {
         TextStrip& cap = strips[capIndex];
         const TextStrip& line = strips[lineIndex];
-        const double leading = limits.dropCapLeading * line.size;
-        cap.dropCapLines = 1 + std::max(1, static_cast<int>(std::lround((cap.baseline - line.baseline) / leading)));
+        cap.dropCapLines = linesBeside(cap, strips, lineIndex, limits);
         cap.baseline = line.baseline;
-        for (Cluster& cluster : cap.clusters)
-            cluster.baseline = line.baseline;
     }
 }
 

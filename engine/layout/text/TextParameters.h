@@ -134,7 +134,7 @@ struct TextParameters {
         double dropCapDepth = 0.9;        ///< how far its baseline lies below that of its first line
         double dropCapGap = 1.2;          ///< between cap and line
         double dropCapTop = 0.6;          ///< how far the tops of cap and first line may differ
-        double dropCapLeading = 1.2;      ///< baseline to baseline; to count the lines a cap stands over
+        double dropCapLeading = 1.2;      ///< baseline to baseline, where the cap stands beside a single line
         unsigned dropCapLetters = 2;      ///< a quotation mark may stand before the letter
         double capitalHeight = 0.7;       ///< of a font's own size
     } scripts;

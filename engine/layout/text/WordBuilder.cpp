@@ -180,6 +180,14 @@ void countBlanks(std::vector<Cluster>& clusters, double narrowest) {
     }
 }
 
+/// A drop cap stands away from the rest of its word.
+void joinToDropCap(TextRow& row) {
+    const auto rest = std::find_if(row.clusters.begin(), row.clusters.end(),
+                                   [&row](const Cluster& cluster) { return cluster.look.size <= row.fontSize; });
+    if (rest != row.clusters.end() && !rest->gapBefore.hasBlank)
+        rest->gapBefore.endsWord = false;
+}
+
 void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
     std::vector<Cluster>& clusters = row.clusters;
     const double rowLetterGap = Stretch(clusters, 0, clusters.size(), limits).findLetterGap().value_or(0);
@@ -196,9 +204,8 @@ void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
         if (isWide)
             clusters[i].gapBefore.endsWord = true;
     }
-    // A drop cap stands away from the rest of its word.
-    if (row.dropCapLines > 0 && clusters.size() > 1 && !clusters[1].gapBefore.hasBlank)
-        clusters[1].gapBefore.endsWord = false;
+    if (row.dropCapLines > 0)
+        joinToDropCap(row);
     countBlanks(clusters, limits.narrowestBlank);
     for (Cluster& cluster : clusters)
         cluster.gapBefore.kind = cluster.gapBefore.endsWord ? Gap::Space : Gap::None;

@@ -7,6 +7,7 @@
 #include "write/doc/ParagraphPropertiesDoc.h"
 #include "write/doc/RunDoc.h"
 
+#include <algorithm>
 #include <span>
 
 namespace orvane::write::doc {
@@ -19,12 +20,26 @@ void addTablePlace(PropertyList& list, int depth) {
         list.add(sprm::kPFInTable, 1).add(sprm::kPItap, depth);
 }
 
+/// Source: [MS-DOC] 2.9.192 (PositionCodeOperand), 2.9.57 (DCS), 2.6.2 (sprmPWr).
+void addDropCap(PropertyList& list, const DropCap& dropCap) {
+    constexpr int kAtText = 2 << 4, kAtColumn = 0 << 6, kAtPage = 2 << 6, kAround = 2;
+    constexpr int kDropped = 1, kInMargin = 2;
+    const bool isInMargin = dropCap.kind == DropCapKind::InMargin;
+    const int lines = std::clamp(dropCap.lines, 1, kMostDropCapLines);
+    list.add(sprm::kPPc, kAtText | (isInMargin ? kAtPage : kAtColumn));
+    list.add(sprm::kPWr, kAround);
+    list.add(sprm::kPDxaFromText, dropCap.distance.value);
+    list.add(sprm::kPDcs, (isInMargin ? kInMargin : kDropped) | lines << 3);
+}
+
 std::string propertiesOf(const Story& story, const Paragraph& paragraph, const Style& style) {
     const ListLevel level = findLevel(story.state.document, paragraph.list);
     PropertyList list;
     addTablePlace(list, story.tableDepth);
     if (level.properties)
         list.add(sprm::kPIlvl, level.place.level).add(sprm::kPIlfo, level.place.id);
+    if (paragraph.dropCap)
+        addDropCap(list, *paragraph.dropCap);
     addParagraphProperties(list, paragraph.properties, inheritedProperties(style, level));
     return Bytes().u16(story.state.styleNumbers.numberOf(style)).raw(list.bytes()).str();
 }

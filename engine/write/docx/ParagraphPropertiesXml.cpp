@@ -1,5 +1,6 @@
 #include "write/docx/ParagraphPropertiesXml.h"
 
+#include "write/ParagraphParts.h"
 #include "write/docx/BorderXml.h"
 
 #include <algorithm>
@@ -81,6 +82,8 @@ public:
         writeSwitch("w:keepNext", &ParagraphProperties::keepWithNext);
         writeSwitch("w:keepLines", &ParagraphProperties::keepLinesTogether);
         writeSwitch("w:pageBreakBefore", &ParagraphProperties::pageBreakBefore);
+        if (identity.dropCap)
+            writeDropCap(*identity.dropCap);
         writeSwitch("w:widowControl", &ParagraphProperties::hasWidowControl);
         if (identity.list)
             writeListMembership(*identity.list);
@@ -111,6 +114,17 @@ private:
         const XmlElement item(m_xml, element);
         if (!(m_value.*member))
             m_xml.attribute({"w:val", 0});
+    }
+
+    /// Source: ECMA-376 part 1, 17.3.1.11 (framePr).
+    void writeDropCap(const DropCap& dropCap) {
+        const bool isInMargin = dropCap.kind == DropCapKind::InMargin;
+        m_xml.leaf("w:framePr", {{"w:dropCap", isInMargin ? "margin" : "drop"},
+                                 {"w:lines", std::clamp(dropCap.lines, 1, kMostDropCapLines)},
+                                 {"w:hSpace", limited(dropCap.distance)},
+                                 {"w:wrap", "around"},
+                                 {"w:vAnchor", "text"},
+                                 {"w:hAnchor", isInMargin ? "page" : "text"}});
     }
 
     void writeListMembership(const ListPlace& list) {

@@ -13,6 +13,7 @@ namespace orvane::write::docx {
 struct ParagraphIdentity {
     std::string_view style; ///< empty: the default style
     std::optional<ListPlace> list;
+    const document::DropCap* dropCap = nullptr; ///< which the paragraph is
 };
 
 /// Writes the children of w:pPr that tell how a paragraph stands, where that differs from `base`. What follows them in

@@ -17,10 +17,12 @@ using namespace document;
 void writeOwnProperties(Story& story, const Paragraph& paragraph, const Style& style, const ParagraphLoad& load) {
     const XmlElement pPr(story.xml, "w:pPr", EmptyElement::Omit);
     const bool isDefaultStyle = &style == &story.state.styles.defaultStyle();
-    ParagraphIdentity identity{isDefaultStyle ? std::string_view() : std::string_view(style.id), {}};
+    ParagraphIdentity identity{isDefaultStyle ? std::string_view() : std::string_view(style.id), {}, nullptr};
     const ListLevel level = findLevel(story.state.document, paragraph.list);
     if (level.properties)
         identity.list = level.place;
+    if (paragraph.dropCap)
+        identity.dropCap = &*paragraph.dropCap;
     writeParagraphProperties(story.xml, paragraph.properties, inheritedProperties(style, level), identity);
     collectFonts(story.state, paragraph.markProperties);
     writeRunProperties(story.xml, paragraph.markProperties, &style.run, ScriptUse::Simple);

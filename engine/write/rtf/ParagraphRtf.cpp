@@ -7,6 +7,7 @@
 #include "write/rtf/ParagraphPropertiesRtf.h"
 #include "write/rtf/RunRtf.h"
 
+#include <algorithm>
 #include <span>
 
 namespace orvane::write::rtf {
@@ -25,6 +26,17 @@ void writeListText(Story& story, const Paragraph& paragraph, const ListLevel& le
     story.rtf.text(level.properties->firstLine < Twips(0) ? "\t" : " ");
 }
 
+/// Source: RTF 1.9.1, "Paragraph Formatting Properties" (drop caps), "Positioned Objects and Frames".
+void writeDropCap(RtfStream& rtf, const DropCap& dropCap) {
+    const bool isInMargin = dropCap.kind == DropCapKind::InMargin;
+    rtf.word("pvpara");
+    rtf.word(isInMargin ? "phpg" : "phcol");
+    rtf.word("wraparound");
+    rtf.word("dfrmtxtx", dropCap.distance.value);
+    rtf.word("dropcapli", std::clamp(dropCap.lines, 1, kMostDropCapLines));
+    rtf.word("dropcapt", isInMargin ? 2 : 1);
+}
+
 void writeProperties(Story& story, const Paragraph& paragraph, const Style& style) {
     RtfStream& rtf = story.rtf;
     const ListLevel level = findLevel(story.state.document, paragraph.list);
@@ -39,6 +51,8 @@ void writeProperties(Story& story, const Paragraph& paragraph, const Style& styl
         rtf.word("ls", level.place.id);
         rtf.word("ilvl", level.place.level);
     }
+    if (paragraph.dropCap)
+        writeDropCap(rtf, *paragraph.dropCap);
     writeParagraphProperties(story.state, rtf, paragraph.properties, inheritedProperties(style, level));
     writeRunProperties(story.state, rtf, style.run, plainRun(), ScriptUse::Complex);
 }

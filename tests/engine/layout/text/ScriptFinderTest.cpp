@@ -54,6 +54,33 @@ TEST(ScriptFinder, LeavesSmallTextOfItsOwnLineAlone) {
     EXPECT_THAT(linesOf(page), ElementsAre("Large heading", "small print below it"));
 }
 
+TEST(ScriptFinder, TakesAQuotationMarkBeforeADropCapForPartOfIt) {
+    PageContentBuilder page;
+    const double x = page.text(72, 128, "\xE2\x80\x9CO", 42);
+    page.text(x + 2, 104, "nce upon a time there was", 10);
+    page.text(x + 2, 116, "a letter that stood over", 10);
+    page.text(x + 2, 128, "three lines of its text,", 10);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 3u);
+    EXPECT_EQ(text.lines[0].dropCapLines, 3);
+    EXPECT_EQ(textOf(text.lines[0]), "\xE2\x80\x9COnce upon a time there was");
+}
+
+TEST(ScriptFinder, CountsTheLinesBesideADropCap) {
+    const struct {
+        double leading;
+        int lines;
+    } rows[] = {{12, 3}, {24, 2}, {16, 3}};
+    for (const auto& row : rows) {
+        PageContentBuilder page;
+        const double bottom = 104 + (row.lines - 1) * row.leading;
+        const double x = page.text(72, bottom, "O", (bottom - 97) / 0.7);
+        for (int line = 0; line < row.lines; ++line)
+            page.text(x + 2, 104 + line * row.leading, "nce upon a time there was", 10);
+        EXPECT_EQ(read(page).lines[0].dropCapLines, row.lines) << row.leading;
+    }
+}
+
 TEST(ScriptFinder, PutsADropCapAtItsFirstLine) {
     PageContentBuilder page;
     const double x = page.text(72, 128, "O", 42);
@@ -67,6 +94,8 @@ TEST(ScriptFinder, PutsADropCapAtItsFirstLine) {
     EXPECT_EQ(text.lines[0].dropCapLines, 3);
     EXPECT_EQ(text.lines[0].fontSize, 10);
     EXPECT_NEAR(text.lines[0].baseline, 104, 0.01);
+    EXPECT_NEAR(text.lines[0].words[0].spans[0].baseline, 128, 0.01) << "the letter stays where it is";
+    EXPECT_LT(text.lines[0].box.bottom, 110) << "and its line is no higher for it";
     EXPECT_EQ(textOf(text.lines[2]), "three lines of its text,");
 }
 

@@ -81,6 +81,16 @@ TEST(DocParagraph, HasHowItStands) {
                           "c60d=05000128230a "));
 }
 
+TEST(DocParagraph, HasADropCapInAFrameBeforeTheTextItBegins) {
+    RunProperties large;
+    large.size = HalfPoints(80);
+    Paragraph one = paragraph({text("O", large), text("nce")});
+    one.dropCap = DropCap{DropCapKind::Dropped, 3, Twips(720), Twips(40)};
+    const WrittenDoc doc(documentOf(one));
+    EXPECT_THAT(doc.dump(), HasSubstr("261b=20 2423=02 842f=2800 442c=1900 "));
+    EXPECT_EQ(doc.read().text(), "O\\0dnce\\0d");
+}
+
 TEST(DocParagraph, HasMultiplesThatReadersMayCutDownToPercents) {
     Paragraph one = paragraph("a");
     one.properties.lineSpacing.multiple = 259 / 240.0;

@@ -138,5 +138,29 @@ TEST(ParagraphXml, LeavesAParagraphOfNoListAsItIs) {
     EXPECT_EQ(WrittenDocument(documentOf(item)).body("//w:numPr"), "");
 }
 
+TEST(ParagraphXml, HasADropCapInAFrameBeforeTheTextItBegins) {
+    RunProperties large;
+    large.size = HalfPoints(80);
+    Paragraph one = paragraph({text("O", large), text("nce upon a time")});
+    one.properties.spaceAfter = Twips(120);
+    one.dropCap = DropCap{DropCapKind::Dropped, 3, Twips(720), Twips(40)};
+    const WrittenDocument written(documentOf(one));
+    EXPECT_EQ(written.body("//w:p/w:pPr"),
+              normalXml("<w:pPr><w:keepNext/><w:framePr w:dropCap='drop' w:lines='3' w:hSpace='40' w:wrap='around'"
+                        " w:vAnchor='text' w:hAnchor='text'/><w:spacing w:line='720' w:lineRule='exact'/>"
+                        "<w:rPr><w:sz w:val='80'/><w:szCs w:val='80'/></w:rPr></w:pPr>"
+                        "<w:pPr><w:spacing w:after='120'/></w:pPr>"));
+    EXPECT_EQ(written.body("//w:t/text()"), "O\nnce upon a time\n");
+}
+
+TEST(ParagraphXml, KeepsABreakOutOfTheFrameOfADropCap) {
+    Paragraph one = paragraph({{Break{BreakKind::Column}}, text("O"), text("nce")});
+    one.dropCap = DropCap{DropCapKind::InMargin, 2, Twips(480), {}};
+    const WrittenDocument written(documentOf(one));
+    EXPECT_EQ(written.body("//w:p[.//w:br]//w:framePr"), "");
+    EXPECT_EQ(written.body("count(//w:p)"), "3");
+    EXPECT_NE(written.body("//w:framePr[@w:dropCap='margin'][@w:hAnchor='page']"), "");
+}
+
 } // namespace
 } // namespace orvane::tests

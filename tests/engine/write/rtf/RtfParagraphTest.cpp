@@ -71,6 +71,18 @@ TEST(RtfParagraph, WritesHowItStands) {
                   "\\tqr\\tldot\\tx9000\\outlinelevel1"));
 }
 
+TEST(RtfParagraph, HasADropCapInAFrameBeforeTheTextItBegins) {
+    RunProperties large;
+    large.size = HalfPoints(80);
+    Paragraph one = paragraph({text("O", large), text("nce")});
+    one.dropCap = DropCap{DropCapKind::Dropped, 3, Twips(720), Twips(40)};
+    const std::string body = WrittenRtf(documentOf(one)).body();
+    EXPECT_THAT(body, HasSubstr("\\pvpara\\phcol\\wraparound\\dfrmtxtx40\\dropcapli3\\dropcapt1"));
+    EXPECT_THAT(body, HasSubstr("\\sl-720\\slmult0"));
+    EXPECT_LT(body.find("O}"), body.find("nce}"));
+    EXPECT_EQ(body.find("\\dropcapli", body.find("O}")), std::string::npos) << "the rest is no frame";
+}
+
 TEST(RtfParagraph, TakesBackWhatItsStyleHas) {
     Document document = documentOf("a");
     document.styles[0].paragraph.spaceAfter = Twips(200);
