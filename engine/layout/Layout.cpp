@@ -102,6 +102,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     FoundNotes notes = takeNotes(pages, context, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
     joinFieldLines(draft, parameters.textBoxes);
+    draft.noteAreas = notes.areas;
     joinParagraphs(draft, context, parameters);
     joinTables(draft, context, parameters);
     makeNotes(draft, std::move(notes), context, parameters, diagnostics);

@@ -1,5 +1,6 @@
 #include "layout/structure/PageBottoms.h"
 
+#include "layout/structure/PageFloor.h"
 #include "layout/structure/PageTops.h"
 #include "layout/support/TidyLength.h"
 
@@ -47,7 +48,8 @@ public:
         window.most = std::max(0.0, pageHeight - lowest);
         window.textHeight = lowest - window.top;
         const double highest = highestBottom(pageHeight, lowest, SpaceAbove::Nothing);
-        window.isFree = highest >= pageHeight && !goesOnOverPages();
+        const bool areEndedByHand = highest >= pageHeight || isHalfEmpty(lowest, pageHeight);
+        window.isFree = areEndedByHand && !goesOnOverPages();
         window.least = pageHeight - highest + m_limits.breakSlack;
         window.leastSpaced = pageHeight - highestBottom(pageHeight, lowest, SpaceAbove::Usual) + m_limits.breakSlack;
         return window;

@@ -11,6 +11,10 @@ double floorOf(const DocumentDraft& draft, std::size_t page, int band, const Rec
     return hasNotes ? draft.noteAreas[page].top : area.bottom;
 }
 
+bool isHalfEmpty(double bottom, double pageHeight) {
+    return 2 * bottom <= pageHeight;
+}
+
 std::size_t linesToStart(std::size_t lines) {
     // Of three lines neither the first two nor the last two may leave, so they stay together.
     return lines <= kKeptLines + 1 ? lines : kKeptLines;

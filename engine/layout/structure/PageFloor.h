@@ -15,4 +15,7 @@ inline constexpr std::size_t kKeptLines = 2;
 /// line stand alone nor its last.
 std::size_t linesToStart(std::size_t lines);
 
+/// Whether a page whose contents end at `bottom` is so empty that it was ended by hand, whatever comes on the next one.
+bool isHalfEmpty(double bottom, double pageHeight);
+
 } // namespace orvane::layout

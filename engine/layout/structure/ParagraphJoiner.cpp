@@ -1,8 +1,10 @@
 #include "layout/structure/ParagraphJoiner.h"
 
 #include "layout/structure/BlockExtent.h"
+#include "layout/structure/PageFloor.h"
 #include "layout/structure/ParagraphContinuation.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -12,6 +14,19 @@ namespace {
 /// What stands between two parts of a paragraph without ending it.
 bool isPassedOver(const DraftBlock& block) {
     return std::holds_alternative<FigureDraft>(block.value) || isFloating(block);
+}
+
+/// For each page whether it was ended by hand, as so much of it is empty that no text runs on from its last line.
+std::vector<bool> findHandEnds(const DocumentDraft& draft) {
+    std::vector<double> bottoms(draft.pages.size(), 0);
+    for (const DraftBlock& block : draft.blocks)
+        bottoms[block.page] = std::max(bottoms[block.page], block.box.bottom);
+    for (std::size_t page = 0; page < draft.noteAreas.size(); ++page)
+        bottoms[page] = std::max(bottoms[page], draft.noteAreas[page].bottom);
+    std::vector<bool> ends;
+    for (std::size_t page = 0; page < draft.pages.size(); ++page)
+        ends.push_back(isHalfEmpty(bottoms[page], draft.pages[page].height));
+    return ends;
 }
 
 /// True when the paragraph `next`, the first of its column or page, goes on with `last`.
@@ -30,12 +45,18 @@ bool goesOn(const DocumentDraft& draft, const DraftBlock& last, const DraftBlock
 } // namespace
 
 void joinParagraphs(DocumentDraft& draft, const DocumentContext& context, const LayoutParameters& parameters) {
+    const std::vector<bool> isHandEnd = findHandEnds(draft);
+    const auto mayGoOn = [&](const DraftBlock& before, const DraftBlock& next) {
+        const std::size_t page = before.paragraph()->pieces.back().page;
+        return page == next.page || !isHandEnd[page];
+    };
     std::vector<DraftBlock> joined;
     std::size_t last =
         0; // one behind the last paragraph among `joined`; 0 when something that is no picture came after it
     for (DraftBlock& block : draft.blocks) {
         const bool isParagraph = block.paragraph() != nullptr && !isFloating(block);
-        if (isParagraph && last > 0 && goesOn(draft, joined[last - 1], block, context, parameters)) {
+        if (isParagraph && last > 0 && mayGoOn(joined[last - 1], block) &&
+            goesOn(draft, joined[last - 1], block, context, parameters)) {
             std::vector<DraftPiece>& pieces = joined[last - 1].paragraph()->pieces;
             std::vector<DraftPiece>& more = block.paragraph()->pieces;
             pieces.insert(pieces.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));

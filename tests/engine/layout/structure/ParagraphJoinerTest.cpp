@@ -48,6 +48,19 @@ TEST(ParagraphJoiner, KeepsParagraphsApartThatEnded) {
     EXPECT_EQ(draft.blocks.size(), 2u);
 }
 
+TEST(ParagraphJoiner, KeepsParagraphsApartBelowWhichHalfThePageIsEmpty) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine(kFullLine, 72, 200)})));
+    draft.blocks.back().paragraph()->pieces[0].text.endsParagraph = false;
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("and goes on here", 72, 84)}), 1));
+    DocumentDraft withNotes = draft;
+    joinParagraphs(draft, {}, {});
+    EXPECT_EQ(draft.blocks.size(), 2u);
+    withNotes.noteAreas = {{72, 300, 523, 760}, {}};
+    joinParagraphs(withNotes, {}, {});
+    EXPECT_EQ(withNotes.blocks.size(), 1u) << "notes take the rest of the page";
+}
+
 TEST(ParagraphJoiner, PutsPicturesAtTheBreakBehindTheParagraph) {
     DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
     DraftBlock picture;

@@ -14,6 +14,7 @@ using tests::firstOn;
 using tests::makeDraft;
 using tests::makeLine;
 using tests::sectionsOf;
+using tests::setupBottom;
 using tests::tableAt;
 
 TEST(SectionMaker, StartsASectionWhereThePaperTurns) {
@@ -69,6 +70,16 @@ DocumentContext typesetText() {
     DocumentContext context;
     context.division = WordDivision::Always;
     return context;
+}
+
+TEST(SectionMaker, TakesPagesOfALineEachForStartedByHand) {
+    DocumentDraft draft = makeDraft(3);
+    for (std::size_t page = 0; page < 3; ++page)
+        addLine(draft, page, 72, 190);
+    sectionsOf(draft);
+    EXPECT_TRUE(firstOn(draft, 1).startsPage);
+    EXPECT_TRUE(firstOn(draft, 2).startsPage);
+    EXPECT_LT(setupBottom(draft, 0), 200) << "the pages are as high as others";
 }
 
 TEST(SectionMaker, LeavesPicturesWhereProgramsPutThem) {
