@@ -222,7 +222,8 @@ enum class NumberFormat : std::uint8_t {
     UpperLetter,
     Bullet,
     None,
-    DecimalZero
+    DecimalZero,
+    Symbols ///< *, †, ‡, §, and then two of each, and so on
 };
 
 struct Column {
@@ -236,6 +237,17 @@ struct RunningText {
     std::optional<std::vector<Block>> standard;
     std::optional<std::vector<Block>> firstPage;
     std::optional<std::vector<Block>> evenPages;
+};
+
+/// Where numbers start anew.
+enum class CountStart : std::uint8_t { Continuous, EachSection, EachPage };
+
+/// Numbers in the margin beside the lines of the text.
+struct LineNumbers {
+    int every = 1; ///< shown beside each such line: 5 for 5, 10, 15
+    int start = 1;
+    CountStart count = CountStart::EachPage;
+    Twips distance; ///< to the text; 0 for what word processors take
 };
 
 struct Section {
@@ -254,6 +266,7 @@ struct Section {
     RunningText header;
     RunningText footer;
     std::vector<Block> blocks;
+    std::optional<LineNumbers> lineNumbers;
 };
 
 // ---- Styles, lists, notes
@@ -291,8 +304,13 @@ struct Note {
     Origin origin;
 };
 
-/// How footnotes are counted; endnotes go on through the whole document.
-enum class NoteCount : std::uint8_t { Continuous, EachPage };
+/// How the marks of notes of one kind are counted.
+struct NoteNumbering {
+    NumberFormat format = NumberFormat::Decimal;
+    CountStart count = CountStart::Continuous;
+
+    bool operator==(const NoteNumbering&) const = default;
+};
 
 struct Comment {
     std::string author;
@@ -318,7 +336,8 @@ struct Document {
     std::vector<Style> styles; ///< the first is the default paragraph style
     std::vector<Numbering> numberings;
     std::vector<Note> notes;
-    NoteCount footnoteCount = NoteCount::Continuous;
+    NoteNumbering footnoteNumbering;
+    NoteNumbering endnoteNumbering{NumberFormat::LowerRoman, CountStart::Continuous};
     std::vector<Comment> comments;
     std::vector<EmbeddedFont> fonts;
     /// Whether a line of a justified paragraph that ends with a Break is spread over the whole width, as lines within
@@ -329,6 +348,9 @@ struct Document {
     bool dividesWords = false;
     std::optional<Color> pageColor; ///< of the paper; white without one
     std::vector<Section> sections;  ///< at least one
+    /// Whether the left margin of even pages is the right one of odd pages, and the other way round, as in books. The
+    /// sections have the margins of odd pages.
+    bool hasMirroredMargins = false;
 };
 
 } // namespace orvane::document

@@ -151,7 +151,7 @@ public:
             line(fmt::format("page color {}", toHex(*m_document.pageColor)));
         for (const Section& section : m_document.sections)
             dumpSection(section);
-        if (m_document.footnoteCount == NoteCount::EachPage)
+        if (m_document.footnoteNumbering.count == CountStart::EachPage)
             line("footnotes count on each page");
         for (std::size_t i = 0; i < m_document.notes.size(); ++i) {
             line(fmt::format("note {}", i));

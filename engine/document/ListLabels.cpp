@@ -29,6 +29,16 @@ std::string letters(int number) {
     return std::string(static_cast<std::size_t>(repeated), static_cast<char>('a' + (number - 1) % 26));
 }
 
+/// Asterisk, dagger, double dagger, section sign; then two of each, and so on.
+std::string symbols(int number) {
+    static constexpr const char* kSigns[] = {"*", "\u2020", "\u2021", "\u00A7"};
+    const int repeated = std::min((number - 1) / 4 + 1, kMostRepeatedLetters);
+    std::string text;
+    for (int i = 0; i < repeated; ++i)
+        text += kSigns[(number - 1) % 4];
+    return text;
+}
+
 std::string upper(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
                    [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
@@ -86,6 +96,10 @@ std::string formatNumber(int number, NumberFormat format) {
         return format == NumberFormat::LowerLetter ? letters(number) : upper(letters(number));
     case NumberFormat::DecimalZero:
         return fmt::format("{:02}", number);
+    case NumberFormat::Symbols:
+        if (number < 1)
+            break;
+        return symbols(number);
     case NumberFormat::Bullet:
     case NumberFormat::None:
         return {};

@@ -24,7 +24,7 @@ private:
         m_counts; ///< by numbering: the last number of each level that is counted on
 };
 
-/// A number in the words of a format: "iv", "D", "07"; empty for formats without numbers.
+/// A number in the words of a format: "iv", "D", "07", "†"; empty for formats without numbers.
 std::string formatNumber(int number, NumberFormat format);
 
 } // namespace orvane::document

@@ -8,8 +8,11 @@
 #include "layout/formulas/FormulaFinder.h"
 #include "layout/graphics/PageColor.h"
 #include "layout/graphics/ScannedPages.h"
+#include "layout/page/FacingPages.h"
 #include "layout/page/FreeDrawings.h"
+#include "layout/page/MarginNumbers.h"
 #include "layout/page/PageLayouter.h"
+#include "layout/page/TurnedPages.h"
 #include "layout/paragraphs/DropCaps.h"
 #include "layout/paragraphs/ParagraphBorders.h"
 #include "layout/running/RunningHeads.h"
@@ -21,6 +24,7 @@
 #include "layout/structure/HandBreaks.h"
 #include "layout/structure/HeadingFinder.h"
 #include "layout/structure/ListFinder.h"
+#include "layout/structure/NoteCounter.h"
 #include "layout/structure/NoteFinder.h"
 #include "layout/structure/NoteMaker.h"
 #include "layout/structure/ParagraphJoiner.h"
@@ -97,11 +101,17 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     if (request.mode == LayoutMode::Flowing)
         for (PageText& page : pages)
             partTextFromScan(page, parameters, diagnostics);
+    for (PageText& page : pages)
+        turnUpright(page, parameters.turnedText);
+    const std::optional<document::LineNumbers> lineNumbers = takeLineNumbers(pages, parameters.lineNumbering);
+    const bool areMirrored = alignFacingPages(pages, parameters.facingPages);
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
     const DocumentContext context = analyseDocument(pages, parameters);
     FoundNotes notes = takeNotes(pages, context, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
     joinFieldLines(draft, parameters.textBoxes);
+    draft.hasMirroredMargins = areMirrored;
+    draft.lineNumbers = lineNumbers;
     draft.noteAreas = notes.areas;
     joinParagraphs(draft, context, parameters);
     joinTables(draft, context, parameters);
@@ -110,6 +120,7 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     findHeadings(draft, facts, context, parameters, diagnostics);
     joinLinesEndedByHand(draft, context, parameters);
     makeSections(draft, heads, context, parameters, diagnostics);
+    countNotes(draft);
     findLists(draft, parameters);
     linkPrintedAddresses(draft);
     findComments(draft, diagnostics);

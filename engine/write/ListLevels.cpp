@@ -38,12 +38,26 @@ int numberFormatCode(NumberFormat format) {
         return 3;
     case NumberFormat::LowerLetter:
         return 4;
+    case NumberFormat::Symbols:
+        return 9;
     case NumberFormat::DecimalZero:
         return 22;
     case NumberFormat::Bullet:
         return 23;
     case NumberFormat::None:
         return 255;
+    }
+    return 0;
+}
+
+int countStartCode(CountStart start) {
+    switch (start) {
+    case CountStart::Continuous:
+        return 0;
+    case CountStart::EachSection:
+        return 1;
+    case CountStart::EachPage:
+        return 2;
     }
     return 0;
 }

@@ -31,4 +31,7 @@ document::ParagraphProperties inheritedProperties(const document::Style& style, 
 /// Source: [MS-OSHARED] 2.2.1.3 (MSONFC); RTF 1.9.1, list levels.
 int numberFormatCode(document::NumberFormat format);
 
+/// Where notes are counted anew, as the binary format has it. Source: [MS-DOC] 2.6.4 (sprmSRncFtn).
+int countStartCode(document::CountStart start);
+
 } // namespace orvane::write

@@ -122,6 +122,7 @@ Document continuousDocument(Document flowing) {
     flowing.sections.clear();
     flowing.sections.push_back(std::move(section));
     flowing.pageColor.reset();
+    flowing.hasMirroredMargins = false;
     for (Note& note : flowing.notes) {
         Flow text;
         text.add(std::move(note.blocks));

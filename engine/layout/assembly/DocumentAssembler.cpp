@@ -6,6 +6,7 @@
 #include "layout/assembly/DocumentMetadata.h"
 #include "layout/assembly/HangulLines.h"
 #include "layout/assembly/LabelFrames.h"
+#include "layout/assembly/MirroredMargins.h"
 #include "layout/assembly/NumberingAssembler.h"
 #include "layout/assembly/PushedText.h"
 #include "layout/assembly/RunningPlace.h"
@@ -174,7 +175,10 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     findSpacing(flows.flows(), document.styles, assembly);
     document.sections = flows.takeSections();
     document.notes = flows.takeNotes();
-    document.footnoteCount = draft.footnoteCount;
+    if (draft.hasMirroredMargins)
+        mirrorMargins(document, draft);
+    document.footnoteNumbering = draft.footnoteNumbering;
+    document.endnoteNumbering = draft.endnoteNumbering;
     document.comments = assembleComments(draft, document.styles.front());
     return document;
 }

@@ -119,7 +119,8 @@ private:
             if (const Formula* formula = formulaOf(page, span))
                 addFormula(*formula, page, properties, link);
             else if (const DraftNoteReference* note = noteAt(page, span))
-                m_builder.add({document::NoteReference{note->note, properties, note->customMark}}, std::nullopt);
+                m_builder.add({document::NoteReference{note->note, properties, note->isCounted ? "" : note->mark}},
+                              std::nullopt);
             else if (const auto field = fieldAt(page, span.box))
                 m_builder.add({document::Field{*field, {}, {{document::Text{span.text, properties}}}}}, link);
             else

@@ -61,8 +61,32 @@ struct PageParameters {
     /// PageLayouter: lines that do not run across the page.
     struct TurnedText {
         std::size_t fewestOfPage =
-            4; ///< so many lines, and more than there are level ones, are a page laid on its side
+            4;                     ///< so many lines, and more than there are level ones, are a page laid on its side
+        double turnedShare = 0.85; ///< of a page's letters; with so many turned one way the page is turned back
+        std::size_t fewestLetters = 60; ///< of such a page
     } turnedText;
+
+    /// FacingPages: margins of books, wider on the inner side or on the outer one.
+    struct FacingPages {
+        std::size_t fewestPages = 3; ///< of each side that show their edges
+        std::size_t fewestLines = 8; ///< of such a page
+        double leastShift = 4;       ///< points; margins that differ by less are alike
+        double sameEdge = 1.5;       ///< points; lines that start or end this near to each other do so at one edge
+        double edgeShare = 0.15;     ///< of a page's lines that must start or end at one for it to be the margin
+        double agreeing = 0.8;       ///< of the pages of a side that must have its edges
+    } facingPages;
+
+    /// MarginNumbers: numbers in the margin beside the lines of a draft.
+    struct LineNumbering {
+        std::size_t fewestOfPage = 5; ///< numbers of a page
+        double sameBaseline = 0.3;    ///< of the font size
+        double sameEdge = 1.5;        ///< points; at which the numbers start or end
+        double leastGap = 0.5;        ///< of the font size; between number and text
+        double pageShare = 0.6;       ///< of the pages with text that must have such numbers
+        double steadyShare = 0.9;     ///< of a page's numbers that must count on from the one before
+        double proseShare = 0.25;     ///< of the lines beside them that must go on in lower case: they are no list
+        double fullWidth = 0.5;       ///< of the page's width; shorter lines do not show that they go on
+    } lineNumbering;
 };
 
 } // namespace orvane::layout

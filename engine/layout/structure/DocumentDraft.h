@@ -106,6 +106,7 @@ struct DraftSection {
     DraftRunningText header;
     DraftRunningText footer;
     PageTops tops;
+    bool countsOtherwise = false; ///< the document's first, third, fifth page have even numbers in its way of counting
 };
 
 /// How the label of a list's level looks.
@@ -126,10 +127,11 @@ struct DraftNote {
 
 /// A place in the text that refers to a note.
 struct DraftNoteReference {
-    std::size_t page = 0; ///< index into DocumentDraft::pages
-    Rect box;             ///< of the span that shows the mark
-    std::size_t note = 0; ///< index into DocumentDraft::notes
-    std::string customMark;
+    std::size_t page = 0;   ///< index into DocumentDraft::pages
+    Rect box;               ///< of the span that shows the mark
+    std::size_t note = 0;   ///< index into DocumentDraft::notes
+    std::string mark;       ///< as the text shows it
+    bool isCounted = false; ///< the word processor gives it by counting
 };
 
 /// What a reader noted at a place in the text.
@@ -145,12 +147,15 @@ struct DocumentDraft {
     std::vector<DraftBlock> blocks;
     std::vector<DraftNumbering> numberings;
     std::vector<DraftNote> notes;
-    document::NoteCount footnoteCount = document::NoteCount::Continuous;
+    document::NoteNumbering footnoteNumbering;
+    document::NoteNumbering endnoteNumbering{document::NumberFormat::LowerRoman, document::CountStart::Continuous};
     std::vector<DraftNoteReference> noteReferences;
     std::vector<DraftComment> comments; ///< by page
     std::vector<Rect> noteAreas;        ///< for each of the document's pages: the part that notes take, empty for none
     std::vector<DraftSection> sections; ///< at least one once SectionMaker has run
-    std::vector<std::vector<RunningField>> fields; ///< for each page; only those made of running heads have any
+    std::vector<std::vector<RunningField>> fields;    ///< for each page; only those made of running heads have any
+    std::optional<document::LineNumbers> lineNumbers; ///< that stood in the margins
+    bool hasMirroredMargins = false; ///< its second, fourth, sixth page were moved to where the others have their text
 };
 
 } // namespace orvane::layout

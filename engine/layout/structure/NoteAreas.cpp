@@ -2,6 +2,7 @@
 
 #include "layout/structure/NoteMark.h"
 #include "layout/structure/NoteText.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -143,6 +144,8 @@ private:
         area.lines.push_back(index);
         if (const std::string mark = markAtStart(added.words.front()); !mark.empty())
             area.starts.push_back({index, bareMark(mark)});
+        else if (const std::string word = textOf(added.words.front()); isNoteMark(word))
+            area.wordStarts.push_back({index, bareMark(word)});
         return true;
     }
 
@@ -153,7 +156,8 @@ private:
         if (below == m_lines.end())
             return std::nullopt;
         const Interval column = columnOf(rule);
-        NoteArea area{index, rule.from, rule.position, {}, {}, std::isfinite(column.from) || std::isfinite(column.to)};
+        NoteArea area{
+            index, rule.from, rule.position, {}, {}, {}, std::isfinite(column.from) || std::isfinite(column.to)};
         double left = m_page.width, right = 0;
         for (auto i = below; i != m_lines.end(); ++i) {
             const Rect& box = line(*i).box;

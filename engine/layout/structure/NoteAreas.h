@@ -24,6 +24,7 @@ struct NoteArea {
     double top = 0;                  ///< likewise
     std::vector<std::size_t> lines;  ///< indices into PageText::lines, top to bottom
     std::vector<NoteStart> starts;   ///< likewise; empty where the area goes on with a note of the page before
+    std::vector<NoteStart> wordStarts; ///< lines that start with a letter or numeral which may be a word: "a", "i"
     bool isInColumn = false;         ///< at the foot of one of several columns
     bool hasRows = false;            ///< lines stand side by side
 };

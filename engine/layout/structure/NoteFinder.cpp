@@ -1,6 +1,7 @@
 #include "layout/structure/NoteFinder.h"
 
 #include "layout/structure/NoteAreas.h"
+#include "layout/structure/NoteKinds.h"
 #include "layout/structure/NoteMark.h"
 #include "layout/structure/NoteRows.h"
 #include "layout/structure/NoteText.h"
@@ -15,8 +16,6 @@
 namespace orvane::layout {
 namespace {
 
-using document::NoteKind;
-
 /// A raised mark in the text.
 struct Reference {
     std::size_t page = 0;
@@ -25,10 +24,6 @@ struct Reference {
     bool isAlone = false; ///< on a line by itself, where only its size shows that it is raised
     bool isTaken = false;
 };
-
-bool isNumeral(const std::string& mark) {
-    return !mark.empty() && mark.find_first_not_of("ivxlc") == std::string::npos;
-}
 
 class NoteTaker {
 public:
@@ -54,6 +49,7 @@ public:
                 takeFoot(i, isTaken);
             removeTaken(m_pages[i], isTaken);
         }
+        settleNoteKinds(m_found.notes, lastTextPage());
         std::stable_sort(m_found.notes.begin(), m_found.notes.end(),
                          [](const FoundNote& a, const FoundNote& b) { return a.referencePage < b.referencePage; });
         return std::move(m_found);
@@ -118,6 +114,12 @@ private:
         return reference && reference->page == page && reference->box.top < bottom ? reference : nullptr;
     }
 
+    /// Likewise, a raised one.
+    Reference* raisedReference(const std::string& mark, std::size_t page, double bottom) {
+        Reference* reference = referenceAbove(mark, page, bottom);
+        return reference && !reference->isAlone ? reference : nullptr;
+    }
+
     /// Below columns such notes are of the title above them. There LibreOffice leaves most of a page empty if its
     /// columns have notes too, so they stay as text.
     static bool isThanks(const NoteArea& area, const NoteStart& start) {
@@ -126,11 +128,16 @@ private:
 
     LineReferences matchStarts(std::size_t page, const NoteArea& area) {
         LineReferences matched;
+        const auto take = [&matched](const NoteStart& start, Reference* reference) {
+            if (!reference)
+                return;
+            reference->isTaken = true;
+            matched[start.line] = reference;
+        };
         for (const NoteStart& start : area.starts)
-            if (Reference* reference = isThanks(area, start) ? nullptr : referenceTo(start.mark, page)) {
-                reference->isTaken = true;
-                matched[start.line] = reference;
-            }
+            take(start, isThanks(area, start) ? nullptr : referenceTo(start.mark, page));
+        for (const NoteStart& start : area.wordStarts)
+            take(start, raisedReference(start.mark, page, area.top));
         return matched;
     }
 
@@ -149,8 +156,7 @@ private:
     /// What stands side by side below a rule may be the names in a chart; it is notes only if every mark there is one.
     void takeTable(std::size_t page, NoteArea area, std::vector<bool>& isTaken) {
         const auto isReferredTo = [&](const NoteStart& start) {
-            const Reference* reference = referenceAbove(start.mark, page, area.top);
-            return reference && !reference->isAlone;
+            return raisedReference(start.mark, page, area.top) != nullptr;
         };
         std::set<std::string> marks;
         for (const NoteStart& start : area.starts)
@@ -259,9 +265,8 @@ private:
     FoundNote& startNote(std::size_t page, const NoteArea& area, const Reference& reference) {
         if (reference.isAlone)
             raise(m_pages[reference.page], reference.box);
-        const bool isEndnote = reference.page < page || isNumeral(bareMark(reference.text));
-        m_found.notes.push_back({isEndnote ? NoteKind::Endnote : NoteKind::Footnote, reference.text, reference.page,
-                                 reference.box, pageForNote(m_pages[page]), area.left});
+        m_found.notes.push_back({document::NoteKind::Footnote, reference.text, reference.page, reference.box,
+                                 pageForNote(m_pages[page]), area.left, page});
         return m_found.notes.back();
     }
 
@@ -274,6 +279,13 @@ private:
                         span.look.verticalPosition = document::VerticalPosition::Superscript;
                         span.look.size = m_context.bodyFontSize;
                     }
+    }
+
+    /// The last page on which something is left.
+    std::size_t lastTextPage() const {
+        const auto last =
+            std::find_if(m_pages.rbegin(), m_pages.rend(), [](const PageText& page) { return !page.lines.empty(); });
+        return last == m_pages.rend() ? 0 : static_cast<std::size_t>(m_pages.rend() - last) - 1;
     }
 
     static void removeTaken(PageText& page, const std::vector<bool>& isTaken) {

@@ -19,6 +19,7 @@ struct FoundNote {
     Rect referenceBox;             ///< of the span there
     PageText content;              ///< its lines; the first word is the mark
     double left = 0;               ///< where its lines begin, on the page or in the column where it starts
+    std::size_t page = 0;          ///< index of the page where it starts
 };
 
 struct FoundNotes {
@@ -27,9 +28,8 @@ struct FoundNotes {
 };
 
 /// Takes the notes out of `pages`: text below a short rule, small text at the foot of a page, or text on pages of its
-/// own, that starts with marks which the text refers to in raised characters, or in small ones that stand alone. Notes
-/// whose references stand on pages before, or whose marks are Roman numerals, are endnotes. What nothing refers to
-/// stays in the text.
+/// own, that starts with marks which the text refers to in raised characters, or in small ones that stand alone. What
+/// nothing refers to stays in the text.
 FoundNotes takeNotes(std::vector<PageText>& pages, const DocumentContext& context, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

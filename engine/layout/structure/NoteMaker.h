@@ -8,8 +8,7 @@
 
 namespace orvane::layout {
 
-/// Puts the text of each note in order and adds the notes, and the places that refer to them, to the draft. A mark that
-/// counting does not give is kept as it is.
+/// Puts the text of each note in order and adds the notes, and the places that refer to them, to the draft.
 void makeNotes(DocumentDraft& draft, FoundNotes found, const DocumentContext& context,
                const LayoutParameters& parameters, Diagnostics& diagnostics);
 

@@ -71,6 +71,12 @@ std::string bareMark(const std::string& mark) {
     return utf8FromUtf32(bare(utf32FromUtf8(mark)));
 }
 
+std::string usualMark(const std::string& mark) {
+    std::u32string usual = utf32FromUtf8(mark);
+    std::replace(usual.begin(), usual.end(), U'\u2217', U'*');
+    return utf8FromUtf32(usual);
+}
+
 std::string markAtStart(const Word& word) {
     if (word.spans.empty())
         return {};

@@ -15,6 +15,9 @@ bool isBorrowedMark(const std::string& mark);
 /// The mark without brackets and full stops around it, by which a note is compared with its reference.
 std::string bareMark(const std::string& mark);
 
+/// The mark in the signs that word processors count in.
+std::string usualMark(const std::string& mark);
+
 /// The mark that a note's first word starts with: raised characters, or a number or sign by itself; empty for none.
 std::string markAtStart(const Word& word);
 

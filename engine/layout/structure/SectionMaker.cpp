@@ -64,6 +64,7 @@ private:
         const TextArea area = findTextArea(m_draft, m_fills, scheme, bottomMargin, m_parameters);
         DraftSection section;
         section.setup = setupOf(scheme, area.box);
+        section.countsOtherwise = (numberOf(scheme) + static_cast<int>(scheme.firstPage)) % 2 == 0;
         m_runningText.make(section, scheme);
         section.tops = area.tops;
         floatHangingPictures(first, last, area.tops);
@@ -124,6 +125,7 @@ private:
         setup.marginRight = twipsFromPoints(page.width - area.right);
         setup.marginBottom = twipsFromPoints(page.height - area.bottom);
         setup.isRightToLeft = m_context.isRightToLeft;
+        setup.lineNumbers = m_draft.lineNumbers;
         if (const auto number = firstNumber(scheme))
             setup.pageNumberFormat = number->format;
         const int expected = scheme.firstPage == 0 ? 1 : lastNumberBefore(scheme.firstPage) + 1;
@@ -138,6 +140,13 @@ private:
             if (const auto& number = m_heads[page].number)
                 return PageNumber{number->value - static_cast<int>(page - scheme.firstPage), number->format};
         return std::nullopt;
+    }
+
+    /// What word processors count the scheme's first page as.
+    int numberOf(const RunningScheme& scheme) const {
+        if (const auto number = firstNumber(scheme))
+            return number->value;
+        return scheme.firstPage == 0 ? 1 : lastNumberBefore(scheme.firstPage) + 1;
     }
 
     int lastNumberBefore(std::size_t page) const {

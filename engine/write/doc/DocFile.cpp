@@ -43,8 +43,7 @@ std::vector<WrittenSection> writeBody(DocState& state) {
     for (std::size_t i = 0; i < sections.size(); ++i) {
         writeBlocks(story, sections[i].blocks);
         endParagraph(story, i + 1 == sections.size() ? ParagraphEnd::Paragraph : ParagraphEnd::Section);
-        written.push_back(
-            {state.body.length(), sectionProperties(sections[i], state.document.footnoteCount, state.diagnostics)});
+        written.push_back({state.body.length(), sectionProperties(sections[i], state.document, state.diagnostics)});
     }
     // The last paragraph mark of these texts belongs to no note and no comment.
     for (NoteTexts* notes : {&state.footnotes, &state.endnotes})

@@ -1,6 +1,7 @@
 #include "write/doc/DocumentProperties.h"
 
 #include "write/IsoDate.h"
+#include "write/ListLevels.h"
 #include "write/doc/Bytes.h"
 
 #include <chrono>
@@ -14,8 +15,8 @@ constexpr std::size_t kPropertiesSize = 594; ///< Source: [MS-DOC] 2.7.7 (Dop200
 constexpr int kFacingPages = 0x01;
 constexpr int kNotesAtPageBottom = 1 << 5;
 constexpr int kFirstNote = 1 << 2;
-constexpr int kCountsOnEachPage = 2;     ///< Source: [MS-DOC] 2.7.2 (DopBase, rncFtn)
 constexpr int kDividesWords = 0x18 << 8; ///< Source: [MS-DOC] 2.7.2 (DopBase, fAutoHyphen, fHyphCapitals)
+constexpr int kMirroredMargins = 1 << 5; ///< Source: [MS-DOC] 2.7.2 (DopBase, fMirrorMargins)
 constexpr int kDefaultTab = 720;
 constexpr int kHyphenationZone = 360;
 constexpr int kEndnotesAtDocumentEnd = 3;
@@ -24,9 +25,8 @@ constexpr std::size_t kNoteNumbers = 492;    ///< where the formats of the notes
 constexpr std::size_t kCompatibility = 508;  ///< Source: [MS-DOC] 2.7.6 (Dop2000, copts)
 constexpr std::size_t kTableStyle = 550;     ///< Source: [MS-DOC] 2.7.7 (Dop2002, istdTableDflt)
 constexpr int kNoStyle = 0x0FFF;
-constexpr int kDecimal = 0;
-constexpr int kLowerRoman = 2;
-constexpr int kLowerRomanPlace = 6;
+constexpr int kFootnoteFormatPlace = 2; ///< Source: [MS-DOC] 2.7.2 (DopBase, nfcFtnRef and nfcEdnRef)
+constexpr int kEndnoteFormatPlace = 6;
 constexpr int kSize100 = 100 << 3;
 
 // Source: [MS-OLEPS] 2.15 (types), 3.1 (properties).
@@ -86,13 +86,19 @@ std::string propertySet(const std::vector<Property>& properties) {
 std::string documentProperties(const document::Document& document, Pages pages) {
     const int compatibility = document.spreadsBrokenLines ? kSpreadsBrokenLines : 0;
     Bytes bytes;
-    bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing ? kFacingPages : 0));
-    bytes.u16(kFirstNote | (document.footnoteCount == document::NoteCount::EachPage ? kCountsOnEachPage : 0));
-    bytes.u16(document.dividesWords ? kDividesWords : 0).zeros(2);
+    const bool isMirrored = document.hasMirroredMargins;
+    bytes.u16(kNotesAtPageBottom | (pages == Pages::Facing || isMirrored ? kFacingPages : 0));
+    const document::NoteNumbering &footnotes = document.footnoteNumbering, &endnotes = document.endnoteNumbering;
+    bytes.u16(kFirstNote | countStartCode(footnotes.count));
+    bytes.u16(document.dividesWords ? kDividesWords : 0).u16(isMirrored ? kMirroredMargins : 0);
     bytes.u16(compatibility).u16(kDefaultTab).u16(0).u16(kHyphenationZone).zeros(52 - bytes.size());
-    bytes.u16(kFirstNote).u16(kEndnotesAtDocumentEnd | kLowerRoman << kLowerRomanPlace).zeros(82 - bytes.size());
+    bytes.u16(kFirstNote | countStartCode(endnotes.count));
+    bytes.u16(kEndnotesAtDocumentEnd | numberFormatCode(footnotes.format) << kFootnoteFormatPlace |
+              numberFormatCode(endnotes.format) << kEndnoteFormatPlace);
+    bytes.zeros(82 - bytes.size());
     bytes.u16(kSize100).u16(compatibility).zeros(kNoteNumbers - bytes.size());
-    bytes.u16(kDecimal).u16(kLowerRoman).zeros(kCompatibility - bytes.size());
+    bytes.u16(numberFormatCode(footnotes.format)).u16(numberFormatCode(endnotes.format));
+    bytes.zeros(kCompatibility - bytes.size());
     // What is not set here counts too: of the spaces between two paragraphs the larger is kept, not both.
     bytes.u16(compatibility).zeros(kTableStyle - bytes.size());
     bytes.u16(kNoStyle).zeros(kPropertiesSize - bytes.size());

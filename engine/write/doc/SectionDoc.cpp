@@ -16,7 +16,6 @@ constexpr int kSmallestPage = 144;
 constexpr int kLandscape = 2;
 constexpr int kDownwards = 1;
 constexpr int kUsualSpace = 720;
-constexpr int kCountsOnEachPage = 2; ///< Source: [MS-DOC] 2.6.4 (sprmSRncFtn)
 
 /// Source: [MS-DOC] 2.6.4 (sprmSBkc).
 int startNumber(SectionStart start) {
@@ -75,9 +74,31 @@ void addPageNumbers(PropertyList& list, const Section& section) {
     list.add(sprm::kSPgnStart97, std::max(0, *section.firstPageNumber));
 }
 
+void addNoteNumbering(PropertyList& list, const Document& document) {
+    const NoteNumbering &footnotes = document.footnoteNumbering, &endnotes = document.endnoteNumbering;
+    if (footnotes.count != CountStart::Continuous)
+        list.add(sprm::kSRncFtn, countStartCode(footnotes.count));
+    if (footnotes.format != NumberFormat::Decimal)
+        list.add(sprm::kSNfcFtnRef, numberFormatCode(footnotes.format));
+    if (endnotes.count != CountStart::Continuous)
+        list.add(sprm::kSRncEdn, countStartCode(endnotes.count));
+    if (endnotes.format != NumberFormat::LowerRoman)
+        list.add(sprm::kSNfcEdnRef, numberFormatCode(endnotes.format));
+}
+
+/// Source: [MS-DOC] 2.6.4 (sprmSLnc and those beside it).
+void addLineNumbers(PropertyList& list, const LineNumbers& numbers) {
+    // 0 counts anew on each page, 1 in each section, 2 never.
+    const int count = numbers.count == CountStart::EachPage ? 0 : numbers.count == CountStart::EachSection ? 1 : 2;
+    list.add(sprm::kSLnc, count).add(sprm::kSNLnnMod, std::max(1, numbers.every));
+    list.add(sprm::kSDxaLnn, std::clamp(numbers.distance.value, 0, kLargestPage));
+    if (numbers.start != 1)
+        list.add(sprm::kSLnnMin, std::max(0, numbers.start - 1));
+}
+
 } // namespace
 
-std::string sectionProperties(const Section& section, NoteCount footnotes, Diagnostics& diagnostics) {
+std::string sectionProperties(const Section& section, const Document& document, Diagnostics& diagnostics) {
     if (std::max(section.pageWidth.value, section.pageHeight.value) > kLargestPage)
         diagnostics.add(DiagnosticKind::FormatLimitReached, 0,
                         "a page is larger than 22 inches, the most that word processors take, and was cut to that");
@@ -95,8 +116,9 @@ std::string sectionProperties(const Section& section, NoteCount footnotes, Diagn
     list.add(sprm::kSDyaBottom, margin(section.marginBottom, -kLargestPage));
     list.add(sprm::kSDyaHdrTop, margin(section.headerDistance));
     list.add(sprm::kSDyaHdrBottom, margin(section.footerDistance));
-    if (footnotes == NoteCount::EachPage)
-        list.add(sprm::kSRncFtn, kCountsOnEachPage);
+    addNoteNumbering(list, document);
+    if (section.lineNumbers)
+        addLineNumbers(list, *section.lineNumbers);
     if (section.isRightToLeft)
         list.add(sprm::kSFBiDi, 1);
     if (section.hasVerticalText)

@@ -2,6 +2,7 @@
 
 #include "write/NoteMarks.h"
 #include "write/docx/BlockXml.h"
+#include "write/docx/NumberingPart.h"
 #include "write/docx/RunXml.h"
 #include "write/docx/TextXml.h"
 #include "write/docx/XmlPart.h"
@@ -137,6 +138,13 @@ void addNotesParts(DocumentState& state, Relationships& relationships) {
         if (state.noteUses[i].home == NoteHome::Nowhere)
             state.diagnostics.add(DiagnosticKind::LinkUnresolved, state.document.notes[i].origin.page,
                                   "a note that nothing refers to was left out", state.document.notes[i].origin.box);
+}
+
+void writeNoteNumbering(XmlWriter& xml, const NoteNumbering& numbering, NumberFormat usual) {
+    if (numbering.format != usual)
+        xml.leaf("w:numFmt", {{"w:val", numberFormatName(numbering.format)}});
+    if (numbering.count != CountStart::Continuous)
+        xml.leaf("w:numRestart", {{"w:val", numbering.count == CountStart::EachPage ? "eachPage" : "eachSect"}});
 }
 
 bool hasNotes(const Document& document, NoteKind kind) {

@@ -17,6 +17,10 @@ void writeDisplacedNotes(Story& story);
 /// body.
 void addNotesParts(DocumentState& state, Relationships& relationships);
 
+/// Writes how notes are counted, as the children of w:footnotePr or w:endnotePr, where that is not `usual`.
+/// Source: ECMA-376 part 1, 17.11.17 (numFmt), 17.11.19 (numRestart).
+void writeNoteNumbering(XmlWriter& xml, const document::NoteNumbering& numbering, document::NumberFormat usual);
+
 /// Whether the document has notes of the kind.
 bool hasNotes(const document::Document& document, document::NoteKind kind);
 

@@ -105,6 +105,8 @@ const char* numberFormatName(NumberFormat format) {
         return "none";
     case NumberFormat::DecimalZero:
         return "decimalZero";
+    case NumberFormat::Symbols:
+        return "chicago";
     }
     return "decimal";
 }

@@ -1,5 +1,6 @@
 #include "write/docx/SectionXml.h"
 
+#include "write/docx/NotesPart.h"
 #include "write/docx/NumberingPart.h"
 
 #include <algorithm>
@@ -12,6 +13,18 @@ using namespace document;
 /// The largest and smallest pages that word processors have: 22 inches and a tenth of one.
 constexpr int kLargestPage = 31680;
 constexpr int kSmallestPage = 144;
+
+const char* nameOf(CountStart count) {
+    switch (count) {
+    case CountStart::Continuous:
+        return "continuous";
+    case CountStart::EachSection:
+        return "newSection";
+    case CountStart::EachPage:
+        return "newPage";
+    }
+    return "continuous";
+}
 
 const char* nameOf(SectionStart start) {
     switch (start) {
@@ -52,6 +65,17 @@ void writeMargins(XmlWriter& xml, const Section& section) {
                          {"w:gutter", 0}});
 }
 
+/// Source: ECMA-376 part 1, 17.6.8 (lnNumType).
+void writeLineNumbers(XmlWriter& xml, const LineNumbers& numbers) {
+    const XmlElement lnNumType(xml, "w:lnNumType", {{"w:countBy", std::max(1, numbers.every)}});
+    // One less than the first number, as it is counted on before each line.
+    if (numbers.start != 1)
+        xml.attribute({"w:start", std::max(0, numbers.start - 1)});
+    if (numbers.distance > Twips(0))
+        xml.attribute({"w:distance", std::min(numbers.distance.value, kLargestPage)});
+    xml.attribute({"w:restart", nameOf(numbers.count)});
+}
+
 void writePageNumbers(XmlWriter& xml, const Section& section) {
     const XmlElement pgNumType(xml, "w:pgNumType", EmptyElement::Omit);
     if (section.pageNumberFormat != NumberFormat::Decimal)
@@ -78,15 +102,28 @@ void writeColumns(XmlWriter& xml, const Section& section) {
     }
 }
 
+/// The settings say the same, which not all readers ask.
+void writeNoteNumberings(XmlWriter& xml, const Document& document) {
+    {
+        const XmlElement footnotes(xml, "w:footnotePr", EmptyElement::Omit);
+        writeNoteNumbering(xml, document.footnoteNumbering, NumberFormat::Decimal);
+    }
+    const XmlElement endnotes(xml, "w:endnotePr", EmptyElement::Omit);
+    writeNoteNumbering(xml, document.endnoteNumbering, NumberFormat::LowerRoman);
+}
+
 } // namespace
 
 void writeSection(DocumentState& state, XmlWriter& xml, Relationships& relationships, const Section& section) {
     const XmlElement sectPr(xml, "w:sectPr");
     state.runningTexts.writeReferences(state, xml, relationships, section);
+    writeNoteNumberings(xml, state.document);
     if (section.start != SectionStart::NextPage)
         xml.leaf("w:type", {{"w:val", nameOf(section.start)}});
     writePage(state, xml, section);
     writeMargins(xml, section);
+    if (section.lineNumbers)
+        writeLineNumbers(xml, *section.lineNumbers);
     writePageNumbers(xml, section);
     writeColumns(xml, section);
     if (section.header.firstPage || section.footer.firstPage)

@@ -10,10 +10,9 @@ namespace {
 constexpr const char* kCompatibilityMode = "15";
 
 void writeNoteProperties(XmlWriter& xml, std::string_view properties, std::string_view note,
-                         document::NoteCount count) {
+                         const document::NoteNumbering& numbering, document::NumberFormat usual) {
     const XmlElement element(xml, properties);
-    if (count == document::NoteCount::EachPage)
-        xml.leaf("w:numRestart", {{"w:val", "eachPage"}});
+    writeNoteNumbering(xml, numbering, usual);
     // The lines that separate notes from the text.
     xml.leaf(note, {{"w:id", -1}});
     xml.leaf(note, {{"w:id", 0}});
@@ -47,6 +46,8 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
         xml.leaf("w:embedTrueTypeFonts");
         xml.leaf("w:saveSubsetFonts");
     }
+    if (state.document.hasMirroredMargins)
+        xml.leaf("w:mirrorMargins");
     xml.leaf("w:defaultTabStop", {{"w:val", 720}});
     if (state.document.dividesWords)
         xml.leaf("w:autoHyphenation");
@@ -54,9 +55,11 @@ void addSettingsPart(DocumentState& state, Relationships& relationships) {
         xml.leaf("w:evenAndOddHeaders");
     xml.leaf("w:characterSpacingControl", {{"w:val", "doNotCompress"}});
     if (hasNotes(state.document, document::NoteKind::Footnote))
-        writeNoteProperties(xml, "w:footnotePr", "w:footnote", state.document.footnoteCount);
+        writeNoteProperties(xml, "w:footnotePr", "w:footnote", state.document.footnoteNumbering,
+                            document::NumberFormat::Decimal);
     if (hasNotes(state.document, document::NoteKind::Endnote))
-        writeNoteProperties(xml, "w:endnotePr", "w:endnote", document::NoteCount::Continuous);
+        writeNoteProperties(xml, "w:endnotePr", "w:endnote", state.document.endnoteNumbering,
+                            document::NumberFormat::LowerRoman);
     writeCompatibility(xml, state.document);
     xml.leaf("w:decimalSymbol", {{"w:val", "."}});
     xml.leaf("w:listSeparator", {{"w:val", ","}});

@@ -73,13 +73,14 @@ void writeDocumentProperties(RtfState& state, RtfStream& rtf, const Section& fir
     // Of the spaces below one paragraph and above the next the larger counts, as in the other formats.
     rtf.word("htmautsp");
     rtf.word("ftnbj");
-    if (state.document.footnoteCount == document::NoteCount::EachPage)
-        rtf.word("ftnrstpg");
+    writeNoteNumbering(rtf, "ftn", state.document.footnoteNumbering);
     rtf.word("aenddoc");
-    rtf.word("aftnnrlc");
+    writeNoteNumbering(rtf, "aftn", state.document.endnoteNumbering);
     rtf.word("fet", noteKinds(state.document));
-    if (running.hasEvenPages())
+    if (running.hasEvenPages() || state.document.hasMirroredMargins)
         rtf.word("facingp");
+    if (state.document.hasMirroredMargins)
+        rtf.word("margmirror");
     rtf.word("viewkind", 1);
     if (state.document.pageColor)
         writePageColor(rtf, *state.document.pageColor);

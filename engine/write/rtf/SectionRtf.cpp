@@ -41,9 +41,32 @@ const char* wordFor(NumberFormat format) {
     case NumberFormat::Bullet:
     case NumberFormat::None:
     case NumberFormat::DecimalZero:
+    case NumberFormat::Symbols:
         return "pgndec";
     }
     return "pgndec";
+}
+
+/// The signs of notes; the kind of note stands before it.
+const char* wordFor(const NoteNumbering& numbering) {
+    switch (numbering.format) {
+    case NumberFormat::LowerRoman:
+        return "nrlc";
+    case NumberFormat::UpperRoman:
+        return "nruc";
+    case NumberFormat::LowerLetter:
+        return "nalc";
+    case NumberFormat::UpperLetter:
+        return "nauc";
+    case NumberFormat::Symbols:
+        return "nchi";
+    case NumberFormat::Decimal:
+    case NumberFormat::Bullet:
+    case NumberFormat::None:
+    case NumberFormat::DecimalZero:
+        return "nar";
+    }
+    return "nar";
 }
 
 int pageLength(Twips value) {
@@ -52,6 +75,25 @@ int pageLength(Twips value) {
 
 int margin(Twips value, int least = 0) {
     return std::clamp(value.value, least, kLargestPage);
+}
+
+/// Source: RTF 1.9.1, "Section Formatting Properties" (line numbering).
+void writeLineNumbers(RtfStream& rtf, const LineNumbers& numbers) {
+    rtf.word("linemod", std::max(1, numbers.every));
+    rtf.word("linex", std::clamp(numbers.distance.value, 0, kLargestPage));
+    if (numbers.start != 1)
+        rtf.word("linestarts", numbers.start);
+    switch (numbers.count) {
+    case CountStart::Continuous:
+        rtf.word("linecont");
+        return;
+    case CountStart::EachSection:
+        rtf.word("linerestart");
+        return;
+    case CountStart::EachPage:
+        rtf.word("lineppage");
+        return;
+    }
 }
 
 void writeColumns(RtfStream& rtf, const Section& section) {
@@ -72,6 +114,14 @@ void writeColumns(RtfStream& rtf, const Section& section) {
 
 } // namespace
 
+void writeNoteNumbering(RtfStream& rtf, const std::string& kind, const NoteNumbering& numbering) {
+    rtf.word(kind + wordFor(numbering));
+    if (numbering.count == CountStart::EachPage)
+        rtf.word(kind + "rstpg");
+    else if (numbering.count == CountStart::EachSection)
+        rtf.word(kind + "restart");
+}
+
 void writeDocumentPage(RtfStream& rtf, const Section& section) {
     rtf.word("paperw", pageLength(section.pageWidth));
     rtf.word("paperh", pageLength(section.pageHeight));
@@ -87,8 +137,8 @@ void writeSectionProperties(RtfState& state, RtfStream& rtf, const Section& sect
             DiagnosticKind::FormatLimitReached, 0,
             "a page is larger than 22 inches, the most that word processors take, and was cut to that");
     rtf.word("sectd");
-    if (state.document.footnoteCount == NoteCount::EachPage)
-        rtf.word("sftnrstpg");
+    writeNoteNumbering(rtf, "sftn", state.document.footnoteNumbering);
+    writeNoteNumbering(rtf, "saftn", state.document.endnoteNumbering);
     rtf.word(section.isRightToLeft ? "rtlsect" : "ltrsect");
     rtf.word(wordFor(section.start));
     rtf.word("pgwsxn", pageLength(section.pageWidth));
@@ -106,6 +156,8 @@ void writeSectionProperties(RtfState& state, RtfStream& rtf, const Section& sect
         rtf.word("pgnstarts", std::max(0, *section.firstPageNumber));
         rtf.word("pgnrestart");
     }
+    if (section.lineNumbers)
+        writeLineNumbers(rtf, *section.lineNumbers);
     writeColumns(rtf, section);
     if (section.header.firstPage || section.footer.firstPage)
         rtf.word("titlepg");

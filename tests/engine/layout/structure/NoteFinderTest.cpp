@@ -91,6 +91,14 @@ TEST(NoteFinder, TakesWhatTheTextRefersTo) {
     EXPECT_DOUBLE_EQ(found.areas[0].top, 700);
 }
 
+TEST(NoteFinder, TakesLettersOnTheLineThatTheTextRefersTo) {
+    std::vector<PageText> pages{pageWithText(1, {"some text^a and more^b here"})};
+    addNotes(pages[0], {"a the first note, which goes on in", "a second line", "b the second note"});
+    EXPECT_EQ(notesOf(take(pages)),
+              "foot a@1: a the first note, which goes on in a second line\nfoot b@1: b the second note\n")
+        << "the second a is a word";
+}
+
 TEST(NoteFinder, LeavesWhatNothingRefersTo) {
     struct Row {
         const char* text;

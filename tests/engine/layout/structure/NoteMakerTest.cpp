@@ -2,52 +2,12 @@
 
 #include "engine/layout/DraftSupport.h"
 
-#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 namespace orvane::layout {
 namespace {
 
-using document::NoteCount;
 using document::NoteKind;
-
-struct Mark {
-    std::size_t page = 0;
-    std::string text;
-    NoteKind kind = NoteKind::Footnote;
-};
-
-/// The marks that stay as they are, "-" for those that a word processor counts, after the way of counting.
-std::string countedFrom(const std::vector<Mark>& marks) {
-    FoundNotes found;
-    found.areas.resize(10);
-    for (const Mark& mark : marks) {
-        FoundNote note{mark.kind, mark.text, mark.page, {}, tests::makePage(1)};
-        note.content.lines = {tests::makeLine(mark.text + " text of the note", 72, 700)};
-        found.notes.push_back(std::move(note));
-    }
-    DocumentDraft draft = tests::makeDraft(10);
-    Diagnostics diagnostics;
-    makeNotes(draft, std::move(found), {}, {}, diagnostics);
-    std::string text = draft.footnoteCount == NoteCount::EachPage ? "each page:" : "all:";
-    for (const DraftNoteReference& reference : draft.noteReferences)
-        text += fmt::format(" {}", reference.customMark.empty() ? "-" : reference.customMark);
-    return text;
-}
-
-TEST(NoteMaker, LeavesMarksToTheWordProcessorThatCountingGives) {
-    EXPECT_EQ(countedFrom({{0, "1"}, {0, "2"}, {3, "3"}, {3, "i", NoteKind::Endnote}, {4, "4"}}), "all: - - - - -");
-}
-
-TEST(NoteMaker, KeepsMarksOfTheAuthorsOwn) {
-    EXPECT_EQ(countedFrom({{0, "*"}, {0, "1"}, {1, "2"}, {2, "7"}}), "all: * - - 7");
-}
-
-TEST(NoteMaker, KnowsMarksThatCountOnEachPage) {
-    EXPECT_EQ(countedFrom({{0, "1"}, {0, "2"}, {3, "1"}, {4, "1"}, {4, "2"}, {4, "3"}}), "each page: - - - - - -");
-    EXPECT_EQ(countedFrom({{0, "1"}, {1, "1"}, {1, "*"}, {1, "i", NoteKind::Endnote}, {2, "ii", NoteKind::Endnote}}),
-              "each page: - - * - -");
-}
 
 TEST(NoteMaker, MeasuresNotesFromTheColumnAtWhoseFootTheyStand) {
     const struct {

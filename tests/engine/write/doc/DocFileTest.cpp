@@ -115,10 +115,32 @@ TEST(DocFile, IsRefusedWhereNothingCanBeWritten) {
 TEST(DocFile, CountsNotesOnEachPage) {
     Document document = documentOf("a");
     EXPECT_EQ(WrittenDoc(document).read().table(31).substr(2, 2), std::string("\x4\0", 2));
-    document.footnoteCount = NoteCount::EachPage;
+    document.footnoteNumbering.count = CountStart::EachPage;
     const WrittenDoc doc(document);
     EXPECT_EQ(doc.read().table(31).substr(2, 2), std::string("\x6\0", 2)) << "for the document";
     EXPECT_THAT(bytesOf(doc.file()), HasSubstr(std::string("\x3C\x30\x2", 3))) << "and for its section";
+}
+
+TEST(DocFile, CountsNotesInTheSignsOfTheDocument) {
+    Document document = documentOf("a");
+    document.footnoteNumbering = {NumberFormat::LowerLetter, CountStart::EachSection};
+    document.endnoteNumbering = {NumberFormat::Decimal, CountStart::Continuous};
+    const WrittenDoc doc(document);
+    const std::string properties = doc.read().table(31);
+    EXPECT_EQ(properties.substr(2, 2), std::string("\x5\0", 2));
+    EXPECT_EQ(properties.substr(492, 4), std::string("\x4\0\0\0", 4));
+    EXPECT_THAT(bytesOf(doc.file()), HasSubstr(std::string("\x3C\x30\x1\x40\x50\x4\0\x42\x50\0\0", 11)));
+}
+
+TEST(DocFile, MirrorsMarginsAndNumbersLines) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDoc(document).read().table(31)[6], 0);
+    document.hasMirroredMargins = true;
+    document.sections[0].lineNumbers = LineNumbers{5, 1, CountStart::EachSection, Twips(200)};
+    const WrittenDoc doc(document);
+    EXPECT_EQ(doc.read().table(31)[6], 1 << 5);
+    EXPECT_EQ(doc.read().table(31)[0] & 1, 1) << "pages that face each other";
+    EXPECT_THAT(bytesOf(doc.file()), HasSubstr(std::string("\x13\x30\x1\x15\x50\x5\0\x16\x90\xC8\0", 11)));
 }
 
 TEST(DocFile, IsWholeWithoutSectionsAndStyles) {

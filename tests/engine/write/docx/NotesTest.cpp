@@ -49,10 +49,26 @@ TEST(Notes, CountOnEachPageWhereTheSettingsSaySo) {
     Document document = documentOf(paragraph({noteMark(0), noteMark(1)}));
     document.notes = {note("foot"), note("end", NoteKind::Endnote)};
     EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:numRestart"), "");
-    document.footnoteCount = NoteCount::EachPage;
+    document.footnoteNumbering.count = CountStart::EachPage;
     EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//*[w:numRestart/@w:val='eachPage']"),
               normalXml("<w:footnotePr><w:numRestart w:val='eachPage'/><w:footnote w:id='-1'/><w:footnote w:id='0'/>"
                         "</w:footnotePr>"));
+}
+
+TEST(Notes, CountInTheSignsOfTheDocument) {
+    Document document = documentOf(paragraph({noteMark(0), noteMark(1)}));
+    document.notes = {note("foot"), note("end", NoteKind::Endnote)};
+    document.footnoteNumbering = {NumberFormat::Symbols, CountStart::EachSection};
+    document.endnoteNumbering = {NumberFormat::Decimal, CountStart::Continuous};
+    const WrittenDocument written(document);
+    EXPECT_EQ(written.select("word/settings.xml", "//w:footnotePr/*[not(self::w:footnote)]"),
+              normalXml("<w:numFmt w:val='chicago'/><w:numRestart w:val='eachSect'/>"));
+    EXPECT_EQ(written.select("word/settings.xml", "//w:endnotePr/*[not(self::w:endnote)]"),
+              normalXml("<w:numFmt w:val='decimal'/>"));
+    EXPECT_EQ(written.body("//w:sectPr/w:footnotePr | //w:sectPr/w:endnotePr"),
+              normalXml("<w:footnotePr><w:numFmt w:val='chicago'/><w:numRestart w:val='eachSect'/></w:footnotePr>"
+                        "<w:endnotePr><w:numFmt w:val='decimal'/></w:endnotePr>"))
+        << "some readers ask the section only";
 }
 
 TEST(Notes, KeepTheirOwnMarks) {

@@ -67,6 +67,24 @@ TEST(SectionXml, WritesHowASectionStartsAndRuns) {
               normalXml("<w:type w:val='continuous'/><w:textDirection w:val='tbRl'/><w:bidi/>"));
 }
 
+TEST(SectionXml, NumbersLines) {
+    Section one;
+    one.lineNumbers = LineNumbers{};
+    EXPECT_EQ(sectionProperties(one, "w:lnNumType"), normalXml("<w:lnNumType w:countBy='1' w:restart='newPage'/>"));
+    one.lineNumbers = LineNumbers{5, 11, CountStart::Continuous, Twips(200)};
+    EXPECT_EQ(sectionProperties(one, "w:lnNumType"),
+              normalXml("<w:lnNumType w:countBy='5' w:start='10' w:distance='200' w:restart='continuous'/>"))
+        << "it names the number before the first";
+}
+
+TEST(SectionXml, MirrorsMargins) {
+    Document document = documentOf("a");
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:mirrorMargins"), "");
+    document.hasMirroredMargins = true;
+    EXPECT_EQ(WrittenDocument(document).select("word/settings.xml", "//w:mirrorMargins"),
+              normalXml("<w:mirrorMargins/>"));
+}
+
 TEST(SectionXml, CutsPagesToTheLargestThatIsAllowed) {
     Document document = documentOf("a");
     document.sections[0].pageWidth = Twips(40000);

@@ -36,9 +36,30 @@ TEST(RtfSection, HasItsPageAndNumbers) {
 TEST(RtfSection, CountsNotesOnEachPage) {
     Document document = documentOf("a");
     EXPECT_FALSE(WrittenRtf(document).has("\\ftnrstpg"));
-    document.footnoteCount = NoteCount::EachPage;
+    document.footnoteNumbering.count = CountStart::EachPage;
     EXPECT_TRUE(WrittenRtf(document).has("\\ftnrstpg"));
     EXPECT_TRUE(WrittenRtf(document).has("\\sftnrstpg"));
+}
+
+TEST(RtfSection, CountsNotesInTheSignsOfTheDocument) {
+    Document document = documentOf("a");
+    document.footnoteNumbering = {NumberFormat::LowerLetter, CountStart::EachSection};
+    document.endnoteNumbering = {NumberFormat::Symbols, CountStart::Continuous};
+    const WrittenRtf rtf(document);
+    EXPECT_TRUE(rtf.has("\\ftnnalc\\ftnrestart"));
+    EXPECT_TRUE(rtf.has("\\sftnnalc\\sftnrestart"));
+    EXPECT_TRUE(rtf.has("\\aftnnchi"));
+    EXPECT_TRUE(rtf.has("\\saftnnchi"));
+}
+
+TEST(RtfSection, MirrorsMarginsAndNumbersLines) {
+    Document document = documentOf("a");
+    EXPECT_FALSE(WrittenRtf(document).has("\\margmirror"));
+    document.hasMirroredMargins = true;
+    document.sections[0].lineNumbers = LineNumbers{5, 1, CountStart::Continuous, Twips(200)};
+    const WrittenRtf rtf(document);
+    EXPECT_TRUE(rtf.has("\\facingp\\margmirror"));
+    EXPECT_TRUE(rtf.has("\\linemod5\\linex200\\linecont"));
 }
 
 TEST(RtfSection, HasRunningTextsForKindsOfPages) {
