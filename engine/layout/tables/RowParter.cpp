@@ -3,6 +3,7 @@
 #include "layout/tables/CellPieces.h"
 #include "layout/tables/PairedLines.h"
 #include "layout/tables/RowGrouper.h"
+#include "layout/tables/RowParts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -205,35 +206,17 @@ TableGrid partAtTextRows(const TableGrid& grid, const std::vector<Line>& lines,
             bands[static_cast<std::size_t>(grid.cells[i].row)].push_back({i, std::move(pieces[i]), false});
 
     const BandReader reader(grid, lines, parameters);
-    std::vector<int> newRow; // of each old row, and of what follows the last
+    std::vector<std::vector<double>> edges;
     std::vector<char> isParted(grid.cells.size(), 0);
-    TableGrid parted{grid.columnEdges, {}, {}};
-    for (std::size_t row = 0; row < bands.size(); ++row) {
-        newRow.push_back(static_cast<int>(parted.rowEdges.size()));
-        parted.rowEdges.push_back(grid.rowEdges[row]);
-        TextRows rows = reader.read(bands[row]);
+    for (std::vector<BandCell>& band : bands) {
+        TextRows rows = reader.read(band);
         if (rows.tops.empty() && arePaired)
-            rows = reader.readLines(bands[row]);
-        parted.rowEdges.insert(parted.rowEdges.end(), rows.tops.begin(), rows.tops.end());
-        for (const BandCell& cell : bands[row])
+            rows = reader.readLines(band);
+        for (const BandCell& cell : band)
             isParted[cell.cell] = !rows.tops.empty() && followsRows(cell, rows, parameters);
+        edges.push_back(std::move(rows.tops));
     }
-    newRow.push_back(static_cast<int>(parted.rowEdges.size()));
-    parted.rowEdges.push_back(grid.rowEdges.back());
-
-    for (std::size_t i = 0; i < grid.cells.size(); ++i) {
-        const GridCell& cell = grid.cells[i];
-        const int first = newRow[static_cast<std::size_t>(cell.row)];
-        const int end = newRow[static_cast<std::size_t>(cell.row + cell.rowSpan)];
-        for (int row = first; isParted[i] && row < end; ++row)
-            parted.cells.push_back({row, cell.column, 1, cell.columnSpan});
-        if (!isParted[i])
-            parted.cells.push_back({first, cell.column, end - first, cell.columnSpan});
-    }
-    std::sort(parted.cells.begin(), parted.cells.end(), [](const GridCell& a, const GridCell& b) {
-        return a.row != b.row ? a.row < b.row : a.column < b.column;
-    });
-    return parted;
+    return partRows(grid, edges, isParted);
 }
 
 } // namespace orvane::layout

@@ -1,6 +1,7 @@
 #include "layout/tables/RuledTableFinder.h"
 
 #include "layout/tables/ColumnParter.h"
+#include "layout/tables/GroundRows.h"
 #include "layout/tables/NestedGrids.h"
 #include "layout/tables/NumberColumns.h"
 #include "layout/tables/RowParter.h"
@@ -37,7 +38,8 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
                 grids.push_back(std::move(inner));
         if (!isFound)
             continue;
-        TableGrid parted = partAtNumbers(partAtColumns(found.grid, page.lines, parameters), page.lines, parameters);
+        TableGrid parted = partAtColumns(partAtGrounds(found.grid, page, parameters), page.lines, parameters);
+        parted = partAtNumbers(parted, page.lines, parameters);
         parted = partAtTextRows(parted, page.lines, parameters);
         const bool isBetter = parted.cells != found.grid.cells && isTable(page, parted, 0, parameters);
         grids.push_back(isBetter ? std::move(parted) : std::move(found.grid));
