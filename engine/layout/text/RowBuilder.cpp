@@ -114,6 +114,8 @@ std::vector<TextRow> buildRows(std::vector<Cluster> clusters, const TextParamete
     const TextParameters::Rows& limits = parameters.rows;
     std::vector<TextStrip> strips = cutStrips(std::move(clusters), parameters);
     sortByBaseline(strips);
+    joinShifted(strips, parameters);
+    sortByBaseline(strips);
     joinScripts(strips, parameters);
     sortByBaseline(strips);
 

@@ -75,6 +75,39 @@ std::optional<Host> findHost(const std::vector<TextStrip>& strips, std::size_t i
     return best;
 }
 
+/// Whether a few letters of the host's size stand higher or lower than it.
+bool isShiftedFrom(const TextStrip& strip, const TextStrip& host, const TextParameters::Scripts& limits) {
+    const double ratio = strip.size / host.size;
+    return !host.isBlank() && host.baseline != strip.baseline &&
+           std::abs(host.baseline - strip.baseline) <= limits.greatestShift * host.size &&
+           ratio > limits.largestRatio && ratio * limits.largestRatio < 1;
+}
+
+/// The baseline of the letters on both sides of a strip that is shifted against them; nothing for other strips.
+std::optional<double> baselineAround(const std::vector<TextStrip>& strips, std::size_t i,
+                                     const TextParameters& parameters) {
+    const TextParameters::Scripts& limits = parameters.scripts;
+    const TextStrip& strip = strips[i];
+    if (strip.isBlank() || strip.inkCount > limits.shiftedLetters)
+        return std::nullopt;
+    const TextStrip *before = nullptr, *after = nullptr;
+    const auto touches = [&](double gap) {
+        return gap <= limits.shiftedGap * strip.size && gap >= -limits.overlap * strip.size;
+    };
+    visitNear(strips, i, limits.greatestShift * strip.size / limits.largestRatio, limits.mostNeighbours,
+              [&](std::size_t j) {
+                  if (!isShiftedFrom(strip, strips[j], limits))
+                      return;
+                  if (touches(strip.start - strips[j].end))
+                      before = &strips[j];
+                  if (touches(strips[j].start - strip.end))
+                      after = &strips[j];
+              });
+    const bool isWithinWord =
+        before && after && std::abs(before->baseline - after->baseline) <= parameters.rows.stripRise * before->size;
+    return isWithinWord ? std::optional(before->baseline) : std::nullopt;
+}
+
 /// A single large letter whose baseline is that of a later line and whose top is that of the first one.
 bool isDropCap(const TextStrip& cap, const TextStrip& firstLine, const TextParameters::Scripts& limits) {
     const double depth = cap.baseline - firstLine.baseline;
@@ -141,6 +174,19 @@ void joinDropCaps(std::vector<TextStrip>& strips, const TextParameters::Scripts&
 }
 
 } // namespace
+
+void joinShifted(std::vector<TextStrip>& strips, const TextParameters& parameters) {
+    std::vector<std::optional<double>> baselines(strips.size());
+    for (std::size_t i = 0; i < strips.size(); ++i)
+        baselines[i] = baselineAround(strips, i, parameters);
+    for (std::size_t i = 0; i < strips.size(); ++i) {
+        if (!baselines[i])
+            continue;
+        strips[i].baseline = *baselines[i];
+        for (Cluster& cluster : strips[i].clusters)
+            cluster.baseline = *baselines[i];
+    }
+}
 
 void joinScripts(std::vector<TextStrip>& strips, const TextParameters& parameters) {
     const TextParameters::Scripts& limits = parameters.scripts;

@@ -137,6 +137,9 @@ struct TextParameters {
         double dropCapLeading = 1.2;      ///< baseline to baseline, where the cap stands beside a single line
         unsigned dropCapLetters = 2;      ///< a quotation mark may stand before the letter
         double capitalHeight = 0.7;       ///< of a font's own size
+        unsigned shiftedLetters = 3;      ///< that stand higher or lower within a word: the E of a logo
+        double greatestShift = 0.35;      ///< of their baseline
+        double shiftedGap = 0.15;         ///< between them and the letters on both sides
     } scripts;
 
     /// SmallCaps.

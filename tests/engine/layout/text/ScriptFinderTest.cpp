@@ -30,6 +30,23 @@ TEST(ScriptFinder, KeepsScriptsInTheirWords) {
     EXPECT_EQ(line.fontSize, 10);
 }
 
+TEST(ScriptFinder, KeepsShiftedLettersInTheirWords) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, "See T", 10);
+    x = page.text(x - 1.6, 102.3, "E", 10);
+    x = page.text(x - 1.2, 100, "X on a", 10);
+    x = page.text(x, 97.6, "_", 10);
+    x = page.text(x, 100, "name", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("See TEX on a_name"));
+}
+
+TEST(ScriptFinder, LeavesLettersThatStandBesideOneLineOnly) {
+    PageContentBuilder page;
+    const double x = page.text(72, 100, "one", 10);
+    page.text(x, 102.3, "E", 10);
+    EXPECT_EQ(linesOf(page).size(), 2u) << "nothing tells which line it belongs to";
+}
+
 TEST(ScriptFinder, JoinsANoteMarkBeforeItsNote) {
     PageContentBuilder page;
     const double x = page.text(72, 696, "1", 5);
