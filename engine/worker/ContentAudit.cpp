@@ -5,12 +5,15 @@
 #include "worker/WrittenContent.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 #include <fmt/format.h>
 
 namespace orvane::worker {
 namespace {
+
+constexpr double kSameLength = 1; // points
 
 /// Compares one page.
 class PageAudit {
@@ -26,7 +29,7 @@ public:
     /// `notes`: letters of notes that may go on from the page before. Gives those that may go on after this one.
     std::size_t compareLetters(std::size_t notes) {
         notes += m_ofPage.noteLetters;
-        const std::size_t inText = std::min(m_ofPage.letters, m_page.letters);
+        const std::size_t inText = std::min(m_ofPage.letters + digitsBesideLines(), m_page.letters);
         const std::size_t inNotes = std::min(notes, m_page.letters - inText);
         tell(m_page.letters - inText - inNotes, m_page.letters, "letters");
         return notes - inNotes;
@@ -73,11 +76,27 @@ private:
         return m_ofPage.text.find(utf8FromUtf32(text)) != std::string::npos;
     }
 
+    /// At most so many of the numbers in the margin, which the word processor counts.
+    std::size_t digitsBesideLines() const {
+        constexpr std::size_t kDigits = 4;
+        const auto every = static_cast<std::size_t>(m_ofPage.numbersEvery);
+        return every == 0 ? 0 : kDigits * (m_page.lines / every + 1);
+    }
+
+    /// On pages that lay on their side figures stand elsewhere, in the same size.
+    static bool isTurned(const Rect& picture, const Rect& figure) {
+        return std::abs(picture.width() - figure.height()) < kSameLength &&
+               std::abs(picture.height() - figure.width()) < kSameLength;
+    }
+
     static bool isCovered(const Rect& picture, const std::vector<Rect>& figures) {
         constexpr double kMostOfIt = 0.5;
         double covered = 0;
-        for (const Rect& figure : figures)
+        for (const Rect& figure : figures) {
+            if (isTurned(picture, figure))
+                return true;
             covered += picture.intersected(figure).area();
+        }
         return covered >= kMostOfIt * picture.area();
     }
 

@@ -75,6 +75,7 @@ PageInventory inventoryOf(const pdf::PageContent& page, const std::vector<pdf::F
                           const layout::PageText& text, const layout::TextParameters& parameters) {
     PageInventory inventory;
     inventory.page = page.number;
+    inventory.lines = text.lines.size();
     inventory.isScanned = text.isScanned;
     countGlyphs(page, text, parameters, inventory);
     for (const pdf::Picture& picture : page.pictures)

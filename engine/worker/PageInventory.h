@@ -22,6 +22,7 @@ struct FieldValue {
 /// What a page of the source holds that must be in the document.
 struct PageInventory {
     int page = 0;               ///< 1-based
+    std::size_t lines = 0;      ///< of text, the parts of a row counted each
     std::size_t characters = 0; ///< without blanks
     std::size_t letters =
         0; ///< letters and digits that the page shows as text; those in pictures, drawings and formulas left out

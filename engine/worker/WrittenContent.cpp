@@ -287,6 +287,8 @@ void addRunningTexts(const std::vector<Section>& sections, const PageSpan& sourc
             const bool isFirst = page == spans[i].first;
             const std::size_t all = isFirst ? header.first + footer.first : header.others + footer.others;
             letters[page] = std::max(letters[page], all);
+            if (sections[i].lineNumbers)
+                content.pages[page].numbersEvery = std::max(1, sections[i].lineNumbers->every);
         }
     }
     for (const auto& [page, count] : letters)

@@ -15,6 +15,7 @@ namespace orvane::worker {
 struct WrittenPage {
     std::size_t letters = 0;     ///< letters and digits; what word processors write (labels, marks of notes) among them
     std::size_t noteLetters = 0; ///< those of notes that start here, left out above
+    int numbersEvery = 0;        ///< so many lines have one number in the margin; 0 for none
     std::string text;            ///< all of it without blanks, UTF-8
     std::vector<Rect> figures;   ///< pictures and drawings; page space
     std::size_t innerLinks = 0;  ///< that lead to places of the document; the marks of notes among them

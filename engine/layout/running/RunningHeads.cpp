@@ -65,9 +65,10 @@ void sortLines(PageText& page) {
 /// Moves the elements for which `isPart` holds from one vector to the other.
 template<typename T, typename Predicate>
 void moveParts(std::vector<T>& from, std::vector<T>& to, const Predicate& isPart) {
-    const auto first = std::stable_partition(from.begin(), from.end(), [&](const T& item) { return !isPart(item); });
-    std::move(first, from.end(), std::back_inserter(to));
-    from.erase(first, from.end());
+    std::vector<T> rest;
+    for (T& item : from)
+        (isPart(item) ? to : rest).push_back(std::move(item));
+    from = std::move(rest);
 }
 
 /// Moves the rules that the page shares with most others to its heads.

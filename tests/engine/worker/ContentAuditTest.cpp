@@ -139,6 +139,15 @@ TEST(ContentAudit, FindsHeadsOnEachPageOfTheirSection) {
     EXPECT_EQ(audit({pageWith(4), pageWith(8, 2)}, document).size(), 2U);
 }
 
+TEST(ContentAudit, LeavesTheNumbersOfLinesToTheWordProcessor) {
+    Document document = documentOf({paragraphOf({textInline("abc")})});
+    PageInventory page = pageWith(3 + 2 * 2);
+    page.lines = 10;
+    EXPECT_EQ(audit({page}, document).size(), 1U);
+    document.sections[0].lineNumbers.emplace().every = 5;
+    EXPECT_EQ(audit({page}, document), kNothing);
+}
+
 TEST(ContentAudit, FindsHeadRowsOnEachPageOfTheirTable) {
     Table table;
     table.origin.page = 1;
@@ -161,7 +170,10 @@ TEST(ContentAudit, TellsOfPicturesThatNothingCovers) {
     PageInventory page = pageWith(0);
     page.pictures = {{0, 0, 50, 100}, {50, 0, 100, 100}, {300, 0, 350, 50}};
     EXPECT_EQ(audit({page}, document), kNothing);
-    page.pictures.push_back({200, 200, 300, 300});
+    page.pictures.push_back({200, 200, 240, 260});
+    document.sections[0].blocks.push_back({Figure{Picture{}, {}, {1, {400, 400, 460, 440}}}});
+    EXPECT_EQ(audit({page}, document), kNothing) << "on its side";
+    page.pictures.back() = {200, 200, 300, 300};
     EXPECT_EQ(audit({page}, document), (std::vector<Told>{{1, "1 of 4 pictures are not in the document"}}));
     EXPECT_EQ(audit({page}, document, {false, true}), kNothing);
     page.isScanned = true;
