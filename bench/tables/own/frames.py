@@ -131,3 +131,26 @@ def three_small_tables_in_two_columns(d, v):
         regions = v.rows(("North", "Centre", "South", "Islands"), 3, 10, 9000)
         d.table([3, 1.5, 1.5, 1.5], ["Region|2007|2008|2009", *regions], Look(rules=BOOKED))
         d.add(CLOSING)
+
+
+@trap(size=10)
+def filled_head_without_a_rule_below(d, v):
+    d.add(RUNNING)
+    d.table([3, 3, 3, 3, 3], [
+        "Planned|Earned|Spent|Schedule|Cost",
+        "Hours a week|Hours a week|Money|Index|Index"],
+        Look(align="lllll", fill={0: "#999999"}, rules=((0, ABOVE), (-1, BELOW)), columns_ruled=(0, 1, 2, 3, 4, 5)))
+    d.add(CLOSING)
+
+
+@trap(size=10)
+def many_rows_of_texts_in_one_drawn_row(d, v):
+    d.add(RUNNING)
+    d.table([3, 8], [
+        "Unit|What it is",
+        *(f"{unit}|{meaning}" for unit, meaning in (
+            ("acre", "a field that a pair of oxen plough in one day"), ("bushel", "eight gallons of grain"),
+            ("chain", "the length of a cricket pitch"), ("dram", "a little drink"), ("ell", "six hands of cloth"),
+            ("furlong", "as long as a furrow"), ("gill", "a quarter of a pint"), ("hand", "the height of horses")))],
+        Look(align="ll", rules=((0, ABOVE), (0, BELOW), (-1, BELOW)), columns_ruled=(0, 1, 2)))
+    d.add(CLOSING)
