@@ -3,6 +3,7 @@
 #include "layout/tables/RowParts.h"
 
 #include <algorithm>
+#include <span>
 
 namespace orvane::layout {
 namespace {
@@ -10,8 +11,22 @@ namespace {
 /// An edge of a ground, upper or lower.
 struct GroundEdge {
     double y = 0;
-    double width = 0;
+    double left = 0;
+    double right = 0;
 };
+
+/// How much of the width the edges cover; grounds may be painted one over the other.
+double covered(std::span<const GroundEdge> edges) {
+    std::vector<GroundEdge> sorted(edges.begin(), edges.end());
+    std::sort(sorted.begin(), sorted.end(), [](const GroundEdge& a, const GroundEdge& b) { return a.left < b.left; });
+    double width = 0;
+    double reach = sorted.front().left;
+    for (const GroundEdge& edge : sorted) {
+        width += std::max(0.0, edge.right - std::max(edge.left, reach));
+        reach = std::max(reach, edge.right);
+    }
+    return width;
+}
 
 /// The edges of the grounds within a drawn row, from top to bottom.
 std::vector<GroundEdge> edgesWithin(const Rect& row, const std::vector<Ground>& grounds,
@@ -23,7 +38,7 @@ std::vector<GroundEdge> edgesWithin(const Rect& row, const std::vector<Ground>& 
             continue;
         for (const double y : {ground.box.top, ground.box.bottom})
             if (y > row.top + parameters.minimumCellSide && y < row.bottom - parameters.minimumCellSide)
-                edges.push_back({y, width});
+                edges.push_back({y, std::max(ground.box.left, row.left), std::min(ground.box.right, row.right)});
     }
     std::sort(edges.begin(), edges.end(), [](const GroundEdge& a, const GroundEdge& b) { return a.y < b.y; });
     return edges;
@@ -49,10 +64,10 @@ std::vector<double> partsOf(const Rect& row, const PageText& page, const TablePa
     std::vector<double> parts;
     const std::vector<GroundEdge> edges = edgesWithin(row, page.grounds, parameters);
     for (std::size_t first = 0; first < edges.size();) {
-        double width = 0;
         std::size_t end = first;
-        for (; end < edges.size() && edges[end].y - edges[first].y <= parameters.filledSnap; ++end)
-            width += edges[end].width;
+        while (end < edges.size() && edges[end].y - edges[first].y <= parameters.filledSnap)
+            ++end;
+        const double width = covered(std::span(edges).subspan(first, end - first));
         if (width >= parameters.headRuleShare * row.width() && partsTexts(edges[first].y, row, page.lines, parameters))
             parts.push_back(edges[first].y);
         first = end;
