@@ -122,6 +122,19 @@ void writeNoteNumbering(RtfStream& rtf, const std::string& kind, const NoteNumbe
         rtf.word(kind + "restart");
 }
 
+namespace {
+
+/// Only what differs from how sections count by themselves.
+void writeNoteNumberings(RtfStream& rtf, const Document& document) {
+    const Document usual;
+    if (document.footnoteNumbering != usual.footnoteNumbering)
+        writeNoteNumbering(rtf, "sftn", document.footnoteNumbering);
+    if (document.endnoteNumbering != usual.endnoteNumbering)
+        writeNoteNumbering(rtf, "saftn", document.endnoteNumbering);
+}
+
+} // namespace
+
 void writeDocumentPage(RtfStream& rtf, const Section& section) {
     rtf.word("paperw", pageLength(section.pageWidth));
     rtf.word("paperh", pageLength(section.pageHeight));
@@ -137,8 +150,7 @@ void writeSectionProperties(RtfState& state, RtfStream& rtf, const Section& sect
             DiagnosticKind::FormatLimitReached, 0,
             "a page is larger than 22 inches, the most that word processors take, and was cut to that");
     rtf.word("sectd");
-    writeNoteNumbering(rtf, "sftn", state.document.footnoteNumbering);
-    writeNoteNumbering(rtf, "saftn", state.document.endnoteNumbering);
+    writeNoteNumberings(rtf, state.document);
     rtf.word(section.isRightToLeft ? "rtlsect" : "ltrsect");
     rtf.word(wordFor(section.start));
     rtf.word("pgwsxn", pageLength(section.pageWidth));

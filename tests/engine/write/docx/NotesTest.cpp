@@ -69,6 +69,7 @@ TEST(Notes, CountInTheSignsOfTheDocument) {
               normalXml("<w:footnotePr><w:numFmt w:val='chicago'/><w:numRestart w:val='eachSect'/></w:footnotePr>"
                         "<w:endnotePr><w:numFmt w:val='decimal'/></w:endnotePr>"))
         << "some readers ask the section only";
+    EXPECT_THAT(faultsOfDocx(written.file()), testing::IsEmpty());
 }
 
 TEST(Notes, KeepTheirOwnMarks) {
