@@ -59,7 +59,7 @@ void writeBody(XmlWriter& xml, const Frame& frame) {
 } // namespace
 
 void writeFrame(Story& story, const Frame& frame) {
-    const DrawingOutline outline{frame.width, frame.height, frame.rotation, "Text Box", {}};
+    const DrawingOutline outline{frame.width, frame.height, frame.rotation, "Text Box", {}, {}};
     writeFloatingDrawing(story, outline, frame.placement, DrawingDialect::Shape, [&](int) {
         const XmlElement graphic(story.xml, "a:graphic");
         const XmlElement data(story.xml, "a:graphicData", {{"uri", kShapeNamespace}});

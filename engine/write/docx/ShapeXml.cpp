@@ -124,7 +124,7 @@ void writeOutlineLook(XmlWriter& xml, const std::optional<ShapeLine>& line, doub
 void writeFloatingShapes(Story& story, const Drawing& drawing, const Placement& placement) {
     if (drawing.shapes.empty())
         return;
-    const DrawingOutline outline{drawing.width, drawing.height, 0, "Drawing", drawing.alternateText};
+    const DrawingOutline outline{drawing.width, drawing.height, 0, "Drawing", drawing.alternateText, {}};
     const Shape& first = drawing.shapes.front();
     if (isSingleShape(drawing))
         writeFloatingDrawing(story, outline, placement, DrawingDialect::Shape,

@@ -84,13 +84,8 @@ inline std::vector<document::Inline> inlinesOfParagraph(const DocumentDraft& dra
     noFit.fontFit.leastCoverage = 2;
     const FontCatalog fonts(linked, noFit);
     const LayoutParameters parameters;
-<<<<<<< HEAD
-    return assembleText(*linked.blocks[index].paragraph(), {linked, context, fonts, links, request, parameters})
-        .inlines;
-=======
-    return assembleText(*linked.blocks[index].paragraph(),
-                        {linked, context, fonts, links, request, parameters, false, UnseenValues(linked)});
->>>>>>> 94a8a98 (Forms: what a field has no room for is in its control, several lines typed into it are one)
+    const AssemblyContext assembly{linked, context, fonts, links, request, parameters, false, UnseenValues(linked)};
+    return assembleText(*linked.blocks[index].paragraph(), assembly).inlines;
 }
 
 /// The text of the draft's paragraph `index` as DocumentDump shows it against a default look.
