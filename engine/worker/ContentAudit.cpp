@@ -85,7 +85,8 @@ private:
 
     /// On pages that lay on their side figures stand elsewhere, in the same size.
     static bool isTurned(const Rect& picture, const Rect& figure) {
-        return std::abs(picture.width() - figure.height()) < kSameLength &&
+        const bool isSquare = std::abs(picture.width() - picture.height()) < kSameLength;
+        return !isSquare && std::abs(picture.width() - figure.height()) < kSameLength &&
                std::abs(picture.height() - figure.width()) < kSameLength;
     }
 

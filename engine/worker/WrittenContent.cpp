@@ -140,7 +140,7 @@ private:
             if (isLetter && isAtTurn()) {
                 addText(part, run.properties.isHidden);
                 part.clear();
-                turnTo(m_paragraph->turns[m_nextTurn++].page);
+                turn();
             }
             m_lettersRead += isLetter ? 1 : 0;
             part += c;
@@ -195,6 +195,8 @@ private:
     }
 
     void addLink(const Link& link) {
+        if (isAtTurn())
+            turn();
         addTarget(link.target);
         add(link.inlines);
     }
@@ -220,6 +222,7 @@ private:
             m_content.pages[origin.page].figures.push_back(origin.box);
     }
 
+    void turn() { turnTo(m_paragraph->turns[m_nextTurn++].page); }
     void turnTo(int page) { m_page = m_only.value_or(page); }
     WrittenPage& page() { return m_content.pages[m_page]; }
 

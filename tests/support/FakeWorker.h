@@ -10,7 +10,7 @@ namespace orvane::tests {
 inline constexpr char kAcceptedLine[] = R"({"type":"accepted","pageCount":3,"selectedPages":2})";
 inline constexpr char kFinishedLine[] =
     R"({"type":"finished","charactersRead":5,"charactersWritten":4,"picturesRead":3,"picturesWritten":2,)"
-    R"("linksRead":1,"linksWritten":0,"diagnostics":0,"seconds":0.5})";
+    R"("linksRead":1,"linksWritten":0,"valuesRead":2,"valuesWritten":1,"diagnostics":0,"seconds":0.5})";
 
 /// A command of a shell script that sends the line.
 inline std::string say(const std::string& line) {

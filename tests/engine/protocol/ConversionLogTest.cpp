@@ -24,7 +24,7 @@ Job jobOf(const std::filesystem::path& log = {}) {
 LogRecord doneRecord() {
     LogRecord record;
     record.accepted = Accepted{10, 4};
-    record.counts = Counts{120, 118, 3, 2, 1, 1};
+    record.counts = Counts{120, 118, 3, 2, 1, 1, 2, 1};
     record.seconds = 1.234;
     return record;
 }
@@ -39,8 +39,11 @@ TEST(ConversionLog, TellsWhatWasConverted) {
     EXPECT_THAT(text, HasSubstr("target:   letter.docx\n"));
     EXPECT_THAT(text, HasSubstr("pages:    1-3,7 (4 of 10)\n"));
     EXPECT_THAT(text, HasSubstr("layout flowing, format docx, pictures removed, character spacing automatic\n"));
-    EXPECT_THAT(text,
-                HasSubstr("characters 120 read, 118 written; pictures 3 read, 2 written; links 1 read, 1 written\n"));
+    EXPECT_THAT(
+        text,
+        HasSubstr(
+            "characters 120 read, 118 written; pictures 3 read, 2 written; links 1 read, 1 written; values of form "
+            "fields 2 read, 1 written\n"));
     EXPECT_THAT(text, HasSubstr("time:     1.23 s\n"));
     EXPECT_THAT(text, HasSubstr("result:   done\n"));
     EXPECT_THAT(text, Not(HasSubstr("notes:")));

@@ -123,10 +123,12 @@ TEST(ContentAudit, FollowsAParagraphOverPages) {
 TEST(ContentAudit, CountsWhatWordProcessorsWrite) {
     Document document = documentOf({paragraphOf({textInline("item")}), paragraphOf({{NoteReference{0, {}, ""}}})});
     std::get<Paragraph>(document.sections[0].blocks[0].value).list = ListReference{0, 0};
-    document.numberings = {{{{NumberFormat::Decimal, "%1."}}}};
+    document.numberings.resize(1);
+    document.numberings[0].levels.resize(1);
+    document.numberings[0].levels[0].text = "%1.";
     document.notes.resize(1);
     document.notes[0].origin.page = 1;
-    document.notes[0].blocks = {paragraphOf({textInline("note")}, 99)};
+    document.notes[0].blocks = {paragraphOf({textInline("note")})};
     EXPECT_EQ(audit({pageWith(1 + 4 + 1 + 1 + 4)}, document), kNothing);
 }
 

@@ -9,8 +9,19 @@ pdf::Glyph glyphAt(double x, const char32_t* text, pdf::Visibility visibility = 
     pdf::Glyph glyph;
     glyph.unicode = text;
     glyph.box = {x, 100, x + 6, 112};
+    glyph.origin = {x, 110};
+    glyph.advance = 6;
+    glyph.fontSize = 12;
     glyph.visibility = visibility;
     return glyph;
+}
+
+pdf::PageContent emptyPage() {
+    pdf::PageContent page;
+    page.width = 595;
+    page.height = 842;
+    page.fonts.resize(1);
+    return page;
 }
 
 PageInventory inventory(const pdf::PageContent& page, const std::vector<pdf::FormField>& fields = {},
@@ -19,7 +30,7 @@ PageInventory inventory(const pdf::PageContent& page, const std::vector<pdf::For
 }
 
 TEST(PageInventory, CountsCharactersAndLettersThatArePartOfThePage) {
-    pdf::PageContent page;
+    pdf::PageContent page = emptyPage();
     page.number = 7;
     page.glyphs = {glyphAt(10, U"a"),
                    glyphAt(20, U" "),
@@ -27,15 +38,16 @@ TEST(PageInventory, CountsCharactersAndLettersThatArePartOfThePage) {
                    glyphAt(40, U"b", pdf::Visibility::OffPage),
                    glyphAt(50, U"c", pdf::Visibility::Invisible),
                    glyphAt(60, U"-"),
+                   glyphAt(60.2, U"-"), // once more, to make it bold
                    glyphAt(70, U"d", pdf::Visibility::ClippedAway)};
     const PageInventory listed = inventory(page);
     EXPECT_EQ(listed.page, 7);
-    EXPECT_EQ(listed.characters, 6U); // a, ffi, c, -
-    EXPECT_EQ(listed.letters, 5U);
+    EXPECT_EQ(listed.characters, 5U); // a, ffi, -
+    EXPECT_EQ(listed.letters, 4U);
 }
 
 TEST(PageInventory, LeavesLettersInPicturesAndFormulasToThese) {
-    pdf::PageContent page;
+    pdf::PageContent page = emptyPage();
     page.glyphs = {glyphAt(10, U"a"), glyphAt(50, U"b"), glyphAt(90, U"c")};
     layout::PageText text;
     text.figures.resize(1);
@@ -59,9 +71,7 @@ TEST(PageInventory, ListsPicturesThatShowSomething) {
 }
 
 TEST(PageInventory, CountsEachTargetOfLinksOnce) {
-    pdf::PageContent page;
-    page.width = 595;
-    page.height = 842;
+    pdf::PageContent page = emptyPage();
     page.links.resize(6);
     for (pdf::Link& link : page.links)
         link.boxes = {{100, 100, 200, 112}};

@@ -228,14 +228,14 @@ private:
     }
 
     Paragraph pictureParagraph() const {
-        const Picture straight{m_png, points(80), points(60), {}, 0, false, false, "A red and white flag", {}};
+        const Picture straight{m_png, points(80), points(60), {}, 0, false, false, "A red and white flag", {}, {}};
         Picture cut = straight;
         cut.crop = {0.25, 0, 0.25, 0.5};
         Picture turned = straight;
         turned.rotation = 90;
         Picture mirrored = straight;
         mirrored.isMirroredHorizontally = true;
-        const Picture photo{m_jpeg, points(60), points(60), {}, 0, false, false, "", {}};
+        const Picture photo{m_jpeg, points(60), points(60), {}, 0, false, false, "", {}, {}};
         return plain({{straight},
                       words(" cut "),
                       {cut},
@@ -280,7 +280,7 @@ private:
     }
 
     Figure floatingPicture() const {
-        Figure figure{Picture{m_jpeg, points(100), points(100), {}, 0, false, false, "A blue square", {}}, {}, {}};
+        Figure figure{Picture{m_jpeg, points(100), points(100), {}, 0, false, false, "A blue square", {}, {}}, {}, {}};
         figure.placement = {HorizontalAnchor::Column,
                             VerticalAnchor::Paragraph,
                             points(100),
