@@ -3,6 +3,7 @@
 #include "layout/structure/BlockExtent.h"
 
 #include <algorithm>
+#include <utility>
 #include <variant>
 
 namespace orvane::layout {
@@ -53,6 +54,25 @@ void hangFrom(document::Placement& placement, double top) {
     placement.y = placement.y - emuFromPoints(top);
 }
 
+bool standsBeside(const AssembledBlock& a, const AssembledBlock& b) {
+    const Rect &first = a.draft->box, &second = b.draft->box;
+    const double shared = overlap(first.top, first.bottom, second.top, second.bottom);
+    return a.draft->page == b.draft->page && 2 * shared > std::min(first.height(), second.height()) &&
+           (first.right <= second.left || second.right <= first.left);
+}
+
+/// A picture that stands in a paragraph of its own.
+bool isPictureParagraph(const AssembledBlock& block) {
+    return block.paragraph() && block.draft && std::holds_alternative<FigureDraft>(block.draft->value);
+}
+
+/// A picture that text makes way for.
+bool isFreePicture(const AssembledBlock& block) {
+    const auto* figure = std::get_if<document::Figure>(&block.block.value);
+    return figure && block.draft && !takesNoRoom(figure->placement) &&
+           figure->placement.verticalAnchor == document::VerticalAnchor::Page;
+}
+
 void moveIntoCell(document::Placement& placement, double left) {
     if (placement.horizontalAnchor != document::HorizontalAnchor::Page)
         return;
@@ -61,6 +81,17 @@ void moveIntoCell(document::Placement& placement, double left) {
 }
 
 } // namespace
+
+void hangBesidePictures(std::vector<AssembledBlock>& blocks) {
+    for (std::size_t i = 0; i + 1 < blocks.size(); ++i) {
+        AssembledBlock &first = blocks[i], &second = blocks[i + 1];
+        const bool haveText = !first.floats.empty() || !second.floats.empty();
+        if (isPictureParagraph(first) && isFreePicture(second) && !haveText && standsBeside(first, second))
+            std::swap(first, second); // what floats is written into the paragraph behind it
+        if (isFreePicture(first) && isPictureParagraph(second) && standsBeside(first, second))
+            hangFrom(std::get<document::Figure>(first.block.value).placement, topOf(second));
+    }
+}
 
 void hangOnText(std::vector<AssembledBlock>& blocks, const std::optional<CellOrigin>& cell,
                 const AssemblyContext& context) {

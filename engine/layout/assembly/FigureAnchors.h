@@ -14,6 +14,10 @@ struct CellOrigin {
     double top = 0;
 };
 
+/// Hangs pictures that float beside one in a paragraph of its own on that paragraph: they go where it goes. Requires:
+/// the space between the blocks is known.
+void hangBesidePictures(std::vector<AssembledBlock>& blocks);
+
 /// Hangs what lies behind or in front of text on the paragraph that it was drawn into, so that boxes stay around their
 /// words wherever these go. In a cell everything hangs, for there a page's places are the cell's. Requires: the space
 /// between the blocks is known.

@@ -51,6 +51,23 @@ TEST(FigureAnchors, HangABoxOnTheParagraphThatItStandsAround) {
     EXPECT_NEAR(points(placement.y), above, 8) << "the space before a paragraph is part of it";
 }
 
+TEST(FigureAnchors, LetAPictureGoWithTheOneThatItStandsBeside) {
+    DocumentDraft draft = makeDraft(1);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Above", 72, 88)})));
+    draft.blocks.push_back(tests::makePictureBlock({72, 100, 280, 300}));
+    draft.blocks.push_back(tests::makePictureBlock({300, 110, 500, 300}));
+    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Below", 72, 320)})));
+    const document::Document document = tests::documentOf(draft);
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    ASSERT_EQ(blocks.size(), 4u);
+    const document::Placement& placement = placementIn(blocks, 1);
+    EXPECT_EQ(placement.verticalAnchor, document::VerticalAnchor::Paragraph) << "of the picture behind it";
+    EXPECT_TRUE(std::holds_alternative<document::Paragraph>(blocks[2].value));
+    EXPECT_GE(points(placement.y), 10);
+    EXPECT_EQ(placement.x, emuFromPoints(300));
+}
+
 TEST(FigureAnchors, LeaveOnThePageWhatIsOfThePage) {
     struct Row {
         Rect box;
