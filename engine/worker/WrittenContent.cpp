@@ -16,6 +16,7 @@ namespace {
 using namespace document;
 
 constexpr int kNoPage = 0;
+constexpr std::size_t kLongestRoman = 7; // "xxxviii": no front matter is longer
 
 std::size_t countCharacters(std::u32string_view text) {
     return static_cast<std::size_t>(
@@ -33,6 +34,7 @@ public:
     ContentSorter(const Document& document, int lastPage, WrittenContent& content)
         : m_labels(document)
         , m_digitsOfPages(std::to_string(lastPage).size())
+        , m_lettersOfNumber(m_digitsOfPages)
         , m_content(content) {}
 
     void add(const std::vector<Block>& blocks) {
@@ -56,6 +58,12 @@ public:
         turnTo(note.origin.page);
         page().letters -= m_letters - before;
         page().noteLetters += m_letters - before;
+    }
+
+    /// Pages are counted so in the heads and feet that are added from now on.
+    void countPagesIn(NumberFormat format) {
+        const bool isRoman = format == NumberFormat::LowerRoman || format == NumberFormat::UpperRoman;
+        m_lettersOfNumber = isRoman ? kLongestRoman : m_digitsOfPages;
     }
 
     /// The letters of a head or foot, whose own page is none of the source.
@@ -185,8 +193,8 @@ private:
         const std::size_t before = m_letters;
         add(field.result);
         const bool isNumber = field.code == FieldCode::Page || field.code == FieldCode::PageCount;
-        if (const std::size_t shown = m_letters - before; m_only == kNoPage && isNumber && shown < m_digitsOfPages)
-            addLetters(m_digitsOfPages - shown);
+        if (const std::size_t shown = m_letters - before; m_only == kNoPage && isNumber && shown < m_lettersOfNumber)
+            addLetters(m_lettersOfNumber - shown);
     }
 
     void addPicture(const Picture& picture) {
@@ -228,6 +236,7 @@ private:
 
     ListLabels m_labels;
     std::size_t m_digitsOfPages;
+    std::size_t m_lettersOfNumber; ///< of a page, at most
     WrittenContent& m_content;
     std::map<std::size_t, std::string> m_marks; ///< of the notes that were referred to
     std::optional<int> m_only;
@@ -284,6 +293,7 @@ void addRunningTexts(const std::vector<Section>& sections, const PageSpan& sourc
     const std::vector<PageSpan> spans = pagesOf(sections, source);
     std::map<int, std::size_t> letters;
     for (std::size_t i = 0; i < sections.size(); ++i) {
+        sorter.countPagesIn(sections[i].pageNumberFormat);
         const RunningLetters header(sorter, sections[i].header);
         const RunningLetters footer(sorter, sections[i].footer);
         for (int page = spans[i].first; page <= spans[i].last; ++page) {
