@@ -56,7 +56,26 @@ private:
             else if (m_fills[i].hasFirstBlock && !m_fills[i].isSplit)
                 chances[i] = SectionChance::May;
         }
+        partWhereSignsChange(chances);
         return chances;
+    }
+
+    /// Pages counted in other signs are a section of their own, as front matter is: from its first page, be it numbered
+    /// or not.
+    void partWhereSignsChange(std::vector<SectionChance>& chances) const {
+        std::optional<std::size_t> last;
+        for (std::size_t i = 0; i < m_heads.size(); ++i) {
+            const std::optional<PageNumber>& number = m_heads[i].number;
+            if (!number)
+                continue;
+            if (last && m_heads[*last].number->format != number->format) {
+                const auto before = static_cast<std::size_t>(std::max(number->value - 1, 0));
+                const std::size_t first = i - std::min(i - *last - 1, before);
+                if (chances[first] == SectionChance::May)
+                    chances[first] = SectionChance::Must;
+            }
+            last = i;
+        }
     }
 
     /// The sections of pages with one scheme: one, or several where the number of columns changes.

@@ -230,5 +230,24 @@ TEST(SectionMaker, GivesRunningHeadsToTheSection) {
               std::string::npos);
 }
 
+TEST(SectionMaker, PartsPagesThatAreCountedInOtherSigns) {
+    DocumentDraft draft = makeDraft(4);
+    std::vector<PageRunningHeads> heads(4);
+    for (std::size_t page = 0; page < 4; ++page) {
+        fillPage(draft, page);
+        heads[page].footer.emplace().key = "#";
+        heads[page].footer->content = tests::makePage(static_cast<int>(page) + 1);
+    }
+    heads[0].number = PageNumber{1, document::NumberFormat::LowerRoman};
+    heads[1].number = PageNumber{2, document::NumberFormat::LowerRoman};
+    heads[3].number = PageNumber{2, document::NumberFormat::Decimal}; // the first page of the text shows none
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 2u);
+    EXPECT_EQ(draft.sections[0].setup.pageNumberFormat, document::NumberFormat::LowerRoman);
+    EXPECT_EQ(draft.sections[1].setup.pageNumberFormat, document::NumberFormat::Decimal);
+    EXPECT_EQ(draft.sections[1].setup.firstPageNumber, 1);
+    EXPECT_EQ(draft.blocks[draft.sections[1].firstBlock].page, 2u);
+}
+
 } // namespace
 } // namespace orvane::layout
