@@ -5,6 +5,7 @@
 #include "layout/assembly/FrameAssembler.h"
 #include "layout/assembly/LabelFrames.h"
 #include "layout/assembly/ParagraphFormat.h"
+#include "layout/assembly/RunFormat.h"
 #include "layout/assembly/TableAssembler.h"
 #include "layout/fonts/LineMetrics.h"
 #include "layout/structure/BlockExtent.h"

@@ -1,5 +1,7 @@
 #include "layout/assembly/NumberingAssembler.h"
 
+#include "layout/assembly/RunFormat.h"
+
 #include <algorithm>
 #include <iterator>
 #include <string_view>

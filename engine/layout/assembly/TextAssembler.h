@@ -34,8 +34,4 @@ struct AssembledText {
 /// resolved), tabs, breaks made by hand, links, bookmarks. Label words are left out.
 AssembledText assembleText(const DraftParagraph& paragraph, const AssemblyContext& context);
 
-/// How a span's characters look, in the document's words. `families` are those around it.
-document::RunProperties runProperties(const Span& span, std::size_t page, const ScriptFamilies& families,
-                                      const AssemblyContext& context);
-
 } // namespace orvane::layout
