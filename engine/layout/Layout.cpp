@@ -30,6 +30,7 @@
 #include "layout/structure/ParagraphJoiner.h"
 #include "layout/structure/SectionMaker.h"
 #include "layout/structure/TableJoiner.h"
+#include "layout/text/Line.h"
 #include "layout/truepage/TruePageDocument.h"
 
 #include <algorithm>
@@ -40,11 +41,11 @@ namespace {
 
 /// Takes the figures off the page; what stands within drawings stays as text.
 void removeFigures(PageText& page) {
+    std::vector<Line> words;
     for (Figure& figure : page.figures)
-        std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(page.lines));
+        std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(words));
     page.figures.clear();
-    std::stable_sort(page.lines.begin(), page.lines.end(),
-                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+    addLines(page, std::move(words));
 }
 
 /// What the mode keeps of the flowing document.

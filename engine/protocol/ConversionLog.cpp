@@ -83,9 +83,8 @@ std::string pictureLines(const std::vector<PictureReport>& pictures) {
 std::string countLine(const Job& job, const Counts& counts) {
     if (job.layout == Layout::Images)
         return fmt::format("counts:   pictures {} read, {} written\n", counts.picturesRead, counts.picturesWritten);
-    return fmt::format("counts:   characters {} read, {} written; pictures {} read, {} written; links {} read, {} "
-                       "written; values of form "
-                       "fields {} read, {} written\n",
+    return fmt::format("counts:   characters {} read, {} written; pictures {} read, {} written; "
+                       "links {} read, {} written; values of form fields {} read, {} written\n",
                        counts.charactersRead, counts.charactersWritten, counts.picturesRead, counts.picturesWritten,
                        counts.linksRead, counts.linksWritten, counts.valuesRead, counts.valuesWritten);
 }

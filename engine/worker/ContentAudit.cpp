@@ -130,11 +130,13 @@ protocol::Counts auditContent(const std::vector<PageInventory>& pages, const doc
         counts.linksRead += static_cast<std::int64_t>(page.links);
         counts.valuesRead += static_cast<std::int64_t>(page.values.size());
         PageAudit audit(page, written, diagnostics);
+        counts.valuesWritten += static_cast<std::int64_t>(audit.compareValues(scope));
+        if (!scope.isWhole)
+            continue;
         notes = audit.compareLetters(notes);
         audit.compareLinks();
         if (scope.hasPictures)
             audit.comparePictures();
-        counts.valuesWritten += static_cast<std::int64_t>(audit.compareValues(scope));
     }
     return counts;
 }

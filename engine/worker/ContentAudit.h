@@ -11,6 +11,7 @@ namespace orvane::worker {
 
 /// What the document was to hold.
 struct AuditScope {
+    bool isWhole = true; ///< else it leaves out by promise what pages have beside their text, and is only counted
     bool hasPictures = true;
     bool hasControls = true; ///< signs of forms are controls; else they are pictures or drawings as they are printed
 };

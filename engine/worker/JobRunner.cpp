@@ -58,15 +58,18 @@ layout::LayoutRequest layoutRequest(const Job& job) {
     return {layoutMode(job.layout), job.pictures == Pictures::Remove, job.characterSpacing == CharacterSpacing::Exact};
 }
 
-/// Whether pictures are read at all: not those that the document would leave out.
-bool showsPictures(const Job& job) {
-    const bool isText = job.layout == Layout::Continuous || job.layout == Layout::PlainText;
-    return job.pictures == Pictures::Keep && !isText;
+/// The layouts without pages leave out by promise what pages have beside their text.
+bool hasPages(Layout layout) {
+    return layout == Layout::Flowing || layout == Layout::TruePage;
 }
 
-/// The layouts without pages leave out by promise what pages have beside their text.
+/// Whether pictures are read at all: not those that the document would leave out.
+bool showsPictures(const Job& job) {
+    return job.pictures == Pictures::Keep && hasPages(job.layout);
+}
+
 AuditScope auditScope(const Job& job) {
-    return {showsPictures(job), fieldReading(job.layout) == FieldReading::AsControls};
+    return {hasPages(job.layout), showsPictures(job), job.layout == Layout::Flowing};
 }
 
 void requireOtherFile(const Job& job) {

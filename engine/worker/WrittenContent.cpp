@@ -32,7 +32,8 @@ class ContentSorter {
 public:
     /// `lastPage` of the source: its number is the longest one.
     ContentSorter(const Document& document, int lastPage, WrittenContent& content)
-        : m_labels(document)
+        : m_document(document)
+        , m_labels(document)
         , m_digitsOfPages(std::to_string(lastPage).size())
         , m_lettersOfNumber(m_digitsOfPages)
         , m_content(content) {}
@@ -103,12 +104,9 @@ private:
     }
 
     void add(const Figure& figure) {
-        if (const auto* picture = std::get_if<Picture>(&figure.content)) {
-            ++m_content.pictures;
-            turnTo(figure.origin.page);
-            if (picture->link)
-                addTarget(*picture->link);
-        }
+        turnTo(figure.origin.page);
+        if (const auto* picture = std::get_if<Picture>(&figure.content))
+            countPicture(*picture);
         addFigure(figure.origin);
     }
     void add(const Frame& frame) { add(frame.blocks); }
@@ -178,8 +176,15 @@ private:
 
     void addReference(const NoteReference& reference) {
         std::string& mark = m_marks[reference.note];
-        mark = reference.customMark.empty() ? std::to_string(reference.note + 1) : reference.customMark;
+        mark = reference.customMark.empty() ? nextMark(m_document.notes[reference.note].kind) : reference.customMark;
         addMark(mark);
+    }
+
+    /// Counted on through the document; a count that starts anew gives shorter marks, not longer ones.
+    std::string nextMark(NoteKind kind) {
+        const bool isFootnote = kind == NoteKind::Footnote;
+        return formatNumber(isFootnote ? ++m_footnotes : ++m_endnotes,
+                            (isFootnote ? m_document.footnoteNumbering : m_document.endnoteNumbering).format);
     }
 
     /// A note's mark in the text, or at the note. Each leads to the other.
@@ -198,8 +203,14 @@ private:
     }
 
     void addPicture(const Picture& picture) {
-        ++m_content.pictures;
+        countPicture(picture);
         addFigure(picture.origin);
+    }
+
+    void countPicture(const Picture& picture) {
+        ++m_content.pictures;
+        if (picture.link)
+            addTarget(*picture.link);
     }
 
     void addLink(const Link& link) {
@@ -234,7 +245,10 @@ private:
     void turnTo(int page) { m_page = m_only.value_or(page); }
     WrittenPage& page() { return m_content.pages[m_page]; }
 
+    const Document& m_document;
     ListLabels m_labels;
+    int m_footnotes = 0; ///< that were counted
+    int m_endnotes = 0;
     std::size_t m_digitsOfPages;
     std::size_t m_lettersOfNumber; ///< of a page, at most
     WrittenContent& m_content;

@@ -57,13 +57,6 @@ private:
     const RunningParameters::RunningHeads& m_limits;
 };
 
-/// Gives the words over a drawing back to the page: what repeats is the drawing.
-void giveBackLabels(Figure& figure, PageText& page) {
-    std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(page.lines));
-    figure.labels.clear();
-    figure.alternateText.clear();
-}
-
 } // namespace
 
 std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<PageText>& pages,
@@ -84,9 +77,9 @@ std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<Page
     return repeated;
 }
 
-Labels takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repeated, const BodyRange& body,
-                           PageRunningHeads& heads) {
-    const std::size_t lines = page.lines.size();
+std::vector<Line> takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repeated, const BodyRange& body,
+                                      PageRunningHeads& heads) {
+    std::vector<Line> words;
     std::vector<Figure> rest;
     for (std::size_t i = 0; i < page.figures.size(); ++i) {
         Figure& figure = page.figures[i];
@@ -94,8 +87,11 @@ Labels takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repea
             rest.push_back(std::move(figure));
             continue;
         }
-        if (figure.box.centerY() > body.top && figure.box.centerY() < body.bottom)
-            giveBackLabels(figure, page);
+        if (figure.box.centerY() > body.top && figure.box.centerY() < body.bottom) {
+            std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(words));
+            figure.labels.clear();
+            figure.alternateText.clear();
+        }
         // What lies behind the whole page is anchored in the header.
         const bool isHeader = figure.isBackground || figure.box.centerY() < page.height / 2;
         std::optional<RunningHead>& head = isHeader ? heads.header : heads.footer;
@@ -105,7 +101,7 @@ Labels takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repea
         head->content.figures.push_back(std::move(figure));
     }
     page.figures = std::move(rest);
-    return page.lines.size() > lines ? Labels::GivenBack : Labels::None;
+    return words;
 }
 
 } // namespace orvane::layout

@@ -21,12 +21,9 @@ std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<Page
                                                           const std::vector<BodyRange>& bodies,
                                                           const RunningParameters::RunningHeads& parameters);
 
-/// What became of the words over drawings that were moved to a head.
-enum class Labels { None, GivenBack };
-
 /// Moves the figures `repeated` to the head or foot on their half of the page. What repeats of a drawing within the
-/// text is the drawing: the words over it are given back, as the last lines of the page.
-Labels takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repeated, const BodyRange& body,
-                           PageRunningHeads& heads);
+/// text is the drawing: returns the words over such ones, which are the page's own.
+std::vector<Line> takeRepeatedFigures(PageText& page, const std::vector<std::size_t>& repeated, const BodyRange& body,
+                                      PageRunningHeads& heads);
 
 } // namespace orvane::layout

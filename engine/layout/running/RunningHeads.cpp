@@ -6,6 +6,7 @@
 #include "layout/running/OnlyPageEdges.h"
 #include "layout/running/RepeatedFigures.h"
 #include "layout/running/RepeatedRules.h"
+#include "layout/text/Line.h"
 
 #include <algorithm>
 #include <cmath>
@@ -55,11 +56,6 @@ PageEdges measureEdges(const PageText& page, EdgeRows top, EdgeRows bottom) {
     if (!footer.isEmpty())
         edges.footerStart = (footer.top + std::max(edges.body.bottom, header.bottom)) / 2;
     return edges;
-}
-
-void sortLines(PageText& page) {
-    std::stable_sort(page.lines.begin(), page.lines.end(),
-                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
 }
 
 /// Moves the elements for which `isPart` holds from one vector to the other.
@@ -263,11 +259,10 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         // The rows name lines by their index, so the numbers are cut out before any line moves.
         const auto topFields = cutOutNumbers(pages[i], edge.top, numbers[i], greatest(numbers));
         const auto bottomFields = cutOutNumbers(pages[i], edge.bottom, numbers[i], greatest(numbers));
-        const bool hasLabels = takeRepeatedFigures(pages[i], figures[i], bodies[i], heads[i]) == Labels::GivenBack;
+        std::vector<Line> words = takeRepeatedFigures(pages[i], figures[i], bodies[i], heads[i]);
         takeRules(pages[i], i, rules, limits, heads[i]);
         takeHeads(pages[i], edge, limits, heads[i]);
-        if (hasLabels)
-            sortLines(pages[i]);
+        addLines(pages[i], std::move(words));
         if (heads[i].header)
             heads[i].header->fields = topFields;
         if (heads[i].footer)

@@ -38,4 +38,12 @@ void joinLines(Line& line, Line next, Gap gap) {
     measureAnew(line);
 }
 
+void addLines(PageText& page, std::vector<Line> lines) {
+    if (lines.empty())
+        return;
+    std::move(lines.begin(), lines.end(), std::back_inserter(page.lines));
+    std::stable_sort(page.lines.begin(), page.lines.end(),
+                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+}
+
 } // namespace orvane::layout

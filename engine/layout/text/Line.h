@@ -17,4 +17,7 @@ std::vector<Line> piecesOf(Line line);
 /// Requires: both have the same angle and direction of writing.
 void joinLines(Line& line, Line next, Gap gap = Gap::Tab);
 
+/// Puts lines among those of the page, by their baselines. Does nothing without lines.
+void addLines(PageText& page, std::vector<Line> lines);
+
 } // namespace orvane::layout

@@ -98,11 +98,20 @@ TEST(ContentAudit, SumsUpBothSides) {
     expected.picturesWritten = 2;
     expected.linksRead = 4;
     expected.linksWritten = 1;
-    EXPECT_EQ(auditContent({page, page}, document, {false, true}, diagnostics), expected);
+    EXPECT_EQ(auditContent({page, page}, document, {true, false, true}, diagnostics), expected);
 }
 
 TEST(ContentAudit, IsSilentWhereAllIsThere) {
     EXPECT_EQ(audit({pageWith(5)}, documentOf({paragraphOf({textInline("a, b c-d e")})})), kNothing);
+}
+
+TEST(ContentAudit, IsSilentOfWhatALayoutWithoutPagesLeavesOut) {
+    PageInventory page = pageWith(9);
+    page.innerLinks = 1;
+    page.pictures = {{0, 0, 50, 100}};
+    EXPECT_EQ(audit({page}, documentOf({}), {false, false, false}), kNothing);
+    page.values = {{"name", "Ada", false}};
+    EXPECT_EQ(audit({page}, documentOf({}), {false, false, false}).size(), 1U);
 }
 
 TEST(ContentAudit, TellsOfLettersThatAreMissing) {
@@ -130,6 +139,18 @@ TEST(ContentAudit, CountsWhatWordProcessorsWrite) {
     document.notes[0].origin.page = 1;
     document.notes[0].blocks = {paragraphOf({textInline("note")})};
     EXPECT_EQ(audit({pageWith(1 + 4 + 1 + 1 + 4)}, document), kNothing);
+}
+
+TEST(ContentAudit, CountsNotesInTheirOwnSigns) {
+    Document document = documentOf({paragraphOf({{NoteReference{0, {}, ""}}, {NoteReference{1, {}, ""}}})});
+    document.notes.resize(2);
+    for (Note& note : document.notes) {
+        note.kind = NoteKind::Endnote;
+        note.origin.page = 1;
+    }
+    EXPECT_EQ(audit({pageWith(2 * 1 + 2 * 2)}, document), kNothing) << "i and ii, each twice";
+    document.endnoteNumbering.format = NumberFormat::Decimal;
+    EXPECT_EQ(audit({pageWith(2 * 1 + 2 * 2)}, document).size(), 1U);
 }
 
 TEST(ContentAudit, FindsHeadsOnEachPageOfTheirSection) {
@@ -177,7 +198,7 @@ TEST(ContentAudit, TellsOfPicturesThatNothingCovers) {
     EXPECT_EQ(audit({page}, document), kNothing) << "on its side";
     page.pictures.back() = {200, 200, 300, 300};
     EXPECT_EQ(audit({page}, document), (std::vector<Told>{{1, "1 of 4 pictures are not in the document"}}));
-    EXPECT_EQ(audit({page}, document, {false, true}), kNothing);
+    EXPECT_EQ(audit({page}, document, {true, false, true}), kNothing);
     page.isScanned = true;
     EXPECT_EQ(audit({page}, document), kNothing);
 }
@@ -216,7 +237,7 @@ TEST(ContentAudit, FindsValuesInTextThatIsCutOff) {
     hidden.properties.isHidden = true;
     PageInventory page = pageWith(3);
     page.values = {{"name", "Ada Lovelace", false}, {"agreed", "", true}};
-    EXPECT_EQ(audit({page}, documentOf({paragraphOf({textInline("Ada "), {hidden}})}), {true, false}), kNothing);
+    EXPECT_EQ(audit({page}, documentOf({paragraphOf({textInline("Ada "), {hidden}})}), {true, true, false}), kNothing);
 }
 
 } // namespace
