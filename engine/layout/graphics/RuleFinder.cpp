@@ -53,9 +53,12 @@ private:
     }
 
     bool readFill(const Subpath& subpath, const pdf::Path& path, RulePaint paint) {
-        if (!subpath.rectangle)
+        // Boxes whose sides are in pieces are shapes of drawings, unless they are as thin as rules.
+        const bool isBar =
+            subpath.piecedRectangle && std::min(subpath.box.width(), subpath.box.height()) <= m_limits.thickest;
+        if (!subpath.rectangle && !isBar)
             return subpath.box.width() <= 0 || subpath.box.height() <= 0;
-        const Rect box = subpath.rectangle->intersected(path.clip);
+        const Rect box = subpath.box.intersected(path.clip);
         if (box.isEmpty())
             return true;
         const double thickness = std::min(box.width(), box.height());

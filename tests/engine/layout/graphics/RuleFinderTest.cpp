@@ -182,6 +182,38 @@ TEST(RuleFinder, TakesRoundedRectanglesAsRectangles) {
     EXPECT_TRUE(result.isTaken[0]);
 }
 
+TEST(RuleFinder, TakesRectanglesBegunInTheMiddleOfASide) {
+    PageContentBuilder page;
+    pdf::Path& path = page.newPath();
+    using pdf::PathVerb;
+    path.segments = {{PathVerb::Move, {}, {}, {72, 101}},  {PathVerb::Line, {}, {}, {72, 102}},
+                     {PathVerb::Line, {}, {}, {300, 102}}, {PathVerb::Line, {}, {}, {300, 101}},
+                     {PathVerb::Line, {}, {}, {300, 100}}, {PathVerb::Line, {}, {}, {72, 100}},
+                     {PathVerb::Close, {}, {}, {}}};
+    path.fill = pdf::FillStyle{kBlack, false, false, 1, nullptr};
+    path.box = {72, 100, 300, 102};
+    const RuledPage result = rulesOf(page);
+    ASSERT_EQ(result.rules.size(), 1u);
+    EXPECT_EQ(result.rules[0].from, 72);
+    EXPECT_EQ(result.rules[0].to, 300);
+    EXPECT_NEAR(result.rules[0].width, 2, 0.01);
+}
+
+TEST(RuleFinder, LeavesStepsToTheDrawings) {
+    PageContentBuilder page;
+    pdf::Path& path = page.newPath();
+    using pdf::PathVerb;
+    path.segments = {{PathVerb::Move, {}, {}, {72, 100}},  {PathVerb::Line, {}, {}, {150, 100}},
+                     {PathVerb::Line, {}, {}, {150, 130}}, {PathVerb::Line, {}, {}, {300, 130}},
+                     {PathVerb::Line, {}, {}, {300, 160}}, {PathVerb::Line, {}, {}, {72, 160}},
+                     {PathVerb::Close, {}, {}, {}}};
+    path.fill = pdf::FillStyle{kBlack, false, false, 1, nullptr};
+    path.box = {72, 100, 300, 160};
+    const RuledPage result = rulesOf(page);
+    EXPECT_TRUE(result.grounds.empty());
+    EXPECT_FALSE(result.isTaken[0]);
+}
+
 TEST(RuleFinder, LeavesShapesToTheDrawings) {
     PageContentBuilder page;
     page.disk({100, 100}, 20);
