@@ -83,6 +83,15 @@ bool isHeaded(const std::vector<RuleBand>& bands, const BandRun& run, const Tabl
     return headed.size() == run.aligned.gaps.size() + 1;
 }
 
+/// Whether rules that begin with the text stand above and below a head over every column, and below the body: those of
+/// a page's head and foot do not, so that the rules may be longer than the table.
+bool hasHeadBetweenRules(const RuleStack& stack, const std::vector<RuleBand>& bands, const BandRun& run,
+                         const TableParameters::Tables& parameters) {
+    const double indent = boxOf(run.aligned).left - stack[bands[run.first].level].left;
+    return run.end > run.first + 1 && bands[run.first].hasRuleBelow && frameOf(stack, bands, run) == Frame::Closed &&
+           indent <= run.aligned.rows.front().fontSize && isHeaded(bands, run, parameters);
+}
+
 /// The edges that rules draw lie on them, the outer ones too.
 void snapToRules(TableGrid& grid, const RuleStack& stack, const std::vector<RuleBand>& bands, const BandRun& run) {
     std::size_t group = 0;
@@ -112,7 +121,9 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<Borde
         frameOf(stack, bands, run) == Frame::None)
         return std::nullopt;
     alignRun(bands, page.lines, rules, parameters, run);
-    if (run.aligned.groups.empty() || !fillsRules(run, stack[bands[run.first].level], limits))
+    if (run.aligned.groups.empty())
+        return std::nullopt;
+    if (!fillsRules(run, stack[bands[run.first].level], limits) && !hasHeadBetweenRules(stack, bands, run, limits))
         return std::nullopt;
     if (frameOf(stack, bands, run) == Frame::Headed && !isHeaded(bands, run, limits))
         return std::nullopt;
