@@ -38,13 +38,16 @@ PageRows readRows(const PageText& page, const TableParameters::Tables& parameter
     return found;
 }
 
-/// Whether running text goes on over the upper or the lower edge of the grid.
-bool cutsProse(const TableGrid& grid, const std::vector<TextPiece>& prose, const TableParameters::Tables& parameters) {
+/// Whether running text reaches into the grid, or goes on over its upper or lower edge.
+bool takesProse(const TableGrid& grid, const std::vector<TextPiece>& prose, const TableParameters::Tables& parameters) {
     const Rect box = grid.box();
     const auto isWithin = [&](const TextPiece& piece) {
         return piece.box.centerX() > box.left && piece.box.centerX() < box.right && piece.baseline > box.top &&
                piece.baseline < box.bottom;
     };
+    const auto reachesIn = [&](const TextPiece& piece) { return piece.box.intersects(box); };
+    if (std::count_if(prose.begin(), prose.end(), reachesIn) >= parameters.proseLines)
+        return true;
     for (const TextPiece& piece : prose) {
         if (!isWithin(piece))
             continue;
@@ -195,7 +198,7 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
             continue;
         TableGrid grid =
             spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);
-        if (isDrawnOver(page, grid, parameters.tables) || cutsProse(grid, texts.prose, parameters.tables))
+        if (isDrawnOver(page, grid, parameters.tables) || takesProse(grid, texts.prose, parameters.tables))
             continue;
         grids.push_back(std::move(grid));
         first = used = start + aligned.rows.size();
