@@ -78,7 +78,7 @@ public:
         if (area.starts.empty())
             return std::nullopt;
         startWith(area, area.starts.front().line, m_page);
-        return area;
+        return isBelowTable(area) ? std::nullopt : std::optional(std::move(area));
     }
 
 private:
@@ -99,7 +99,18 @@ private:
     bool mayPartNotes(const Rule& rule) const {
         const double length = rule.to - rule.from;
         return rule.direction == RuleDirection::Horizontal && !rule.isUsed &&
-               length >= m_limits.shortestRule * m_page.width && length <= m_limits.longestRule * m_page.width;
+               length >= m_limits.shortestRule * m_page.width && length <= m_limits.longestRule * m_page.width &&
+               !closesTable(rule);
+    }
+
+    /// Whether a rule above it has the same ends: the first and the last of a table, below which its own notes stand.
+    bool closesTable(const Rule& rule) const {
+        return std::any_of(m_page.rules.begin(), m_page.rules.end(), [&](const Rule& other) {
+            return other.direction == RuleDirection::Horizontal && !other.isUsed &&
+                   rule.position - other.position > m_context.bodyLeading &&
+                   std::abs(other.from - rule.from) <= m_limits.twinEnds &&
+                   std::abs(other.to - rule.to) <= m_limits.twinEnds;
+        });
     }
 
     LineIterator firstBelow(double y) const {
@@ -137,9 +148,22 @@ private:
         return column;
     }
 
+    /// Whether a table ends right above the notes, which are its own then.
+    bool isBelowTable(const NoteArea& area) const {
+        const Rect& first = line(area.lines.front()).box;
+        return std::any_of(m_page.rules.begin(), m_page.rules.end(), [&](const Rule& rule) {
+            return rule.direction == RuleDirection::Horizontal && rule.position <= area.top + rule.width &&
+                   area.top - rule.position <= m_limits.largestGap &&
+                   overlap(rule.from, rule.to, first.left, first.right) > 0 && closesTable(rule);
+        });
+    }
+
     bool addLine(NoteArea& area, std::size_t index) const {
         const Line& added = line(index);
-        if (added.fontSize > m_limits.largestSize * m_context.bodyFontSize)
+        const double footSize = m_limits.footSize * m_context.bodyFontSize;
+        const bool isSmall = !area.lines.empty() && line(area.lines.front()).fontSize <= footSize;
+        // Text of the body's size below smaller one is no note: what is small stands below a table or a picture.
+        if (added.fontSize > (isSmall ? footSize : m_limits.largestSize * m_context.bodyFontSize))
             return false;
         area.lines.push_back(index);
         if (const std::string mark = markAtStart(added.words.front()); !mark.empty())

@@ -94,6 +94,7 @@ struct StructureParameters {
         double narrowestColumn = 0.2; ///< of the page's width
         double footSize = 0.92;       ///< of the body text's size; notes with no rule above them are smaller
         double loneMarkSize = 0.7;    ///< likewise; a mark on a line by itself, beside a picture for instance
+        double twinEnds = 1.0;        ///< points; between the ends of the rules of one table
     } notes;
 };
 

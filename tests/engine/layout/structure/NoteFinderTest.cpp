@@ -124,6 +124,26 @@ TEST(NoteFinder, WantsSmallText) {
     EXPECT_EQ(notesOf(take(pages)), "");
 }
 
+TEST(NoteFinder, LeavesTheNotesOfATable) {
+    for (const bool isSmall : {true, false}) {
+        std::vector<PageText> pages{pageWithText(1, {"Left^a Right^b"})};
+        addNotes(pages[0], {"^a Note a.", "^b Note b."});
+        if (!isSmall)
+            for (std::size_t i = 1; i < pages[0].lines.size(); ++i)
+                pages[0].lines[i].fontSize = 10;
+        pages[0].rules.push_back(noteRule(600));
+        EXPECT_EQ(notesOf(take(pages)), "") << "the rules above and below the table end at the same places";
+        EXPECT_EQ(pages[0].lines.size(), 3u);
+    }
+}
+
+TEST(NoteFinder, LeavesSmallTextAboveLarger) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
+    addNotes(pages[0], {"^1 What a picture shows"});
+    pages[0].lines.push_back(makeNotedLine("text of the column goes on below", 72, 740, 10));
+    EXPECT_EQ(notesOf(take(pages)), "");
+}
+
 TEST(NoteFinder, KnowsNotesAtTheFootByTheirMarksWithoutARule) {
     std::vector<PageText> pages{pageWithText(1, {"a word^1 and", "another^2 word"})};
     addNotes(pages[0], {"Source: a table", "^1 The first note", "goes on", "^2 The second"});
