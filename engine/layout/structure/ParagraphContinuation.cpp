@@ -1,5 +1,9 @@
 #include "layout/structure/ParagraphContinuation.h"
 
+#include "base/Utf8.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -22,12 +26,21 @@ bool isOneParagraphsLook(const ParagraphDraft& a, const ParagraphDraft& b,
            std::max(before.fontSize, next.fontSize) <= parameters.sizeChange * std::min(before.fontSize, next.fontSize);
 }
 
+/// Whether the paragraph is a single line of numbers and signs: that of a page or a formula, which no text goes on
+/// from.
+bool isBareNumber(const ParagraphDraft& paragraph) {
+    if (paragraph.lines.size() > 1)
+        return false;
+    const std::u32string text = utf32FromUtf8(textOf(paragraph.lines.front()));
+    return std::none_of(text.begin(), text.end(), isLetter);
+}
+
 } // namespace
 
 bool mayRunOn(const PlacedParagraph& last, const ParagraphContext& context, const LayoutParameters& parameters) {
     const Line& line = last.paragraph.lines.back();
     if (line.words.empty() || last.paragraph.alignment == Alignment::Center ||
-        last.paragraph.alignment == Alignment::End)
+        last.paragraph.alignment == Alignment::End || isBareNumber(last.paragraph))
         return false;
     const LineMeasure measure = measureOne(line, last.column, context, parameters);
     if (measure.hasLeader)
@@ -42,7 +55,8 @@ bool runsOn(const PlacedParagraph& last, const PlacedParagraph& next, const Para
     const ParagraphParameters::Paragraphs& limits = parameters.paragraphs;
     const Line& line = last.paragraph.lines.back();
     const Line& start = next.paragraph.lines.front();
-    if (line.words.empty() || start.words.empty() || !isOneParagraphsLook(last.paragraph, next.paragraph, limits))
+    if (line.words.empty() || start.words.empty() || isBareNumber(last.paragraph) ||
+        !isOneParagraphsLook(last.paragraph, next.paragraph, limits))
         return false;
     const LineMeasure before = measureOne(line, last.column, context, parameters);
     const LineMeasure after = measureOne(start, next.column, context, parameters);

@@ -48,6 +48,15 @@ TEST(ParagraphJoiner, KeepsParagraphsApartThatEnded) {
     EXPECT_EQ(draft.blocks.size(), 2u);
 }
 
+TEST(ParagraphJoiner, KeepsTextApartFromANumberAbove) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("(7)", 505, 740)})));
+    draft.blocks.back().paragraph()->pieces[0].text.endsParagraph = false;
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("and goes on here", 72, 84)}), 1));
+    joinParagraphs(draft, {}, {});
+    EXPECT_EQ(draft.blocks.size(), 2u);
+}
+
 TEST(ParagraphJoiner, KeepsParagraphsApartBelowWhichHalfThePageIsEmpty) {
     DocumentDraft draft = makeDraft(2);
     draft.blocks.push_back(makeBlock(makeParagraph({makeLine(kFullLine, 72, 200)})));
