@@ -12,18 +12,19 @@ namespace {
 using document::NumberFormat;
 using document::NumberingLevel;
 
-/// "%1." for the first level; "%1.%2" below it where the numbers repeat those above; "2.%1" where these are not the
-/// list's.
+/// "%1." for the first level; "%1.%2" below it where the numbers repeat those above; "2.%1" and below it "2.%1.%2"
+/// where the first of these is not the list's.
 std::string labelText(const ListItem& item) {
     const ListLabel& label = item.label;
     if (label.format == NumberFormat::Bullet)
         return label.bullet;
     std::string text = label.before;
-    for (std::size_t i = 0; i + 1 < label.numbers.size(); ++i) {
-        if (item.isNested)
-            text += fmt::format("%{}.", static_cast<std::size_t>(item.level) + 2 + i - label.numbers.size());
-        else
-            text += fmt::format("{}.", label.numbers[i]);
+    const int count = static_cast<int>(label.numbers.size());
+    for (int i = 0; i + 1 < count; ++i) {
+        // The list's own levels are the innermost ones: what stands before them is the same in all its labels.
+        const int level = item.level + 2 + i - count;
+        text += item.isNested && level > 0 ? fmt::format("%{}.", level)
+                                           : fmt::format("{}.", label.numbers[static_cast<std::size_t>(i)]);
     }
     return text + fmt::format("%{}", item.level + 1) + label.after;
 }

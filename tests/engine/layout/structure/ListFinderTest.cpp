@@ -97,6 +97,10 @@ TEST(ListFinder, RepeatsTheNumbersOfTheLevelAbove) {
     EXPECT_EQ(levelOf(draft, 0, 1).text, "%1.%2.");
     const DocumentDraft alone = listsOf({{"2.1.\tin two"}, {"2.2.\tin two"}});
     EXPECT_EQ(levelOf(alone, 0, 0).text, "2.%1.") << "the level above is no item of the list";
+    const DocumentDraft below =
+        listsOf({{"2.1.\tone"}, {"2.1.1.\tin it"}, {"2.1.2.\tin it"}, {"2.2.\ttwo"}, {"2.2.1.\tin it"}});
+    EXPECT_EQ(levelOf(below, 0, 0).text, "2.%1.");
+    EXPECT_EQ(levelOf(below, 0, 1).text, "2.%1.%2.");
     EXPECT_EQ(levelOf(alone, 0, 0).start, 1);
 }
 
