@@ -64,6 +64,7 @@ struct PageParameters {
             4;                     ///< so many lines, and more than there are level ones, are a page laid on its side
         double turnedShare = 0.85; ///< of a page's letters; with so many turned one way the page is turned back
         std::size_t fewestLetters = 60; ///< of such a page
+        double edgeShare = 0.35;        ///< of all letters; the level ones of its head and foot are no more
     } turnedText;
 
     /// FacingPages: margins of books, wider on the inner side or on the outer one.

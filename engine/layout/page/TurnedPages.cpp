@@ -18,14 +18,35 @@ std::size_t letterCount(const Line& line) {
     return count;
 }
 
-/// The angle of nearly all of the page's text; 0 where there is none but level text, or too little of it.
+bool isLevel(const Line& line) {
+    return line.angle == 0 || line.isVertical;
+}
+
+/// Whether the level line stands above or below all that is turned, as the head and the foot of the page do.
+bool isAtEdge(const Line& line, const Rect& turned) {
+    return isLevel(line) && (line.box.bottom <= turned.top || line.box.top >= turned.bottom);
+}
+
+/// The angle of nearly all of the page's text between its head and foot; 0 where there is none but level text, or too
+/// little of it.
 double angleOf(const PageText& page, const PageParameters::TurnedText& limits) {
+    Rect turned;
+    for (const Line& line : page.lines)
+        if (!isLevel(line))
+            turned = turned.united(line.box);
     std::map<double, std::size_t> letters;
-    std::size_t all = 0;
+    std::size_t all = 0, edges = 0;
     for (const Line& line : page.lines) {
-        letters[line.isVertical ? 0 : line.angle] += letterCount(line);
-        all += letterCount(line);
+        const std::size_t count = letterCount(line);
+        all += count;
+        if (isAtEdge(line, turned))
+            edges += count;
+        else
+            letters[isLevel(line) ? 0 : line.angle] += count;
     }
+    if (letters.empty() || static_cast<double>(edges) > limits.edgeShare * static_cast<double>(all))
+        return 0;
+    all -= edges;
     const auto most = std::max_element(letters.begin(), letters.end(),
                                        [](const auto& a, const auto& b) { return a.second < b.second; });
     const bool isSure = all >= limits.fewestLetters && page.lines.size() >= limits.fewestOfPage &&

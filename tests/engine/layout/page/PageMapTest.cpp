@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <cmath>
 
 namespace orvane::layout {
@@ -73,6 +75,18 @@ TEST(TurnedPages, StayWhereTheirTextIsLevel) {
     turnUpright(page, {});
     EXPECT_EQ(page.lines[0].angle, 90);
     EXPECT_LT(page.width, page.height);
+}
+
+TEST(TurnedPages, AreTurnedThoughTheirHeadAndFootAreLevel) {
+    PageText page = pageOnItsSide(90);
+    Rect turned;
+    for (const Line& line : page.lines)
+        turned = turned.united(line.box);
+    page.lines.push_back(makeLine("a head that is level on every page of the thesis", 72, turned.top - 20));
+    page.lines.push_back(makeLine("19", 290, turned.bottom + 30));
+    turnUpright(page, {});
+    EXPECT_GT(page.width, page.height);
+    EXPECT_EQ(std::count_if(page.lines.begin(), page.lines.end(), [](const Line& line) { return line.angle == 0; }), 6);
 }
 
 /// A page of full lines between these edges.
