@@ -23,9 +23,17 @@ struct Placed {
     bool isInColumns = false; ///< beside other columns
 };
 
+bool keepsToStart(const ParagraphDraft& paragraph) {
+    return paragraph.alignment != Alignment::Center && paragraph.alignment != Alignment::End;
+}
+
+bool isRightToLeft(const Placed& placed) {
+    return placed.paragraph->lines.front().isRightToLeft;
+}
+
 /// The paragraph's own edges. Lines that are centred or set against the end keep to their column's.
 ColumnSpan edgesOf(const ParagraphDraft& paragraph, ColumnSpan column) {
-    if (paragraph.alignment == Alignment::Center || paragraph.alignment == Alignment::End)
+    if (!keepsToStart(paragraph))
         return column;
     const double start = paragraph.indentStart + std::min(0.0, paragraph.firstLine);
     return paragraph.lines.front().isRightToLeft ? ColumnSpan{column.left + paragraph.indentEnd, column.right - start}
@@ -65,21 +73,54 @@ public:
 
 private:
     /// The smallest ground that holds the paragraph whole is the one that is seen around it. One that is much higher
-    /// than its text, or of several colours, is more than the shading of paragraphs.
+    /// than its text, of several colours, or around something narrower than a paragraph, such as a label, is more than
+    /// the shading of paragraphs.
     void shade(Ground& ground) {
         if (ground.box.width() * ground.box.height() > m_parameters.pageShare * m_layout.width * m_layout.height)
             return;
-        std::vector<ParagraphDraft*> held;
+        std::vector<Placed*> held;
         double textHeight = 0;
-        for (const Placed& placed : m_paragraphs)
+        for (Placed& placed : m_paragraphs)
             if (ground.box.inflated(m_parameters.overhang).contains(placed.paragraph->box)) {
-                held.push_back(placed.paragraph);
+                held.push_back(&placed);
                 textHeight += placed.paragraph->box.height();
             }
         ground.isUsed =
-            !held.empty() && !ground.gradient && textHeight >= m_parameters.filledShare * ground.box.height();
-        for (ParagraphDraft* paragraph : held)
-            paragraph->shading = ground.isUsed ? std::optional(ground.color) : std::nullopt;
+            !held.empty() && !ground.gradient && textHeight >= m_parameters.filledShare * ground.box.height() &&
+            std::all_of(held.begin(), held.end(), [&](const Placed* placed) { return mayFill(ground.box, *placed); });
+        for (Placed* placed : held) {
+            placed->paragraph->shading = ground.isUsed ? std::optional(ground.color) : std::nullopt;
+            if (ground.isUsed)
+                narrow(*placed, ground.box);
+        }
+    }
+
+    bool reachesEnd(const Rect& ground, const Placed& placed) const {
+        const double tolerance = this->tolerance(placed);
+        return isRightToLeft(placed) ? ground.left <= placed.edges.left + tolerance
+                                     : ground.right >= placed.edges.right - tolerance;
+    }
+
+    /// Whether the shading of the paragraph, which goes from indent to indent, can look like the ground: that goes to
+    /// the paragraph's end, or leaves its lines room where it ends itself and starts with them.
+    bool mayFill(const Rect& ground, const Placed& placed) const {
+        if (reachesEnd(ground, placed))
+            return true;
+        const Rect& box = placed.paragraph->box;
+        const double atLeft = box.left - ground.left, atRight = ground.right - box.right;
+        const double before = isRightToLeft(placed) ? atRight : atLeft,
+                     after = isRightToLeft(placed) ? atLeft : atRight;
+        return keepsToStart(*placed.paragraph) && before <= tolerance(placed) && after >= tolerance(placed);
+    }
+
+    /// Lets the paragraph end with its ground.
+    void narrow(Placed& placed, const Rect& ground) const {
+        if (reachesEnd(ground, placed))
+            return;
+        double& edge = isRightToLeft(placed) ? placed.edges.left : placed.edges.right;
+        const double end = isRightToLeft(placed) ? ground.left : ground.right;
+        placed.paragraph->indentEnd += std::abs(edge - end);
+        edge = end;
     }
 
     double tolerance(const Placed& placed) const {

@@ -112,5 +112,33 @@ TEST(ParagraphBorders, AGroundMuchHigherThanItsTextIsNoShading) {
     EXPECT_FALSE(page.freeGrounds[0].isUsed);
 }
 
+TEST(ParagraphBorders, AGroundThatEndsBeforeTheColumnEndsTheShadingThere) {
+    PageLayout page = pageWith({100});
+    auto& paragraph = std::get<ParagraphDraft>(page.blocks[0].value);
+    paragraph.box.right = 200;
+    page.freeGrounds = {{{70, 88, 300, 108}, {0xEE, 0xEE, 0xEE}, 1, false, 0, {}}};
+    page = found(std::move(page));
+    EXPECT_TRUE(page.freeGrounds[0].isUsed);
+    EXPECT_TRUE(at(page, 0).shading);
+    EXPECT_NEAR(at(page, 0).indentEnd, 523 - 300, 0.01);
+}
+
+TEST(ParagraphBorders, TheGroundOfALabelIsNoShading) {
+    struct Case {
+        double left, right;
+        const char* why;
+    };
+    for (const Case& label :
+         {Case{40, 260, "the words stand in the middle of it"}, Case{70, 202, "another font would break the line"}}) {
+        PageLayout page = pageWith({100});
+        std::get<ParagraphDraft>(page.blocks[0].value).box.right = 200;
+        page.freeGrounds = {{{label.left, 88, label.right, 108}, {0xFF, 0xFF, 0}, 1, false, 0, {}}};
+        page = found(std::move(page));
+        EXPECT_FALSE(page.freeGrounds[0].isUsed) << label.why;
+        EXPECT_EQ(at(page, 0).shading, std::nullopt) << label.why;
+        EXPECT_EQ(at(page, 0).indentEnd, 0) << label.why;
+    }
+}
+
 } // namespace
 } // namespace orvane::layout
