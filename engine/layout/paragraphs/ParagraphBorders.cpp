@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <span>
 
@@ -15,6 +16,9 @@ using document::BorderKind;
 // Source: ISO/IEC 29500-1, 17.3.4 (attribute sz of a border).
 constexpr EighthPoints kThinnest{2};
 constexpr EighthPoints kThickest{96};
+
+/// Share of a paragraph's width that its shading takes. A narrower ground is not the width of the text around it.
+constexpr double kWholeGround = 0.9;
 
 /// A paragraph, and from where to where a word processor draws its borders.
 struct Placed {
@@ -85,40 +89,51 @@ private:
                 held.push_back(&placed);
                 textHeight += placed.paragraph->box.height();
             }
-        ground.isUsed =
-            !held.empty() && !ground.gradient && textHeight >= m_parameters.filledShare * ground.box.height() &&
-            std::all_of(held.begin(), held.end(), [&](const Placed* placed) { return mayFill(ground.box, *placed); });
+        ground.isUsed = !held.empty() && !ground.gradient &&
+                        textHeight >= m_parameters.filledShare * ground.box.height() && mayFill(ground.box, held);
+        const bool isNarrow = ground.isUsed && !reachesEnd(ground.box, held);
         for (Placed* placed : held) {
             placed->paragraph->shading = ground.isUsed ? std::optional(ground.color) : std::nullopt;
-            if (ground.isUsed)
+            if (isNarrow)
                 narrow(*placed, ground.box);
         }
     }
 
-    bool reachesEnd(const Rect& ground, const Placed& placed) const {
-        const double tolerance = this->tolerance(placed);
-        return isRightToLeft(placed) ? ground.left <= placed.edges.left + tolerance
-                                     : ground.right >= placed.edges.right - tolerance;
+    /// Whether the ground goes, nearly, to the end of one of the paragraphs it holds.
+    bool reachesEnd(const Rect& ground, const std::vector<Placed*>& held) const {
+        const double slack = (1 - kWholeGround) * ground.width();
+        return std::any_of(held.begin(), held.end(), [&](const Placed* placed) {
+            return isRightToLeft(*placed) ? ground.left <= placed->edges.left + slack
+                                          : ground.right >= placed->edges.right - slack;
+        });
     }
 
-    /// Whether the shading of the paragraph, which goes from indent to indent, can look like the ground: that goes to
-    /// the paragraph's end, or leaves its lines room where it ends itself and starts with them.
-    bool mayFill(const Rect& ground, const Placed& placed) const {
-        if (reachesEnd(ground, placed))
+    /// Whether shading, which goes from indent to indent, can look like the ground: that goes to the paragraphs' end,
+    /// or starts with them and leaves a single line room where it ends itself.
+    bool mayFill(const Rect& ground, const std::vector<Placed*>& held) const {
+        if (reachesEnd(ground, held))
             return true;
-        const Rect& box = placed.paragraph->box;
-        const double atLeft = box.left - ground.left, atRight = ground.right - box.right;
-        const double before = isRightToLeft(placed) ? atRight : atLeft,
-                     after = isRightToLeft(placed) ? atLeft : atRight;
-        return keepsToStart(*placed.paragraph) && before <= tolerance(placed) && after >= tolerance(placed);
+        double before = std::numeric_limits<double>::infinity(), after = before;
+        for (const Placed* placed : held) {
+            if (!keepsToStart(*placed->paragraph))
+                return false;
+            const Rect& box = placed->paragraph->box;
+            const double atLeft = box.left - ground.left, atRight = ground.right - box.right;
+            before = std::min(before, isRightToLeft(*placed) ? atRight : atLeft);
+            after = std::min(after, isRightToLeft(*placed) ? atLeft : atRight);
+        }
+        const Placed& first = *held.front();
+        const bool isSingleLine = held.size() == 1 && first.paragraph->lines.size() == 1;
+        return before <= tolerance(first) && (!isSingleLine || after >= tolerance(first));
     }
 
-    /// Lets the paragraph end with its ground.
+    /// Lets the paragraph end with its ground, but not so close to its lines that another font would break them.
     void narrow(Placed& placed, const Rect& ground) const {
-        if (reachesEnd(ground, placed))
-            return;
+        const Rect& box = placed.paragraph->box;
         double& edge = isRightToLeft(placed) ? placed.edges.left : placed.edges.right;
-        const double end = isRightToLeft(placed) ? ground.left : ground.right;
+        const double end = isRightToLeft(placed)
+                               ? std::max(edge, std::min(ground.left, box.left - tolerance(placed)))
+                               : std::min(edge, std::max(ground.right, box.right + tolerance(placed)));
         placed.paragraph->indentEnd += std::abs(edge - end);
         edge = end;
     }
