@@ -107,6 +107,7 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
     for (AssembledBlock& block : blocks)
         if (!block.labels.empty())
             frameLabels(block, context);
+    keepOnPages(blocks);
     hangBesidePictures(blocks);
     hangOnText(blocks, cell, context);
     std::vector<document::Block> finished;

@@ -80,7 +80,37 @@ void moveIntoCell(document::Placement& placement, double left) {
     placement.x = placement.x - emuFromPoints(left);
 }
 
+bool floats(const AssembledBlock& block) {
+    return block.draft ? isFloating(*block.draft) : std::holds_alternative<document::Figure>(block.block.value);
+}
+
+bool startsOn(const AssembledBlock& block, std::size_t page) {
+    return block.draft && block.draft->page == page;
+}
+
 } // namespace
+
+void keepOnPages(std::vector<AssembledBlock>& blocks) {
+    std::size_t host = blocks.size();
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        if (!floats(blocks[i])) {
+            host = blocks[i].paragraph() ? i : host;
+            continue;
+        }
+        std::size_t end = i;
+        while (end < blocks.size() && floats(blocks[end]))
+            ++end;
+        if (host < i && end < blocks.size() && blocks[host].draft && !startsOn(blocks[end], blocks[host].draft->page)) {
+            const std::size_t page = blocks[host].draft->page;
+            const auto at = [&](std::size_t index) { return blocks.begin() + static_cast<std::ptrdiff_t>(index); };
+            const auto last = std::stable_partition(at(i), at(end),
+                                                    [&](const AssembledBlock& block) { return startsOn(block, page); });
+            std::rotate(at(host), at(i), last);
+            host = blocks.size();
+        }
+        i = end - 1;
+    }
+}
 
 void hangBesidePictures(std::vector<AssembledBlock>& blocks) {
     for (std::size_t i = 0; i + 1 < blocks.size(); ++i) {

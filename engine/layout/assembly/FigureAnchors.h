@@ -14,6 +14,10 @@ struct CellOrigin {
     double top = 0;
 };
 
+/// Puts what floats at the end of a page before the last paragraph that begins there: word processors show it on the
+/// page of the paragraph behind it.
+void keepOnPages(std::vector<AssembledBlock>& blocks);
+
 /// Hangs pictures that float beside one in a paragraph of its own on that paragraph: they go where it goes. Requires:
 /// the space between the blocks is known.
 void hangBesidePictures(std::vector<AssembledBlock>& blocks);

@@ -89,6 +89,23 @@ TEST(FigureAnchors, LeaveOnThePageWhatIsOfThePage) {
     }
 }
 
+TEST(FigureAnchors, KeepOnItsPageWhatFloatsAtTheEndOfIt) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("First", 72, 88)})));
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Last", 72, 120)})));
+    draft.blocks.push_back(makeBox({70, 400, 200, 420}));
+    DraftBlock ofNextPage = makeBox({70, 500, 200, 520});
+    ofNextPage.page = 1;
+    draft.blocks.push_back(ofNextPage);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Next", 72, 88)}), 1));
+    const document::Document document = tests::documentOf(draft);
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    ASSERT_EQ(blocks.size(), 5u);
+    EXPECT_EQ(placementIn(blocks, 1).y, emuFromPoints(400)) << "before the last paragraph of its page";
+    EXPECT_TRUE(std::holds_alternative<document::Paragraph>(blocks[2].value));
+    EXPECT_EQ(placementIn(blocks, 3).y, emuFromPoints(500)) << "before the first of the next page";
+}
+
 TEST(FigureAnchors, HangABoxInACellOnTheCell) {
     DocumentDraft draft = makeDraft(1);
     DraftTable table;
