@@ -18,10 +18,21 @@ bool isSamePlace(const Rect& a, const Rect& b, double tolerance) {
            std::abs(a.right - b.right) <= tolerance && std::abs(a.bottom - b.bottom) <= tolerance;
 }
 
-/// Drawings of as many shapes at one place are taken to be the same.
+bool looksAlike(const document::Shape& a, const document::Shape& b) {
+    const bool haveSameLine = a.line.has_value() == b.line.has_value() &&
+                              (!a.line || (a.line->color == b.line->color && a.line->kind == b.line->kind));
+    return haveSameLine && a.fill == b.fill &&
+           std::equal(a.segments.begin(), a.segments.end(), b.segments.begin(), b.segments.end(),
+                      [](const auto& one, const auto& other) { return one.verb == other.verb; });
+}
+
+/// Drawings at one place are the same if their shapes are made of the same lines and curves, in the same colours.
 bool looksAlike(const Figure& a, const Figure& b) {
-    return a.picture == b.picture && a.drawing.has_value() == b.drawing.has_value() &&
-           (!a.drawing || a.drawing->shapes.size() == b.drawing->shapes.size());
+    if (a.picture != b.picture || a.drawing.has_value() != b.drawing.has_value())
+        return false;
+    return !a.drawing || std::equal(a.drawing->shapes.begin(), a.drawing->shapes.end(), b.drawing->shapes.begin(),
+                                    b.drawing->shapes.end(),
+                                    [](const auto& one, const auto& other) { return looksAlike(one, other); });
 }
 
 class FigureComparer {
@@ -33,7 +44,7 @@ public:
     bool isOnPage(std::size_t page, const Figure& figure) const {
         const std::vector<Figure>& figures = m_pages[page].figures;
         return std::any_of(figures.begin(), figures.end(), [&](const Figure& other) {
-            return looksAlike(other, figure) && isSamePlace(other.box, figure.box, m_limits.samePosition);
+            return isSamePlace(other.box, figure.box, m_limits.samePosition) && looksAlike(other, figure);
         });
     }
     bool isOnPageNearby(std::size_t page, const Figure& figure) const {

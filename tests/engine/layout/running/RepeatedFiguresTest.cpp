@@ -66,6 +66,24 @@ TEST(RepeatedFigures, LeavesTheWordsOverADrawingToTheirPage) {
     EXPECT_EQ(textOf(pages[1].lines[11]), "Words of page 2") << "among the lines around it";
 }
 
+TEST(RepeatedFigures, LeavesDrawingsThatOnlyShareTheirPlace) {
+    auto pages = pagesWith(3, [](PageText& page, int number) {
+        page.lines.push_back(makeLine("Annual report", 72, 50));
+        Figure figure;
+        figure.box = {480, 60, 523, 90};
+        document::Shape shape;
+        shape.segments.resize(number == 1 ? 4 : 5, {document::Shape::Verb::Line, {}});
+        shape.fill = number == 3 ? Color(0xFF, 0, 0) : Color(0, 0, 0xFF);
+        figure.drawing.emplace().shapes = {shape};
+        page.figures.push_back(figure);
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    for (const std::size_t page : {0U, 1U, 2U}) {
+        EXPECT_TRUE(heads[page].header->content.figures.empty()) << page;
+        EXPECT_EQ(pages[page].figures.size(), 1u) << page;
+    }
+}
+
 TEST(RepeatedFigures, LeavesThePicturesBelowTheTextOfAShortPage) {
     auto pages = pagesWith(
         3, [](PageText& page, int number) { page.lines.push_back(makeLine(std::to_string(number), 290, 800)); });
