@@ -183,17 +183,22 @@ std::optional<Rect> ChartLabels::boxOf(const Rect& plot) const {
     return Chart(plot, m_pieces, m_limits).box();
 }
 
-void takeScales(PageText& text, const GraphicsParameters::Charts& limits) {
+std::vector<std::size_t> takeScales(PageText& text, const GraphicsParameters::Charts& limits) {
+    std::vector<std::size_t> grown;
     std::optional<ChartLabels> labels;
-    for (Figure& figure : text.figures) {
+    for (std::size_t i = 0; i < text.figures.size(); ++i) {
+        Figure& figure = text.figures[i];
         if (figure.paths.empty() || figure.isBackground ||
             std::min(figure.box.width(), figure.box.height()) < limits.smallest)
             continue;
         if (!labels)
             labels.emplace(text, limits);
-        if (const auto box = labels->boxOf(figure.box))
+        if (const auto box = labels->boxOf(figure.box)) {
             figure.box = *box;
+            grown.push_back(i);
+        }
     }
+    return grown;
 }
 
 } // namespace orvane::layout

@@ -24,6 +24,7 @@ private:
 
 /// Lets the drawings that are charts reach over the labels of their axes: the numbers beside and below, what is
 /// measured, and the title in letters as small. A drawing without such numbers is none, and stays as it is.
-void takeScales(PageText& text, const GraphicsParameters::Charts& limits);
+/// Returns the indices of those that grew.
+std::vector<std::size_t> takeScales(PageText& text, const GraphicsParameters::Charts& limits);
 
 } // namespace orvane::layout

@@ -113,25 +113,45 @@ std::vector<Figure> findPictures(const pdf::PageContent& page, const GraphicsPar
     return pictures;
 }
 
+bool overlap(const Figure& a, const Figure& b, double share) {
+    return !a.isBackground && !b.isBackground &&
+           a.box.intersected(b.box).area() > share * std::min(a.box.area(), b.box.area());
+}
+
+void takeOver(Figure& host, const Figure& other) {
+    host.box = host.box.united(other.box);
+    host.paintOrder = std::min(host.paintOrder, other.paintOrder);
+    host.paths.insert(host.paths.end(), other.paths.begin(), other.paths.end());
+    host.holdsPicture |= other.holdsPicture || other.paths.empty();
+    if (host.alternateText.empty())
+        host.alternateText = other.alternateText;
+}
+
 /// Makes one figure of a drawing and the pictures under it or over it, which is painted as a whole.
 void uniteWithDrawings(std::vector<Figure>& pictures, const std::vector<Figure>& drawings, double overlapShare) {
     for (const Figure& drawing : drawings) {
         Figure united = drawing;
         std::erase_if(pictures, [&](const Figure& other) {
-            const double smaller = std::min(other.box.area(), drawing.box.area());
-            if (other.isBackground || drawing.isBackground ||
-                other.box.intersected(drawing.box).area() <= overlapShare * smaller)
+            if (!overlap(other, drawing, overlapShare))
                 return false;
-            united.box = united.box.united(other.box);
-            united.paintOrder = std::min(united.paintOrder, other.paintOrder);
-            united.paths.insert(united.paths.end(), other.paths.begin(), other.paths.end());
-            united.holdsPicture |= other.holdsPicture || other.paths.empty();
-            if (united.alternateText.empty())
-                united.alternateText = other.alternateText;
+            takeOver(united, other);
             return true;
         });
         pictures.push_back(std::move(united));
     }
+}
+
+/// A chart whose labels lead on to those of the chart beside it is one figure with that, which would be seen twice.
+void uniteGrown(std::vector<Figure>& figures, const std::vector<std::size_t>& grown, double overlapShare) {
+    std::vector<bool> isGone(figures.size(), false);
+    for (const std::size_t host : grown)
+        for (std::size_t i = 0; i < figures.size() && !isGone[host]; ++i)
+            if (i != host && !isGone[i] && overlap(figures[i], figures[host], overlapShare)) {
+                takeOver(figures[host], figures[i]);
+                isGone[i] = true;
+            }
+    std::size_t index = 0;
+    std::erase_if(figures, [&](const Figure&) { return isGone[index++]; });
 }
 
 } // namespace
@@ -145,7 +165,7 @@ void findFigures(const pdf::PageContent& page, const std::vector<bool>& isRuling
                       parameters.drawings.overlapShare);
     std::stable_sort(text.figures.begin(), text.figures.end(),
                      [](const Figure& a, const Figure& b) { return a.paintOrder < b.paintOrder; });
-    takeScales(text, parameters.charts);
+    uniteGrown(text.figures, takeScales(text, parameters.charts), parameters.drawings.overlapShare);
     labelDrawings(text, page);
     for (Figure& figure : text.figures) {
         std::optional<ShapedDrawing> shaped = shapesOf(figure, page, parameters);

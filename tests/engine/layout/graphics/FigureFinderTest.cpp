@@ -167,6 +167,17 @@ TEST(FigureFinder, MakesOneDrawingOfAChartWithItsScales) {
     ASSERT_THAT(text.lines, SizeIs(1)) << "the caption stays text";
 }
 
+TEST(FigureFinder, MakesOneDrawingOfChartsWhoseLabelsRunOn) {
+    PageContentBuilder page;
+    paintChart(page, 80);
+    paintChart(page, 330);
+    for (int i = 0; i < 16; ++i)
+        page.text(285 + i * 16.0, 352, "Jan", 6, {.angle = 270});
+    const PageText text = read(page);
+    ASSERT_THAT(text.figures, SizeIs(1)) << "or the second would be seen twice";
+    EXPECT_GE(text.figures[0].box.right, 530);
+}
+
 TEST(FigureFinder, KeepsThePointsOfAChart) {
     PageContentBuilder page;
     page.horizontalRule(100, 300, 200);
