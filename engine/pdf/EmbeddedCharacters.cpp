@@ -2,6 +2,7 @@
 
 #include "pdf/FontProgram.h"
 #include "pdf/GlyphIndices.h"
+#include "pdf/GlyphOutline.h"
 
 #include <algorithm>
 
@@ -37,6 +38,15 @@ GlyphTexts byCid(const GfxCIDFont& font, GlyphTexts texts) {
     return byCode;
 }
 
+/// Glyphs that neither map nor name tells of are what is seen of them.
+void addBullets(GlyphTexts& texts, const FontProgram& program) {
+    if (!program.face())
+        return;
+    for (FT_UInt glyph = 1; glyph < static_cast<FT_UInt>(program.face()->num_glyphs); ++glyph)
+        if (!texts.contains(glyph) && isBullet(outlineOf(program.face(), glyph)))
+            texts.emplace(glyph, U"\u2022");
+}
+
 } // namespace
 
 EmbeddedCharacters::EmbeddedCharacters(GfxFont& font, XRef& xref) {
@@ -46,7 +56,9 @@ EmbeddedCharacters::EmbeddedCharacters(GfxFont& font, XRef& xref) {
     const auto bytes = font.readEmbFontFile(&xref);
     if (!bytes || bytes->empty())
         return;
-    GlyphTexts texts = FontProgram(*bytes).glyphTexts();
+    const FontProgram program(*bytes);
+    GlyphTexts texts = program.glyphTexts();
+    addBullets(texts, program);
     if (font.isCIDFont())
         m_texts = byCid(static_cast<const GfxCIDFont&>(font), std::move(texts));
     else

@@ -10,8 +10,8 @@ class XRef;
 
 namespace orvane::pdf {
 
-/// What the font program inside the file knows about the characters of its glyphs, by its character map and its glyphs'
-/// names. A program that cannot be opened knows nothing.
+/// What the font program inside the file knows about the characters of its glyphs, by its character map, its glyphs'
+/// names and the shape of bullets. A program that cannot be opened knows nothing.
 class EmbeddedCharacters {
 public:
     EmbeddedCharacters(GfxFont& font, XRef& xref);

@@ -148,6 +148,9 @@ private:
         if (!sign.empty()) {
             meaning.isGuessed = sign != meaning.given;
             meaning.text = std::move(sign);
+        } else if (!isNamed(code)) {
+            meaning.text = program().textOf(code);
+            meaning.isGuessed = !meaning.text.empty();
         } else if (isSayable(meaning.given) && !doubtGiven) {
             for (const char32_t c : meaning.given)
                 meaning.text += withoutLigature(c);
@@ -160,6 +163,15 @@ private:
                 meaning.text = meaning.given;
             meaning.isGuessed = !meaning.text.empty();
         }
+    }
+
+    bool isNamed(std::uint32_t code) {
+        if (m_facts.objectNumber <= 0)
+            return true;
+        std::optional<NamedCodes>& named = knowledge().named;
+        if (!named)
+            named.emplace(m_font, m_repair.m_xref);
+        return named->isNamed(code);
     }
 
     /// The meaning of a code of a font of signs; empty for other fonts and where the file's own map knows better.
@@ -190,8 +202,8 @@ private:
     /// A sign of formulas by its glyph's name. Neither the library nor many writers know such names, and hand out the
     /// letter at the code: "S" for a union.
     std::u32string namedSignOf(std::uint32_t code, const std::u32string& given) const {
-        const bool isNamed = !m_font.isCIDFont() && m_font.getType() != fontTrueType && code < 256;
-        if (!isNamed || given.size() != 1 || given[0] != code)
+        const bool hasNames = !m_font.isCIDFont() && m_font.getType() != fontTrueType && code < 256;
+        if (!hasNames || given.size() != 1 || given[0] != code)
             return {};
         const char* name = static_cast<Gfx8BitFont&>(m_font).getCharName(static_cast<int>(code));
         const char32_t character = name ? characterOfMathGlyphName(name) : 0;
@@ -199,8 +211,8 @@ private:
     }
 
     std::u32string guess(std::uint32_t code, const std::u32string& given) {
-        const bool isNamed = !m_font.isCIDFont() && m_font.getType() != fontTrueType;
-        if (isNamed)
+        const bool hasNames = !m_font.isCIDFont() && m_font.getType() != fontTrueType;
+        if (hasNames)
             if (std::u32string text = textOfName(code); isSayable(text))
                 return text;
         if (std::u32string text = program().textOf(code); isSayable(text))
@@ -213,7 +225,7 @@ private:
                 return m_facts.name.starts_with("OpenSymbol") ? fromStandIn(low) : fromPrivateDouble(low);
             }
         }
-        if (!isNamed)
+        if (!hasNames)
             if (std::u32string text = textOfName(code); isSayable(text))
                 return text;
         const char32_t usual = m_hasUsualOrder ? characterInUsualOrder(glyphNumber(code)) : 0;

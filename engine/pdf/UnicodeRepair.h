@@ -2,6 +2,7 @@
 
 #include "base/Diagnostic.h"
 #include "pdf/EmbeddedCharacters.h"
+#include "pdf/NamedCodes.h"
 #include "pdf/PageContent.h"
 
 #include <map>
@@ -32,6 +33,7 @@ private:
     struct Knowledge {
         std::optional<EmbeddedCharacters> program;
         std::optional<bool> isLying;
+        std::optional<NamedCodes> named;
     };
     friend class FontMeanings;
 

@@ -1,9 +1,13 @@
 #include "ReadPages.h"
+#include "Type1Program.h"
 
+#include "pdf/FontProgram.h"
 #include "pdf/GlyphName.h"
 #include "pdf/PopplerRuntime.h"
 #include "pdf/SymbolFont.h"
 #include "pdf/TextString.h"
+#include "pdf/TrueTypeFile.h"
+#include "pdf/TrueTypeGlyph.h"
 
 #include <gtest/gtest.h>
 
@@ -141,6 +145,71 @@ TEST(Unicode, OfPrivateBulletsIsABullet) {
 TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
     EXPECT_EQ(signsOf("OpenSymbol", "<41> <F06C> <42> <F033> <43> <F0B7> <44> <0028> <45> <2713>\n"), "●✓•(✓")
         << "of Wingdings, of ZapfDingbats, of Symbol, and as the map says";
+}
+
+TEST(Unicode, OfASignWithoutANameThatIsDrawnAsABulletIsABullet) {
+    struct Row {
+        int radius;
+        const char* expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {170, "\u2022", "a bullet"}, {300, "\u25CF", "the table's black circle"}, {60, "\u25CF", "a dot"}};
+    for (const Row& row : rows) {
+        const std::string source = tests::type1Program({{"sign", {}, {{300, 350, row.radius}}}});
+        const std::vector<unsigned char> sourceBytes(source.begin(), source.end());
+        const FontProgram program(sourceBytes);
+        TrueTypeFile file;
+        file.family = "OpenSymbol";
+        file.glyphs = {TrueTypeGlyph{}, *trueTypeGlyph(program, 1, 1000)};
+        const std::string bytes = bytesOf(file);
+
+        PdfBuilder builder;
+        const int stream = builder.addStream("/Length1 " + std::to_string(bytes.size()), bytes);
+        const int descriptor =
+            builder.add("<< /Type /FontDescriptor /FontName /OpenSymbol /Flags 4 /FontBBox [0 0 1000 "
+                        "1000] /ItalicAngle 0 /Ascent 800 /Descent 0 /StemV 80 /FontFile2 " +
+                        pdfRef(stream) + " >>");
+        const int child = builder.add("<< /Type /Font /Subtype /CIDFontType2 /BaseFont /OpenSymbol /CIDSystemInfo << "
+                                      "/Registry (Adobe) /Ordering (Identity) /Supplement 0 >> /DW 600 /CIDToGIDMap "
+                                      "/Identity /FontDescriptor " +
+                                      pdfRef(descriptor) + " >>");
+        const int map = builder.addStream("", toUnicode("<0001> <F06C>\n", 1, "<0000> <FFFF>"));
+        EXPECT_EQ(
+            textIn(builder,
+                   "<< /Type /Font /Subtype /Type0 /BaseFont /OpenSymbol /Encoding /Identity-H /DescendantFonts [" +
+                       pdfRef(child) + "] /ToUnicode " + pdfRef(map) + " >>",
+                   "<0001>"),
+            row.expected)
+            << row.why;
+    }
+}
+
+TEST(Unicode, OfACodeWithoutANameAmongNumberedOnesIsNotItsLetter) {
+    struct Row {
+        const char* map;
+        int count;
+        const char* encoding;
+        const char* expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {"<20> <0639> <21> <0646>\n", 2, "", "\u0646\u0646", "codes in the order of use: a glyph that says nothing"},
+        {"<20> <0020> <21> <0021>\n", 2, "", "!\"!", "codes that are letters"},
+        {"<20> <0639> <21> <0646>\n", 2, " /Encoding /WinAnsiEncoding", "\u0646\"\u0646",
+         "the font says what its codes are"},
+    };
+    for (const Row& row : rows) {
+        PdfBuilder builder;
+        const int map = builder.addStream("", toUnicode(row.map, row.count, "<00> <FF>"));
+        const int number =
+            builder.add("<< /Type /Font /Subtype /TrueType /BaseFont /Unknown /FirstChar 32 /LastChar 34 "
+                        "/Widths [500 500 500]" +
+                        std::string(row.encoding) + " /ToUnicode " + pdfRef(map) + " >>");
+        OpenedPdf pdf(
+            builder.page(PdfPage{"BT /E1 20 Tf 50 500 Td <212221> Tj ET", 612, 792, {}, {}, "/E1 " + pdfRef(number)}));
+        EXPECT_EQ(textOf(pdf.page()), row.expected) << row.why;
+    }
 }
 
 TEST(Unicode, ThatStaysUnknownIsEmptyAndTold) {

@@ -1,0 +1,105 @@
+#include "pdf/NamedCodes.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <GfxFont.h>
+#include <Object.h>
+#include <Stream.h>
+#include <XRef.h>
+
+namespace orvane::pdf {
+namespace {
+
+constexpr std::size_t kLongestMap = 1 << 20; ///< bytes; 256 codes need far less
+
+/// The section of a map from `at` on that begins with the word "begin" + `kind`, without the words around it; empty
+/// behind the last.
+std::string_view nextSection(std::string_view map, const std::string& kind, std::size_t& at) {
+    const std::string begin = "begin" + kind;
+    at = map.find(begin, at);
+    if (at == std::string_view::npos)
+        return {};
+    at += begin.size();
+    const std::size_t end = std::min(map.find("end" + kind, at), map.size());
+    const std::string_view section = map.substr(at, end - at);
+    at = end;
+    return section;
+}
+
+/// The hexadecimal strings of a section; what stands in an array counts as one, its first.
+std::vector<std::string_view> stringsOf(std::string_view section) {
+    std::vector<std::string_view> strings;
+    for (std::size_t i = 0; i < section.size(); ++i) {
+        const std::size_t arrayEnd = section[i] == '[' ? section.find(']', i) : i;
+        const std::size_t begin = section.find('<', i);
+        const std::size_t end = section.find('>', i);
+        if (begin == std::string_view::npos || end == std::string_view::npos || end < begin)
+            break;
+        if (section[i] != '<' && section[i] != '[')
+            continue;
+        strings.push_back(section.substr(begin + 1, end - begin - 1));
+        i = section[i] == '[' ? std::min(arrayEnd, section.size()) : end;
+    }
+    return strings;
+}
+
+std::uint32_t numberOf(std::string_view text) {
+    std::uint32_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number, 16);
+    return number;
+}
+
+struct Named {
+    std::bitset<256> codes;
+    std::size_t asTheyAre = 0; ///< named with the character of their own number
+};
+
+Named namedIn(std::string_view map) {
+    Named named;
+    const auto add = [&](std::uint32_t first, std::uint32_t last, std::string_view character) {
+        for (std::uint32_t code = first; code <= last && code < named.codes.size(); ++code)
+            named.codes.set(code);
+        if (first <= last && last < named.codes.size() && numberOf(character) == first)
+            named.asTheyAre += last - first + 1;
+    };
+    std::size_t at = 0;
+    while (at < map.size()) {
+        const std::vector<std::string_view> strings = stringsOf(nextSection(map, "bfchar", at));
+        for (std::size_t i = 0; i + 1 < strings.size(); i += 2)
+            add(numberOf(strings[i]), numberOf(strings[i]), strings[i + 1]);
+    }
+    at = 0;
+    while (at < map.size()) {
+        const std::vector<std::string_view> strings = stringsOf(nextSection(map, "bfrange", at));
+        for (std::size_t i = 0; i + 2 < strings.size(); i += 3)
+            add(numberOf(strings[i]), numberOf(strings[i + 1]), strings[i + 2]);
+    }
+    return named;
+}
+
+} // namespace
+
+NamedCodes::NamedCodes(const GfxFont& font, XRef& xref) {
+    m_codes.set();
+    if (font.isCIDFont() || !font.hasToUnicodeCMap())
+        return;
+    const Object dictionary = xref.fetch(*font.getID());
+    if (!dictionary.isDict() || !dictionary.dictLookupNF("Encoding").isNull())
+        return;
+    Object stream = dictionary.dictLookup("ToUnicode");
+    if (!stream.isStream())
+        return;
+    std::string map;
+    stream.getStream()->fillString(map);
+    if (map.size() > kLongestMap)
+        return;
+    const Named named = namedIn(map);
+    if (named.codes.any() && 2 * named.asTheyAre < named.codes.count())
+        m_codes = named.codes;
+}
+
+} // namespace orvane::pdf
