@@ -32,4 +32,9 @@ bool isLabelText(const std::u32string& text, std::size_t longest) {
            (isClosed && (letters <= 1 || text.front() == U'(' || letters == static_cast<long>(text.size()) - 1));
 }
 
+bool isListSign(const std::u32string& text) {
+    constexpr char32_t kFirst = 0x2022; // dashes and the middle dot come before it
+    return text.size() == 1 && text.front() >= kFirst && isBullet(text.front());
+}
+
 } // namespace orvane::layout

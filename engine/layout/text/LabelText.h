@@ -9,4 +9,7 @@ namespace orvane::layout {
 /// or with a point.
 bool isLabelText(const std::u32string& text, std::size_t longest);
 
+/// A bullet that is no punctuation mark, letter or sign of arithmetic in other places.
+bool isListSign(const std::u32string& text);
+
 } // namespace orvane::layout

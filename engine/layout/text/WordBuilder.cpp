@@ -155,7 +155,7 @@ private:
 
 /// East Asian text stands closer to its label than its characters to those of other scripts; the label is a word still,
 /// unless it ends in a digit, which has that little gap behind it anyway.
-void partLabel(std::vector<Cluster>& clusters, std::size_t first, const TextParameters::Words& limits) {
+void partLabelAt(std::vector<Cluster>& clusters, std::size_t first, const TextParameters::Words& limits) {
     std::u32string label;
     for (std::size_t i = first; i + 1 < clusters.size() && label.size() < limits.longestLabel; ++i) {
         label += clusters[i].text;
@@ -168,6 +168,15 @@ void partLabel(std::vector<Cluster>& clusters, std::size_t first, const TextPara
                                   next.gapBefore.width >= limits.labelGap * next.size;
         return;
     }
+}
+
+/// The label may begin the stretch; a bullet is one behind the text of a neighbouring cell, too.
+void partLabels(std::vector<Cluster>& clusters, std::size_t first, std::size_t last,
+                const TextParameters::Words& limits) {
+    partLabelAt(clusters, first, limits);
+    for (std::size_t i = first + 1; i < last; ++i)
+        if (clusters[i].gapBefore.endsWord && isListSign(clusters[i].text))
+            partLabelAt(clusters, i, limits);
 }
 
 /// Blanks that lie on top of each other, or that more was painted of than there is room for, were not typed.
@@ -199,7 +208,7 @@ void findGapsOf(TextRow& row, const TextParameters::Words& limits) {
         if (i < clusters.size() && !isWide)
             continue;
         Stretch(clusters, first, i, limits).decide(std::min(rowLetterGap, limits.greatestBorrowedGap));
-        partLabel(clusters, first, limits);
+        partLabels(clusters, first, i, limits);
         first = i;
         if (isWide)
             clusters[i].gapBefore.endsWord = true;

@@ -193,6 +193,14 @@ TEST(WordBuilder, PartsALabelInAColumnFurtherRight) {
     EXPECT_THAT(linesOf(page), ElementsAre("\u6587\u7AE0\t\u2022 \u65E5\u672C"));
 }
 
+TEST(WordBuilder, PartsABulletFromEastAsianTextBesideANumberInTheCellBefore) {
+    PageContentBuilder page;
+    const double number = page.text(72, 100, "3.1.1", 12);
+    const double end = page.text(number + 6, 100, "\u2022", 12);
+    page.text(end + 0.4 * 12, 100, "\u65E5\u672C", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("3.1.1 \u2022 \u65E5\u672C"));
+}
+
 TEST(WordBuilder, DoesNotMeasureLettersByTheDotsOfALeader) {
     PageContentBuilder page;
     page.text(72, 100, "Alimony received", 8);
