@@ -38,7 +38,7 @@ struct TableParameters {
         double minimumRowHeight = 0.8; ///< of the font size; a lower row has no room for its text
         double flatShare = 0.3;        ///< of the filled cells that may be lower than their text
         double figureShare = 0.9;      ///< of a drawing's part within the table that must lie in one cell
-        double frameCellShare = 0.4;   ///< of the page; a cell larger than this ...
+        double frameCellShare = 0.5;   ///< of the page; a cell larger than this ...
         double frameWordShare = 0.7; ///< ... that holds this much of the table's words makes it a frame around the page
         int mostFrameCells = 6;      ///< cells with text of such a frame; more are the fields of a form
 
