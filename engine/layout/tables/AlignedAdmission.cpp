@@ -6,6 +6,7 @@
 #include "layout/tables/IndexEntries.h"
 #include "layout/tables/ItemLabels.h"
 #include "layout/tables/ListsSideBySide.h"
+#include "layout/tables/TableCaption.h"
 #include "layout/tables/TextAround.h"
 
 #include <algorithm>
@@ -24,7 +25,9 @@ public:
         , m_evidence(evidence)
         , m_parameters(parameters)
         , m_columns(aligned.gaps.size() + 1) {
+        Rect box;
         for (const PieceRow& row : aligned.rows) {
+            box = box.united(row.box);
             for (const TextPiece& piece : row.pieces) {
                 const ColumnRange range = columnsOf(piece, aligned.gaps);
                 ++m_pieceCount;
@@ -33,6 +36,7 @@ public:
                     m_columns[static_cast<std::size_t>(range.first)].add(piece);
             }
         }
+        m_isNamed = hasTableCaption(box, page.lines, parameters);
     }
 
     TableVerdict judge() const {
@@ -42,9 +46,9 @@ public:
             return TableVerdict::Contents;
         if (isIndex())
             return TableVerdict::Index;
-        if (isList() || isListInColumns())
+        if (!m_isNamed && (isList() || isListInColumns()))
             return TableVerdict::List;
-        if (isKeyValues())
+        if (!m_isNamed && isKeyValues())
             return TableVerdict::KeyValues;
         if (!holdsFields() && isProseInColumns())
             return TableVerdict::Prose;
@@ -53,7 +57,7 @@ public:
             return TableVerdict::Prose;
         if (areListsSideBySide(m_columns, m_parameters))
             return TableVerdict::SideBySide;
-        if (isCode())
+        if (isCode() && !(m_isNamed && m_columns.size() > 2))
             return TableVerdict::Code;
         if (m_evidence == AlignedEvidence::Alignment && holdsLargeBrackets())
             return TableVerdict::Formula;
@@ -64,7 +68,7 @@ public:
         if (isRagged())
             return TableVerdict::Ragged;
         if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn() && !showsRows() &&
-            !holdsFields())
+            !holdsFields() && !m_isNamed)
             return TableVerdict::TooSmall;
         return TableVerdict::Table;
     }
@@ -251,6 +255,7 @@ private:
     std::vector<ColumnPieces> m_columns;
     double m_pieceCount = 0;
     double m_crossingCount = 0;
+    bool m_isNamed = false; ///< a caption calls it a table, whatever else texts side by side may be
 };
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "layout/tables/TableCaption.h"
 
+#include "layout/text/LineText.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -24,16 +26,35 @@ bool isNumber(std::string_view word) {
     return !letters.empty() && letters.find_first_not_of("IVXL") == std::string_view::npos;
 }
 
+/// Whether the line names a table from that word on.
+bool namesTable(const Line& line, std::size_t word) {
+    return word + 1 < line.words.size() && isWordForTable(textOf(line.words[word])) &&
+           isNumber(textOf(line.words[word + 1]));
+}
+
+/// Whether what stands behind the number is the table's title, and no sentence.
+bool isTitled(const Line& line) {
+    if (line.words.size() == 2)
+        return true;
+    const char end = textOf(line.words[1]).back();
+    const std::string next = textOf(line.words[2]);
+    return end == '.' || end == ':' || next == ":" || next == "-" || next == "\u2013" || next == "\u2014";
+}
+
 } // namespace
 
 bool isTableCaption(const PieceRow& row, const std::vector<Line>& lines) {
     const TextPiece& piece = row.pieces.front();
-    const Line& line = lines[piece.line];
-    if (piece.firstWord + 1 >= line.words.size())
-        return false;
-    const auto textAt = [&](std::size_t word) { return textOf(pieceOf(line, piece.line, word, word + 1), lines); };
     // A head may name tables in one of its cells.
-    return row.pieces.size() <= 2 && isWordForTable(textAt(piece.firstWord)) && isNumber(textAt(piece.firstWord + 1));
+    return row.pieces.size() <= 2 && namesTable(lines[piece.line], piece.firstWord);
+}
+
+bool hasTableCaption(const Rect& box, const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    return std::any_of(lines.begin(), lines.end(), [&](const Line& line) {
+        const double gap = std::max(box.top - line.box.bottom, line.box.top - box.bottom);
+        return gap > -parameters.rowSnap * line.fontSize && gap <= parameters.captionReach * line.fontSize &&
+               overlap(line.box.left, line.box.right, box.left, box.right) > 0 && namesTable(line, 0) && isTitled(line);
+    });
 }
 
 } // namespace orvane::layout

@@ -148,6 +148,8 @@ struct TableParameters {
         int maximumHeaderRows = 4;      ///< more rows that look alike are no head
         double headerLikeShare = 0.25;  ///< of the other rows that may look like the head
 
+        double captionReach = 3.0; ///< font sizes; between a table and the first line of its caption
+
         // One table of the parts on several pages.
         double joinedEdge = 3.0;       ///< points; column edges of two parts that differ by less are one
         double labelledRowShare = 0.8; ///< of the rows that must have a label for one without to be no row
