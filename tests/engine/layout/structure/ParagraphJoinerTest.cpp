@@ -1,5 +1,7 @@
 #include "layout/structure/ParagraphJoiner.h"
 
+#include "layout/structure/ParagraphContinuation.h"
+
 #include "engine/layout/DraftSupport.h"
 
 #include <gtest/gtest.h>
@@ -55,6 +57,16 @@ TEST(ParagraphJoiner, KeepsTextApartFromANumberAbove) {
     draft.blocks.push_back(makeBlock(makeParagraph({makeLine("and goes on here", 72, 84)}), 1));
     joinParagraphs(draft, {}, {});
     EXPECT_EQ(draft.blocks.size(), 2u);
+}
+
+TEST(ParagraphJoiner, JoinsTheDateThatAPageBreakCut) {
+    const Line date = makeLine("2014-05-", 72, 740);
+    const Line rest = makeLine("20", 72, 84);
+    const ColumnSpan column{72, date.box.right};
+    const ParagraphContext around{10, 12, {}, {}};
+    EXPECT_TRUE(runsOn({makeParagraph({date}), column}, {makeParagraph({rest}), column}, around, {}));
+    const Line number = makeLine("2014-05", 72, 740);
+    EXPECT_FALSE(runsOn({makeParagraph({number}), column}, {makeParagraph({rest}), column}, around, {}));
 }
 
 TEST(ParagraphJoiner, KeepsParagraphsApartBelowWhichHalfThePageIsEmpty) {
