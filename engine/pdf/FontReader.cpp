@@ -166,11 +166,16 @@ double guessSpaceWidth(const Gfx8BitFont& font) {
     return count > 0 ? sum / count / 2 : 0.25;
 }
 
+constexpr double kWidestSpace = 1.75; ///< of the guess
+
 void setSpaceWidth(Font& font, GfxFont& source) {
     if (!source.isCIDFont()) {
         auto& simple = static_cast<Gfx8BitFont&>(source);
+        const double guess = guessSpaceWidth(simple) * (font.isFixedPitch ? 2 : 1);
         const auto width = spaceOf8BitFont(simple);
-        font.spaceWidth = width ? *width : font.isFixedPitch ? guessSpaceWidth(simple) * 2 : guessSpaceWidth(simple);
+        // Fonts of typesetters have no blank: a usual encoding calls the sign so that they have at its code.
+        const bool mayBeSign = source.getType() == fontType1 || source.getType() == fontType1C;
+        font.spaceWidth = width && (!mayBeSign || *width <= kWidestSpace * guess) ? *width : guess;
     }
     if (font.isType3)
         font.spaceWidth /= emOf(source);

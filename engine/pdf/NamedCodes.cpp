@@ -55,14 +55,25 @@ std::uint32_t numberOf(std::string_view text) {
 
 struct Named {
     std::bitset<256> codes;
+    std::size_t lowest = 256;
+    std::size_t highest = 0;
     std::size_t asTheyAre = 0; ///< named with the character of their own number
+
+    /// Whether the codes are numbers in the order of use, most of which have names: a map may name a few ligatures only
+    /// where a usual encoding tells the letters.
+    bool areNumbers() const {
+        return codes.any() && 2 * asTheyAre < codes.count() && 2 * codes.count() > highest + 1 - lowest;
+    }
 };
 
 Named namedIn(std::string_view map) {
     Named named;
     const auto add = [&](std::uint32_t first, std::uint32_t last, std::string_view character) {
-        for (std::uint32_t code = first; code <= last && code < named.codes.size(); ++code)
+        for (std::uint32_t code = first; code <= last && code < named.codes.size(); ++code) {
             named.codes.set(code);
+            named.lowest = std::min<std::size_t>(named.lowest, code);
+            named.highest = std::max<std::size_t>(named.highest, code);
+        }
         if (first <= last && last < named.codes.size() && numberOf(character) == first)
             named.asTheyAre += last - first + 1;
     };
@@ -85,7 +96,8 @@ Named namedIn(std::string_view map) {
 
 NamedCodes::NamedCodes(const GfxFont& font, XRef& xref) {
     m_codes.set();
-    if (font.isCIDFont() || !font.hasToUnicodeCMap())
+    // Glyphs of other kinds of fonts have names of their own.
+    if (font.getType() != fontTrueType || !font.hasToUnicodeCMap())
         return;
     const Object dictionary = xref.fetch(*font.getID());
     if (!dictionary.isDict() || !dictionary.dictLookupNF("Encoding").isNull())
@@ -98,7 +110,7 @@ NamedCodes::NamedCodes(const GfxFont& font, XRef& xref) {
     if (map.size() > kLongestMap)
         return;
     const Named named = namedIn(map);
-    if (named.codes.any() && 2 * named.asTheyAre < named.codes.count())
+    if (named.areNumbers())
         m_codes = named.codes;
 }
 

@@ -14,7 +14,8 @@ namespace orvane::pdf {
 /// Source: ISO 32000-1, 9.10.2.
 class NamedCodes {
 public:
-    /// All codes count as named in a font with an encoding, without a map, or whose map agrees with the usual encoding.
+    /// All codes count as named in a font with an encoding, without a map, whose map agrees with the usual encoding or
+    /// names few codes, or whose glyphs have names.
     NamedCodes(const GfxFont& font, XRef& xref);
 
     bool isNamed(std::uint32_t code) const { return code >= m_codes.size() || m_codes[code]; }

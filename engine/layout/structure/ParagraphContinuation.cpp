@@ -32,7 +32,8 @@ bool isBareNumber(const ParagraphDraft& paragraph) {
     if (paragraph.lines.size() > 1)
         return false;
     const std::u32string text = utf32FromUtf8(textOf(paragraph.lines.front()));
-    return std::none_of(text.begin(), text.end(), isLetter);
+    // A date may break at a hyphen.
+    return std::none_of(text.begin(), text.end(), isLetter) && !text.ends_with(U'-');
 }
 
 } // namespace

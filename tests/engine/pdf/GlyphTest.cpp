@@ -91,6 +91,27 @@ TEST(Glyphs, ShareTheirFont) {
     EXPECT_NEAR(page.fonts[page.glyphs[0].font].spaceWidth, 0.278, 1e-6);
 }
 
+TEST(Glyphs, ShareABlankNoWiderThanTheirLettersTell) {
+    struct Row {
+        const char* blank;
+        double expected;
+    };
+    for (const Row& row : {Row{"250", 0.25}, Row{"500", 0.2}}) {
+        std::string widths = row.blank;
+        for (int code = '!'; code <= 'z'; ++code)
+            widths += " 400";
+        PdfBuilder builder;
+        const int font = builder.add("<< /Type /Font /Subtype /Type1 /BaseFont /Somebody /FirstChar 32 /LastChar 122 "
+                                     "/Encoding << /Type /Encoding /Differences [97 /a /b] >> /Widths [" +
+                                     widths + "] >>");
+        OpenedPdf pdf(
+            builder.page(tests::PdfPage{"BT /E1 10 Tf 50 500 Td (ab) Tj ET", 612, 792, {}, {}, "/E1 " + tests::pdfRef(font)}));
+        const PageContent page = pdf.page();
+        EXPECT_NEAR(page.fonts.at(0).spaceWidth, row.expected, 1e-6)
+            << "a typesetter's font has another sign where encodings have the blank";
+    }
+}
+
 TEST(Glyphs, OfVerticalWritingFollowEachOtherDownwards) {
     PdfBuilder builder;
     const int map = builder.addStream(

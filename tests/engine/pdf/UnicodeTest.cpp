@@ -196,6 +196,7 @@ TEST(Unicode, OfACodeWithoutANameAmongNumberedOnesIsNotItsLetter) {
     const Row rows[] = {
         {"<20> <0639> <21> <0646>\n", 2, "", "\u0646\u0646", "codes in the order of use: a glyph that says nothing"},
         {"<20> <0020> <21> <0021>\n", 2, "", "!\"!", "codes that are letters"},
+        {"<20> <0639> <7E> <0646>\n", 2, "", "!\"!", "few codes have a name"},
         {"<20> <0639> <21> <0646>\n", 2, " /Encoding /WinAnsiEncoding", "\u0646\"\u0646",
          "the font says what its codes are"},
     };
