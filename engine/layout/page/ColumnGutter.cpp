@@ -161,6 +161,26 @@ bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
     return 2 * labels > left.size();
 }
 
+/// Names in the margin, each beside the first line of what it belongs to: they stand far apart, in a column that is
+/// much narrower than the other.
+bool areNamesInMargin(std::span<const Piece> left, std::span<const Piece> right, double leftExtent, double rightExtent,
+                      const PageParameters::Regions& parameters) {
+    if (leftExtent > parameters.widestMargin * rightExtent || left.size() >= right.size())
+        return false;
+    std::size_t names = 0;
+    auto beside = right.begin();
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const Piece& piece = left[i];
+        const double reach = parameters.nameStep * piece.fontSize;
+        const bool isAlone = (i == 0 || piece.box.centerY() - left[i - 1].box.centerY() > reach) &&
+                             (i + 1 == left.size() || left[i + 1].box.centerY() - piece.box.centerY() > reach);
+        while (beside != right.end() && beside->box.bottom < piece.box.centerY())
+            ++beside;
+        names += isAlone && beside != right.end() && beside->box.top <= piece.box.centerY();
+    }
+    return static_cast<double>(names) >= parameters.nameShare * static_cast<double>(left.size());
+}
+
 /// The middles of the lines of the column next to the gutter, which ends where no piece stands across.
 std::vector<double> linesNextTo(const ColumnGutter& gutter, std::span<const Piece> pieces) {
     struct Reach {
@@ -217,7 +237,8 @@ bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fon
     const bool isNarrow = gutter.right - gutter.left < parameters.wideGutter * fontSize;
     const int least = isNarrow ? parameters.minimumRowsNarrow : parameters.minimumRows;
     if (gutter.rows < least || gutter.bottom <= gutter.top || !left.isWide(fontSize, parameters) ||
-        !right.isWide(fontSize, parameters) || areLabels(leftPieces, rightPieces))
+        !right.isWide(fontSize, parameters) || areLabels(leftPieces, rightPieces) ||
+        areNamesInMargin(leftPieces, rightPieces, left.extent, right.extent, parameters))
         return false;
     return (left.isFilled(parameters) && right.isFilled(parameters)) ||
            areLists(gutter, leftPieces, rightPieces, fontSize, parameters);

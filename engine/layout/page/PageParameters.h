@@ -48,6 +48,9 @@ struct PageParameters {
         int rowsOfHead = 2;              ///< a name and where he or she works; one line is a heading of the column
         int maximumDepth = 8;            ///< how often parts are parted again
         std::size_t maximumStrips = 200; ///< empty strips followed at once
+        double widestMargin = 0.45;      ///< of the other column's width; names in the margin take up no more
+        double nameStep = 1.4;           ///< of the font size; names that stand closer are lines of a text
+        double nameShare = 0.6;          ///< of the margin's lines that must be such names
     } regions;
 
     /// ReadingOrder: where tables and figures come among the lines.

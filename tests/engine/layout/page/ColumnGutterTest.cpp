@@ -55,6 +55,20 @@ TEST(ColumnGutter, PartsEntriesThatLeadToTheirPages) {
     EXPECT_FALSE(areColumns(entries(document::TabLeader::None))) << "they may be four columns of a table";
 }
 
+TEST(ColumnGutter, LeavesNamesInTheMarginBesideWhatTheyBelongTo) {
+    const auto namesEvery = [](int lines) {
+        std::vector<Line> page;
+        for (int row = 0; row < 24; ++row) {
+            if (row % lines == 0)
+                page.push_back(lineOf({wordAt(50, 130, 100 + 12 * row)}));
+            page.push_back(lineOf({wordAt(160, 500, 100 + 12 * row)}));
+        }
+        return page;
+    };
+    EXPECT_FALSE(areColumns(namesEvery(3)));
+    EXPECT_TRUE(areColumns(namesEvery(1))) << "the lines of a narrow column are a text";
+}
+
 TEST(ColumnGutter, PartsListsThatHaveNoRowsInCommon) {
     EXPECT_TRUE(areColumns(listsWithBlanks(3)));
     EXPECT_FALSE(areColumns(listsWithBlanks(0))) << "the blank lines part rows of both";
