@@ -61,6 +61,7 @@ constexpr std::array kWeightWords{
     WeightWord{"bd", 700},         WeightWord{"bolditalic", 700}, WeightWord{"boldoblique", 700},
     WeightWord{"boldmt", 700},     WeightWord{"extrabold", 800},  WeightWord{"ultrabold", 800},
     WeightWord{"heavy", 800},      WeightWord{"black", 900},      WeightWord{"medi", 700}, // as URW shortens its bold
+    WeightWord{"bk", 400},         WeightWord{"hv", 800},         WeightWord{"blk", 900},
 };
 constexpr std::array<std::string_view, 9> kItalicWords{"italic",  "oblique", "ital",       "it",         "obl",
                                                        "slanted", "kursiv",  "bolditalic", "boldoblique"};
@@ -68,7 +69,8 @@ constexpr std::array<std::string_view, 9> kItalicWords{"italic",  "oblique", "it
 /// Weight words that only speak of weight at the end of a name; within it they are part of the family ("Times New
 /// Roman").
 bool needsToEndTheName(std::string_view word) {
-    return word == "roman" || word == "lt" || word == "semi" || word == "book";
+    return word == "roman" || word == "lt" || word == "semi" || word == "book" || word == "bk" || word == "hv" ||
+           word == "blk";
 }
 
 /// TeX's fonts are named by shape in two to five letters and a size: CMBX10, SFTI1200, LMRoman needs no help.
