@@ -43,7 +43,7 @@ private:
             return BreakReason::Position;
         if (isFormulaLine(m_lines[next]) || isFormulaLine(m_lines[next - 1]))
             return BreakReason::Formula;
-        if (isListItem(next))
+        if (isListItem(next) || isNextNote(next))
             return BreakReason::Marker;
         if (hasSpaceAbove(next))
             return BreakReason::Leading;
@@ -85,6 +85,15 @@ private:
                            sameEdge(m_measures[next + 1].startGap, line.textStart, next) &&
                            !sameEdge(m_measures[next + 1].startGap, line.startGap, next);
         return hangs && !sameEdge(line.startGap, bodyStart(next), next);
+    }
+
+    /// Notes below a table, line by line: the line begins with a raised mark as the paragraph does.
+    bool isNextNote(std::size_t next) const {
+        const auto beginsRaised = [](const Line& line) {
+            return !line.words.empty() &&
+                   line.words.front().spans.front().look.verticalPosition == document::VerticalPosition::Superscript;
+        };
+        return beginsRaised(m_lines[m_first]) && beginsRaised(m_lines[next]);
     }
 
     bool hasSpaceAbove(std::size_t next) const {

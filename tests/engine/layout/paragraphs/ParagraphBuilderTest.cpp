@@ -80,6 +80,19 @@ TEST(ParagraphBuilder, JoinsTheLinesOfAParagraph) {
         EXPECT_EQ(textsOf(build(row.art, 31)), row.expected) << row.why;
 }
 
+TEST(ParagraphBuilder, PartsNotesByTheirRaisedMarks) {
+    const auto build = [](bool isRaised) {
+        std::vector<Line> lines =
+            linesFromArt({"a A note that fills all of its", "b And another, which does too."}, 12);
+        for (Line& line : lines)
+            if (isRaised)
+                line.words.front().spans.front().look.verticalPosition = document::VerticalPosition::Superscript;
+        return buildParagraphs(lines, artColumn(30), kContext, {});
+    };
+    EXPECT_EQ(build(true).size(), 2u);
+    EXPECT_EQ(build(false).size(), 1u);
+}
+
 TEST(ParagraphBuilder, GoesOnBelowAFullLineThoughTheLinesStandFarApart) {
     std::vector<Line> lines = linesFromArt({"The quick brown fox jumps over", "the lazy dog.",
                                             "Another one starts here and it", "goes on to the next line, too."});
