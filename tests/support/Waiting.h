@@ -9,9 +9,13 @@ namespace orvane::tests {
 template<typename Condition>
 bool waitFor(Condition condition, std::chrono::seconds patience = std::chrono::seconds(60)) {
     const auto end = std::chrono::steady_clock::now() + patience;
-    while (!condition() && std::chrono::steady_clock::now() < end)
+    // What held once may not hold when asked again: files come and go.
+    do {
+        if (condition())
+            return true;
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    return condition();
+    } while (std::chrono::steady_clock::now() < end);
+    return false;
 }
 
 } // namespace orvane::tests
