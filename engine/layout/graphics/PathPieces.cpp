@@ -33,39 +33,12 @@ bool turnsCorners(const std::vector<PathLine>& lines, bool beginsLevel, double s
     return true;
 }
 
-/// Whether `next` goes on straight where `line` ends: both level, or both plumb, and in the same direction.
-bool goesStraightOn(const PathLine& line, const PathLine& next, double straightness) {
-    const double dx = line.to.x - line.from.x, dy = line.to.y - line.from.y;
-    const double nextDx = next.to.x - next.from.x, nextDy = next.to.y - next.from.y;
-    if (line.to != next.from)
-        return false;
-    return std::abs(dx) > std::abs(dy)
-               ? isLevel(line, straightness) && isLevel(next, straightness) && dx * nextDx > std::abs(dx * nextDy)
-               : isPlumb(line, straightness) && isPlumb(next, straightness) && dy * nextDy > std::abs(dy * nextDx);
-}
-
-/// The lines of a closed outline, those joined that go straight on: typesetters begin boxes in the middle of a side.
-std::vector<PathLine> sidesOf(const std::vector<PathLine>& lines, double straightness) {
-    std::vector<PathLine> sides;
-    for (const PathLine& line : lines) {
-        if (!sides.empty() && goesStraightOn(sides.back(), line, straightness))
-            sides.back().to = line.to;
-        else
-            sides.push_back(line);
-    }
-    if (sides.size() > 1 && goesStraightOn(sides.back(), sides.front(), straightness)) {
-        sides.front().from = sides.back().from;
-        sides.pop_back();
-    }
-    return sides;
-}
-
 /// The upright rectangle that four lines go around.
-std::optional<Rect> rectangleOf(const std::vector<PathLine>& lines, const Rect& box, double straightness) {
+std::optional<Rect> rectangleOf(const Subpath& subpath, double straightness) {
     // The short sides of a thin one count as level and plumb at once, so both beginnings are tried.
-    const bool isRectangle =
-        lines.size() == 4 && (turnsCorners(lines, true, straightness) || turnsCorners(lines, false, straightness));
-    return isRectangle ? std::optional(box) : std::nullopt;
+    const bool isRectangle = subpath.lines.size() == 4 && (turnsCorners(subpath.lines, true, straightness) ||
+                                                           turnsCorners(subpath.lines, false, straightness));
+    return isRectangle ? std::optional(subpath.box) : std::nullopt;
 }
 
 /// The upright rectangle whose corners the curves round; at least half of its outline is straight.
@@ -130,11 +103,8 @@ private:
         for (const Rect& curve : m_curves)
             extent.push_back({{curve.left, curve.top}, {curve.right, curve.bottom}});
         m_subpath.box = boxOf(extent);
-        m_subpath.rectangle = m_curves.empty() ? rectangleOf(m_subpath.lines, m_subpath.box, m_straightness)
+        m_subpath.rectangle = m_curves.empty() ? rectangleOf(m_subpath, m_straightness)
                                                : roundedRectangleOf(m_subpath, m_curves, m_straightness);
-        if (m_curves.empty() && m_subpath.lines.size() > 4)
-            m_subpath.piecedRectangle =
-                rectangleOf(sidesOf(m_subpath.lines, m_straightness), m_subpath.box, m_straightness);
         m_subpaths.push_back(std::move(m_subpath));
     }
 
@@ -148,6 +118,13 @@ private:
 };
 
 } // namespace
+
+double areaWithin(const std::vector<PathLine>& lines) {
+    double twice = 0;
+    for (const PathLine& line : lines)
+        twice += line.from.x * line.to.y - line.to.x * line.from.y;
+    return std::abs(twice) / 2;
+}
 
 std::vector<Subpath> takeApart(const pdf::Path& path, double straightness) {
     std::vector<Subpath> subpaths;

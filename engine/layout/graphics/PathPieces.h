@@ -20,8 +20,10 @@ struct Subpath {
     bool isClosed = false;
     Rect box;
     std::optional<Rect> rectangle; ///< when it is an upright rectangle, its corners perhaps rounded, and nothing else
-    std::optional<Rect> piecedRectangle; ///< when it is one some side of which is of several lines
 };
+
+/// The area that lines go around, square points. Requires: they are closed and do not cross each other.
+double areaWithin(const std::vector<PathLine>& lines);
 
 /// Takes a path apart. `straightness` says how far, in points, the ends of a line may be off to count as level or
 /// plumb.

@@ -19,6 +19,8 @@ document::BorderKind kindOf(const pdf::StrokeStyle& stroke, const GraphicsParame
                : document::BorderKind::Dashed;
 }
 
+constexpr double kBarFill = 0.9; ///< of its box that a bar fills
+
 /// Turns the paths of a page into single pieces of rules and into grounds.
 class PathReader {
 public:
@@ -53,10 +55,7 @@ private:
     }
 
     bool readFill(const Subpath& subpath, const pdf::Path& path, RulePaint paint) {
-        // Boxes whose sides are in pieces are shapes of drawings, unless they are as thin as rules.
-        const bool isBar =
-            subpath.piecedRectangle && std::min(subpath.box.width(), subpath.box.height()) <= m_limits.thickest;
-        if (!subpath.rectangle && !isBar)
+        if (!subpath.rectangle && !isBar(subpath))
             return subpath.box.width() <= 0 || subpath.box.height() <= 0;
         const Rect box = subpath.box.intersected(path.clip);
         if (box.isEmpty())
@@ -69,6 +68,14 @@ private:
             m_result.grounds.push_back({box, path.fill->color, path.fill->opacity, false, path.paintOrder,
                                         gradientIn(box, path, m_gradients)});
         return true;
+    }
+
+    /// Outlines of more lines than four are shapes of drawings, unless they fill a box as thin as a rule: typesetters
+    /// begin such in the middle of a side, and mitre their ends.
+    bool isBar(const Subpath& subpath) const {
+        const Rect& box = subpath.box;
+        return !subpath.hasCurves && std::min(box.width(), box.height()) <= m_limits.thickest &&
+               areaWithin(subpath.lines) >= kBarFill * box.area();
     }
 
     bool isRule(double thickness, double length) const {

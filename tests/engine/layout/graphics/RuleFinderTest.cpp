@@ -199,6 +199,24 @@ TEST(RuleFinder, TakesRectanglesBegunInTheMiddleOfASide) {
     EXPECT_NEAR(result.rules[0].width, 2, 0.01);
 }
 
+TEST(RuleFinder, TakesBarsWithMitredEnds) {
+    PageContentBuilder page;
+    pdf::Path& path = page.newPath();
+    using pdf::PathVerb;
+    path.segments = {{PathVerb::Move, {}, {}, {72, 101}},
+                     {PathVerb::Line, {}, {}, {72.25, 102}},
+                     {PathVerb::Line, {}, {}, {149.75, 102}},
+                     {PathVerb::Line, {}, {}, {150, 101}},
+                     {PathVerb::Line, {}, {}, {150, 100}},
+                     {PathVerb::Line, {}, {}, {72, 100}},
+                     {PathVerb::Close, {}, {}, {}}};
+    path.fill = pdf::FillStyle{kBlack, false, false, 1, nullptr};
+    path.box = {72, 100, 150, 102};
+    const RuledPage result = rulesOf(page);
+    ASSERT_EQ(result.rules.size(), 1u);
+    EXPECT_EQ(result.rules[0].to, 150);
+}
+
 TEST(RuleFinder, LeavesStepsToTheDrawings) {
     PageContentBuilder page;
     pdf::Path& path = page.newPath();
