@@ -77,18 +77,16 @@ Named namedIn(std::string_view map) {
         if (first <= last && last < named.codes.size() && numberOf(character) == first)
             named.asTheyAre += last - first + 1;
     };
-    std::size_t at = 0;
-    while (at < map.size()) {
-        const std::vector<std::string_view> strings = stringsOf(nextSection(map, "bfchar", at));
-        for (std::size_t i = 0; i + 1 < strings.size(); i += 2)
-            add(numberOf(strings[i]), numberOf(strings[i]), strings[i + 1]);
-    }
-    at = 0;
-    while (at < map.size()) {
-        const std::vector<std::string_view> strings = stringsOf(nextSection(map, "bfrange", at));
-        for (std::size_t i = 0; i + 2 < strings.size(); i += 3)
-            add(numberOf(strings[i]), numberOf(strings[i + 1]), strings[i + 2]);
-    }
+    // A code and its character, or the first and the last code of a range and the character of the first.
+    const auto read = [&](const std::string& kind, std::size_t count) {
+        for (std::size_t at = 0; at < map.size();) {
+            const std::vector<std::string_view> strings = stringsOf(nextSection(map, kind, at));
+            for (std::size_t i = 0; i + count <= strings.size(); i += count)
+                add(numberOf(strings[i]), numberOf(strings[i + count - 2]), strings[i + count - 1]);
+        }
+    };
+    read("bfchar", 2);
+    read("bfrange", 3);
     return named;
 }
 

@@ -147,18 +147,24 @@ struct Side {
     bool isFilled(const PageParameters::Regions& parameters) const { return fill() >= parameters.minimumFill; }
 };
 
-/// Names with their values beside them, "Date:  3 May", are read along the rows: most pieces of the left side end with
-/// a colon and have a piece on the right at their height.
-bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
-    std::size_t labels = 0;
+/// How many pieces of the left side for which `isName` holds, by index, have a piece on the right at their height.
+template<typename Predicate>
+std::size_t countBeside(std::span<const Piece> left, std::span<const Piece> right, const Predicate& isName) {
+    std::size_t count = 0;
     auto beside = right.begin();
-    for (const Piece& piece : left) {
-        const double middle = piece.box.centerY();
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const double middle = left[i].box.centerY();
         while (beside != right.end() && beside->box.bottom < middle)
             ++beside;
-        labels += piece.isLabel && beside != right.end() && beside->box.top <= middle;
+        count += isName(i) && beside != right.end() && beside->box.top <= middle;
     }
-    return 2 * labels > left.size();
+    return count;
+}
+
+/// Names with their values beside them, "Date:  3 May", are read along the rows: most pieces of the left side end with
+/// a colon.
+bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
+    return 2 * countBeside(left, right, [&](std::size_t i) { return left[i].isLabel; }) > left.size();
 }
 
 /// Names in the margin, each beside the first line of what it belongs to: they stand far apart, in a column that is
@@ -167,17 +173,12 @@ bool areNamesInMargin(std::span<const Piece> left, std::span<const Piece> right,
                       const PageParameters::Regions& parameters) {
     if (leftExtent > parameters.widestMargin * rightExtent || left.size() >= right.size())
         return false;
-    std::size_t names = 0;
-    auto beside = right.begin();
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        const Piece& piece = left[i];
-        const double reach = parameters.nameStep * piece.fontSize;
-        const bool isAlone = (i == 0 || piece.box.centerY() - left[i - 1].box.centerY() > reach) &&
-                             (i + 1 == left.size() || left[i + 1].box.centerY() - piece.box.centerY() > reach);
-        while (beside != right.end() && beside->box.bottom < piece.box.centerY())
-            ++beside;
-        names += isAlone && beside != right.end() && beside->box.top <= piece.box.centerY();
-    }
+    const auto areApart = [&](std::size_t above, std::size_t below) {
+        return left[below].box.centerY() - left[above].box.centerY() > parameters.nameStep * left[above].fontSize;
+    };
+    const std::size_t names = countBeside(left, right, [&](std::size_t i) {
+        return (i == 0 || areApart(i - 1, i)) && (i + 1 == left.size() || areApart(i, i + 1));
+    });
     return static_cast<double>(names) >= parameters.nameShare * static_cast<double>(left.size());
 }
 

@@ -182,54 +182,41 @@ TEST(RuleFinder, TakesRoundedRectanglesAsRectangles) {
     EXPECT_TRUE(result.isTaken[0]);
 }
 
-TEST(RuleFinder, TakesRectanglesBegunInTheMiddleOfASide) {
+/// What is found of a filled outline of straight lines.
+RuledPage rulesOfOutline(const std::vector<Point>& corners) {
     PageContentBuilder page;
     pdf::Path& path = page.newPath();
-    using pdf::PathVerb;
-    path.segments = {{PathVerb::Move, {}, {}, {72, 101}},  {PathVerb::Line, {}, {}, {72, 102}},
-                     {PathVerb::Line, {}, {}, {300, 102}}, {PathVerb::Line, {}, {}, {300, 101}},
-                     {PathVerb::Line, {}, {}, {300, 100}}, {PathVerb::Line, {}, {}, {72, 100}},
-                     {PathVerb::Close, {}, {}, {}}};
+    for (const Point corner : corners) {
+        path.segments.push_back({path.segments.empty() ? pdf::PathVerb::Move : pdf::PathVerb::Line, {}, {}, corner});
+        path.box = path.box.united({corner.x, corner.y, corner.x + 1, corner.y + 1});
+    }
+    path.segments.push_back({pdf::PathVerb::Close, {}, {}, {}});
     path.fill = pdf::FillStyle{kBlack, false, false, 1, nullptr};
-    path.box = {72, 100, 300, 102};
-    const RuledPage result = rulesOf(page);
-    ASSERT_EQ(result.rules.size(), 1u);
-    EXPECT_EQ(result.rules[0].from, 72);
-    EXPECT_EQ(result.rules[0].to, 300);
-    EXPECT_NEAR(result.rules[0].width, 2, 0.01);
+    return rulesOf(page);
 }
 
-TEST(RuleFinder, TakesBarsWithMitredEnds) {
-    PageContentBuilder page;
-    pdf::Path& path = page.newPath();
-    using pdf::PathVerb;
-    path.segments = {{PathVerb::Move, {}, {}, {72, 101}},
-                     {PathVerb::Line, {}, {}, {72.25, 102}},
-                     {PathVerb::Line, {}, {}, {149.75, 102}},
-                     {PathVerb::Line, {}, {}, {150, 101}},
-                     {PathVerb::Line, {}, {}, {150, 100}},
-                     {PathVerb::Line, {}, {}, {72, 100}},
-                     {PathVerb::Close, {}, {}, {}}};
-    path.fill = pdf::FillStyle{kBlack, false, false, 1, nullptr};
-    path.box = {72, 100, 150, 102};
-    const RuledPage result = rulesOf(page);
-    ASSERT_EQ(result.rules.size(), 1u);
-    EXPECT_EQ(result.rules[0].to, 150);
+TEST(RuleFinder, TakesBarsWhateverTheirOutlineBeginsAndEndsWith) {
+    const std::vector<Point> outlines[] = {
+        {{72, 101}, {72, 102}, {300, 102}, {300, 101}, {300, 100}, {72, 100}},        // begun in the middle of a side
+        {{72, 101}, {72.25, 102}, {299.75, 102}, {300, 101}, {300, 100}, {72, 100}}}; // with mitred ends
+    for (const std::vector<Point>& outline : outlines) {
+        const RuledPage result = rulesOfOutline(outline);
+        ASSERT_EQ(result.rules.size(), 1u);
+        EXPECT_EQ(result.rules[0].from, 72);
+        EXPECT_EQ(result.rules[0].to, 300);
+        EXPECT_NEAR(result.rules[0].width, 2, 0.01);
+    }
 }
 
 TEST(RuleFinder, LeavesStepsToTheDrawings) {
-    PageContentBuilder page;
-    pdf::Path& path = page.newPath();
-    using pdf::PathVerb;
-    path.segments = {{PathVerb::Move, {}, {}, {72, 100}},  {PathVerb::Line, {}, {}, {150, 100}},
-                     {PathVerb::Line, {}, {}, {150, 130}}, {PathVerb::Line, {}, {}, {300, 130}},
-                     {PathVerb::Line, {}, {}, {300, 160}}, {PathVerb::Line, {}, {}, {72, 160}},
-                     {PathVerb::Close, {}, {}, {}}};
-    path.fill = pdf::FillStyle{kBlack, false, false, 1, nullptr};
-    path.box = {72, 100, 300, 160};
-    const RuledPage result = rulesOf(page);
-    EXPECT_TRUE(result.grounds.empty());
-    EXPECT_FALSE(result.isTaken[0]);
+    for (const double height : {2.0, 60.0}) {
+        const double middle = 100 + height / 2, bottom = 100 + height;
+        const RuledPage result =
+            rulesOfOutline({{72, 100}, {150, 100}, {150, middle}, {300, middle}, {300, bottom}, {72, bottom}});
+        EXPECT_TRUE(result.rules.empty());
+        EXPECT_TRUE(result.grounds.empty());
+        EXPECT_FALSE(result.isTaken[0]) << height;
+    }
 }
 
 TEST(RuleFinder, LeavesShapesToTheDrawings) {
