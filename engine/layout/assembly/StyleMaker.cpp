@@ -2,6 +2,7 @@
 
 #include "layout/assembly/NamedStyles.h"
 #include "layout/support/Tally.h"
+#include "layout/text/LineText.h"
 
 #include <cstdlib>
 #include <map>
@@ -44,6 +45,12 @@ std::size_t lineCount(const AssembledBlock& block) {
         for (const DraftPiece& piece : draft->pieces)
             count += piece.text.lines.size();
     return count;
+}
+
+/// Whether a tabulator of the block's first line may go to the edge of its hanging indent.
+bool mayTabToIndent(const AssembledBlock& block) {
+    const DraftParagraph* draft = block.draftParagraph();
+    return block.paragraph()->properties.firstLine < Twips(0) && draft && hasTabulator(draft->firstLine());
 }
 
 /// Groups in the order in which their first paragraphs stand; the default style first, even when nothing is set in it.
@@ -182,7 +189,8 @@ void snapToStyle(AssembledBlock& block, const Style& style, const AssemblyParame
         return;
     const bool startsAlike =
         isNear(format.indentStart + format.firstLine, usual.indentStart + usual.firstLine, limits.sameIndent);
-    const bool goesOnAlike = isSingleLine || isNear(format.indentStart, usual.indentStart, limits.sameIndent);
+    const bool goesOnAlike =
+        (isSingleLine && !mayTabToIndent(block)) || isNear(format.indentStart, usual.indentStart, limits.sameIndent);
     if (startsAlike && goesOnAlike) {
         format.indentStart = usual.indentStart;
         format.firstLine = usual.firstLine;

@@ -167,18 +167,39 @@ bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
     return 2 * countBeside(left, right, [&](std::size_t i) { return left[i].isLabel; }) > left.size();
 }
 
+/// Whether piece `i` stands apart from those above and below it, as the lines of one text do not.
+bool standsApart(std::span<const Piece> side, std::size_t i, const PageParameters::Regions& parameters) {
+    const auto areApart = [&](std::size_t above, std::size_t below) {
+        const double step = side[below].box.centerY() - side[above].box.centerY();
+        const bool isBeside = step < 0.5 * side[above].fontSize;
+        return isBeside || step > parameters.nameStep * side[above].fontSize;
+    };
+    return (i == 0 || areApart(i - 1, i)) && (i + 1 == side.size() || areApart(i, i + 1));
+}
+
+/// Rows that stand apart are read along: each text of the side with fewer has one beside it, and no side has two lines
+/// of one text.
+bool areRowsApart(std::span<const Piece> left, std::span<const Piece> right,
+                  const PageParameters::Regions& parameters) {
+    const auto areApart = [&](std::span<const Piece> side) {
+        for (std::size_t i = 0; i < side.size(); ++i)
+            if (!standsApart(side, i, parameters))
+                return false;
+        return true;
+    };
+    const bool hasFewer = left.size() < right.size();
+    const std::span<const Piece> fewer = hasFewer ? left : right;
+    const std::size_t beside = countBeside(fewer, hasFewer ? right : left, [](std::size_t) { return true; });
+    return beside == fewer.size() && areApart(left) && areApart(right);
+}
+
 /// Names in the margin, each beside the first line of what it belongs to: they stand far apart, in a column that is
 /// much narrower than the other.
 bool areNamesInMargin(std::span<const Piece> left, std::span<const Piece> right, double leftExtent, double rightExtent,
                       const PageParameters::Regions& parameters) {
     if (leftExtent > parameters.widestMargin * rightExtent || left.size() >= right.size())
         return false;
-    const auto areApart = [&](std::size_t above, std::size_t below) {
-        return left[below].box.centerY() - left[above].box.centerY() > parameters.nameStep * left[above].fontSize;
-    };
-    const std::size_t names = countBeside(left, right, [&](std::size_t i) {
-        return (i == 0 || areApart(i - 1, i)) && (i + 1 == left.size() || areApart(i, i + 1));
-    });
+    const std::size_t names = countBeside(left, right, [&](std::size_t i) { return standsApart(left, i, parameters); });
     return static_cast<double>(names) >= parameters.nameShare * static_cast<double>(left.size());
 }
 
@@ -220,7 +241,7 @@ bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fon
     Side right;
     std::vector<Piece> leftPieces, rightPieces;
     for (const Piece& piece : pieces) {
-        if (piece.isWall || piece.box.bottom <= gutter.top || piece.box.top >= gutter.bottom)
+        if (piece.isWall || piece.box.centerY() <= gutter.top || piece.box.centerY() >= gutter.bottom)
             continue;
         if (piece.box.right <= gutter.left + 0.01) {
             left.add(piece, gutter.left - piece.box.left);
@@ -239,6 +260,7 @@ bool weighGutter(ColumnGutter& gutter, std::span<const Piece> pieces, double fon
     const int least = isNarrow ? parameters.minimumRowsNarrow : parameters.minimumRows;
     if (gutter.rows < least || gutter.bottom <= gutter.top || !left.isWide(fontSize, parameters) ||
         !right.isWide(fontSize, parameters) || areLabels(leftPieces, rightPieces) ||
+        areRowsApart(leftPieces, rightPieces, parameters) ||
         areNamesInMargin(leftPieces, rightPieces, left.extent, right.extent, parameters))
         return false;
     return (left.isFilled(parameters) && right.isFilled(parameters)) ||

@@ -250,7 +250,9 @@ private:
         // count.
         const bool startsCount =
             next + 1 < m_lines.size() && sameEdge(m_measures[next].startGap, m_measures[next + 1].startGap, next);
-        return alignment == PairAlignment::End && startsCount ? PairAlignment::Start : alignment;
+        const bool isAtEdge = sameEdge(m_measures[next].startGap, 0, next);
+        const bool mayStart = alignment == PairAlignment::End || (alignment == PairAlignment::Center && isAtEdge);
+        return mayStart && startsCount ? PairAlignment::Start : alignment;
     }
     double distanceAbove(std::size_t next) const { return m_lines[next].baseline - m_lines[next - 1].baseline; }
     double tolerance(std::size_t next) const { return m_parameters.edgeTolerance * m_lines[next].fontSize; }

@@ -72,7 +72,7 @@ Alignment findAlignment(std::span<const LineMeasure> measures, std::span<const L
     const double indent = parameters.minimumCenterIndent * fontSize;
     if (isJustified(measures, lines, fontSize, parameters))
         return Alignment::Justified;
-    if (measures[0].marker)
+    if (measures[0].marker || (measures.size() == 1 && hasTabulator(lines[0])))
         return Alignment::Start;
     if (measures.size() == 1 ? isCentered(measures[0], tolerance, indent)
                              : isCenteredParagraph(measures, tolerance, indent))

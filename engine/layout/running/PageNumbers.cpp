@@ -68,14 +68,26 @@ std::size_t isolate(Word& word, std::size_t from, std::size_t length) {
     return word.spans.size();
 }
 
-/// What a row's numbers stand for.
-std::vector<std::optional<document::FieldCode>> meaningsOf(const RunningRow& row,
-                                                           const std::optional<PageNumber>& number, int lastNumber) {
+/// Whether some number in the rows is the page's, and another one on the pages nearby.
+bool hasCounting(const EdgeRows& edge, const PageNumber& number) {
+    const auto counts = [&](const RowNumber& candidate) {
+        return candidate.value == number.value && candidate.format == number.format && !candidate.isRepeated;
+    };
+    return std::any_of(
+        edge.rows.begin(), edge.rows.begin() + static_cast<std::ptrdiff_t>(edge.taken),
+        [&](const RunningRow& row) { return std::any_of(row.numbers.begin(), row.numbers.end(), counts); });
+}
+
+/// What a row's numbers stand for. One that stays the same from page to page is the page's number only by chance, if
+/// another `isCounting` in the rows.
+std::vector<std::optional<document::FieldCode>>
+meaningsOf(const RunningRow& row, const std::optional<PageNumber>& number, int lastNumber, bool isCounting) {
     std::vector<std::optional<document::FieldCode>> meanings(row.numbers.size());
     bool hasPage = false;
     for (std::size_t i = 0; number && i < row.numbers.size(); ++i) {
         const RowNumber& candidate = row.numbers[i];
-        if (!hasPage && candidate.value == number->value && candidate.format == number->format) {
+        if (!hasPage && candidate.value == number->value && candidate.format == number->format &&
+            !(isCounting && candidate.isRepeated)) {
             meanings[i] = document::FieldCode::Page;
             hasPage = true;
         } else if (i > 0 && meanings[i - 1] == document::FieldCode::Page && candidate.value >= lastNumber &&
@@ -152,9 +164,10 @@ void takeLoneNumbers(std::vector<EdgeRows>& edges, std::vector<std::optional<Pag
 std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,
                                         int lastNumber) {
     std::vector<RunningField> fields;
+    const bool isCounting = number && hasCounting(rows, *number);
     for (std::size_t r = 0; r < rows.taken; ++r) {
         const RunningRow& row = rows.rows[r];
-        const auto meanings = meaningsOf(row, number, lastNumber);
+        const auto meanings = meaningsOf(row, number, lastNumber, isCounting);
         // From the last to the first, so that characters of one word are cut off from its end.
         for (std::size_t i = meanings.size(); i-- > 0;) {
             if (!meanings[i])

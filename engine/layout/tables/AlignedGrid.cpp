@@ -54,6 +54,40 @@ bool isBulletOf(const TextPiece& piece, const TextPiece& text, const std::vector
            text.box.left - piece.box.right <= parameters.gutters.labelGap * piece.fontSize;
 }
 
+/// What stands in a column, and how often something stands beside it in the next one.
+struct ColumnUse {
+    int pieces = 0;
+    int bullets = 0; ///< of these, right before their texts
+    int parted = 0;  ///< rows with texts in both columns
+};
+
+ColumnUse useOf(std::size_t column, const std::vector<ColumnGap>& gaps, const std::vector<PieceRow>& rows,
+                const std::vector<Line>& lines, const LayoutParameters& parameters) {
+    ColumnUse use;
+    for (const PieceRow& row : rows) {
+        bool followsBullet = false;
+        for (std::size_t i = 0; i < row.pieces.size(); ++i) {
+            const bool hasNext = i + 1 < row.pieces.size();
+            const bool isItsBullet = hasNext && isBulletOf(row.pieces[i], row.pieces[i + 1], lines, parameters);
+            if (static_cast<std::size_t>(columnsOf(row.pieces[i], gaps).first) == column) {
+                // Where lists are nested, the bullets of one level stand below the texts of another.
+                use.pieces += !followsBullet;
+                use.bullets += isItsBullet;
+                use.parted +=
+                    hasNext && static_cast<std::size_t>(columnsOf(row.pieces[i + 1], gaps).first) == column + 1;
+            }
+            followsBullet = isItsBullet;
+        }
+    }
+    return use;
+}
+
+/// Whether the column is one of bullets, whose texts the next one holds; where a row has no bullet, its text may stand
+/// in either.
+bool partsBullets(const ColumnUse& use, const TableParameters::Tables& parameters) {
+    return use.bullets > 0 && (use.bullets >= parameters.bulletShare * use.pieces || use.bullets == use.parted);
+}
+
 /// Whether several rows have texts in both columns beside a gap.
 bool partsRows(const std::vector<ColumnGap>& gaps, std::size_t gap, const std::vector<PieceRow>& rows,
                const TableParameters::Tables& parameters) {
@@ -97,24 +131,9 @@ std::vector<ColumnGap> findTableColumns(std::vector<PieceRow>& rows, const std::
     addTightGaps(gaps, close, rows, parameters.tables);
     joinHeadsWithValues(gaps, rows, parameters.tables);
     narrowToTexts(gaps, rows, lines);
-    std::vector<int> pieces(gaps.size() + 1);
-    std::vector<int> bullets(gaps.size() + 1);
-    for (const PieceRow& row : rows) {
-        bool followsBullet = false;
-        for (std::size_t i = 0; i < row.pieces.size(); ++i) {
-            const TextPiece& piece = row.pieces[i];
-            const auto column = static_cast<std::size_t>(columnsOf(piece, gaps).first);
-            const bool isItsBullet =
-                i + 1 < row.pieces.size() && isBulletOf(piece, row.pieces[i + 1], lines, parameters);
-            // Where lists are nested, the bullets of one level stand below the texts of another.
-            pieces[column] += !followsBullet;
-            bullets[column] += isItsBullet;
-            followsBullet = isItsBullet;
-        }
-    }
     std::vector<ColumnGap> kept;
     for (std::size_t i = 0; i < gaps.size(); ++i)
-        if (bullets[i] == 0 || bullets[i] < parameters.tables.bulletShare * pieces[i])
+        if (!partsBullets(useOf(i, gaps, rows, lines, parameters), parameters.tables))
             kept.push_back(gaps[i]);
     return kept;
 }

@@ -100,8 +100,28 @@ private:
 
     /// Whether the row, and the last one with texts side by side, hold many: these may stand farther apart.
     bool isFull(std::size_t i) const {
-        return std::min(m_rows[i].pieces.size(), m_lastFull) >= m_parameters.fullRow &&
-               m_rows[i].pieces.size() + 1 >= m_lastFull;
+        return (std::min(m_rows[i].pieces.size(), m_lastFull) >= m_parameters.fullRow &&
+                m_rows[i].pieces.size() + 1 >= m_lastFull) ||
+               keepsColumns(m_rows[i]);
+    }
+
+    /// Whether each of several texts stands above or below one of its own of the fullest row before, and no other.
+    bool keepsColumns(const PieceRow& row) const {
+        const PieceRow& fullest =
+            *std::max_element(m_region.begin(), m_region.end(),
+                              [](const PieceRow& a, const PieceRow& b) { return a.pieces.size() < b.pieces.size(); });
+        if (row.pieces.size() < m_parameters.alignedRow || fullest.pieces.size() < m_parameters.fullRow)
+            return false;
+        std::size_t last = fullest.pieces.size();
+        return std::all_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
+            std::vector<std::size_t> over;
+            for (std::size_t i = 0; i < fullest.pieces.size(); ++i)
+                if (piece.box.left < fullest.pieces[i].box.right && fullest.pieces[i].box.left < piece.box.right)
+                    over.push_back(i);
+            const bool isNext = over.size() == 1 && over.front() != last;
+            last = over.empty() ? last : over.front();
+            return isNext;
+        });
     }
 
     /// A row with several pieces joins while the columns stay.

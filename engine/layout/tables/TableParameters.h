@@ -67,6 +67,7 @@ struct TableParameters {
         double rowSpaceGrowth = 1.6;  ///< ... or no farther than this times the smallest space in the table
         double widestRowSpace = 4.0;  ///< of the font size; rows of many texts stand no farther apart
         std::size_t fullRow = 4;      ///< texts side by side that are many
+        std::size_t alignedRow = 3;   ///< ... or so many that each stand below one of a row of many
 
         // Columns as close together as words.
         double unevenTexts = 0.3;       ///< of the font size by which the lengths of texts must differ to say something

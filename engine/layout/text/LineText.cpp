@@ -137,4 +137,8 @@ bool isTabulator(const Word& word) {
     return word.gapBefore == Gap::Tab && !isTyped;
 }
 
+bool hasTabulator(const Line& line) {
+    return line.words.size() > 1 && std::any_of(line.words.begin() + 1, line.words.end(), isTabulator);
+}
+
 } // namespace orvane::layout

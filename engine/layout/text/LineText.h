@@ -47,4 +47,7 @@ bool endsSentence(std::u32string_view word);
 /// A gap as wide as a tabulator makes it that was not typed with blanks.
 bool isTabulator(const Word& word);
 
+/// True when a tabulator stands between two words of the line: it places them from the line's start edge on.
+bool hasTabulator(const Line& line);
+
 } // namespace orvane::layout

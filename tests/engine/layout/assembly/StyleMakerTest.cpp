@@ -62,6 +62,20 @@ TEST(StyleMaker, KeepsAlignmentsThatAreSeen) {
     EXPECT_EQ(paragraphAt(documentOf(draft), 1).properties.alignment, document::Alignment::Center);
 }
 
+TEST(StyleMaker, KeepsTheIndentThatATabulatorGoesTo) {
+    const auto formatWith = [](Gap gap) {
+        DocumentDraft draft = draftOfLines({{"A line of the text", 200}, {"Another line of it", 230}});
+        ParagraphDraft entry = makeParagraph({makeLine("2.1 Title", 72, 260)});
+        entry.lines[0].words[1].gapBefore = gap;
+        entry.indentStart = 30;
+        entry.firstLine = -30;
+        draft.blocks.push_back(makeBlock(entry));
+        return paragraphAt(documentOf(draft), 2).properties;
+    };
+    EXPECT_EQ(formatWith(Gap::Tab).firstLine, twipsFromPoints(-30));
+    EXPECT_EQ(formatWith(Gap::Space).firstLine, Twips(0));
+}
+
 TEST(StyleMaker, GivesSingleLinesTheLineSpacingOfTheRest) {
     DocumentDraft draft = draftOfLines({{"A last line", 200}});
     draft.blocks.insert(draft.blocks.begin(),

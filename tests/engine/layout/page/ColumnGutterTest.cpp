@@ -69,6 +69,20 @@ TEST(ColumnGutter, LeavesNamesInTheMarginBesideWhatTheyBelongTo) {
     EXPECT_TRUE(areColumns(namesEvery(1))) << "the lines of a narrow column are a text";
 }
 
+TEST(ColumnGutter, LeavesRowsThatStandApart) {
+    const auto rowsEvery = [](double leading) {
+        std::vector<Line> page;
+        for (int row = 0; row < 5; ++row) {
+            page.push_back(lineOf({wordAt(50, 150, 100 + leading * row)}));
+            if (row != 3)
+                page.push_back(lineOf({wordAt(250, 400, 100 + leading * row)}));
+        }
+        return page;
+    };
+    EXPECT_FALSE(areColumns(rowsEvery(24)));
+    EXPECT_TRUE(areColumns(rowsEvery(12))) << "lines that follow each other are two texts side by side";
+}
+
 TEST(ColumnGutter, PartsListsThatHaveNoRowsInCommon) {
     EXPECT_TRUE(areColumns(listsWithBlanks(3)));
     EXPECT_FALSE(areColumns(listsWithBlanks(0))) << "the blank lines part rows of both";

@@ -52,6 +52,10 @@ TEST(ParagraphBuilder, JoinsTheLinesOfAParagraph) {
         {{"Shall I compare thee", "to a summer's day?", "Thou art more lovely"},
          {"Shall I compare thee", "to a summer's day?", "Thou art more lovely"},
          "verse"},
+        {{"  The quick brown fox jumps", "over the lazy dog and runs in", "to the woods, but not so fast",
+          "as before."},
+         {"The quick brown fox jumps over the lazy dog and runs in to the woods, but not so fast as before."},
+         "a first line with equal room on both sides is not centred above lines that begin at the edge"},
         {{"1. The first item is long and", "   goes on below its text", "2. The second item"},
          {"1. The first item is long and goes on below its text", "2. The second item"},
          "numbered items with a hanging indent"},
@@ -172,6 +176,15 @@ TEST(ParagraphBuilder, AllowsAShorterStepBelowTheFirstLine) {
     EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 1U);
     lines[4] = makeLine("Space above starts another one", 0, 158);
     EXPECT_EQ(buildParagraphs(lines, artColumn(30), kContext, {}).size(), 2U);
+}
+
+TEST(ParagraphBuilder, SetsLinesWithTabulatorsFromTheirStart) {
+    std::vector lines = {makeLine("Mexico 2012", 150, 100)};
+    EXPECT_EQ(buildParagraphs(lines, artColumn(41), kContext, {})[0].alignment, Alignment::End);
+    lines[0].words[1].gapBefore = Gap::Tab;
+    const auto paragraphs = buildParagraphs(lines, artColumn(41), kContext, {});
+    EXPECT_EQ(paragraphs[0].alignment, Alignment::Start);
+    EXPECT_NEAR(paragraphs[0].indentStart, 150, 0.1);
 }
 
 TEST(ParagraphBuilder, ReadsAlignment) {

@@ -53,6 +53,17 @@ TEST(RunningHeads, KnowsPageNumbers) {
     EXPECT_EQ(heads[10].number, (PageNumber{11, NumberFormat::Decimal}));
 }
 
+TEST(RunningHeads, LeavesANumberThatStaysTheSame) {
+    auto pages = pagesWith(4, [](PageText& page, int number) {
+        page.lines.push_back(makeLine("Volume 1", 72, 790));
+        page.lines.push_back(makeLine(fmt::format("Page {}", number), 280, 810));
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    ASSERT_TRUE(heads[0].footer);
+    ASSERT_EQ(heads[0].footer->fields.size(), 1u);
+    EXPECT_EQ(heads[0].footer->fields[0].box, heads[0].footer->content.lines[1].words[1].spans[0].box);
+}
+
 TEST(RunningHeads, CutsNumbersOutOfWords) {
     auto pages = pagesWith(
         3, [](PageText& page, int number) { page.lines.push_back(makeLine(fmt::format("-{}-", number), 290, 800)); });
