@@ -4,6 +4,7 @@
 #include "layout/support/Tally.h"
 #include "layout/text/LineText.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <optional>
@@ -47,10 +48,15 @@ std::size_t lineCount(const AssembledBlock& block) {
     return count;
 }
 
-/// Whether a tabulator of the block's first line may go to the edge of its hanging indent.
+/// Whether a tabulator of the block's first line may go to the edge of its hanging indent. Leaders lead farther.
 bool mayTabToIndent(const AssembledBlock& block) {
     const DraftParagraph* draft = block.draftParagraph();
-    return block.paragraph()->properties.firstLine < Twips(0) && draft && hasTabulator(draft->firstLine());
+    if (!draft || block.paragraph()->properties.firstLine >= Twips(0))
+        return false;
+    const std::vector<Word>& words = draft->firstLine().words;
+    return std::any_of(words.begin(), words.end(), [](const Word& word) {
+        return isTabulator(word) && word.leaderBefore == document::TabLeader::None;
+    });
 }
 
 /// Groups in the order in which their first paragraphs stand; the default style first, even when nothing is set in it.

@@ -5,12 +5,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace orvane::layout {
 namespace {
 
 /// Units: points.
-double longestWord(const std::vector<Cluster>& clusters) {
+double longestWord(std::span<const Cluster> clusters) {
     double longest = 0;
     std::size_t first = 0;
     for (std::size_t i = 0; i < clusters.size(); ++i) {
@@ -21,8 +22,8 @@ double longestWord(const std::vector<Cluster>& clusters) {
     return longest;
 }
 
-/// The blank that is usual between the words of a row; 0 when it has too few that may be blanks.
-double usualGap(const std::vector<Cluster>& clusters, double widest, std::size_t fewest, double evenness) {
+/// The blank that is usual between the words of a row, or of a part of it; 0 when it has too few that may be blanks.
+double usualGap(std::span<const Cluster> clusters, double widest, std::size_t fewest, double evenness) {
     std::vector<double> gaps, all;
     for (std::size_t i = 1; i < clusters.size(); ++i)
         if (clusters[i].gapBefore.endsWord) {
@@ -72,29 +73,15 @@ GutterFinder::GutterFinder(const std::vector<TextRow>& rows, const std::vector<T
 }
 
 std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
-    const std::vector<Cluster>& clusters = row.clusters;
-    const double justified = m_limits.widestJustified * row.fontSize;
-    const double usual = m_limits.wideAgainstUsual *
-                         usualGap(clusters, justified, m_limits.fewestGaps, m_limits.evenBlanks * row.fontSize);
+    const std::span<const Cluster> clusters(row.clusters);
     std::vector<RowRun> runs;
-    for (std::size_t i = 0; i < clusters.size(); ++i) {
-        const Cluster& cluster = clusters[i];
-        const ClusterGap& gap = cluster.gapBefore;
-        const double width = gap.ownWidth();
-        const bool isWide = i > 0 && gap.endsWord && width >= m_limits.wideGap * row.fontSize;
-        const bool isWalled = i > 0 && hasWallBetween(row, clusters[i - 1].end, cluster.start);
-        const bool followsLeader = gap.leader != document::TabLeader::None;
-        if (i == 0 || isWalled || followsLeader || (isWide && width >= std::min(usual, justified))) {
-            runs.push_back({i, i, cluster.start, cluster.end});
-            runs.back().followsLeader = followsLeader;
-            runs.back().isWalled = isWalled;
-            // Two blanks after a full stop are as wide as two others of their row.
-            const double blanks = gap.blanks <= m_limits.mostTypedBlanks ? gap.blanks : 1;
-            runs.back().isTabbed =
-                followsLeader || (isWide && width >= blanks * usual && width >= m_limits.tabGap * row.fontSize);
-        }
-        runs.back().last = i + 1;
-        runs.back().end = std::max(runs.back().end, cluster.end);
+    // Each cell of a row may be stretched to its own width.
+    for (std::size_t first = 0; first < clusters.size();) {
+        std::size_t end = first + 1;
+        while (end < clusters.size() && !hasWallBetween(row, clusters[end - 1].end, clusters[end].start))
+            ++end;
+        cutCell(row, first, end, runs);
+        first = end;
     }
     for (RowRun& run : runs) {
         std::u32string text;
@@ -103,6 +90,31 @@ std::vector<RowRun> GutterFinder::cutRuns(const TextRow& row) const {
         run.isLabel = isLabelText(text, m_limits.longestLabel);
     }
     return runs;
+}
+
+void GutterFinder::cutCell(const TextRow& row, std::size_t first, std::size_t end, std::vector<RowRun>& runs) const {
+    const std::span<const Cluster> clusters(row.clusters);
+    const double justified = m_limits.widestJustified * row.fontSize;
+    const double usual = m_limits.wideAgainstUsual * usualGap(clusters.subspan(first, end - first), justified,
+                                                              m_limits.fewestGaps, m_limits.evenBlanks * row.fontSize);
+    for (std::size_t i = first; i < end; ++i) {
+        const Cluster& cluster = clusters[i];
+        const ClusterGap& gap = cluster.gapBefore;
+        const double width = gap.ownWidth();
+        const bool isWide = i > 0 && gap.endsWord && width >= m_limits.wideGap * row.fontSize;
+        const bool followsLeader = gap.leader != document::TabLeader::None;
+        if (i == first || followsLeader || (isWide && width >= std::min(usual, justified))) {
+            runs.push_back({i, i, cluster.start, cluster.end});
+            runs.back().followsLeader = followsLeader;
+            runs.back().isWalled = i > 0 && i == first;
+            // Two blanks after a full stop are as wide as two others of their row.
+            const double blanks = gap.blanks <= m_limits.mostTypedBlanks ? gap.blanks : 1;
+            runs.back().isTabbed =
+                followsLeader || (isWide && width >= blanks * usual && width >= m_limits.tabGap * row.fontSize);
+        }
+        runs.back().last = i + 1;
+        runs.back().end = std::max(runs.back().end, cluster.end);
+    }
 }
 
 bool GutterFinder::hasWallBetween(const TextRow& row, double left, double right) const {

@@ -43,6 +43,8 @@ private:
     };
 
     std::vector<RowRun> cutRuns(const TextRow& row) const;
+    /// Adds the runs of clusters [first, end), between which no rule or edge of a ground stands.
+    void cutCell(const TextRow& row, std::size_t first, std::size_t end, std::vector<RowRun>& runs) const;
     bool hasWallBetween(const TextRow& row, double left, double right) const;
     Testimony ask(std::size_t witness, const TextRow& row, const RowRun& left, const RowRun& right) const;
     /// Rows that speak for the gap, walking away from it in one direction until one speaks against it.

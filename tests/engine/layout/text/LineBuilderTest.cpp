@@ -149,6 +149,18 @@ TEST(LineBuilder, TakesTheEvenGapsOfAStretchedRowForBlanks) {
     EXPECT_THAT(linesOf(page), ElementsAre("one short line stretched", "The line below it."));
 }
 
+TEST(LineBuilder, StretchesEachCellOfARowByItself) {
+    const auto linesWith = [](double ruleTop) {
+        PageContentBuilder page;
+        page.text(72, 100, "a cell of quite a few words", 10);
+        page.text(240, 100, "one more line stretched", 10, {.wordSpacing = 12});
+        page.verticalRule(230, ruleTop, 104);
+        return linesOf(page);
+    };
+    EXPECT_THAT(linesWith(90), ElementsAre("a cell of quite a few words", "one more line stretched"));
+    EXPECT_THAT(linesWith(103), ElementsAre("a cell of quite a few words\tone\tmore\tline\tstretched"));
+}
+
 TEST(LineBuilder, TakesNumbersThatStandEvenlyApartForNoStretchedRow) {
     PageContentBuilder page;
     for (int i = 0; i < 5; ++i)
