@@ -29,13 +29,24 @@ std::vector<bool> findHandEnds(const DocumentDraft& draft) {
     return ends;
 }
 
+/// Columns side by side hold one text where they are alike; a narrow one beside a wide one has a text of its own.
+constexpr double kLikeWidths = 0.75; // of the wider one
+
+bool areUnlikeColumns(const DraftPiece& before, const DraftPiece& after) {
+    if (before.band != after.band || before.columnIndex == after.columnIndex)
+        return false;
+    const double first = before.column.right - before.column.left;
+    const double second = after.column.right - after.column.left;
+    return std::min(first, second) < kLikeWidths * std::max(first, second);
+}
+
 /// True when the paragraph `next`, the first of its column or page, goes on with `last`.
 bool goesOn(const DocumentDraft& draft, const DraftBlock& last, const DraftBlock& next, const DocumentContext& context,
             const LayoutParameters& parameters) {
     const DraftPiece& before = last.paragraph()->pieces.back();
     const DraftPiece& after = next.paragraph()->pieces.front();
     if (before.page == after.page)
-        return !before.text.endsParagraph && !after.text.startsParagraph;
+        return !before.text.endsParagraph && !after.text.startsParagraph && !areUnlikeColumns(before, after);
     if (before.text.endsParagraph || after.page != before.page + 1)
         return false;
     const ParagraphContext around{context.bodyFontSize, context.bodyLeading, draft.pages[before.page].fonts, {}};

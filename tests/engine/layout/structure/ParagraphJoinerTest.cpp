@@ -34,6 +34,22 @@ TEST(ParagraphJoiner, JoinsWhatAPageBreakCut) {
     EXPECT_EQ(draft.blocks[0].paragraph()->pieces[1].page, 1u);
 }
 
+TEST(ParagraphJoiner, LeavesTheTextOfANarrowColumnBesideAWideOne) {
+    const auto blocksBeside = [](double width) {
+        DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
+        DraftPiece& next = draft.blocks[1].paragraph()->pieces[0];
+        draft.blocks[1].page = next.page = 0;
+        next.columnIndex = 1;
+        next.text.startsParagraph = false;
+        const ColumnSpan first = draft.blocks[0].paragraph()->pieces[0].column;
+        next.column = {first.right, first.right + width * (first.right - first.left)};
+        joinParagraphs(draft, {}, {});
+        return draft.blocks.size();
+    };
+    EXPECT_EQ(blocksBeside(0.9), 1u);
+    EXPECT_EQ(blocksBeside(0.5), 2u);
+}
+
 TEST(ParagraphJoiner, PassesOverTextThatFloats) {
     DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
     DraftBlock stamp = makeBlock(makeParagraph({makeLine("a stamp", 20, 400)}), 1);
