@@ -24,6 +24,7 @@ struct TableParameters {
         double checkBoxSnap = 1.5;     ///< points; how far the ends of its sides may miss each other
         double checkBoxTouch = 0.6;    ///< points; rules this near to a side's end go on from it
         double nestedMargin = 8.0;     ///< points; the empty strips beside a table within a cell are no wider
+        int fewestDividers = 3;        ///< lines that end at one height within a cell for it to hold a row of cells
         int maximumPlaces = 20000;     ///< rows times columns; beyond it stand maps and charts
 
         // Words and cells.
