@@ -108,15 +108,20 @@ void readWords(const Line& line, LineMeasure& measure) {
     measure.startsBold = line.words.front().spans.front().look.isBold;
     measure.endsBold = line.words.back().spans.back().look.isBold;
     for (const Word& word : line.words) {
+        const double wordStart =
+            measure.startGap + (line.isRightToLeft ? line.box.right - word.box.right : word.box.left - line.box.left);
         for (const Span& span : word.spans) {
+            if (measure.field < 0 && span.look.field >= 0) {
+                measure.field = span.look.field;
+                measure.fieldStart = wordStart;
+            }
             measure.isBold = measure.isBold && span.look.isBold;
             measure.smallestSize = std::min(measure.smallestSize, span.look.size);
             measure.largestSize = std::max(measure.largestSize, span.look.size);
         }
         measure.hasLeader = measure.hasLeader || word.leaderBefore != document::TabLeader::None;
         if (word.gapBefore == Gap::Tab && &word != &line.words.front())
-            measure.tabStart = measure.startGap +
-                               (line.isRightToLeft ? line.box.right - word.box.right : word.box.left - line.box.left);
+            measure.tabStart = wordStart;
     }
 }
 

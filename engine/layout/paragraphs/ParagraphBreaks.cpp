@@ -159,7 +159,9 @@ private:
     bool isRowLikeTheOneAbove(std::size_t next) const {
         const LineMeasure& above = m_measures[next - 1];
         const LineMeasure& line = m_measures[next];
-        return above.tabStart && line.tabStart && sameEdge(*above.tabStart, *line.tabStart, next);
+        const bool areFieldsAligned = above.field >= 0 && line.field >= 0 && above.field != line.field &&
+                                      sameEdge(above.fieldStart, line.fieldStart, next);
+        return areFieldsAligned || (above.tabStart && line.tabStart && sameEdge(*above.tabStart, *line.tabStart, next));
     }
 
     bool isOtherwiseIndented(std::size_t next) const {

@@ -54,6 +54,7 @@ public:
 private:
     void write(const FormField& field) {
         hideCutText(field);
+        hideTextBelow(field);
         if (isBox(field)) {
             const WritingLine line = lineFor(field);
             hideBox(field.box);
@@ -107,6 +108,26 @@ private:
                 m_page.glyphs[i].visibility = Visibility::ClippedAway;
     }
 
+    /// Whether the path is a rectangle that nothing shows through.
+    static bool isOpaque(const pdf::Path& path) {
+        constexpr std::size_t kMostSegments = 6; // of a rectangle, closed twice
+        return path.visibility == Visibility::Visible && path.fill && !path.fill->isPattern && !path.isSimplified &&
+               path.fill->opacity >= 1 && path.segments.size() <= kMostSegments;
+    }
+
+    /// What the page says below the ground of the field, as the dots of a leader that goes on through it.
+    void hideTextBelow(const FormField& field) {
+        std::uint32_t ground = 0;
+        for (const pdf::Path& path : m_page.paths) {
+            const Rect covered = path.box.intersected(path.clip).intersected(field.box);
+            if (isOpaque(path) && covered.area() >= m_limits.groundShare * field.box.area())
+                ground = std::max(ground, path.paintOrder);
+        }
+        for (std::size_t i = 0; i < m_sourceGlyphs; ++i)
+            if (m_page.glyphs[i].paintOrder < ground && isIn(m_page.glyphs[i], field.box))
+                m_page.glyphs[i].visibility = Visibility::Replaced;
+    }
+
     /// What is drawn of the box and its mark goes: the sign shows both.
     void hideBox(const Rect& box) {
         for (Glyph& glyph : m_page.glyphs)
@@ -129,8 +150,10 @@ private:
         double least = std::numeric_limits<double>::max();
         for (std::size_t i = 0; i < m_sourceGlyphs; ++i) {
             const Glyph& glyph = m_page.glyphs[i];
-            if (glyph.visibility != Visibility::Visible || glyph.angle != 0 || isBlank(glyph) ||
-                glyph.origin.y < box.top || glyph.origin.y > box.bottom + m_limits.boxReach)
+            // What stands on that line stands in the field only if the middle of its letters does.
+            const double middle = glyph.origin.y - (0.5 - m_limits.descentShare) * glyph.fontSize;
+            if (glyph.visibility != Visibility::Visible || glyph.angle != 0 || isBlank(glyph) || middle < box.top ||
+                middle > box.bottom)
                 continue;
             const double distance = std::max({box.left - glyph.box.right, glyph.box.left - box.right, 0.0});
             if (distance >= least)

@@ -180,6 +180,7 @@ struct TextParameters {
         double sizeShare = 0.7;    ///< ... which does not fill more of its height
         double descentShare = 0.2; ///< of the size; below the baseline
         double letterWidth = 0.5;  ///< of the size
+        double groundShare = 0.9;  ///< of the field; what is filled so far is its ground
     } fields;
 
     /// LeaderFinder: dots before page numbers.

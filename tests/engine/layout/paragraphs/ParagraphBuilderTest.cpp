@@ -163,6 +163,17 @@ TEST(ParagraphBuilder, GoesOnInAListItemUntilItsSentenceEnds) {
                                         "\u2022 Another one"}));
 }
 
+TEST(ParagraphBuilder, PartsRowsOfFieldsOneBelowTheOther) {
+    std::vector<Line> lines = linesFromArt({"from xxxxxxxx to xxxxxxxx", "from xxxxxxxx to xxxxxxxx"}, 12);
+    const auto build = [&] { return buildParagraphs(lines, artColumn(25), kContext, {}).size(); };
+    ASSERT_EQ(build(), 1u) << "full lines of text";
+    for (Line& line : lines)
+        line.words.at(1).spans.front().look.field = 0;
+    EXPECT_EQ(build(), 1u) << "lines of one field";
+    lines[1].words.at(1).spans.front().look.field = 1;
+    EXPECT_EQ(build(), 2u);
+}
+
 TEST(ParagraphBuilder, HangsBelowALabelWhereverItsTabulatorIs) {
     const auto paragraphs = build({"1. The first item is long and", "     goes on farther in"}, 31);
     EXPECT_EQ(paragraphs.size(), 1U);

@@ -78,6 +78,28 @@ TEST(FieldSigns, StandForCheckBoxesInPlaceOfTheirDrawing) {
     EXPECT_THAT(text.rules, IsEmpty());
 }
 
+TEST(FieldSigns, StandOnALineWhoseLettersStandInTheField) {
+    PageContentBuilder page;
+    page.text(72, 100, "Working days", 10);
+    page.text(72, 112, "abroad:", 10);
+    page.content().fields.push_back(fieldAt({140, 99, 180, 114}));
+    const PageText text = tests::read(page);
+    ASSERT_EQ(text.lines.size(), 2u);
+    EXPECT_EQ(textOf(text.lines[1]), "abroad:\t\uFFFC");
+    EXPECT_EQ(text.lines[1].words.back().spans[0].look.field, 0);
+}
+
+TEST(FieldSigns, HideWhatTheirGroundCovers) {
+    PageContentBuilder page;
+    const double left = 72 + PageContentBuilder::widthOf("Tax . . ", 10);
+    page.text(72, 100, "Tax . . . . . . . . .", 10);
+    page.filledRectangle({left, 90, 230, 104}, kWhite);
+    page.text(left + 1, 100, "none", 10);
+    EXPECT_THAT(tests::linesOf(page), testing::Not(ElementsAre("Tax . . none"))) << "only a field says what it holds";
+    page.content().fields.push_back(fieldAt({left, 90, 230, 104}, FieldKind::Text, "none"));
+    EXPECT_THAT(tests::linesOf(page), ElementsAre("Tax . . none"));
+}
+
 TEST(FieldSigns, LeaveButtonsAlone) {
     PageContentBuilder page;
     page.text(72, 100, "Send", 10);
