@@ -82,6 +82,7 @@ struct ContentControl {
     bool isChecked = false; ///< CheckBox, RadioButton
     bool isMultiline = false;
     std::vector<Inline> content;
+    std::vector<std::string> choiceValues = {}; ///< what each of `choices` stands for; shorter where that is the choice
 };
 
 struct Inline {

@@ -37,6 +37,7 @@ void readChoice(const ::FormWidgetChoice& widget, FormField& field) {
     field.kind = widget.isCombo() ? FieldKind::ComboBox : FieldKind::ListBox;
     for (int i = 0; i < widget.getNumChoices(); ++i) {
         field.choices.push_back(textFromPdf(widget.getChoice(i)));
+        field.choiceValues.push_back(textFromPdf(widget.getExportVal(i)));
         if (!widget.isSelected(i))
             continue;
         if (!field.value.empty())

@@ -180,13 +180,14 @@ struct FormField {
     Rect box;
     std::string name;            ///< fully qualified
     std::string tooltip;
-    std::string value;
-    std::vector<std::string> choices;
+    std::string value;           ///< of a ComboBox or ListBox the choices that are shown
+    std::vector<std::string> choices; ///< as they are shown
     bool isOn = false;           ///< CheckBox, RadioButton
     std::string dateFormat;      ///< Text: how it writes the dates that it takes, "dd/mm/yyyy"; empty for other fields
     bool isMultiline = false;
     bool isReadOnly = false;
     bool isEditable = false;     ///< ComboBox: takes texts that are no choice
+    std::vector<std::string> choiceValues; ///< what each of `choices` stands for, where the file tells; else empty
 };
 
 /// A marked-content sequence.

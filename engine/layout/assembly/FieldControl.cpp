@@ -86,6 +86,7 @@ ContentControl controlOf(const pdf::FormField& field, std::vector<Inline> seen) 
     control.name = field.name;
     control.tooltip = field.tooltip;
     control.choices = field.choices;
+    control.choiceValues = field.choiceValues;
     control.isChecked = field.isOn;
     control.isMultiline = field.isMultiline;
     if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton)

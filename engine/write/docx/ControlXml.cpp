@@ -50,10 +50,16 @@ void writeCheckBox(XmlWriter& xml, const ContentControl& control) {
 
 void writeChoices(XmlWriter& xml, const ContentControl& control) {
     const XmlElement list(xml, control.kind == ControlKind::ComboBox ? "w:comboBox" : "w:dropDownList");
-    std::set<std::string_view> written;
-    for (const std::string& choice : control.choices)
-        if (!choice.empty() && written.insert(choice).second)
-            xml.leaf("w:listItem", {{"w:displayText", choice}, {"w:value", choice}});
+    std::set<std::string_view> texts, values; // each of a list's items has its own
+    for (std::size_t i = 0; i < control.choices.size(); ++i) {
+        const std::string& choice = control.choices[i];
+        const bool hasValue = i < control.choiceValues.size() && !control.choiceValues[i].empty();
+        const std::string& value = hasValue ? control.choiceValues[i] : choice;
+        if (!choice.empty() && !texts.contains(choice) && values.insert(value).second) {
+            texts.insert(choice);
+            xml.leaf("w:listItem", {{"w:displayText", choice}, {"w:value", value}});
+        }
+    }
 }
 
 void writeDate(XmlWriter& xml, const Metadata& metadata) {

@@ -128,6 +128,21 @@ TEST(FormFields, TellTheirValues) {
     EXPECT_EQ(choice.choices, (std::vector<std::string>{"Red", "Blue"}));
 }
 
+TEST(FormFields, TellChoicesAsTheyAreShownAndWhatTheyStandFor) {
+    PdfBuilder builder;
+    const std::string page = pdfRef(builder.pageObject(0));
+    const int choice = builder.add("<< /Type /Annot /Subtype /Widget /FT /Ch /Ff 131072 /T (colour) /V (r) "
+                                   "/Opt [[(r) (Bright red)] (Blue)] /P " +
+                                   page + " /Rect [100 500 200 520] /DA (/F1 10 Tf) >>");
+    builder.catalog("/AcroForm << /Fields [" + pdfRef(choice) + "] >>");
+    builder.page(PdfPage{"", 612, 792, "/Annots [" + pdfRef(choice) + "]", {}, {}});
+    OpenedPdf pdf(builder);
+    const FormField field = pdf.page().fields.at(0);
+    EXPECT_EQ(field.value, "Bright red");
+    EXPECT_EQ(field.choices, (std::vector<std::string>{"Bright red", "Blue"}));
+    EXPECT_EQ(field.choiceValues, (std::vector<std::string>{"r", ""}));
+}
+
 TEST(FormFields, TellHowTheyWriteDates) {
     OpenedPdf dated(formPdf("/AA << /F << /S /JavaScript /JS (AFDate_FormatEx\\(\"dd.mm.yyyy\"\\);) >> >>"));
     EXPECT_EQ(dated.page().fields.at(0).dateFormat, "dd.mm.yyyy");

@@ -34,7 +34,9 @@ TEST(FieldControl, TellsKindsApart) {
     field.kind = FieldKind::ComboBox;
     field.choices = {"Red", "Blue"};
     EXPECT_EQ(controlOf(field, {}).kind, ControlKind::DropDown);
+    field.choiceValues = {"r", "b"};
     EXPECT_THAT(controlOf(field, {}).choices, SizeIs(2));
+    EXPECT_THAT(controlOf(field, {}).choiceValues, SizeIs(2));
     field.isEditable = true;
     EXPECT_EQ(controlOf(field, {}).kind, ControlKind::ComboBox);
     field.kind = FieldKind::CheckBox;

@@ -173,6 +173,14 @@ TEST(InlineXml, WritesEachChoiceOnce) {
     EXPECT_EQ(written.body("//w:listItem/@w:value"), "red\ngreen\n");
 }
 
+TEST(InlineXml, WritesWhatAChoiceStandsForBesideWhatItShows) {
+    ContentControl control{ControlKind::DropDown, "c", "", {"Red", "Green", "Blue"}, false, false, {text("Green")},
+                           {"r", "g", "g"}};
+    const WrittenDocument written(documentOf(paragraph({{control}})));
+    EXPECT_EQ(written.body("//w:listItem/@w:displayText"), "Red\nGreen\n") << "each value once";
+    EXPECT_EQ(written.body("//w:listItem/@w:value"), "r\ng\n");
+}
+
 TEST(InlineXml, CutsNamesOfFieldsToWhatIsAllowed) {
     ContentControl control{ControlKind::Date, std::string(100, 'n'), "", {}, false, false, {text("today")}};
     const WrittenDocument written(documentOf(paragraph({{control}})));
