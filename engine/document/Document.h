@@ -76,7 +76,7 @@ enum class ControlKind : std::uint8_t {
 /// A form field as a content control.
 struct ContentControl {
     ControlKind kind = ControlKind::Text;
-    std::string name;
+    std::string name; ///< empty for boxes to tick that are drawn and no fields of a form
     std::string tooltip;
     std::vector<std::string> choices;
     bool isChecked = false; ///< CheckBox, RadioButton

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "layout/Layout.h"
+#include "layout/text/DrawnBoxes.h"
 #include "worker/FigurePainter.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <exception>
+#include <iterator>
 #include <mutex>
 #include <thread>
 
@@ -120,6 +122,8 @@ private:
         const std::vector<pdf::FormField> fields = content.fields;
         if (m_reading.fields == FieldReading::AsDrawn)
             content.fields.clear();
+        else
+            addDrawnBoxes(content);
         layout::PageText page = layout::readPageText(content, m_reading.parameters, diagnostics);
         if (m_reading.pictures != nullptr && m_reading.scans == ScanReading::AsText)
             findIllustrations(document, page, m_reading.parameters, diagnostics);
@@ -127,6 +131,12 @@ private:
             paintFigures(document, page, *m_reading.pictures, diagnostics);
         inventory = inventoryOf(content, fields, page, m_reading.parameters);
         return page;
+    }
+
+    void addDrawnBoxes(pdf::PageContent& page) const {
+        std::vector<pdf::FormField> boxes = layout::findDrawnBoxes(page, m_reading.parameters.drawnBoxes);
+        page.fields.insert(page.fields.end(), std::make_move_iterator(boxes.begin()),
+                           std::make_move_iterator(boxes.end()));
     }
 
     const PageReading& m_reading;

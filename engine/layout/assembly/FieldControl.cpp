@@ -89,8 +89,10 @@ ContentControl controlOf(const pdf::FormField& field, std::vector<Inline> seen) 
     control.choiceValues = field.choiceValues;
     control.isChecked = field.isOn;
     control.isMultiline = field.isMultiline;
-    if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton)
-        return control; // each format has its own sign
+    if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::RadioButton) {
+        control.content = std::move(seen); // for its look; each format has its own sign
+        return control;
+    }
     const std::string text = shownText(seen);
     if (lettersOf(text) != std::u32string{kEmptyField})
         control.content = typedAsValue(field, std::move(seen), text);

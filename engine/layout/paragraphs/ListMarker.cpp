@@ -198,19 +198,28 @@ std::optional<ListMarker> readSign(std::u32string_view word) {
     return std::nullopt;
 }
 
+std::optional<ListMarker> readBox(std::u32string_view word) {
+    if (!isIn(U"☐☒", word[0]))
+        return std::nullopt;
+    ListMarker marker;
+    marker.kind = MarkerKind::Box;
+    marker.isWholeWord = word.size() == 1;
+    return marker;
+}
+
 } // namespace
 
 std::optional<ListMarker> findListMarker(const Line& line, const ParagraphParameters::Markers& parameters) {
     if (line.words.size() < 2 && (line.words.empty() || textOf(line.words[0]).size() < 4))
         return std::nullopt;
     const Word& first = line.words[0];
-    // A box to tick is no bullet.
-    if (!first.spans.empty() && first.spans.front().look.field >= 0)
-        return std::nullopt;
     const std::u32string text = utf32FromUtf8(textOf(first));
     if (text.empty())
         return std::nullopt;
-    auto marker = readSign(text);
+    const bool isField = !first.spans.empty() && first.spans.front().look.field >= 0;
+    auto marker = isField ? readBox(text) : readSign(text);
+    if (isField && !marker)
+        return std::nullopt;
     if (!marker)
         marker = readEastAsian(text);
     if (!marker && line.words.size() > 1)
@@ -230,6 +239,8 @@ std::optional<ListMarker> findListMarker(const Line& line, const ParagraphParame
 }
 
 bool isSuccessor(const ListMarker& before, const ListMarker& next) {
+    if (before.kind == MarkerKind::Box)
+        return next.kind == before.kind;
     if (before.kind == MarkerKind::Bullet || before.kind == MarkerKind::Dash)
         return next.kind == before.kind && next.text == before.text;
     return next.kind == before.kind && next.ordinal == before.ordinal + 1;

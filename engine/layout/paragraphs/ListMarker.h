@@ -17,6 +17,7 @@ enum class MarkerKind : std::uint8_t {
     UpperLetter, ///< "A."
     LowerRoman,  ///< "iv."; of one letter, "i." and "v." too
     UpperRoman,  ///< "IV."
+    Box,         ///< one to tick: no bullet of a list, but an item begins with it
     EastAsian,   ///< circled numbers, numerals of Han with a comma behind them
 };
 

@@ -73,8 +73,8 @@ private:
         const LineMeasure& line = m_measures[next];
         if (!line.marker)
             return false;
-        const bool standsOut =
-            line.marker->kind == MarkerKind::Bullet || line.marker->isSeparated || !line.marker->isWholeWord;
+        const bool standsOut = line.marker->kind == MarkerKind::Bullet || line.marker->kind == MarkerKind::Box ||
+                               line.marker->isSeparated || !line.marker->isWholeWord;
         if (standsOut && !line.hasLeader)
             return true;
         const LineMeasure& first = m_measures[m_first];

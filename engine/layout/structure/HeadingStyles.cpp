@@ -163,7 +163,8 @@ private:
         look->isCapital = traits.isCapital;
         const auto number = readHeadingNumber(first);
         const auto marker = findListMarker(first, m_parameters.markers);
-        const bool isItem = marker && (marker->kind == MarkerKind::Bullet || marker->kind == MarkerKind::Dash);
+        const bool isItem = marker && (marker->kind == MarkerKind::Bullet || marker->kind == MarkerKind::Dash ||
+                                       marker->kind == MarkerKind::Box);
         const bool isLarger =
             static_cast<double>(look->halfPoints) >= m_limits.largerSize * static_cast<double>(m_body.halfPoints);
         const bool isBolder = look->isBold && !m_body.isBold && look->halfPoints >= m_body.halfPoints;

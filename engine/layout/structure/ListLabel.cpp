@@ -16,6 +16,7 @@ NumberFormat formatOf(MarkerKind kind) {
     switch (kind) {
     case MarkerKind::Bullet:
     case MarkerKind::Dash:
+    case MarkerKind::Box:
         return NumberFormat::Bullet;
     case MarkerKind::Decimal:
     case MarkerKind::Compound:
@@ -98,9 +99,9 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlank
     if (!marker || !marker->isWholeWord || line.words.size() < 2 || line.angle != 0)
         return {};
     // Circled numbers, numerals of Han and the digits of other scripts have no counterpart that all word processors
-    // write alike.
+    // write alike; of the bullets of a list none can be ticked alone.
     const bool isNumber = formatOf(marker->kind) == NumberFormat::Decimal;
-    if (marker->kind == MarkerKind::EastAsian ||
+    if (marker->kind == MarkerKind::EastAsian || marker->kind == MarkerKind::Box ||
         (isNumber && std::none_of(marker->text.begin(), marker->text.end(), isDigit)))
         return {};
     ListLabel label;

@@ -183,6 +183,27 @@ struct TextParameters {
         double groundShare = 0.9;  ///< of the field; what is filled so far is its ground
     } fields;
 
+    /// DrawnBoxes: squares to tick that are drawn.
+    struct DrawnBoxes {
+        double smallest = 5;       ///< points; the side
+        double largest = 16;       ///< points
+        double squareness = 0.85;  ///< shorter side against the longer one
+        double straightness = 0.5; ///< points; how far the ends of its lines may be off level and plumb
+        double frame = 1;          ///< points; outlines and grounds this near to each other are of one box
+        double leastOfText = 0.5;  ///< of the font size of the text beside it; the side
+        double mostOfText = 1.8;   ///< likewise
+        double rise = 0.4;         ///< of the side; the text's baseline lies at least this far below the top ...
+        double drop = 0.4;         ///< ... and at most so far below the bottom
+        double labelGap = 3;       ///< of the font size; to the text beside it
+        double overlap = 0.3;      ///< of the side; how far the room of letters may reach into the box
+        double rowGap = 1;         ///< of the side; squares this near to each other are a row for letters
+        double touch = 0.6;        ///< points; lines this near touch its sides
+        double overhang = 3;       ///< points; how far a mark may stick out of it
+        double sizeStep = 0.5;     ///< points; squares that differ by less are alike
+        double boxShare = 0.5;     ///< of the squares alike that must stand beside text
+        double indexStep = 12;     ///< points; slices of the page in which things are looked for
+    } drawnBoxes;
+
     /// LeaderFinder: dots before page numbers.
     struct Leaders {
         unsigned fewestDots = 4;

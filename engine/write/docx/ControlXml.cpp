@@ -113,8 +113,14 @@ void writeProperties(Story& story, const ContentControl& control) {
     writeKind(story, control);
 }
 
+/// The look of what stands in the control.
+const RunProperties& lookOf(const ContentControl& control, const RunProperties& base) {
+    const auto* text = control.content.empty() ? nullptr : std::get_if<Text>(&control.content.front().value);
+    return text ? text->properties : base;
+}
+
 void writePlaceholder(XmlWriter& xml, const ContentControl& control, const RunProperties& base) {
-    RunProperties look = base;
+    RunProperties look = lookOf(control, base);
     if (isBox(control))
         look.fontFamily = look.eastAsianFontFamily = look.complexFontFamily = kBoxFont;
     const XmlElement run(xml, "w:r");
@@ -126,14 +132,45 @@ void writePlaceholder(XmlWriter& xml, const ContentControl& control, const RunPr
         writeRunText(xml, kEmptyField);
 }
 
+template<typename Content>
+void writeRun(XmlWriter& xml, const RunProperties& look, const RunProperties& base, const Content& content) {
+    const XmlElement run(xml, "w:r");
+    writeRunProperties(xml, look, &base, ScriptUse::Simple);
+    content();
+}
+
+/// A box that is no field of a form, as the field that word processors draw a box for.
+void writeDrawnBox(XmlWriter& xml, const ContentControl& control, const RunProperties& base) {
+    const RunProperties& look = lookOf(control, base);
+    writeRun(xml, look, base, [&] {
+        const XmlElement begin(xml, "w:fldChar", {{"w:fldCharType", "begin"}});
+        const XmlElement data(xml, "w:ffData");
+        xml.leaf("w:enabled");
+        xml.leaf("w:calcOnExit", {{"w:val", 0}});
+        const XmlElement box(xml, "w:checkBox");
+        xml.leaf("w:sizeAuto");
+        xml.leaf("w:default", {{"w:val", control.isChecked ? 1 : 0}});
+    });
+    writeRun(xml, look, base, [&] {
+        const XmlElement code(xml, "w:instrText", {{"xml:space", "preserve"}});
+        xml.text(" FORMCHECKBOX ");
+    });
+    for (const char* type : {"separate", "end"})
+        writeRun(xml, look, base, [&] { xml.leaf("w:fldChar", {{"w:fldCharType", type}}); });
+}
+
 } // namespace
 
 void writeControl(Story& story, const ContentControl& control, const RunProperties& base,
                   const std::function<void()>& writeContent) {
+    if (control.kind == ControlKind::CheckBox && control.name.empty()) {
+        writeDrawnBox(story.xml, control, base);
+        return;
+    }
     const XmlElement sdt(story.xml, "w:sdt");
     writeProperties(story, control);
     const XmlElement content(story.xml, "w:sdtContent");
-    if (control.content.empty())
+    if (isBox(control) || control.content.empty())
         writePlaceholder(story.xml, control, base);
     else
         writeContent();

@@ -55,6 +55,21 @@ TEST(ListMarker, ReadsTheLabelOfALine) {
     }
 }
 
+TEST(ListMarker, ReadsABoxToTickOnlyWhereItIsAField) {
+    Line line = makeLine("\u2612 Text", 0, 0);
+    EXPECT_EQ(findListMarker(line, {})->kind, MarkerKind::Bullet);
+    line.words.front().spans.front().look.field = 0;
+    const auto on = findListMarker(line, {});
+    ASSERT_TRUE(on);
+    EXPECT_EQ(on->kind, MarkerKind::Box);
+    Line other = makeLine("\u2610 Text", 0, 0);
+    other.words.front().spans.front().look.field = 1;
+    EXPECT_TRUE(isSuccessor(*on, *findListMarker(other, {})));
+    Line number = makeLine("1. Text", 0, 0);
+    number.words.front().spans.front().look.field = 0;
+    EXPECT_FALSE(findListMarker(number, {})) << "what was typed into a field";
+}
+
 TEST(ListMarker, KnowsWhatComesNextInAList) {
     const auto marker = [](const char* text) { return *findListMarker(makeLine(text, 0, 0), {}); };
     EXPECT_TRUE(isSuccessor(marker("1. a"), marker("2. b")));

@@ -163,6 +163,19 @@ TEST(ParagraphBuilder, GoesOnInAListItemUntilItsSentenceEnds) {
                                         "\u2022 Another one"}));
 }
 
+TEST(ParagraphBuilder, BeginsAnItemAtEachBoxToTick) {
+    std::vector<Line> lines =
+        linesFromArt({"x high school diploma, or", "  the equivalent of one in", "x some college, but less"}, 12);
+    for (const std::size_t i : {0u, 2u}) {
+        lines[i].words.front().spans.front().text = "\u2610";
+        lines[i].words.front().spans.front().look.field = static_cast<int>(i);
+    }
+    const auto paragraphs = buildParagraphs(lines, artColumn(25), kContext, {});
+    ASSERT_EQ(paragraphs.size(), 2u);
+    EXPECT_EQ(paragraphs[0].lines.size(), 2u);
+    EXPECT_LT(paragraphs[0].firstLine, 0) << "the box hangs";
+}
+
 TEST(ParagraphBuilder, PartsRowsOfFieldsOneBelowTheOther) {
     std::vector<Line> lines = linesFromArt({"from xxxxxxxx to xxxxxxxx", "from xxxxxxxx to xxxxxxxx"}, 12);
     const auto build = [&] { return buildParagraphs(lines, artColumn(25), kContext, {}).size(); };

@@ -143,10 +143,24 @@ TEST(InlineXml, WritesACheckBoxWithItsState) {
     for (const bool isChecked : {true, false}) {
         ContentControl control;
         control.kind = ControlKind::CheckBox;
+        control.name = "agreed";
         control.isChecked = isChecked;
         const WrittenDocument written(documentOf(paragraph({{control}})));
         EXPECT_EQ(written.body("//w14:checked/@w14:val"), isChecked ? "1\n" : "0\n");
         EXPECT_EQ(written.body("//w:sdtContent//w:t/text()"), isChecked ? "\u2612" : "\u2610");
+    }
+}
+
+TEST(InlineXml, WritesADrawnBoxAsTheFieldThatLooksLikeOne) {
+    for (const bool isChecked : {true, false}) {
+        ContentControl control;
+        control.kind = ControlKind::CheckBox;
+        control.isChecked = isChecked;
+        const WrittenDocument written(documentOf(paragraph({{control}})));
+        EXPECT_EQ(written.body("//w:fldChar/@w:fldCharType"), "begin\nseparate\nend\n");
+        EXPECT_EQ(written.body("//w:instrText/text()"), " FORMCHECKBOX ");
+        EXPECT_EQ(written.body("//w:ffData/w:checkBox/w:default/@w:val"), isChecked ? "1\n" : "0\n");
+        EXPECT_EQ(written.count("//w:t"), 0u);
     }
 }
 
