@@ -128,7 +128,7 @@ struct Paragraph {
     RunProperties markProperties; ///< of the paragraph mark: decides the height of an empty paragraph
     std::vector<Inline> inlines;
     Origin origin;
-    std::vector<PageTurn> turns; ///< ascending
+    std::vector<PageTurn> turns;    ///< ascending
     std::optional<DropCap> dropCap; ///< which the first Text among the inlines is
 };
 
@@ -291,10 +291,15 @@ struct NumberingLevel {
     Twips firstLine;                  ///< negative: hanging
     bool isLegal = false;             ///< all numbers decimal
     std::optional<RunProperties> run; ///< of the label
+    /// The tab stop at which the text after the label starts where no indent hangs; nothing lets a blank part them.
+    std::optional<Twips> textStart;
+
+    /// Whether a tabulator follows the label, else a blank: without an indent or a stop of its own it would leap to
+    /// the next default one.
+    bool isTabBehindLabel() const { return firstLine < Twips(0) || textStart; }
 };
 
-/// One list, with its up to nine levels. A tabulator follows the label where the indent hangs, else a blank. Two lists
-/// of one kind that count on their own are two numberings.
+/// One list, with its up to nine levels. Two lists of one kind that count on their own are two numberings.
 struct Numbering {
     std::vector<NumberingLevel> levels;
 };

@@ -84,6 +84,16 @@ std::optional<ListLabel> asLetter(const ListLabel& roman, const std::string& tex
     return label;
 }
 
+/// Circled numbers, numerals of Han, and the digits and letters of other scripts have no counterpart that all word
+/// processors write alike.
+bool isCountedAlike(const ListMarker& marker) {
+    const NumberFormat format = formatOf(marker.kind);
+    if (format == NumberFormat::Bullet)
+        return true;
+    return marker.kind != MarkerKind::EastAsian &&
+           std::any_of(marker.text.begin(), marker.text.end(), format == NumberFormat::Decimal ? isDigit : isLetter);
+}
+
 double startOf(const Rect& box, const Line& line, const ColumnSpan& column) {
     return line.isRightToLeft ? column.right - box.right : box.left - column.left;
 }
@@ -98,11 +108,8 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlank
     // Glued to the text it cannot be told from it; only where a gap parts them does a list have written it.
     if (!marker || !marker->isWholeWord || line.words.size() < 2 || line.angle != 0)
         return {};
-    // Circled numbers, numerals of Han and the digits of other scripts have no counterpart that all word processors
-    // write alike; of the bullets of a list none can be ticked alone.
-    const bool isNumber = formatOf(marker->kind) == NumberFormat::Decimal;
-    if (marker->kind == MarkerKind::EastAsian || marker->kind == MarkerKind::Box ||
-        (isNumber && std::none_of(marker->text.begin(), marker->text.end(), isDigit)))
+    // Of the bullets of a list none can be ticked alone.
+    if (marker->kind == MarkerKind::Box || !isCountedAlike(*marker))
         return {};
     ListLabel label;
     label.format = formatOf(marker->kind);
@@ -110,6 +117,7 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlank
     label.textStart = startOf(line.words[1].box, line, piece.column);
     // A single line shows no indent of the lines after it.
     label.hangs = piece.text.lines.size() > 1 && piece.text.firstLine < -parameters.lists.sameIndent;
+    label.isSeparated = marker->isSeparated;
     label.isTyped = line.words[1].isTypedBefore;
     label.isSet = blanks == TypedBlanks::Painted && !label.isTyped;
     label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || label.hangs || label.isSet;

@@ -25,6 +25,7 @@ struct ListLabel {
     bool hangs = false;       ///< the lines after the first stand further in
     double labelStart = 0;    ///< from the column's start edge, points
     double textStart = 0;     ///< of what follows it
+    bool isSeparated = false; ///< by more than a blank
 
     /// "1", which a list writes as seldom as a table writes it often.
     bool isBare() const { return numbers.size() == 1 && before.empty() && after.empty(); }

@@ -5,6 +5,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace orvane::layout {
 namespace {
@@ -43,6 +45,20 @@ ItemIndents indentsOf(const ListItem& item) {
     return {item.label.textStart, item.label.labelStart - item.label.textStart};
 }
 
+/// Where the texts of most items start, further behind their labels than a blank; nothing where they start anywhere.
+std::optional<Twips> textStartOf(const std::vector<const ListItem*>& items, double tolerance) {
+    std::vector<double> starts;
+    for (const ListItem* item : items)
+        if (item->label.isSeparated)
+            starts.push_back(item->label.textStart);
+    const std::optional<double> usual = mostFrequent(starts, tolerance);
+    if (!usual)
+        return std::nullopt;
+    const auto alike = std::count_if(starts.begin(), starts.end(),
+                                     [&](double start) { return std::abs(start - *usual) <= tolerance; });
+    return 2 * static_cast<std::size_t>(alike) > items.size() ? std::optional(twipsFromPoints(*usual)) : std::nullopt;
+}
+
 void setIndents(NumberingLevel& level, const std::vector<const ListItem*>& items, double tolerance) {
     std::vector<double> starts, firstLines;
     for (const ListItem* item : items) {
@@ -52,6 +68,8 @@ void setIndents(NumberingLevel& level, const std::vector<const ListItem*>& items
     }
     level.indentStart = twipsFromPoints(mostFrequent(std::move(starts), tolerance).value_or(0));
     level.firstLine = twipsFromPoints(mostFrequent(std::move(firstLines), tolerance).value_or(0));
+    if (level.firstLine >= Twips(0))
+        level.textStart = textStartOf(items, tolerance);
 }
 
 NumberingLevel levelOf(const std::vector<const ListItem*>& items, double tolerance) {

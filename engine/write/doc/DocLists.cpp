@@ -51,10 +51,18 @@ Label labelOf(const NumberingLevel& level, std::size_t index) {
     return label;
 }
 
+/// One stop added, none taken away. Source: [MS-DOC] PChgTabsPapxOperand, TBD.
+Bytes tabStopBehindLabel(Twips position) {
+    constexpr int kListTab = 6;
+    return Bytes().u8(0).u8(1).u16(position.value).u8(kListTab);
+}
+
 std::string levelRecord(const NumberingLevel& level, std::size_t index, DocFonts& fonts) {
     PropertyList paragraph;
     paragraph.add(sprm::kPDxaLeft80, level.indentStart.value).add(sprm::kPDxaLeft180, level.firstLine.value);
     paragraph.add(sprm::kPDxaLeft, level.indentStart.value).add(sprm::kPDxaLeft1, level.firstLine.value);
+    if (level.textStart)
+        paragraph.addSized(sprm::kPChgTabsPapx, tabStopBehindLabel(*level.textStart));
     PropertyList run;
     if (level.run)
         addRunProperties(run, fonts, *level.run, plainRun());
@@ -62,8 +70,7 @@ std::string levelRecord(const NumberingLevel& level, std::size_t index, DocFonts
     Bytes bytes;
     bytes.u32(std::max(0, level.start)).u8(numberFormatCode(level.format));
     bytes.u8(alignmentNumber(level.alignment) | (level.isLegal ? kLegal : 0)).raw(label.places);
-    // Without a hanging indent the tabulator after the label would leap to the next default stop.
-    bytes.u8(level.firstLine < Twips(0) ? kTabFollows : kBlankFollows).zeros(8);
+    bytes.u8(level.isTabBehindLabel() ? kTabFollows : kBlankFollows).zeros(8);
     bytes.u8(static_cast<std::int64_t>(run.bytes().size())).u8(static_cast<std::int64_t>(paragraph.bytes().size()));
     bytes.u16(0).raw(paragraph.bytes()).raw(run.bytes());
     bytes.u16(static_cast<std::int64_t>(label.characters.size())).characters(label.characters);

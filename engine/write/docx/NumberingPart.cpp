@@ -18,6 +18,10 @@ using namespace document;
 
 void writeLevelIndents(XmlWriter& xml, const NumberingLevel& level) {
     const XmlElement pPr(xml, "w:pPr");
+    if (level.textStart) {
+        const XmlElement tabs(xml, "w:tabs");
+        xml.leaf("w:tab", {{"w:val", "num"}, {"w:pos", level.textStart->value}});
+    }
     const XmlElement ind(xml, "w:ind", {{"w:left", level.indentStart.value}});
     if (level.firstLine < Twips(0))
         xml.attribute({"w:hanging", -level.firstLine.value});
@@ -31,8 +35,7 @@ void writeLevel(DocumentState& state, XmlWriter& xml, const NumberingLevel& leve
     xml.leaf("w:numFmt", {{"w:val", numberFormatName(level.format)}});
     if (level.isLegal)
         xml.leaf("w:isLgl");
-    // Without a hanging indent the tabulator after the label would leap to the next default stop.
-    if (level.firstLine >= Twips(0))
+    if (!level.isTabBehindLabel())
         xml.leaf("w:suff", {{"w:val", "space"}});
     xml.leaf("w:lvlText", {{"w:val", level.text}});
     xml.leaf("w:lvlJc", {{"w:val", justificationOf(level.alignment)}});

@@ -86,8 +86,7 @@ void writeLevel(RtfState& state, RtfStream& rtf, const NumberingLevel& level, st
     rtf.word("levelnfcn", format);
     rtf.word("leveljc", alignmentNumber(level.alignment));
     rtf.word("leveljcn", alignmentNumber(level.alignment));
-    // Without a hanging indent the tabulator after the label would leap to the next default stop.
-    rtf.word("levelfollow", level.firstLine < Twips(0) ? kTabFollows : kBlankFollows);
+    rtf.word("levelfollow", level.isTabBehindLabel() ? kTabFollows : kBlankFollows);
     rtf.word("levelstartat", std::max(0, level.start));
     rtf.word("levelspace", 0);
     rtf.word("levelindent", 0);
@@ -96,6 +95,10 @@ void writeLevel(RtfState& state, RtfStream& rtf, const NumberingLevel& level, st
     writeLevelText(rtf, levelText(level, index));
     if (level.run)
         writeRunProperties(state, rtf, *level.run, plainRun(), ScriptUse::Complex);
+    if (level.textStart) {
+        rtf.word("jclisttab");
+        rtf.word("tx", level.textStart->value);
+    }
     rtf.word("fi", level.firstLine.value);
     rtf.word("li", level.indentStart.value);
     rtf.word("lin", level.indentStart.value);

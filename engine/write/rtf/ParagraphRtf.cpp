@@ -23,7 +23,7 @@ void writeListText(Story& story, const Paragraph& paragraph, const ListLevel& le
     writeRunProperties(story.state, story.rtf, level.properties->run.value_or(paragraph.markProperties), plainRun(),
                        ScriptUse::Simple);
     story.rtf.text(story.state.labels.next(*paragraph.list));
-    story.rtf.text(level.properties->firstLine < Twips(0) ? "\t" : " ");
+    story.rtf.text(level.properties->isTabBehindLabel() ? "\t" : " ");
 }
 
 /// Source: RTF 1.9.1, "Paragraph Formatting Properties" (drop caps), "Positioned Objects and Frames".

@@ -69,11 +69,29 @@ TEST(ListFinder, FindsLists) {
         {"a count and its price", {{"1\t69.99"}}, "-"},
         {"headings", {{"1.\tAims", 72, ParagraphRole::Heading}, {"2.\tMeans", 72, ParagraphRole::Heading}}, "- -"},
         {"numerals of Han", {{"\u4E00\u3001\tone"}, {"\u4E8C\u3001\ttwo"}}, "- -"},
+        {"letters of another script", {{"\u05D0)\tone"}, {"\u05D1)\ttwo"}, {"\u05D2)\tthree"}}, "- - -"},
         {"digits of another script", {{"\u0661.\tone"}, {"\u0662.\ttwo"}}, "- -"},
         {"numbers of two levels", {{"1.\tone"}, {"1.1.\tin one"}, {"1.2.\tin one"}, {"2.\ttwo"}}, "0.0 0.1 0.1 0.0"},
     };
     for (const auto& [why, rows, expected] : cases)
         EXPECT_EQ(placesOf(listsOf(rows)), expected) << why;
+}
+
+TEST(ListFinder, KeepsTheGapBehindLabelsOfTextThatGoesOnAtTheEdge) {
+    DocumentDraft draft = tests::makeDraft(1);
+    double baseline = 100;
+    for (const char* text : {"1.\tone", "2.\ttwo", "3.\tthree"}) {
+        const double first = baseline += 14;
+        draft.blocks.push_back(tests::makeBlock(
+            tests::makeParagraph({tests::makeLine(text, 90, first), tests::makeLine("more", 90, baseline += 14)})));
+    }
+    const double textStart =
+        draft.blocks[0].paragraph()->firstLine().words[1].box.left - draft.blocks[0].paragraph()->pieces[0].column.left;
+    findLists(draft, {});
+    ASSERT_EQ(placesOf(draft), "0.0 0.0 0.0");
+    EXPECT_EQ(levelOf(draft, 0, 0).firstLine, Twips(0));
+    EXPECT_EQ(levelOf(draft, 0, 0).textStart, twipsFromPoints(textStart));
+    EXPECT_TRUE(levelOf(draft, 0, 0).isTabBehindLabel());
 }
 
 TEST(ListFinder, LeavesTheLabelToTheNumbering) {

@@ -80,7 +80,8 @@ TEST(DocDump, ShowsStylesFontsAndLists) {
     heading.basedOn = "Normal";
     heading.run.isItalic = true;
     document.styles.push_back(heading);
-    document.numberings = {{{{NumberFormat::Decimal, "%1.", 3, Alignment::Start, Twips(360), Twips(-360), false, {}}}}};
+    document.numberings = {
+        {{{NumberFormat::Decimal, "%1.", 3, Alignment::Start, Twips(360), Twips(-360), false, {}, {}}}}};
     EXPECT_THAT(partOf(document, "styles"), HasSubstr("  1 \"heading 1\" paragraph based on 0 next 1\n"
                                                       "    characters: italic=1 complex-italic=1\n"));
     EXPECT_EQ(partOf(document, "fonts"), "  0 \"Georgia\"\n");

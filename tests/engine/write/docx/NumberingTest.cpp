@@ -50,6 +50,15 @@ TEST(Numbering, SetsABlankAfterALabelThatDoesNotHang) {
     EXPECT_EQ(numbering({{{flush}}}, "//w:suff"), normalXml("<w:suff w:val='space'/>"));
 }
 
+TEST(Numbering, SetsATabulatorWithItsStopAfterALabelWhoseTextStandsApart) {
+    NumberingLevel flush = level("%1.");
+    flush.firstLine = Twips(0);
+    flush.textStart = Twips(1134);
+    EXPECT_EQ(numbering({{{flush}}}, "//w:suff"), "");
+    EXPECT_EQ(numbering({{{flush}}}, "//w:lvl/w:pPr/w:tabs"),
+              normalXml("<w:tabs><w:tab w:val='num' w:pos='1134'/></w:tabs>"));
+}
+
 TEST(Numbering, SharesADefinitionAmongEqualListsAndStartsEachAnew) {
     NumberingLevel second = level("%2)");
     second.start = 3;
