@@ -28,6 +28,15 @@ bool isDrawnOfCharacters(const Line& line) {
            text.find_first_not_of(text.front()) == std::u32string::npos;
 }
 
+/// What the fullest line leaves free behind it: that is where the indent is.
+double roomBehind(const DraftPiece& piece) {
+    double room = std::numeric_limits<double>::infinity();
+    for (const Line& line : piece.text.lines)
+        room = std::min(room,
+                        line.isRightToLeft ? line.box.left - piece.column.left : piece.column.right - line.box.right);
+    return room;
+}
+
 /// Measures the indents from the section's column, whose edges the page alone did not show.
 void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, document::ParagraphProperties& format) {
     const AssemblyParameters::Spacing& limits = parameters.spacing;
@@ -37,10 +46,7 @@ void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, doc
     const double first = line.isRightToLeft ? piece.column.right - line.box.right : left - piece.column.left;
     format.indentStart = indent(first - piece.text.firstLine, limits.smallestIndent);
     format.firstLine = indent(piece.text.firstLine, limits.smallestIndent);
-    // The fullest line ends where the indent is.
-    double end = std::numeric_limits<double>::infinity();
-    for (const Line& l : piece.text.lines)
-        end = std::min(end, l.isRightToLeft ? l.box.left - piece.column.left : piece.column.right - l.box.right);
+    const double end = roomBehind(piece);
     // Ideographs leave less than one of them free, and a full stop of theirs may stand beyond the edge.
     const double least = endsWithoutBlanks(line) ? line.fontSize
                          : end > 0               ? limits.smallestEndIndent
@@ -126,8 +132,11 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
     if (format.alignment == Alignment::Justified &&
         (isLastFullest(paragraph, parameters.spacing.smallestEndIndent) || isWordColumn(paragraph)))
         format.alignment = Alignment::Start;
-    // The edges of centred lines, and the start of those set against the end, follow from their lengths.
-    if (format.alignment != Alignment::Center && format.alignment != Alignment::End)
+    // The edges of centred lines, and the start of those set against the end, follow from their lengths. Running heads
+    // may be wider than the text.
+    if (format.alignment == Alignment::End)
+        format.indentEnd = indent(std::min(0.0, roomBehind(first)), parameters.spacing.smallestIndent);
+    else if (format.alignment != Alignment::Center)
         setIndents(first, parameters, format);
     if (paragraph.list)
         takeListIndents(

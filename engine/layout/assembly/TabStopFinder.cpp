@@ -32,6 +32,18 @@ std::vector<Segment> segmentsOf(const Line& line, const ColumnSpan& column, std:
     return segments;
 }
 
+/// Whether the paragraph goes on below the line.
+bool goesOnBelow(const DraftParagraph& paragraph, const DraftPiece& piece, std::size_t line) {
+    if (line + 1 == piece.text.lines.size() && &piece == &paragraph.pieces.back())
+        return false;
+    const std::vector<std::size_t>& breaks = piece.text.hardBreaks;
+    return std::find(breaks.begin(), breaks.end(), line) == breaks.end();
+}
+
+TabStop startStop(const Segment& segment) {
+    return {twipsFromPoints(segment.start), TabAlignment::Start, segment.leader};
+}
+
 TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const AssemblyParameters::Tabs& limits) {
     const bool endsAtEdge = isLast && std::abs(segment.end - columnWidth) <= limits.edgeTolerance;
     if (endsAtEdge || segment.leader != document::TabLeader::None)
@@ -39,7 +51,7 @@ TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const As
     const double middle = (segment.start + segment.end) / 2;
     if (std::abs(middle - columnWidth / 2) <= limits.centerTolerance)
         return {twipsFromPoints(columnWidth / 2), TabAlignment::Center, segment.leader};
-    return {twipsFromPoints(segment.start), TabAlignment::Start, segment.leader};
+    return startStop(segment);
 }
 
 } // namespace
@@ -50,7 +62,8 @@ std::vector<TabStop> findTabStops(const DraftParagraph& paragraph, const LayoutP
     std::size_t skipped = paragraph.labelWords;
     for (const DraftPiece& piece : paragraph.pieces) {
         const double columnWidth = piece.column.right - piece.column.left;
-        for (const Line& line : piece.text.lines) {
+        for (std::size_t l = 0; l < piece.text.lines.size(); ++l) {
+            const Line& line = piece.text.lines[l];
             const std::size_t firstWord = std::min(skipped, line.words.size());
             skipped -= firstWord;
             // The gap behind a label belongs to the numbering.
@@ -59,8 +72,13 @@ std::vector<TabStop> findTabStops(const DraftParagraph& paragraph, const LayoutP
                 // The edge of a hanging indent is a tab stop by itself.
                 const bool isAtIndent = piece.text.firstLine < 0 &&
                                         std::abs(segments[i].start - piece.text.indentStart) <= limits.edgeTolerance;
-                if (!isAtIndent)
-                    stops.push_back(stopOf(segments[i], columnWidth, i + 1 == segments.size(), limits));
+                if (isAtIndent)
+                    continue;
+                const bool isLast = i + 1 == segments.size();
+                // Text that fills most of its line ends at the edge because it goes on, not because it was set there.
+                const bool isFull = isLast && segments[i].leader == document::TabLeader::None &&
+                                    2 * segments[i].start < columnWidth && goesOnBelow(paragraph, piece, l);
+                stops.push_back(isFull ? startStop(segments[i]) : stopOf(segments[i], columnWidth, isLast, limits));
             }
         }
     }

@@ -23,6 +23,16 @@ TEST(ParagraphFormat, LetsTextReachPastTheColumnWhereItDid) {
     EXPECT_NEAR(pointsFromTwips(format.indentEnd), 523 - (72 + 500) - 0.5, 0.1) << "else the line would break";
 }
 
+TEST(ParagraphFormat, LetsTextSetAgainstTheEndReachPastTheColumnToo) {
+    const auto format = [](double left) {
+        return formatOfLines({makeLine("twelve chars", left, 100)}, document::Alignment::End);
+    };
+    const double beyond = format(495).indentEnd.value / 20.0;
+    EXPECT_NEAR(beyond, 523 - makeLine("twelve chars", 495, 100).box.right, 0.1);
+    EXPECT_LT(beyond, 0);
+    EXPECT_EQ(format(400).indentEnd, Twips(0)) << "it ends at the edge";
+}
+
 TEST(ParagraphFormat, GivesRoomToLinesDrawnOfCharacters) {
     const auto format = [](const std::string& text) {
         return formatOfLines({makeLine(text, 72, 100)}, document::Alignment::Start);

@@ -42,6 +42,27 @@ TEST(TabStopFinder, AlignsAtTheEndWhatEndsAtTheEdge) {
     EXPECT_EQ(stops[0].position, twipsFromPoints(523 - 72));
 }
 
+TEST(TabStopFinder, StartsAtTheStopWhatFillsItsLineAndGoesOnInTheNext) {
+    Line full =
+        tests::makeLine("4.1\ttext that fills its line right up to the edge of the column and goes on", 72, 100);
+    endAt(full, full.words.size() - 1, 522);
+    const double start = full.words[1].box.left - 72;
+    const auto stops = stopsOf({full, tests::makeLine("in the next", 72, 112)});
+    ASSERT_EQ(stops.size(), 1u);
+    EXPECT_EQ(stops[0].alignment, TabAlignment::Start);
+    EXPECT_EQ(stops[0].position, twipsFromPoints(start));
+
+    ParagraphDraft ended = tests::makeParagraph({full, tests::makeLine("and another", 72, 112)});
+    ended.hardBreaks = {0};
+    const DraftBlock block = tests::makeBlock(std::move(ended));
+    EXPECT_EQ(findTabStops(*block.paragraph(), {}).at(0).alignment, TabAlignment::End) << "the author ended the line";
+
+    Line marked = tests::makeLine("C-c C-n\t[Command]", 72, 100);
+    endAt(marked, 2, 522);
+    EXPECT_EQ(stopsOf({marked, tests::makeLine("what it does", 72, 112)}).at(0).alignment, TabAlignment::End)
+        << "a note set against the edge";
+}
+
 TEST(TabStopFinder, CentersWhatStandsInTheMiddle) {
     Line line = tests::makeLine("Left\tmiddle", 72, 100);
     endAt(line, 1, (523 + 72) / 2.0 + 15);
