@@ -3,6 +3,7 @@
 #include "base/Utf8.h"
 #include "layout/text/LanguageGuess.h"
 #include "layout/text/LineText.h"
+#include "layout/text/LogicalOrder.h"
 
 #include <unicode/uchar.h>
 
@@ -108,15 +109,18 @@ Rect findTextArea(const std::vector<PageText>& pages, const LayoutParameters::An
     return {quantile(lefts, low), quantile(tops, low), quantile(rights, 1 - low), quantile(bottoms, 1 - low)};
 }
 
+/// Numbers say nothing: a table of them may have few words.
 bool isMostlyRightToLeft(const std::vector<PageText>& pages) {
-    std::size_t rightToLeft = 0, all = 0;
+    DirectionCount words;
     for (const PageText& page : pages)
         for (const Line& line : page.lines)
             for (const Word& word : line.words) {
-                rightToLeft += word.isRightToLeft;
-                ++all;
+                DirectionCount letters;
+                letters.add(utf32FromUtf8(textOf(word)));
+                words.rightToLeft += letters.rightToLeft > 0;
+                words.leftToRight += letters.leftToRight > letters.rightToLeft;
             }
-    return 2 * rightToLeft > all;
+    return words.rightToLeft > words.leftToRight;
 }
 
 std::unordered_set<std::string> collectVocabulary(const std::vector<PageText>& pages,

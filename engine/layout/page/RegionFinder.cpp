@@ -86,15 +86,18 @@ private:
         span = {std::min(span.left, area.left), std::max(span.right, area.right)};
     }
 
+    /// Single words, such as addresses, run as the document does whatever their letters.
     bool isRightToLeft(std::span<const PagePart> columns) const {
         std::size_t lines = 0;
         std::size_t rightToLeft = 0;
+        bool areWords = true;
         for (const PagePart& part : columns)
             for (const Line& line : part.lines) {
                 ++lines;
                 rightToLeft += line.isRightToLeft ? 1 : 0;
+                areWords = areWords && line.words.size() == 1;
             }
-        return lines > 0 ? 2 * rightToLeft > lines : m_context.isRightToLeft;
+        return lines == 0 || (areWords && rightToLeft == 0) ? m_context.isRightToLeft : 2 * rightToLeft > lines;
     }
 
     const DocumentContext& m_context;

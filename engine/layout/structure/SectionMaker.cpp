@@ -237,6 +237,8 @@ private:
         }
         const std::vector<ColumnSpan> columns = fitColumns(seen, area.box, m_parameters.pageSetup);
         section.setup.columns = columnWidths(columns);
+        section.setup.isRightToLeft =
+            columns.size() > 1 ? columns.front().left > columns.back().left : m_context.isRightToLeft;
         section.setup.hasColumnSeparator = hasSeparator;
         const auto columnAt = [&columns](int index) {
             return columns[std::min(static_cast<std::size_t>(index), columns.size() - 1)];

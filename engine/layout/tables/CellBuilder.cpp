@@ -80,8 +80,8 @@ bool isReadFromRight(const std::vector<std::vector<Line>>& linesOfCell, const Do
     std::size_t rightToLeft = 0;
     std::size_t leftToRight = 0;
     for (const std::vector<Line>& lines : linesOfCell) {
-        const bool isRightToLeft =
-            std::any_of(lines.begin(), lines.end(), [](const Line& line) { return line.isRightToLeft; });
+        const bool isRightToLeft = std::any_of(lines.begin(), lines.end(),
+                                               [](const Line& line) { return line.isRightToLeft && hasLetters(line); });
         rightToLeft += isRightToLeft;
         leftToRight += !isRightToLeft && std::any_of(lines.begin(), lines.end(), hasLetters);
     }

@@ -30,17 +30,22 @@ char16_t unitOf(char32_t c) {
     return isRightToLeftLetter(c) ? kRightToLeftUnit : kLeftToRightUnit;
 }
 
-/// For each cluster the number of the string it was painted in; empty when all stand in one.
-std::vector<int> paintedStrings(const std::vector<Cluster>& clusters) {
+/// For each cluster its place in the order of painting.
+std::vector<int> paintRanks(const std::vector<Cluster>& clusters) {
     std::vector<std::size_t> painted(clusters.size());
     std::iota(painted.begin(), painted.end(), std::size_t{0});
     std::stable_sort(painted.begin(), painted.end(),
                      [&](std::size_t a, std::size_t b) { return clusters[a].glyph < clusters[b].glyph; });
-    std::vector<std::size_t> rank(clusters.size());
+    std::vector<int> rank(clusters.size());
     for (std::size_t i = 0; i < painted.size(); ++i)
-        rank[painted[i]] = i;
-    std::vector<int> strings(clusters.size(), 0);
-    for (std::size_t i = 1; i < clusters.size(); ++i)
+        rank[painted[i]] = static_cast<int>(i);
+    return rank;
+}
+
+/// For each cluster the number of the string it was painted in; empty when all stand in one.
+std::vector<int> paintedStrings(const std::vector<int>& rank) {
+    std::vector<int> strings(rank.size(), 0);
+    for (std::size_t i = 1; i < rank.size(); ++i)
         strings[i] = strings[i - 1] + (rank[i] == rank[i - 1] + 1 ? 0 : 1);
     if (strings.empty() || strings.back() == 0)
         strings.clear();
@@ -104,6 +109,27 @@ void bindDigitGroups(VisualText& visual) {
             visual.units[i] = kNumberUnit;
 }
 
+/// The hyphen of a range whose numbers were painted from right to left, each of them from left to right: right-to-left
+/// letters before a range turn it around. Source: Unicode Standard Annex #9, W2 and W4.
+bool partsTurnedNumbers(const VisualText& visual, std::size_t unit) {
+    const std::u32string_view kHyphens = U"-+\u2013\u2212";
+    const std::vector<int>& ranks = visual.rankOfUnit;
+    const auto isDigitAt = [&](std::size_t i) { return i < visual.units.size() && isDigit(visual.units[i]); };
+    const auto isNumberFrom = [&](std::size_t i) {
+        return isDigitAt(i) && isDigitAt(i + 1) && ranks[i] >= 0 && ranks[i] < ranks[i + 1];
+    };
+    if (unit == 0 || kHyphens.find(visual.units[unit]) == kHyphens.npos || !isDigitAt(unit - 1) || !isDigitAt(unit + 1))
+        return false;
+    return ranks[unit - 1] > ranks[unit] && ranks[unit] > ranks[unit + 1] &&
+           (isNumberFrom(unit + 1) || (unit > 1 && isNumberFrom(unit - 2)));
+}
+
+void partTurnedNumbers(VisualText& visual) {
+    for (std::size_t unit = 0; unit < visual.units.size(); ++unit)
+        if (partsTurnedNumbers(visual, unit))
+            visual.units[unit] = kRightToLeftUnit;
+}
+
 /// True when `unit` is not known to have been painted apart from its right neighbour.
 bool mayBeOneString(const VisualText& visual, std::size_t unit) {
     return visual.stringOfUnit.empty() || visual.stringOfUnit[unit] == visual.stringOfUnit[unit + 1];
@@ -113,16 +139,19 @@ bool mayBeOneString(const VisualText& visual, std::size_t unit) {
 
 VisualText visualTextOf(const std::vector<Cluster>& clusters) {
     VisualText visual;
-    const std::vector<int> strings = paintedStrings(clusters);
+    const std::vector<int> ranks = paintRanks(clusters);
+    const std::vector<int> strings = paintedStrings(ranks);
     for (std::size_t i = 0; i < clusters.size(); ++i) {
         if (i > 0 && clusters[i].gapBefore.kind != Gap::None) {
             visual.units += clusters[i].gapBefore.kind == Gap::Tab ? u'\t' : u' ';
             visual.clusterOfUnit.push_back(-1);
+            visual.rankOfUnit.push_back(-1);
             if (!strings.empty())
                 visual.stringOfUnit.push_back(strings[i] == strings[i - 1] ? strings[i] : -1);
         }
         visual.units += unitOf(directedCharacter(clusters[i]));
         visual.clusterOfUnit.push_back(static_cast<int>(i));
+        visual.rankOfUnit.push_back(ranks[i]);
         if (!strings.empty())
             visual.stringOfUnit.push_back(strings[i]);
     }
@@ -130,6 +159,7 @@ VisualText visualTextOf(const std::vector<Cluster>& clusters) {
 }
 
 void bindChains(VisualText& visual) {
+    partTurnedNumbers(visual);
     bindStrings(visual);
     bindDigitGroups(visual);
     std::u16string& units = visual.units;

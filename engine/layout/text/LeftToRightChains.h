@@ -15,6 +15,7 @@ struct VisualText {
     /// Units of one number were painted one after the other, from left to right. Empty when all of the line was, which
     /// tells nothing.
     std::vector<int> stringOfUnit;
+    std::vector<int> rankOfUnit; ///< in the order of painting; -1 for a gap
 };
 
 /// What stands for a letter of either direction.
@@ -26,7 +27,8 @@ VisualText visualTextOf(const std::vector<Cluster>& clusters);
 /// Makes each chain of Latin letters, digits and what stands between them one word ("WRC-12") or one number ("10-12",
 /// "25/10"). Such chains are written from left to right in all scripts; strictly, Arabic letters before a range would
 /// turn its numbers around, but a run of characters that is not marked right-to-left is not turned. A word processor
-/// paints such a run as one string, blanks and brackets included, and so tells where it ends.
+/// paints such a run as one string, blanks and brackets included, and so tells where it ends. Numbers that it painted
+/// one to the left of the other were turned, and stay apart.
 void bindChains(VisualText& visual);
 
 } // namespace orvane::layout

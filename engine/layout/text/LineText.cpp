@@ -1,6 +1,8 @@
 #include "layout/text/LineText.h"
 
 #include "base/Utf8.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LogicalOrder.h"
 
 #include <unicode/uchar.h>
 
@@ -61,15 +63,21 @@ void leaveDropCapOut(Line& line) {
 
 void measureAnew(Line& line) {
     std::map<double, std::size_t> sizes;
-    std::size_t rightToLeft = 0;
+    DirectionCount words;
     line.box = {};
     for (const Word& word : line.words) {
         line.box = line.box.united(word.box);
-        rightToLeft += word.isRightToLeft ? 1 : 0;
+        const std::u32string text = utf32FromUtf8(textOf(word));
+        words.rightToLeft += word.isRightToLeft;
+        words.leftToRight += !word.isRightToLeft && std::any_of(text.begin(), text.end(), isLeftToRightLetter);
         for (const Span& span : word.spans)
             sizes[span.look.size] += span.text.size();
     }
-    line.isRightToLeft = 2 * rightToLeft > line.words.size();
+    // Mixed text and plain numbers are in the order of the line they were part of.
+    if ((words.rightToLeft > 0) != (words.leftToRight > 0))
+        line.isRightToLeft = words.rightToLeft > 0;
+    else if (isSignedNumber(utf32FromUtf8(textOf(line))))
+        line.isRightToLeft = false;
     std::size_t most = 0;
     for (const auto& [size, count] : sizes)
         if (count >= most) {

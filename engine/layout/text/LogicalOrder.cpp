@@ -57,6 +57,21 @@ Order logicalOrder(const std::u16string& visual, bool isBaseRightToLeft) {
     return order;
 }
 
+std::u32string textOf(const std::vector<Cluster>& clusters) {
+    std::u32string text;
+    for (const Cluster& cluster : clusters)
+        text += cluster.text;
+    return text;
+}
+
+/// A number with a leader on its right.
+bool startsWithNumberOfEntry(const std::vector<Cluster>& clusters) {
+    const auto isLed = [](const Cluster& cluster) { return cluster.gapBefore.leader != document::TabLeader::None; };
+    const auto led = std::find_if(clusters.begin(), clusters.end(), isLed);
+    return led != clusters.begin() && led != clusters.end() &&
+           std::all_of(clusters.begin(), led, [](const Cluster& cluster) { return isDigit(cluster.text.front()); });
+}
+
 /// The direction of the paragraph that a line is part of.
 bool isBaseRightToLeft(const std::vector<Cluster>& clusters, const DirectionCount& page) {
     DirectionCount line;
@@ -64,10 +79,13 @@ bool isBaseRightToLeft(const std::vector<Cluster>& clusters, const DirectionCoun
     const bool isPageRightToLeft = page.rightToLeft > page.leftToRight;
     if (line.rightToLeft > 0)
         return isPageRightToLeft || line.rightToLeft > line.leftToRight;
-    // Without letters of its own direction the page's counts; Latin text there shows it by a full stop on its left.
+    // Without letters of its own direction the page's counts; Latin text there shows it by what stands on its left: a
+    // full stop, or the page number of an entry.
     const char32_t first = clusters.front().text.front();
-    return isPageRightToLeft &&
-           (line.leftToRight == 0 || first == U'.' || first == U',' || first == U':' || first == U'!' || first == U'?');
+    if (isSignedNumber(textOf(clusters)))
+        return false;
+    return isPageRightToLeft && (line.leftToRight == 0 || first == U'.' || first == U',' || first == U':' ||
+                                 first == U'!' || first == U'?' || startsWithNumberOfEntry(clusters));
 }
 
 LogicalLine inOrderOfThePage(std::vector<Cluster> clusters) {
@@ -86,12 +104,25 @@ bool hasRightToLeftLetters(const std::vector<Cluster>& clusters) {
 
 } // namespace
 
+void DirectionCount::add(std::u32string_view text) {
+    for (const char32_t c : text) {
+        leftToRight += isLeftToRightLetter(c);
+        rightToLeft += isRightToLeftLetter(c);
+    }
+}
+
 void DirectionCount::add(const std::vector<Cluster>& clusters) {
     for (const Cluster& cluster : clusters)
-        for (const char32_t c : cluster.text) {
-            leftToRight += isLeftToRightLetter(c);
-            rightToLeft += isRightToLeftLetter(c);
-        }
+        add(cluster.text);
+}
+
+bool isSignedNumber(std::u32string_view text) {
+    constexpr std::size_t kFewestDigits = 3;
+    constexpr std::u32string_view kSigns = U"+-.\u2212", kSeparators = U".,\u00A0 ";
+    const auto isPart = [&](char32_t c) { return isDigit(c) || kSeparators.find(c) != kSeparators.npos; };
+    return !text.empty() && kSigns.find(text.front()) != kSigns.npos &&
+           std::all_of(text.begin() + 1, text.end(), isPart) &&
+           static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isDigit)) >= kFewestDigits;
 }
 
 LogicalLine toLogicalOrder(std::vector<Cluster> clusters, const DirectionCount& page) {

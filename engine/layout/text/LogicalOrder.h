@@ -2,6 +2,7 @@
 
 #include "layout/text/TextDraft.h"
 
+#include <string_view>
 #include <vector>
 
 namespace orvane::layout {
@@ -19,8 +20,13 @@ struct DirectionCount {
     std::size_t leftToRight = 0;
     std::size_t rightToLeft = 0;
 
+    void add(std::u32string_view text);
     void add(const std::vector<Cluster>& clusters);
 };
+
+/// A number of three digits or more behind its sign or full stop, "-90.8", ".464": right-to-left text would turn it.
+/// Shorter ones are labels, seen from the right.
+bool isSignedNumber(std::u32string_view text);
 
 /// Brings a line from the order on the page, left to right, into logical order, so that a word processor that lays it
 /// out again gets the same page. `page` decides for lines that have letters of both directions in like numbers.

@@ -119,11 +119,23 @@ TEST(DocumentAnalyser, SeesWhetherBlanksPartScripts) {
 }
 
 TEST(DocumentAnalyser, TellsRightToLeftDocuments) {
-    PageText page = makePage(1);
-    page.lines.push_back(makeLine("one two three", 72, 72));
-    EXPECT_FALSE(analyseDocument({page}, {}).isRightToLeft);
-    page.lines[0].words[0].isRightToLeft = page.lines[0].words[1].isRightToLeft = true;
-    EXPECT_TRUE(analyseDocument({page}, {}).isRightToLeft);
+    struct Row {
+        const char* text;
+        bool expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {"one two three", false, "nothing is read from the right"},
+        {"\u05D0\u05D1 \u05D2\u05D3 three", true, "most words are"},
+        {"\u05D0\u05D1 two three", false, "few words are"},
+        {"\u05D0\u05D1 12 345 678", true, "numbers do not count"},
+        {"12 345", false, "nothing tells"},
+    };
+    for (const Row& row : rows) {
+        PageText page = makePage(1);
+        page.lines.push_back(makeLine(row.text, 72, 72));
+        EXPECT_EQ(analyseDocument({page}, {}).isRightToLeft, row.expected) << row.why;
+    }
 }
 
 TEST(DocumentAnalyser, CopesWithPagesWithoutText) {

@@ -120,6 +120,28 @@ TEST(PageLayouter, ReadsRightToLeftColumnsFromTheRight) {
     EXPECT_EQ(textOf(std::get<ParagraphDraft>(layout.blocks[0].value).lines[0]), "nine ten eleven t");
 }
 
+TEST(PageLayouter, ReadsColumnsOfWordsAsTheDocumentAroundThem) {
+    const std::vector<std::string> words = {"www.one.two.three   www.nine.ten.elev",
+                                            "www.five.six.seve   www.thirteen.four",
+                                            "www.nine.ten.elev   www.sixteen.seven"};
+    const std::vector<std::string> text = {"one two three fou   nine ten eleven t",
+                                           "five six seven ei   thirteen fourtee",
+                                           "nine ten eleven .   sixteen seventee"};
+    const auto isReadFromRight = [](const std::vector<std::string>& art, bool isRightToLeft) {
+        PageText page = makePage(1);
+        page.lines = linesFromArt(art);
+        DocumentContext context;
+        context.isRightToLeft = isRightToLeft;
+        Diagnostics diagnostics;
+        const std::vector<ColumnSpan> columns = layoutPage(page, context, {}, diagnostics).bands.at(0).columns;
+        EXPECT_EQ(columns.size(), 2U);
+        return columns.front().left > columns.back().left;
+    };
+    EXPECT_TRUE(isReadFromRight(words, true));
+    EXPECT_FALSE(isReadFromRight(words, false));
+    EXPECT_FALSE(isReadFromRight(text, true)) << "sentences tell by themselves";
+}
+
 TEST(PageLayouter, PutsFiguresIntoTheirPlace) {
     Figure between;
     between.box = {0, 104, 100, 140};

@@ -35,6 +35,20 @@ DocumentDraft draftOfColumns(const std::vector<std::vector<double>>& upper,
     return draft;
 }
 
+TEST(ColumnHeights, CountsColumnsFromTheSideWhereTheFirstStands) {
+    DocumentContext context;
+    context.isRightToLeft = true;
+    DocumentDraft fromLeft = draftOfColumns({{84, 96}, {84, 96}}, {{240, 252}, {240, 252}});
+    sectionsOf(fromLeft, {}, context);
+    EXPECT_FALSE(fromLeft.sections.at(0).setup.isRightToLeft) << "Latin words in columns of a Hebrew document";
+
+    DocumentDraft fromRight = draftOfColumns({{84, 96}, {84, 96}}, {{240, 252}, {240, 252}});
+    for (Band& band : fromRight.pages[0].bands)
+        std::swap(band.columns.front(), band.columns.back());
+    sectionsOf(fromRight, {}, context);
+    EXPECT_TRUE(fromRight.sections.at(0).setup.isRightToLeft);
+}
+
 TEST(ColumnHeights, MakesASectionOfEachBandOfColumns) {
     DocumentDraft draft = draftOfColumns({{84, 96}, {84, 96}}, {{240, 252}, {240, 252}});
     sectionsOf(draft);

@@ -49,6 +49,20 @@ TEST(LogicalOrder, ReadsRightToLeftTextFromItsRight) {
     }
 }
 
+TEST(LogicalOrder, LeavesSignsOfNumbersOnTheirSide) {
+    for (const char* text : {".464", "-90,8", "+1 200"}) {
+        EXPECT_FALSE(lineOf(text).isRightToLeft) << text;
+        EXPECT_EQ(textOf(lineOf(text)), text);
+    }
+}
+
+TEST(LogicalOrder, ReadsAnEntryWithItsPageNumberOnTheLeftFromItsRight) {
+    const Line entry = lineOf("20..............................Index");
+    EXPECT_TRUE(entry.isRightToLeft);
+    EXPECT_EQ(textOf(entry), "Index\t20");
+    EXPECT_FALSE(lineOf("20 apples").isRightToLeft);
+}
+
 TEST(LogicalOrder, KeepsTheGroupsOfANumberTogether) {
     const Line line = lineOf("3 001 234");
     EXPECT_EQ(textOf(line), "3 001 234");
@@ -73,6 +87,14 @@ Line lineOfStrings(const std::vector<std::string>& strings) {
         page.text(x, 100, text, 12);
     }
     return read(page).lines.at(0);
+}
+
+TEST(LogicalOrder, TurnsRangesThatWerePaintedFromRightToLeft) {
+    EXPECT_EQ(textOf(lineOfStrings({"\u05D1\u05D0", "1164 ", "-", "960"})), "\u05D0\u05D1 1164-960");
+    EXPECT_EQ(textOf(lineOfStrings({"\u05D1\u05D0", "12 ", "-", "10", "-", "2024"})), "\u05D0\u05D1 12-10-2024");
+    EXPECT_EQ(textOf(lineOfStrings({"\u05D1\u05D0", "960-1164 "})), "\u05D0\u05D1 960-1164") << "painted as it is read";
+    EXPECT_EQ(textOf(lineOfStrings({"\u05D1\u05D0", "4 ", "-", "3"})), "\u05D0\u05D1 3-4")
+        << "all was painted leftwards: that tells nothing";
 }
 
 TEST(LogicalOrder, KeepsWhatWasPaintedAsOneStringTogether) {
