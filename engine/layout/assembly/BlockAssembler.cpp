@@ -57,8 +57,8 @@ void setBreaks(const DraftBlock& draft, AssembledBlock& assembled) {
         paragraph->properties.pageBreakBefore = draft.startsPage;
         if (draft.startsColumn)
             paragraph->inlines.insert(paragraph->inlines.begin(), {document::Break{document::BreakKind::Column}});
-    } else if (draft.startsPage && !assembled.cells.empty() && !assembled.cells.front().empty()) {
-        if (document::Paragraph* first = assembled.cells.front().front().paragraph())
+    } else if (draft.startsPage) {
+        if (document::Paragraph* first = firstParagraphOf(assembled))
             first->properties.pageBreakBefore = true;
     }
 }

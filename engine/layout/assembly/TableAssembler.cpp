@@ -148,6 +148,14 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     return assembled;
 }
 
+document::Paragraph* firstParagraphOf(AssembledBlock& block) {
+    const auto* table = std::get_if<document::Table>(&block.block.value);
+    if (!table || table->rows.empty() || table->rows.front().cells.empty())
+        return nullptr;
+    const std::size_t first = table->isRightToLeft ? table->rows.front().cells.size() - 1 : 0;
+    return first < block.cells.size() && !block.cells[first].empty() ? block.cells[first].front().paragraph() : nullptr;
+}
+
 void fillCells(AssembledBlock& assembled, const AssemblyContext& context) {
     auto& table = std::get<document::Table>(assembled.block.value);
     auto inside = assembled.cells.begin();

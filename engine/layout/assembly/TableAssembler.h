@@ -9,6 +9,10 @@ namespace orvane::layout {
 /// counted from the left until fillCells().
 AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context);
 
+/// The paragraph that is read first; null for other blocks than tables and where something else stands there.
+/// Requires: the cells are not filled yet.
+document::Paragraph* firstParagraphOf(AssembledBlock& block);
+
 /// Puts the blocks of AssembledBlock::cells into the table's cells, and these into the order in which they are read.
 /// Requires: `assembled` was made by assembleTable().
 void fillCells(AssembledBlock& assembled, const AssemblyContext& context);

@@ -2,15 +2,12 @@
 
 #include "layout/assembly/BlockPlace.h"
 #include "layout/assembly/EmptyParagraph.h"
+#include "layout/assembly/TableAssembler.h"
 
 #include <utility>
 
 namespace orvane::layout {
 namespace {
-
-document::Paragraph* firstParagraph(AssembledBlock& table) {
-    return table.cells.empty() || table.cells.front().empty() ? nullptr : table.cells.front().front().paragraph();
-}
 
 bool isTable(const AssembledBlock& block) {
     return std::holds_alternative<document::Table>(block.block.value);
@@ -23,7 +20,7 @@ void spaceTable(AssembledBlock& table, double points, const AssemblyContext& con
         return;
     document::Paragraph spacer = emptyParagraph(context);
     spacer.properties.lineSpacing = {document::LineSpacingRule::Exact, 1.0, twipsFromPoints(points)};
-    if (document::Paragraph* first = firstParagraph(table))
+    if (document::Paragraph* first = firstParagraphOf(table))
         spacer.properties.pageBreakBefore = std::exchange(first->properties.pageBreakBefore, false);
     // What floats beside the table counts from its page, so it stands behind the break.
     table.floats.insert(table.floats.begin(), {std::move(spacer)});

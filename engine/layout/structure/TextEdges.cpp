@@ -106,6 +106,7 @@ private:
         const double width = m_draft.pages[block.page].width;
         if (columnsOf(block.page, block.band) > 1 || table.box.left < 0 || table.box.right > width)
             return;
+        m_hasRightToLeftTable = m_hasRightToLeftTable || table.isRightToLeft;
         const std::size_t rows = table.rowEdges.size() - 1;
         m_rowStarts.insert(m_rowStarts.end(), rows, table.isRightToLeft ? width - table.box.right : table.box.left);
         m_rowEnds.insert(m_rowEnds.end(), rows, table.isRightToLeft ? table.box.left : width - table.box.right);
@@ -232,7 +233,9 @@ private:
             const double least = margin / 4;
             margin = narrow >= least ? narrow : wide >= least ? wide : margin;
         }
-        return {margin, m_pageWidth - margin};
+        // What is read from the right reaches into the margin on the left. Not all word processors let it.
+        const double left = m_hasRightToLeftTable ? std::max(0.0, std::min(margin, m_objects.left)) : margin;
+        return {left, m_pageWidth - margin};
     }
 
     const DocumentDraft& m_draft;
@@ -240,6 +243,7 @@ private:
     std::vector<LineEdge> m_edges;   ///< of the lines of paragraphs
     std::vector<double> m_rowStarts; ///< of the tables' rows, from the side where lines start
     std::vector<double> m_rowEnds;   ///< likewise
+    bool m_hasRightToLeftTable = false;
     Rect m_objects;
     double m_pageWidth = 0;
     int m_isRightToLeft = 0; ///< lines more than left-to-right ones

@@ -6,6 +6,7 @@
 #include "write/docx/CellXml.h"
 
 #include <algorithm>
+#include <variant>
 
 namespace orvane::write::docx {
 namespace {
@@ -25,10 +26,19 @@ CellDefaults defaultsOf(const Table& table) {
     return defaults;
 }
 
+bool startsInRightToLeftText(const Table& table) {
+    if (table.rows.empty() || table.rows.front().cells.empty() || table.rows.front().cells.front().blocks.empty())
+        return false;
+    const auto* first = std::get_if<Paragraph>(&table.rows.front().cells.front().blocks.front().value);
+    return first && first->properties.isRightToLeft;
+}
+
 void writeTableProperties(XmlWriter& xml, const Table& table, const TableGrid& grid, const CellDefaults& defaults) {
     const XmlElement tblPr(xml, "w:tblPr");
     if (table.isRightToLeft)
         xml.leaf("w:bidiVisual");
+    else if (startsInRightToLeftText(table)) // some readers turn a table that says nothing
+        xml.leaf("w:bidiVisual", {{"w:val", 0}});
     const Twips width = grid.width(0, static_cast<int>(grid.columnWidths().size()));
     xml.leaf("w:tblW", {{"w:w", width.value}, {"w:type", "dxa"}});
     if (table.alignment == Alignment::Center || table.alignment == Alignment::End)

@@ -63,6 +63,23 @@ TEST(TableAssembler, CountsColumnsFromTheSideWhereReadingStarts) {
     EXPECT_EQ(fromRight.indent, Twips(1020)) << "from the text's right edge at 523 points";
 }
 
+TEST(TableAssembler, StartsItsPageInTheCellThatIsReadFirst) {
+    for (const Reading reading : {Reading::FromLeft, Reading::FromRight}) {
+        DocumentDraft draft = draftOfTable(reading);
+        draft.blocks[0].startsPage = true;
+        DraftSection& section = draft.sections.emplace_back();
+        section.setup.start = document::SectionStart::Continuous;
+        section.setup.marginTop = twipsFromPoints(draft.blocks[0].box.top);
+        const document::Document document = tests::documentOf(draft);
+        const auto& cells = std::get<document::Table>(document.sections.at(0).blocks.at(0).value).rows[0].cells;
+        const auto startsPage = [&cells](std::size_t cell) {
+            return std::get<document::Paragraph>(cells.at(cell).blocks.at(0).value).properties.pageBreakBefore;
+        };
+        EXPECT_TRUE(startsPage(0));
+        EXPECT_FALSE(startsPage(1));
+    }
+}
+
 TEST(TableAssembler, MeasuresTheIndentFromTheColumnOfTheSection) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     draft.blocks[0].textColumn = ColumnSpan{90, 500};

@@ -27,6 +27,24 @@ TEST(TextEdges, ReadsTheEndEdgeThatMostLinesAgreeOn) {
     EXPECT_LT(end, 72 + 400 + 57.5) << "else the next word would have had room";
 }
 
+TEST(TextEdges, LetATableThatIsReadFromTheRightReachIntoTheLeftMargin) {
+    for (const bool isRightToLeft : {false, true}) {
+        DocumentDraft draft = makeDraft(1);
+        DraftTable table;
+        table.table.columnEdges = {10, 270, 530};
+        table.table.rowEdges = {100, 120};
+        table.table.box = {10, 100, 530, 120};
+        table.table.isRightToLeft = isRightToLeft;
+        DraftBlock& block = draft.blocks.emplace_back();
+        block.box = table.table.box;
+        block.value = std::move(table);
+        sectionsOf(draft);
+        const document::Section& setup = draft.sections.at(0).setup;
+        EXPECT_EQ(setup.marginRight, twipsFromPoints(595 - 530));
+        EXPECT_EQ(setup.marginLeft, twipsFromPoints(isRightToLeft ? 10 : 595 - 530));
+    }
+}
+
 TEST(TextEdges, PrefersMarginsOfOneWidthThoughALineWasEndedByHand) {
     DocumentDraft draft = makeDraft(1);
     const std::string full(90, 'x'); // 450 points, so that less than a point is free before the right margin

@@ -153,6 +153,13 @@ TEST(TableXml, MirrorsSidesInTablesThatRunFromRightToLeft) {
     EXPECT_EQ(written.count("//w:tblPr/w:bidiVisual"), 1u);
 }
 
+TEST(TableXml, SaysThatATableRunsFromLeftToRightWhereItsTextDoesNot) {
+    Table table = tableOf(1, {{cell("a")}});
+    EXPECT_EQ(writtenTable(table).count("//w:tblPr/w:bidiVisual"), 0u);
+    std::get<Paragraph>(table.rows[0].cells[0].blocks[0].value).properties.isRightToLeft = true;
+    EXPECT_EQ(writtenTable(table).body("//w:tblPr/w:bidiVisual"), normalXml("<w:bidiVisual w:val='0'/>"));
+}
+
 TEST(TableXml, PlacesTheTable) {
     for (const auto& [alignment, word] : {std::pair{Alignment::Center, "center\n"}, {Alignment::End, "right\n"}}) {
         Table table = tableOf(1, {{cell("a")}});
