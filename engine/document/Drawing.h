@@ -14,6 +14,7 @@ namespace orvane::document {
 
 enum class HorizontalAnchor : std::uint8_t { Page, Margin, Column };
 enum class VerticalAnchor : std::uint8_t { Page, Margin, Paragraph };
+enum class HorizontalSide : std::uint8_t { Left, Center, Right };
 enum class Wrapping : std::uint8_t { Square, TopAndBottom, None, BehindText };
 
 /// Where a floating object stands.
@@ -25,6 +26,9 @@ struct Placement {
     Wrapping wrapping = Wrapping::Square;
     Emu distanceLeft, distanceRight, distanceTop, distanceBottom;
     int zOrder = 0; ///< ascending towards the reader
+    /// The edge or middle of its anchor's width where `x` is, to be said instead of it: some readers count positions
+    /// in right-to-left paragraphs from the other side.
+    std::optional<HorizontalSide> side;
 };
 
 struct ShapeLine {

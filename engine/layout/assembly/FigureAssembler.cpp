@@ -89,6 +89,21 @@ void hangOnParagraph(document::Figure& figure, const ColumnSpan& column, const R
     figure.placement.wrapping = document::Wrapping::None;
 }
 
+/// Names the side of its column at which a figure floats, if it stands there.
+void nameSide(document::Placement& placement, const ColumnSpan& column, const Rect& box, double tolerance) {
+    const document::Alignment alignment = alignmentIn(column, box, tolerance);
+    if (alignment == document::Alignment::Center)
+        placement.side = document::HorizontalSide::Center;
+    else if (alignment == document::Alignment::End)
+        placement.side = document::HorizontalSide::Right;
+    else if (std::abs(box.left - column.left) <= tolerance)
+        placement.side = document::HorizontalSide::Left;
+    else
+        return;
+    placement.horizontalAnchor = document::HorizontalAnchor::Column;
+    placement.x = placement.x - emuFromPoints(column.left);
+}
+
 } // namespace
 
 document::Figure floatingFigure(const Figure& source, int page) {
@@ -134,6 +149,9 @@ AssembledBlock assembleFigure(const FigureDraft& draft, const DraftBlock& place,
         figure.placement.wrapping = document::Wrapping::None;
     else if (draft.figure.isBackground)
         figure.placement.wrapping = document::Wrapping::BehindText;
+    if (context.document.isRightToLeft)
+        nameSide(figure.placement, columnOf(place, context.draft), draft.figure.box,
+                 context.parameters.figures.alignmentTolerance);
     assembled.block = {std::move(figure)};
     return assembled;
 }

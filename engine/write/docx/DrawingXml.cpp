@@ -60,6 +60,24 @@ void writeWrapping(XmlWriter& xml, Wrapping wrapping) {
     }
 }
 
+const char* nameOf(HorizontalSide side) {
+    switch (side) {
+    case HorizontalSide::Left:
+        return "left";
+    case HorizontalSide::Center:
+        return "center";
+    case HorizontalSide::Right:
+        return "right";
+    }
+    return "left";
+}
+
+void writeSide(XmlWriter& xml, const char* from, HorizontalSide side) {
+    const XmlElement place(xml, "wp:positionH", {{"relativeFrom", from}});
+    const XmlElement value(xml, "wp:align");
+    xml.text(nameOf(side));
+}
+
 void writePosition(XmlWriter& xml, std::string_view element, const char* from, Emu position) {
     const XmlElement place(xml, element, {{"relativeFrom", from}});
     const XmlElement value(xml, "wp:posOffset");
@@ -103,7 +121,10 @@ void writeAnchor(Story& story, const DrawingOutline& outline, const Placement& p
                              {"layoutInCell", 1},
                              {"allowOverlap", 1}});
     story.xml.leaf("wp:simplePos", {{"x", 0}, {"y", 0}});
-    writePosition(story.xml, "wp:positionH", nameOf(placement.horizontalAnchor), placement.x);
+    if (placement.side)
+        writeSide(story.xml, nameOf(placement.horizontalAnchor), *placement.side);
+    else
+        writePosition(story.xml, "wp:positionH", nameOf(placement.horizontalAnchor), placement.x);
     writePosition(story.xml, "wp:positionV", nameOf(placement.verticalAnchor), placement.y);
     writeExtent(story.xml, outline);
     writeWrapping(story.xml, placement.wrapping);

@@ -65,6 +65,38 @@ TEST(FigureAssembler, LetsNothingMakeWayForAPictureOverAnother) {
     EXPECT_EQ(wrappings, (std::vector{document::Wrapping::Square, document::Wrapping::None}));
 }
 
+TEST(FigureAssembler, NamesTheSideAtWhichAPictureFloatsInRightToLeftText) {
+    struct Row {
+        double left; ///< of a picture 100 points wide; the column reaches from 72 to 523 points
+        DocumentContext context;
+        std::optional<document::HorizontalSide> side;
+        double x;
+    };
+    DocumentContext rightToLeft;
+    rightToLeft.isRightToLeft = true;
+    const Row rows[] = {
+        {74, rightToLeft, document::HorizontalSide::Left, 2},
+        {422, rightToLeft, document::HorizontalSide::Right, 350},
+        {248, rightToLeft, document::HorizontalSide::Center, 176},
+        {100, rightToLeft, std::nullopt, 100},
+        {74, {}, std::nullopt, 74},
+    };
+    for (const Row& row : rows) {
+        DocumentDraft draft = makeDraft(1);
+        draft.sections.emplace_back().setup.start = document::SectionStart::Continuous;
+        draft.blocks.push_back(tests::makePictureBlock({row.left, 120, row.left + 100, 220}));
+        std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+        draft.blocks.back().textColumn = ColumnSpan{72, 523};
+        Diagnostics diagnostics;
+        const document::Document document = assembleDocument(std::move(draft), row.context, {}, {}, {}, diagnostics);
+        const auto& placement = std::get<document::Figure>(document.sections.at(0).blocks.at(0).value).placement;
+        EXPECT_EQ(placement.side, row.side) << row.left;
+        EXPECT_EQ(placement.x, emuFromPoints(row.x)) << row.left;
+        EXPECT_EQ(placement.horizontalAnchor,
+                  row.side ? document::HorizontalAnchor::Column : document::HorizontalAnchor::Page);
+    }
+}
+
 TEST(FigureAssembler, LeadsWhereTheLinkOverAPictureDoes) {
     DocumentDraft draft = makeDraft(1);
     draft.pages[0].links.resize(2);

@@ -102,7 +102,8 @@ TEST_F(DrawingXml, AnchorsAFloatingPictureWhereItStands) {
                      Emu(22),
                      Emu(33),
                      Emu(44),
-                     7};
+                     7,
+                     {}};
     const WrittenDocument document = written({one});
     EXPECT_EQ(document.body("//wp:anchor/@distL|//wp:anchor/@distR|//wp:anchor/@distT|//wp:anchor/@distB"),
               "11\n22\n33\n44\n");
@@ -111,6 +112,9 @@ TEST_F(DrawingXml, AnchorsAFloatingPictureWhereItStands) {
               normalXml("<wp:positionH relativeFrom='column'><wp:posOffset>1000</wp:posOffset></wp:positionH>"
                         "<wp:positionV relativeFrom='paragraph'><wp:posOffset>-2000</wp:posOffset></wp:positionV>"
                         "<wp:wrapSquare wrapText='bothSides'/>"));
+    one.placement.side = HorizontalSide::Right;
+    EXPECT_EQ(written({one}).body("//wp:positionH"),
+              normalXml("<wp:positionH relativeFrom='column'><wp:align>right</wp:align></wp:positionH>"));
 }
 
 TEST_F(DrawingXml, LeadsWhereAFloatingPictureDoes) {

@@ -290,7 +290,8 @@ private:
                             points(9),
                             points(0),
                             points(0),
-                            1};
+                            1,
+                            {}};
         return figure;
     }
 
@@ -314,7 +315,8 @@ private:
                          points(6),
                          points(6),
                          points(6),
-                         4};
+                         4,
+                         {}};
         box.width = points(160);
         box.height = points(120);
         box.insetLeft = box.insetRight = box.insetTop = box.insetBottom = points(5);
@@ -326,8 +328,17 @@ private:
 
     Frame turnedFrame() const {
         Frame box;
-        box.placement = {
-            HorizontalAnchor::Page, VerticalAnchor::Page, points(20), points(300), Wrapping::None, {}, {}, {}, {}, 5};
+        box.placement = {HorizontalAnchor::Page,
+                         VerticalAnchor::Page,
+                         points(20),
+                         points(300),
+                         Wrapping::None,
+                         {},
+                         {},
+                         {},
+                         {},
+                         5,
+                         {}};
         box.width = points(30);
         box.height = points(200);
         box.direction = TextDirection::Upwards;

@@ -53,7 +53,8 @@ Figure boxAndDrop() {
                         {},
                         {},
                         {},
-                        2};
+                        2,
+                        {}};
     return figure;
 }
 
@@ -71,7 +72,8 @@ Figure slopedLine() {
                         {},
                         {},
                         {},
-                        3};
+                        3,
+                        {}};
     return figure;
 }
 
