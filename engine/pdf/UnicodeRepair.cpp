@@ -29,8 +29,13 @@ bool isSayable(const std::u32string& text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char32_t c) { return isSayable(c); });
 }
 
-/// What the file itself says a code of a font means.
-std::u32string givenMeaning(const GfxFont& font, std::uint32_t code) {
+/// What the file itself says of a code of a font.
+struct GivenCode {
+    std::u32string meaning;
+    double advance = 0; ///< of the font's size
+};
+
+GivenCode givenCode(const GfxFont& font, std::uint32_t code) {
     const char bytes[2] = {static_cast<char>(code >> 8), static_cast<char>(code & 0xFF)};
     const bool isOneByte = !font.isCIDFont();
     CharCode readCode = 0;
@@ -39,7 +44,7 @@ std::u32string givenMeaning(const GfxFont& font, std::uint32_t code) {
     double dx = 0, dy = 0, originX = 0, originY = 0;
     font.getNextChar(isOneByte ? bytes + 1 : bytes, isOneByte ? 1 : 2, &readCode, &text, &length, &dx, &dy, &originX,
                      &originY);
-    return {text, text + length};
+    return {{text, text + length}, dx};
 }
 
 /// Signs at U+F000 + code are how Windows keeps symbol fonts; of fonts unknown by name the common bullets are worth a
@@ -67,8 +72,13 @@ std::u32string fromPrivateDouble(std::uint8_t code) {
 }
 
 /// OpenSymbol stands in for fonts of signs whose codes it shows as theirs: Wingdings above all, and what that lacks is
-/// of ZapfDingbats and its kin.
-std::u32string fromStandIn(std::uint8_t code) {
+/// of ZapfDingbats and its kin. Where these have nothing but pictures, which are wide, a narrow sign is one of
+/// Symbol's.
+std::u32string fromStandIn(std::uint8_t code, double advance) {
+    constexpr std::uint8_t kFirstPicture = 0x21, kLastPicture = 0x2F;
+    constexpr double kNarrow = 0.65; // of the font's size
+    if (code >= kFirstPicture && code <= kLastPicture && advance > 0 && advance < kNarrow)
+        return std::u32string(1, symbolCharacter(SymbolFont::Symbol, code));
     constexpr std::uint8_t kDegree = 0xB0, kPlusMinus = 0xB1, kBullet = 0xB7; // of the font Symbol
     if (code == kDegree || code == kPlusMinus || code == kBullet)
         return fromPrivateDouble(code);
@@ -95,7 +105,7 @@ bool isShifted(const GfxFont& font, const EmbeddedCharacters& program) {
     std::size_t compared = 0;
     for (const std::uint32_t code : program.codes()) {
         const std::u32string own = program.textOf(code);
-        const std::u32string given = givenMeaning(font, code);
+        const std::u32string given = givenCode(font, code).meaning;
         if (own.size() != 1 || given.size() != 1)
             continue;
         ++compared;
@@ -222,7 +232,8 @@ private:
                 return std::u32string(1, today);
             if (given[0] >= 0xF020 && given[0] < 0xF100) {
                 const auto low = static_cast<std::uint8_t>(given[0] & 0xFF);
-                return m_facts.name.starts_with("OpenSymbol") ? fromStandIn(low) : fromPrivateDouble(low);
+                return m_facts.name.starts_with("OpenSymbol") ? fromStandIn(low, givenCode(m_font, code).advance)
+                                                              : fromPrivateDouble(low);
             }
         }
         if (!hasNames)

@@ -129,12 +129,15 @@ TEST(Unicode, OfSignFontsIsWhatIsSeen) {
 }
 
 /// The text of five signs of a TrueType font of this name, which its map puts at these characters.
-std::string signsOf(const std::string& font, const std::string& map) {
+std::string signsOf(const std::string& font, const std::string& map, const std::string& width = "500") {
     PdfBuilder builder;
+    std::string widths;
+    for (int i = 0; i < 5; ++i)
+        widths += width + " ";
     const int stream = builder.addStream("", toUnicode(map, 5, "<00> <FF>"));
     return textIn(builder,
                   "<< /Type /Font /Subtype /TrueType /BaseFont /" + font + " /ToUnicode " + pdfRef(stream) +
-                      " /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
+                      " /FirstChar 65 /LastChar 69 /Widths [" + widths + "] >>",
                   "(ABCDE)");
 }
 
@@ -145,6 +148,13 @@ TEST(Unicode, OfPrivateBulletsIsABullet) {
 TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
     EXPECT_EQ(signsOf("OpenSymbol", "<41> <F06C> <42> <F033> <43> <F0B7> <44> <0028> <45> <2713>\n"), "●✓•(✓")
         << "of Wingdings, of ZapfDingbats, of Symbol, and as the map says";
+}
+
+TEST(Unicode, OfANarrowSignWhereOthersHavePicturesIsThatOfSymbol) {
+    const std::string map = "<41> <F02A> <42> <F028> <43> <F029> <44> <F02B> <45> <F02D>\n";
+    EXPECT_EQ(signsOf("OpenSymbol", map, "507"), "\u2217()+\u2212");
+    EXPECT_EQ(signsOf("OpenSymbol", "<41> <F02A> <42> <F028> <43> <F02A> <44> <F028> <45> <F02A>\n", "940"),
+              "\u2709\u260E\u2709\u260E\u2709");
 }
 
 TEST(Unicode, OfASignWithoutANameThatIsDrawnAsABulletIsABullet) {
