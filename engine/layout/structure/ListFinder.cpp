@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace orvane::layout {
@@ -97,6 +98,30 @@ Groups takeOrphans(ListGroup& group) {
     return taken;
 }
 
+/// A numbering counts on where no item of a level above stands between. Runs that start anew there are taken out of the
+/// group with what is below them, each a group of its own.
+Groups takeRestarts(ListGroup& group) {
+    ListGroup kept;
+    Groups taken;
+    std::map<int, std::size_t> runs; // of the items since the last one of a level above
+    std::optional<int> takenLevel;
+    for (ListItem& item : group.items) {
+        runs.erase(runs.upper_bound(item.level), runs.end());
+        const auto [last, isFirst] = runs.try_emplace(item.level, item.run);
+        const bool isNumber = item.label.format != document::NumberFormat::Bullet;
+        if (!isFirst && last->second != item.run && isNumber) {
+            taken.emplace_back();
+            takenLevel = item.level;
+        } else if (takenLevel && item.level < *takenLevel) {
+            takenLevel.reset();
+        }
+        last->second = item.run;
+        (takenLevel ? taken.back() : kept).items.push_back(std::move(item));
+    }
+    group = std::move(kept);
+    return taken;
+}
+
 template<typename Admits>
 void dropDoubtfulRuns(ListGroup& group, const Admits& admits) {
     std::map<std::size_t, std::vector<const ListItem*>> runs;
@@ -110,12 +135,13 @@ void dropDoubtfulRuns(ListGroup& group, const Admits& admits) {
 
 template<typename Admits>
 void dropDoubtful(Groups& groups, const Admits& admits) {
-    Groups orphans;
+    Groups others;
     for (ListGroup& group : groups) {
         dropDoubtfulRuns(group, admits);
-        move(takeOrphans(group), orphans);
+        move(takeOrphans(group), others);
+        move(takeRestarts(group), others);
     }
-    move(std::move(orphans), groups);
+    move(std::move(others), groups);
 }
 
 } // namespace

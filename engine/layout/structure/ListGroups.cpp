@@ -72,8 +72,11 @@ bool ListGrouper::nest(DraftParagraph& paragraph, const ListLabel& label) {
     OpenGroup& open = m_open.back();
     // Back out of deeper levels until the one above the label.
     std::size_t depth = open.levels.size();
+    const double tolerance = m_parameters.lists.sameIndent;
     const auto isBelow = [&](const ListLabel& parent) {
-        return isChildOf(label, parent) || label.labelStart > parent.labelStart + m_parameters.lists.sameIndent;
+        // "1." begins behind "10." where both are set against their right edge.
+        const bool isInLine = isSameKind(parent, label) && std::abs(parent.textStart - label.textStart) <= tolerance;
+        return isChildOf(label, parent) || (label.labelStart > parent.labelStart + tolerance && !isInLine);
     };
     while (depth > 0 && !isBelow(open.levels[depth - 1].label))
         --depth;

@@ -77,7 +77,8 @@ NumberingLevel levelOf(const std::vector<const ListItem*>& items, double toleran
     NumberingLevel level;
     level.format = first.label.format;
     level.text = labelText(first);
-    level.start = std::max(1, first.label.number());
+    const bool mayBeZero = level.format == document::NumberFormat::Decimal; // no other signs count from there
+    level.start = std::max(mayBeZero ? 0 : 1, first.label.number());
     setIndents(level, items, tolerance);
     return level;
 }

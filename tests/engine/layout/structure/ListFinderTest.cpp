@@ -71,10 +71,30 @@ TEST(ListFinder, FindsLists) {
         {"numerals of Han", {{"\u4E00\u3001\tone"}, {"\u4E8C\u3001\ttwo"}}, "- -"},
         {"letters of another script", {{"\u05D0)\tone"}, {"\u05D1)\ttwo"}, {"\u05D2)\tthree"}}, "- - -"},
         {"digits of another script", {{"\u0661.\tone"}, {"\u0662.\ttwo"}}, "- -"},
+        {"a level below that starts anew after other text",
+         {{"1.\tone"}, {"a)\tin one", 120}, {"b)\tin one", 120}, {"more", 90}, {"a)\tin one", 120}, {"2.\ttwo"}},
+         "0.0 0.1 0.1 - 1.1 0.0"},
+        {"levels below one that is no list",
+         {{"1. one", 72}, {"a)\tin it", 120}, {"7. seven", 72}, {"a)\tin it", 120}, {"b)\tin it", 120}},
+         "- 0.1 - 1.1 1.1"},
+        {"a count from nought", {{"0.\tone"}, {"1.\ttwo"}}, "0.0 0.0"},
         {"numbers of two levels", {{"1.\tone"}, {"1.1.\tin one"}, {"1.2.\tin one"}, {"2.\ttwo"}}, "0.0 0.1 0.1 0.0"},
     };
     for (const auto& [why, rows, expected] : cases)
         EXPECT_EQ(placesOf(listsOf(rows)), expected) << why;
+}
+
+TEST(ListFinder, StartsAnewBehindLongerNumbersSetAgainstTheirRightEdge) {
+    const double digit = tests::makeLine("0", 90, 100).box.width();
+    const DocumentDraft draft =
+        listsOf({{"9.\tnine"}, {"10.\tten", 90 - digit}, {"more", 72}, {"1.\tone"}, {"2.\ttwo"}});
+    EXPECT_EQ(placesOf(draft), "0.0 0.0 - 1.0 1.0");
+}
+
+TEST(ListFinder, CountsFromTheFirstNumber) {
+    EXPECT_EQ(levelOf(listsOf({{"0.\tone"}, {"1.\ttwo"}}), 0, 0).start, 0);
+    EXPECT_EQ(levelOf(listsOf({{"4.\tone"}, {"5.\ttwo"}}), 0, 0).start, 4);
+    EXPECT_EQ(levelOf(listsOf({{"\u2022\tone"}, {"\u2022\ttwo"}}), 0, 0).start, 1);
 }
 
 TEST(ListFinder, KeepsTheGapBehindLabelsOfTextThatGoesOnAtTheEdge) {
