@@ -81,7 +81,7 @@ bool hasCounting(const EdgeRows& edge, const PageNumber& number) {
 /// What a row's numbers stand for. One that stays the same from page to page is the page's number only by chance, if
 /// another `isCounting` in the rows.
 std::vector<std::optional<document::FieldCode>>
-meaningsOf(const RunningRow& row, const std::optional<PageNumber>& number, int lastNumber, bool isCounting) {
+meaningsOf(const RunningRow& row, const std::optional<PageNumber>& number, int pageCount, bool isCounting) {
     std::vector<std::optional<document::FieldCode>> meanings(row.numbers.size());
     bool hasPage = false;
     for (std::size_t i = 0; number && i < row.numbers.size(); ++i) {
@@ -90,7 +90,7 @@ meaningsOf(const RunningRow& row, const std::optional<PageNumber>& number, int l
             !(isCounting && candidate.isRepeated)) {
             meanings[i] = document::FieldCode::Page;
             hasPage = true;
-        } else if (i > 0 && meanings[i - 1] == document::FieldCode::Page && candidate.value >= lastNumber &&
+        } else if (i > 0 && meanings[i - 1] == document::FieldCode::Page && candidate.value == pageCount &&
                    row.numbers[i - 1].line == candidate.line && candidate.word <= row.numbers[i - 1].word + 2) {
             // "3 / 12", "page 3 of 12"
             meanings[i] = document::FieldCode::PageCount;
@@ -162,12 +162,12 @@ void takeLoneNumbers(std::vector<EdgeRows>& edges, std::vector<std::optional<Pag
 }
 
 std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,
-                                        int lastNumber) {
+                                        int pageCount) {
     std::vector<RunningField> fields;
     const bool isCounting = number && hasCounting(rows, *number);
     for (std::size_t r = 0; r < rows.taken; ++r) {
         const RunningRow& row = rows.rows[r];
-        const auto meanings = meaningsOf(row, number, lastNumber, isCounting);
+        const auto meanings = meaningsOf(row, number, pageCount, isCounting);
         // From the last to the first, so that characters of one word are cut off from its end.
         for (std::size_t i = meanings.size(); i-- > 0;) {
             if (!meanings[i])

@@ -33,9 +33,10 @@ void leaveOtherNumbers(std::vector<EdgeRows>& edges, const std::vector<std::opti
 /// after it: the first page of a chapter often has no more. `numbers` get what is found.
 void takeLoneNumbers(std::vector<EdgeRows>& edges, std::vector<std::optional<PageNumber>>& numbers);
 
-/// Makes each page number, and each number of pages, in the rows taken a span of its own.
+/// Makes each page number, and each number of pages, in the rows taken a span of its own. Another number than that of
+/// the pages stays text behind the page number, as word processors would write theirs.
 /// Requires: `rows` are of that page, whose lines have not been moved since.
 std::vector<RunningField> cutOutNumbers(PageText& page, const EdgeRows& rows, const std::optional<PageNumber>& number,
-                                        int lastNumber);
+                                        int pageCount);
 
 } // namespace orvane::layout

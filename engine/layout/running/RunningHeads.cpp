@@ -192,13 +192,6 @@ bool wouldEatTheText(const std::vector<PageText>& pages, const std::vector<PageE
     return static_cast<double>(emptied) > limits.bodilessShare * static_cast<double>(written);
 }
 
-int greatest(const std::vector<std::optional<PageNumber>>& numbers) {
-    int last = 0;
-    for (const auto& number : numbers)
-        last = std::max(last, number ? number->value : 0);
-    return last;
-}
-
 void takeRepeated(std::vector<EdgeRows>& tops, std::vector<EdgeRows>& bottoms,
                   const std::vector<std::optional<PageNumber>>& numbers, const std::vector<PageText>& pages,
                   const RunningParameters::RunningHeads& limits) {
@@ -254,11 +247,12 @@ std::vector<PageRunningHeads> takeRunningHeads(std::vector<PageText>& pages, con
         return heads;
     const auto figures = findRepeatedFigures(pages, bodies, limits);
     const auto rules = findRepeatedRules(pages, bodies, limits);
+    const int pageCount = static_cast<int>(pages.size());
     for (std::size_t i = 0; i < pages.size(); ++i) {
         const PageEdges& edge = edges[i];
         // The rows name lines by their index, so the numbers are cut out before any line moves.
-        const auto topFields = cutOutNumbers(pages[i], edge.top, numbers[i], greatest(numbers));
-        const auto bottomFields = cutOutNumbers(pages[i], edge.bottom, numbers[i], greatest(numbers));
+        const auto topFields = cutOutNumbers(pages[i], edge.top, numbers[i], pageCount);
+        const auto bottomFields = cutOutNumbers(pages[i], edge.bottom, numbers[i], pageCount);
         std::vector<Line> words = takeRepeatedFigures(pages[i], figures[i], bodies[i], heads[i]);
         takeRules(pages[i], i, rules, limits, heads[i]);
         takeHeads(pages[i], edge, limits, heads[i]);

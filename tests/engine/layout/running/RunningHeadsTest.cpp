@@ -64,6 +64,18 @@ TEST(RunningHeads, LeavesANumberThatStaysTheSame) {
     EXPECT_EQ(heads[0].footer->fields[0].box, heads[0].footer->content.lines[1].words[1].spans[0].box);
 }
 
+TEST(RunningHeads, LeavesANumberBehindThePagesThatIsNotTheirs) {
+    const auto fieldsWith = [](const char* behind) {
+        auto pages = pagesWith(4, [&](PageText& page, int number) {
+            page.lines.push_back(makeLine(fmt::format("Page {} {}", number, behind), 280, 800));
+        });
+        return takeRunningHeads(pages, {})[1].footer->fields.size();
+    };
+    EXPECT_EQ(fieldsWith("of 4"), 2u);
+    EXPECT_EQ(fieldsWith("of 9"), 1u) << "some pages of another document";
+    EXPECT_EQ(fieldsWith("June 27"), 1u);
+}
+
 TEST(RunningHeads, CutsNumbersOutOfWords) {
     auto pages = pagesWith(
         3, [](PageText& page, int number) { page.lines.push_back(makeLine(fmt::format("-{}-", number), 290, 800)); });
