@@ -116,6 +116,9 @@ private:
     std::vector<ColumnGutter> m_closed;
 };
 
+/// Of the font size; pieces whose middles are nearer stand on one row.
+constexpr double kSameRow = 0.5;
+
 struct Side {
     int rows = 0;
     double top = 0;
@@ -126,7 +129,7 @@ struct Side {
     double lastBaseline = -1e9;
 
     void add(const Piece& piece, double outermost) {
-        const bool isNewRow = piece.box.centerY() > lastBaseline + 0.5 * piece.fontSize;
+        const bool isNewRow = piece.box.centerY() > lastBaseline + kSameRow * piece.fontSize;
         if (rows == 0) {
             top = piece.box.top;
             extent = outermost;
@@ -171,7 +174,7 @@ bool areLabels(std::span<const Piece> left, std::span<const Piece> right) {
 bool standsApart(std::span<const Piece> side, std::size_t i, const PageParameters::Regions& parameters) {
     const auto areApart = [&](std::size_t above, std::size_t below) {
         const double step = side[below].box.centerY() - side[above].box.centerY();
-        const bool isBeside = step < 0.5 * side[above].fontSize;
+        const bool isBeside = step < kSameRow * side[above].fontSize;
         return isBeside || step > parameters.nameStep * side[above].fontSize;
     };
     return (i == 0 || areApart(i - 1, i)) && (i + 1 == side.size() || areApart(i, i + 1));

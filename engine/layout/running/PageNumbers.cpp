@@ -40,10 +40,13 @@ PageCount countOf(const PageNumber& number, std::size_t page) {
     return {number.value - static_cast<int>(page), number.format};
 }
 
+bool isNumber(const RowNumber& candidate, const PageNumber& number) {
+    return candidate.value == number.value && candidate.format == number.format;
+}
+
 bool shows(const RunningRow& row, const PageNumber& number) {
-    return std::any_of(row.numbers.begin(), row.numbers.end(), [&](const RowNumber& candidate) {
-        return candidate.value == number.value && candidate.format == number.format;
-    });
+    return std::any_of(row.numbers.begin(), row.numbers.end(),
+                       [&](const RowNumber& candidate) { return isNumber(candidate, number); });
 }
 
 /// Whether nothing but a number makes the row agree with those of other pages.
@@ -71,7 +74,7 @@ std::size_t isolate(Word& word, std::size_t from, std::size_t length) {
 /// Whether some number in the rows is the page's, and another one on the pages nearby.
 bool hasCounting(const EdgeRows& edge, const PageNumber& number) {
     const auto counts = [&](const RowNumber& candidate) {
-        return candidate.value == number.value && candidate.format == number.format && !candidate.isRepeated;
+        return isNumber(candidate, number) && !candidate.isRepeated;
     };
     return std::any_of(
         edge.rows.begin(), edge.rows.begin() + static_cast<std::ptrdiff_t>(edge.taken),
@@ -86,8 +89,7 @@ meaningsOf(const RunningRow& row, const std::optional<PageNumber>& number, int p
     bool hasPage = false;
     for (std::size_t i = 0; number && i < row.numbers.size(); ++i) {
         const RowNumber& candidate = row.numbers[i];
-        if (!hasPage && candidate.value == number->value && candidate.format == number->format &&
-            !(isCounting && candidate.isRepeated)) {
+        if (!hasPage && isNumber(candidate, *number) && !(isCounting && candidate.isRepeated)) {
             meanings[i] = document::FieldCode::Page;
             hasPage = true;
         } else if (i > 0 && meanings[i - 1] == document::FieldCode::Page && candidate.value == pageCount &&
