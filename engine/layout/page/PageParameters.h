@@ -51,6 +51,11 @@ struct PageParameters {
         double widestMargin = 0.45;      ///< of the other column's width; names in the margin take up no more
         double nameStep = 1.4;           ///< of the font size; names that stand closer are lines of a text
         double nameShare = 0.6;          ///< of the margin's lines that must be such names
+        double clearGutter = 3.0;        ///< of the font size; between texts that do not fill their columns
+        double textStep = 2.0;           ///< of the font size; lines that stand farther apart are not of one text
+        double shortestText = 2.0;       ///< of the font size; what is narrower is a sign, not a line of text
+        double levelStep = 0.12;         ///< of the font size; baselines that differ by no more are level
+        double levelShare = 1.0 / 3;     ///< of the lines of columns that may be level with one of the other column
     } regions;
 
     /// ReadingOrder: where tables and figures come among the lines.

@@ -88,5 +88,45 @@ TEST(ColumnGutter, PartsListsThatHaveNoRowsInCommon) {
     EXPECT_FALSE(areColumns(listsWithBlanks(0))) << "the blank lines part rows of both";
 }
 
+/// A sender's line over the address of the recipient on the left, beside it the sender's address, `shift` points lower,
+/// and 36 points below them the invoice's number with its date.
+std::vector<Line> headOfInvoice(double shift) {
+    std::vector<Line> lines;
+    const double widths[] = {200, 40, 100, 30, 30, 40};
+    for (int row = 0; row < 6; ++row) {
+        lines.push_back(lineOf({wordAt(50, 50 + widths[row], 100 + 12 * row)}));
+        lines.push_back(lineOf({wordAt(400, 490, 100 + shift + 12 * row)}));
+    }
+    lines.push_back(lineOf({wordAt(50, 90, 196), wordAt(400, 490, 196)}));
+    return lines;
+}
+
+TEST(ColumnGutter, PartsAddressesOutOfStep) {
+    const auto gutter = findColumnGutter(headOfInvoice(5), {}, PageParameters::Regions{});
+    ASSERT_TRUE(gutter);
+    EXPECT_LT(gutter->bottom, 196) << "the row with the date leads across";
+    EXPECT_FALSE(areColumns(headOfInvoice(0))) << "names with their values";
+}
+
+TEST(ColumnGutter, LeavesNamesHalfWayUpTheirTexts) {
+    std::vector<Line> page;
+    for (int row = 0; row < 6; ++row) {
+        const double top = 100 + 30 * row;
+        page.push_back(lineOf({wordAt(300, row == 2 ? 500 : 340, top)}));
+        page.push_back(lineOf({wordAt(50, row == 2 ? 200 : 90, top + 6)}));
+        page.push_back(lineOf({wordAt(300, 340, top + 12)}));
+    }
+    EXPECT_FALSE(areColumns(page));
+}
+
+TEST(ColumnGutter, TakesTheSignsOfABraceForNoText) {
+    std::vector<Line> page;
+    for (int row = 0; row < 6; ++row) {
+        page.push_back(lineOf({wordAt(50, 58, 100 + 10 * row)}));
+        page.push_back(lineOf({wordAt(150, row == 2 ? 350 : 200, 105 + 10 * row)}));
+    }
+    EXPECT_FALSE(areColumns(page));
+}
+
 } // namespace
 } // namespace orvane::layout
