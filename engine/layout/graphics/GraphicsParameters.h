@@ -28,6 +28,8 @@ struct GraphicsParameters {
         double shortestDouble = 6;       ///< points
         std::size_t pairReach = 64;      ///< rules looked at for the second one of a pair
         double coverCell = 2;            ///< points; grain at which a white rectangle is told to lie on a ground
+        double outlineSlack = 1.0;       ///< points; an outline lies this near to the edges of its ground
+        double indexStep = 12;           ///< points; height of the slices in which rules are looked up
     } rules;
 
     /// PageColor.

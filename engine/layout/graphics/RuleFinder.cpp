@@ -1,6 +1,7 @@
 #include "layout/graphics/RuleFinder.h"
 
 #include "layout/graphics/GradientMaker.h"
+#include "layout/graphics/GroundOutlines.h"
 #include "layout/graphics/PathPieces.h"
 #include "layout/graphics/RuleMerger.h"
 #include "layout/support/CoverageGrid.h"
@@ -171,6 +172,7 @@ RuledPage findRules(const pdf::PageContent& page, const GraphicsParameters& para
     std::erase_if(result.rules, [](const Rule& rule) { return rule.color == kWhite; });
     mergeRules(result.rules, parameters);
     dropPaper(result.grounds, page, parameters.rules);
+    dropGroundOutlines(result.rules, result.grounds, parameters.rules);
     return result;
 }
 

@@ -6,6 +6,7 @@
 #include "layout/page/RegionFinder.h"
 #include "layout/page/WideObjects.h"
 #include "layout/paragraphs/ParagraphBuilder.h"
+#include "layout/structure/FloatOverlays.h"
 #include "layout/structure/ParagraphContinuation.h"
 #include "layout/tables/TableFinder.h"
 
@@ -139,7 +140,7 @@ private:
             const auto end = std::find_if(place, m_places.end(), [r](const ObjectPlace& p) { return p.region != r; });
             std::vector<Rect> obstacles;
             for (auto p = place; p != end; ++p)
-                if (!p->standsAlone)
+                if (!p->standsAlone && !isStoodOn(m_objects[p->object].box))
                     obstacles.push_back(m_objects[p->object].box);
             std::size_t line = 0;
             for (; place != end; ++place) {
@@ -151,6 +152,15 @@ private:
         }
         for (; place != m_places.end(); ++place)
             addPlaced(*place, 0, 0);
+    }
+
+    /// No text makes way for what other text stands on.
+    bool isStoodOn(const Rect& object) const {
+        return std::any_of(m_regions.regions.begin(), m_regions.regions.end(), [&](const Region& region) {
+            return region.box.intersects(object) &&
+                   std::any_of(region.lines.begin(), region.lines.end(),
+                               [&](const Line& line) { return standsOn(line.box, object, m_parameters.floats); });
+        });
     }
 
     void addPlaced(const ObjectPlace& place, int band, int column) {
@@ -188,6 +198,7 @@ private:
             if (!paragraph || paragraph->lines.front().angle != 0)
                 continue;
             if (last && (lastBlock->band != block.band || lastBlock->column != block.column) &&
+                mayMeet(*lastBlock, *last, block, *paragraph) &&
                 runsOn({*last, spanOf(*lastBlock)}, {*paragraph, spanOf(block)}, paragraphContext(), m_parameters)) {
                 last->endsParagraph = false;
                 paragraph->startsParagraph = false;
@@ -197,6 +208,17 @@ private:
         }
         if (last && lastBlock == &m_layout.blocks.back())
             last->endsParagraph = !mayRunOn({*last, spanOf(*lastBlock)}, paragraphContext(), m_parameters);
+    }
+
+    /// Between columns of another number than these, text goes on only where it is seen to, from line to line.
+    bool mayMeet(const PageBlock& block, const ParagraphDraft& paragraph, const PageBlock& next,
+                 const ParagraphDraft& nextParagraph) const {
+        const auto columnsOf = [&](const PageBlock& b) {
+            return m_layout.bands[static_cast<std::size_t>(b.band)].columns.size();
+        };
+        const double step = nextParagraph.lines.front().baseline - paragraph.lines.back().baseline;
+        return columnsOf(block) == columnsOf(next) ||
+               step <= m_parameters.regions.textStep * paragraph.lines.back().fontSize;
     }
 
     void leaveFreeRules() {

@@ -50,6 +50,7 @@ private:
         }
         if (band.columns.size() == 1)
             widenToTextArea(band.columns[0]);
+        widenIntoGutters(band.columns);
         for (std::size_t r = first; r < m_result.regions.size(); ++r) {
             Region& region = m_result.regions[r];
             if (region.span.left > region.span.right)
@@ -84,6 +85,17 @@ private:
         if (area.isEmpty())
             return;
         span = {std::min(span.left, area.left), std::max(span.right, area.right)};
+    }
+
+    /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended by
+    /// hand, and there was room up to the next column.
+    void widenIntoGutters(std::vector<ColumnSpan>& columns) const {
+        for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
+            ColumnSpan& column = columns[i];
+            const double end = columns[i + 1].left - m_parameters.wideGutter * m_context.bodyFontSize;
+            if (end - column.right > column.right - column.left)
+                column.right = end;
+        }
     }
 
     /// Single words, such as addresses, run as the document does whatever their letters.

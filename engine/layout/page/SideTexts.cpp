@@ -120,9 +120,10 @@ void leaveLevelBottom(ColumnGutter& gutter, Pieces left, Pieces right, const Pag
         const double blank = parameters.textStep * left.back().fontSize;
         left = withoutLastRow(left, parameters);
         right = withoutLastRow(right, parameters);
-        if (left.empty() || right.empty() || baseline - std::max(left.back().baseline, right.back().baseline) <= blank)
+        if (left.empty() || right.empty())
             return;
-        gutter.bottom = std::min(left.back().box.bottom, right.back().box.bottom);
+        if (baseline - std::max(left.back().baseline, right.back().baseline) > blank)
+            gutter.bottom = std::min(left.back().box.bottom, right.back().box.bottom);
     }
 }
 
@@ -132,10 +133,10 @@ void leaveLevelTop(ColumnGutter& gutter, Pieces left, Pieces right, const PagePa
         const double blank = parameters.textStep * left.front().fontSize;
         left = withoutFirstRow(left, parameters);
         right = withoutFirstRow(right, parameters);
-        if (left.empty() || right.empty() ||
-            std::min(left.front().baseline, right.front().baseline) - baseline <= blank)
+        if (left.empty() || right.empty())
             return;
-        gutter.top = std::max(left.front().box.top, right.front().box.top);
+        if (std::min(left.front().baseline, right.front().baseline) - baseline > blank)
+            gutter.top = std::max(left.front().box.top, right.front().box.top);
     }
 }
 

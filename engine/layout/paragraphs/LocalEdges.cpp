@@ -26,15 +26,17 @@ bool isSameBlock(std::span<const Line> lines, std::span<const LineMeasure> measu
 }
 
 /// Several lines end at the edge exactly, their blanks spread to reach it, or (without blanks) more than chance allows.
-bool isSpreadTo(double edge, std::span<const LineMeasure> block, double flush,
+/// A single wide blank may as well part a name from its value.
+bool isSpreadTo(double edge, std::span<const Line> lines, std::span<const LineMeasure> block, double flush,
                 const ParagraphParameters::Paragraphs& parameters) {
     int spread = 0;
     int flushLines = 0;
-    for (const LineMeasure& line : block) {
+    for (std::size_t i = 0; i < block.size(); ++i) {
+        const LineMeasure& line = block[i];
         if (line.endGap - edge > flush)
             continue;
         ++flushLines;
-        spread += line.meanGap > parameters.stretchedGap * line.blank ? 1 : 0;
+        spread += lines[i].words.size() > 2 && line.meanGap > parameters.stretchedGap * line.blank ? 1 : 0;
     }
     return spread >= parameters.flushLines || flushLines > parameters.flushLines + 1;
 }
@@ -122,7 +124,7 @@ void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measure
         const double size = lines[first].fontSize;
         const double edge = nearestEnd(block);
         const bool isOwnEdge = block.size() > 1 && edge > parameters.ownEdge * size &&
-                               (isSpreadTo(edge, block, parameters.flushTolerance * size, parameters) ||
+                               (isSpreadTo(edge, lines.subspan(first), block, parameters.flushTolerance * size, parameters) ||
                                 isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters));
         if (isOwnEdge)
             setEdge(block, edge);

@@ -46,20 +46,29 @@ bool isOnEarlierPage(const Item& a, const Item& b) {
     return a.page < b.page;
 }
 
+bool isLevelWith(const Rect& box, const Rect& figure, const StructureParameters::Floats& limits) {
+    const double height = overlap(box.top, box.bottom, figure.top, figure.bottom);
+    return height >= limits.sharedHeight * std::min(box.height(), figure.height());
+}
+
 /// Whether the item would have to make way for the figure, and could not stay where it is.
 bool wouldMove(const Item& item, const Rect& figure, const StructureParameters::Floats& limits) {
     const Rect& box = item.box;
-    const double height = overlap(box.top, box.bottom, figure.top, figure.bottom);
-    if (height < limits.sharedHeight * std::min(box.height(), figure.height()))
-        return false;
-    if (overlap(box.left, box.right, figure.left, figure.right) > limits.sharedWidth)
+    if (standsOn(box, figure, limits))
         return true;
+    if (!isLevelWith(box, figure, limits))
+        return false;
     const double room =
         box.left >= figure.centerX() ? item.column.right - figure.right : figure.left - item.column.left;
     return room < limits.leastRoomBeside;
 }
 
 } // namespace
+
+bool standsOn(const Rect& text, const Rect& figure, const StructureParameters::Floats& parameters) {
+    return isLevelWith(text, figure, parameters) &&
+           overlap(text.left, text.right, figure.left, figure.right) > parameters.sharedWidth;
+}
 
 void findOverlaidFigures(DocumentDraft& draft, std::size_t first, std::size_t last,
                          const StructureParameters::Floats& parameters) {

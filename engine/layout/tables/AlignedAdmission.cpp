@@ -55,7 +55,8 @@ public:
         if (m_evidence == AlignedEvidence::Alignment &&
             (holdsFullLines() || runsThrough(m_page, m_aligned, m_parameters)))
             return TableVerdict::Prose;
-        if (areListsSideBySide(m_columns, m_parameters))
+        if (areListsSideBySide(m_columns, m_parameters) ||
+            (m_evidence == AlignedEvidence::Alignment && areOutOfStep(m_aligned.rows, m_parameters)))
             return TableVerdict::SideBySide;
         if (isCode() && !(m_isNamed && m_columns.size() > 2))
             return TableVerdict::Code;

@@ -4,6 +4,7 @@
 #include "layout/tables/FieldTexts.h"
 #include "layout/tables/HeadSpans.h"
 #include "layout/tables/ProseMask.h"
+#include "layout/tables/RowStripes.h"
 #include "layout/tables/RuledAdmission.h"
 #include "layout/tables/SpacedRows.h"
 #include "layout/tables/TableCaption.h"
@@ -171,7 +172,7 @@ std::size_t startOfHead(const std::vector<PieceRow>& rows, std::size_t first, st
 }
 
 AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, std::size_t end,
-                        const std::vector<Line>& lines, const std::vector<BorderLine>& rules,
+                        const std::vector<Line>& lines, const std::vector<BorderLine>& rules, const RowStripes& stripes,
                         const LayoutParameters& parameters) {
     AlignedRows aligned;
     aligned.rows.assign(rows.begin() + static_cast<std::ptrdiff_t>(first),
@@ -183,10 +184,15 @@ AlignedRows alignRegion(const std::vector<PieceRow>& rows, std::size_t first, st
         return aligned;
     }
     aligned.groups = groupRows(aligned.rows, aligned.gaps, lines, rules, RowsPart::Any, parameters.tables);
-    // What follows the last full row and is no part of it is other text, unless it is one more field.
+    // What follows the last full row and is no part of it is other text, unless it is one more field, or a total on one
+    // more stripe.
+    const auto isTotal = [&](const TextPiece& piece) {
+        const ColumnRange range = columnsOf(piece, aligned.gaps);
+        return range.first > 0 && range.first == range.last && stripes.goOnTo(aligned.rows);
+    };
     const bool holdsFields = areFields(aligned.rows, aligned.gaps, lines, parameters.tables);
     while (!aligned.groups.empty() && aligned.groups.back().first + 1 == aligned.groups.back().end &&
-           aligned.rows.back().pieces.size() == 1 &&
+           aligned.rows.back().pieces.size() == 1 && !isTotal(aligned.rows.back().pieces.front()) &&
            !(holdsFields && isField(aligned.rows.back().pieces.front(), lines))) {
         aligned.groups.pop_back();
         aligned.rows.pop_back();
@@ -200,6 +206,7 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
     const PageRows texts = readRows(page, parameters.tables);
     const std::vector<PieceRow>& rows = texts.rows;
     const std::vector<BorderLine> rules = collectBorderLines(page.rules, parameters.tables);
+    const RowStripes stripes(page, parameters.tables);
     RegionGrower grower(rows, page.lines, parameters.tables);
     std::vector<TableGrid> grids;
     std::size_t used = 0;
@@ -209,7 +216,7 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
         ++first;
         if (end < first)
             continue;
-        const AlignedRows aligned = alignRegion(rows, start, end, page.lines, rules, parameters);
+        const AlignedRows aligned = alignRegion(rows, start, end, page.lines, rules, stripes, parameters);
         const TableVerdict verdict = judgeAlignedTable(page, aligned, AlignedEvidence::Alignment, parameters.tables);
         // A few entries of these alone need not look like it.
         if (verdict == TableVerdict::Index || verdict == TableVerdict::SideBySide)
@@ -218,6 +225,7 @@ std::vector<TableGrid> findBorderlessGrids(const PageText& page, const LayoutPar
             continue;
         TableGrid grid =
             spanHeads(gridOf(aligned, parameters.tables.textMargin), aligned, page.lines, rules, parameters.tables);
+        stripes.snap(grid, aligned);
         if (isDrawnOver(page, grid, parameters.tables) || takesProse(grid, texts.prose, parameters.tables))
             continue;
         grids.push_back(std::move(grid));

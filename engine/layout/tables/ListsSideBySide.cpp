@@ -30,4 +30,21 @@ bool areListsSideBySide(std::span<const ColumnPieces> columns, const TableParame
     return true;
 }
 
+bool areOutOfStep(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
+    int level = 0, all = 0;
+    for (const PieceRow& row : rows) {
+        const auto isComparable = [&](const TextPiece& piece) {
+            return std::abs(piece.fontSize - row.pieces.front().fontSize) <= parameters.sameTextSize * row.fontSize;
+        };
+        if (row.pieces.size() < 2 || !std::all_of(row.pieces.begin(), row.pieces.end(), isComparable))
+            continue;
+        ++all;
+        const auto [high, low] =
+            std::minmax_element(row.pieces.begin(), row.pieces.end(),
+                                [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
+        level += low->baseline - high->baseline <= parameters.levelTexts * row.fontSize;
+    }
+    return all >= parameters.fewestRowsInStep && level <= parameters.levelShare * all;
+}
+
 } // namespace orvane::layout

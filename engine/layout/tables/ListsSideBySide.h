@@ -10,4 +10,7 @@ namespace orvane::layout {
 /// run past the space between two texts of its neighbour, and the other way round.
 bool areListsSideBySide(std::span<const ColumnPieces> columns, const TableParameters::Tables& parameters);
 
+/// Whether texts of one size that came on one row seldom stand level: they are of texts side by side, not of a table.
+bool areOutOfStep(std::span<const PieceRow> rows, const TableParameters::Tables& parameters);
+
 } // namespace orvane::layout

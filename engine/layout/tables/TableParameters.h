@@ -79,11 +79,18 @@ struct TableParameters {
         double widestLineSpace = 0.5; ///< of the font size; ... the widest between lines, which is no larger
 
         // Cells that grounds show.
-        double filledSnap = 1.5;      ///< points; edges of grounds that differ by less meet
-        double groundRowBlank = 1.0;  ///< of the font size; texts of rows between grounds stand no farther apart
-        double groundNeighbour = 4.0; ///< of the font size; a text this near beside a row of grounds belongs to it
-        double filledRoom = 1.5;      ///< points; between where two filled cells meet and the words beside
-        double filledTextShare = 0.8; ///< of the texts that must stand in filled cells for these to show the table
+        double filledSnap = 1.5;       ///< points; edges of grounds that differ by less meet
+        double groundRowBlank = 1.0;   ///< of the font size; texts of rows between grounds stand no farther apart
+        double groundNeighbour = 4.0;  ///< of the font size; a text this near beside a row of grounds belongs to it
+        double filledRoom = 1.5;       ///< points; between where two filled cells meet and the words beside
+        std::size_t fewestStripes = 2; ///< grounds below each other with the same ends, each behind a row
+        double filledTextShare = 0.8;  ///< of the texts that must stand in filled cells for these to show the table
+
+        // Texts that came on one row though they are of texts side by side.
+        double sameTextSize = 0.1;   ///< of the row's font size; texts of other sizes need not stand level
+        double levelTexts = 0.25;    ///< of the font size; baselines that differ by no more are level
+        double levelShare = 1.0 / 3; ///< of the rows that stand level; with no more it is no table
+        int fewestRowsInStep = 2;    ///< with texts of one size, to tell
 
         // Rows and columns of a drawn grid between which no rule is drawn.
         int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them

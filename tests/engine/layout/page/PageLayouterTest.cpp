@@ -104,6 +104,29 @@ TEST(PageLayouter, CutsLinesThatLeadAcrossAGutter) {
     EXPECT_EQ(layout.bands[0].columns.size(), 2U) << "a gutter of two blanks, eight times";
 }
 
+TEST(PageLayouter, EndsLinesByHandInColumnsNarrowerThanTheirGutter) {
+    const auto addresses = [](const std::string& gutter) {
+        return describe(layoutArt({"Sender of Long Street" + gutter + "Phone 7079 4301 55",
+                                   "Recipient Customers  " + gutter + "Fax 7079 4302 1200",
+                                   "255 Customer Lane ...." + gutter.substr(1) + "web site.example.x"}));
+    };
+    EXPECT_EQ(addresses(std::string(40, ' ')).substr(0, 22), "Sender of Long Street/");
+    EXPECT_EQ(addresses(std::string(4, ' ')).substr(0, 22), "Sender of Long Street ") << "lines that fill their column";
+}
+
+TEST(PageLayouter, JoinsNoColumnsWithTextFarBelow) {
+    const auto endsInColumn = [](std::size_t blankLines) {
+        std::vector<std::string> art{"one two three fou   Nine ten eleven t", "five six seven ei   thirteen fourtee",
+                                     "nine ten eleven a   sixteen seventee"};
+        art.resize(art.size() + blankLines);
+        art.push_back("they all lead to this line below the two.");
+        const PageLayout layout = layoutArt(art);
+        return std::get<ParagraphDraft>(layout.blocks.at(1).value).endsParagraph;
+    };
+    EXPECT_FALSE(endsInColumn(0));
+    EXPECT_TRUE(endsInColumn(3));
+}
+
 TEST(PageLayouter, ReadsRightToLeftColumnsFromTheRight) {
     PageText page = makePage(1);
     page.lines = linesFromArt({"one two three fou   nine ten eleven t", "five six seven ei   thirteen fourtee",

@@ -48,7 +48,8 @@ double points(Emu length) {
 
 TEST(TruePageDocument, PutsTextIntoFramesWhereItStood) {
     PageText page = makePage(1);
-    page.lines = {makeLine("A heading", 100, 90, {20}), makeLine("some text", 72, 140), makeLine("more text", 72, 152)};
+    page.lines = {makeLine("A heading", 100, 90, {20}), makeLine("some lines of text", 72, 140),
+                  makeLine("more lines of text", 72, 152)};
     const Document document = documentOf({page});
     ASSERT_EQ(document.sections.size(), 1u);
     const auto frames = all<Frame>(document.sections[0].blocks);
