@@ -2,6 +2,7 @@
 
 #include "layout/structure/BlockExtent.h"
 #include "layout/structure/ColumnHeights.h"
+#include "layout/structure/ColumnSetup.h"
 #include "layout/structure/PageFloor.h"
 
 #include <algorithm>
@@ -61,6 +62,30 @@ bool isPictureBelowTable(const DraftBlock& a, const DraftBlock& b) {
     return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<FigureDraft>(b.value);
 }
 
+/// Whether all lines of the column that ends before block `next` were ended by hand: no text that flows from column to
+/// column, whatever their heights.
+bool isColumnEndedByHand(const DocumentDraft& draft, std::size_t next) {
+    const DraftBlock& last = draft.blocks[next - 1];
+    for (std::size_t i = next; i-- > 0;) {
+        const DraftBlock& block = draft.blocks[i];
+        if (block.page != last.page || block.band != last.band || block.column != last.column)
+            break;
+        const DraftParagraph* paragraph = block.paragraph();
+        if (paragraph && linesOf(*paragraph, paragraph->pieces.front()) == ColumnLines::Wrapped)
+            return false;
+    }
+    return true;
+}
+
+/// Whether block `next` begins a column by hand, though `room` points were left below the one before, or text below
+/// both would make them equally high.
+bool startsColumnByHand(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room,
+                        const StructureParameters::PageSetup& limits) {
+    const double height = draft.blocks[next].box.height();
+    const double evenness = (isColumnEndedByHand(draft, next) ? 0 : height) + limits.startRoom;
+    return room > height + limits.startRoom || areColumnsUneven(draft, end, next, evenness);
+}
+
 } // namespace
 
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
@@ -80,8 +105,7 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
                     wasStartedByHand(block, room, fills[block.page], range,
                                      hasFloats[block.page] ? PageMaking::Author : range.making, parameters);
             else if (end.band == block.band && end.column < block.column)
-                block.startsColumn = room > block.box.height() + parameters.startRoom ||
-                                     areColumnsUneven(draft, {end.page, end.band, end.bottom}, i, parameters.startRoom);
+                block.startsColumn = startsColumnByHand(draft, {end.page, end.band, end.bottom}, i, room, parameters);
         }
         before = &block;
     }

@@ -31,8 +31,7 @@ double bottomOfColumn(const DocumentDraft& draft, std::size_t first) {
 
 bool areColumnsUneven(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room) {
     const auto below = static_cast<std::size_t>(end.band) + 1;
-    return below < draft.pages[end.page].bands.size() &&
-           std::abs(end.bottom - bottomOfColumn(draft, next)) > draft.blocks[next].box.height() + room;
+    return below < draft.pages[end.page].bands.size() && std::abs(end.bottom - bottomOfColumn(draft, next)) > room;
 }
 
 } // namespace orvane::layout

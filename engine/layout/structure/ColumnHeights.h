@@ -12,8 +12,7 @@ struct ColumnEnd {
 };
 
 /// True when text stands below the columns and the one that ends at `end` is not as high as the next, which begins with
-/// block `next`: word processors would fill them to one height. Units: points; `room` is what heights may differ by
-/// beside a block.
+/// block `next`: word processors would fill them to one height. Units: points; `room` is what heights may differ by.
 bool areColumnsUneven(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room);
 
 } // namespace orvane::layout

@@ -37,6 +37,12 @@ std::vector<ColumnSpan> equalColumns(const std::vector<ColumnSpan>& seen, const 
 
 } // namespace
 
+ColumnLines linesOf(const DraftParagraph& paragraph, const DraftPiece& piece) {
+    const bool areEnded = paragraph.pieces.size() == 1 && piece.text.alignment == document::Alignment::Start &&
+                          piece.text.hardBreaks.size() + 1 >= piece.text.lines.size();
+    return areEnded ? ColumnLines::EndedByHand : ColumnLines::Wrapped;
+}
+
 std::vector<ColumnSpan> fitColumns(const std::vector<SeenColumn>& seen, const Rect& area,
                                    const StructureParameters::PageSetup& parameters) {
     if (seen.size() < 2)

@@ -13,6 +13,9 @@ enum class ColumnLines : std::uint8_t {
     EndedByHand, ///< all of them, at the start edge: nothing shows how wide the column is
 };
 
+/// How the lines of a paragraph's piece end.
+ColumnLines linesOf(const DraftParagraph& paragraph, const DraftPiece& piece);
+
 /// What was seen of a column.
 struct SeenColumn {
     ColumnSpan span;

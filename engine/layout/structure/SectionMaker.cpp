@@ -214,9 +214,7 @@ private:
             return;
         for (const DraftPiece& piece : paragraph->pieces) {
             const auto column = static_cast<std::size_t>(piece.columnIndex);
-            const bool areEnded = paragraph->pieces.size() == 1 && piece.text.alignment == document::Alignment::Start &&
-                                  piece.text.hardBreaks.size() + 1 >= piece.text.lines.size();
-            if (column < seen.size() && !areEnded)
+            if (column < seen.size() && linesOf(*paragraph, piece) == ColumnLines::Wrapped)
                 seen[column].lines = ColumnLines::Wrapped;
         }
     }

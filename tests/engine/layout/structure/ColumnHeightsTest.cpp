@@ -66,6 +66,17 @@ TEST(ColumnHeights, BreaksColumnsThatAreNotOfOneHeight) {
     EXPECT_TRUE(uneven.blocks[6].startsColumn);
 }
 
+TEST(ColumnHeights, KeepsColumnsOfLinesEndedByHandAsTheyAre) {
+    const std::vector<std::vector<double>> upper{{84, 96, 108, 120}, {84, 96, 108}};
+    DocumentDraft addresses = draftOfColumns(upper, {{240}, {240}});
+    sectionsOf(addresses);
+    EXPECT_TRUE(addresses.blocks[4].startsColumn) << "a line more on the left";
+    DocumentDraft text = draftOfColumns(upper, {{240}, {240}});
+    text.blocks[2].paragraph()->pieces[0].text.alignment = document::Alignment::Justified;
+    sectionsOf(text);
+    EXPECT_FALSE(text.blocks[4].startsColumn) << "text that flows may end a line later";
+}
+
 TEST(ColumnHeights, MakesContinuousSectionsOfColumns) {
     DocumentDraft draft = makeDraft(1);
     draft.pages[0].bands = {{72, 100, {tests::kColumn}, false},
