@@ -1,6 +1,7 @@
 #include "layout/running/RepeatedFigures.h"
 
 #include "layout/running/EdgeRows.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,6 +36,22 @@ bool looksAlike(const Figure& a, const Figure& b) {
                                     [](const auto& one, const auto& other) { return looksAlike(one, other); });
 }
 
+/// Its middle stands among the lines of the body.
+bool isAmong(const Rect& box, const BodyRange& body) {
+    return box.centerY() > body.top && box.centerY() < body.bottom;
+}
+
+/// Likewise what reaches farther into the page than running heads do.
+bool standsInText(const Rect& box, const BodyRange& body, double pageHeight, double reach) {
+    const double depth = std::min(box.bottom, pageHeight - box.top);
+    return isAmong(box, body) || depth > reach * pageHeight;
+}
+
+bool saysSame(const Figure& a, const Figure& b) {
+    return std::equal(a.labels.begin(), a.labels.end(), b.labels.begin(), b.labels.end(),
+                      [](const Line& one, const Line& other) { return textOf(one) == textOf(other); });
+}
+
 class FigureComparer {
 public:
     FigureComparer(const std::vector<PageText>& pages, const RunningParameters::RunningHeads& limits)
@@ -42,19 +59,16 @@ public:
         , m_limits(limits) {}
 
     bool isOnPage(std::size_t page, const Figure& figure) const {
-        const std::vector<Figure>& figures = m_pages[page].figures;
-        return std::any_of(figures.begin(), figures.end(), [&](const Figure& other) {
-            return isSamePlace(other.box, figure.box, m_limits.samePosition) && looksAlike(other, figure);
-        });
+        return hasAlike(page, figure, [](const Figure&) { return true; });
     }
     bool isOnPageNearby(std::size_t page, const Figure& figure) const {
-        for (std::ptrdiff_t by = -kRunningReach; by <= kRunningReach; ++by) {
-            const auto other = static_cast<std::ptrdiff_t>(page) + by;
-            if (by != 0 && other >= 0 && other < static_cast<std::ptrdiff_t>(m_pages.size()) &&
-                isOnPage(static_cast<std::size_t>(other), figure))
-                return true;
-        }
-        return false;
+        return isNearby(page, [&](std::size_t other) { return isOnPage(other, figure); });
+    }
+    /// A chart that is shown again; the words over a mark that repeats are those of each page.
+    bool isNearbyWithItsWords(std::size_t page, const Figure& figure) const {
+        return !figure.labels.empty() && isNearby(page, [&](std::size_t nearby) {
+            return hasAlike(nearby, figure, [&](const Figure& other) { return saysSame(other, figure); });
+        });
     }
     int pagesWith(const Figure& figure) const {
         int count = 0;
@@ -64,6 +78,25 @@ public:
     }
 
 private:
+    template<typename Predicate>
+    bool hasAlike(std::size_t page, const Figure& figure, const Predicate& also) const {
+        const std::vector<Figure>& figures = m_pages[page].figures;
+        return std::any_of(figures.begin(), figures.end(), [&](const Figure& other) {
+            return isSamePlace(other.box, figure.box, m_limits.samePosition) && looksAlike(other, figure) &&
+                   also(other);
+        });
+    }
+    template<typename Predicate>
+    bool isNearby(std::size_t page, const Predicate& holds) const {
+        for (std::ptrdiff_t by = -kRunningReach; by <= kRunningReach; ++by) {
+            const auto other = static_cast<std::ptrdiff_t>(page) + by;
+            if (by != 0 && other >= 0 && other < static_cast<std::ptrdiff_t>(m_pages.size()) &&
+                holds(static_cast<std::size_t>(other)))
+                return true;
+        }
+        return false;
+    }
+
     const std::vector<PageText>& m_pages;
     const RunningParameters::RunningHeads& m_limits;
 };
@@ -80,7 +113,9 @@ std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<Page
             const Figure& figure = pages[page].figures[i];
             if ((figure.picture.value == 0 && !figure.drawing) || !comparer.isOnPageNearby(page, figure))
                 continue;
-            const bool isInText = figure.box.centerY() > bodies[page].top && figure.box.centerY() < bodies[page].bottom;
+            const bool isInText = standsInText(figure.box, bodies[page], pages[page].height, parameters.reach);
+            if (isInText && comparer.isNearbyWithItsWords(page, figure))
+                continue;
             if (!isInText || comparer.pagesWith(figure) >= parameters.surePages)
                 repeated[page].push_back(i);
         }
@@ -98,7 +133,8 @@ std::vector<Line> takeRepeatedFigures(PageText& page, const std::vector<std::siz
             rest.push_back(std::move(figure));
             continue;
         }
-        if (figure.box.centerY() > body.top && figure.box.centerY() < body.bottom) {
+        if (isAmong(figure.box, body)) {
+            figure.isBackground = figure.isBackground || !figure.labels.empty();
             std::move(figure.labels.begin(), figure.labels.end(), std::back_inserter(words));
             figure.labels.clear();
             figure.alternateText.clear();

@@ -62,8 +62,29 @@ TEST(RepeatedFigures, LeavesTheWordsOverADrawingToTheirPage) {
     ASSERT_EQ(heads[1].header->content.figures.size(), 1u);
     EXPECT_TRUE(heads[1].header->content.figures[0].labels.empty());
     EXPECT_TRUE(heads[1].header->content.figures[0].alternateText.empty());
+    EXPECT_TRUE(heads[1].header->content.figures[0].isBackground) << "the words stand on it";
     ASSERT_EQ(pages[1].lines.size(), 31u);
     EXPECT_EQ(textOf(pages[1].lines[11]), "Words of page 2") << "among the lines around it";
+}
+
+TEST(RepeatedFigures, LeavesAChartThatIsShownAgain) {
+    for (const double top : {300.0, 40.0}) {
+        auto pages = pagesWith(3, [top](PageText& page, int) {
+            Figure chart;
+            chart.drawing.emplace();
+            chart.drawing->shapes.resize(2);
+            chart.box = {72, top, 500, top + 300};
+            chart.labels = {makeLine("Specificity", 72, top + 290)};
+            page.figures.push_back(chart);
+            page.lines.erase(page.lines.begin(), page.lines.begin() + 15);
+        });
+        const auto heads = takeRunningHeads(pages, {});
+        for (const std::size_t page : {0U, 1U, 2U}) {
+            EXPECT_FALSE(heads[page].header) << top;
+            ASSERT_EQ(pages[page].figures.size(), 1u) << top;
+            EXPECT_EQ(pages[page].figures[0].labels.size(), 1u) << "its words stay in it";
+        }
+    }
 }
 
 TEST(RepeatedFigures, LeavesDrawingsThatOnlyShareTheirPlace) {
