@@ -60,7 +60,9 @@ document::Block paragraphWith(document::Picture picture, const DraftBlock& place
     // A picture may reach into the margins.
     if (paragraph.properties.alignment == document::Alignment::Start) {
         paragraph.properties.indentStart = twipsFromPoints(place.box.left - column.left);
-        paragraph.properties.indentEnd = twipsFromPoints(std::min(0.0, column.right - place.box.right));
+        if (place.box.right > column.right)
+            paragraph.properties.indentEnd =
+                twipsFromPoints(column.right - place.box.right - context.parameters.pageSetup.roomSlack);
     }
     paragraph.markProperties.fontFamily = context.fonts.mainFamily(ScriptClass::Simple);
     paragraph.markProperties.size = kPictureMarkSize;

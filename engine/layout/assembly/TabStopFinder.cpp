@@ -46,7 +46,9 @@ TabStop startStop(const Segment& segment) {
 
 TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const AssemblyParameters::Tabs& limits) {
     const bool endsAtEdge = isLast && std::abs(segment.end - columnWidth) <= limits.edgeTolerance;
-    if (endsAtEdge || segment.leader != document::TabLeader::None)
+    // Running heads may be wider than the text: their page number ends at an edge of their own.
+    const bool endsBeyond = isLast && segment.end > columnWidth && 2 * segment.start > columnWidth;
+    if (endsAtEdge || endsBeyond || segment.leader != document::TabLeader::None)
         return {twipsFromPoints(endsAtEdge ? columnWidth : segment.end), TabAlignment::End, segment.leader};
     const double middle = (segment.start + segment.end) / 2;
     if (std::abs(middle - columnWidth / 2) <= limits.centerTolerance)

@@ -46,22 +46,43 @@ void joinRows(PageText& page, const RunningParameters::RunningHeads& limits) {
     page.lines = std::move(rows);
 }
 
-enum class Side { Header, Footer };
+/// A picture that reaches farther into the page than running heads do takes no room in them: a header as tall as the
+/// page would leave none for the text.
+void floatTallFigures(PageLayout& page, PageEdge side, double reach) {
+    for (PageBlock& block : page.blocks)
+        if (auto* draft = std::get_if<FigureDraft>(&block.value)) {
+            const Rect& box = draft->figure.box;
+            const double depth = side == PageEdge::Top ? box.bottom : page.height - box.top;
+            draft->isInline = draft->isInline && depth <= reach * page.height;
+        }
+}
+
+/// Blocks are set within the column of the section that shows them, wherever other sections have theirs.
+void setColumn(std::vector<DraftBlock>& blocks, const ColumnSpan& column) {
+    for (DraftBlock& block : blocks)
+        if (DraftParagraph* paragraph = block.paragraph())
+            for (DraftPiece& piece : paragraph->pieces)
+                piece.column = column;
+        else
+            block.textColumn = column;
+}
 
 /// How near the blocks come to the page's edge; infinite without blocks in the flow.
-double distanceFromEdge(const std::vector<DraftBlock>& blocks, const FontCatalog& fonts, Side side, double pageHeight) {
+double distanceFromEdge(const std::vector<DraftBlock>& blocks, const FontCatalog& fonts, PageEdge side,
+                        double pageHeight) {
     double distance = std::numeric_limits<double>::infinity();
     for (const DraftBlock& block : blocks) {
         if (isFloating(block))
             continue;
         const BlockExtent extent = extentOf(block, fonts);
-        distance = std::min(distance, side == Side::Header ? extent.top : pageHeight - extent.bottom);
+        distance = std::min(distance, side == PageEdge::Top ? extent.top : pageHeight - extent.bottom);
     }
     return distance;
 }
 
 /// Sets the distance to that of the text that comes nearest to the edge.
-void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog& fonts, Side side, double pageHeight) {
+void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog& fonts, PageEdge side,
+                 double pageHeight) {
     double distance = std::numeric_limits<double>::infinity();
     for (const auto* blocks : {&text.standard, &text.evenPages, &text.firstPage})
         if (*blocks)
@@ -72,28 +93,32 @@ void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog&
 
 } // namespace
 
-RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningHead>& head, char side) {
+RunningTextMaker::Blocks RunningTextMaker::blocksOf(const std::optional<RunningHead>& head, PageEdge side,
+                                                    const ColumnSpan& column) {
     if (!head)
         return std::nullopt;
     const std::string key =
-        fmt::format("{} {:.0f} {:.0f} {}{}", side, head->content.width, head->content.height, head->key, head->rules);
+        fmt::format("{} {:.0f} {:.0f} {:.0f} {:.0f} {}{}", static_cast<int>(side), head->content.width,
+                    head->content.height, column.left, column.right, head->key, head->rules);
     if (const auto made = m_made.find(key); made != m_made.end())
         return made->second;
     PageText content = head->content;
     joinRows(content, m_parameters.runningHeads);
     PageLayout page = layoutPage(std::move(content), m_context, m_parameters, m_diagnostics);
+    floatTallFigures(page, side, m_parameters.runningHeads.reach);
     findParagraphBorders(page, m_parameters.paragraphBorders);
     // A head is written once, however many pages show it.
     drawFreeRules(page, m_parameters.freeDrawings.shapesOfDocument, m_parameters);
     std::vector<DraftBlock> blocks = addPage(m_draft, std::move(page));
+    setColumn(blocks, column);
     m_draft.fields.back() = head->fields;
     m_made.emplace(key, blocks);
     return blocks;
 }
 
-void RunningTextMaker::make(DraftSection& section, const RunningScheme& scheme) {
-    const auto header = [&](std::size_t page) { return blocksOf(m_heads[page].header, 'h'); };
-    const auto footer = [&](std::size_t page) { return blocksOf(m_heads[page].footer, 'f'); };
+void RunningTextMaker::make(DraftSection& section, const RunningScheme& scheme, const ColumnSpan& column) {
+    const auto header = [&](std::size_t page) { return blocksOf(m_heads[page].header, PageEdge::Top, column); };
+    const auto footer = [&](std::size_t page) { return blocksOf(m_heads[page].footer, PageEdge::Bottom, column); };
     section.header.standard = header(scheme.standard);
     section.footer.standard = footer(scheme.standard);
     // Where one kind of page has its own heads, having none is a choice as well.
@@ -107,8 +132,8 @@ void RunningTextMaker::make(DraftSection& section, const RunningScheme& scheme) 
     }
     const FontCatalog fonts(m_draft, m_parameters);
     const double height = m_draft.pages[scheme.standard].height;
-    setDistance(section.setup.headerDistance, section.header, fonts, Side::Header, height);
-    setDistance(section.setup.footerDistance, section.footer, fonts, Side::Footer, height);
+    setDistance(section.setup.headerDistance, section.header, fonts, PageEdge::Top, height);
+    setDistance(section.setup.footerDistance, section.footer, fonts, PageEdge::Bottom, height);
 }
 
 } // namespace orvane::layout

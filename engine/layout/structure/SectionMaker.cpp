@@ -84,7 +84,7 @@ private:
         DraftSection section;
         section.setup = setupOf(scheme, area.box);
         section.countsOtherwise = (numberOf(scheme) + static_cast<int>(scheme.firstPage)) % 2 == 0;
-        m_runningText.make(section, scheme);
+        m_runningText.make(section, scheme, area.seen);
         section.tops = area.tops;
         floatHangingPictures(first, last, area.tops);
         findOverlaidFigures(m_draft, first, last, m_parameters.floats);

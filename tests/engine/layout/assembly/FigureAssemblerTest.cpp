@@ -119,7 +119,7 @@ TEST(FigureAssembler, LetsAPictureReachIntoTheMargins) {
     const document::Document document = tests::documentOf(draft);
     const document::ParagraphProperties& format = tests::paragraphAt(document, 0).properties;
     EXPECT_EQ(format.indentStart, twipsFromPoints(-50));
-    EXPECT_EQ(format.indentEnd, twipsFromPoints(-30));
+    EXPECT_EQ(format.indentEnd, twipsFromPoints(-30.5)) << "and has room to spare";
 }
 
 } // namespace

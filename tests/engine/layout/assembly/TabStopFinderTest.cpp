@@ -42,6 +42,15 @@ TEST(TabStopFinder, AlignsAtTheEndWhatEndsAtTheEdge) {
     EXPECT_EQ(stops[0].position, twipsFromPoints(523 - 72));
 }
 
+TEST(TabStopFinder, AlignsAtTheEndWhatEndsBeyondTheEdge) {
+    Line line = tests::makeLine("Left\tright side", 72, 100);
+    endAt(line, 1, 560);
+    const auto stops = stopsOf({line});
+    ASSERT_EQ(stops.size(), 1u);
+    EXPECT_EQ(stops[0].alignment, TabAlignment::End);
+    EXPECT_EQ(stops[0].position, twipsFromPoints(560 - 72));
+}
+
 TEST(TabStopFinder, StartsAtTheStopWhatFillsItsLineAndGoesOnInTheNext) {
     Line full =
         tests::makeLine("4.1\ttext that fills its line right up to the edge of the column and goes on", 72, 100);

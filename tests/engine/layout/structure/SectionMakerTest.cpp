@@ -179,6 +179,44 @@ RunningHead makeHead(int page, double baseline, const std::string& text) {
     return head;
 }
 
+TEST(SectionMaker, FloatsPicturesOfHeadsThatReachFarIntoThePage) {
+    DocumentDraft draft = makeDraft(1);
+    fillPage(draft, 0);
+    std::vector<PageRunningHeads> heads(1);
+    heads[0].header = RunningHead{tests::makePage(1), {}, "pictures", {}};
+    for (const Rect& box : {Rect{72, 30, 300, 80}, Rect{72, 200, 300, 700}}) {
+        Figure picture;
+        picture.picture = PictureId{static_cast<std::uint32_t>(heads[0].header->content.figures.size() + 1)};
+        picture.box = box;
+        heads[0].header->content.figures.push_back(picture);
+    }
+    sectionsOf(draft, heads);
+    const auto& header = draft.sections.at(0).header.standard.value();
+    ASSERT_EQ(header.size(), 2u);
+    for (const DraftBlock& block : header)
+        EXPECT_EQ(std::get<FigureDraft>(block.value).isInline, block.box.bottom < 100) << block.box.bottom;
+}
+
+TEST(SectionMaker, SetsHeadsInTheColumnOfEachSection) {
+    DocumentDraft draft = makeDraft(4);
+    std::vector<PageRunningHeads> heads(4);
+    for (std::size_t page = 0; page < 4; ++page) {
+        draft.pages[page].width = page < 2 ? 595 : 842;
+        for (double baseline = 84; baseline <= 760; baseline += 20)
+            addLine(draft, page, page < 2 ? 72 : 300, baseline);
+        heads[page].header = RunningHead{tests::makePage(1), {}, "head", {}};
+        heads[page].header->content.lines.push_back(makeLine("a head", 72, 40));
+    }
+    sectionsOf(draft, heads);
+    ASSERT_EQ(draft.sections.size(), 2u);
+    const auto startOf = [&](std::size_t section) {
+        const DraftParagraph& head = *draft.sections[section].header.standard.value().front().paragraph();
+        return head.firstLine().box.left - head.pieces.front().column.left;
+    };
+    EXPECT_NEAR(startOf(0), 0, 1);
+    EXPECT_NEAR(startOf(1), 72 - 300, 1) << "out in the margin";
+}
+
 TEST(SectionMaker, KeepsFootersOfOddAndEvenPagesAtTheirHeights) {
     constexpr int kPages = 6;
     DocumentDraft draft = makeDraft(kPages);
