@@ -48,6 +48,11 @@ BlankPages::BlankPages(const std::vector<AssembledBlock>& body, const AssemblyCo
         for (std::size_t page = block.draft->page; page <= last; ++page)
             m_isFilled[page] = true;
     }
+    // Where nothing but notes stands they flow there by themselves.
+    const std::vector<Rect>& notes = context.draft.noteAreas;
+    m_isFilled.resize(std::max(m_isFilled.size(), notes.size()));
+    for (std::size_t page = 0; page < notes.size(); ++page)
+        m_isFilled[page] = m_isFilled[page] || !notes[page].isEmpty();
 }
 
 void BlankPages::keep(std::vector<AssembledBlock>& section, document::SectionStart start, std::size_t nextPage) {

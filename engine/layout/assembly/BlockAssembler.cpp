@@ -108,6 +108,7 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
         if (!block.labels.empty())
             frameLabels(block, context);
     keepOnPages(blocks);
+    hangBelowSpace(blocks);
     hangBesidePictures(blocks);
     hangOnText(blocks, cell, context);
     std::vector<document::Block> finished;

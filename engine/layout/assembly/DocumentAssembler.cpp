@@ -40,12 +40,13 @@ public:
         std::vector<AssembledBlock> body = std::move(m_flows[m_next++].blocks);
         std::vector<document::Section> sections;
         BlankPages blankPages(body, m_context);
+        const auto pageCount = static_cast<std::size_t>(m_context.document.pageCount);
         for (std::size_t i = 0; i < m_draft.sections.size(); ++i) {
             const bool isLast = i + 1 == m_draft.sections.size();
             const std::size_t end = isLast ? body.size() : m_draft.sections[i + 1].firstBlock;
             document::Section section = m_draft.sections[i].setup;
             std::vector<AssembledBlock> blocks = take(body, m_draft.sections[i].firstBlock, end);
-            blankPages.keep(blocks, section.start, isLast ? 0 : pageOf(body, i + 1));
+            blankPages.keep(blocks, section.start, isLast ? pageCount : pageOf(body, i + 1));
             section.blocks = finishBlocks(std::move(blocks), m_context);
             section.header = takeHeader(m_draft.sections[i]);
             section.footer = takeFooter(m_draft.sections[i]);
@@ -74,6 +75,8 @@ private:
 
     /// The page on which a section starts; 0 where that is not known.
     std::size_t pageOf(const std::vector<AssembledBlock>& body, std::size_t section) const {
+        if (m_draft.sections[section].setup.start != document::SectionStart::Continuous)
+            return m_draft.sections[section].tops.firstPage;
         const std::size_t first = m_draft.sections[section].firstBlock;
         return first < body.size() && body[first].draft ? body[first].draft->page : 0;
     }

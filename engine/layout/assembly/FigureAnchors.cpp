@@ -112,6 +112,17 @@ void keepOnPages(std::vector<AssembledBlock>& blocks) {
     }
 }
 
+void hangBelowSpace(std::vector<AssembledBlock>& blocks) {
+    for (AssembledBlock& block : blocks) {
+        if (!isPictureParagraph(block))
+            continue;
+        const Emu space = emuFromPoints(block.top - topOf(block));
+        for (document::Block& floating : block.floats)
+            if (document::Placement* placement = placementOf(floating))
+                placement->y = placement->y + space;
+    }
+}
+
 void hangBesidePictures(std::vector<AssembledBlock>& blocks) {
     for (std::size_t i = 0; i + 1 < blocks.size(); ++i) {
         AssembledBlock &first = blocks[i], &second = blocks[i + 1];

@@ -37,12 +37,21 @@ public:
             const std::size_t first = block;
             while (block < m_draft.blocks.size() && m_draft.blocks[block].page <= scheme.lastPage)
                 ++block;
-            if (block > first || m_draft.sections.empty())
+            if (block > first || m_draft.sections.empty() || isBlank(scheme))
                 addSections(scheme, bottoms[i], first, block);
         }
     }
 
 private:
+    /// Nothing flows on its pages, which keep their size nevertheless. What goes on there from the page before does so
+    /// by itself, and so do notes.
+    bool isBlank(const RunningScheme& scheme) const {
+        for (std::size_t page = scheme.firstPage; page <= scheme.lastPage; ++page)
+            if (!m_fills[page].isEmpty || (page < m_draft.noteAreas.size() && !m_draft.noteAreas[page].isEmpty()))
+                return false;
+        return true;
+    }
+
     std::vector<SectionChance> chances() const {
         std::vector<SectionChance> chances(m_heads.size(), SectionChance::None);
         for (std::size_t i = 1; i < m_heads.size(); ++i) {

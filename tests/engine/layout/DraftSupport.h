@@ -103,12 +103,12 @@ inline std::string textOfParagraph(const DocumentDraft& draft, std::size_t index
 }
 
 /// The whole document of a draft.
-inline document::Document documentOf(DocumentDraft draft) {
+inline document::Document documentOf(DocumentDraft draft, const DocumentContext& context = {}) {
     Diagnostics diagnostics;
     // A section that starts no page leaves the space above its first paragraph alone.
     if (draft.sections.empty())
         draft.sections.emplace_back().setup.start = document::SectionStart::Continuous;
-    return assembleDocument(std::move(draft), {}, {}, {}, {}, diagnostics);
+    return assembleDocument(std::move(draft), context, {}, {}, {}, diagnostics);
 }
 
 /// A draft of one page whose paragraphs hold one line each, at these baselines.

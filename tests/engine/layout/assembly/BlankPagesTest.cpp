@@ -59,10 +59,35 @@ TEST(BlankPages, GivesThePageBeforeASectionToTheOneThatEnds) {
     draft.blocks = {textOn(0), textOn(2)};
     draft.sections.resize(2);
     draft.sections[1].firstBlock = 1;
+    draft.sections[1].tops.firstPage = 2;
     const document::Document document = documentOf(draft);
     EXPECT_EQ(kindsOf(document.sections[0]), (Kinds{"text", "empty!", "empty"}))
         << "the last paragraph of a section may be left out";
     EXPECT_EQ(kindsOf(document.sections[1]), (Kinds{"text"})) << "the section starts the page";
+}
+
+TEST(BlankPages, KeepsThePageOfASectionWithoutBlocks) {
+    DocumentDraft draft = makeDraft(3);
+    draft.blocks = {textOn(0), textOn(2)};
+    draft.sections.resize(3);
+    for (const std::size_t section : {1U, 2U}) {
+        draft.sections[section].firstBlock = 1;
+        draft.sections[section].tops.firstPage = section;
+    }
+    const document::Document document = documentOf(draft);
+    EXPECT_EQ(kindsOf(document.sections[0]), (Kinds{"text"}));
+    EXPECT_EQ(kindsOf(document.sections[1]), (Kinds{"empty", "empty"})) << "the section starts the page";
+    EXPECT_EQ(kindsOf(document.sections[2]), (Kinds{"text"}));
+}
+
+TEST(BlankPages, KeepsTheLastPage) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks = {textOn(0)};
+    DocumentContext context;
+    context.pageCount = 2;
+    EXPECT_EQ(kindsOf(documentOf(draft, context).sections[0]), (Kinds{"text", "empty!", "empty"}));
+    draft.noteAreas = {{}, {72, 72, 523, 200}};
+    EXPECT_EQ(kindsOf(documentOf(draft, context).sections[0]), (Kinds{"text"})) << "notes stand there";
 }
 
 TEST(BlankPages, AddsNothingWhereAParagraphGoesOn) {

@@ -51,6 +51,23 @@ TEST(FigureAnchors, HangABoxOnTheParagraphThatItStandsAround) {
     EXPECT_NEAR(points(placement.y), above, 8) << "the space before a paragraph is part of it";
 }
 
+TEST(FigureAnchors, PutADrawingBelowTheSpaceAboveIt) {
+    DocumentDraft draft = makeDraft(2);
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Above", 72, 88)})));
+    draft.blocks.push_back(makeBox({72, 300, 280, 400}));
+    draft.blocks.back().page = 1;
+    draft.blocks.back().startsPage = true;
+    auto& drawing = std::get<FigureDraft>(draft.blocks.back().value);
+    drawing.figure.isBackground = false;
+    drawing.isInline = true;
+    const document::Document document = tests::documentOf(draft);
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    ASSERT_EQ(blocks.size(), 3u);
+    const auto& paragraph = std::get<document::Paragraph>(blocks[2].value);
+    ASSERT_GT(paragraph.properties.spaceBefore.value, 0);
+    EXPECT_NEAR(points(placementIn(blocks, 1).y), pointsFromTwips(paragraph.properties.spaceBefore), 0.1);
+}
+
 TEST(FigureAnchors, LetAPictureGoWithTheOneThatItStandsBeside) {
     DocumentDraft draft = makeDraft(1);
     draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Above", 72, 88)})));

@@ -29,6 +29,25 @@ TEST(SectionMaker, StartsASectionWhereThePaperTurns) {
     EXPECT_EQ(draft.sections[2].firstBlock, 2u);
 }
 
+TEST(SectionMaker, GivesABlankPageOfItsOwnSizeASection) {
+    DocumentDraft draft = makeDraft(3);
+    addLine(draft, 0, 72, 84);
+    draft.pages[1].width = 842;
+    addLine(draft, 2, 72, 84);
+    DocumentDraft running = draft;
+    sectionsOf(draft);
+    ASSERT_EQ(draft.sections.size(), 3u);
+    EXPECT_EQ(draft.sections[1].setup.pageWidth, twipsFromPoints(842));
+    EXPECT_EQ(draft.sections[1].tops.firstPage, 1u);
+    EXPECT_EQ(draft.sections[2].firstBlock, 1u);
+
+    DraftParagraph& text = *running.blocks[0].paragraph();
+    text.pieces.push_back(text.pieces[0]);
+    text.pieces[1].page = 1;
+    sectionsOf(running);
+    EXPECT_EQ(running.sections.size(), 2u) << "what goes on there is no start of a section";
+}
+
 TEST(SectionMaker, MakesHeadsThatShowTheSameOnce) {
     const char* kKeys[] = {"same", "same", "other", "other", "same", "same"};
     DocumentDraft draft = makeDraft(6);
