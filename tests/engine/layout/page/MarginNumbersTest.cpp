@@ -80,6 +80,35 @@ TEST(MarginNumbers, MayBeginALineOfText) {
     EXPECT_EQ(pages[0].lines[3].box.left, pages[0].lines[3].words[0].box.left);
 }
 
+/// A page of two columns with numbers in both margins, those across from `across` on; some without text beside them.
+PageText facingPage(int number, int first, int across) {
+    PageText page = makePage(number);
+    for (int i = 0; i < 12; ++i) {
+        const double y = 100 + 14 * i;
+        page.lines.push_back(makeLine(fmt::format("{}", first + i), 50, y));
+        page.lines.push_back(makeLine(fmt::format("{}", across + i), 560, y));
+        if (i % 3 == 0)
+            continue;
+        page.lines.push_back(makeLine(kShort, 90, y));
+        page.lines.push_back(makeLine(kShort, 330, y));
+    }
+    return page;
+}
+
+TEST(MarginNumbers, MayStandInBothMargins) {
+    std::vector<PageText> pages{facingPage(1, 5, 17), facingPage(2, 29, 41)};
+    const auto numbers = takeLineNumbers(pages, {});
+    ASSERT_TRUE(numbers);
+    EXPECT_EQ(numbers->every, 1);
+    EXPECT_EQ(numbers->start, 5);
+    EXPECT_EQ(numbers->count, CountStart::Continuous);
+    for (const PageText& page : pages)
+        EXPECT_EQ(page.lines.size(), 16u);
+
+    std::vector<PageText> others{facingPage(1, 5, 60)};
+    EXPECT_FALSE(takeLineNumbers(others, {})) << "what stands across counts something else";
+}
+
 TEST(MarginNumbers, AreThoseOfAListWhereNoTextGoesOn) {
     std::vector<PageText> pages{numberedPage(1, {.text = kShort}), numberedPage(2, {.first = 13, .text = kShort})};
     EXPECT_FALSE(takeLineNumbers(pages, {}));
