@@ -44,10 +44,11 @@ TabStop startStop(const Segment& segment) {
     return {twipsFromPoints(segment.start), TabAlignment::Start, segment.leader};
 }
 
-TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, const AssemblyParameters::Tabs& limits) {
+TabStop stopOf(const Segment& segment, double columnWidth, bool isLast, bool isOnlyLine,
+               const AssemblyParameters::Tabs& limits) {
     const bool endsAtEdge = isLast && std::abs(segment.end - columnWidth) <= limits.edgeTolerance;
-    // Running heads may be wider than the text: their page number ends at an edge of their own.
-    const bool endsBeyond = isLast && segment.end > columnWidth && 2 * segment.start > columnWidth;
+    // A running head may be wider than the text: its page number ends at an edge of its own.
+    const bool endsBeyond = isLast && isOnlyLine && segment.end > columnWidth && 2 * segment.start > columnWidth;
     if (endsAtEdge || endsBeyond || segment.leader != document::TabLeader::None)
         return {twipsFromPoints(endsAtEdge ? columnWidth : segment.end), TabAlignment::End, segment.leader};
     const double middle = (segment.start + segment.end) / 2;
@@ -62,6 +63,7 @@ std::vector<TabStop> findTabStops(const DraftParagraph& paragraph, const LayoutP
     const AssemblyParameters::Tabs& limits = parameters.tabs;
     std::vector<TabStop> stops;
     std::size_t skipped = paragraph.labelWords;
+    const bool isOnlyLine = paragraph.pieces.size() == 1 && paragraph.pieces.front().text.lines.size() == 1;
     for (const DraftPiece& piece : paragraph.pieces) {
         const double columnWidth = piece.column.right - piece.column.left;
         for (std::size_t l = 0; l < piece.text.lines.size(); ++l) {
@@ -80,7 +82,8 @@ std::vector<TabStop> findTabStops(const DraftParagraph& paragraph, const LayoutP
                 // Text that fills most of its line ends at the edge because it goes on, not because it was set there.
                 const bool isFull = isLast && segments[i].leader == document::TabLeader::None &&
                                     2 * segments[i].start < columnWidth && goesOnBelow(paragraph, piece, l);
-                stops.push_back(isFull ? startStop(segments[i]) : stopOf(segments[i], columnWidth, isLast, limits));
+                stops.push_back(isFull ? startStop(segments[i])
+                                       : stopOf(segments[i], columnWidth, isLast, isOnlyLine, limits));
             }
         }
     }

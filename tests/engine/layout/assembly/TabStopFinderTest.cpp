@@ -49,6 +49,7 @@ TEST(TabStopFinder, AlignsAtTheEndWhatEndsBeyondTheEdge) {
     ASSERT_EQ(stops.size(), 1u);
     EXPECT_EQ(stops[0].alignment, TabAlignment::End);
     EXPECT_EQ(stops[0].position, twipsFromPoints(560 - 72));
+    EXPECT_EQ(stopsOf({line, line}).at(0).alignment, TabAlignment::Start) << "columns of text set with tabulators";
 }
 
 TEST(TabStopFinder, StartsAtTheStopWhatFillsItsLineAndGoesOnInTheNext) {
