@@ -18,8 +18,8 @@ struct CellOrigin {
 /// page of the paragraph behind it.
 void keepOnPages(std::vector<AssembledBlock>& blocks);
 
-/// Moves what hangs on the empty paragraph of a drawing, the drawing itself first, below the space above that. Requires:
-/// the space between the blocks is known.
+/// Moves what hangs on the empty paragraph of a drawing, the drawing itself first, below the space above that.
+/// Requires: the space between the blocks is known.
 void hangBelowSpace(std::vector<AssembledBlock>& blocks);
 
 /// Hangs pictures that float beside one in a paragraph of its own on that paragraph: they go where it goes. Requires:

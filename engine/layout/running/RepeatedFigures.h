@@ -16,8 +16,8 @@ struct BodyRange {
 };
 
 /// Indices of the pictures of each page that stand in the same place on a page nearby: logos, watermarks, decorations.
-/// Within the text (`bodies`, one for each page) more pages must agree, and not in the words over it too: a chart that is
-/// shown again is none.
+/// Within the text (`bodies`, one for each page) more pages must agree, and not in the words over it too: a chart that
+/// is shown again is none.
 std::vector<std::vector<std::size_t>> findRepeatedFigures(const std::vector<PageText>& pages,
                                                           const std::vector<BodyRange>& bodies,
                                                           const RunningParameters::RunningHeads& parameters);
