@@ -129,6 +129,14 @@ struct TextExtent {
     double fontSize = 0; ///< 0 without text
 };
 
+/// The room above and below a text.
+struct Margins {
+    double above = 0;
+    double below = 0;
+
+    bool areEqual(double tolerance) const { return std::abs(above - below) <= tolerance; }
+};
+
 TextExtent extentOf(CellDraft& cell) {
     TextExtent extent;
     forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
@@ -183,18 +191,22 @@ void alignUpright(TableDraft& table, const TableParameters::Tables& parameters) 
         const TextExtent& text = texts[i];
         if (text.fontSize == 0)
             continue;
-        // The tallest text of a row shows where the room in its cells begins and ends.
+        // The tallest text of a row shows where the room in its cells begins, and where it ends unless blank lines
+        // follow.
         const TextExtent* other = cell.rowSpan == 1 ? tallest[static_cast<std::size_t>(cell.row)] : nullptr;
         const double least = parameters.uprightRoom * text.fontSize;
         const bool isShorter = other && other->upright.width() - text.upright.width() >= least;
-        const double above = text.upright.low - (isShorter ? other->upright.low : cell.box.top);
-        const double below = (isShorter ? other->upright.high : cell.box.bottom) - text.upright.high;
+        const Margins inCell{text.upright.low - cell.box.top, cell.box.bottom - text.upright.high};
+        const Margins inRow =
+            isShorter ? Margins{text.upright.low - other->upright.low, other->upright.high - text.upright.high}
+                      : inCell;
         // Without room to move the text shows nothing.
-        if (above + below < least)
+        if (inRow.above + inRow.below < least)
             continue;
-        if (std::abs(above - below) <= parameters.uprightTolerance * text.fontSize)
+        const double tolerance = parameters.uprightTolerance * text.fontSize;
+        if (inRow.areEqual(tolerance) || (inRow.above > tolerance && inCell.areEqual(tolerance)))
             cell.alignment = CellAlignment::Center;
-        else if (below < above)
+        else if (inRow.below < inRow.above)
             cell.alignment = CellAlignment::Bottom;
     }
 }
