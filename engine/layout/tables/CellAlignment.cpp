@@ -1,5 +1,7 @@
 #include "layout/tables/CellAlignment.h"
 
+#include "layout/paragraphs/ListMarker.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -92,6 +94,18 @@ Edges edgesOf(CellDraft& cell, ColumnSpan room) {
     return edges;
 }
 
+/// Two items or more that hang at indents of their own.
+bool isList(CellDraft& cell, const ParagraphParameters::Markers& markers) {
+    int items = 0;
+    bool isOnlyItems = true;
+    forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
+        const auto marker = findListMarker(paragraph.lines.front(), markers);
+        isOnlyItems = isOnlyItems && marker && marker->isSeparated;
+        ++items;
+    });
+    return isOnlyItems && items > 1;
+}
+
 double fontSizeOf(const TableDraft& table) {
     for (const CellDraft& cell : table.cells)
         for (const PageBlock& block : cell.blocks)
@@ -161,7 +175,8 @@ std::vector<const TextExtent*> tallestOfRows(const TableDraft& table, const std:
 
 } // namespace
 
-void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParameters::Tables& parameters) {
+void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParameters::Tables& parameters,
+                 const ParagraphParameters::Markers& markers) {
     const double tolerance = parameters.edgeTolerance * fontSizeOf(table);
     std::vector<Edges> columns(table.columnEdges.size());
     const auto isOfColumn = [&](const CellDraft& cell) { return cell.columnSpan == 1 && cell.row >= table.headerRows; };
@@ -174,7 +189,9 @@ void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParamet
         if (own.lines == 0)
             continue;
         std::optional<Alignment> ofColumn;
-        if (isOfColumn(cell))
+        if (isList(cell, markers))
+            ofColumn = Alignment::Start;
+        else if (isOfColumn(cell))
             ofColumn = keptEdge(columns[static_cast<std::size_t>(cell.column)], tolerance);
         const Alignment alignment = chooseAlignment(own, ofColumn, tolerance, cell.columnSpan, parameters);
         forParagraphs(cell, [&](ParagraphDraft& paragraph) { setAlignment(paragraph, alignment, cell.box); });

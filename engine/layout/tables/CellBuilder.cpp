@@ -125,7 +125,7 @@ TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& tex
     drawBorders(table, page.rules, lines, limits);
     shadeCells(table, page.grounds, limits);
     table.headerRows = countHeaderRows(table, limits);
-    alignAcross(table, rooms, limits);
+    alignAcross(table, rooms, limits, parameters.markers);
     alignUpright(table, limits);
     takeFigures(table, page.figures);
     for (TableDraft& inner : nested) {
