@@ -173,6 +173,32 @@ std::vector<const TextExtent*> tallestOfRows(const TableDraft& table, const std:
     return tallest;
 }
 
+/// What a text shows about its cell, given the tallest text of its row (or null); nothing without room to move.
+std::optional<CellAlignment> shownUpright(const CellDraft& cell, const TextExtent& text, const TextExtent* tallest,
+                                          const TableParameters::Tables& parameters) {
+    const double least = parameters.uprightRoom * text.fontSize;
+    const bool isShorter = tallest && tallest->upright.width() - text.upright.width() >= least;
+    const Margins inCell{text.upright.low - cell.box.top, cell.box.bottom - text.upright.high};
+    // The tallest text of a row shows where the room in its cells begins, and where it ends unless blank lines follow.
+    const Margins inRow =
+        isShorter ? Margins{text.upright.low - tallest->upright.low, tallest->upright.high - text.upright.high}
+                  : inCell;
+    if (text.fontSize == 0 || inRow.above + inRow.below < least)
+        return std::nullopt;
+    const double tolerance = parameters.uprightTolerance * text.fontSize;
+    if (inRow.areEqual(tolerance) || (inRow.above > tolerance && inCell.areEqual(tolerance)))
+        return CellAlignment::Center;
+    return inRow.below < inRow.above ? CellAlignment::Bottom : CellAlignment::Top;
+}
+
+/// Where the texts of a column stand that have room to show it.
+struct ColumnTexts {
+    int centered = 0;
+    int others = 0;
+
+    bool areCentered() const { return centered > 1 && others == 0; }
+};
+
 } // namespace
 
 void alignAcross(TableDraft& table, const ColumnRooms& rooms, const TableParameters::Tables& parameters,
@@ -203,28 +229,28 @@ void alignUpright(TableDraft& table, const TableParameters::Tables& parameters) 
     for (CellDraft& cell : table.cells)
         texts.push_back(extentOf(cell));
     const std::vector<const TextExtent*> tallest = tallestOfRows(table, texts);
+    // The first row may be a head though it does not look like one.
+    const auto isOfColumn = [&](const CellDraft& cell) {
+        return table.isRuled && cell.columnSpan == 1 && cell.row >= std::max(table.headerRows, 1);
+    };
+    std::vector<std::optional<CellAlignment>> shown;
+    std::vector<ColumnTexts> columns(table.columnEdges.size());
+    for (std::size_t i = 0; i < table.cells.size(); ++i) {
+        const CellDraft& cell = table.cells[i];
+        const TextExtent* other = cell.rowSpan == 1 ? tallest[static_cast<std::size_t>(cell.row)] : nullptr;
+        shown.push_back(shownUpright(cell, texts[i], other, parameters));
+        if (shown[i] && isOfColumn(cell)) {
+            ColumnTexts& column = columns[static_cast<std::size_t>(cell.column)];
+            ++(*shown[i] == CellAlignment::Center ? column.centered : column.others);
+        }
+    }
     for (std::size_t i = 0; i < table.cells.size(); ++i) {
         CellDraft& cell = table.cells[i];
-        const TextExtent& text = texts[i];
-        if (text.fontSize == 0)
-            continue;
-        // The tallest text of a row shows where the room in its cells begins, and where it ends unless blank lines
-        // follow.
-        const TextExtent* other = cell.rowSpan == 1 ? tallest[static_cast<std::size_t>(cell.row)] : nullptr;
-        const double least = parameters.uprightRoom * text.fontSize;
-        const bool isShorter = other && other->upright.width() - text.upright.width() >= least;
-        const Margins inCell{text.upright.low - cell.box.top, cell.box.bottom - text.upright.high};
-        const Margins inRow =
-            isShorter ? Margins{text.upright.low - other->upright.low, other->upright.high - text.upright.high}
-                      : inCell;
-        // Without room to move the text shows nothing.
-        if (inRow.above + inRow.below < least)
-            continue;
-        const double tolerance = parameters.uprightTolerance * text.fontSize;
-        if (inRow.areEqual(tolerance) || (inRow.above > tolerance && inCell.areEqual(tolerance)))
-            cell.alignment = CellAlignment::Center;
-        else if (inRow.below < inRow.above)
-            cell.alignment = CellAlignment::Bottom;
+        // The texts of a column stand alike, and those without room are no exception.
+        if (!shown[i] && texts[i].fontSize > 0 && isOfColumn(cell) &&
+            columns[static_cast<std::size_t>(cell.column)].areCentered())
+            shown[i] = CellAlignment::Center;
+        cell.alignment = shown[i].value_or(CellAlignment::Top);
     }
 }
 
