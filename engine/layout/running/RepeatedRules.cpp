@@ -1,5 +1,7 @@
 #include "layout/running/RepeatedRules.h"
 
+#include "layout/running/PageFrame.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -55,6 +57,8 @@ private:
         if (rules.size() > m_limits.mostEdgeRules)
             return {}; // a drawing
         std::erase_if(rules, [&](const EdgeRule& candidate) { return isOfTable(page, *candidate.rule); });
+        for (const Rule* side : findPageFrame(page, body, m_limits))
+            rules.push_back({PageEdge::Top, side});
         return rules;
     }
 
@@ -89,6 +93,8 @@ private:
     }
 
     bool hasTextBeyond(std::size_t page, const EdgeRule& candidate) const {
+        if (candidate.rule->direction == RuleDirection::Vertical)
+            return false;
         const BodyRange& body = m_bodies[page];
         const double position = candidate.rule->position;
         return body.top < body.bottom &&

@@ -9,8 +9,8 @@
 
 namespace orvane::layout {
 
-/// A level rule that most pages have in one place beyond all text: the border of a header or footer, which may have no
-/// text of its own.
+/// A rule that most pages have in one place beyond all text: the border of a header or footer, which may have no text of
+/// its own, or a side of a frame around the page, which is drawn with the header.
 struct RepeatedRule {
     PageEdge edge = PageEdge::Top;
     Rule rule;               ///< as on the first page that has it

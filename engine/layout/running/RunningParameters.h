@@ -44,6 +44,9 @@ struct RunningParameters {
         // RepeatedRules
         double ruleShare = 0.4; ///< of the pages; so many have the border of a header or footer, some only on odd ones
         std::size_t mostEdgeRules = 6; ///< of one page beyond its text; more are a drawing
+        // PageFrame
+        double frameShare = 0.6;  ///< of the page's width and height that a frame around its text has at least
+        double frameCorner = 3.0; ///< points; the sides of a frame end this near to each other
     } runningHeads;
 };
 

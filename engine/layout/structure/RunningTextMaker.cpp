@@ -16,14 +16,16 @@
 namespace orvane::layout {
 namespace {
 
-bool hasColumnRules(const PageText& page) {
-    return std::any_of(page.rules.begin(), page.rules.end(),
-                       [](const Rule& rule) { return rule.direction == RuleDirection::Vertical; });
+/// The sides of a frame around the whole page part no columns.
+bool hasColumnRules(const PageText& page, const RunningParameters::RunningHeads& limits) {
+    return std::any_of(page.rules.begin(), page.rules.end(), [&](const Rule& rule) {
+        return rule.direction == RuleDirection::Vertical && rule.to - rule.from < limits.frameShare * page.height;
+    });
 }
 
 /// Makes one line of what stands on one baseline: in a running head gaps are tabulators, not columns.
 void joinRows(PageText& page, const RunningParameters::RunningHeads& limits) {
-    if (hasColumnRules(page))
+    if (hasColumnRules(page, limits))
         return; // a table, whose cells part the lines
     std::stable_sort(page.lines.begin(), page.lines.end(),
                      [](const Line& a, const Line& b) { return a.baseline < b.baseline; });

@@ -69,5 +69,43 @@ TEST(RepeatedRules, LeavesRulesThatFewPagesHaveOrThatAreOfTheText) {
     }
 }
 
+/// Four rules around the text of pagesWith().
+void addFrame(PageText& page) {
+    for (const double y : {30.0, 810.0}) {
+        page.rules.push_back(ruleAt(y));
+        page.rules.back().from = 30;
+        page.rules.back().to = 565;
+    }
+    for (const double x : {30.0, 565.0}) {
+        Rule side = ruleAt(x);
+        side.direction = RuleDirection::Vertical;
+        side.from = 30;
+        side.to = 810;
+        page.rules.push_back(side);
+    }
+}
+
+TEST(RepeatedRules, DrawFramesAroundThePagesWithTheHeader) {
+    auto pages = pagesWith(5, [](PageText& page, int) { addFrame(page); });
+    const auto heads = takeRunningHeads(pages, {});
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        EXPECT_TRUE(pages[i].rules.empty());
+        ASSERT_TRUE(heads[i].header);
+        EXPECT_EQ(heads[i].header->content.rules.size(), 4u);
+    }
+}
+
+TEST(RepeatedRules, LeaveTheOutlineOfATableThatFillsThePages) {
+    auto pages = pagesWith(5, [](PageText& page, int) {
+        addFrame(page);
+        page.rules.push_back(ruleAt(205));
+        page.rules.back().from = 30;
+        page.rules.back().to = 565;
+    });
+    for (const PageRunningHeads& heads : takeRunningHeads(pages, {}))
+        EXPECT_FALSE(heads.header || heads.footer);
+    EXPECT_EQ(pages[0].rules.size(), 5u);
+}
+
 } // namespace
 } // namespace orvane::layout
