@@ -106,19 +106,29 @@ void setMeasures(Font& font, const Descriptor& descriptor) {
         font.descent = descent;
 }
 
-/// The flag for a fixed pitch is set wrongly at times; the letters' widths tell.
-bool hasSeveralWidths(const GfxFont& font) {
+bool isDigit(const Gfx8BitFont& font, int code) {
+    static constexpr std::array<std::string_view, 10> kNames = {"zero", "one", "two",   "three", "four",
+                                                                "five", "six", "seven", "eight", "nine"};
+    const char* name = font.getCharName(code);
+    return name ? std::find(kNames.begin(), kNames.end(), name) != kNames.end() : code >= '0' && code <= '9';
+}
+
+/// Whether the characters are of one width. The flag for a fixed pitch is set wrongly at times, and digits alone are of
+/// one width in most faces.
+bool hasOneWidth(const GfxFont& font) {
     if (font.isCIDFont())
-        return false;
+        return true;
     const auto& simple = static_cast<const Gfx8BitFont&>(font);
     double first = 0;
+    bool hasOthers = false;
     for (int code = '!'; code < 0x7F; ++code) {
         const double width = simple.getWidth(static_cast<unsigned char>(code));
         if (width > 0 && first > 0 && std::abs(width - first) > 0.01)
-            return true;
+            return false;
         first = first > 0 ? first : width;
+        hasOthers = hasOthers || (width > 0 && !isDigit(simple, code));
     }
-    return false;
+    return hasOthers;
 }
 
 bool isSansSerifName(const std::string& name) {
@@ -138,7 +148,7 @@ void setStyle(Font& font, const GfxFont& source, const Descriptor& descriptor) {
         font.weight = 700;
     font.isBold = font.weight >= 600;
     font.isItalic = byName.isItalic || source.isItalic() || std::abs(descriptor.italicAngle) >= 4;
-    font.isFixedPitch = byName.isFixedPitch || (source.isFixedWidth() && !hasSeveralWidths(source));
+    font.isFixedPitch = byName.isFixedPitch || (source.isFixedWidth() && hasOneWidth(source));
     font.isSerif = descriptor.isThere ? source.isSerif() : !isSansSerifName(font.name);
     font.isSymbolic = source.isSymbolic();
 }

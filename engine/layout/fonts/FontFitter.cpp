@@ -38,7 +38,16 @@ struct FaceText {
 struct FontUse {
     MappedFont mapped;
     std::map<FontFace, FaceText> faces;
-    std::map<FontFace, int> percents; ///< once fitted: the stretch of each face
+    std::map<FontFace, int> percents;       ///< once fitted: the stretch of each face
+    std::map<FontClass, std::size_t> kinds; ///< characters in faces that are taken for such fonts
+
+    /// A face of a few digits may be taken for another kind than its family is.
+    void settleKind() {
+        const auto most = std::max_element(kinds.begin(), kinds.end(),
+                                           [](const auto& a, const auto& b) { return a.second < b.second; });
+        if (most != kinds.end())
+            mapped.kind = most->first;
+    }
 
     std::vector<std::string_view> candidates() const {
         if (mapped.isFamilyKnown)
@@ -188,11 +197,13 @@ private:
         if (m_tracking == Tracking::Kept && !sample.text.empty())
             sample.width -= look.characterSpacing * static_cast<double>(sample.text.size() - 1) / look.size;
         text.characters += sample.text.size();
+        m_useOf[page][look.font]->kinds[m_fonts[page][look.font].kind] += sample.text.size();
         if (sample.width > 0)
             text.samples.push_back(std::move(sample));
     }
 
     void fit(FontUse& use) const {
+        use.settleKind();
         std::optional<Fit> best;
         std::string_view family;
         for (const std::string_view candidate : use.candidates()) {

@@ -55,6 +55,13 @@ std::vector<MappedFont> fitted(std::vector<Line> lines, const std::vector<FontNa
     return fonts[0];
 }
 
+TEST(FontFitter, TakesTheKindOfMostOfAFamilysText) {
+    const Line digits = lineLike("Arial", 1, {10, true, false, 1}, "2007 2008 2009");
+    const auto fonts = fitted({lineLike("Cambria", 1), digits}, {{"CharterBT-Roman", true}, {"CharterBT-Bold"}});
+    EXPECT_EQ(fonts[0].family, "Cambria") << "though a face of digits shows no serifs";
+    EXPECT_EQ(fonts[1].family, "Cambria");
+}
+
 TEST(FontFitter, ChoosesTheFamilyOfTheLeastErrorInWidths) {
     const MappedFont like = fitted({lineLike("Calibri", 1)}, {{"Lato-Regular"}})[0];
     EXPECT_EQ(like.family, "Calibri");
