@@ -1,6 +1,7 @@
 #include "layout/assembly/BlockAssembler.h"
 
 #include "layout/assembly/DropCapAssembler.h"
+#include "layout/assembly/EmptyParagraph.h"
 #include "layout/assembly/FigureAssembler.h"
 #include "layout/assembly/FrameAssembler.h"
 #include "layout/assembly/LabelFrames.h"
@@ -51,8 +52,16 @@ AssembledBlock assembleParagraph(const DraftBlock& draft, const DraftParagraph& 
     return assembled;
 }
 
-/// Lets the block start its page or column. Of a table that is what its first paragraph does.
-void setBreaks(const DraftBlock& draft, AssembledBlock& assembled) {
+/// A paragraph as low as it may be, whose end is in the next column.
+document::Paragraph columnBreak(const AssemblyContext& context) {
+    document::Paragraph paragraph = emptyParagraph(context);
+    paragraph.properties.lineSpacing = {document::LineSpacingRule::Exact, 1.0, twipsFromPoints(1)};
+    paragraph.inlines.push_back({document::Break{document::BreakKind::Column}});
+    return paragraph;
+}
+
+/// Lets the block start its page or column. Of a table that is what its first paragraph does, or one before it.
+void setBreaks(const DraftBlock& draft, AssembledBlock& assembled, const AssemblyContext& context) {
     if (document::Paragraph* paragraph = assembled.paragraph()) {
         paragraph->properties.pageBreakBefore = draft.startsPage;
         if (draft.startsColumn)
@@ -60,6 +69,8 @@ void setBreaks(const DraftBlock& draft, AssembledBlock& assembled) {
     } else if (draft.startsPage) {
         if (document::Paragraph* first = firstParagraphOf(assembled))
             first->properties.pageBreakBefore = true;
+    } else if (draft.startsColumn) {
+        assembled.floats.insert(assembled.floats.begin(), {columnBreak(context)});
     }
 }
 
@@ -78,7 +89,7 @@ AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& con
         assembled.bottom = extent.bottom;
         assembled.lastPage = extent.lastPage;
     }
-    setBreaks(draft, assembled);
+    setBreaks(draft, assembled, context);
     assembled.draft = &draft;
     return assembled;
 }

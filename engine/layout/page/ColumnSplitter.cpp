@@ -3,6 +3,7 @@
 #include "layout/page/ColumnGutter.h"
 #include "layout/page/GutterReach.h"
 #include "layout/page/RowJoiner.h"
+#include "layout/page/TextBesideTable.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -86,14 +87,24 @@ double blankAt(std::span<const Line> lines, double y) {
 
 class ColumnSplitter {
 public:
-    ColumnSplitter(std::span<const Rect> walls, const LayoutParameters& parameters)
+    ColumnSplitter(const PageWalls& walls, const LayoutParameters& parameters)
         : m_walls(walls)
         , m_parameters(parameters) {}
 
+    PagePart splitPage(std::vector<Line> lines) const {
+        PagePart page = split(lines);
+        // Within columns a table beside text stands in the column next to it.
+        if (page.kind == Kind::Lines)
+            if (const auto beside = findTextBesideTable(lines, m_walls.tables, m_parameters.regions))
+                return splitBeside(*beside, std::move(lines));
+        return page;
+    }
+
+private:
     PagePart split(std::vector<Line> lines, int depth = 0) const {
         std::optional<ColumnGutter> gutter;
         if (depth < m_parameters.regions.maximumDepth)
-            gutter = findColumnGutter(lines, m_walls, m_parameters.regions);
+            gutter = findColumnGutter(lines, m_walls.all, m_parameters.regions);
         if (!gutter)
             return leaf(std::move(lines));
         extendOverNeighbours(*gutter, lines, m_parameters.regions);
@@ -109,7 +120,7 @@ public:
         }
         if (pieces.above.empty() && pieces.below.empty() && !heads)
             return columns;
-        PagePart slices{Kind::Slices, {}, {}};
+        PagePart slices{Kind::Slices, {}, {}, {}};
         if (!pieces.above.empty())
             addPart(slices, split(std::move(pieces.above), depth + 1));
         if (heads)
@@ -120,13 +131,33 @@ public:
         return slices;
     }
 
-private:
+    /// Text and table as columns, with what stands above and below them.
+    PagePart splitBeside(const TextBesideTable& beside, std::vector<Line> lines) const {
+        std::vector<Line> above, text, below;
+        for (Line& line : lines)
+            (line.box.centerY() < beside.top      ? above
+             : line.box.centerY() > beside.bottom ? below
+                                                  : text)
+                .push_back(std::move(line));
+        PagePart columns{Kind::Columns, {}, {}, {}};
+        columns.parts.push_back(leaf(std::move(text)));
+        columns.parts.insert(beside.isTextLeft ? columns.parts.end() : columns.parts.begin(),
+                             PagePart{Kind::Lines, {}, {}, beside.table});
+        PagePart slices{Kind::Slices, {}, {}, {}};
+        if (!above.empty())
+            addPart(slices, splitPage(std::move(above)));
+        addPart(slices, std::move(columns));
+        if (!below.empty())
+            addPart(slices, splitPage(std::move(below)));
+        return slices;
+    }
+
     struct Pieces {
         std::vector<Line> above, left, right, below;
     };
 
     PagePart splitSides(const Pieces& pieces, int depth) const {
-        PagePart columns{Kind::Columns, {}, {}};
+        PagePart columns{Kind::Columns, {}, {}, {}};
         addPart(columns, split(pieces.left, depth + 1));
         addPart(columns, split(pieces.right, depth + 1));
         return columns;
@@ -169,7 +200,7 @@ private:
     }
 
     PagePart leaf(std::vector<Line> lines) const {
-        return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}};
+        return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}, {}};
     }
 
     static Pieces sortLines(const std::vector<Line>& lines, const ColumnGutter& gutter) {
@@ -190,14 +221,14 @@ private:
         return pieces;
     }
 
-    std::span<const Rect> m_walls;
+    const PageWalls& m_walls;
     const LayoutParameters& m_parameters;
 };
 
 } // namespace
 
-PagePart splitIntoColumns(std::vector<Line> lines, std::span<const Rect> walls, const LayoutParameters& parameters) {
-    return ColumnSplitter(walls, parameters).split(std::move(lines));
+PagePart splitIntoColumns(std::vector<Line> lines, const PageWalls& walls, const LayoutParameters& parameters) {
+    return ColumnSplitter(walls, parameters).splitPage(std::move(lines));
 }
 
 } // namespace orvane::layout

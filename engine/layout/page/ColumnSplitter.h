@@ -13,11 +13,18 @@ struct PagePart {
     enum class Kind : std::uint8_t { Lines, Columns, Slices } kind = Kind::Lines;
     std::vector<Line> lines;     ///< top to bottom
     std::vector<PagePart> parts; ///< left to right, or top to bottom
+    Rect object;                 ///< the table that stands in place of lines
+};
+
+/// What no gutter crosses.
+struct PageWalls {
+    std::span<const Rect> all;    ///< tables and pictures
+    std::span<const Rect> tables; ///< of these
 };
 
 /// Parts lines at the strongest gutter, and what comes out again, until there are no columns left. Lines that lead
-/// across a gutter are cut there; lines side by side that no gutter parts are joined with a tabulator. Requires:
-/// `lines` upright, from top to bottom.
-PagePart splitIntoColumns(std::vector<Line> lines, std::span<const Rect> walls, const LayoutParameters& parameters);
+/// across a gutter are cut there; lines side by side that no gutter parts are joined with a tabulator. A table with
+/// text beside it is a column, too. Requires: `lines` upright, from top to bottom.
+PagePart splitIntoColumns(std::vector<Line> lines, const PageWalls& walls, const LayoutParameters& parameters);
 
 } // namespace orvane::layout

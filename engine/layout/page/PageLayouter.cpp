@@ -47,6 +47,7 @@ private:
             m_walls.push_back(box);
             addObject(box, 0, std::move(table));
         }
+        m_tableCount = m_walls.size();
     }
 
     void takePageFacts() {
@@ -123,7 +124,8 @@ private:
     }
 
     void findColumns() {
-        m_regions = findRegions(std::move(m_page.lines), m_walls, m_context, m_parameters);
+        m_regions = findRegions(std::move(m_page.lines), {m_walls, std::span(m_walls).first(m_tableCount)}, m_context,
+                                m_parameters);
         if (m_regions.bands.empty()) {
             const Rect& area = m_context.textArea;
             m_regions.bands.push_back({area.top, area.bottom, {{area.left, area.right}}, false});
@@ -242,7 +244,8 @@ private:
     const LayoutParameters& m_parameters;
     PageLayout m_layout;
     std::vector<Figure> m_overlaid; ///< in front of the text
-    std::vector<Rect> m_walls;
+    std::vector<Rect> m_walls;      ///< tables, then figures
+    std::size_t m_tableCount = 0;   ///< of the walls
     std::vector<PageObject> m_objects;
     std::vector<PageBlock> m_objectBlocks; ///< one for each of m_objects
     PageRegions m_regions;

@@ -46,6 +46,7 @@ struct PageParameters {
         double edgeReach = 1.0;          ///< of the font size; lines that end this near to each other end at one edge
         double sameMiddle = 0.25;        ///< of the font size; centred lines stand about one middle as exactly as this
         int rowsOfHead = 2;              ///< a name and where he or she works; one line is a heading of the column
+        std::size_t fewestBeside = 2;    ///< lines beside a table that are a text of its own
         int maximumDepth = 8;            ///< how often parts are parted again
         std::size_t maximumStrips = 200; ///< empty strips followed at once
         double widestMargin = 0.45;      ///< of the other column's width; names in the margin take up no more

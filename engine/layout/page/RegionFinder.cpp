@@ -1,7 +1,6 @@
 #include "layout/page/RegionFinder.h"
 
 #include "layout/page/ColumnEdges.h"
-#include "layout/page/ColumnSplitter.h"
 
 #include <algorithm>
 
@@ -46,7 +45,9 @@ private:
                 band.top = std::min(band.top, region.box.top);
                 band.bottom = std::max(band.bottom, region.box.bottom);
             }
-            band.columns.push_back(findColumnEdges(lines, m_parameters));
+            const Rect& table = m_result.regions[firstOfColumn].box;
+            band.columns.push_back(lines.empty() ? ColumnSpan{table.left, table.right}
+                                                 : findColumnEdges(lines, m_parameters));
         }
         if (band.columns.size() == 1)
             widenToTextArea(band.columns[0]);
@@ -73,6 +74,7 @@ private:
         region.band = static_cast<int>(m_result.bands.size());
         region.column = column;
         region.span = {1e9, -1e9};
+        region.box = part.object;
         for (const Line& line : part.lines)
             region.box = region.box.united(line.box);
         region.lines = std::move(part.lines);
@@ -87,8 +89,8 @@ private:
         span = {std::min(span.left, area.left), std::max(span.right, area.right)};
     }
 
-    /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended by
-    /// hand, and there was room up to the next column.
+    /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended
+    /// by hand, and there was room up to the next column.
     void widenIntoGutters(std::vector<ColumnSpan>& columns) const {
         for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
             ColumnSpan& column = columns[i];
@@ -119,7 +121,7 @@ private:
 
 } // namespace
 
-PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, const DocumentContext& context,
+PageRegions findRegions(std::vector<Line> lines, const PageWalls& walls, const DocumentContext& context,
                         const LayoutParameters& parameters) {
     if (lines.empty())
         return {};

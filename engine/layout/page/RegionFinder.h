@@ -2,6 +2,7 @@
 
 #include "layout/DocumentContext.h"
 #include "layout/LayoutParameters.h"
+#include "layout/page/ColumnSplitter.h"
 #include "layout/page/PageLayout.h"
 
 #include <span>
@@ -14,7 +15,7 @@ struct Region {
     int band = 0;
     int column = 0;
     ColumnSpan span;         ///< the text's edges
-    Rect box;                ///< around its lines
+    Rect box;                ///< around its lines, or its table
     std::vector<Line> lines; ///< top to bottom
 };
 
@@ -23,9 +24,9 @@ struct PageRegions {
     std::vector<Region> regions; ///< in reading order
 };
 
-/// Parts upright lines into bands of columns. Lines that lead across a gutter are cut there. `walls` are tables and
-/// pictures, which no gutter crosses.
-PageRegions findRegions(std::vector<Line> lines, std::span<const Rect> walls, const DocumentContext& context,
+/// Parts upright lines into bands of columns. Lines that lead across a gutter are cut there. A table with text
+/// beside it has a region without lines.
+PageRegions findRegions(std::vector<Line> lines, const PageWalls& walls, const DocumentContext& context,
                         const LayoutParameters& parameters);
 
 } // namespace orvane::layout

@@ -83,7 +83,8 @@ bool startsColumnByHand(const DocumentDraft& draft, const ColumnEnd& end, std::s
                         const StructureParameters::PageSetup& limits) {
     const double height = draft.blocks[next].box.height();
     const double evenness = (isColumnEndedByHand(draft, next) ? 0 : height) + limits.startRoom;
-    return room > height + limits.startRoom || areColumnsUneven(draft, end, next, evenness);
+    return std::holds_alternative<DraftTable>(draft.blocks[next].value) || room > height + limits.startRoom ||
+           areColumnsUneven(draft, end, next, evenness);
 }
 
 } // namespace
