@@ -43,9 +43,15 @@ LooseSides looseSidesOf(const DraftParagraph& paragraph) {
     }
 }
 
-/// The margins of one cell: a line that ends where the margin begins may find no room in another program, so it gets a
-/// hair more.
-SideMargins marginsOf(const DraftCell& draft, double margin, double slack) {
+/// The room that a paragraph is to have beyond its lines: a hair, and more where it is one line that a stand-in for its
+/// font must not break.
+double slackOf(const DraftBlock& block, const DraftParagraph& paragraph, const AssemblyParameters::TableCells& limits) {
+    const bool isOneLine = paragraph.pieces.size() == 1 && paragraph.pieces.front().text.lines.size() == 1;
+    return isOneLine ? std::max(limits.slackBeside, limits.slackOfLine * block.box.width()) : limits.slackBeside;
+}
+
+/// The margins of one cell: a line that ends where the margin begins may find no room in another program.
+SideMargins marginsOf(const DraftCell& draft, double margin, const AssemblyParameters::TableCells& limits) {
     SideMargins margins{margin, margin};
     LooseSides loose{true, true};
     for (const DraftBlock& block : draft.blocks) {
@@ -54,6 +60,7 @@ SideMargins marginsOf(const DraftCell& draft, double margin, double slack) {
             continue;
         const LooseSides own = looseSidesOf(*paragraph);
         loose = {loose.left && own.left, loose.right && own.right};
+        const double slack = slackOf(block, *paragraph, limits);
         margins.left = std::min(margins.left, block.box.left - draft.cell.box.left - slack);
         margins.right = std::min(margins.right, draft.cell.box.right - block.box.right - slack);
     }
@@ -141,7 +148,7 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     const double margin = sideMargin(draft, limits);
     for (const DraftCell& cell : draft.cells) {
         table.rows.at(static_cast<std::size_t>(cell.cell.row))
-            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, limits.slackBeside)));
+            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, limits)));
         assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margin), context));
     }
     assembled.block.value = std::move(table);

@@ -100,6 +100,25 @@ TEST(TableAssembler, GivesALineAsWideAsItsCellAHairMore) {
     EXPECT_EQ(row.cells[1].marginRight, twipsFromPoints(usual));
 }
 
+TEST(TableAssembler, GivesALineOfItsOwnMoreRoomThanWrappedOnes) {
+    const auto marginRight = [](bool isWrapped) {
+        DraftBlock table = draftOfTable(Reading::FromLeft).blocks[0];
+        auto& cell = std::get<DraftTable>(table.value).cells[0];
+        const double usual = AssemblyParameters{}.tableCells.usualMargin;
+        cell.blocks[0].box = cell.cell.box;
+        cell.blocks[0].box.left += usual;
+        cell.blocks[0].box.right -= usual;
+        std::vector<Line>& lines = cell.blocks[0].paragraph()->pieces[0].text.lines;
+        if (isWrapped)
+            lines.push_back(lines.front());
+        DocumentDraft draft = draftOfTable(Reading::FromLeft);
+        draft.blocks[0] = table;
+        const document::Document document = tests::documentOf(draft);
+        return std::get<document::Table>(document.sections.at(0).blocks.at(0).value).rows[0].cells[0].marginRight;
+    };
+    EXPECT_LT(marginRight(false), marginRight(true)) << "a stand-in for its font must not break it";
+}
+
 TEST(TableAssembler, LeavesTheBordersTheirRoom) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     // The lines reach from 2.29 points below the rows' upper edges to 5.5 above the lower ones.
