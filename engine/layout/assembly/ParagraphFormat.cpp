@@ -15,6 +15,11 @@ namespace {
 
 using document::Alignment;
 
+/// Of the width of a line that is all of its paragraph: the room that it has to come out wider in a stand-in for its
+/// font.
+constexpr double kSpareOfLine = 0.1;
+constexpr double kMostSpare = 12; ///< points
+
 /// Indents below this are noise of the positions.
 Twips indent(double points, double smallest) {
     return std::abs(points) < smallest ? Twips(0) : twipsFromPoints(points);
@@ -53,8 +58,12 @@ void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, doc
                                                  : limits.smallestIndent;
     // A line as wide as it may be to the last hair may find no room in another program. One that is drawn as wide as
     // the text must not break whatever its characters' width.
-    if (piece.text.lines.size() == 1 && isDrawnOfCharacters(line) && end < limits.smallestEndIndent)
+    const bool isOneLine = piece.text.lines.size() == 1 && piece.text.startsParagraph && piece.text.endsParagraph;
+    const double spare = std::min(kMostSpare, kSpareOfLine * line.box.width());
+    if (isOneLine && isDrawnOfCharacters(line) && end < limits.smallestEndIndent)
         format.indentEnd = twipsFromPoints(end - limits.smallestEndIndent);
+    else if (isOneLine && format.alignment == Alignment::Start && end < spare)
+        format.indentEnd = twipsFromPoints(end - spare);
     else if ((format.alignment == Alignment::Justified || end < 0) && std::abs(end) >= least)
         format.indentEnd = twipsFromPoints(end - parameters.pageSetup.roomSlack);
 }

@@ -3,6 +3,7 @@
 #include "layout/page/ColumnEdges.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvane::layout {
 namespace {
@@ -51,11 +52,16 @@ private:
         }
         if (band.columns.size() == 1)
             widenToTextArea(band.columns[0]);
+        const double blank = blankBeforeLast(band.columns);
         widenIntoGutters(band.columns);
         for (std::size_t r = first; r < m_result.regions.size(); ++r) {
             Region& region = m_result.regions[r];
-            if (region.span.left > region.span.right)
-                region.span = band.columns[static_cast<std::size_t>(region.column)];
+            if (region.span.left <= region.span.right)
+                continue;
+            region.span = band.columns[static_cast<std::size_t>(region.column)];
+            const bool isLast = static_cast<std::size_t>(region.column) + 1 == band.columns.size();
+            if (isLast && blank > region.span.right - region.span.left && startTogether(region.lines))
+                region.span.right += blank;
         }
         m_result.bands.push_back(std::move(band));
     }
@@ -98,6 +104,16 @@ private:
             if (end - column.right > column.right - column.left)
                 column.right = end;
         }
+    }
+
+    static double blankBeforeLast(const std::vector<ColumnSpan>& columns) {
+        return columns.size() < 2 ? 0 : columns.back().left - columns[columns.size() - 2].right;
+    }
+
+    bool startTogether(const std::vector<Line>& lines) const {
+        return std::all_of(lines.begin(), lines.end(), [&](const Line& line) {
+            return std::abs(line.box.left - lines.front().box.left) <= m_parameters.sameMiddle * line.fontSize;
+        });
     }
 
     /// Single words, such as addresses, run as the document does whatever their letters.

@@ -107,10 +107,11 @@ TEST(PageLayouter, CutsLinesThatLeadAcrossAGutter) {
 TEST(PageLayouter, EndsLinesByHandInColumnsNarrowerThanTheirGutter) {
     const auto addresses = [](const std::string& gutter) {
         return describe(layoutArt({"Sender of Long Street" + gutter + "Phone 7079 4301 55",
-                                   "Recipient Customers  " + gutter + "Fax 7079 4302 1200",
-                                   "255 Customer Lane ...." + gutter.substr(1) + "web site.example.x"}));
+                                   "Recipient Customers  " + gutter + "Fax 7079 4302 12",
+                                   "255 Customer Lane ...." + gutter.substr(1) + "web site.example"}));
     };
     EXPECT_EQ(addresses(std::string(40, ' ')).substr(0, 22), "Sender of Long Street/");
+    EXPECT_NE(addresses(std::string(40, ' ')).find("|Phone 7079 4301 55/Fax"), std::string::npos);
     EXPECT_EQ(addresses(std::string(4, ' ')).substr(0, 22), "Sender of Long Street ") << "lines that fill their column";
 }
 
