@@ -55,8 +55,13 @@ struct AssemblyParameters {
         double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
         double slackBelow = 0.6;    ///< points; of the room below the text that is not written as a margin
         double slackBeside = 0.6;   ///< points; likewise of the room where its lines end
-        double slackOfLine = 0.05;  ///< of its width; the same for a line that is all of its paragraph
     } tableCells;
+
+    /// LineSpare: lines that are all of their paragraphs.
+    struct LineSpares {
+        double share = 0.1; ///< of the line's width, by which a stand-in for its font may be wider ...
+        double most = 12;   ///< ... in points
+    } lineSpares;
 
     /// FigureAssembler.
     struct Figures {

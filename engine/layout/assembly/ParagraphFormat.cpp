@@ -1,6 +1,7 @@
 #include "layout/assembly/ParagraphFormat.h"
 
 #include "base/Utf8.h"
+#include "layout/assembly/LineSpare.h"
 #include "layout/assembly/TabStopFinder.h"
 #include "layout/text/Characters.h"
 #include "layout/text/LineText.h"
@@ -15,22 +16,9 @@ namespace {
 
 using document::Alignment;
 
-/// Of the width of a line that is all of its paragraph: the room that it has to come out wider in a stand-in for its
-/// font.
-constexpr double kSpareOfLine = 0.1;
-constexpr double kMostSpare = 12; ///< points
-
 /// Indents below this are noise of the positions.
 Twips indent(double points, double smallest) {
     return std::abs(points) < smallest ? Twips(0) : twipsFromPoints(points);
-}
-
-/// Whether the line is drawn of one sign: "________".
-bool isDrawnOfCharacters(const Line& line) {
-    constexpr std::size_t kShortest = 5;
-    const std::u32string text = line.words.size() == 1 ? utf32FromUtf8(textOf(line.words.front())) : std::u32string();
-    return text.size() >= kShortest && !isLetter(text.front()) &&
-           text.find_first_not_of(text.front()) == std::u32string::npos;
 }
 
 /// What the fullest line leaves free behind it: that is where the indent is.
@@ -43,8 +31,10 @@ double roomBehind(const DraftPiece& piece) {
 }
 
 /// Measures the indents from the section's column, whose edges the page alone did not show.
-void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, document::ParagraphProperties& format) {
+void setIndents(const DraftParagraph& paragraph, const LayoutParameters& parameters,
+                document::ParagraphProperties& format) {
     const AssemblyParameters::Spacing& limits = parameters.spacing;
+    const DraftPiece& piece = paragraph.pieces.front();
     const Line& line = piece.text.lines.front();
     const double left =
         piece.text.dropCap == document::DropCapKind::InMargin ? startBehindDropCap(line) : line.box.left;
@@ -56,14 +46,8 @@ void setIndents(const DraftPiece& piece, const LayoutParameters& parameters, doc
     const double least = endsWithoutBlanks(line) ? line.fontSize
                          : end > 0               ? limits.smallestEndIndent
                                                  : limits.smallestIndent;
-    // A line as wide as it may be to the last hair may find no room in another program. One that is drawn as wide as
-    // the text must not break whatever its characters' width.
-    const bool isOneLine = piece.text.lines.size() == 1 && piece.text.startsParagraph && piece.text.endsParagraph;
-    const double spare = std::min(kMostSpare, kSpareOfLine * line.box.width());
-    if (isOneLine && isDrawnOfCharacters(line) && end < limits.smallestEndIndent)
-        format.indentEnd = twipsFromPoints(end - limits.smallestEndIndent);
-    else if (isOneLine && format.alignment == Alignment::Start && end < spare)
-        format.indentEnd = twipsFromPoints(end - spare);
+    if (const auto spare = spareOf(paragraph, parameters.lineSpares); spare && end < *spare)
+        format.indentEnd = twipsFromPoints(end - *spare);
     else if ((format.alignment == Alignment::Justified || end < 0) && std::abs(end) >= least)
         format.indentEnd = twipsFromPoints(end - parameters.pageSetup.roomSlack);
 }
@@ -146,7 +130,7 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
     if (format.alignment == Alignment::End)
         format.indentEnd = indent(std::min(0.0, roomBehind(first)), parameters.spacing.smallestIndent);
     else if (format.alignment != Alignment::Center)
-        setIndents(first, parameters, format);
+        setIndents(paragraph, parameters, format);
     if (paragraph.list)
         takeListIndents(
             numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],

@@ -2,6 +2,7 @@
 
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/EmptyParagraph.h"
+#include "layout/assembly/LineSpare.h"
 #include "layout/structure/BlockColumn.h"
 
 #include <algorithm>
@@ -43,15 +44,8 @@ LooseSides looseSidesOf(const DraftParagraph& paragraph) {
     }
 }
 
-/// The room that a paragraph is to have beyond its lines: a hair, and more where it is one line that a stand-in for its
-/// font must not break.
-double slackOf(const DraftBlock& block, const DraftParagraph& paragraph, const AssemblyParameters::TableCells& limits) {
-    const bool isOneLine = paragraph.pieces.size() == 1 && paragraph.pieces.front().text.lines.size() == 1;
-    return isOneLine ? std::max(limits.slackBeside, limits.slackOfLine * block.box.width()) : limits.slackBeside;
-}
-
 /// The margins of one cell: a line that ends where the margin begins may find no room in another program.
-SideMargins marginsOf(const DraftCell& draft, double margin, const AssemblyParameters::TableCells& limits) {
+SideMargins marginsOf(const DraftCell& draft, double margin, const LayoutParameters& parameters) {
     SideMargins margins{margin, margin};
     LooseSides loose{true, true};
     for (const DraftBlock& block : draft.blocks) {
@@ -60,7 +54,8 @@ SideMargins marginsOf(const DraftCell& draft, double margin, const AssemblyParam
             continue;
         const LooseSides own = looseSidesOf(*paragraph);
         loose = {loose.left && own.left, loose.right && own.right};
-        const double slack = slackOf(block, *paragraph, limits);
+        const double least = parameters.tableCells.slackBeside;
+        const double slack = std::max(least, spareOf(*paragraph, parameters.lineSpares).value_or(least));
         margins.left = std::min(margins.left, block.box.left - draft.cell.box.left - slack);
         margins.right = std::min(margins.right, draft.cell.box.right - block.box.right - slack);
     }
@@ -144,11 +139,10 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     table.indent = twipsFromPoints(indentOf(place, draft.table, context.draft));
 
     AssembledBlock assembled;
-    const AssemblyParameters::TableCells& limits = context.parameters.tableCells;
-    const double margin = sideMargin(draft, limits);
+    const double margin = sideMargin(draft, context.parameters.tableCells);
     for (const DraftCell& cell : draft.cells) {
         table.rows.at(static_cast<std::size_t>(cell.cell.row))
-            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, limits)));
+            .cells.push_back(cellOf(cell.cell, marginsOf(cell, margin, context.parameters)));
         assembled.cells.push_back(assembleCellBlocks(cell, twipsFromPoints(margin), context));
     }
     assembled.block.value = std::move(table);

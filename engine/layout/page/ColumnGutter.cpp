@@ -22,10 +22,10 @@ struct Side {
     double bottom = 0;
     double extent = 0;   ///< of its text, across
     double inkWidth = 0; ///< sum of its pieces' widths
-    double lastBaseline = -1e9;
+    double lastMiddle = -1e9;
 
-    void add(const GutterPiece& piece, double outermost) {
-        const bool isNewRow = piece.box.centerY() > lastBaseline + kSameRow * piece.fontSize;
+    void add(const GutterPiece& piece, double outermost, double sameRow) {
+        const bool isNewRow = piece.box.centerY() > lastMiddle + sameRow * piece.fontSize;
         if (rows == 0) {
             top = piece.box.top;
             extent = outermost;
@@ -33,7 +33,7 @@ struct Side {
         extent = std::max(extent, outermost);
         if (isNewRow) {
             ++rows;
-            lastBaseline = piece.box.centerY();
+            lastMiddle = piece.box.centerY();
         }
         inkWidth += piece.box.width();
         bottom = std::max(bottom, piece.box.bottom);
@@ -56,10 +56,10 @@ bool weighGutter(ColumnGutter& gutter, std::span<const GutterPiece> pieces, doub
         if (piece.isWall || piece.box.centerY() <= gutter.top || piece.box.centerY() >= gutter.bottom)
             continue;
         if (piece.box.right <= gutter.left + 0.01) {
-            left.add(piece, gutter.left - piece.box.left);
+            left.add(piece, gutter.left - piece.box.left, parameters.sameRow);
             texts.left.push_back(piece);
         } else if (piece.box.left >= gutter.right - 0.01) {
-            right.add(piece, piece.box.right - gutter.right);
+            right.add(piece, piece.box.right - gutter.right, parameters.sameRow);
             texts.right.push_back(piece);
         }
     }
@@ -90,7 +90,7 @@ std::optional<ColumnGutter> findColumnGutter(std::span<const Line> lines, std::s
         return std::nullopt;
     const double fontSize = medianFontSize(lines);
     const double narrowest = parameters.narrowGutter * fontSize;
-    const std::vector<GutterPiece> pieces = cutIntoPieces(lines, walls, narrowest);
+    const std::vector<GutterPiece> pieces = cutAtGutterGaps(lines, walls, narrowest);
     Rect area;
     for (const GutterPiece& piece : pieces)
         area = area.united(piece.box);

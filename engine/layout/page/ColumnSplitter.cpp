@@ -91,9 +91,9 @@ public:
         : m_walls(walls)
         , m_parameters(parameters) {}
 
+    /// All that stands over the page's width: columns of text, or where there are none those of text beside a table.
     PagePart splitPage(std::vector<Line> lines) const {
         PagePart page = split(lines);
-        // Within columns a table beside text stands in the column next to it.
         if (page.kind == Kind::Lines)
             if (const auto beside = findTextBesideTable(lines, m_walls.tables, m_parameters.regions))
                 return splitBeside(*beside, std::move(lines));
@@ -120,7 +120,7 @@ private:
         }
         if (pieces.above.empty() && pieces.below.empty() && !heads)
             return columns;
-        PagePart slices{Kind::Slices, {}, {}, {}};
+        PagePart slices{.kind = Kind::Slices};
         if (!pieces.above.empty())
             addPart(slices, split(std::move(pieces.above), depth + 1));
         if (heads)
@@ -139,11 +139,11 @@ private:
              : line.box.centerY() > beside.bottom ? below
                                                   : text)
                 .push_back(std::move(line));
-        PagePart columns{Kind::Columns, {}, {}, {}};
+        PagePart columns{.kind = Kind::Columns};
         columns.parts.push_back(leaf(std::move(text)));
         columns.parts.insert(beside.isTextLeft ? columns.parts.end() : columns.parts.begin(),
-                             PagePart{Kind::Lines, {}, {}, beside.table});
-        PagePart slices{Kind::Slices, {}, {}, {}};
+                             PagePart{.object = beside.table});
+        PagePart slices{.kind = Kind::Slices};
         if (!above.empty())
             addPart(slices, splitPage(std::move(above)));
         addPart(slices, std::move(columns));
@@ -157,7 +157,7 @@ private:
     };
 
     PagePart splitSides(const Pieces& pieces, int depth) const {
-        PagePart columns{Kind::Columns, {}, {}, {}};
+        PagePart columns{.kind = Kind::Columns};
         addPart(columns, split(pieces.left, depth + 1));
         addPart(columns, split(pieces.right, depth + 1));
         return columns;
@@ -200,7 +200,7 @@ private:
     }
 
     PagePart leaf(std::vector<Line> lines) const {
-        return {Kind::Lines, joinRows(std::move(lines), m_parameters.paragraphs), {}, {}};
+        return {.lines = joinRows(std::move(lines), m_parameters.paragraphs)};
     }
 
     static Pieces sortLines(const std::vector<Line>& lines, const ColumnGutter& gutter) {

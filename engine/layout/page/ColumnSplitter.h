@@ -11,9 +11,9 @@ namespace orvane::layout {
 /// A part of the page: lines, or columns side by side, or slices one below the other.
 struct PagePart {
     enum class Kind : std::uint8_t { Lines, Columns, Slices } kind = Kind::Lines;
-    std::vector<Line> lines;     ///< top to bottom
-    std::vector<PagePart> parts; ///< left to right, or top to bottom
-    Rect object;                 ///< the table that stands in place of lines
+    std::vector<Line> lines = {};     ///< top to bottom
+    std::vector<PagePart> parts = {}; ///< left to right, or top to bottom
+    Rect object = {};                 ///< the table that stands in place of lines
 };
 
 /// What no gutter crosses.

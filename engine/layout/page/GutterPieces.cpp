@@ -12,7 +12,7 @@ bool endsWithColon(const Word& word) {
 
 } // namespace
 
-std::vector<GutterPiece> cutIntoPieces(std::span<const Line> lines, std::span<const Rect> walls, double narrowest) {
+std::vector<GutterPiece> cutAtGutterGaps(std::span<const Line> lines, std::span<const Rect> walls, double narrowest) {
     std::vector<GutterPiece> pieces;
     for (const Rect& wall : walls)
         pieces.push_back({wall, 0, 0, true});

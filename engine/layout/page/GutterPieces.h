@@ -16,10 +16,7 @@ struct GutterPiece {
     bool isLabel = false; ///< ends with a colon
 };
 
-/// Of the font size; pieces whose middles are nearer stand on one row.
-inline constexpr double kSameRow = 0.5;
-
 /// Cuts lines at gaps of at least `narrowest` points. A leader fills its gap. From top to bottom, the walls among them.
-std::vector<GutterPiece> cutIntoPieces(std::span<const Line> lines, std::span<const Rect> walls, double narrowest);
+std::vector<GutterPiece> cutAtGutterGaps(std::span<const Line> lines, std::span<const Rect> walls, double narrowest);
 
 } // namespace orvane::layout

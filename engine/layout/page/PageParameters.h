@@ -52,6 +52,7 @@ struct PageParameters {
         double widestMargin = 0.45;      ///< of the other column's width; names in the margin take up no more
         double nameStep = 1.4;           ///< of the font size; names that stand closer are lines of a text
         double nameShare = 0.6;          ///< of the margin's lines that must be such names
+        double sameRow = 0.5;            ///< of the font size; texts whose middles are nearer stand on one row
         double clearGutter = 3.0;        ///< of the font size; between texts that do not fill their columns
         double textStep = 2.0;           ///< of the font size; lines that stand farther apart are not of one text
         double shortestText = 2.0;       ///< of the font size; what is narrower is a sign, not a line of text

@@ -59,6 +59,7 @@ private:
             if (region.span.left <= region.span.right)
                 continue;
             region.span = band.columns[static_cast<std::size_t>(region.column)];
+            // The last column ends where the page's text does. Its lines were ended by hand all the same.
             const bool isLast = static_cast<std::size_t>(region.column) + 1 == band.columns.size();
             if (isLast && blank > region.span.right - region.span.left && startTogether(region.lines))
                 region.span.right += blank;

@@ -30,7 +30,7 @@ std::size_t countBeside(Pieces side, Pieces other, const Predicate& isName) {
 bool standsApart(Pieces side, std::size_t i, const PageParameters::Regions& parameters) {
     const auto areApart = [&](std::size_t above, std::size_t below) {
         const double step = side[below].box.centerY() - side[above].box.centerY();
-        const bool isBeside = step < kSameRow * side[above].fontSize;
+        const bool isBeside = step < parameters.sameRow * side[above].fontSize;
         return isBeside || step > parameters.nameStep * side[above].fontSize;
     };
     return (i == 0 || areApart(i - 1, i)) && (i + 1 == side.size() || areApart(i, i + 1));
@@ -67,7 +67,7 @@ bool holdsText(Pieces side, const PageParameters::Regions& parameters) {
         if (piece.box.width() < parameters.shortestText * piece.fontSize)
             continue;
         const double step = last ? piece.baseline - last->baseline : 0;
-        if (last && step < kSameRow * piece.fontSize)
+        if (last && step < parameters.sameRow * piece.fontSize)
             continue;
         rows = step <= parameters.textStep * piece.fontSize ? rows + 1 : 1;
         last = &piece;
@@ -81,6 +81,14 @@ bool areLevel(const GutterPiece& a, const GutterPiece& b, const PageParameters::
     return std::abs(a.baseline - b.baseline) <= parameters.levelStep * a.fontSize;
 }
 
+std::vector<double> baselinesOf(Pieces side) {
+    std::vector<double> baselines;
+    for (const GutterPiece& piece : side)
+        baselines.push_back(piece.baseline);
+    std::ranges::sort(baselines);
+    return baselines;
+}
+
 struct LevelCount {
     int level = 0; ///< of all, those beside a piece of the other side
     int all = 0;
@@ -88,55 +96,51 @@ struct LevelCount {
 
 LevelCount countLevel(const ColumnGutter& gutter, Pieces side, Pieces other,
                       const PageParameters::Regions& parameters) {
+    const std::vector<double> baselines = baselinesOf(other);
     LevelCount count;
     for (const GutterPiece& piece : side) {
         if (piece.box.centerY() < gutter.top || piece.box.centerY() > gutter.bottom)
             continue;
+        const double slack = parameters.levelStep * piece.fontSize;
+        const auto next = std::ranges::lower_bound(baselines, piece.baseline - slack);
         ++count.all;
-        count.level += std::ranges::any_of(other, [&](const GutterPiece& o) { return areLevel(piece, o, parameters); });
+        count.level += next != baselines.end() && *next <= piece.baseline + slack;
     }
     return count;
 }
 
-/// The pieces but those level with the last one.
-Pieces withoutLastRow(Pieces side, const PageParameters::Regions& parameters) {
-    Pieces rest = side;
-    while (!rest.empty() && areLevel(rest.back(), side.back(), parameters))
-        rest = rest.first(rest.size() - 1);
-    return rest;
+enum class End : std::uint8_t { Top, Bottom };
+
+const GutterPiece& pieceAt(End end, Pieces side) {
+    return end == End::Top ? side.front() : side.back();
 }
 
-/// The pieces but those level with the first one.
-Pieces withoutFirstRow(Pieces side, const PageParameters::Regions& parameters) {
-    Pieces rest = side;
-    while (!rest.empty() && areLevel(rest.front(), side.front(), parameters))
-        rest = rest.subspan(1);
-    return rest;
+/// The pieces but those level with the one at the end.
+Pieces withoutRowAt(End end, Pieces side, const PageParameters::Regions& parameters) {
+    const GutterPiece& last = pieceAt(end, side);
+    while (!side.empty() && areLevel(pieceAt(end, side), last, parameters))
+        side = end == End::Top ? side.subspan(1) : side.first(side.size() - 1);
+    return side;
 }
 
-void leaveLevelBottom(ColumnGutter& gutter, Pieces left, Pieces right, const PageParameters::Regions& parameters) {
-    while (areLevel(left.back(), right.back(), parameters)) {
-        const double baseline = left.back().baseline;
-        const double blank = parameters.textStep * left.back().fontSize;
-        left = withoutLastRow(left, parameters);
-        right = withoutLastRow(right, parameters);
+/// Walks inwards over the rows that are level on both sides, and takes off the gutter what stands apart from the rest.
+void leaveLevelRowsAt(End end, ColumnGutter& gutter, Pieces left, Pieces right,
+                      const PageParameters::Regions& parameters) {
+    while (areLevel(pieceAt(end, left), pieceAt(end, right), parameters)) {
+        const GutterPiece& row = pieceAt(end, left);
+        left = withoutRowAt(end, left, parameters);
+        right = withoutRowAt(end, right, parameters);
         if (left.empty() || right.empty())
             return;
-        if (baseline - std::max(left.back().baseline, right.back().baseline) > blank)
-            gutter.bottom = std::min(left.back().box.bottom, right.back().box.bottom);
-    }
-}
-
-void leaveLevelTop(ColumnGutter& gutter, Pieces left, Pieces right, const PageParameters::Regions& parameters) {
-    while (areLevel(left.front(), right.front(), parameters)) {
-        const double baseline = left.front().baseline;
-        const double blank = parameters.textStep * left.front().fontSize;
-        left = withoutFirstRow(left, parameters);
-        right = withoutFirstRow(right, parameters);
-        if (left.empty() || right.empty())
-            return;
-        if (std::min(left.front().baseline, right.front().baseline) - baseline > blank)
-            gutter.top = std::max(left.front().box.top, right.front().box.top);
+        const GutterPiece &nextLeft = pieceAt(end, left), &nextRight = pieceAt(end, right);
+        const double blank =
+            std::min(std::abs(row.baseline - nextLeft.baseline), std::abs(row.baseline - nextRight.baseline));
+        if (blank <= parameters.textStep * row.fontSize)
+            continue;
+        if (end == End::Top)
+            gutter.top = std::max(nextLeft.box.top, nextRight.box.top);
+        else
+            gutter.bottom = std::min(nextLeft.box.bottom, nextRight.box.bottom);
     }
 }
 
@@ -188,8 +192,8 @@ bool areOutOfStep(const ColumnGutter& gutter, const SideTexts& texts, double fon
 }
 
 void leaveLevelEnds(ColumnGutter& gutter, const SideTexts& texts, const PageParameters::Regions& parameters) {
-    leaveLevelBottom(gutter, texts.left, texts.right, parameters);
-    leaveLevelTop(gutter, texts.left, texts.right, parameters);
+    leaveLevelRowsAt(End::Bottom, gutter, texts.left, texts.right, parameters);
+    leaveLevelRowsAt(End::Top, gutter, texts.left, texts.right, parameters);
 }
 
 } // namespace orvane::layout

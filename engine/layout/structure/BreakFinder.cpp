@@ -77,14 +77,19 @@ bool isColumnEndedByHand(const DocumentDraft& draft, std::size_t next) {
     return true;
 }
 
-/// Whether block `next` begins a column by hand, though `room` points were left below the one before, or text below
-/// both would make them equally high.
+/// Whether block `next` begins a column by hand: `room` points were left below the one before, or word processors,
+/// which fill columns with text below them to one height, would begin it elsewhere. A table does not flow from column
+/// to column.
 bool startsColumnByHand(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room,
                         const StructureParameters::PageSetup& limits) {
-    const double height = draft.blocks[next].box.height();
-    const double evenness = (isColumnEndedByHand(draft, next) ? 0 : height) + limits.startRoom;
-    return std::holds_alternative<DraftTable>(draft.blocks[next].value) || room > height + limits.startRoom ||
-           areColumnsUneven(draft, end, next, evenness);
+    const DraftBlock& block = draft.blocks[next];
+    const double height = block.box.height();
+    if (room > height + limits.startRoom)
+        return true;
+    if (!hasTextBelow(draft, end))
+        return false;
+    const double even = (isColumnEndedByHand(draft, next) ? 0 : height) + limits.startRoom;
+    return std::holds_alternative<DraftTable>(block.value) || unevenness(draft, end, next) > even;
 }
 
 } // namespace

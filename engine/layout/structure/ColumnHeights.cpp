@@ -29,9 +29,12 @@ double bottomOfColumn(const DocumentDraft& draft, std::size_t first) {
 
 } // namespace
 
-bool areColumnsUneven(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room) {
-    const auto below = static_cast<std::size_t>(end.band) + 1;
-    return below < draft.pages[end.page].bands.size() && std::abs(end.bottom - bottomOfColumn(draft, next)) > room;
+bool hasTextBelow(const DocumentDraft& draft, const ColumnEnd& end) {
+    return static_cast<std::size_t>(end.band) + 1 < draft.pages[end.page].bands.size();
+}
+
+double unevenness(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next) {
+    return std::abs(end.bottom - bottomOfColumn(draft, next));
 }
 
 } // namespace orvane::layout

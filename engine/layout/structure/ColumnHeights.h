@@ -11,8 +11,11 @@ struct ColumnEnd {
     double bottom = 0;
 };
 
-/// True when text stands below the columns and the one that ends at `end` is not as high as the next, which begins with
-/// block `next`: word processors would fill them to one height. Units: points; `room` is what heights may differ by.
-bool areColumnsUneven(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room);
+/// True when text stands below the columns of which one ends at `end`: word processors would fill them to one height.
+bool hasTextBelow(const DocumentDraft& draft, const ColumnEnd& end);
+
+/// By how much the column that ends at `end` is higher or lower than the next, which begins with block `next`, in
+/// points.
+double unevenness(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next);
 
 } // namespace orvane::layout

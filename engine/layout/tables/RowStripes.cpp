@@ -17,7 +17,8 @@ Rect textOf(const AlignedRows& aligned, const RowGroup& group) {
 
 RowStripes::RowStripes(const PageText& page, const TableParameters::Tables& parameters)
     : m_page(page)
-    , m_parameters(parameters) {
+    , m_parameters(parameters)
+    , m_index(parameters.stripeStep) {
     std::map<std::pair<long, long>, std::vector<Rect>> sets;
     for (const Ground& ground : page.grounds)
         if (!ground.isUsed)
@@ -25,29 +26,28 @@ RowStripes::RowStripes(const PageText& page, const TableParameters::Tables& para
     std::size_t set = 0;
     for (const auto& [ends, boxes] : sets) {
         ++set;
-        if (boxes.size() >= parameters.fewestStripes)
-            for (const Rect& box : boxes)
-                m_stripes.push_back({box, set});
+        if (boxes.size() < parameters.fewestStripes)
+            continue;
+        for (const Rect& box : boxes) {
+            m_index.add(box, m_stripes.size());
+            m_stripes.push_back({box, set});
+        }
     }
-    std::sort(m_stripes.begin(), m_stripes.end(),
-              [](const Stripe& a, const Stripe& b) { return a.box.top < b.box.top; });
 }
 
 /// The stripe that holds the text; null when there is none, or more than one of them lie there.
 const RowStripes::Stripe* RowStripes::stripeBehind(const Rect& text) const {
     const double slack = m_parameters.filledSnap;
     const Stripe* found = nullptr;
-    for (const Stripe& stripe : m_stripes) {
-        if (stripe.box.top > text.centerY())
-            break;
-        if (!stripe.box.contains(Point{text.centerX(), text.centerY()}) || stripe.box.left > text.left + slack ||
-            stripe.box.right < text.right - slack)
-            continue;
-        if (found)
-            return nullptr;
-        found = &stripe;
-    }
-    return found;
+    int count = 0;
+    m_index.visit({text.left + slack, text.centerY(), text.right - slack, text.centerY()}, [&](std::size_t i) {
+        const Rect& box = m_stripes[i].box;
+        if (box.left > text.left + slack || box.right < text.right - slack)
+            return;
+        found = &m_stripes[i];
+        ++count;
+    });
+    return count == 1 ? found : nullptr;
 }
 
 /// The stripes behind at least two of the rows; nothing when there are none, or two rows stand on one of them.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/support/BoxIndex.h"
 #include "layout/tables/AlignedGrid.h"
 #include "layout/text/PageText.h"
 
@@ -30,7 +31,8 @@ private:
 
     const PageText& m_page;
     const TableParameters::Tables& m_parameters;
-    std::vector<Stripe> m_stripes; ///< from top to bottom
+    std::vector<Stripe> m_stripes;
+    BoxIndex m_index; ///< names are places in m_stripes
 };
 
 } // namespace orvane::layout

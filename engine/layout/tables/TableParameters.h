@@ -84,6 +84,7 @@ struct TableParameters {
         double groundNeighbour = 4.0;  ///< of the font size; a text this near beside a row of grounds belongs to it
         double filledRoom = 1.5;       ///< points; between where two filled cells meet and the words beside
         std::size_t fewestStripes = 2; ///< grounds below each other with the same ends, each behind a row
+        double stripeStep = 12;        ///< points; height of the slices in which they are looked up
         double filledTextShare = 0.8;  ///< of the texts that must stand in filled cells for these to show the table
 
         // Texts that came on one row though they are of texts side by side.

@@ -80,6 +80,19 @@ TEST(TableAssembler, StartsItsPageInTheCellThatIsReadFirst) {
     }
 }
 
+TEST(TableAssembler, StartsAColumnBehindAParagraphWithTheBreak) {
+    DocumentDraft draft = draftOfTable(Reading::FromLeft);
+    draft.blocks[0].startsColumn = true;
+    const document::Document document = tests::documentOf(draft);
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    ASSERT_GE(blocks.size(), 2u);
+    const auto& paragraph = std::get<document::Paragraph>(blocks[0].value);
+    ASSERT_EQ(paragraph.inlines.size(), 1u);
+    EXPECT_EQ(std::get<document::Break>(paragraph.inlines[0].value).kind, document::BreakKind::Column);
+    EXPECT_EQ(paragraph.properties.lineSpacing.height, twipsFromPoints(1)) << "the table stands no lower for it";
+    EXPECT_TRUE(std::holds_alternative<document::Table>(blocks[1].value));
+}
+
 TEST(TableAssembler, MeasuresTheIndentFromTheColumnOfTheSection) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     draft.blocks[0].textColumn = ColumnSpan{90, 500};

@@ -120,12 +120,16 @@ TEST(ColumnGutter, LeavesNamesHalfWayUpTheirTexts) {
 }
 
 TEST(ColumnGutter, TakesTheSignsOfABraceForNoText) {
-    std::vector<Line> page;
-    for (int row = 0; row < 6; ++row) {
-        page.push_back(lineOf({wordAt(50, 58, 100 + 10 * row)}));
-        page.push_back(lineOf({wordAt(150, row == 2 ? 350 : 200, 105 + 10 * row)}));
-    }
-    EXPECT_FALSE(areColumns(page));
+    const auto besideATerm = [](double width) {
+        std::vector<Line> page{lineOf({wordAt(50, 150, 40), wordAt(250, 300, 45)})};
+        for (int row = 0; row < 6; ++row) {
+            page.push_back(lineOf({wordAt(150 - width, 150, 100 + 10 * row)}));
+            page.push_back(lineOf({wordAt(250, row == 2 ? 450 : 300, 105 + 10 * row)}));
+        }
+        return page;
+    };
+    EXPECT_FALSE(areColumns(besideATerm(8)));
+    EXPECT_TRUE(areColumns(besideATerm(40))) << "words";
 }
 
 } // namespace

@@ -274,6 +274,32 @@ TEST(PageLayouter, TellsWhereAParagraphGoesOnInTheNextColumn) {
     EXPECT_FALSE(std::get<ParagraphDraft>(layout.blocks[1].value).startsParagraph);
 }
 
+TEST(PageLayouter, SetsALineAgainstAPictureOnlyWhereTextMakesWayForIt) {
+    const auto alignmentOfTitle = [](bool isStoodOn) {
+        std::vector<Line> lines{
+            makeLine("Two lines of a title", 200, 100), makeLine("set to", 270, 112),
+            makeLine("A line of text as wide as the column that is far below the title .........", 50, 400)};
+        if (isStoodOn)
+            lines.insert(lines.begin() + 2, makeLine("words on the picture", 320, 150));
+        PageText page = makePage(1);
+        page.lines = std::move(lines);
+        Figure figure;
+        figure.box = {300, 80, 380, 160};
+        page.figures = {figure};
+        DocumentContext context;
+        context.bodyFontSize = 10;
+        context.bodyLeading = 12;
+        Diagnostics diagnostics;
+        const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+        for (const PageBlock& block : layout.blocks)
+            if (const auto* paragraph = std::get_if<ParagraphDraft>(&block.value))
+                return paragraph->alignment;
+        throw std::logic_error("no paragraph");
+    };
+    EXPECT_EQ(alignmentOfTitle(false), document::Alignment::End);
+    EXPECT_EQ(alignmentOfTitle(true), document::Alignment::Start);
+}
+
 TEST(PageLayouter, CopesWithPagesWithoutText) {
     EXPECT_TRUE(layoutArt({}).blocks.empty());
     Figure figure;

@@ -77,6 +77,21 @@ TEST(ColumnHeights, KeepsColumnsOfLinesEndedByHandAsTheyAre) {
     EXPECT_FALSE(text.blocks[4].startsColumn) << "text that flows may end a line later";
 }
 
+TEST(ColumnHeights, BreaksBeforeATableHoweverEvenTheColumnsAre) {
+    DocumentDraft draft = draftOfColumns({{84, 96, 108}, {84}}, {{240}, {240}});
+    draft.blocks[2].paragraph()->pieces[0].text.alignment = document::Alignment::Justified;
+    DraftBlock table = tests::tableAt(0, 74, true);
+    table.box = {309.5, 74, 523, draft.blocks[2].box.bottom};
+    table.column = 1;
+    DocumentDraft text = draft;
+    text.blocks[3].box = table.box;
+    sectionsOf(text);
+    EXPECT_FALSE(text.blocks[3].startsColumn);
+    draft.blocks[3] = table;
+    sectionsOf(draft);
+    EXPECT_TRUE(draft.blocks[3].startsColumn) << "or rows of it would come below the text";
+}
+
 TEST(ColumnHeights, MakesContinuousSectionsOfColumns) {
     DocumentDraft draft = makeDraft(1);
     draft.pages[0].bands = {{72, 100, {tests::kColumn}, false},
