@@ -103,6 +103,20 @@ void addEntry(std::vector<document::Block>& blocks, bool isContents, document::P
     contents.entries.push_back(std::move(entry));
 }
 
+/// Leaves a border between equal paragraphs only where there are two. LibreOffice takes the first of a header and that
+/// of the footer for such, and draws neither's.
+void dropLoneBetweenBorders(std::vector<document::Block>& blocks) {
+    bool isSharedAbove = false;
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        auto* paragraph = std::get_if<document::Paragraph>(&blocks[i].value);
+        const auto* below = i + 1 < blocks.size() ? std::get_if<document::Paragraph>(&blocks[i + 1].value) : nullptr;
+        const bool isShared = paragraph && below && paragraph->properties.borders == below->properties.borders;
+        if (paragraph && !isShared && !isSharedAbove)
+            paragraph->properties.betweenBorder = {};
+        isSharedAbove = isShared;
+    }
+}
+
 } // namespace
 
 std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts, const AssemblyContext& context) {
@@ -140,6 +154,7 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
         std::move(block.floats.begin(), block.floats.end(), std::back_inserter(finished));
         finished.push_back(std::move(block.block));
     }
+    dropLoneBetweenBorders(finished);
     return finished;
 }
 

@@ -168,7 +168,7 @@ void fillCells(AssembledBlock& assembled, const AssemblyContext& context) {
             cell.blocks = finishBlocks(std::move(*inside++), context, origin);
             // A cell ends with a paragraph, whatever else stands in it.
             if (cell.blocks.empty() || !std::holds_alternative<document::Paragraph>(cell.blocks.back().value))
-                cell.blocks.push_back({emptyParagraph(context)});
+                cell.blocks.push_back({emptyParagraphWithin(box.height(), context)});
         }
     }
     if (table.isRightToLeft)

@@ -3,6 +3,7 @@
 #include "layout/text/LineText.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace orvane::layout {
@@ -43,6 +44,20 @@ ColumnSpan findColumnEdges(std::span<const Line> lines, const PageParameters::Re
         rights.push_back({rightEdgeOf(line), line.fontSize});
     }
     return {-outermostEdge(std::move(lefts), parameters), outermostEdge(std::move(rights), parameters)};
+}
+
+ColumnSpan evenedAtMiddle(ColumnSpan span, std::span<const Line> lines, double pageWidth,
+                          const PageParameters::Regions& parameters) {
+    bool isReached = false;
+    for (const Line& line : lines) {
+        const double snap = parameters.sameMiddle * line.fontSize;
+        if (line.box.right < span.right - snap)
+            continue;
+        if (std::abs(line.box.centerX() - pageWidth / 2) > snap || line.box.left <= span.left + line.fontSize)
+            return span;
+        isReached = true;
+    }
+    return isReached ? ColumnSpan{span.left, std::max(span.right, pageWidth - span.left)} : span;
 }
 
 } // namespace orvane::layout

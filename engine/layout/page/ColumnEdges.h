@@ -12,6 +12,11 @@ namespace orvane::layout {
 /// Requires: at least one line.
 ColumnSpan findColumnEdges(std::span<const Line> lines, const PageParameters::Regions& parameters);
 
+/// Gives a page's only column as much room at the right as at the left where lines in the middle of the page alone
+/// reach farthest: they end at no edge.
+ColumnSpan evenedAtMiddle(ColumnSpan span, std::span<const Line> lines, double pageWidth,
+                          const PageParameters::Regions& parameters);
+
 /// The line's right edge, without East Asian punctuation that may hang beyond the column.
 double rightEdgeOf(const Line& line);
 

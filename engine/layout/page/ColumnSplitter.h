@@ -20,6 +20,7 @@ struct PagePart {
 struct PageWalls {
     std::span<const Rect> all;    ///< tables and pictures
     std::span<const Rect> tables; ///< of these
+    double pageWidth = 0;         ///< points
 };
 
 /// Parts lines at the strongest gutter, and what comes out again, until there are no columns left. Lines that lead

@@ -124,8 +124,9 @@ private:
     }
 
     void findColumns() {
-        m_regions = findRegions(std::move(m_page.lines), {m_walls, std::span(m_walls).first(m_tableCount)}, m_context,
-                                m_parameters);
+        m_regions =
+            findRegions(std::move(m_page.lines), {m_walls, std::span(m_walls).first(m_tableCount), m_layout.width},
+                        m_context, m_parameters);
         if (m_regions.bands.empty()) {
             const Rect& area = m_context.textArea;
             m_regions.bands.push_back({area.top, area.bottom, {{area.left, area.right}}, false});

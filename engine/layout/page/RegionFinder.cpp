@@ -11,8 +11,9 @@ namespace {
 /// Turns the tree of parts into the flat list of regions.
 class Flattener {
 public:
-    Flattener(const DocumentContext& context, const PageParameters::Regions& parameters)
-        : m_context(context)
+    Flattener(double pageWidth, const DocumentContext& context, const PageParameters::Regions& parameters)
+        : m_pageWidth(pageWidth)
+        , m_context(context)
         , m_parameters(parameters) {}
 
     PageRegions run(PagePart page) {
@@ -39,10 +40,9 @@ private:
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const std::size_t firstOfColumn = m_result.regions.size();
             addRegions(std::move(columns[i]), static_cast<int>(i));
-            std::vector<Line> lines;
+            const std::vector<Line> lines = linesOf(firstOfColumn);
             for (std::size_t r = firstOfColumn; r < m_result.regions.size(); ++r) {
                 const Region& region = m_result.regions[r];
-                lines.insert(lines.end(), region.lines.begin(), region.lines.end());
                 band.top = std::min(band.top, region.box.top);
                 band.bottom = std::max(band.bottom, region.box.bottom);
             }
@@ -50,8 +50,10 @@ private:
             band.columns.push_back(lines.empty() ? ColumnSpan{table.left, table.right}
                                                  : findColumnEdges(lines, m_parameters));
         }
-        if (band.columns.size() == 1)
+        if (band.columns.size() == 1) {
             widenToTextArea(band.columns[0]);
+            band.columns[0] = evenedAtMiddle(band.columns[0], linesOf(first), m_pageWidth, m_parameters);
+        }
         const double blank = blankBeforeLast(band.columns);
         widenIntoGutters(band.columns);
         for (std::size_t r = first; r < m_result.regions.size(); ++r) {
@@ -86,6 +88,14 @@ private:
             region.box = region.box.united(line.box);
         region.lines = std::move(part.lines);
         m_result.regions.push_back(std::move(region));
+    }
+
+    /// The lines of the regions from `first` on.
+    std::vector<Line> linesOf(std::size_t first) const {
+        std::vector<Line> lines;
+        for (std::size_t r = first; r < m_result.regions.size(); ++r)
+            lines.insert(lines.end(), m_result.regions[r].lines.begin(), m_result.regions[r].lines.end());
+        return lines;
     }
 
     /// A single column has the document's text edges, though this page's lines may all be short.
@@ -131,6 +141,7 @@ private:
         return lines == 0 || (areWords && rightToLeft == 0) ? m_context.isRightToLeft : 2 * rightToLeft > lines;
     }
 
+    double m_pageWidth = 0;
     const DocumentContext& m_context;
     const PageParameters::Regions& m_parameters;
     PageRegions m_result;
@@ -144,7 +155,8 @@ PageRegions findRegions(std::vector<Line> lines, const PageWalls& walls, const D
         return {};
     // By what is written on, not by the box, which a single large letter makes higher.
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
-    return Flattener(context, parameters.regions).run(splitIntoColumns(std::move(lines), walls, parameters));
+    return Flattener(walls.pageWidth, context, parameters.regions)
+        .run(splitIntoColumns(std::move(lines), walls, parameters));
 }
 
 } // namespace orvane::layout

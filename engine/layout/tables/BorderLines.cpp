@@ -91,32 +91,28 @@ std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const
     return lines;
 }
 
-document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
-                             RuleDirection direction, double position, double from, double to,
-                             const TableParameters::Tables& parameters) {
+document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines, const CellSide& side,
+                             double cover, const TableParameters::Tables& parameters) {
     // The side takes the look that covers most of it.
     std::map<std::size_t, double> coverByRule;
     double covered = 0;
     bool isDouble = false;
-    const auto addRule = [&](std::size_t index, bool countsDouble) {
-        const Rule& rule = rules[index];
-        const double shared =
-            overlap(rule.from - parameters.joinGap, rule.to + parameters.joinGap, from, to) / (countsDouble ? 2 : 1);
-        if (shared > 0)
-            coverByRule[index] += shared;
-        covered += shared;
+    const auto shared = [&](double from, double to) {
+        return std::max(0.0, overlap(from - parameters.joinGap, to + parameters.joinGap, side.from, side.to));
     };
     for (const BorderLine& line : lines) {
-        if (line.direction != direction || std::abs(line.position - position) > parameters.lineSnap)
+        if (line.direction != side.direction || std::abs(line.position - side.position) > parameters.lineSnap)
             continue;
-        if (overlap(line.from - parameters.joinGap, line.to + parameters.joinGap, from, to) <= 0)
+        // One that only ends near a short side is none of it.
+        if (overlap(line.from, line.to, side.from, side.to) <= 0)
             continue;
         isDouble = isDouble || line.isDouble;
+        covered += shared(line.from, line.to);
         for (const std::size_t index : line.rules)
-            addRule(index, line.isDouble);
+            coverByRule[index] += shared(rules[index].from, rules[index].to);
     }
     document::Border border;
-    if (coverByRule.empty() || covered < parameters.borderCover * (to - from))
+    if (coverByRule.empty() || covered < cover * (side.to - side.from))
         return border;
     const auto widest = std::max_element(coverByRule.begin(), coverByRule.end(),
                                          [](const auto& a, const auto& b) { return a.second < b.second; });

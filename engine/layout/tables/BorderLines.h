@@ -22,9 +22,16 @@ struct BorderLine {
 /// The lines that the page's rules make, horizontal ones first, each direction by position. Check boxes are left out.
 std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters);
 
-/// What is drawn along one side of a cell; BorderKind::None where the rules do not cover it.
-document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
-                             RuleDirection direction, double position, double from, double to,
-                             const TableParameters::Tables& parameters);
+/// One side of a cell.
+struct CellSide {
+    RuleDirection direction = RuleDirection::Horizontal;
+    double position = 0; ///< y of a horizontal side, x of a vertical one
+    double from = 0;     ///< along its direction
+    double to = 0;
+};
+
+/// What is drawn along a side; BorderKind::None where the rules do not cover at least `cover` of it.
+document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines, const CellSide& side,
+                             double cover, const TableParameters::Tables& parameters);
 
 } // namespace orvane::layout

@@ -188,7 +188,9 @@ std::optional<CellAlignment> shownUpright(const CellDraft& cell, const TextExten
     const double tolerance = parameters.uprightTolerance * text.fontSize;
     if (inRow.areEqual(tolerance) || (inRow.above > tolerance && inCell.areEqual(tolerance)))
         return CellAlignment::Center;
-    return inRow.below < inRow.above ? CellAlignment::Bottom : CellAlignment::Top;
+    // A text at the foot of its cell has no more room below it than above.
+    const bool isAtFoot = inRow.below < inRow.above && inCell.below <= inCell.above + tolerance;
+    return isAtFoot ? CellAlignment::Bottom : CellAlignment::Top;
 }
 
 /// Where the texts of a column stand that have room to show it.

@@ -122,7 +122,7 @@ TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& tex
     for (std::size_t i = 0; i < grid.cells.size(); ++i)
         table.cells.push_back(buildCell(grid.cells[i], grid.boxOf(grid.cells[i]), std::move(linesOfCell[i]), rooms,
                                         around, context.vocabulary, parameters));
-    drawBorders(table, page.rules, lines, limits);
+    drawBorders(table, edges, page.rules, lines, limits);
     shadeCells(table, page.grounds, limits);
     table.headerRows = countHeaderRows(table, limits);
     alignAcross(table, rooms, limits, parameters.markers);

@@ -62,11 +62,12 @@ bool isRim(const Ground& ground, const TableDraft& table, const TableParameters:
 
 } // namespace
 
-void drawBorders(TableDraft& table, std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
+void drawBorders(TableDraft& table, TableEdges edges, std::vector<Rule>& rules, const std::vector<BorderLine>& lines,
                  const TableParameters::Tables& parameters) {
+    const double cover = edges == TableEdges::Boxed ? 1 - parameters.missingShare : parameters.borderCover;
     const std::vector<BorderLine> own = linesWithin(lines, table.box.inflated(parameters.lineSnap));
     const auto along = [&](RuleDirection direction, double position, double from, double to) {
-        return borderAlong(rules, own, direction, position, from, to, parameters);
+        return borderAlong(rules, own, {direction, position, from, to}, cover, parameters);
     };
     for (CellDraft& cell : table.cells) {
         const Rect& box = cell.box;

@@ -5,7 +5,7 @@
 namespace orvane::layout {
 
 ColumnRooms::ColumnRooms(const TableGrid& grid, const std::vector<std::vector<Line>>& linesOfCell, TableEdges edges) {
-    if (edges == TableEdges::Ruled)
+    if (edges == TableEdges::Ruled || edges == TableEdges::Boxed)
         takeEdges(grid, linesOfCell);
     else
         takeTexts(grid, linesOfCell);

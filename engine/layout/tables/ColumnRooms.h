@@ -12,6 +12,7 @@ enum class TableEdges {
     Ruled,     ///< rules; the text of a cell has the room between them
     HalfRuled, ///< rules between the rows; the words themselves between the columns, whose text takes all the room
                ///< there is
+    Boxed,     ///< rules around some of the cells; the others have no borders of their own
     Aligned,   ///< the words themselves
 };
 

@@ -1,38 +1,15 @@
 #include "layout/tables/RuleLattice.h"
 
 #include "layout/support/DisjointSets.h"
+#include "layout/tables/GridShapes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <map>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
-
-/// The distinct positions among ascending `values`: those nearer than `snap` to the one before are one.
-std::vector<double> clusterPositions(std::vector<double> values, double snap) {
-    std::sort(values.begin(), values.end());
-    std::vector<double> positions;
-    for (std::size_t first = 0; first < values.size();) {
-        std::size_t last = first;
-        double sum = 0;
-        while (last < values.size() && values[last] <= values[first] + snap)
-            sum += values[last++];
-        positions.push_back(sum / static_cast<double>(last - first));
-        first = last;
-    }
-    return positions;
-}
-
-std::size_t nearestIndex(const std::vector<double>& positions, double value) {
-    const auto after = std::lower_bound(positions.begin(), positions.end(), value);
-    if (after == positions.begin())
-        return 0;
-    if (after == positions.end() || value - *(after - 1) < *after - value)
-        return static_cast<std::size_t>(after - positions.begin()) - 1;
-    return static_cast<std::size_t>(after - positions.begin());
-}
 
 /// Positions of the lines of one direction, and the ends of at least two lines of the other that reach beyond them: a
 /// table without its outer border.
@@ -147,32 +124,6 @@ private:
     RuleLattice m_lattice;
 };
 
-/// One row of a shape: the columns [first, last) without a gap.
-struct Run {
-    int row = 0;
-    int first = 0;
-    int last = 0;
-};
-
-/// The shape's places as rectangles: rows of equal extent that follow each other are one.
-std::vector<GridCell> cutIntoRectangles(const std::vector<Run>& runs) {
-    std::vector<GridCell> cells;
-    std::map<std::pair<int, int>, std::size_t> openByExtent;
-    for (const Run& run : runs) {
-        const auto open = openByExtent.find({run.first, run.last});
-        if (open != openByExtent.end()) {
-            GridCell& cell = cells[open->second];
-            if (cell.row + cell.rowSpan == run.row) {
-                ++cell.rowSpan;
-                continue;
-            }
-        }
-        openByExtent[{run.first, run.last}] = cells.size();
-        cells.push_back({run.row, run.first, 1, run.last - run.first});
-    }
-    return cells;
-}
-
 } // namespace
 
 std::vector<LineGroup> groupCrossingLines(const std::vector<BorderLine>& lines,
@@ -215,26 +166,26 @@ LatticeGrid gridOf(const RuleLattice& lattice) {
                 sets.unite(row * columns + column, (row - 1) * columns + column);
         }
     }
-    LatticeGrid result{{lattice.xs, lattice.ys, {}}, 0};
-    for (const std::vector<std::size_t>& places : sets.groups()) {
-        std::vector<Run> runs;
-        for (const std::size_t place : places) {
-            const int row = static_cast<int>(place / columns);
-            const int column = static_cast<int>(place % columns);
-            if (!runs.empty() && runs.back().row == row && runs.back().last == column)
-                ++runs.back().last;
-            else
-                runs.push_back({row, column, column + 1});
-        }
-        const std::vector<GridCell> cells = cutIntoRectangles(runs);
-        if (cells.size() > 1)
-            result.forcedCells += static_cast<int>(cells.size());
-        result.grid.cells.insert(result.grid.cells.end(), cells.begin(), cells.end());
-    }
-    std::sort(result.grid.cells.begin(), result.grid.cells.end(), [](const GridCell& a, const GridCell& b) {
-        return a.row != b.row ? a.row < b.row : a.column < b.column;
-    });
-    return result;
+    std::vector<std::size_t> ownerOfPlace(columns * lattice.rows());
+    for (std::size_t place = 0; place < ownerOfPlace.size(); ++place)
+        ownerOfPlace[place] = sets.find(place);
+    CutCells cut = cutIntoCells(ownerOfPlace, columns);
+    const bool areClosed =
+        std::all_of(cut.cells.begin(), cut.cells.end(), [&](const GridCell& cell) { return isClosed(lattice, cell); });
+    return {{lattice.xs, lattice.ys, std::move(cut.cells)}, cut.forced, areClosed};
+}
+
+bool isClosed(const RuleLattice& lattice, const GridCell& cell) {
+    const auto firstRow = static_cast<std::size_t>(cell.row), firstColumn = static_cast<std::size_t>(cell.column);
+    const std::size_t endRow = firstRow + static_cast<std::size_t>(cell.rowSpan);
+    const std::size_t endColumn = firstColumn + static_cast<std::size_t>(cell.columnSpan);
+    for (std::size_t column = firstColumn; column < endColumn; ++column)
+        if (!lattice.isDrawnAbove(firstRow, column) || !lattice.isDrawnAbove(endRow, column))
+            return false;
+    for (std::size_t row = firstRow; row < endRow; ++row)
+        if (!lattice.isDrawnLeftOf(row, firstColumn) || !lattice.isDrawnLeftOf(row, endColumn))
+            return false;
+    return true;
 }
 
 } // namespace orvane::layout

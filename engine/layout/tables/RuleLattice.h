@@ -35,10 +35,14 @@ std::optional<RuleLattice> buildLattice(const std::vector<BorderLine>& lines, co
 /// A grid and how well its lines told it.
 struct LatticeGrid {
     TableGrid grid;
-    int forcedCells = 0; ///< cells that had to be cut out of a shape that is no rectangle
+    int forcedCells = 0;   ///< cells that had to be cut out of a shape that is no rectangle
+    bool isClosed = false; ///< all sides of all its cells are drawn
 };
 
 /// The cells of a lattice: places without a drawn side between them are one cell.
 LatticeGrid gridOf(const RuleLattice& lattice);
+
+/// Whether all four sides of a cell of the lattice's grid are drawn.
+bool isClosed(const RuleLattice& lattice, const GridCell& cell);
 
 } // namespace orvane::layout

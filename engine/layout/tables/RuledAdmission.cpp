@@ -89,7 +89,9 @@ TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const 
         return TableVerdict::SinglePlace;
     if (!tilesGrid(grid) || evidence.forcedCells > parameters.forcedShare * cellCount)
         return TableVerdict::BrokenGrid;
-    if (text.wordCount == 0 || !hasFilledRowOrColumn(grid, text, parameters))
+    // A grid that is drawn to the last side may be one to fill in.
+    const bool isToFillIn = evidence.isClosed && grid.rows() > 1 && grid.columns() > 1;
+    if (text.wordCount == 0 || !(isToFillIn || hasFilledRowOrColumn(grid, text, parameters)))
         return TableVerdict::Empty;
     if (hasStraddlingWords(text, parameters))
         return TableVerdict::StraddlingWords;

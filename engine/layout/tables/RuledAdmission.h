@@ -10,7 +10,8 @@ namespace orvane::layout {
 
 /// What the finder of a drawn grid knows beside the grid.
 struct GridEvidence {
-    int forcedCells = 0; ///< see LatticeGrid
+    int forcedCells = 0;   ///< see LatticeGrid
+    bool isClosed = false; ///< see LatticeGrid
 };
 
 /// Judges a grid drawn with rules.

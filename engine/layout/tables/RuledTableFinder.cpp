@@ -12,9 +12,10 @@
 namespace orvane::layout {
 namespace {
 
-bool isTable(const PageText& page, const TableGrid& grid, int forcedCells, const TableParameters::Tables& parameters) {
+bool isTable(const PageText& page, const TableGrid& grid, const GridEvidence& evidence,
+             const TableParameters::Tables& parameters) {
     const CellText text = assignWords(page.lines, grid, parameters);
-    return judgeRuledTable(page, grid, text, {forcedCells}, parameters) == TableVerdict::Table;
+    return judgeRuledTable(page, grid, text, evidence, parameters) == TableVerdict::Table;
 }
 
 bool hasWords(const PageText& page, const TableGrid& grid, const TableParameters::Tables& parameters) {
@@ -33,17 +34,17 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
             continue;
         LatticeGrid found = gridOf(*lattice);
         std::vector<TableGrid> nested = takeNestedGrids(found, *lattice, page.lines, parameters);
-        const bool isFound = isTable(page, found.grid, found.forcedCells, parameters);
+        const bool isFound = isTable(page, found.grid, {found.forcedCells, found.isClosed}, parameters);
         // Within a cell a few empty fields are a table, too; in a box alone they must be one of their own.
         for (TableGrid& inner : nested)
-            if (isFound ? hasWords(page, inner, parameters) : isTable(page, inner, 0, parameters))
+            if (isFound ? hasWords(page, inner, parameters) : isTable(page, inner, {}, parameters))
                 grids.push_back(std::move(inner));
         if (!isFound)
             continue;
         TableGrid parted = partAtColumns(partAtGrounds(found.grid, page, parameters), page.lines, parameters);
         parted = partAtNumbers(parted, page.lines, parameters);
         parted = partAtTextRows(parted, page.lines, parameters);
-        const bool isBetter = parted.cells != found.grid.cells && isTable(page, parted, 0, parameters);
+        const bool isBetter = parted.cells != found.grid.cells && isTable(page, parted, {}, parameters);
         grids.push_back(isBetter ? std::move(parted) : std::move(found.grid));
     }
     return grids;

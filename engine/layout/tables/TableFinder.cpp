@@ -2,6 +2,7 @@
 
 #include "layout/tables/BorderlessTableFinder.h"
 #include "layout/tables/CellBuilder.h"
+#include "layout/tables/FormGridFinder.h"
 #include "layout/tables/GroundTableFinder.h"
 #include "layout/tables/HalfRuledTableFinder.h"
 #include "layout/tables/LabelledTableFinder.h"
@@ -79,6 +80,8 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
             tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), context, parameters));
         }
     };
+    const std::vector<BorderLine> drawn = collectBorderLines(page.rules, limits);
+    take(findFormGrids(page, drawn, limits), drawn, TableEdges::Boxed);
     const std::vector<BorderLine> lines = collectBorderLines(page.rules, limits);
     std::vector<TableGrid> ruled = findRuledGrids(page, lines, limits);
     std::vector<TableGrid> stacked = takeSingleColumns(ruled);

@@ -93,6 +93,18 @@ struct TableParameters {
         double levelShare = 1.0 / 3; ///< of the rows that stand level; with no more it is no table
         int fewestRowsInStep = 2;    ///< with texts of one size, to tell
 
+        // Forms: boxes to fill in beside their labels.
+        double leastFieldHeight = 7.0;   ///< points; lower boxes have no room for text
+        double leastFieldWidth = 14.0;   ///< points; narrower ones are squares to tick
+        double closedShare = 0.8;        ///< of a drawn table's cells that are closed on all sides
+        double formRowSpace = 48.0;      ///< points; rows of fields with more between them are of two forms
+        double formBarShare = 0.5;       ///< of a form's width; a bar behind a heading is wider
+        std::size_t fewestFields = 3;    ///< with labels, to make a form unless they are fields of the PDF itself
+        std::size_t mostLabelWords = 40; ///< of a field; more are a text of its own
+        int mostLinesBetweenFields = 2;  ///< of text between two rows of fields of one form
+        double openFieldShare = 0.5;     ///< of a form's fields that are blank, or fields of the PDF itself
+        double labelledFieldShare = 0.5; ///< of a form's fields that have a label before them
+
         // Rows and columns of a drawn grid between which no rule is drawn.
         int fewestPartedRows = 3;   ///< lines of text, or cells, that must show them
         double numberedShare = 0.8; ///< of a cell's lines that must be numbers for it to list them

@@ -45,5 +45,29 @@ TEST(BlockAssembler, CountsTheGapBehindATableFromItsLastPart) {
     EXPECT_NEAR(pointsFromTwips(tests::paragraphAt(document, 1).properties.spaceBefore), 210 - 9.71 - 172, 0.3);
 }
 
+TEST(BlockAssembler, DrawsRulesBetweenParagraphsOnlyWhereTwoAreAlike) {
+    const document::Border rule{document::BorderKind::Single, EighthPoints(6), {}, 4};
+    const auto betweenWith = [&](const std::vector<bool>& areRuled) {
+        DocumentDraft draft = tests::makeDraft(1);
+        double baseline = 100;
+        for (const bool isRuled : areRuled) {
+            DraftBlock& block = draft.blocks.emplace_back(
+                tests::makeBlock(tests::makeParagraph({tests::makeLine("some words", 72, baseline)})));
+            if (isRuled)
+                block.paragraph()->pieces[0].text.borders.top = rule;
+            baseline += 24;
+        }
+        const document::Document document = tests::documentOf(std::move(draft));
+        std::string drawn;
+        for (const document::Block& block : document.sections.at(0).blocks)
+            drawn += std::get<document::Paragraph>(block.value).properties.betweenBorder == rule ? '+' : '-';
+        return drawn;
+    };
+    EXPECT_EQ(betweenWith({true, false}), "--");
+    EXPECT_EQ(betweenWith({true, true}), "++");
+    EXPECT_EQ(betweenWith({true, true, false, true}), "++--");
+    EXPECT_EQ(betweenWith({false, true, true, true}), "-+++");
+}
+
 } // namespace
 } // namespace orvane::layout

@@ -132,6 +132,22 @@ TEST(TableAssembler, GivesALineOfItsOwnMoreRoomThanWrappedOnes) {
     EXPECT_LT(marginRight(false), marginRight(true)) << "a stand-in for its font must not break it";
 }
 
+TEST(TableAssembler, KeepsLowRowsWithoutTextLow) {
+    const auto sizeIn = [](double height) {
+        DocumentDraft draft = draftOfTable(Reading::FromLeft);
+        DraftCell& cell = std::get<DraftTable>(draft.blocks[0].value).cells[2];
+        cell.blocks.clear();
+        cell.cell.box.bottom = cell.cell.box.top + height;
+        const document::Document document = tests::documentOf(draft);
+        const auto& table = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+        const auto& paragraph = std::get<document::Paragraph>(table.rows[1].cells[0].blocks.at(0).value);
+        return paragraph.markProperties.size;
+    };
+    EXPECT_EQ(sizeIn(5.2), HalfPoints(8));
+    EXPECT_EQ(sizeIn(0.5), HalfPoints(2)) << "no program sets smaller text";
+    EXPECT_EQ(sizeIn(40), sizeIn(20)) << "as the body text";
+}
+
 TEST(TableAssembler, LeavesTheBordersTheirRoom) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     // The lines reach from 2.29 points below the rows' upper edges to 5.5 above the lower ones.

@@ -38,9 +38,33 @@ TEST(CellLook, UsesUpTheRulesAlongTheSidesOfCells) {
         TableDraft table = tableOfTwo();
         std::vector<Rule> rules{row.rule};
         const std::vector<BorderLine> lines = collectBorderLines(rules, {});
-        drawBorders(table, rules, lines, {});
+        drawBorders(table, TableEdges::Ruled, rules, lines, {});
         EXPECT_EQ(rules[0].isUsed, row.isUsed) << row.why;
     }
+}
+
+TEST(CellLook, DrawsTheBordersThatRulesCover) {
+    const auto top = [](const std::vector<Rule>& drawn, TableEdges edges) {
+        TableDraft table = tableOfTwo();
+        std::vector<Rule> rules = drawn;
+        drawBorders(table, edges, rules, collectBorderLines(rules, {}), {});
+        return table.cells[0].borders.top.kind != document::BorderKind::None;
+    };
+    const Rule most = ruleAt(RuleDirection::Horizontal, 0, 0, 75);
+    EXPECT_TRUE(top({most}, TableEdges::Ruled));
+    EXPECT_FALSE(top({most}, TableEdges::Boxed)) << "the box beside the cell ends there";
+    EXPECT_TRUE(top({ruleAt(RuleDirection::Horizontal, 0, 0, 100)}, TableEdges::Boxed));
+    const Rule half = ruleAt(RuleDirection::Horizontal, 0, 0, 50);
+    EXPECT_FALSE(top({half, half}, TableEdges::Ruled)) << "drawn twice it covers no more";
+}
+
+TEST(CellLook, DrawsNoBorderOfRulesThatOnlyEndNearAShortSide) {
+    TableDraft table = tableOfTwo();
+    for (CellDraft& cell : table.cells)
+        cell.box.bottom = 5;
+    std::vector<Rule> rules{ruleAt(RuleDirection::Vertical, 0, -40, 0), ruleAt(RuleDirection::Vertical, 0, 5, 45)};
+    drawBorders(table, TableEdges::Ruled, rules, collectBorderLines(rules, {}), {});
+    EXPECT_EQ(table.cells[0].borders.left.kind, document::BorderKind::None);
 }
 
 TEST(CellLook, UsesUpTheGroundsThatCoverCells) {

@@ -71,6 +71,7 @@ private:
         m_look = {};
         m_angle = 0;
         m_isRightToLeft = false;
+        m_field = -1;
         for (std::string word; in >> word;) {
             if (word == "bold")
                 m_look.isBold = true;
@@ -78,6 +79,8 @@ private:
                 m_look.isItalic = true;
             else if (word == "right-to-left")
                 m_isRightToLeft = true;
+            else if (word == "field")
+                m_field = 0;
             else if (word == "turned")
                 in >> m_angle;
             else
@@ -99,8 +102,11 @@ private:
     void addLine(Line line) {
         line.firstPaintOrder = m_paintOrder++;
         line.isRightToLeft = m_isRightToLeft;
-        for (Word& word : line.words)
+        for (Word& word : line.words) {
             word.isRightToLeft = m_isRightToLeft;
+            for (Span& span : word.spans)
+                span.look.field = m_field;
+        }
         m_case.page.lines.push_back(std::move(line));
     }
 
@@ -261,6 +267,7 @@ private:
     LineLook m_look;
     double m_angle = 0;
     bool m_isRightToLeft = false;
+    int m_field = -1;
     std::uint32_t m_paintOrder = 1;
     bool m_isExpecting = false;
 };

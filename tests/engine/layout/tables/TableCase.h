@@ -16,6 +16,7 @@
 ///     look bold 12 turned 270                   for the text that follows; "look" alone goes back to 10 points upright
 ///     look italic                               in italic letters
 ///     look right-to-left                        the text that follows reads from the right
+///     look field                                the text that follows is the value of an interactive field
 ///     font Courier fixed                        another font for the text that follows; "fixed" is a typewriter's
 ///     h 60 50 250                               a horizontal rule at y 60 from x 50 to x 250; "double", "dashed",
 ///                                               "width 2" may follow
