@@ -56,6 +56,8 @@ struct AssemblyParameters {
         double slackBelow = 0.6;    ///< points; of the room below the text that is not written as a margin
         double slackBeside = 0.6;   ///< points; likewise of the room where its lines end
         double emptyLeading = 1.3;  ///< of the font size; the lines of an empty cell are no higher
+        double leastDrop =
+            0.8; ///< of the font size; a text that begins by more below others of its row is below a blank line
     } tableCells;
 
     /// LineSpare: lines that are all of their paragraphs.

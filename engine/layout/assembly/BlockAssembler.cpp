@@ -103,6 +103,17 @@ void addEntry(std::vector<document::Block>& blocks, bool isContents, document::P
     contents.entries.push_back(std::move(entry));
 }
 
+bool isDrawnAlike(const document::Border& some, const document::Border& other) {
+    return some.kind == other.kind &&
+           (some.kind == document::BorderKind::None || (some.width == other.width && some.color == other.color));
+}
+
+/// Whether word processors take the borders of two paragraphs for those of one box, however far from the text.
+bool areDrawnAlike(const document::Borders& some, const document::Borders& others) {
+    return isDrawnAlike(some.top, others.top) && isDrawnAlike(some.bottom, others.bottom) &&
+           isDrawnAlike(some.left, others.left) && isDrawnAlike(some.right, others.right);
+}
+
 /// Leaves a border between equal paragraphs only where there are two. LibreOffice takes the first of a header and that
 /// of the footer for such, and draws neither's.
 void dropLoneBetweenBorders(std::vector<document::Block>& blocks) {
@@ -110,7 +121,8 @@ void dropLoneBetweenBorders(std::vector<document::Block>& blocks) {
     for (std::size_t i = 0; i < blocks.size(); ++i) {
         auto* paragraph = std::get_if<document::Paragraph>(&blocks[i].value);
         const auto* below = i + 1 < blocks.size() ? std::get_if<document::Paragraph>(&blocks[i + 1].value) : nullptr;
-        const bool isShared = paragraph && below && paragraph->properties.borders == below->properties.borders;
+        const bool isShared =
+            paragraph && below && areDrawnAlike(paragraph->properties.borders, below->properties.borders);
         if (paragraph && !isShared && !isSharedAbove)
             paragraph->properties.betweenBorder = {};
         isSharedAbove = isShared;

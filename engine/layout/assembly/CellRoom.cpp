@@ -1,6 +1,7 @@
 #include "layout/assembly/CellRoom.h"
 
 #include <algorithm>
+#include <map>
 
 namespace orvane::layout {
 namespace {
@@ -44,6 +45,20 @@ Room smallestRoom(const AssembledBlock& table, const DraftTable& draft, const As
     return {std::max(0.0, room.above), std::max(0.0, room.below - limits.slackBelow)};
 }
 
+/// The least distance of a text from the upper edge of its row, by row.
+std::map<int, double> leastDrops(const AssembledBlock& table, const DraftTable& draft) {
+    std::map<int, double> drops;
+    for (std::size_t i = 0; i < draft.cells.size() && i < table.cells.size(); ++i) {
+        const CellDraft& cell = draft.cells[i].cell;
+        if (!isMeasured(cell, table.cells[i]))
+            continue;
+        const double drop = table.cells[i].front().top - cell.box.top;
+        const auto [least, isFirst] = drops.try_emplace(cell.row, drop);
+        least->second = std::min(least->second, drop);
+    }
+    return drops;
+}
+
 } // namespace
 
 void fitCellRoom(AssembledBlock& table, const AssemblyParameters::TableCells& limits) {
@@ -56,6 +71,23 @@ void fitCellRoom(AssembledBlock& table, const AssemblyParameters::TableCells& li
             cell.marginTop = twipsFromPoints(room.above);
             cell.marginBottom = twipsFromPoints(room.below);
         }
+    }
+}
+
+void lowerCellTexts(AssembledBlock& table, const AssemblyParameters::TableCells& limits) {
+    if (!table.draft || !std::holds_alternative<document::Table>(table.block.value))
+        return;
+    const auto& draft = std::get<DraftTable>(table.draft->value);
+    const std::map<int, double> drops = leastDrops(table, draft);
+    for (std::size_t i = 0; i < draft.cells.size() && i < table.cells.size(); ++i) {
+        const CellDraft& cell = draft.cells[i].cell;
+        if (cell.alignment != document::CellAlignment::Top || !isMeasured(cell, table.cells[i]))
+            continue;
+        AssembledBlock& first = table.cells[i].front();
+        const DraftParagraph* text = first.draftParagraph();
+        const double drop = first.top - cell.box.top - drops.at(cell.row);
+        if (text && first.paragraph() && drop >= limits.leastDrop * text->firstLine().fontSize)
+            first.paragraph()->properties.spaceBefore = twipsFromPoints(drop);
     }
 }
 

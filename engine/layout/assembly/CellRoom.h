@@ -10,4 +10,8 @@ namespace orvane::layout {
 /// Requires: top and bottom of the blocks in the cells are known.
 void fitCellRoom(AssembledBlock& table, const AssemblyParameters::TableCells& limits);
 
+/// Sets the space before texts that begin a line or more below the highest of their row, though they stand at the top
+/// of their cells: below a blank line. Requires: as above.
+void lowerCellTexts(AssembledBlock& table, const AssemblyParameters::TableCells& limits);
+
 } // namespace orvane::layout

@@ -228,6 +228,8 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
         forEachBlock(flow.blocks, flow.kind, [](AssembledBlock& block, FlowKind) { trimCells(block); });
     setGaps(gaps, limits);
     for (BlockFlow& flow : flows) {
+        forEachBlock(flow.blocks, flow.kind,
+                     [&](AssembledBlock& block, FlowKind) { lowerCellTexts(block, context.parameters.tableCells); });
         spaceTablesApart(flow.blocks, context);
         if (flow.kind != FlowKind::Body)
             continue;

@@ -53,14 +53,16 @@ TEST(BlockAssembler, DrawsRulesBetweenParagraphsOnlyWhereTwoAreAlike) {
         for (const bool isRuled : areRuled) {
             DraftBlock& block = draft.blocks.emplace_back(
                 tests::makeBlock(tests::makeParagraph({tests::makeLine("some words", 72, baseline)})));
-            if (isRuled)
+            if (isRuled) {
                 block.paragraph()->pieces[0].text.borders.top = rule;
+                block.paragraph()->pieces[0].text.borders.top.spacePoints = static_cast<int>(baseline / 24);
+            }
             baseline += 24;
         }
         const document::Document document = tests::documentOf(std::move(draft));
         std::string drawn;
         for (const document::Block& block : document.sections.at(0).blocks)
-            drawn += std::get<document::Paragraph>(block.value).properties.betweenBorder == rule ? '+' : '-';
+            drawn += std::get<document::Paragraph>(block.value).properties.betweenBorder.kind == rule.kind ? '+' : '-';
         return drawn;
     };
     EXPECT_EQ(betweenWith({true, false}), "--");

@@ -148,6 +148,22 @@ TEST(TableAssembler, KeepsLowRowsWithoutTextLow) {
     EXPECT_EQ(sizeIn(40), sizeIn(20)) << "as the body text";
 }
 
+TEST(TableAssembler, SetsTextBelowABlankLineAsFarBelowTheOthersOfItsRow) {
+    const auto spaceBefore = [](double drop, document::CellAlignment alignment) {
+        DocumentDraft draft = draftOfTable(Reading::FromLeft);
+        DraftCell& cell = std::get<DraftTable>(draft.blocks[0].value).cells[1];
+        cell.cell.alignment = alignment;
+        cell.blocks[0] = tests::makeBlock(tests::makeParagraph({tests::makeLine("right", 278, 112 + drop)}));
+        const document::Document document = tests::documentOf(draft);
+        const auto& table = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+        const auto& paragraph = std::get<document::Paragraph>(table.rows[0].cells[1].blocks.at(0).value);
+        return pointsFromTwips(paragraph.properties.spaceBefore);
+    };
+    EXPECT_NEAR(spaceBefore(13, document::CellAlignment::Top), 13, 0.1);
+    EXPECT_EQ(spaceBefore(2, document::CellAlignment::Top), 0) << "in the same line";
+    EXPECT_EQ(spaceBefore(13, document::CellAlignment::Center), 0) << "its alignment puts it there";
+}
+
 TEST(TableAssembler, LeavesTheBordersTheirRoom) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     // The lines reach from 2.29 points below the rows' upper edges to 5.5 above the lower ones.
