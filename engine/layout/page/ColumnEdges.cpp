@@ -53,7 +53,8 @@ ColumnSpan evenedAtMiddle(ColumnSpan span, std::span<const Line> lines, double p
         const double snap = parameters.sameMiddle * line.fontSize;
         if (line.box.right < span.right - snap)
             continue;
-        if (std::abs(line.box.centerX() - pageWidth / 2) > snap || line.box.left <= span.left + line.fontSize)
+        if (std::abs(line.box.centerX() - pageWidth / 2) > snap ||
+            line.box.left <= span.left + parameters.titleIndent * line.fontSize)
             return span;
         isReached = true;
     }

@@ -54,6 +54,7 @@ struct PageParameters {
         double nameShare = 0.6;          ///< of the margin's lines that must be such names
         double sameRow = 0.5;            ///< of the font size; texts whose middles are nearer stand on one row
         double clearGutter = 3.0;        ///< of the font size; between texts that do not fill their columns
+        double titleIndent = 4.0;        ///< of the font size; a title in the middle of the page begins farther in
         double textStep = 2.0;           ///< of the font size; lines that stand farther apart are not of one text
         double shortestText = 2.0;       ///< of the font size; what is narrower is a sign, not a line of text
         double levelStep = 0.12;         ///< of the font size; baselines that differ by no more are level

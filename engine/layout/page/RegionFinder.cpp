@@ -52,7 +52,9 @@ private:
         }
         if (band.columns.size() == 1) {
             widenToTextArea(band.columns[0]);
-            band.columns[0] = evenedAtMiddle(band.columns[0], linesOf(first), m_pageWidth, m_parameters);
+            // Where nearly all lines of the document end well before these do, they may be titles.
+            if (band.columns[0].right > m_context.textArea.right + m_context.bodyFontSize)
+                band.columns[0] = evenedAtMiddle(band.columns[0], linesOf(first), m_pageWidth, m_parameters);
         }
         const double blank = blankBeforeLast(band.columns);
         widenIntoGutters(band.columns);
