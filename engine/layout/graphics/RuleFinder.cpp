@@ -1,5 +1,6 @@
 #include "layout/graphics/RuleFinder.h"
 
+#include "layout/graphics/BroadRules.h"
 #include "layout/graphics/GradientMaker.h"
 #include "layout/graphics/GroundOutlines.h"
 #include "layout/graphics/PathPieces.h"
@@ -170,6 +171,7 @@ RuledPage findRules(const pdf::PageContent& page, const GraphicsParameters& para
     RuledPage result;
     PathReader(page, parameters, result).read();
     std::erase_if(result.rules, [](const Rule& rule) { return rule.color == kWhite; });
+    takeBroadRules(result.rules, result.grounds, parameters.rules);
     mergeRules(result.rules, parameters);
     dropPaper(result.grounds, page, parameters.rules);
     dropGroundOutlines(result.rules, result.grounds, parameters.rules);

@@ -160,6 +160,47 @@ TEST(RuleFinder, TakesLongBarsForBroadRules) {
     EXPECT_EQ(ruled.grounds.size(), 2u);
 }
 
+TEST(RuleFinder, TakesTheShortSidesOfABroadGridForRules) {
+    PageContentBuilder page;
+    for (const double y : {100.0, 120.0, 140.0})
+        page.horizontalRule(75, 297, y, 6);
+    for (const double x : {72.0, 186.0, 300.0})
+        page.verticalRule(x, 103, 137, 6);
+    const RuledPage ruled = rulesOf(page);
+    ASSERT_EQ(ruled.rules.size(), 6u);
+    EXPECT_TRUE(ruled.grounds.empty());
+    for (const Rule& rule : ruled.rules) {
+        const bool isLevel = rule.direction == RuleDirection::Horizontal;
+        EXPECT_NEAR(rule.from, isLevel ? 72 : 100, 0.01) << "at the middle of the side that it meets";
+        EXPECT_NEAR(rule.to, isLevel ? 300 : 140, 0.01);
+        EXPECT_NEAR(rule.width, 6, 0.01);
+    }
+}
+
+TEST(RuleFinder, TakesTheSidesOfASmallBroadBoxForRules) {
+    PageContentBuilder page;
+    page.filledRectangle({72, 100, 112, 105}, kBlack);
+    page.filledRectangle({72, 120, 112, 125}, kBlack);
+    page.filledRectangle({72, 105, 77, 120}, kBlack);
+    page.filledRectangle({107, 105, 112, 120}, kBlack);
+    const RuledPage ruled = rulesOf(page);
+    EXPECT_EQ(ruled.rules.size(), 4u);
+    EXPECT_TRUE(ruled.grounds.empty());
+}
+
+TEST(RuleFinder, LeavesBarsThatLeadToNoBroadRuleAsGrounds) {
+    PageContentBuilder page;
+    page.horizontalRule(72, 300, 200, 0.5);
+    page.horizontalRule(72, 300, 150, 0.5);
+    page.filledRectangle({80, 150, 85, 200}, kBlack); // a bar as high as the scale, between thin rules
+    page.horizontalRule(72, 300, 400, 5);
+    page.filledRectangle({80, 350, 85, 400}, kBlack);            // one end is free
+    page.filledRectangle({90, 370, 95, 397.5}, {200, 220, 240}); // another colour
+    const RuledPage ruled = rulesOf(page);
+    EXPECT_EQ(ruled.rules.size(), 3u);
+    EXPECT_EQ(ruled.grounds.size(), 3u);
+}
+
 TEST(RuleFinder, TakesRoundedRectanglesAsRectangles) {
     PageContentBuilder page;
     pdf::Path& path = page.newPath();
