@@ -7,6 +7,7 @@
 #include "layout/tables/HalfRuledTableFinder.h"
 #include "layout/tables/LabelledTableFinder.h"
 #include "layout/tables/RuledTableFinder.h"
+#include "layout/tables/SideTableFinder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,6 +65,11 @@ void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& half
     std::erase_if(stacked, [&](const TableGrid& grid) { return overlapsAny(grid, halfRuled); });
 }
 
+bool overlapsAny(const TableGrid& grid, const std::vector<TableDraft>& tables) {
+    return std::any_of(tables.begin(), tables.end(),
+                       [&](const TableDraft& table) { return table.box.intersects(grid.box()); });
+}
+
 } // namespace
 
 std::vector<TableDraft> findTables(PageText& page, const DocumentContext& context, const LayoutParameters& parameters,
@@ -91,6 +97,9 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     chooseBetween(stacked, halfRuled, others, limits);
     take(std::move(halfRuled), others, TableEdges::HalfRuled);
     take(std::move(stacked), others, TableEdges::Ruled);
+    std::vector<TableGrid> sided = findSideGrids(page, parameters);
+    std::erase_if(sided, [&](const TableGrid& grid) { return overlapsAny(grid, tables); });
+    take(std::move(sided), collectBorderLines(page.rules, limits), TableEdges::HalfRuled);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
     take(findGroundGrids(page, left, tables, limits), left, TableEdges::Ruled);
