@@ -8,6 +8,7 @@
 #include "layout/tables/LabelledTableFinder.h"
 #include "layout/tables/RuledTableFinder.h"
 #include "layout/tables/SideTableFinder.h"
+#include "layout/tables/TextColumns.h"
 
 #include <algorithm>
 #include <cmath>
@@ -80,7 +81,8 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
         // The smallest first: a table within a cell is found before the one around it.
         std::sort(grids.begin(), grids.end(),
                   [](const TableGrid& a, const TableGrid& b) { return a.box().area() < b.box().area(); });
-        for (const TableGrid& grid : grids) {
+        for (const TableGrid& found : grids) {
+            const TableGrid grid = partAtTexts(found, page.lines, limits);
             const CellText text = assignWords(page.lines, grid, limits);
             std::vector<TableDraft> nested = takeNested(tables, grid);
             tables.push_back(buildTable(page, grid, text, edges, lines, std::move(nested), context, parameters));

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "layout/tables/TableGrid.h"
+#include "layout/tables/TableParameters.h"
+#include "layout/text/PageText.h"
+
+namespace orvane::layout {
+
+/// Parts the cells in which texts of several lines stand side by side: each of these goes on below itself, in lower
+/// case or in the middle of its own column, and none in the next one.
+/// Requires: the grid is tiled.
+TableGrid partAtTexts(const TableGrid& grid, const std::vector<Line>& lines, const TableParameters::Tables& parameters);
+
+} // namespace orvane::layout
