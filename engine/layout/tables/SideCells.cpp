@@ -39,8 +39,10 @@ public:
                                 isNear(columns.back().back().box.bottom, box.top);
             if (!goesOn)
                 columns.emplace_back();
-            columns.back().push_back({box, headOf(box)});
+            columns.back().push_back({box, headOf(box), std::nullopt});
         }
+        for (SideColumn& column : columns)
+            addHeadRow(column);
         return columns;
     }
 
@@ -51,16 +53,44 @@ private:
         return isNear(a.left, b.left) && isNear(a.right, b.right) && isNear(a.top, b.top) && isNear(a.bottom, b.bottom);
     }
 
-    std::optional<Rect> headOf(const Rect& side) const {
-        std::optional<Rect> head;
-        const Rect corner = Rect{side.right, side.top, side.right, side.top}.inflated(m_parameters.filledSnap);
-        m_index.visit(corner, [&](std::size_t i) {
-            const Rect& box = m_boxes[i];
-            if (isNear(box.left, side.right) && isNear(box.top, side.top) &&
-                box.bottom < side.bottom - m_parameters.minimumCellSide && box.width() > side.width())
-                head = box;
+    /// The first ground at a corner for which `isSought` holds.
+    template<typename Predicate>
+    std::optional<Rect> groundAt(Point corner, const Predicate& isSought) const {
+        std::optional<Rect> found;
+        m_index.visit(Rect{corner.x, corner.y, corner.x, corner.y}.inflated(m_parameters.filledSnap),
+                      [&](std::size_t i) {
+                          if (!found && isSought(m_boxes[i]))
+                              found = m_boxes[i];
+                      });
+        return found;
+    }
+
+    /// The head that is filled cell by cell begins with the first cell; one that is filled as a whole lies above it.
+    void addHeadRow(SideColumn& column) const {
+        SideCell& first = column.front();
+        Rect row = first.box;
+        while (const auto next = groundAt({row.right, row.top}, [&](const Rect& box) {
+                   return isNear(box.left, row.right) && isNear(box.top, row.top) && isNear(box.bottom, row.bottom);
+               }))
+            row.right = next->right;
+        if (row.right > first.box.right) {
+            first.row = row;
+            return;
+        }
+        const Rect& below = first.box;
+        const auto above = groundAt({below.left, below.top}, [&](const Rect& box) {
+            return isNear(box.left, below.left) && isNear(box.bottom, below.top) &&
+                   box.right > below.right + m_parameters.filledSnap;
         });
-        return head;
+        if (above)
+            column.insert(column.begin(), {{below.left, above->top, below.right, above->bottom}, std::nullopt, *above});
+    }
+
+    std::optional<Rect> headOf(const Rect& side) const {
+        return groundAt({side.right, side.top}, [&](const Rect& box) {
+            return isNear(box.left, side.right) && isNear(box.top, side.top) &&
+                   box.bottom < side.bottom - m_parameters.minimumCellSide && box.width() > side.width();
+        });
     }
 
     const TableParameters::Tables& m_parameters;

@@ -12,6 +12,7 @@ namespace orvane::layout {
 struct SideCell {
     Rect box;
     std::optional<Rect> head; ///< filled too, begins level with the cell and ends far above its end
+    std::optional<Rect> row;  ///< of the first cell where the whole row is filled, as the head of the table
 };
 
 /// Filled cells one below the other, with the same sides.

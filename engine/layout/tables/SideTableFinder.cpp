@@ -21,6 +21,10 @@ struct RowsBeside {
     std::size_t endGroup = 0;
 };
 
+Point middleOf(const TextPiece& piece) {
+    return {piece.box.centerX(), piece.box.centerY()};
+}
+
 bool isAbove(double y, const TextPiece& piece) {
     return y < piece.box.centerY();
 }
@@ -38,7 +42,7 @@ public:
         , m_parameters(parameters.tables) {
         m_box = side.front().box;
         for (const SideCell& cell : side)
-            m_box = m_box.united(cell.head ? cell.box.united(*cell.head) : cell.box);
+            m_box = m_box.united(cell.box).united(cell.head.value_or(cell.box)).united(cell.row.value_or(cell.box));
         const auto first = std::upper_bound(pieces.begin(), pieces.end(), m_box.top, isAbove);
         for (auto piece = first; piece != pieces.end() && piece->box.centerY() < m_box.bottom; ++piece)
             sortIn(*piece);
@@ -72,9 +76,8 @@ private:
     }
 
     bool isInHead(const TextPiece& piece) const {
-        return std::any_of(m_side.begin(), m_side.end(), [&](const SideCell& cell) {
-            return cell.head && cell.head->contains(Point{piece.box.centerX(), piece.box.centerY()});
-        });
+        return std::any_of(m_side.begin(), m_side.end(),
+                           [&](const SideCell& cell) { return cell.head && cell.head->contains(middleOf(piece)); });
     }
 
     /// Whether the texts begin right beside the cells.
@@ -86,10 +89,12 @@ private:
                first->box.left <= right() + m_parameters.groundNeighbour * first->fontSize;
     }
 
-    /// Whether a text beside stands on a ground of its own: then the cells are filled row by row.
+    /// Whether a text beside stands on a ground of its own below the head: then the cells are filled row by row.
     bool areTextsFilled() const {
         return std::any_of(m_beside.begin(), m_beside.end(), [&](const TextPiece& piece) {
-            const Point middle{piece.box.centerX(), piece.box.centerY()};
+            const Point middle = middleOf(piece);
+            if (m_side.front().row && m_side.front().row->contains(middle))
+                return false;
             bool isFilled = false;
             m_grounds.visit({middle.x, middle.y, middle.x, middle.y}, [&](std::size_t i) {
                 isFilled = isFilled || !m_page.grounds[i].box.contains(m_side.front().box);
@@ -135,13 +140,26 @@ private:
         const bool hasHeads = std::any_of(m_side.begin(), m_side.end(), [](const SideCell& cell) { return cell.head; });
         if (hasHeads)
             return true;
+        const std::size_t first = m_side.front().row ? 1 : 0;
         std::size_t labelled = 0;
-        for (std::size_t i = 0; i < m_side.size(); ++i)
-            labelled += m_rows[i].end > m_rows[i].first &&
-                        std::any_of(m_labels.begin(), m_labels.end(), [&](const TextPiece& label) {
-                            return m_side[i].box.contains(Point{label.box.centerX(), label.box.centerY()});
-                        });
-        return (m_side.size() >= m_parameters.fewestStripes && labelled == m_side.size()) || keepsColumns();
+        for (std::size_t i = first; i < m_side.size(); ++i)
+            labelled += m_rows[i].end > m_rows[i].first && countLabels(i) > 0;
+        return (labelled >= m_parameters.fewestStripes && labelled == m_side.size() - first) || keepsColumns();
+    }
+
+    /// The texts within a filled cell.
+    std::ptrdiff_t countLabels(std::size_t i) const {
+        return std::count_if(m_labels.begin(), m_labels.end(),
+                             [&](const TextPiece& label) { return m_side[i].box.contains(middleOf(label)); });
+    }
+
+    /// A text alone in the filled row above all columns heads them all.
+    bool isTitle(std::size_t i) const {
+        const RowsBeside& beside = m_rows[i];
+        std::size_t texts = static_cast<std::size_t>(countLabels(i));
+        for (std::size_t row = beside.first; row < beside.end; ++row)
+            texts += m_aligned.rows[row].pieces.size();
+        return m_side[i].row && texts <= 1;
     }
 
     bool keepsColumns() const {
@@ -178,6 +196,10 @@ private:
         const auto row = [&] { return static_cast<int>(grid.rowEdges.size()) - 1; };
         const int columns = grid.columns() - 1;
         grid.rowEdges.push_back(m_side[i].box.top);
+        if (isTitle(i)) {
+            grid.cells.push_back({row(), 0, 1, columns + 1});
+            return;
+        }
         const std::size_t side = grid.cells.size();
         const int firstRow = row();
         grid.cells.push_back({firstRow, 0, 1, 1});
