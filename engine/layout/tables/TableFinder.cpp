@@ -101,7 +101,7 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     take(std::move(stacked), others, TableEdges::Ruled);
     std::vector<TableGrid> sided = findSideGrids(page, parameters);
     std::erase_if(sided, [&](const TableGrid& grid) { return overlapsAny(grid, tables); });
-    take(std::move(sided), collectBorderLines(page.rules, limits), TableEdges::HalfRuled);
+    take(std::move(sided), collectBorderLines(page.rules, limits), TableEdges::Ruled);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
     take(findGroundGrids(page, left, tables, limits), left, TableEdges::Ruled);
