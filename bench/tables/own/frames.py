@@ -154,3 +154,43 @@ def many_rows_of_texts_in_one_drawn_row(d, v):
             ("furlong", "as long as a furrow"), ("gill", "a quarter of a pint"), ("hand", "the height of horses")))],
         Look(align="ll", rules=((0, ABOVE), (0, BELOW), (-1, BELOW)), columns_ruled=(0, 1, 2)))
     d.add(CLOSING)
+
+
+@trap(font="Liberation Sans", size=10)
+def broad_borders_around_low_cells(d, v):
+    d.add(RUNNING)
+    d.table([2.6, 2.6, 2.6, 2.6], ["Shift|First|Second|Third", "Looms|12|14|9", "Hands|30||22"], Look(grid=True, rule_width=6, align="lrrr"))
+    d.add(CLOSING)
+
+
+@trap(font="Liberation Sans", size=10)
+def filled_label_spans_the_rows_below_a_filled_head(d, v):
+    d.add("Work done", bold=True)
+    for year, place, task, tools in (
+            ("May 2009 to June 2010", "River Works", "Two locks, and the weir above them", "Chisels, a saw and ropes that the harbour lent for as long as the work was under way"),
+            ("July 2010", "Town Hall", "The clock in the tower", "None but those that hung in the tower")):
+        d.table([3, 3, 9], [f"{year}|{place}|<", f"^|Task :|{task}", f"^|Tools :|{tools}", "^|Result :|Done in time"],
+                Look(align="lll", head_align="lll", head=0, fill={0: "#BBBBBB"}, fill_columns={0: "#BBBBBB"}, upright="top",
+                     padding=0.1, padding_above=0.05))
+    d.add(CLOSING)
+
+
+@trap(font="Liberation Sans", size=10)
+def filled_labels_beside_texts_of_several_lines(d, v):
+    d.add(RUNNING)
+    d.table([3, 9], [
+        "Room|What it is for",
+        "Attic|Whatever nobody wants to have and nobody dares to throw away, for as long as there is room under the roof",
+        "Cellar|Wine, and apples over the winter",
+        "Hall|Coats and hats, and in the time of the fair the boxes of those who come to sell what they have made"],
+        Look(align="ll", fill={0: "#888888"}, fill_columns={0: "#DDDDDD"}, upright="top", padding=0.1, padding_above=0.05))
+    d.add(CLOSING)
+
+
+@trap(font="Liberation Sans", size=10)
+def texts_of_two_lines_side_by_side_in_a_drawn_cell(d, v):
+    d.add(RUNNING)
+    d.table([3, 2.4, 2.4, 2.4, 2.4], [
+        "Boat|Shared//1 to 3|Shared//4 to 12|Shared//13 to 20|Alone//any day", "^|price of a seat|<|<|price", "Ferry|115|210|370|760"],
+        Look(align="lcccc", head=2, head_align="lcccc", rules=((0, ABOVE), (0, BELOW), (1, BELOW), (2, BELOW)), columns_ruled=(0, 1, 5)))
+    d.add(CLOSING)

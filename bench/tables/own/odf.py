@@ -44,6 +44,7 @@ class Look:
     cell_rules: tuple = ()           # (row, column) of cells that have a rule below
     columns_ruled: tuple = ()        # columns that have a rule before them
     fill: dict = dataclasses.field(default_factory=dict)  # colours of rows
+    fill_columns: dict = dataclasses.field(default_factory=dict)  # colours of columns, where their rows have none
     bold: tuple = ()
     italic: tuple = ()
     upright: str = ""                # top, middle or bottom; heads at the bottom if empty
@@ -197,7 +198,7 @@ class TableWriter:
                  "left": look.grid or column in look.columns_ruled,
                  "right": look.grid or column + columns in look.columns_ruled}
         borders = "".join(f' fo:border-{side}="{look.rule_width}pt solid #000000"' for side, is_drawn in drawn.items() if is_drawn)
-        fill = look.fill.get(row, "")
+        fill = look.fill.get(row, look.fill_columns.get(column, ""))
         ground = f' fo:background-color="{fill}"' if fill else ""
         upright = look.upright or ("bottom" if row < look.head else "top")
         turned = ' style:writing-mode="bt-lr"' if look.turned_head and row == 0 and column > 0 else ""

@@ -7,6 +7,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <map>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -70,16 +73,21 @@ private:
         return columns;
     }
 
-    /// Whether at least two of the columns have texts of several lines, and each of these goes on from line to line.
+    /// Whether each of the columns goes on from line to line, and two of them show that they do.
     bool areTexts(const std::vector<TextColumn>& columns) const {
         const bool areApart = standApart(columns);
-        int wrapped = 0;
+        int shown = 0;
         for (const TextColumn& column : columns) {
-            if (column.size() > 1 && !goesOn(column, areApart))
-                return false;
-            wrapped += column.size() > 1;
+            bool isShown = false;
+            for (std::size_t i = 1; i < column.size(); ++i) {
+                const bool isRest = areApart && startsLowerCase(column[i]);
+                if (!isNextLine(column[i - 1], column[i]) || !(isRest || areCentered(column[i - 1], column[i])))
+                    return false;
+                isShown = isShown || isRest || areUneven(column[i - 1], column[i]);
+            }
+            shown += isShown;
         }
-        return wrapped >= 2;
+        return shown >= 2;
     }
 
     /// Whether there is more between the columns than a stretched blank.
@@ -90,12 +98,8 @@ private:
         return true;
     }
 
-    bool goesOn(const TextColumn& column, bool areApart) const {
-        for (std::size_t i = 1; i < column.size(); ++i)
-            if (column[i].baseline - column[i - 1].baseline > m_parameters.wrapPitch * column[i].fontSize ||
-                !((areApart && startsLowerCase(column[i])) || areCentered(column[i - 1], column[i])))
-                return false;
-        return true;
+    bool isNextLine(const TextPiece& above, const TextPiece& below) const {
+        return below.baseline - above.baseline <= m_parameters.wrapPitch * below.fontSize;
     }
 
     bool startsLowerCase(const TextPiece& piece) const {
@@ -103,8 +107,13 @@ private:
     }
 
     bool areCentered(const TextPiece& above, const TextPiece& below) const {
-        return std::abs(above.box.centerX() - below.box.centerX()) <= m_parameters.startSnap &&
-               std::abs(above.box.width() - below.box.width()) > m_parameters.unevenTexts * below.fontSize;
+        return std::abs(above.box.centerX() - below.box.centerX()) <= m_parameters.startSnap;
+    }
+
+    /// Whether the lengths of two texts tell that they stand in the middle of one column; numbers are rows.
+    bool areUneven(const TextPiece& above, const TextPiece& below) const {
+        return std::abs(above.box.width() - below.box.width()) > m_parameters.unevenTexts * below.fontSize &&
+               !(isNumeric(above, m_lines) && isNumeric(below, m_lines));
     }
 
     const std::vector<Line>& m_lines;
@@ -138,8 +147,11 @@ void cutCell(GridCell cell, const std::vector<double>& edges, const TableGrid& g
     const int end = cell.column + cell.columnSpan;
     for (const double x : edges) {
         const auto first = grid.columnEdges.begin() + cell.column + 1;
-        const auto nearest = std::min_element(first, grid.columnEdges.begin() + end,
-                                              [&](double a, double b) { return std::abs(a - x) < std::abs(b - x); });
+        const auto last = grid.columnEdges.begin() + end;
+        if (first >= last)
+            break;
+        const auto nearest =
+            std::min_element(first, last, [&](double a, double b) { return std::abs(a - x) < std::abs(b - x); });
         const int column = static_cast<int>(nearest - grid.columnEdges.begin());
         cells.push_back({cell.row, cell.column, cell.rowSpan, column - cell.column});
         cell.column = column;
@@ -147,17 +159,53 @@ void cutCell(GridCell cell, const std::vector<double>& edges, const TableGrid& g
     cells.push_back({cell.row, cell.column, cell.rowSpan, end - cell.column});
 }
 
+/// Of the edges those that the texts of a cell keep: with one of them at least on both sides.
+std::vector<double> edgesKept(const std::vector<TextPiece>& pieces, const std::vector<double>& edges) {
+    std::vector<double> kept;
+    const auto isFilled = [&](double left, double right) {
+        return std::any_of(pieces.begin(), pieces.end(),
+                           [&](const TextPiece& piece) { return piece.box.left >= left && piece.box.right <= right; });
+    };
+    constexpr double kFar = std::numeric_limits<double>::max();
+    for (const double x : edges) {
+        const bool isCrossed = std::any_of(pieces.begin(), pieces.end(), [&](const TextPiece& piece) {
+            return piece.box.left < x && piece.box.right > x;
+        });
+        if (!isCrossed && isFilled(kept.empty() ? -kFar : kept.back(), x) && isFilled(x, kFar))
+            kept.push_back(x);
+    }
+    return kept;
+}
+
+/// The edges within each cell, by index into TableGrid::cells.
+std::vector<std::vector<double>> edgesByCell(const TableGrid& grid, const std::vector<std::vector<TextPiece>>& pieces,
+                                             const TextColumnFinder& finder) {
+    std::vector<std::vector<double>> edges;
+    std::map<std::pair<int, int>, std::vector<double>> edgesOfSpan;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        edges.push_back(finder.edgesWithin(pieces[i]));
+        if (!edges[i].empty())
+            edgesOfSpan.emplace(std::pair(grid.cells[i].column, grid.cells[i].columnSpan), edges[i]);
+    }
+    // What stands above or below in the same drawn column may keep to those of the texts.
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        const auto shown = edgesOfSpan.find({grid.cells[i].column, grid.cells[i].columnSpan});
+        if (edges[i].empty() && shown != edgesOfSpan.end())
+            edges[i] = edgesKept(pieces[i], shown->second);
+    }
+    return edges;
+}
+
 } // namespace
 
 TableGrid partAtTexts(const TableGrid& grid, const std::vector<Line>& lines,
                       const TableParameters::Tables& parameters) {
     const TextColumnFinder finder(lines, parameters);
-    std::vector<std::vector<double>> edgesOfCell;
+    const std::vector<std::vector<double>> edgesOfCell =
+        edgesByCell(grid, piecesByCell(lines, grid, parameters), finder);
     std::vector<double> edges;
-    for (std::vector<TextPiece>& pieces : piecesByCell(lines, grid, parameters)) {
-        edgesOfCell.push_back(finder.edgesWithin(std::move(pieces)));
-        edges.insert(edges.end(), edgesOfCell.back().begin(), edgesOfCell.back().end());
-    }
+    for (const std::vector<double>& ofCell : edgesOfCell)
+        edges.insert(edges.end(), ofCell.begin(), ofCell.end());
     if (edges.empty())
         return grid;
     TableGrid parted = withEdges(grid, edges, parameters.lineSnap);

@@ -7,7 +7,8 @@
 namespace orvane::layout {
 
 /// Parts the cells in which texts of several lines stand side by side: each of these goes on below itself, in lower
-/// case or in the middle of its own column, and none in the next one.
+/// case or in the middle of its own column, and none in the next one. The cells above and below are parted there, too,
+/// where their texts keep to the same columns.
 /// Requires: the grid is tiled.
 TableGrid partAtTexts(const TableGrid& grid, const std::vector<Line>& lines, const TableParameters::Tables& parameters);
 
