@@ -48,4 +48,26 @@ void centreAmongCentred(std::vector<ParagraphDraft>& paragraphs, const Paragraph
     }
 }
 
+void startAmongStarts(std::vector<ParagraphDraft>& paragraphs, const ColumnSpan& column,
+                      const ParagraphParameters& parameters) {
+    const ParagraphParameters::Paragraphs& limits = parameters.paragraphs;
+    std::vector<double> starts;
+    for (const ParagraphDraft& paragraph : paragraphs)
+        if (paragraph.alignment == Alignment::Start && paragraph.lines.size() == 1)
+            starts.push_back(paragraph.box.left);
+    std::sort(starts.begin(), starts.end());
+    for (ParagraphDraft& paragraph : paragraphs) {
+        const bool isMoved = paragraph.alignment == Alignment::Center || paragraph.alignment == Alignment::End;
+        if (!isMoved || paragraph.lines.size() != 1 || paragraph.lines.front().isRightToLeft)
+            continue;
+        const double slack = limits.flushTolerance * paragraph.lines.front().fontSize;
+        const auto first = std::lower_bound(starts.begin(), starts.end(), paragraph.box.left - slack);
+        const auto last = std::upper_bound(first, starts.end(), paragraph.box.left + slack);
+        if (last - first <= limits.flushLines)
+            continue;
+        paragraph.alignment = Alignment::Start;
+        paragraph.indentStart = paragraph.box.left - column.left;
+    }
+}
+
 } // namespace orvane::layout

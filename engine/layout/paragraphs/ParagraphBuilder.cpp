@@ -26,6 +26,7 @@ std::vector<ParagraphDraft> buildParagraphs(std::span<const Line> lines, ColumnS
         from = to;
     }
     centreAmongCentred(paragraphs, parameters);
+    startAmongStarts(paragraphs, column, parameters);
     return paragraphs;
 }
 

@@ -50,5 +50,30 @@ TEST(CentredNeighbours, OtherLinesStayWhereTheyAre) {
         << "below an empty line";
 }
 
+std::vector<Alignment> started(std::vector<ParagraphDraft> paragraphs) {
+    startAmongStarts(paragraphs, {100, 300}, {});
+    std::vector<Alignment> alignments;
+    for (const ParagraphDraft& paragraph : paragraphs) {
+        alignments.push_back(paragraph.alignment);
+        EXPECT_TRUE(paragraph.alignment != kStart || paragraph.indentStart == paragraph.box.left - 100);
+    }
+    return alignments;
+}
+
+TEST(CentredNeighbours, ALineThatBeginsWhereOthersDoIsNeitherCentredNorAtTheEnd) {
+    const std::vector<ParagraphDraft> others{lineAt(130, 290, 100, kStart), lineAt(130, 180, 130, kStart),
+                                             lineAt(130, 210, 160, kStart)};
+    for (const ParagraphDraft& line : {lineAt(130, 270, 190, kCenter), lineAt(130.5, 300, 190, Alignment::End)}) {
+        std::vector<ParagraphDraft> paragraphs = others;
+        paragraphs.push_back(line);
+        EXPECT_EQ(started(paragraphs).back(), kStart);
+        paragraphs.erase(paragraphs.begin());
+        EXPECT_EQ(started(paragraphs).back(), line.alignment) << "beside two others it may be chance";
+    }
+    std::vector<ParagraphDraft> paragraphs = others;
+    paragraphs.push_back(lineAt(150, 250, 190, kCenter));
+    EXPECT_EQ(started(paragraphs).back(), kCenter) << "it begins elsewhere";
+}
+
 } // namespace
 } // namespace orvane::layout
