@@ -2,6 +2,7 @@
 
 #include "base/Geometry.h"
 #include "layout/paragraphs/CompoundWords.h"
+#include "layout/structure/PageMaking.h"
 #include "layout/text/WordDivision.h"
 
 #include <string>
@@ -23,6 +24,7 @@ struct DocumentContext {
     std::unordered_set<std::string>
         vocabulary;          ///< words that stand whole within a line, lower case; to judge hyphens by
     CompoundWords compounds; ///< among them
+    PageMaking making = PageMaking::Author;
 };
 
 } // namespace orvane::layout

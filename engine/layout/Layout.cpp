@@ -107,7 +107,8 @@ document::Document layoutDocument(std::vector<PageText> pages, const DocumentFac
     const std::optional<document::LineNumbers> lineNumbers = takeLineNumbers(pages, parameters.lineNumbering);
     const bool areMirrored = alignFacingPages(pages, parameters.facingPages);
     const std::vector<PageRunningHeads> heads = takeRunningHeads(pages, parameters);
-    const DocumentContext context = analyseDocument(pages, parameters);
+    DocumentContext context = analyseDocument(pages, parameters);
+    context.making = pageMakingOf(facts.metadata, context.division);
     FoundNotes notes = takeNotes(pages, context, parameters);
     DocumentDraft draft = buildDraft(layoutPages(std::move(pages), context, parameters, observer, diagnostics));
     joinFieldLines(draft, parameters.textBoxes);

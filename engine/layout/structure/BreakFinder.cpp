@@ -40,21 +40,15 @@ bool isHeading(const DraftBlock& block) {
     return paragraph && (paragraph->role == ParagraphRole::Heading || paragraph->role == ParagraphRole::Title);
 }
 
-/// For each page whether something floats on it, at a place that it has on that page only.
-std::vector<bool> pagesWithFloats(const DocumentDraft& draft) {
-    std::vector<bool> pages(draft.pages.size(), false);
-    for (const DraftBlock& block : draft.blocks)
-        if (isFloating(block))
-            pages[block.page] = true;
-    return pages;
-}
-
 /// Whether the page that starts with `block` was started by hand, though `room` points were left above it.
 bool wasStartedByHand(const DraftBlock& block, double room, const PageFill& fill, const BlockRange& range,
-                      PageMaking making, const StructureParameters::PageSetup& limits) {
-    if (making == PageMaking::Program && !isHeading(block))
+                      const StructureParameters::PageSetup& limits) {
+    const bool isTypeset = range.making == PageMaking::Program;
+    if (isTypeset && !isHeading(block))
         return room > fill.need + limits.floatRoom * range.area.box.height();
-    return room > fill.need + limits.startRoom || startsLow(fill, range.area.tops.of(block.page), limits);
+    const double gap = isTypeset ? fill.gap : 0; // people start pages where a line would have had room
+    return room > fill.need + gap + limits.startRoom ||
+           startsLow(fill, range.area.tops.of(block.page), range.making, limits);
 }
 
 /// A picture that has no room below a table, and goes to the next page by itself, is not shown by LibreOffice.
@@ -96,7 +90,6 @@ bool startsColumnByHand(const DocumentDraft& draft, const ColumnEnd& end, std::s
 
 void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const BlockRange& range,
                 const StructureParameters::PageSetup& parameters) {
-    const std::vector<bool> hasFloats = pagesWithFloats(draft);
     const DraftBlock* before = nullptr;
     for (std::size_t i = range.first; i < range.last; ++i) {
         DraftBlock& block = draft.blocks[i];
@@ -106,10 +99,9 @@ void markBreaks(DocumentDraft& draft, const std::vector<PageFill>& fills, const 
             const BlockEnd end = endOf(*before);
             const double room = floorOf(draft, end.page, end.band, range.area.box) - end.bottom;
             if (end.page < block.page)
-                block.startsPage =
-                    end.page + 1 < block.page || areTables(*before, block) || isPictureBelowTable(*before, block) ||
-                    wasStartedByHand(block, room, fills[block.page], range,
-                                     hasFloats[block.page] ? PageMaking::Author : range.making, parameters);
+                block.startsPage = end.page + 1 < block.page || areTables(*before, block) ||
+                                   isPictureBelowTable(*before, block) ||
+                                   wasStartedByHand(block, room, fills[block.page], range, parameters);
             else if (end.band == block.band && end.column < block.column)
                 block.startsColumn = startsColumnByHand(draft, {end.page, end.band, end.bottom}, i, room, parameters);
         }

@@ -1,18 +1,13 @@
 #pragma once
 
 #include "layout/structure/DocumentDraft.h"
+#include "layout/structure/PageMaking.h"
 #include "layout/structure/PageSetup.h"
 #include "layout/structure/StructureParameters.h"
 
 #include <vector>
 
 namespace orvane::layout {
-
-/// Who decides what stands on which page.
-enum class PageMaking : unsigned char {
-    Author, ///< with pages that are full, or were ended by hand
-    Program ///< that moves pictures and tables to the tops of pages, and leaves room where a part would stand alone
-};
 
 /// Blocks `first` to `last` (one behind the last), set within `area`.
 struct BlockRange {

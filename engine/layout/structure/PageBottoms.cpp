@@ -28,10 +28,11 @@ enum class SpaceAbove : unsigned char { Nothing, Usual };
 /// Reads the window of one scheme's pages.
 class WindowReader {
 public:
-    WindowReader(const std::vector<PageFill>& fills, const RunningScheme& scheme,
+    WindowReader(const std::vector<PageFill>& fills, const RunningScheme& scheme, PageMaking making,
                  const StructureParameters::PageSetup& limits)
         : m_fills(fills)
         , m_scheme(scheme)
+        , m_making(making)
         , m_tops(findPageTops(fills, scheme, limits))
         , m_limits(limits) {}
 
@@ -68,7 +69,7 @@ private:
     double highestBottom(double pageHeight, double lowest, SpaceAbove space) const {
         double highest = pageHeight;
         for (std::size_t i = m_scheme.firstPage; i < m_scheme.lastPage; ++i) {
-            if (startsLow(m_fills[i + 1], m_tops.of(i + 1), m_limits))
+            if (startsLow(m_fills[i + 1], m_tops.of(i + 1), m_making, m_limits))
                 continue; // by hand, whatever room there was
             const double gap = space == SpaceAbove::Usual ? m_fills[i + 1].gap : 0;
             const double wouldEnd = m_fills[i].bottom + gap + m_fills[i + 1].need;
@@ -80,6 +81,7 @@ private:
 
     const std::vector<PageFill>& m_fills;
     const RunningScheme& m_scheme;
+    PageMaking m_making;
     PageTops m_tops;
     const StructureParameters::PageSetup& m_limits;
 };
@@ -151,11 +153,11 @@ bool hasSamePaper(const PageLayout& a, const PageLayout& b, double tolerance) {
 } // namespace
 
 std::vector<double> findBottomMargins(const DocumentDraft& draft, const std::vector<PageFill>& fills,
-                                      const std::vector<RunningScheme>& schemes,
+                                      const std::vector<RunningScheme>& schemes, PageMaking making,
                                       const StructureParameters::PageSetup& parameters) {
     std::vector<MarginWindow> windows;
     for (const RunningScheme& scheme : schemes)
-        windows.push_back(WindowReader(fills, scheme, parameters).read(draft.pages[scheme.firstPage].height));
+        windows.push_back(WindowReader(fills, scheme, making, parameters).read(draft.pages[scheme.firstPage].height));
     std::vector<double> margins(schemes.size(), -1);
     for (std::size_t i = 0; i < schemes.size(); ++i) {
         if (margins[i] >= 0)

@@ -3,6 +3,7 @@
 #include "layout/running/RunningScheme.h"
 #include "layout/structure/DocumentDraft.h"
 #include "layout/structure/PageFill.h"
+#include "layout/structure/PageMaking.h"
 #include "layout/structure/StructureParameters.h"
 
 #include <vector>
@@ -13,7 +14,7 @@ namespace orvane::layout {
 /// below all that stands on the pages. Within that a margin that many schemes allow is that of all of them, for the
 /// sections of a book differ in their heads rather than in their margins; a round one is preferred. Units: points.
 std::vector<double> findBottomMargins(const DocumentDraft& draft, const std::vector<PageFill>& fills,
-                                      const std::vector<RunningScheme>& schemes,
+                                      const std::vector<RunningScheme>& schemes, PageMaking making,
                                       const StructureParameters::PageSetup& parameters);
 
 } // namespace orvane::layout

@@ -6,6 +6,7 @@
 #include "layout/support/Tally.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <utility>
 
@@ -153,6 +154,20 @@ void findGaps(std::vector<PageFill>& fills, const DocumentDraft& draft, const Fo
     }
 }
 
+/// Sets where the pages start. A page with a picture above what goes on from the page before does not show its top.
+void findStarts(std::vector<PageFill>& fills, const DocumentDraft& draft) {
+    for (PageFill& fill : fills) {
+        const bool startsWithPicture =
+            fill.hasFirstBlock && std::holds_alternative<FigureDraft>(draft.blocks[fill.firstBlock].value);
+        fill.startTop = startsWithPicture || !std::isfinite(fill.flowTop) ? fill.top : fill.flowTop;
+    }
+    for (const DraftBlock& block : draft.blocks) {
+        const auto* figure = std::get_if<FigureDraft>(&block.value);
+        if (figure && !figure->figure.isBackground && block.box.bottom <= fills[block.page].flowTop)
+            fills[block.page].showsTop = false;
+    }
+}
+
 } // namespace
 
 std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog& fonts,
@@ -179,6 +194,7 @@ std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog
     for (std::size_t i = 0; i < draft.noteAreas.size(); ++i)
         if (!draft.noteAreas[i].isEmpty() && !fills[i].isEmpty)
             fills[i].bottom = std::max(fills[i].bottom, draft.noteAreas[i].bottom);
+    findStarts(fills, draft);
     findGaps(fills, draft, fonts);
     return fills;
 }

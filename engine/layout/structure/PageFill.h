@@ -20,8 +20,9 @@ struct PageFill {
     bool showsTop = false;      ///< likewise, and nothing but the margin stands above it
     std::size_t firstBlock = 0; ///< that starts on the page; index into the blocks
     bool hasFirstBlock = false;
-    double gap = 0;  ///< what mostly stands between such blocks as the page's first and the one before it
-    double need = 0; ///< of room for the first thing on the page, so much that it may start on the page before
+    double gap = 0;      ///< what mostly stands between such blocks as the page's first and the one before it
+    double need = 0;     ///< of room for the first thing on the page, so much that it may start on the page before
+    double startTop = 0; ///< of what the page starts with; of its highest text or table if it starts with these
 };
 
 /// Measures every page of the draft.

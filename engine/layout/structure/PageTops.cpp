@@ -57,8 +57,9 @@ PageTops findPageTops(const std::vector<PageFill>& fills, const RunningScheme& s
     return tops;
 }
 
-bool startsLow(const PageFill& fill, double top, const StructureParameters::PageSetup& parameters) {
-    return !fill.isEmpty && !fill.isSplit && topOf(fill) > top + parameters.sameEdge + fill.topSlack;
+bool startsLow(const PageFill& fill, double top, PageMaking making, const StructureParameters::PageSetup& parameters) {
+    const double least = making == PageMaking::Program ? parameters.lowStart : parameters.sameEdge;
+    return !fill.isEmpty && !fill.isSplit && fill.startTop > top + least + fill.topSlack;
 }
 
 } // namespace orvane::layout

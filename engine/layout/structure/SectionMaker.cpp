@@ -30,7 +30,8 @@ public:
 
     void run() {
         const std::vector<RunningScheme> schemes = findSchemes(m_heads, chances());
-        const std::vector<double> bottoms = findBottomMargins(m_draft, m_fills, schemes, m_parameters.pageSetup);
+        const std::vector<double> bottoms =
+            findBottomMargins(m_draft, m_fills, schemes, m_context.making, m_parameters.pageSetup);
         std::size_t block = 0;
         for (std::size_t i = 0; i < schemes.size(); ++i) {
             const RunningScheme& scheme = schemes[i];
@@ -107,8 +108,7 @@ private:
             section.setup.firstPageNumber.reset();
             from = to;
         } while (from < last);
-        const PageMaking making = m_context.division == WordDivision::Always ? PageMaking::Program : PageMaking::Author;
-        markBreaks(m_draft, m_fills, {first, last, area, making}, m_parameters.pageSetup);
+        markBreaks(m_draft, m_fills, {first, last, area, m_context.making}, m_parameters.pageSetup);
         findWholeRows(m_draft, {first, last, area}, m_parameters.pageSetup);
     }
 

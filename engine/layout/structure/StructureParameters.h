@@ -27,9 +27,10 @@ struct StructureParameters {
         double smallestColumnGap = 6.0; ///< points; between columns
         double widestColumnGap = 54.0;  ///< likewise, where no line shows that it ends at a column's edge
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
+        double lowStart = 12.0; ///< points; so far below the top margin no program starts a full page
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
         double floatRoom =
-            0.25; ///< of the text's height; with so much room above no program began a page, but its author did
+            0.1; ///< of the text's height; with so much room above no program began a page, but its author did
     } pageSetup;
 
     /// HeadingFinder, HeadingStyles: headings where only their looks tell them.

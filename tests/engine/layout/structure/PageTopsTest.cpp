@@ -47,6 +47,21 @@ TEST(PageTops, TakesTheTopMarginFromWhereParagraphsGoOn) {
     EXPECT_FALSE(firstOn(draft, 2).startsPage);
 }
 
+TEST(PageTops, DoesNotTakeTheTopFromWhatGoesOnBelowAPicture) {
+    for (const bool isInline : {true, false}) {
+        DocumentDraft draft = makeDraft(2);
+        fillPage(draft, 0);
+        DraftParagraph& split = *draft.blocks.back().paragraph();
+        split.pieces.push_back({1, 0, 0, tests::kColumn, makeParagraph({makeLine("its rest", 72, 300)})});
+        draft.blocks.push_back(tests::makePictureBlock({72, 74.3, 372, 274}));
+        draft.blocks.back().page = 1;
+        std::get<FigureDraft>(draft.blocks.back().value).isInline = isInline;
+        addLine(draft, 1, 72, 320);
+        sectionsOf(draft);
+        EXPECT_NEAR(pointsFromTwips(draft.sections.at(0).setup.marginTop), 74.3, 0.1);
+    }
+}
+
 /// Three pages, of which the first starts higher than the others.
 DocumentDraft draftOfPushedText() {
     DocumentDraft draft = makeDraft(3);

@@ -74,11 +74,11 @@ TEST(SectionMaker, MarksPagesThatWereStartedByHand) {
     EXPECT_FALSE(firstOn(draft, 2).startsPage) << "the second page was full";
 }
 
-/// Two pages of a text whose words are divided throughout: the first ends at `end`, a picture starts the second.
+/// Two pages: the first ends at `end`, a picture starts the second.
 DocumentDraft typesetPages(double end) {
     DocumentDraft draft = makeDraft(2);
     fillPage(draft, 0, end);
-    draft.blocks.push_back(tests::makePictureBlock({72, 78, 372, 178}));
+    draft.blocks.push_back(tests::makePictureBlock({72, 75, 372, 178}));
     draft.blocks.back().page = 1;
     for (double baseline = 200; baseline <= 760; baseline += 20)
         addLine(draft, 1, 72, baseline);
@@ -87,7 +87,7 @@ DocumentDraft typesetPages(double end) {
 
 DocumentContext typesetText() {
     DocumentContext context;
-    context.division = WordDivision::Always;
+    context.making = PageMaking::Program;
     return context;
 }
 
@@ -102,10 +102,10 @@ TEST(SectionMaker, TakesPagesOfALineEachForStartedByHand) {
 }
 
 TEST(SectionMaker, LeavesPicturesWhereProgramsPutThem) {
-    DocumentDraft draft = typesetPages(640);
+    DocumentDraft draft = typesetPages(660);
     sectionsOf(draft, {}, typesetText());
     EXPECT_FALSE(firstOn(draft, 1).startsPage) << "the program moved it there";
-    DocumentDraft byHand = typesetPages(640);
+    DocumentDraft byHand = typesetPages(660);
     sectionsOf(byHand);
     EXPECT_TRUE(firstOn(byHand, 1).startsPage);
 }
@@ -116,13 +116,53 @@ TEST(SectionMaker, KnowsPagesThatNoProgramLeavesSoEmpty) {
     EXPECT_TRUE(firstOn(draft, 1).startsPage);
 }
 
-TEST(SectionMaker, KeepsPagesWithWhatFloatsOnThem) {
-    DocumentDraft draft = typesetPages(640);
-    draft.blocks.push_back(tests::makePictureBlock({400, 300, 500, 400}));
+TEST(SectionMaker, DoesNotBreakFullPagesOfProgramsThoughTextStandsBelowWhatFloatsOnTheNext) {
+    DocumentDraft draft = makeDraft(2);
+    fillPage(draft, 0);
+    draft.blocks.push_back(tests::makePictureBlock({72, 75, 372, 178}));
     draft.blocks.back().page = 1;
     std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    for (double baseline = 200; baseline <= 760; baseline += 20)
+        addLine(draft, 1, 72, baseline);
+    DocumentDraft byHand = draft;
     sectionsOf(draft, {}, typesetText());
-    EXPECT_TRUE(firstOn(draft, 1).startsPage);
+    EXPECT_FALSE(draft.blocks[draft.blocks.size() - 29].startsPage) << "a line too many would cost a page";
+    sectionsOf(byHand);
+    EXPECT_TRUE(byHand.blocks[byHand.blocks.size() - 29].startsPage);
+}
+
+TEST(SectionMaker, KnowsThatProgramsSetFirstLinesByTheirBaselines) {
+    const auto draftFrom = [](double baseline) {
+        DocumentDraft draft = makeDraft(2);
+        fillPage(draft, 0);
+        for (; baseline <= 760; baseline += 20)
+            addLine(draft, 1, 72, baseline);
+        return draft;
+    };
+    DocumentDraft byHand = draftFrom(92);
+    sectionsOf(byHand);
+    EXPECT_TRUE(firstOn(byHand, 1).startsPage) << "word processors leave no space there";
+    const struct {
+        double baseline;
+        bool startsPage;
+        const char* why;
+    } rows[] = {{92, false, "letters smaller than others"}, {124, true, "a chapter's head"}};
+    for (const auto& row : rows) {
+        DocumentDraft draft = draftFrom(row.baseline);
+        for (DraftBlock& block : draft.blocks)
+            if (block.page == 1) {
+                block.paragraph()->role = ParagraphRole::Heading;
+                break;
+            }
+        sectionsOf(draft, {}, typesetText());
+        EXPECT_EQ(firstOn(draft, 1).startsPage, row.startsPage) << row.why;
+    }
+}
+
+TEST(SectionMaker, TakesAPictureAtThePagesTopForItsStart) {
+    DocumentDraft draft = typesetPages(760);
+    sectionsOf(draft);
+    EXPECT_FALSE(firstOn(draft, 1).startsPage) << "nothing stands above it, and the page before was full";
 }
 
 TEST(SectionMaker, LetsAPictureBelowATableStartItsPage) {
