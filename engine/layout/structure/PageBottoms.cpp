@@ -21,6 +21,7 @@ struct MarginWindow {
     double pages = 0;
     bool isEmpty = false; ///< nothing stands on the pages
     bool isFree = false;  ///< all pages end by hand or with the document
+    PageMaking making = PageMaking::Author;
 };
 
 enum class SpaceAbove : unsigned char { Nothing, Usual };
@@ -42,6 +43,7 @@ public:
             lowest = std::max(lowest, m_fills[i].bottom);
         MarginWindow window;
         window.top = m_tops.margin;
+        window.making = m_making;
         window.pages = static_cast<double>(m_scheme.lastPage - m_scheme.firstPage + 1);
         window.isEmpty = lowest <= window.top;
         if (window.isEmpty)
@@ -103,6 +105,8 @@ double marginWithin(const MarginWindow& window, const StructureParameters::PageS
     if (window.isFree)
         return freeMargin(window, limits);
     const double slack = limits.breakSlack;
+    if (window.making == PageMaking::Program)
+        return std::clamp(window.least, 0.0, window.most); // nobody typed it, and text may come out somewhat higher
     // How much space there was above what starts a page is not seen; only where no margin that people type goes without
     // it is it taken to have been the usual one.
     std::optional<double> margin = tidyLengthWithin(window.least, window.most - slack, window.top);

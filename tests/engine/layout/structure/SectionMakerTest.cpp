@@ -159,6 +159,20 @@ TEST(SectionMaker, KnowsThatProgramsSetFirstLinesByTheirBaselines) {
     }
 }
 
+TEST(SectionMaker, LeavesPagesOfProgramsAllTheRoomThatTheirBreaksAllow) {
+    const auto bottomOf = [](const DocumentContext& context) {
+        DocumentDraft draft = makeDraft(3);
+        for (const std::size_t page : {0u, 1u, 2u})
+            fillPage(draft, page, 720);
+        sectionsOf(draft, {}, context);
+        EXPECT_FALSE(firstOn(draft, 1).startsPage);
+        return setupBottom(draft, 0);
+    };
+    const double end = tests::makePage(1).height - 706, line = 10 * 1.3;
+    EXPECT_LT(bottomOf(typesetText()), bottomOf({}));
+    EXPECT_GT(bottomOf(typesetText()), end - line) << "no further line would have room";
+}
+
 TEST(SectionMaker, TakesAPictureAtThePagesTopForItsStart) {
     DocumentDraft draft = typesetPages(760);
     sectionsOf(draft);
