@@ -147,6 +147,7 @@ std::vector<document::Block> finishBlocks(std::vector<AssembledBlock> blocks, co
     keepOnPages(blocks);
     hangBelowSpace(blocks);
     hangBesidePictures(blocks);
+    hangBesideText(blocks);
     hangOnText(blocks, cell, context);
     std::vector<document::Block> finished;
     finished.reserve(blocks.size());

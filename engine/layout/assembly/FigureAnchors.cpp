@@ -73,6 +73,18 @@ bool isFreePicture(const AssembledBlock& block) {
            figure->placement.verticalAnchor == document::VerticalAnchor::Page;
 }
 
+/// Whether the block is a picture in the paragraph's column that begins beside its lines. One that reaches above these
+/// would push away the text above, if it went with them, and at a page's top not all word processors count the space
+/// before a paragraph as part of it.
+bool beginsBeside(const AssembledBlock& block, const AssembledBlock& paragraph) {
+    const auto* figure = std::get_if<document::Figure>(&block.block.value);
+    const Rect& box = block.draft->box;
+    const ColumnSpan& column = paragraph.draftParagraph()->pieces.front().column;
+    return figure && std::holds_alternative<document::Picture>(figure->content) && box.left >= column.left &&
+           box.right <= column.right && box.top >= paragraph.top && box.top < paragraph.draft->box.bottom &&
+           paragraph.paragraph()->properties.spaceBefore == Twips(0);
+}
+
 void moveIntoCell(document::Placement& placement, double left) {
     if (placement.horizontalAnchor != document::HorizontalAnchor::Page)
         return;
@@ -131,6 +143,14 @@ void hangBesidePictures(std::vector<AssembledBlock>& blocks) {
             std::swap(first, second); // what floats is written into the paragraph behind it
         if (isFreePicture(first) && isPictureParagraph(second) && standsBeside(first, second))
             hangFrom(std::get<document::Figure>(first.block.value).placement, topOf(second));
+    }
+}
+
+void hangBesideText(std::vector<AssembledBlock>& blocks) {
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        const AssembledBlock* host = isFreePicture(blocks[i]) ? hostOf(blocks, i) : nullptr;
+        if (host && beginsBeside(blocks[i], *host))
+            hangFrom(std::get<document::Figure>(blocks[i].block.value).placement, host->top);
     }
 }
 

@@ -26,6 +26,10 @@ void hangBelowSpace(std::vector<AssembledBlock>& blocks);
 /// the space between the blocks is known.
 void hangBesidePictures(std::vector<AssembledBlock>& blocks);
 
+/// Hangs pictures that text makes way for on the paragraph beside which they begin: text that comes out somewhat higher
+/// or lower than it stood stays beside and between them. Requires: the space between the blocks is known.
+void hangBesideText(std::vector<AssembledBlock>& blocks);
+
 /// Hangs what lies behind or in front of text on the paragraph that it was drawn into, so that boxes stay around their
 /// words wherever these go. In a cell everything hangs, for there a page's places are the cell's. Requires: the space
 /// between the blocks is known.

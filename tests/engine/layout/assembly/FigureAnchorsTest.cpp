@@ -85,6 +85,30 @@ TEST(FigureAnchors, LetAPictureGoWithTheOneThatItStandsBeside) {
     EXPECT_EQ(placement.x, emuFromPoints(300));
 }
 
+TEST(FigureAnchors, LetPicturesGoWithTheTextBetweenThem) {
+    DocumentDraft draft = makeDraft(1);
+    for (const double baseline : {88.0, 100.0, 112.0})
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Above", 72, baseline)})));
+    for (const double left : {100.0, 400.0}) {
+        draft.blocks.push_back(tests::makePictureBlock({left, 145, left + 60, 205}));
+        std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    }
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Between", 250, 150)})));
+    draft.blocks.push_back(tests::makePictureBlock({100, 230, 160, 280}));
+    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    draft.blocks.push_back(makeBlock(makeParagraph({makeLine("Below", 72, 300)})));
+    const document::Document document = tests::documentOf(draft);
+    const std::vector<document::Block>& blocks = document.sections.at(0).blocks;
+    for (const std::size_t picture : {3u, 4u}) {
+        const document::Placement& placement = placementIn(blocks, picture);
+        EXPECT_EQ(placement.verticalAnchor, document::VerticalAnchor::Paragraph);
+        EXPECT_LT(points(placement.y), 30) << "it begins beside its paragraph";
+        EXPECT_EQ(placement.horizontalAnchor, document::HorizontalAnchor::Page);
+        EXPECT_EQ(placement.wrapping, document::Wrapping::Square);
+    }
+    EXPECT_EQ(placementIn(blocks, 6).verticalAnchor, document::VerticalAnchor::Page) << "no text begins beside it";
+}
+
 TEST(FigureAnchors, LeaveOnThePageWhatIsOfThePage) {
     struct Row {
         Rect box;
