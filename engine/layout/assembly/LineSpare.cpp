@@ -5,10 +5,10 @@
 namespace orvane::layout {
 
 std::optional<double> spareOf(const DraftParagraph& paragraph, const AssemblyParameters::LineSpares& parameters) {
-    const ParagraphDraft& text = paragraph.pieces.front().text;
-    if (paragraph.pieces.size() > 1 || text.lines.size() > 1 || !text.startsParagraph || !text.endsParagraph)
+    const std::vector<Line>& lines = paragraph.pieces.front().text.lines;
+    if (paragraph.pieces.size() > 1 || lines.size() > 1)
         return std::nullopt;
-    return std::min(parameters.most, parameters.share * text.lines.front().box.width());
+    return std::min(parameters.most, parameters.share * lines.front().box.width());
 }
 
 } // namespace orvane::layout

@@ -35,6 +35,13 @@ TEST(ParagraphFormat, GivesALineOfItsOwnRoomForAStandInOfItsFont) {
     }
 }
 
+TEST(ParagraphFormat, GivesThatRoomToALineThatMightHaveGoneOnButDoesNot) {
+    ParagraphDraft paragraph = tests::makeParagraph({makeLine(std::string(90, 'x'), 72, 760)});
+    paragraph.endsParagraph = false; // the page ends
+    const DraftBlock block = tests::makeBlock(std::move(paragraph));
+    EXPECT_EQ(formatOf(*block.paragraph(), {}, {}).indentEnd, twipsFromPoints(1 - 12));
+}
+
 TEST(ParagraphFormat, LetsTextSetAgainstTheEndReachPastTheColumnToo) {
     const auto format = [](double left) {
         return formatOfLines({makeLine("twelve chars", left, 100)}, document::Alignment::End);
