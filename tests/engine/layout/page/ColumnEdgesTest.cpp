@@ -22,7 +22,7 @@ TEST(ColumnEdges, EvensTheColumnWhereLinesInTheMiddleAloneReachFarthest) {
     const Row rows[] = {
         {{lineFrom(200, 400), lineFrom(50, 300)}, 550, "a title"},
         {{lineFrom(200, 400), lineFrom(50, 400)}, 400, "a line that begins at the edge fills the column"},
-        {{lineFrom(80, 520)}, 520, "so does one that begins near it"},
+        {{lineFrom(80, 520)}, 400, "so does one that begins near it"},
         {{lineFrom(220, 400), lineFrom(50, 300)}, 400, "not in the middle"},
         {{lineFrom(250, 350)}, 400, "other lines of the document reach farther"},
         {{}, 400, "no lines"},
