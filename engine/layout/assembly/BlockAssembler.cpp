@@ -8,6 +8,7 @@
 #include "layout/assembly/ParagraphFormat.h"
 #include "layout/assembly/RunFormat.h"
 #include "layout/assembly/TableAssembler.h"
+#include "layout/assembly/TableReach.h"
 #include "layout/fonts/LineMetrics.h"
 #include "layout/structure/BlockExtent.h"
 
@@ -88,6 +89,11 @@ AssembledBlock assembleBlock(const DraftBlock& draft, const AssemblyContext& con
         assembled.lastTop = extent.lastTop;
         assembled.bottom = extent.bottom;
         assembled.lastPage = extent.lastPage;
+    }
+    if (const auto* table = std::get_if<DraftTable>(&draft.value)) {
+        const TableReach reach = reachOf(*table);
+        assembled.top -= reach.top;
+        assembled.bottom += reach.bottom;
     }
     setBreaks(draft, assembled, context);
     assembled.draft = &draft;

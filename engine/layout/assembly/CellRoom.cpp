@@ -1,23 +1,12 @@
 #include "layout/assembly/CellRoom.h"
 
+#include "layout/assembly/TableReach.h"
+
 #include <algorithm>
 #include <map>
 
 namespace orvane::layout {
 namespace {
-
-/// How far a border reaches from the line between two rows to either side.
-double reachOf(const document::Border& border) {
-    const double width = static_cast<double>(border.width.value) / 8;
-    switch (border.kind) {
-    case document::BorderKind::None:
-        return 0;
-    case document::BorderKind::Double:
-        return 1.5 * width; // two lines and a gap as wide
-    default:
-        return width / 2;
-    }
-}
 
 /// Space above and below the text.
 struct Room {

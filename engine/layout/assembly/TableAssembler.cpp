@@ -3,6 +3,7 @@
 #include "layout/assembly/BlockAssembler.h"
 #include "layout/assembly/EmptyParagraph.h"
 #include "layout/assembly/LineSpare.h"
+#include "layout/assembly/TableReach.h"
 #include "layout/structure/BlockColumn.h"
 
 #include <algorithm>
@@ -97,12 +98,13 @@ document::TableCell cellOf(const CellDraft& draft, const SideMargins& margins) {
     return cell;
 }
 
-/// How far the table's start edge stands from that of its column.
-double indentOf(const DraftBlock& place, const TableDraft& table, const DocumentDraft& draft) {
+/// How far the table's start edge stands from that of its column. Its border begins there.
+double indentOf(const DraftBlock& place, const TableDraft& table, const TableReach& reach, const DocumentDraft& draft) {
     if (table.columnEdges.empty())
         return 0;
     const ColumnSpan column = columnOf(place, draft);
-    return table.isRightToLeft ? column.right - table.columnEdges.back() : table.columnEdges.front() - column.left;
+    return table.isRightToLeft ? column.right - table.columnEdges.back() - reach.right
+                               : table.columnEdges.front() - reach.left - column.left;
 }
 
 /// A draft counts columns from the left; a table that is read from the right has its first column there.
@@ -121,7 +123,12 @@ void turnRightToLeft(document::Table& table) {
 AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, const AssemblyContext& context) {
     document::Table table;
     table.origin = {context.draft.pages[place.page].number, place.box};
-    const std::vector<double>& columns = draft.table.columnEdges;
+    std::vector<double> columns = draft.table.columnEdges;
+    const TableReach reach = reachOf(draft);
+    if (!columns.empty()) {
+        columns.front() -= reach.left;
+        columns.back() += reach.right;
+    }
     for (std::size_t i = 0; i + 1 < columns.size(); ++i)
         table.columnWidths.push_back(twipsFromPoints(columns[i + 1] - columns[i]));
     const std::vector<double>& rows = draft.table.rowEdges;
@@ -136,7 +143,7 @@ AssembledBlock assembleTable(const DraftTable& draft, const DraftBlock& place, c
     for (const int row : draft.cutRows)
         table.rows.at(static_cast<std::size_t>(row)).height = Twips(0);
     table.isRightToLeft = draft.table.isRightToLeft;
-    table.indent = twipsFromPoints(indentOf(place, draft.table, context.draft));
+    table.indent = twipsFromPoints(indentOf(place, draft.table, reach, context.draft));
 
     AssembledBlock assembled;
     const double margin = sideMargin(draft, context.parameters.tableCells);

@@ -201,6 +201,25 @@ document::TableCell cellWith(PageBlock inside) {
     return std::get<document::Table>(document.sections.at(0).blocks.at(0).value).rows.at(0).cells.at(0);
 }
 
+TEST(TableAssembler, BeginsWhereItsBordersBegin) {
+    const document::Border thick{document::BorderKind::Single, EighthPoints(32), {}, 0};
+    const auto tableWith = [&](Reading reading, bool isBordered) {
+        DocumentDraft draft = draftOfTable(reading);
+        for (DraftCell& cell : std::get<DraftTable>(draft.blocks[0].value).cells)
+            if (isBordered)
+                cell.cell.borders = {thick, thick, thick, thick};
+        const document::Document document = tests::documentOf(draft);
+        return std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+    };
+    for (const Reading reading : {Reading::FromLeft, Reading::FromRight}) {
+        const document::Table plain = tableWith(reading, false), bordered = tableWith(reading, true);
+        const Twips half = twipsFromPoints(2);
+        EXPECT_EQ(bordered.indent, plain.indent - half);
+        EXPECT_EQ(bordered.columnWidths.front(), plain.columnWidths.front() + half);
+        EXPECT_EQ(bordered.columnWidths.back(), plain.columnWidths.back() + half);
+    }
+}
+
 TEST(TableAssembler, IndentsATableWithinACellFromTheCellsText) {
     TableDraft inner;
     inner.box = {222, 120, 322, 140};
