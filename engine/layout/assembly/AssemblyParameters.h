@@ -55,6 +55,7 @@ struct AssemblyParameters {
         double largestMargin = 6.0; ///< points; above and below the text; more comes from the row's height
         double slackBelow = 0.6;    ///< points; of the room below the text that is not written as a margin
         double slackBeside = 0.6;   ///< points; likewise of the room where its lines end
+        double lineSlack = 0.25;    ///< points; so much higher than its cell the line of a font may come out
         double emptyLeading = 1.3;  ///< of the font size; the lines of an empty cell are no higher
         double leastDrop =
             0.8; ///< of the font size; a text that begins by more below others of its row is below a blank line

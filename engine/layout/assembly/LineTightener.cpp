@@ -1,6 +1,7 @@
 #include "layout/assembly/LineTightener.h"
 
 #include "layout/assembly/BlockPlace.h"
+#include "layout/assembly/TableReach.h"
 #include "layout/support/Tally.h"
 
 #include <limits>
@@ -53,8 +54,10 @@ public:
         for (const GivenSpacing& given : m_given)
             if (isTooHigh(given))
                 setSingle(*given.block);
-        for (BlockFlow& flow : m_flows)
+        for (BlockFlow& flow : m_flows) {
             closeUp(flow.blocks);
+            fitIntoRows(flow.blocks);
+        }
         for (document::Style& style : styles)
             if (m_closedUp.contains(style.id))
                 followParagraphs(style);
@@ -115,10 +118,37 @@ private:
         });
     }
 
+    /// A line alone in a cell that is lower than the line of its font: the cell shows how high the line was. Fonts that
+    /// stand in for others, for letters that these do not have, do not make lines higher everywhere.
+    void fitIntoRows(std::vector<AssembledBlock>& blocks) {
+        for (AssembledBlock& block : blocks) {
+            for (std::size_t i = 0; i < block.cells.size(); ++i) {
+                std::vector<AssembledBlock>& inside = block.cells[i];
+                fitIntoRows(inside);
+                const CellDraft& cell = std::get<DraftTable>(block.draft->value).cells[i].cell;
+                if (inside.size() != 1 || cell.direction != document::TextDirection::Horizontal ||
+                    !isGiven(inside.front()) || isExact(inside.front()))
+                    continue;
+                const double room = cell.box.height() - reachOf(cell.borders.top) - reachOf(cell.borders.bottom);
+                const double height = inside.front().bottom - inside.front().top;
+                const bool isSingle = inside.front().lastTop == inside.front().top;
+                if (isSingle && room >= inside.front().draftParagraph()->firstLine().fontSize &&
+                    height > room + m_context.parameters.tableCells.lineSlack)
+                    setHeight(inside.front(), room);
+            }
+        }
+    }
+
     void setExact(AssembledBlock& block, double height) {
         if (block.bottom - block.lastTop <= height)
             return;
         m_closedUp.insert(block.paragraph()->style);
+        setHeight(block, height);
+    }
+
+    void setHeight(AssembledBlock& block, double height) const {
+        if (block.bottom - block.lastTop <= height)
+            return;
         block.paragraph()->properties.lineSpacing = {document::LineSpacingRule::Exact, 1.0, twipsFromPoints(height)};
         measureLines(block, m_context);
     }

@@ -132,6 +132,21 @@ TEST(TableAssembler, GivesALineOfItsOwnMoreRoomThanWrappedOnes) {
     EXPECT_LT(marginRight(false), marginRight(true)) << "a stand-in for its font must not break it";
 }
 
+TEST(TableAssembler, KeepsRowsLowerThanTheLinesOfTheirFonts) {
+    const auto spacingIn = [](double height) {
+        DocumentDraft draft = draftOfTable(Reading::FromLeft);
+        DraftCell& cell = std::get<DraftTable>(draft.blocks[0].value).cells[2];
+        cell.cell.box.bottom = cell.cell.box.top + height;
+        const document::Document document = tests::documentOf(draft);
+        const auto& table = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+        return std::get<document::Paragraph>(table.rows[1].cells[0].blocks.at(0).value).properties.lineSpacing;
+    };
+    EXPECT_EQ(spacingIn(20).rule, document::LineSpacingRule::Multiple);
+    EXPECT_EQ(spacingIn(11).rule, document::LineSpacingRule::Exact);
+    EXPECT_EQ(spacingIn(11).height, twipsFromPoints(11));
+    EXPECT_EQ(spacingIn(6).rule, document::LineSpacingRule::Multiple) << "no room for the letters";
+}
+
 TEST(TableAssembler, KeepsLowRowsWithoutTextLow) {
     const auto sizeIn = [](double height) {
         DocumentDraft draft = draftOfTable(Reading::FromLeft);
