@@ -22,9 +22,9 @@ struct DocumentContext {
     bool partsScripts = false;  ///< blanks are typed between East Asian and other letters
     std::string language;       ///< BCP 47, as the words tell it; empty where they do not
     std::unordered_set<std::string>
-        vocabulary;          ///< words that stand whole within a line, lower case; to judge hyphens by
-    CompoundWords compounds; ///< among them
-    PageMaking making = PageMaking::Author;
+        vocabulary;                         ///< words that stand whole within a line, lower case; to judge hyphens by
+    CompoundWords compounds;                ///< among them
+    PageMaking making = PageMaking::Author; ///< as the file and the division of its words tell
 };
 
 } // namespace orvane::layout

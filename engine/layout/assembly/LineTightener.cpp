@@ -37,7 +37,7 @@ public:
         , m_context(context) {
         for (BlockFlow& flow : flows) {
             readPairs(flow.blocks);
-            readCells(flow.blocks);
+            forEachBlock(flow.blocks, flow.kind, [this](AssembledBlock& block, FlowKind) { readCells(block); });
         }
     }
 
@@ -56,7 +56,7 @@ public:
                 setSingle(*given.block);
         for (BlockFlow& flow : m_flows) {
             closeUp(flow.blocks);
-            fitIntoRows(flow.blocks);
+            forEachBlock(flow.blocks, flow.kind, [this](AssembledBlock& block, FlowKind) { fitIntoRows(block); });
         }
         for (document::Style& style : styles)
             if (m_closedUp.contains(style.id))
@@ -75,20 +75,21 @@ private:
     }
 
     /// The first lines of cells reach up to the cells' tops, the last ones down to their ends.
-    void readCells(std::vector<AssembledBlock>& blocks) {
-        for (AssembledBlock& block : blocks) {
-            for (std::size_t i = 0; i < block.cells.size(); ++i) {
-                std::vector<AssembledBlock>& inside = block.cells[i];
-                readCells(inside);
-                const CellDraft& cell = std::get<DraftTable>(block.draft->value).cells[i].cell;
-                const bool isUpright = cell.direction == document::TextDirection::Horizontal;
-                if (!inside.empty() && isUpright && isGiven(inside.back()) &&
-                    inside.back().lastPage == inside.front().draft->page)
-                    m_given.push_back({.block = &inside.back(), .floor = cell.box.bottom});
-                if (!inside.empty() && isUpright && isGiven(inside.front()) && isExact(inside.front()))
-                    m_given.push_back({.block = &inside.front(), .ceiling = cell.box.top});
-            }
+    void readCells(AssembledBlock& block) {
+        for (std::size_t i = 0; i < block.cells.size(); ++i) {
+            std::vector<AssembledBlock>& inside = block.cells[i];
+            const CellDraft& cell = cellOf(block, i);
+            if (inside.empty() || cell.direction != document::TextDirection::Horizontal)
+                continue;
+            if (isGiven(inside.back()) && inside.back().lastPage == inside.front().draft->page)
+                m_given.push_back({.block = &inside.back(), .floor = cell.box.bottom});
+            if (isGiven(inside.front()) && isExact(inside.front()))
+                m_given.push_back({.block = &inside.front(), .ceiling = cell.box.top});
         }
+    }
+
+    static const CellDraft& cellOf(const AssembledBlock& table, std::size_t i) {
+        return std::get<DraftTable>(table.draft->value).cells[i].cell;
     }
 
     static bool isTooHigh(const GivenSpacing& given) {
@@ -120,22 +121,18 @@ private:
 
     /// A line alone in a cell that is lower than the line of its font: the cell shows how high the line was. Fonts that
     /// stand in for others, for letters that these do not have, do not make lines higher everywhere.
-    void fitIntoRows(std::vector<AssembledBlock>& blocks) {
-        for (AssembledBlock& block : blocks) {
-            for (std::size_t i = 0; i < block.cells.size(); ++i) {
-                std::vector<AssembledBlock>& inside = block.cells[i];
-                fitIntoRows(inside);
-                const CellDraft& cell = std::get<DraftTable>(block.draft->value).cells[i].cell;
-                if (inside.size() != 1 || cell.direction != document::TextDirection::Horizontal ||
-                    !isGiven(inside.front()) || isExact(inside.front()))
-                    continue;
-                const double room = cell.box.height() - reachOf(cell.borders.top) - reachOf(cell.borders.bottom);
-                const double height = inside.front().bottom - inside.front().top;
-                const bool isSingle = inside.front().lastTop == inside.front().top;
-                if (isSingle && room >= inside.front().draftParagraph()->firstLine().fontSize &&
-                    height > room + m_context.parameters.tableCells.lineSlack)
-                    setHeight(inside.front(), room);
-            }
+    void fitIntoRows(AssembledBlock& block) const {
+        for (std::size_t i = 0; i < block.cells.size(); ++i) {
+            const CellDraft& cell = cellOf(block, i);
+            if (block.cells[i].size() != 1 || cell.direction != document::TextDirection::Horizontal)
+                continue;
+            AssembledBlock& text = block.cells[i].front();
+            if (!isGiven(text) || isExact(text) || text.lastTop != text.top)
+                continue;
+            const double room = cell.box.height() - reachOf(cell.borders.top) - reachOf(cell.borders.bottom);
+            if (room >= text.draftParagraph()->firstLine().fontSize &&
+                text.bottom - text.top > room + m_context.parameters.tableCells.lineSlack)
+                setHeight(text, room);
         }
     }
 
@@ -147,8 +144,6 @@ private:
     }
 
     void setHeight(AssembledBlock& block, double height) const {
-        if (block.bottom - block.lastTop <= height)
-            return;
         block.paragraph()->properties.lineSpacing = {document::LineSpacingRule::Exact, 1.0, twipsFromPoints(height)};
         measureLines(block, m_context);
     }

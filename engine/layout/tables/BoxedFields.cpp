@@ -10,7 +10,7 @@
 namespace orvane::layout {
 namespace {
 
-/// Whether the cells of a lattice are those of a table: all of them are closed, or words show it.
+/// Whether the cells of a lattice are those of a table: nearly all of them are closed, and their words say so, too.
 bool isDrawnTable(const PageText& page, const LatticeGrid& found, std::size_t closed,
                   const TableParameters::Tables& parameters) {
     if (found.grid.cells.size() < 2)
@@ -18,8 +18,7 @@ bool isDrawnTable(const PageText& page, const LatticeGrid& found, std::size_t cl
     const bool isWhole =
         static_cast<double>(closed) >= parameters.closedShare * static_cast<double>(found.grid.cells.size());
     const CellText text = assignWords(page.lines, found.grid, parameters);
-    return isWhole && judgeRuledTable(page, found.grid, text, {found.forcedCells, found.isClosed}, parameters) ==
-                          TableVerdict::Table;
+    return isWhole && judgeRuledTable(page, found.grid, text, found.evidence, parameters) == TableVerdict::Table;
 }
 
 /// The boxes that hold no other one.

@@ -36,14 +36,9 @@ bool hasTextsSideBySide(const TableGrid& grid, const std::vector<Line>& lines,
 } // namespace
 
 std::vector<TableGrid> findGroundGrids(const PageText& page, const std::vector<BorderLine>& lines,
-                                       const std::vector<TableDraft>& found,
                                        const TableParameters::Tables& parameters) {
     std::vector<TableGrid> grids = findRuledGrids(page, withLinesOfGrounds(page, lines, parameters), parameters);
-    std::erase_if(grids, [&](const TableGrid& grid) {
-        return !hasTextsSideBySide(grid, page.lines, parameters) ||
-               std::any_of(found.begin(), found.end(),
-                           [&](const TableDraft& table) { return table.box.intersects(grid.box()); });
-    });
+    std::erase_if(grids, [&](const TableGrid& grid) { return !hasTextsSideBySide(grid, page.lines, parameters); });
     return grids;
 }
 

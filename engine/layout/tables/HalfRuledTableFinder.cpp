@@ -166,10 +166,7 @@ std::vector<TableGrid> findHalfRuledGrids(const PageText& page, const std::vecto
                 grid = gridOfRun(page, rules, stack, bands, parameters, run);
             }
             first = grid ? run.end : first + 1;
-            const bool isNew = grid && std::none_of(grids.begin(), grids.end(), [&](const TableGrid& other) {
-                                   return other.box().intersects(grid->box());
-                               });
-            if (isNew)
+            if (grid && !overlapsAny(*grid, grids))
                 grids.push_back(std::move(*grid));
         }
     }

@@ -77,7 +77,7 @@ public:
             hosts.push_back(hostOf(*inner));
             // The strips and what lies above or below them were one shape, and no rectangle.
             const int ends = (hosts.back().firstRow < inner->firstRow) + (hosts.back().endRow > inner->endRow);
-            m_found.forcedCells -= ends > 0 ? ends + 2 : 0;
+            m_found.evidence.forcedCells -= ends > 0 ? ends + 2 : 0;
         }
         for (const Area& host : hosts)
             mergeCells(host);

@@ -172,7 +172,7 @@ LatticeGrid gridOf(const RuleLattice& lattice) {
     CutCells cut = cutIntoCells(ownerOfPlace, columns);
     const bool areClosed =
         std::all_of(cut.cells.begin(), cut.cells.end(), [&](const GridCell& cell) { return isClosed(lattice, cell); });
-    return {{lattice.xs, lattice.ys, std::move(cut.cells)}, cut.forced, areClosed};
+    return {{lattice.xs, lattice.ys, std::move(cut.cells)}, {cut.forced, areClosed}};
 }
 
 bool isClosed(const RuleLattice& lattice, const GridCell& cell) {

@@ -35,8 +35,7 @@ std::optional<RuleLattice> buildLattice(const std::vector<BorderLine>& lines, co
 /// A grid and how well its lines told it.
 struct LatticeGrid {
     TableGrid grid;
-    int forcedCells = 0;   ///< cells that had to be cut out of a shape that is no rectangle
-    bool isClosed = false; ///< all sides of all its cells are drawn
+    GridEvidence evidence;
 };
 
 /// The cells of a lattice: places without a drawn side between them are one cell.

@@ -8,12 +8,6 @@
 
 namespace orvane::layout {
 
-/// What the finder of a drawn grid knows beside the grid.
-struct GridEvidence {
-    int forcedCells = 0;   ///< see LatticeGrid
-    bool isClosed = false; ///< see LatticeGrid
-};
-
 /// Judges a grid drawn with rules.
 TableVerdict judgeRuledTable(const PageText& page, const TableGrid& grid, const CellText& text,
                              const GridEvidence& evidence, const TableParameters::Tables& parameters);

@@ -34,7 +34,7 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
             continue;
         LatticeGrid found = gridOf(*lattice);
         std::vector<TableGrid> nested = takeNestedGrids(found, *lattice, page.lines, parameters);
-        const bool isFound = isTable(page, found.grid, {found.forcedCells, found.isClosed}, parameters);
+        const bool isFound = isTable(page, found.grid, found.evidence, parameters);
         // Within a cell a few empty fields are a table, too; in a box alone they must be one of their own.
         for (TableGrid& inner : nested)
             if (isFound ? hasWords(page, inner, parameters) : isTable(page, inner, {}, parameters))

@@ -244,10 +244,7 @@ std::vector<TableGrid> findSideGrids(const PageText& page, const LayoutParameter
         grounds.add(page.grounds[i].box, i);
     for (const SideColumn& side : findSideColumns(page.grounds, parameters.tables)) {
         std::optional<TableGrid> grid = SideTableReader(page, pieces, grounds, side, parameters).read();
-        const bool isNew = grid && std::none_of(grids.begin(), grids.end(), [&](const TableGrid& other) {
-                               return other.box().intersects(grid->box());
-                           });
-        if (isNew)
+        if (grid && !overlapsAny(*grid, grids))
             grids.push_back(std::move(*grid));
     }
     return grids;

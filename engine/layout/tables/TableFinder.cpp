@@ -55,10 +55,6 @@ bool isInBox(const TableGrid& grid, const std::vector<BorderLine>& lines, const 
 /// box or two are none.
 void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& halfRuled,
                    const std::vector<BorderLine>& lines, const TableParameters::Tables& parameters) {
-    const auto overlapsAny = [](const TableGrid& grid, const std::vector<TableGrid>& others) {
-        return std::any_of(others.begin(), others.end(),
-                           [&](const TableGrid& other) { return other.box().intersects(grid.box()); });
-    };
     std::erase_if(halfRuled, [&](const TableGrid& grid) {
         return grid.columns() <= 2 && grid.rows() <= 3 &&
                (overlapsAny(grid, stacked) || isInBox(grid, lines, parameters));
@@ -66,9 +62,13 @@ void chooseBetween(std::vector<TableGrid>& stacked, std::vector<TableGrid>& half
     std::erase_if(stacked, [&](const TableGrid& grid) { return overlapsAny(grid, halfRuled); });
 }
 
-bool overlapsAny(const TableGrid& grid, const std::vector<TableDraft>& tables) {
-    return std::any_of(tables.begin(), tables.end(),
-                       [&](const TableDraft& table) { return table.box.intersects(grid.box()); });
+/// Drops the grids that lie over a table that was found before.
+std::vector<TableGrid> besideTables(std::vector<TableGrid> grids, const std::vector<TableDraft>& tables) {
+    std::erase_if(grids, [&](const TableGrid& grid) {
+        return std::any_of(tables.begin(), tables.end(),
+                           [&](const TableDraft& table) { return table.box.intersects(grid.box()); });
+    });
+    return grids;
 }
 
 } // namespace
@@ -99,12 +99,11 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     chooseBetween(stacked, halfRuled, others, limits);
     take(std::move(halfRuled), others, TableEdges::HalfRuled);
     take(std::move(stacked), others, TableEdges::Ruled);
-    std::vector<TableGrid> sided = findSideGrids(page, parameters);
-    std::erase_if(sided, [&](const TableGrid& grid) { return overlapsAny(grid, tables); });
-    take(std::move(sided), collectBorderLines(page.rules, limits), TableEdges::Ruled);
+    take(besideTables(findSideGrids(page, parameters), tables), collectBorderLines(page.rules, limits),
+         TableEdges::Ruled);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
-    take(findGroundGrids(page, left, tables, limits), left, TableEdges::Ruled);
+    take(besideTables(findGroundGrids(page, left, limits), tables), left, TableEdges::Ruled);
     take(findLabelledGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;

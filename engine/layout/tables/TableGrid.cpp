@@ -4,6 +4,11 @@
 
 namespace orvane::layout {
 
+bool overlapsAny(const TableGrid& grid, const std::vector<TableGrid>& others) {
+    return std::any_of(others.begin(), others.end(),
+                       [&](const TableGrid& other) { return other.box().intersects(grid.box()); });
+}
+
 std::vector<int> coverOf(const TableGrid& grid) {
     const int columns = grid.columns();
     std::vector<int> cover(static_cast<std::size_t>(columns) * static_cast<std::size_t>(grid.rows()), -1);

@@ -33,6 +33,15 @@ struct TableGrid {
     }
 };
 
+/// Whether the grid lies over one of the others.
+bool overlapsAny(const TableGrid& grid, const std::vector<TableGrid>& others);
+
+/// What the lines of a drawn grid tell about it.
+struct GridEvidence {
+    int forcedCells = 0;   ///< that had to be cut out of a shape that is no rectangle
+    bool isClosed = false; ///< all sides of all its cells are drawn
+};
+
 /// Which cell covers each place of the grid, row by row; -1 for a hole. A place that two cells claim belongs to the
 /// later one.
 std::vector<int> coverOf(const TableGrid& grid);
