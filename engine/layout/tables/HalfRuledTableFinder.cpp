@@ -2,6 +2,7 @@
 
 #include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/BandRun.h"
+#include "layout/tables/ColumnPieces.h"
 #include "layout/tables/HeadSpans.h"
 #include "layout/tables/OpenBands.h"
 #include "layout/tables/RuleLabels.h"
@@ -21,10 +22,23 @@ Rect boxOf(const AlignedRows& aligned) {
     return box;
 }
 
-/// Whether the texts take up most of the rules' length: those of a page's head and foot are longer than the table
-/// between them.
-bool fillsRules(const BandRun& run, const RuleLevel& level, const TableParameters::Tables& parameters) {
-    return boxOf(run.aligned).width() >= parameters.ruleFill * (level.right - level.left);
+/// The texts that stand in the first column only, from top to bottom.
+ColumnPieces firstColumnOf(const AlignedRows& aligned) {
+    ColumnPieces column;
+    for (const PieceRow& row : aligned.rows) {
+        const ColumnRange range = columnsOf(row.pieces.front(), aligned.gaps);
+        if (range.first == 0 && range.last == 0)
+            column.add(row.pieces.front());
+    }
+    return column;
+}
+
+/// Whether the first column holds numbers and a head that end at one edge: the column is wider than they are.
+bool endsWithNumbers(const ColumnPieces& column, const std::vector<Line>& lines,
+                     const TableParameters::Tables& parameters) {
+    return isOfNumbers(column, lines, parameters) && column.share([&](const TextPiece* piece) {
+        return piece->box.right >= column.right - parameters.columnEdge * lines[piece->line].fontSize;
+    }) == 1;
 }
 
 /// Whether the run begins with rows that stand each in a band of its own above the first rule.
@@ -63,6 +77,19 @@ Frame frameOf(const RuleStack& stack, const std::vector<RuleBand>& bands, const 
         return Frame::Headed;
     const bool startsStack = run.first == 0 && (!bands.front().hasRuleAbove || stack.size() > 1);
     return startsStack && bands.front().hasRuleBelow ? Frame::Headed : Frame::None;
+}
+
+/// Whether the texts take up most of the rules' length: those of a page's head and foot are longer than the table
+/// between them. Below a head and its rule the room of a first column of numbers counts, too.
+bool fillsRules(const RuleStack& stack, const std::vector<RuleBand>& bands, const BandRun& run,
+                const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
+    const RuleBand& head = bands[run.first];
+    const RuleLevel& level = stack[head.level];
+    Rect box = boxOf(run.aligned);
+    const bool isHeaded = head.hasRuleBelow && frameOf(stack, bands, run) == Frame::Headed;
+    if (isHeaded && endsWithNumbers(firstColumnOf(run.aligned), lines, parameters))
+        box.left = std::min(box.left, level.left);
+    return box.width() >= parameters.ruleFill * (level.right - level.left);
 }
 
 /// Whether the first band has a text in each column but the first, which may need no head.
@@ -123,7 +150,7 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<Borde
     alignRun(bands, page.lines, rules, parameters, run);
     if (run.aligned.groups.empty())
         return std::nullopt;
-    if (!fillsRules(run, stack[bands[run.first].level], limits) && !hasHeadBetweenRules(stack, bands, run, limits))
+    if (!fillsRules(stack, bands, run, page.lines, limits) && !hasHeadBetweenRules(stack, bands, run, limits))
         return std::nullopt;
     if (frameOf(stack, bands, run) == Frame::Headed && !isHeaded(bands, run, limits))
         return std::nullopt;

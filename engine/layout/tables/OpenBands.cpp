@@ -25,7 +25,7 @@ bool isLabelWithAmount(const PieceRow& row, const std::vector<Line>& lines) {
     return row.pieces.size() > 1 && !isNumeric(row.pieces.front(), lines) && isNumeric(row.pieces.back(), lines);
 }
 
-std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+std::vector<PieceRow> headAbove(const RuleLevel& level, double rowSpace, const std::vector<TextPiece>& pieces,
                                 const TableParameters::Tables& parameters) {
     std::vector<TextPiece> above;
     double reach = 0;
@@ -42,7 +42,8 @@ std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPi
     auto first = rows.end();
     while (first != rows.begin()) {
         const PieceRow& row = *(first - 1);
-        const bool isNear = bottom - row.box.bottom <= parameters.headSpace * row.fontSize;
+        const double usual = parameters.headSpace * row.fontSize;
+        const bool isNear = bottom - row.box.bottom <= (first == rows.end() ? std::max(usual, rowSpace) : usual);
         const bool isOfHead = row.pieces.size() > 1 || (first != rows.end() && isUpperLineOf(row, *first, parameters));
         if (!isNear || !isOfHead || !isBetweenEnds(row, level, parameters))
             break;

@@ -11,8 +11,8 @@ namespace orvane::layout {
 bool isLabelWithAmount(const PieceRow& row, const std::vector<Line>& lines);
 
 /// The rows of texts side by side that stand right above a rule, between its ends: the head of a table that has no rule
-/// above it. `pieces` are sorted by their baselines.
-std::vector<PieceRow> headAbove(const RuleLevel& level, const std::vector<TextPiece>& pieces,
+/// above it. The last of them may be `rowSpace` points above the rule. `pieces` are sorted by their baselines.
+std::vector<PieceRow> headAbove(const RuleLevel& level, double rowSpace, const std::vector<TextPiece>& pieces,
                                 const TableParameters::Tables& parameters);
 
 /// The rows of texts side by side above a rule, between its ends, for as long as they follow each other closely: what

@@ -11,6 +11,8 @@
 namespace orvane::layout {
 namespace {
 
+constexpr std::ptrdiff_t kFewestSpacedRows = 3;
+
 /// Whether the table goes on below the last level of a stack.
 enum class StackEnd { Open, Closed };
 
@@ -142,11 +144,22 @@ std::vector<RuleBand> bandsBelow(const RuleStack& stack, StackEnd stackEnd, cons
     return bands;
 }
 
+/// The room between the first rows below a lone rule, all of texts side by side, in points; 0 where these are too few.
+double rowSpaceBelow(const RuleStack& stack, const std::vector<TextPiece>& pieces,
+                     const TableParameters::Tables& parameters) {
+    if (stack.size() > 1)
+        return 0;
+    const std::vector<PieceRow> rows = rowsBelow(stack.front(), pieces, parameters);
+    const auto end = rows.begin() + std::min<std::ptrdiff_t>(std::ssize(rows), kFewestSpacedRows);
+    const bool areRows = std::all_of(rows.begin(), end, [](const PieceRow& row) { return row.pieces.size() > 1; });
+    return end - rows.begin() == kFewestSpacedRows && areRows ? rows[1].box.top - rows[0].box.bottom : 0;
+}
+
 } // namespace
 
 std::vector<RuleBand> bandsOf(const RuleStack& stack, const std::vector<TextPiece>& pieces,
                               const std::vector<Line>& lines, const TableParameters::Tables& parameters) {
-    std::vector<PieceRow> head = headAbove(stack.front(), pieces, parameters);
+    std::vector<PieceRow> head = headAbove(stack.front(), rowSpaceBelow(stack, pieces, parameters), pieces, parameters);
     std::vector<RuleBand> between = bandsBetween(stack, pieces, lines, parameters);
     std::vector<RuleBand> below = bandsBelow(stack, endOf(stack, head, between, parameters), pieces, lines, parameters);
     std::vector<RuleBand> bands = bandsAbove(stack, std::move(head), pieces, lines, parameters);
