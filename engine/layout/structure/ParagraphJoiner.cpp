@@ -1,8 +1,11 @@
 #include "layout/structure/ParagraphJoiner.h"
 
+#include "base/Utf8.h"
 #include "layout/structure/BlockExtent.h"
 #include "layout/structure/PageFloor.h"
 #include "layout/structure/ParagraphContinuation.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,17 +19,36 @@ bool isPassedOver(const DraftBlock& block) {
     return std::holds_alternative<FigureDraft>(block.value) || isFloating(block);
 }
 
-/// For each page whether it was ended by hand, as so much of it is empty that no text runs on from its last line.
-std::vector<bool> findHandEnds(const DocumentDraft& draft) {
+/// How a page ends.
+enum class PageEnd {
+    Full,
+    Open, ///< with more room than lines that stay together, or a picture in one, leave blank
+    Hand, ///< so early that no text runs on from its last line
+};
+
+/// Lines that a page may leave blank below a paragraph that goes on behind it.
+constexpr double kMostBlankLines = 12;
+
+std::vector<PageEnd> findPageEnds(const DocumentDraft& draft, const DocumentContext& context) {
     std::vector<double> bottoms(draft.pages.size(), 0);
     for (const DraftBlock& block : draft.blocks)
         bottoms[block.page] = std::max(bottoms[block.page], block.box.bottom);
     for (std::size_t page = 0; page < draft.noteAreas.size(); ++page)
         bottoms[page] = std::max(bottoms[page], draft.noteAreas[page].bottom);
-    std::vector<bool> ends;
-    for (std::size_t page = 0; page < draft.pages.size(); ++page)
-        ends.push_back(isHalfEmpty(bottoms[page], draft.pages[page].height));
+    std::vector<PageEnd> ends;
+    for (std::size_t page = 0; page < draft.pages.size(); ++page) {
+        const double height = draft.pages[page].height;
+        const double full = std::min(context.textArea.bottom, height) - kMostBlankLines * context.bodyLeading;
+        ends.push_back(isHalfEmpty(bottoms[page], height) ? PageEnd::Hand
+                       : bottoms[page] <= full            ? PageEnd::Open
+                                                          : PageEnd::Full);
+    }
     return ends;
+}
+
+bool startsLowerCase(const DraftBlock& block) {
+    const std::u32string text = utf32FromUtf8(textOf(block.paragraph()->pieces.front().text.lines.front()));
+    return !text.empty() && isLowerCase(text.front());
 }
 
 /// Columns side by side hold one text where they are alike; a narrow one beside a wide one has a text of its own.
@@ -56,10 +78,11 @@ bool goesOn(const DocumentDraft& draft, const DraftBlock& last, const DraftBlock
 } // namespace
 
 void joinParagraphs(DocumentDraft& draft, const DocumentContext& context, const LayoutParameters& parameters) {
-    const std::vector<bool> isHandEnd = findHandEnds(draft);
+    const std::vector<PageEnd> ends = findPageEnds(draft, context);
     const auto mayGoOn = [&](const DraftBlock& before, const DraftBlock& next) {
         const std::size_t page = before.paragraph()->pieces.back().page;
-        return page == next.page || !isHandEnd[page];
+        return page == next.page || ends[page] == PageEnd::Full ||
+               (ends[page] == PageEnd::Open && startsLowerCase(next));
     };
     std::vector<DraftBlock> joined;
     std::size_t last =

@@ -98,6 +98,23 @@ TEST(ParagraphJoiner, KeepsParagraphsApartBelowWhichHalfThePageIsEmpty) {
     EXPECT_EQ(withNotes.blocks.size(), 1u) << "notes take the rest of the page";
 }
 
+TEST(ParagraphJoiner, KeepsATitleApartFromTheOneOfTheNextPageWhereManyLinesAreBlankBelow) {
+    const auto blocksBelow = [](double baseline, const char* after) {
+        DocumentDraft draft = makeDraft(2);
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine(kFullLine, 72, baseline)})));
+        draft.blocks.back().paragraph()->pieces[0].text.endsParagraph = false;
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine(after, 72, 84)}), 1));
+        DocumentContext context;
+        context.textArea = {72, 72, 540, 760};
+        context.bodyLeading = 14;
+        joinParagraphs(draft, context, {});
+        return draft.blocks.size();
+    };
+    EXPECT_EQ(blocksBelow(740, "Notes that begin with a capital"), 1u);
+    EXPECT_EQ(blocksBelow(500, "Notes that begin with a capital"), 2u);
+    EXPECT_EQ(blocksBelow(500, "and goes on here"), 1u);
+}
+
 TEST(ParagraphJoiner, PutsPicturesAtTheBreakBehindTheParagraph) {
     DocumentDraft draft = brokenParagraph(kFullLine, "and goes on here");
     DraftBlock picture;
