@@ -68,6 +68,13 @@ bool isFillerLine(const Line& line) {
     return length >= kShortest;
 }
 
+/// Whether the line ends in strokes to write on.
+bool endsInField(const std::u32string& lastWord) {
+    constexpr std::size_t kShortest = 4;
+    const std::size_t end = lastWord.find_last_not_of(U'_');
+    return lastWord.size() - (end == std::u32string::npos ? 0 : end + 1) >= kShortest;
+}
+
 /// How many characters of the word have to move together to the line above.
 std::size_t firstUnitLength(const std::u32string& word) {
     std::size_t length = 1;
@@ -141,6 +148,7 @@ void readEnds(const Line& line, std::span<const pdf::Font> fonts, LineMeasure& m
     measure.endsCaseless = isCaselessLetter(last.back());
     measure.startsCaseless = isCaselessLetter(first[0]);
     measure.endsSentence = endsSentence(last);
+    measure.endsInField = endsInField(last);
     measure.startsLowerCase = u_islower(static_cast<UChar32>(first[0]));
 }
 

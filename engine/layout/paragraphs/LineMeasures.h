@@ -46,6 +46,7 @@ struct LineMeasure {
     bool startsCaseless = false;
     bool endsSentence = false; ///< with a full stop or the like, be it within quotes or brackets
     bool isFiller = false;     ///< nothing but strokes or dots: a line to write on
+    bool endsInField = false;  ///< strokes to write on end it
     std::optional<document::DropCapKind> dropCap;
     int field = -1;        ///< the first one on it to be filled in, see Look::field
     double fieldStart = 0; ///< start gap of that field

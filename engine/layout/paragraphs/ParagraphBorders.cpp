@@ -20,6 +20,9 @@ constexpr EighthPoints kThickest{96};
 /// Share of a paragraph's width that its shading takes. A narrower ground is not the width of the text around it.
 constexpr double kWholeGround = 0.9;
 
+/// Share of the page's height that a frame around its text takes.
+constexpr double kFrameHeight = 0.6;
+
 /// A paragraph, and from where to where a word processor draws its borders.
 struct Placed {
     ParagraphDraft* paragraph = nullptr;
@@ -54,6 +57,8 @@ public:
         : m_layout(layout)
         , m_parameters(parameters) {
         for (PageBlock& block : layout.blocks) {
+            if (const auto* table = std::get_if<TableDraft>(&block.value))
+                m_tables.push_back(table->box);
             auto* paragraph = std::get_if<ParagraphDraft>(&block.value);
             if (!paragraph || paragraph->lines.front().angle != 0 || paragraph->lines.front().isVertical)
                 continue;
@@ -177,8 +182,18 @@ private:
         rule.isUsed = true;
     }
 
+    /// Whether the rule is of a frame around most of the page, tables among it, which the borders of paragraphs would
+    /// leave in pieces.
+    bool isOfPageFrame(const Rule& rule) const {
+        return rule.to - rule.from >= kFrameHeight * m_layout.height &&
+               std::any_of(m_tables.begin(), m_tables.end(),
+                           [&](const Rect& table) { return rule.from < table.top && rule.to > table.bottom; });
+    }
+
     /// A rule beside paragraphs, along all of each.
     void lineVertically(Rule& rule) {
+        if (isOfPageFrame(rule))
+            return;
         for (const Placed& placed : m_paragraphs) {
             const Rect& box = placed.paragraph->box;
             // Between columns it parts them and belongs to neither.
@@ -220,6 +235,7 @@ private:
     PageLayout& m_layout;
     const ParagraphParameters::Borders& m_parameters;
     std::vector<Placed> m_paragraphs;
+    std::vector<Rect> m_tables;
 };
 
 } // namespace

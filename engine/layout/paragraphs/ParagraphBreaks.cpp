@@ -1,15 +1,24 @@
 #include "layout/paragraphs/ParagraphBreaks.h"
 
+#include "base/Utf8.h"
 #include "layout/formulas/FormulaFinder.h"
 #include "layout/paragraphs/JustifiedLines.h"
 #include "layout/paragraphs/NaturalLeading.h"
 #include "layout/paragraphs/RaggedLines.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace orvane::layout {
 namespace {
+
+/// A letter that goes on with no sentence.
+bool startsLabel(const Line& line) {
+    const std::u32string text = utf32FromUtf8(textOf(line.words.front()));
+    return !text.empty() && isLetter(text.front()) && !isLowerCase(text.front());
+}
 
 /// Walks down the lines of a column, with the paragraph that began at `m_first` growing until a line does not belong to
 /// it.
@@ -153,7 +162,15 @@ private:
     }
 
     bool isContentsRow(std::size_t next) const {
-        return m_measures[next - 1].hasLeader || m_measures[next - 1].isFiller != m_measures[next].isFiller;
+        return m_measures[next - 1].hasLeader || m_measures[next - 1].isFiller != m_measures[next].isFiller ||
+               areFields(next);
+    }
+
+    /// Whether two lines of a form follow each other, each with a label before its strokes to write on.
+    bool areFields(std::size_t next) const {
+        const LineMeasure& above = m_measures[next - 1];
+        const LineMeasure& line = m_measures[next];
+        return above.endsInField && line.endsInField && !above.isFiller && !line.isFiller && startsLabel(m_lines[next]);
     }
 
     bool isRowLikeTheOneAbove(std::size_t next) const {

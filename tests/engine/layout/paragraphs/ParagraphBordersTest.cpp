@@ -76,6 +76,19 @@ TEST(ParagraphBorders, CentredLinesHaveTheEdgesOfTheirColumn) {
     EXPECT_EQ(sides(found(std::move(page)), 0), "b");
 }
 
+TEST(ParagraphBorders, AFrameAroundThePageIsNoBorderOfTheParagraphsBesideATable) {
+    const auto sidesBeside = [](double tableBottom, double ruleBottom) {
+        PageLayout page = pageWith({100, 300});
+        page.blocks.emplace_back().value.emplace<TableDraft>().box = {100, 150, 400, tableBottom};
+        page.freeRules = {vertical(70, 80, ruleBottom)};
+        page = found(std::move(page));
+        return sides(page, 0) + "|" + sides(page, 1);
+    };
+    EXPECT_EQ(sidesBeside(250, 780), "|");
+    EXPECT_EQ(sidesBeside(790, 780), "l|l") << "the table goes on below the rule";
+    EXPECT_EQ(sidesBeside(250, 320), "l|l") << "a box around some of the page";
+}
+
 TEST(ParagraphBorders, WhatABoxHoldsHasAllItsSides) {
     PageLayout page = pageWith({100, 120, 140, 200});
     page.freeRules = {horizontal(85, 68, 527), horizontal(150, 68, 527), vertical(68, 85, 150), vertical(527, 85, 150)};

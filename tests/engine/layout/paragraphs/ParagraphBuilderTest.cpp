@@ -271,6 +271,12 @@ TEST(ParagraphBuilder, EndsAJustifiedParagraphAtItsShortLine) {
     EXPECT_EQ(paragraphs[0].lines.size(), 4U);
 }
 
+TEST(ParagraphBuilder, EndsAParagraphAtTheStrokesOfAFormsField) {
+    EXPECT_EQ(build({"Contact: ____________________", "Address: ____________________"}, 29).size(), 2U);
+    EXPECT_EQ(build({"I, who live in ______________", "and was born on _____________"}, 29).size(), 1U);
+    EXPECT_EQ(build({"Contact and what else it says", "Address: ____________________"}, 29).size(), 1U);
+}
+
 TEST(ParagraphBuilder, MeasuresIndents) {
     struct Row {
         std::vector<std::string> art; ///< in a column of 30 characters
