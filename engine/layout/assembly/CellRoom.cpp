@@ -64,9 +64,11 @@ void fitCellRoom(AssembledBlock& table, const AssemblyParameters::TableCells& li
 }
 
 void lowerCellTexts(AssembledBlock& table, const AssemblyParameters::TableCells& limits) {
-    if (!table.draft || !std::holds_alternative<document::Table>(table.block.value))
+    const auto* target = std::get_if<document::Table>(&table.block.value);
+    if (!target || !table.draft)
         return;
     const auto& draft = std::get<DraftTable>(table.draft->value);
+    const double margin = smallestRoom(table, draft, limits).above;
     const std::map<int, double> drops = leastDrops(table, draft);
     for (std::size_t i = 0; i < draft.cells.size() && i < table.cells.size(); ++i) {
         const CellDraft& cell = draft.cells[i].cell;
@@ -74,8 +76,14 @@ void lowerCellTexts(AssembledBlock& table, const AssemblyParameters::TableCells&
             continue;
         AssembledBlock& first = table.cells[i].front();
         const DraftParagraph* text = first.draftParagraph();
-        const double drop = first.top - cell.box.top - drops.at(cell.row);
-        if (text && first.paragraph() && drop >= limits.leastDrop * text->firstLine().fontSize)
+        if (!text || !first.paragraph())
+            continue;
+        const double least = limits.leastDrop * text->firstLine().fontSize;
+        // Rows that differ a little in height are none the worse for having one margin.
+        const double ofRow = drops.at(cell.row) - margin - reachOf(cell.borders.top);
+        const double usual = ofRow >= least ? margin + reachOf(cell.borders.top) : drops.at(cell.row);
+        const double drop = first.top - cell.box.top - usual;
+        if (drop >= least)
             first.paragraph()->properties.spaceBefore = twipsFromPoints(drop);
     }
 }

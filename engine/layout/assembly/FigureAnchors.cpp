@@ -159,7 +159,7 @@ void hangOnText(std::vector<AssembledBlock>& blocks, const std::optional<CellOri
     for (std::size_t i = 0; i < blocks.size(); ++i) {
         AssembledBlock& block = blocks[i];
         document::Placement* placement = placementOf(block.block);
-        if (!placement || !block.draft || !takesNoRoom(*placement))
+        if (!placement || !block.draft || !(cell || takesNoRoom(*placement)))
             continue;
         const AssembledBlock* host = hostOf(blocks, i);
         if (!cell && (!host || !belongsTo(block, *host, context)))

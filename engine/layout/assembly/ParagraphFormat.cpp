@@ -126,9 +126,9 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
         (isLastFullest(paragraph, parameters.spacing.smallestEndIndent) || isWordColumn(paragraph)))
         format.alignment = Alignment::Start;
     // The edges of centred lines, and the start of those set against the end, follow from their lengths. Running heads
-    // may be wider than the text.
+    // may be wider than the text; in a cell, or in a section wider than the page shows, lines end before the edge.
     if (format.alignment == Alignment::End)
-        format.indentEnd = indent(std::min(0.0, roomBehind(first)), parameters.spacing.smallestIndent);
+        format.indentEnd = indent(roomBehind(first), parameters.spacing.smallestIndent);
     else if (format.alignment != Alignment::Center)
         setIndents(paragraph, parameters, format);
     if (paragraph.list)

@@ -43,11 +43,24 @@ Point middleOf(const Rect& box) {
     return {box.centerX(), box.centerY()};
 }
 
+/// Whether a line of the cell stands beside the box, most of it between its upper and lower edge.
+bool hasTextBeside(const CellDraft& cell, const Rect& box) {
+    return std::any_of(cell.blocks.begin(), cell.blocks.end(), [&](const PageBlock& block) {
+        const auto* paragraph = std::get_if<ParagraphDraft>(&block.value);
+        return paragraph && std::any_of(paragraph->lines.begin(), paragraph->lines.end(), [&](const Line& line) {
+                   return line.box.centerY() > box.top && line.box.centerY() < box.bottom &&
+                          (line.box.right <= box.left || line.box.left >= box.right);
+               });
+    });
+}
+
 /// Puts a block into the cell that holds its middle, at its place from top to bottom.
 bool placeBlock(TableDraft& table, const Rect& box, PageBlock block) {
     for (CellDraft& cell : table.cells) {
         if (!cell.box.contains(middleOf(box)))
             continue;
+        if (auto* figure = std::get_if<FigureDraft>(&block.value))
+            figure->isInline = !hasTextBeside(cell, box);
         const double top = topOf(block);
         const auto after = std::find_if(cell.blocks.begin(), cell.blocks.end(),
                                         [&](const PageBlock& other) { return topOf(other) > top; });
