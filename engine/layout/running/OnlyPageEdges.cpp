@@ -8,6 +8,16 @@
 namespace orvane::layout {
 namespace {
 
+/// Points from the page's edge within which a foot stands that only its place tells from the text, ...
+constexpr double kMargin = 62;
+/// ... and its distance from that, of its font size.
+constexpr double kLinesAbove = 4;
+
+bool hasTextAbove(const EdgeRows& edge, const PageText& page) {
+    return std::any_of(page.lines.begin(), page.lines.end(),
+                       [&](const Line& line) { return line.box.bottom < edge.rows.back().box.top; });
+}
+
 /// The rows from the edge up to the first gap that parts them from the text; 0 where there is none.
 std::size_t countApart(const EdgeRows& edge, const PageText& page, const RunningParameters::RunningHeads& limits) {
     for (std::size_t i = 1; i < edge.rows.size() && i <= limits.longestOnlyFoot; ++i) {
@@ -18,7 +28,17 @@ std::size_t countApart(const EdgeRows& edge, const PageText& page, const Running
         if (edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize))
             return i;
     }
-    return 0;
+    // The text above may end out of reach.
+    const bool isAlone = !edge.rows.empty() && edge.rows.size() <= limits.longestOnlyFoot &&
+                         endOf(edge.rows.back()) <= limits.onlyFootReach * page.height && hasTextAbove(edge, page);
+    return isAlone ? edge.rows.size() : 0;
+}
+
+/// Whether the rows stand within the margin that word processors leave below a text, far below it.
+bool areInMargin(const EdgeRows& edge, std::size_t count) {
+    const RunningRow& last = edge.rows[count - 1];
+    return endOf(last) <= kMargin &&
+           (count == edge.rows.size() || edge.rows[count].fromEdge - endOf(last) >= kLinesAbove * last.fontSize);
 }
 
 /// The size that half of the lines above the rows do not reach.
@@ -110,7 +130,8 @@ void takeOnlyFoot(EdgeRows& edge, const PageText& page, const RunningParameters:
         std::any_of(first, last, [&](const RunningRow& row) { return row.fontSize > usual + parameters.sameSize; });
     const bool isNumbered =
         !isLarge && std::any_of(first, last, [&](const RunningRow& row) { return showsNumber(row, parameters); });
-    if ((!isSmall && !isNumbered) ||
+    const bool isSetApart = !isLarge && areInMargin(edge, count);
+    if ((!isSmall && !isNumbered && !isSetApart) ||
         std::any_of(first, last, [&](const RunningRow& row) { return isInTable(row, page); }))
         return;
     takeRows(edge, count);

@@ -12,7 +12,7 @@ using tests::makeLine;
 using tests::pagesWith;
 
 TEST(OnlyPageEdges, LeavesWordsOfSinglePagesAlone) {
-    auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("one", 290, 800)); });
+    auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("one", 290, 730)); });
     EXPECT_FALSE(takeRunningHeads(pages, {})[0].footer);
     EXPECT_EQ(pages[0].lines.size(), 31u);
 }
@@ -39,7 +39,7 @@ TEST(OnlyPageEdges, KnowsTheNumberOfASinglePage) {
                 {"Annual report 1", 0},
                 {"Annual report\tRoom 12", 0}};
     for (const auto& row : rows) {
-        auto pages = pagesWith(1, [&](PageText& page, int) { page.lines.push_back(makeLine(row.text, 290, 800)); });
+        auto pages = pagesWith(1, [&](PageText& page, int) { page.lines.push_back(makeLine(row.text, 290, 770)); });
         const auto heads = takeRunningHeads(pages, {});
         EXPECT_EQ(heads[0].footer ? heads[0].footer->fields.size() : 0, row.fields) << row.text;
         EXPECT_EQ(pages[0].lines.size(), row.fields > 0 ? 30u : 31u) << row.text;
@@ -55,7 +55,9 @@ TEST(OnlyPageEdges, TakesTheFootOfASinglePage) {
         const char* why;
     } rows[] = {{"Page 1 of 2", 10, 800, true, "it counts the pages of a longer document"},
                 {"Bank of Somewhere, account 12 34", 8, 800, true, "in small letters at the edge"},
-                {"and so the text ends", 10, 800, false, "in the letters of the text"},
+                {"and so the text ends", 10, 760, false, "in the letters of the text, above the margin"},
+                {"a street and a town", 10, 800, true, "far below the text in the margin"},
+                {"A TITLE", 14, 800, false, "larger than the text"},
                 {"and so the text ends", 8, 703, false, "right below the text"},
                 {"a note in small letters", 8, 730, false, "far from the edge"}};
     for (const auto& row : rows) {
