@@ -112,8 +112,28 @@ bool isBesideRows(const Rect& box, const EdgeRows& edge, PageEdge side) {
     return side == PageEdge::Top ? box.bottom <= reach.bottom : box.top >= reach.top;
 }
 
-/// Moves what is drawn around the rows, up to `limit`, where the text may begin.
-void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, double limit, PageText& head) {
+/// The upright rules that lead over y.
+std::vector<Rule> rulesAcross(const PageText& page, double y) {
+    std::vector<Rule> across;
+    for (const Rule& rule : page.rules)
+        if (rule.direction == RuleDirection::Vertical && rule.from < y && rule.to > y)
+            across.push_back(rule);
+    return across;
+}
+
+/// Whether the rule is the side of a box whose other sides are upright rules of the page.
+bool closesBox(const Rule& rule, const std::vector<Rule>& sides, PageEdge edge, double slack) {
+    const auto meetsSide = [&](double x) {
+        return std::any_of(sides.begin(), sides.end(), [&](const Rule& side) {
+            const double end = edge == PageEdge::Top ? side.from : side.to;
+            return std::abs(side.position - x) <= slack && std::abs(end - rule.position) <= slack;
+        });
+    };
+    return rule.direction == RuleDirection::Horizontal && meetsSide(rule.from) && meetsSide(rule.to);
+}
+
+/// Moves what is drawn around the rows, up to `limit`, where the text may begin. Boxes that reach farther are whole.
+void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, double limit, double slack, PageText& head) {
     const auto isBeyond = [&](double top, double bottom) {
         return side == PageEdge::Top ? bottom <= limit : top >= limit;
     };
@@ -122,9 +142,11 @@ void takeDrawn(PageText& page, const EdgeRows& edge, PageEdge side, double limit
     moveParts(page.figures, head.figures, [&](const Figure& figure) {
         return isBeyond(figure.box.top, figure.box.bottom) && isBesideRows(figure.box, edge, side);
     });
+    const std::vector<Rule> across = rulesAcross(page, limit);
     moveParts(page.rules, head.rules, [&](const Rule& rule) {
-        return rule.direction == RuleDirection::Vertical ? isBeyond(rule.from, rule.to)
-                                                         : isBeyond(rule.position, rule.position);
+        return rule.direction == RuleDirection::Vertical
+                   ? isBeyond(rule.from, rule.to)
+                   : isBeyond(rule.position, rule.position) && !closesBox(rule, across, side, slack);
     });
 }
 
@@ -170,9 +192,9 @@ void takeHeads(PageText& page, const PageEdges& edges, const RunningParameters::
     prepare(edges.bottom, heads.footer);
     takeLines(page, edges, heads);
     if (edges.top.taken > 0)
-        takeDrawn(page, edges.top, PageEdge::Top, edges.headerEnd, heads.header->content);
+        takeDrawn(page, edges.top, PageEdge::Top, edges.headerEnd, limits.samePosition, heads.header->content);
     if (edges.bottom.taken > 0)
-        takeDrawn(page, edges.bottom, PageEdge::Bottom, edges.footerStart, heads.footer->content);
+        takeDrawn(page, edges.bottom, PageEdge::Bottom, edges.footerStart, limits.samePosition, heads.footer->content);
 }
 
 /// Whether most pages would hold nothing any more: a document of one numbered line a page, or of forms that are all

@@ -222,5 +222,32 @@ TEST(RunningHeads, LeavesTheHeadsOfTablesThatGoOn) {
     EXPECT_FALSE(takeRunningHeads(pages, {})[1].header);
 }
 
+TEST(RunningHeads, LeavesTheSidesOfBoxesThatReachIntoTheText) {
+    auto pages = pagesWith(3, [](PageText& page, int) {
+        page.lines.push_back(makeLine("Annual report", 72, 40));
+        for (const double y : {55.0, 60.0}) {
+            Rule rule;
+            rule.position = y;
+            rule.from = 72;
+            rule.to = 523;
+            page.rules.push_back(rule);
+        }
+        for (const double x : {72.0, 523.0}) {
+            Rule side;
+            side.direction = RuleDirection::Vertical;
+            side.position = x;
+            side.from = 60;
+            side.to = 140;
+            page.rules.push_back(side);
+        }
+    });
+    const auto heads = takeRunningHeads(pages, {});
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        ASSERT_EQ(heads[i].header->content.rules.size(), 1u) << "the rule below the head";
+        EXPECT_EQ(heads[i].header->content.rules[0].position, 55);
+        EXPECT_EQ(pages[i].rules.size(), 3u) << "the box begins between head and text";
+    }
+}
+
 } // namespace
 } // namespace orvane::layout
