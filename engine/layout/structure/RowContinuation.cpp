@@ -48,6 +48,11 @@ bool runsOn(DraftCell& above, DraftCell& below, const ParagraphContext& context,
     return layout::runsOn({before.text, before.column}, {after.text, after.column}, context, parameters);
 }
 
+char32_t firstLetterOf(DraftCell& cell) {
+    const std::u32string word = utf32FromUtf8(textOf(firstPieceOf(cell)->text.lines.front().words.front()));
+    return word.empty() ? U'\0' : word.front();
+}
+
 /// Whether the page break lies within a text: in a narrow cell every short text looks as if more could follow.
 bool isCutText(DraftCell& above, DraftCell& below) {
     const std::vector<Line>& lines = lastPieceOf(above)->text.lines;
@@ -56,10 +61,13 @@ bool isCutText(DraftCell& above, DraftCell& below) {
     const std::u32string last = utf32FromUtf8(textOf(lines.back().words.back()));
     if (!last.empty() && isWithoutBlanks(last.back()))
         return true;
-    if (lines.front().words.size() < 2)
-        return false;
-    const std::u32string next = utf32FromUtf8(textOf(firstPieceOf(below)->text.lines.front().words.front()));
-    return !next.empty() && isLowerCase(next.front());
+    return lines.front().words.size() > 1 && isLowerCase(firstLetterOf(below));
+}
+
+/// Whether words with a capital letter below a single line of some words begin a line that was ended by hand.
+bool beginsAnew(DraftCell& above, DraftCell& below) {
+    const std::vector<Line>& lines = lastPieceOf(above)->text.lines;
+    return lines.size() == 1 && lines.front().words.size() > 1 && isUpperCase(firstLetterOf(below));
 }
 
 bool haveSamePlaces(const std::vector<DraftCell*>& above, const std::vector<DraftCell*>& below) {
@@ -69,17 +77,57 @@ bool haveSamePlaces(const std::vector<DraftCell*>& above, const std::vector<Draf
                       });
 }
 
-/// In how many of the table's rows the first cell has text.
-double shareOfLabelledRows(const DraftTable& table) {
-    double cells = 0;
-    double labelled = 0;
+/// How many cells of a table's first column have text, and how many stand beside one row only.
+struct RowLabels {
+    std::size_t rows = 0;
+    std::size_t labelled = 0;
+    std::size_t ofOneRow = 0;
+
+    double share() const { return rows > 0 ? static_cast<double>(labelled) / static_cast<double>(rows) : 0; }
+};
+
+/// The labels of the rows from `first` on.
+RowLabels labelsOf(const DraftTable& table, int first) {
+    RowLabels labels;
     for (const DraftCell& cell : table.cells) {
-        if (cell.cell.column == 0) {
-            ++cells;
-            labelled += !cell.blocks.empty();
+        if (cell.cell.column == 0 && cell.cell.row >= first) {
+            ++labels.rows;
+            labels.labelled += !cell.blocks.empty();
+            labels.ofOneRow += cell.cell.rowSpan == 1;
         }
     }
-    return cells > 0 ? labelled / cells : 0;
+    return labels;
+}
+
+/// Whether all rows but the first of `next` have labels of their own. Few may have theirs by chance.
+bool areAllLabelled(const DraftTable& table, const DraftTable& next) {
+    constexpr std::size_t kFewestRows = 4;
+    const auto hasOwn = [](const RowLabels& labels) {
+        return labels.labelled == labels.rows && labels.ofOneRow == labels.rows;
+    };
+    const RowLabels above = labelsOf(table, 0);
+    const RowLabels below = labelsOf(next, 1);
+    return above.rows + below.rows >= kFewestRows && hasOwn(above) && hasOwn(below);
+}
+
+/// Sums have no label in many tables.
+bool isNumber(const DraftCell& cell) {
+    const std::u32string text = utf32FromUtf8(plainTextOf(cell));
+    return std::any_of(text.begin(), text.end(), isDigit) && std::none_of(text.begin(), text.end(), isLetter);
+}
+
+/// Whether the first row of `next` has texts, but no label where every other row has one: it is no row of its own.
+bool lacksItsLabel(const std::vector<DraftCell*>& above, const std::vector<DraftCell*>& below, const DraftTable& table,
+                   const DraftTable& next) {
+    if (!below.front()->blocks.empty() || below.front()->cell.rowSpan > 1)
+        return false;
+    bool goesOn = false;
+    for (std::size_t i = 1; i < below.size(); ++i) {
+        if (isNumber(*below[i]))
+            return false;
+        goesOn = goesOn || (!above[i]->blocks.empty() && !below[i]->blocks.empty());
+    }
+    return goesOn && areAllLabelled(table, next);
 }
 
 } // namespace
@@ -90,6 +138,8 @@ bool goesOnWithRow(DraftTable& table, DraftTable& next, const ParagraphContext& 
     const std::vector<DraftCell*> below = firstRowOf(next);
     if (!haveSamePlaces(above, below))
         return false;
+    if (lacksItsLabel(above, below, table, next))
+        return true;
     int forIt = 0;
     int againstIt = 0;
     for (std::size_t i = 0; i < above.size(); ++i) {
@@ -103,9 +153,9 @@ bool goesOnWithRow(DraftTable& table, DraftTable& next, const ParagraphContext& 
         else
             forIt += isCutText(*above[i], *below[i]);
     }
-    // Where every row has its label, a row without one is no row.
+    // Where nearly every row has its label, a row without one is no row.
     const bool lacksLabel = below.front()->blocks.empty() && !above.front()->blocks.empty() &&
-                            shareOfLabelledRows(table) > parameters.tables.labelledRowShare;
+                            labelsOf(table, 0).share() > parameters.tables.labelledRowShare;
     return forIt > 0 && (againstIt == 0 || lacksLabel);
 }
 
@@ -117,7 +167,7 @@ void joinRows(DraftTable& table, DraftTable& next, const ParagraphContext& conte
         std::vector<DraftBlock>& blocks = above[i]->blocks;
         std::vector<DraftBlock>& more = below[i]->blocks;
         auto first = more.begin();
-        if (runsOn(*above[i], *below[i], context, parameters)) {
+        if (runsOn(*above[i], *below[i], context, parameters) && !beginsAnew(*above[i], *below[i])) {
             std::vector<DraftPiece>& pieces = blocks.back().paragraph()->pieces;
             std::vector<DraftPiece>& rest = first->paragraph()->pieces;
             pieces.back().text.endsParagraph = false;

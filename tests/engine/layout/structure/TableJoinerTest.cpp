@@ -169,6 +169,30 @@ TEST(TableJoiner, MakesARowWholeThatThePageBreakCut) {
               "Key|Text/one|words of a long text that goes on behind the page break/two|short");
 }
 
+TEST(TableJoiner, TakesTextWithoutALabelForTheRestOfARowWhereAllRowsHaveTheirs) {
+    const TablePage first{{{"1", "Ask all"}, {"2", "Print it."}, {"3", "Send letters."}}};
+    EXPECT_EQ(joinedTables({first, {{{"", "Wait"}, {"4", "File them"}}}}),
+              "1|Ask all/2|Print it./3|Send letters.+Wait/4|File them");
+    EXPECT_EQ(joinedTables({first, {{{"", "Wait"}, {"", "File them"}}}}),
+              "1|Ask all/2|Print it./3|Send letters./|Wait/|File them")
+        << "some rows have no label";
+    EXPECT_EQ(joinedTables({first, {{{"", "7.50"}, {"4", "File them"}}}}),
+              "1|Ask all/2|Print it./3|Send letters./|7.50/4|File them")
+        << "a sum";
+    EXPECT_EQ(joinedTables({{{{"1", "Ask all"}, {"^", "Print it."}, {"2", "Send letters."}}},
+                            {{{"", "Wait"}, {"4", "File them"}}}}),
+              "1:2|Ask all/Print it./2|Send letters./|Wait/4|File them")
+        << "labels stand beside several rows";
+}
+
+TEST(TableJoiner, KeepsLinesThatWereEndedByHandInARowThatThePageBreakCut) {
+    const TablePage first{{{"1", "Ask all"}, {"2", "Print it."}, {"3", "All letters = many"}}};
+    EXPECT_EQ(joinedTables({first, {{{"", "Envelopes = few"}, {"4", "File them"}}}}),
+              "1|Ask all/2|Print it./3|All letters = many+Envelopes = few/4|File them");
+    EXPECT_EQ(joinedTables({first, {{{"", "envelopes"}, {"4", "File them"}}}}),
+              "1|Ask all/2|Print it./3|All letters = many envelopes/4|File them");
+}
+
 TEST(TableJoiner, MakesARowWholeBesideALabelOfSeveralRows) {
     EXPECT_EQ(joinedTables({{{{"Rye", "1911"}, {"^", "the harvest of the/county of Lund and"}}},
                             {{{"", "around it"}, {"^", "1913"}}}}),
