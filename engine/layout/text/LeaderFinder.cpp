@@ -48,7 +48,10 @@ Run runAt(const std::vector<Cluster>& clusters, std::size_t first, const TextPar
     const TabLeader leader = leaderOf(clusters[first]);
     Run run{first, first, 0};
     for (std::size_t i = first; i < clusters.size() && leaderOf(clusters[i]) == leader; ++i) {
-        if (i > first && clusters[i].gapBefore.width > limits.widestGap * clusters[i].size)
+        // A full stop that ends a number is none of the dots behind a tab.
+        const bool endsNumber = i == first + 1 && first > 0 && isDigit(clusters[first - 1].text.back());
+        const double widest = endsNumber ? limits.nextColumn : limits.widestGap;
+        if (i > first && clusters[i].gapBefore.width > widest * clusters[i].size)
             break;
         for (const char32_t c : clusters[i].text)
             run.dots += c == U'\x2026' ? 3 : 1;
@@ -88,6 +91,15 @@ bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, cons
     return run.last < clusters.size() && target > 0 && target <= limits.longestTarget;
 }
 
+/// Whether nothing but the number of an item stands before the run, and no number behind it: a blank to fill in.
+bool isBlankOfItem(const std::vector<Cluster>& clusters, const Run& run) {
+    constexpr std::size_t kLongestNumber = 3; // characters
+    if (run.first == 0 || run.first > kLongestNumber || isDigit(clusters[run.last].text.front()))
+        return false;
+    const char32_t last = clusters[run.first - 1].text.back();
+    return last == U'.' || last == U')';
+}
+
 /// Full stops within a sentence that breaks off.
 bool isEllipsis(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
     return leaderOf(clusters[run.first]) == TabLeader::Dots && run.dots <= limits.longestEllipsis &&
@@ -105,7 +117,7 @@ void findLeaders(TextRow& row, const TextParameters& parameters) {
         const Run run = leader == TabLeader::None ? Run{i, i + 1, 0} : runAt(clusters, i, limits);
         i = run.last;
         if (run.dots < limits.fewestDots || !leadsToSomething(clusters, run, limits) ||
-            isEllipsis(clusters, run, limits) ||
+            isEllipsis(clusters, run, limits) || isBlankOfItem(clusters, run) ||
             clusters[run.last].start - clusters[run.first].start < limits.shortest * row.fontSize)
             continue;
         std::fill(isGone.begin() + static_cast<std::ptrdiff_t>(run.first),

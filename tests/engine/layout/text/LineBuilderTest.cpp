@@ -208,6 +208,16 @@ TEST(LineBuilder, KeepsLinesToWriteOn) {
                 ElementsAre("Name ____________ and the place of birth, with the country", "Date ____________"));
 }
 
+TEST(LineBuilder, KeepsBlanksToFillInBehindTheNumbersOfItems) {
+    PageContentBuilder page;
+    for (const double y : {100.0, 114.0, 128.0})
+        page.text(72, y, y < 110 ? "3." : y < 120 ? "b)" : "4.", 10);
+    page.text(96, 100, "............. a good salary", 10);
+    page.text(96, 114, "............. the bus", 10);
+    page.text(96, 128, "............. 57", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("3.\t............. a good salary", "b)\t............. the bus", "4.\t57"));
+}
+
 TEST(LineBuilder, KeepsRowsOfContentsTogether) {
     PageContentBuilder page;
     for (int i = 0; i < 5; ++i) {
