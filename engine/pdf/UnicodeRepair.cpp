@@ -79,6 +79,11 @@ std::u32string fromStandIn(std::uint8_t code, double advance) {
     constexpr double kNarrow = 0.65; // of the font's size
     if (code >= kFirstPicture && code <= kLastPicture && advance > 0 && advance < kNarrow)
         return std::u32string(1, symbolCharacter(SymbolFont::Symbol, code));
+    // The square that forms give to tick is one of Wingdings 2; Wingdings has a narrower circle there.
+    constexpr std::uint8_t kSquare = 0xA3;
+    constexpr double kWide = 0.85; // of the font's size
+    if (code == kSquare && advance > kWide)
+        return std::u32string(1, symbolCharacter(SymbolFont::Wingdings2, code));
     constexpr std::uint8_t kDegree = 0xB0, kPlusMinus = 0xB1, kBullet = 0xB7; // of the font Symbol
     if (code == kDegree || code == kPlusMinus || code == kBullet)
         return fromPrivateDouble(code);

@@ -153,6 +153,8 @@ TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
 TEST(Unicode, OfANarrowSignWhereOthersHavePicturesIsThatOfSymbol) {
     const std::string map = "<41> <F02A> <42> <F028> <43> <F029> <44> <F02B> <45> <F02D>\n";
     EXPECT_EQ(signsOf("OpenSymbol", map, "507"), "\u2217()+\u2212");
+    EXPECT_EQ(signsOf("OpenSymbol", "<41> <F0A3> <42> <F0A3> <43> <F0A3> <44> <F0A3> <45> <F0A3>\n", "892"), "□□□□□");
+    EXPECT_EQ(signsOf("OpenSymbol", "<41> <F0A3> <42> <F0A3> <43> <F0A3> <44> <F0A3> <45> <F0A3>\n", "795"), "○○○○○");
     EXPECT_EQ(signsOf("OpenSymbol", "<41> <F02A> <42> <F028> <43> <F02A> <44> <F028> <45> <F02A>\n", "940"),
               "\u2709\u260E\u2709\u260E\u2709");
 }
