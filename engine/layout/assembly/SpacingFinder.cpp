@@ -175,14 +175,33 @@ void trimCells(AssembledBlock& block) {
     }
 }
 
-/// What starts a page by hand, or with its section, stands as far below the margin as on its page.
+/// Where the header of one page ends; 0 without one. Units: points, from the page's top.
+double headerEnd(const DraftSection& section, std::size_t page) {
+    const DraftRunningText& header = section.header;
+    const bool isEven = (page % 2 == 1) != section.countsOtherwise;
+    const std::optional<std::vector<DraftBlock>>& blocks = header.firstPage && page == section.tops.firstPage
+                                                               ? header.firstPage
+                                                           : header.evenPages && isEven ? header.evenPages
+                                                                                        : header.standard;
+    double end = 0;
+    if (blocks)
+        for (const DraftBlock& block : *blocks)
+            if (block.paragraph() || std::holds_alternative<DraftTable>(block.value))
+                end = std::max(end, block.box.bottom);
+    return end;
+}
+
+/// What starts a page by hand, or with its section, stands as far below the margin as on its page; or below a header
+/// that reaches beyond the margin and pushes the text down.
 void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& context) {
     const auto& sections = context.draft.sections;
     auto section = sections.begin();
+    const DraftSection* own = nullptr;
     PageTops tops;
     bool startsSection = false;
     for (std::size_t i = 0; i < body.size(); ++i) {
         for (; section != sections.end() && section->firstBlock <= i; ++section) {
+            own = &*section;
             tops = section->tops;
             tops.margin = pointsFromTwips(section->setup.marginTop);
             startsSection = startsSection || section->setup.start != document::SectionStart::Continuous;
@@ -192,7 +211,8 @@ void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& conte
         const bool startsPage = std::exchange(startsSection, false) || body[i].draft->startsPage;
         if (!startsPage)
             continue;
-        const double offset = body[i].top - tops.of(body[i].draft->page);
+        const std::size_t page = body[i].draft->page;
+        const double offset = body[i].top - std::max(tops.of(page), own ? headerEnd(*own, page) : 0.0);
         Paragraph* paragraph = body[i].paragraph();
         if (!paragraph) {
             spaceTable(body[i], offset, context);

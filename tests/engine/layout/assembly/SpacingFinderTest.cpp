@@ -201,6 +201,25 @@ TEST(SpacingFinder, SetsATableLowerThatStartsItsPageThere) {
         std::get<document::Paragraph>(table.rows.at(0).cells.at(0).blocks.at(0).value).properties.pageBreakBefore);
 }
 
+TEST(SpacingFinder, CountsTheSpaceAboveAPageFromAHeaderThatPushesItsTextDown) {
+    DocumentDraft draft = makeDraft(2);
+    DraftSection& section = draft.sections.emplace_back();
+    section.setup.marginTop = twipsFromPoints(40);
+    section.header.standard = {makeBlock(makeParagraph({makeLine("of odd pages", 72, 60)}))};
+    section.header.evenPages.emplace();
+    const double end = section.header.standard->front().box.bottom;
+    for (const std::size_t page : {0u, 1u}) {
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("starts the page", 72, 100)}), page));
+        draft.blocks.back().startsPage = true;
+    }
+    const auto document = documentOf(draft);
+    const auto spaceAbove = [&](std::size_t i) {
+        return pointsFromTwips(paragraphAt(document, i).properties.spaceBefore);
+    };
+    EXPECT_NEAR(spaceAbove(0) - spaceAbove(1), 40 - end, 0.1);
+    EXPECT_GT(spaceAbove(0), 20);
+}
+
 TEST(SpacingFinder, BringsARuleInTheMarginNearerToTheTextThatStartsThePage) {
     DocumentDraft draft = draftOfLines({{"below the rule", 72 + 9.71 + 10}});
     draft.sections.emplace_back().setup.marginTop = twipsFromPoints(72);
