@@ -100,14 +100,13 @@ RowLabels labelsOf(const DraftTable& table, int first) {
 }
 
 /// Whether all rows but the first of `next` have labels of their own. Few may have theirs by chance.
-bool areAllLabelled(const DraftTable& table, const DraftTable& next) {
-    constexpr std::size_t kFewestRows = 4;
+bool areAllLabelled(const DraftTable& table, const DraftTable& next, std::size_t fewest) {
     const auto hasOwn = [](const RowLabels& labels) {
         return labels.labelled == labels.rows && labels.ofOneRow == labels.rows;
     };
     const RowLabels above = labelsOf(table, 0);
     const RowLabels below = labelsOf(next, 1);
-    return above.rows + below.rows >= kFewestRows && hasOwn(above) && hasOwn(below);
+    return above.rows + below.rows >= fewest && hasOwn(above) && hasOwn(below);
 }
 
 /// Sums have no label in many tables.
@@ -118,7 +117,7 @@ bool isNumber(const DraftCell& cell) {
 
 /// Whether the first row of `next` has texts, but no label where every other row has one: it is no row of its own.
 bool lacksItsLabel(const std::vector<DraftCell*>& above, const std::vector<DraftCell*>& below, const DraftTable& table,
-                   const DraftTable& next) {
+                   const DraftTable& next, const TableParameters::Tables& parameters) {
     if (!below.front()->blocks.empty() || below.front()->cell.rowSpan > 1)
         return false;
     bool goesOn = false;
@@ -127,7 +126,7 @@ bool lacksItsLabel(const std::vector<DraftCell*>& above, const std::vector<Draft
             return false;
         goesOn = goesOn || (!above[i]->blocks.empty() && !below[i]->blocks.empty());
     }
-    return goesOn && areAllLabelled(table, next);
+    return goesOn && areAllLabelled(table, next, parameters.fewestLabelled);
 }
 
 } // namespace
@@ -138,7 +137,7 @@ bool goesOnWithRow(DraftTable& table, DraftTable& next, const ParagraphContext& 
     const std::vector<DraftCell*> below = firstRowOf(next);
     if (!haveSamePlaces(above, below))
         return false;
-    if (lacksItsLabel(above, below, table, next))
+    if (lacksItsLabel(above, below, table, next, parameters.tables))
         return true;
     int forIt = 0;
     int againstIt = 0;

@@ -173,8 +173,9 @@ struct TableParameters {
         double captionReach = 3.0; ///< font sizes; between a table and the first line of its caption
 
         // One table of the parts on several pages.
-        double joinedEdge = 3.0;       ///< points; column edges of two parts that differ by less are one
-        double labelledRowShare = 0.8; ///< of the rows that must have a label for one without to be no row
+        double joinedEdge = 3.0;        ///< points; column edges of two parts that differ by less are one
+        double labelledRowShare = 0.8;  ///< of the rows that must have a label for one without to be no row
+        std::size_t fewestLabelled = 4; ///< rows that must all have labels for one without to end the row before
     } tables;
 };
 

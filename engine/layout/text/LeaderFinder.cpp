@@ -92,9 +92,8 @@ bool leadsToSomething(const std::vector<Cluster>& clusters, const Run& run, cons
 }
 
 /// Whether nothing but the number of an item stands before the run, and no number behind it: a blank to fill in.
-bool isBlankOfItem(const std::vector<Cluster>& clusters, const Run& run) {
-    constexpr std::size_t kLongestNumber = 3; // characters
-    if (run.first == 0 || run.first > kLongestNumber || isDigit(clusters[run.last].text.front()))
+bool isBlankOfItem(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
+    if (run.first == 0 || run.first > limits.longestNumber || isDigit(clusters[run.last].text.front()))
         return false;
     const char32_t last = clusters[run.first - 1].text.back();
     return last == U'.' || last == U')';
@@ -117,7 +116,7 @@ void findLeaders(TextRow& row, const TextParameters& parameters) {
         const Run run = leader == TabLeader::None ? Run{i, i + 1, 0} : runAt(clusters, i, limits);
         i = run.last;
         if (run.dots < limits.fewestDots || !leadsToSomething(clusters, run, limits) ||
-            isEllipsis(clusters, run, limits) || isBlankOfItem(clusters, run) ||
+            isEllipsis(clusters, run, limits) || isBlankOfItem(clusters, run, limits) ||
             clusters[run.last].start - clusters[run.first].start < limits.shortest * row.fontSize)
             continue;
         std::fill(isGone.begin() + static_cast<std::ptrdiff_t>(run.first),

@@ -207,11 +207,12 @@ struct TextParameters {
     /// LeaderFinder: dots before page numbers.
     struct Leaders {
         unsigned fewestDots = 4;
-        unsigned longestEllipsis = 4; ///< dots; a sentence may break off with as many, which lead to numbers only
-        double shortest = 1.5;        ///< of the font size; length of a leader
-        double widestGap = 1.5;       ///< of the font size; between two of its dots
-        double nextColumn = 1;        ///< of the font size; a gap that ends what the leader leads to
-        unsigned longestTarget = 16;  ///< characters of what it leads to
+        unsigned longestEllipsis = 4;  ///< dots; a sentence may break off with as many, which lead to numbers only
+        double shortest = 1.5;         ///< of the font size; length of a leader
+        double widestGap = 1.5;        ///< of the font size; between two of its dots
+        double nextColumn = 1;         ///< of the font size; a gap that ends what the leader leads to
+        unsigned longestTarget = 16;   ///< characters of what it leads to
+        std::size_t longestNumber = 3; ///< characters of an item's number, behind which a blank to fill in may stand
     } leaders;
 
     /// StripOrder: in which order pieces of one row that were painted apart are read.
