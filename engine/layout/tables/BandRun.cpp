@@ -10,21 +10,64 @@ bool isHeadingOnly(const RuleBand& band) {
     return std::all_of(band.rows.begin(), band.rows.end(), [](const PieceRow& row) { return row.pieces.size() < 2; });
 }
 
+namespace {
+
+// So many rows are looked at with every band that joins them; more, whenever there are one in so many more, so that
+// long runs take little time.
+constexpr std::size_t kClosestRows = 64;
+constexpr std::size_t kRowsALook = 32;
+
+/// Whether the columns of a run remain as it grows.
+class ColumnWatch {
+public:
+    explicit ColumnWatch(const TableParameters::Tables& parameters)
+        : m_parameters(parameters) {}
+
+    bool remain(const std::vector<PieceRow>& rows) {
+        if (rows.size() != m_rows)
+            m_gaps = findColumnGaps(rows, m_parameters).size();
+        m_rows = rows.size();
+        // The first rows, headings among them, may not show the columns yet.
+        const bool mayWait = m_mostGaps == 0 && static_cast<int>(rows.size()) <= m_parameters.maximumHeaderRows;
+        if (!mayWait &&
+            (m_gaps == 0 || static_cast<double>(m_gaps) < m_parameters.keptGapShare * static_cast<double>(m_mostGaps)))
+            return false;
+        m_mostGaps = std::max(m_mostGaps, m_gaps);
+        return true;
+    }
+
+private:
+    const TableParameters::Tables& m_parameters;
+    std::size_t m_rows = 0;
+    std::size_t m_gaps = 0; ///< of these rows
+    std::size_t m_mostGaps = 0;
+};
+
+} // namespace
+
 BandRun growRun(const std::vector<RuleBand>& bands, std::size_t first, const TableParameters::Tables& parameters) {
     BandRun run{first, first, {}};
+    ColumnWatch columns(parameters);
     std::vector<PieceRow> rows;
-    std::size_t mostGaps = 0;
+    std::size_t rowsOfRun = 0;
+    bool looksClosely = false;
     for (std::size_t i = first; i < bands.size(); ++i) {
         rows.insert(rows.end(), bands[i].rows.begin(), bands[i].rows.end());
-        const std::vector<ColumnGap> gaps = findColumnGaps(rows, parameters);
-        const auto kept = static_cast<double>(gaps.size());
-        // The first rows, headings among them, may not show the columns yet.
-        const bool mayWait = mostGaps == 0 && static_cast<int>(rows.size()) <= parameters.maximumHeaderRows;
-        if (!mayWait && (gaps.empty() || kept < parameters.keptGapShare * static_cast<double>(mostGaps)))
-            break;
-        mostGaps = std::max(mostGaps, gaps.size());
-        run.end = i + 1;
-        if (bands[i].isFollowed)
+        const bool isLast = bands[i].isFollowed || i + 1 == bands.size();
+        const bool isClose = looksClosely || rows.size() <= kClosestRows;
+        if (!isLast && !isClose && rows.size() < rowsOfRun + rowsOfRun / kRowsALook)
+            continue;
+        if (columns.remain(rows)) {
+            run.end = i + 1;
+            rowsOfRun = rows.size();
+        } else if (i > run.end) {
+            // Back to where they did, to find the band with which they end.
+            looksClosely = true;
+            rows.resize(rowsOfRun);
+            i = run.end - 1;
+            continue;
+        }
+        if (run.end <= i || bands[i].isFollowed)
             break;
     }
     // A heading between two tables, a note below: what stands across all columns at the run's ends is no part of it.

@@ -9,6 +9,17 @@
 namespace orvane::layout {
 namespace {
 
+/// Rows are looked at many times over, and never changed.
+using Rows = std::vector<const PieceRow*>;
+
+Rows rowsOf(std::span<const PieceRow> rows) {
+    Rows pointers;
+    pointers.reserve(rows.size());
+    for (const PieceRow& row : rows)
+        pointers.push_back(&row);
+    return pointers;
+}
+
 /// How many pieces stand over a stretch of x.
 struct Stretch {
     double left = 0;
@@ -16,14 +27,15 @@ struct Stretch {
     int cover = 0;
 };
 
-std::vector<Stretch> coverProfile(std::span<const PieceRow> rows) {
-    std::vector<std::pair<double, int>> events;
-    for (const PieceRow& row : rows) {
-        for (const TextPiece& piece : row.pieces) {
-            events.emplace_back(piece.box.left, 1);
-            events.emplace_back(piece.box.right, -1);
-        }
-    }
+/// Where a piece begins (1) and ends (-1).
+using CoverEvents = std::vector<std::pair<double, int>>;
+
+void addCover(double left, double right, CoverEvents& events) {
+    events.emplace_back(left, 1);
+    events.emplace_back(right, -1);
+}
+
+std::vector<Stretch> coverProfile(CoverEvents events) {
     std::sort(events.begin(), events.end());
     std::vector<Stretch> profile;
     int cover = 0;
@@ -60,10 +72,10 @@ struct PieceStack {
     int pieces = 0;
 };
 
-std::vector<PieceStack> stacksWithin(const ColumnGap& thin, std::span<const PieceRow> rows) {
+std::vector<PieceStack> stacksWithin(const ColumnGap& thin, const Rows& rows) {
     std::vector<PieceStack> inner;
-    for (const PieceRow& row : rows)
-        for (const TextPiece& piece : row.pieces)
+    for (const PieceRow* row : rows)
+        for (const TextPiece& piece : row->pieces)
             if (piece.box.left > thin.left && piece.box.right < thin.right)
                 inner.push_back({piece.box.left, piece.box.right, 1});
     std::sort(inner.begin(), inner.end(), [](const PieceStack& a, const PieceStack& b) { return a.left < b.left; });
@@ -81,7 +93,7 @@ std::vector<PieceStack> stacksWithin(const ColumnGap& thin, std::span<const Piec
 
 /// The parts of a thin stretch that are left when a column with few entries inside it is taken out. One piece alone is
 /// no column: a heading over the columns at both sides.
-std::vector<ColumnGap> withoutThinColumns(const ColumnGap& thin, std::span<const PieceRow> rows) {
+std::vector<ColumnGap> withoutThinColumns(const ColumnGap& thin, const Rows& rows) {
     std::vector<ColumnGap> parts;
     double from = thin.left;
     for (const PieceStack& stack : stacksWithin(thin, rows)) {
@@ -95,26 +107,26 @@ std::vector<ColumnGap> withoutThinColumns(const ColumnGap& thin, std::span<const
 }
 
 /// In how many rows text stands on both sides of the gap without reaching over it.
-int countRowsParted(const ColumnGap& gap, std::span<const PieceRow> rows) {
-    return static_cast<int>(std::count_if(rows.begin(), rows.end(), [&](const PieceRow& row) {
-        const bool isCrossed = std::any_of(row.pieces.begin(), row.pieces.end(),
-                                           [&](const TextPiece& piece) { return crosses(piece, gap); });
-        return !isCrossed && row.pieces.front().box.left < gap.middle() && row.pieces.back().box.right > gap.middle();
+int countRowsParted(const ColumnGap& gap, const Rows& rows) {
+    return static_cast<int>(std::count_if(rows.begin(), rows.end(), [&](const PieceRow* row) {
+        const std::vector<TextPiece>& pieces = row->pieces;
+        const bool isCrossed =
+            std::any_of(pieces.begin(), pieces.end(), [&](const TextPiece& piece) { return crosses(piece, gap); });
+        return !isCrossed && pieces.front().box.left < gap.middle() && pieces.back().box.right > gap.middle();
     }));
 }
 
 /// The part of the gap that fewest pieces cover: a long text that reaches into the gap does not narrow the other rows.
 /// Headings that stand within the gap do not count.
-ColumnGap clearestPart(const ColumnGap& gap, std::span<const PieceRow> rows) {
-    std::vector<PieceRow> reaching(1);
-    // The gap itself as a piece, so that all of it has a cover.
-    reaching.front().pieces.push_back({0, 0, 0, {gap.left, 0, gap.right, 0}, 0, 0});
-    for (const PieceRow& row : rows)
-        for (const TextPiece& piece : row.pieces)
+ColumnGap clearestPart(const ColumnGap& gap, const Rows& rows) {
+    CoverEvents reaching;
+    addCover(gap.left, gap.right, reaching); // so that all of it has a cover
+    for (const PieceRow* row : rows)
+        for (const TextPiece& piece : row->pieces)
             if (piece.box.right > gap.left && piece.box.left < gap.right &&
                 (piece.box.left <= gap.left || piece.box.right >= gap.right))
-                reaching.front().pieces.push_back(piece);
-    const std::vector<Stretch> profile = coverProfile(reaching);
+                addCover(piece.box.left, piece.box.right, reaching);
+    const std::vector<Stretch> profile = coverProfile(std::move(reaching));
     int least = 1 << 30;
     for (const Stretch& stretch : profile)
         if (stretch.left >= gap.left && stretch.right <= gap.right)
@@ -128,53 +140,82 @@ ColumnGap clearestPart(const ColumnGap& gap, std::span<const PieceRow> rows) {
     return clearest;
 }
 
-/// Whether only the head makes the gap narrow: its texts are longer than what stands below them, and reach into it.
-bool isNarrowedByHead(const ColumnGap& gap, std::span<const PieceRow> rows, double width,
-                      const TableParameters::Tables& parameters) {
-    std::vector<PieceRow> body(rows.begin(), rows.end());
-    std::sort(body.begin(), body.end(), [](const PieceRow& a, const PieceRow& b) { return a.baseline < b.baseline; });
-    for (int i = 0; i < parameters.maximumHeaderRows; ++i) {
-        body.erase(body.begin());
-        if (static_cast<int>(body.size()) < parameters.fewestPartedRows)
-            return false;
-        if (clearestPart(gap, body).width() >= width)
-            return countRowsParted(gap, body) >= parameters.fewestPartedRows;
-    }
-    return false;
-}
-
 /// The rows without those that hold one text which begins within the table: a heading over several columns. A text that
 /// begins at the side may be a label, or no part of the table.
-std::vector<PieceRow> withoutHeadings(std::span<const PieceRow> rows) {
+Rows withoutHeadings(const Rows& rows) {
     double left = std::numeric_limits<double>::infinity();
-    for (const PieceRow& row : rows)
-        left = std::min(left, row.box.left);
-    std::vector<PieceRow> others;
+    for (const PieceRow* row : rows)
+        left = std::min(left, row->box.left);
+    Rows others;
     std::copy_if(rows.begin(), rows.end(), std::back_inserter(others),
-                 [&](const PieceRow& row) { return row.pieces.size() > 1 || row.box.left <= left + row.fontSize; });
+                 [&](const PieceRow* row) { return row->pieces.size() > 1 || row->box.left <= left + row->fontSize; });
     return others;
 }
 
-/// The part of a thin stretch that parts two columns, when it is wide enough. Headings make no gap narrow.
-std::optional<ColumnGap> gapWithin(const ColumnGap& thin, std::span<const PieceRow> rows, double least,
-                                   const TableParameters::Tables& parameters) {
-    const ColumnGap gap = clearestPart(thin, rows);
-    if (gap.width() >= least || isNarrowedByHead(thin, rows, 2 * least, parameters))
-        return gap;
-    const ColumnGap ofOthers = clearestPart(thin, withoutHeadings(rows));
-    return ofOthers.width() >= least ? std::optional(ofOthers) : std::nullopt;
-}
+/// Finds the part of a thin stretch that parts two columns.
+class GapFinder {
+public:
+    GapFinder(const Rows& rows, double leastWidth, const TableParameters::Tables& parameters)
+        : m_rows(rows)
+        , m_leastWidth(leastWidth)
+        , m_parameters(parameters) {}
 
-std::vector<ColumnGap> gapsAmong(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
+    /// Nothing where it is not wide enough. Headings make no gap narrow.
+    std::optional<ColumnGap> gapWithin(const ColumnGap& thin) {
+        const ColumnGap gap = clearestPart(thin, m_rows);
+        if (gap.width() >= m_leastWidth || isNarrowedByHead(thin))
+            return gap;
+        if (!m_others)
+            m_others = withoutHeadings(m_rows);
+        const ColumnGap ofOthers = clearestPart(thin, *m_others);
+        return ofOthers.width() >= m_leastWidth ? std::optional(ofOthers) : std::nullopt;
+    }
+
+private:
+    /// Whether only the head makes the gap narrow: its texts are longer than what stands below them, and reach into it.
+    bool isNarrowedByHead(const ColumnGap& gap) {
+        for (int headRows = 1; headRows <= m_parameters.maximumHeaderRows; ++headRows) {
+            if (static_cast<int>(m_rows.size()) - headRows < m_parameters.fewestPartedRows)
+                return false;
+            const Rows body = below(headRows);
+            if (clearestPart(gap, body).width() >= 2 * m_leastWidth)
+                return countRowsParted(gap, body) >= m_parameters.fewestPartedRows;
+        }
+        return false;
+    }
+
+    /// The rows without the first ones.
+    Rows below(int headRows) {
+        if (m_sorted.empty()) {
+            m_sorted = m_rows;
+            std::sort(m_sorted.begin(), m_sorted.end(),
+                      [](const PieceRow* a, const PieceRow* b) { return a->baseline < b->baseline; });
+        }
+        return {m_sorted.begin() + headRows, m_sorted.end()};
+    }
+
+    const Rows& m_rows;
+    double m_leastWidth;
+    const TableParameters::Tables& m_parameters;
+    Rows m_sorted;                ///< from top to bottom, once they are needed
+    std::optional<Rows> m_others; ///< without headings, once they are needed
+};
+
+std::vector<ColumnGap> gapsAmong(const Rows& rows, const TableParameters::Tables& parameters) {
     const auto rowCount = static_cast<double>(rows.size());
     const int allowed = static_cast<int>(parameters.crossedRowShare * rowCount);
     double fontSize = 0;
-    for (const PieceRow& row : rows)
-        fontSize += row.fontSize / rowCount;
+    CoverEvents covers;
+    for (const PieceRow* row : rows) {
+        fontSize += row->fontSize / rowCount;
+        for (const TextPiece& piece : row->pieces)
+            addCover(piece.box.left, piece.box.right, covers);
+    }
+    GapFinder finder(rows, parameters.minimumColumnGap * fontSize, parameters);
     std::vector<ColumnGap> gaps;
-    for (const ColumnGap& thin : thinStretches(coverProfile(rows), allowed)) {
+    for (const ColumnGap& thin : thinStretches(coverProfile(std::move(covers)), allowed)) {
         for (const ColumnGap& part : withoutThinColumns(thin, rows)) {
-            const auto gap = gapWithin(part, rows, parameters.minimumColumnGap * fontSize, parameters);
+            const auto gap = finder.gapWithin(part);
             if (gap && countRowsParted(*gap, rows) >= parameters.minimumRowsParted)
                 gaps.push_back(*gap);
         }
@@ -199,17 +240,38 @@ struct FilledRows {
     }
 };
 
+/// The rows with texts in one column only, for each column between the gaps.
+std::vector<FilledRows> filledRows(const std::vector<ColumnGap>& gaps, const Rows& rows) {
+    std::vector<FilledRows> filled(gaps.size() + 1);
+    for (const PieceRow* row : rows)
+        for (const TextPiece& piece : row->pieces)
+            if (const ColumnRange range = columnsOf(piece, gaps); range.first == range.last)
+                filled[static_cast<std::size_t>(range.first)].add(*row);
+    return filled;
+}
+
+void joinHeads(std::vector<ColumnGap>& gaps, const Rows& rows, const TableParameters::Tables& parameters) {
+    std::vector<FilledRows> filled = filledRows(gaps, rows);
+    for (std::size_t i = gaps.size(); i-- > 0;) {
+        const FilledRows &left = filled[i], &right = filled[i + 1];
+        if (!left.isHeadOf(right, parameters) && !right.isHeadOf(left, parameters))
+            continue;
+        gaps.erase(gaps.begin() + static_cast<std::ptrdiff_t>(i));
+        filled = filledRows(gaps, rows);
+    }
+}
+
 /// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
-std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
-    std::vector<PieceRow> telling;
+Rows tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
+    Rows telling;
     for (const PieceRow& row : rows)
         if (row.pieces.size() > 1)
-            telling.push_back(row);
+            telling.push_back(&row);
     const std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
     for (const PieceRow& row : rows) {
         const ColumnRange range = columnsOf(row.pieces.front(), gaps);
         if (row.pieces.size() == 1 && range.first == range.last)
-            telling.push_back(row);
+            telling.push_back(&row);
     }
     return telling;
 }
@@ -218,26 +280,13 @@ std::vector<PieceRow> tellingRows(std::span<const PieceRow> rows, const TablePar
 
 void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow> rows,
                          const TableParameters::Tables& parameters) {
-    for (std::size_t i = gaps.size(); i-- > 0;) {
-        FilledRows left, right;
-        for (const PieceRow& row : rows) {
-            for (const TextPiece& piece : row.pieces) {
-                const ColumnRange range = columnsOf(piece, gaps);
-                if (range.first == range.last && range.first == static_cast<int>(i))
-                    left.add(row);
-                else if (range.first == range.last && range.first == static_cast<int>(i) + 1)
-                    right.add(row);
-            }
-        }
-        if (left.isHeadOf(right, parameters) || right.isHeadOf(left, parameters))
-            gaps.erase(gaps.begin() + static_cast<std::ptrdiff_t>(i));
-    }
+    joinHeads(gaps, rowsOf(rows), parameters);
 }
 
 std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
-    const std::vector<PieceRow> telling = tellingRows(rows, parameters);
+    const Rows telling = tellingRows(rows, parameters);
     std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
-    joinHeadsWithValues(gaps, telling, parameters);
+    joinHeads(gaps, telling, parameters);
     return gaps;
 }
 

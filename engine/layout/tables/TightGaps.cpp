@@ -23,10 +23,99 @@ struct Start {
     bool isOfRange = false;      ///< a dash leads to it from what stands to its left
 };
 
-double spread(std::vector<double> values) {
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    return values.empty() ? 0 : *most - *least;
-}
+/// Values of which the first come and go.
+class MovingRange {
+public:
+    void add(double value) { m_values.insert(value); }
+    void remove(double value) { m_values.erase(m_values.find(value)); }
+    std::size_t size() const { return m_values.size(); }
+    double least() const { return *m_values.begin(); }
+    double most() const { return *m_values.rbegin(); }
+    double spread() const { return m_values.empty() ? 0 : most() - least(); }
+
+private:
+    std::multiset<double> m_values;
+};
+
+/// Words that begin at one place. All starts of a table go through it, so that none is looked at anew for each place.
+class StartWindow {
+public:
+    /// `fontSize` that of the table, `blank` the usual one between two words.
+    StartWindow(std::size_t rows, double fontSize, double blank, const TableParameters::Tables& parameters)
+        : m_startsOfRow(rows)
+        , m_fontSize(fontSize)
+        , m_blank(blank)
+        , m_parameters(parameters) {}
+
+    void add(const Start& start) {
+        m_rows += m_startsOfRow[start.row]++ == 0;
+        m_labels += start.isBehindLabel;
+        m_ranges += start.isOfRange;
+        if (start.isWide)
+            m_wideEnds.add(start.rightBefore);
+        else
+            change(start, [](MovingRange& range, double value) { range.add(value); });
+    }
+
+    void remove(const Start& start) {
+        m_rows -= --m_startsOfRow[start.row] == 0;
+        m_labels -= start.isBehindLabel;
+        m_ranges -= start.isOfRange;
+        if (start.isWide)
+            m_wideEnds.remove(start.rightBefore);
+        else
+            change(start, [](MovingRange& range, double value) { range.remove(value); });
+    }
+
+    /// Whether the words begin a column there.
+    bool showsColumn() const {
+        const std::size_t starts = m_wideEnds.size() + m_ends.size();
+        if (m_rows < m_parameters.fewestPartedRows || 2 * m_labels > starts ||
+            m_ranges >= m_parameters.minimumRowsParted)
+            return false;
+        if (static_cast<int>(m_wideEnds.size()) < m_parameters.minimumRowsParted)
+            return followsColumn();
+        // A head that begins behind all texts of the column to its left is of the right one as a whole.
+        return m_lefts.size() == 0 || m_lefts.most() < std::max(m_wideEnds.most(), 0.0);
+    }
+
+private:
+    template<typename Change>
+    void change(const Start& start, const Change& apply) {
+        apply(m_ends, start.rightBefore);
+        apply(m_lefts, start.leftBefore);
+        apply(m_rights, start.right);
+        apply(m_spaces, start.left - start.rightBefore);
+        if (start.isBehindNumber)
+            apply(m_numbers, start.leftBefore);
+    }
+
+    /// Whether the texts before the words all end at one place, and are numbers of different length or set apart by
+    /// more than a blank. Texts of one length behind them may be units.
+    bool followsColumn() const {
+        const double uneven = m_parameters.unevenTexts * m_fontSize;
+        if (static_cast<int>(m_ends.size()) <= m_parameters.fewestPartedRows || m_rights.spread() <= uneven ||
+            m_ends.spread() > m_parameters.startSnap)
+            return false;
+        return (2 * m_numbers.size() >= m_ends.size() && m_numbers.spread() > uneven) ||
+               m_spaces.least() > m_blank + m_parameters.blankSlack * m_fontSize;
+    }
+
+    std::vector<int> m_startsOfRow;
+    double m_fontSize;
+    double m_blank;
+    const TableParameters::Tables& m_parameters;
+    int m_rows = 0; ///< with a start
+    std::size_t m_labels = 0;
+    int m_ranges = 0;
+    MovingRange m_wideEnds; ///< where the texts before those end that begin a piece
+    // Of the others:
+    MovingRange m_ends;    ///< where the texts before them end
+    MovingRange m_lefts;   ///< where these begin
+    MovingRange m_rights;  ///< where the texts that they begin end
+    MovingRange m_spaces;  ///< how wide the blanks before them are
+    MovingRange m_numbers; ///< where the numbers alone before them begin
+};
 
 class TightGapFinder {
 public:
@@ -47,18 +136,20 @@ public:
 
     std::vector<ColumnGap> find() const {
         std::vector<ColumnGap> gaps;
+        StartWindow window(m_rows.size(), m_rows.front().fontSize, m_blank, m_parameters);
+        auto end = m_starts.begin();
         for (auto first = m_starts.begin(); first != m_starts.end();) {
-            const auto end = std::find_if(first, m_starts.end(), [&](const Start& start) {
-                return start.left > first->left + m_parameters.startSnap;
-            });
-            if (!showsColumn({first, end})) {
-                ++first;
+            for (; end != m_starts.end() && end->left <= first->left + m_parameters.startSnap; ++end)
+                window.add(*end);
+            if (!window.showsColumn()) {
+                window.remove(*first++);
                 continue;
             }
             const ColumnGap gap = gapBefore(first->left);
             if (gap.width() > 0 && !isCrossed(gap))
                 gaps.push_back(gap);
-            first = end;
+            while (first != end)
+                window.remove(*first++);
         }
         return gaps;
     }
@@ -96,54 +187,6 @@ private:
     }
 
     bool isLabel(const TextPiece& piece) const { return piece.wordCount() == 1 && isItemLabel(textOf(piece, m_lines)); }
-
-    /// Whether words that begin at one place begin a column there.
-    bool showsColumn(std::span<const Start> starts) const {
-        std::set<std::size_t> rows;
-        std::vector<Start> narrow;
-        int wide = 0;
-        std::size_t labels = 0;
-        int ranges = 0;
-        double rightBefore = 0;
-        for (const Start& start : starts) {
-            rows.insert(start.row);
-            labels += start.isBehindLabel;
-            ranges += start.isOfRange;
-            wide += start.isWide;
-            if (start.isWide)
-                rightBefore = std::max(rightBefore, start.rightBefore);
-            else
-                narrow.push_back(start);
-        }
-        if (static_cast<int>(rows.size()) < m_parameters.fewestPartedRows || 2 * labels > starts.size() ||
-            ranges >= m_parameters.minimumRowsParted)
-            return false;
-        if (wide < m_parameters.minimumRowsParted)
-            return followsColumn(narrow);
-        // A head that begins behind all texts of the column to its left is of the right one as a whole.
-        return std::all_of(narrow.begin(), narrow.end(),
-                           [&](const Start& start) { return start.leftBefore < rightBefore; });
-    }
-
-    /// Whether the texts before the words all end at one place, and are numbers of different length or set apart by
-    /// more than a blank. Texts of one length behind them may be units.
-    bool followsColumn(const std::vector<Start>& starts) const {
-        std::vector<double> ends, rights, spaces, numbers;
-        for (const Start& start : starts) {
-            ends.push_back(start.rightBefore);
-            rights.push_back(start.right);
-            spaces.push_back(start.left - start.rightBefore);
-            if (start.isBehindNumber)
-                numbers.push_back(start.leftBefore);
-        }
-        const double size = m_rows.front().fontSize;
-        const double uneven = m_parameters.unevenTexts * size;
-        if (static_cast<int>(starts.size()) <= m_parameters.fewestPartedRows || spread(rights) <= uneven ||
-            densestRange(ends, m_parameters.startSnap).count < ends.size())
-            return false;
-        return (2 * numbers.size() >= starts.size() && spread(numbers) > uneven) ||
-               *std::min_element(spaces.begin(), spaces.end()) > m_blank + m_parameters.blankSlack * size;
-    }
 
     /// The strip left of `x` that the words which end before it leave free.
     ColumnGap gapBefore(double x) const {

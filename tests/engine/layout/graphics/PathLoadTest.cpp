@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <ctime>
+#include <random>
 
 /// Pages of 20,000 path segments go through all stages that look at paths: bars, rules, figures, tables.
 namespace orvane::layout::tests {
@@ -75,6 +76,18 @@ TEST(PageOfPaths, TakesLittleTimeAsAFormOfBoxesToTick) {
         for (int column = 0; column < 60; ++column)
             page.strokedRectangle({20 + 9.0 * column, 20 + 10.0 * row, 26 + 9.0 * column, 26 + 10.0 * row});
     EXPECT_LT(secondsFor(page), kMostSeconds) << "4,800 boxes";
+}
+
+TEST(PageOfPaths, TakesLittleTimeAsBoxesWithTextsAnywhere) {
+    PageContentBuilder page(2000, 2000);
+    std::minstd_rand random(7);
+    const auto upTo = [&](int most) { return static_cast<double>(random() % static_cast<unsigned>(10 * most)) / 10; };
+    for (int i = 0; i < 4000; ++i) {
+        const double x = upTo(1900), y = upTo(1900);
+        page.strokedRectangle({x + 14, y, x + 34 + upTo(30), y + 8 + upTo(17)}, 1);
+        page.text(x, y + 6, "ab", 6);
+    }
+    EXPECT_LT(secondsFor(page), kMostSeconds);
 }
 
 } // namespace
