@@ -1,6 +1,6 @@
 #include "worker/DrawingPainter.h"
 
-#include "base/PngEncoder.h"
+#include "worker/BoxPainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,80 +17,22 @@ constexpr double kResolution = 200;
 constexpr double kMaxPixels = 16e6;
 constexpr double kEmuAnInch = 914400;
 
-/// A box in pixels.
-struct PixelBox {
-    double left = 0, top = 0, right = 0, bottom = 0;
-};
-
-/// How much of the pixel from `at` to `at + 1` lies between `from` and `to`.
-double share(int at, double from, double to) {
-    return std::clamp(std::min(to, at + 1.0) - std::max(from, double(at)), 0.0, 1.0);
-}
-
-/// Red, green, blue and opacity of each pixel.
-class Canvas {
-public:
-    Canvas(int width, int height)
-        : m_width(width)
-        , m_height(height)
-        , m_pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4) {}
-
-    /// Paints the box, its edges as faint as it covers their pixels.
-    void fill(const PixelBox& box, Color color, double opacity) {
-        const int right = std::min(m_width, static_cast<int>(std::ceil(box.right)));
-        const int bottom = std::min(m_height, static_cast<int>(std::ceil(box.bottom)));
-        for (int y = std::max(0, static_cast<int>(std::floor(box.top))); y < bottom; ++y) {
-            const double down = share(y, box.top, box.bottom) * opacity;
-            for (int x = std::max(0, static_cast<int>(std::floor(box.left))); x < right; ++x)
-                blend(x, y, color, down * share(x, box.left, box.right));
-        }
-    }
-
-    PictureData encode() const {
-        PngEncoder png(m_width, m_height, PngPixels::RgbAlpha8);
-        for (int y = 0; y < m_height; ++y)
-            png.writeRow(&m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) * 4]);
-        return png.finish();
-    }
-
-private:
-    void blend(int x, int y, Color color, double opacity) {
-        std::uint8_t* pixel =
-            &m_pixels[(static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) + static_cast<std::size_t>(x)) *
-                      4];
-        const double below = pixel[3] / 255.0 * (1 - opacity);
-        const double all = below + opacity;
-        if (all <= 0)
-            return;
-        const auto mixed = [&](std::uint8_t under, std::uint8_t over) {
-            return static_cast<std::uint8_t>(std::lround((under * below + over * opacity) / all));
-        };
-        pixel[0] = mixed(pixel[0], color.red);
-        pixel[1] = mixed(pixel[1], color.green);
-        pixel[2] = mixed(pixel[2], color.blue);
-        pixel[3] = static_cast<std::uint8_t>(std::lround(all * 255));
-    }
-
-    int m_width;
-    int m_height;
-    std::vector<std::uint8_t> m_pixels;
-};
-
 class DrawingPainter {
 public:
     explicit DrawingPainter(const Drawing& drawing)
         : m_drawing(drawing)
-        , m_scale(scaleOf(drawing))
-        , m_canvas(pixels(drawing.width), pixels(drawing.height)) {}
+        , m_scale(scaleOf(drawing)) {}
 
     PictureData paint() {
         for (const Shape& shape : m_drawing.shapes) {
-            if (shape.fill)
-                m_canvas.fill(boxOf(shape), *shape.fill, shape.opacity);
+            if (shape.fill) {
+                m_boxes.push_back(boxOf(shape));
+                m_boxes.back().color = *shape.fill;
+            }
             if (shape.line && shape.line->kind != BorderKind::None)
-                paintLine(shape);
+                addLine(shape);
         }
-        return m_canvas.encode();
+        return paintBoxes(pixels(m_drawing.width), pixels(m_drawing.height), m_boxes);
     }
 
 private:
@@ -103,13 +45,14 @@ private:
     }
     double scaled(Emu length) const { return static_cast<double>(length.value) * m_scale; }
 
-    PixelBox boxOf(const Shape& shape) const {
-        return {scaled(shape.x), scaled(shape.y), scaled(shape.x + shape.width), scaled(shape.y + shape.height)};
+    PaintedBox boxOf(const Shape& shape) const {
+        return {scaled(shape.x), scaled(shape.y), scaled(shape.x + shape.width), scaled(shape.y + shape.height), {},
+                shape.opacity};
     }
 
     /// A line along the middle of its box, in strokes as word processors draw them.
-    void paintLine(const Shape& shape) {
-        const PixelBox box = boxOf(shape);
+    void addLine(const Shape& shape) {
+        const PaintedBox box = boxOf(shape);
         const double width = std::max(1.0, scaled(shape.line->width)); // no line is too thin to be seen
         const bool isLevel = shape.width >= shape.height;
         const double from = isLevel ? box.left : box.top, to = isLevel ? box.right : box.bottom;
@@ -117,9 +60,9 @@ private:
         const auto [on, off] = dashOf(shape.line->kind, width, to - from);
         for (double at = from; at < to; at += on + off) {
             const double end = std::min(at + on, to);
-            const PixelBox stroke = isLevel ? PixelBox{at, middle - width / 2, end, middle + width / 2}
-                                            : PixelBox{middle - width / 2, at, middle + width / 2, end};
-            m_canvas.fill(stroke, shape.line->color, shape.opacity);
+            m_boxes.push_back({isLevel ? at : middle - width / 2, isLevel ? middle - width / 2 : at,
+                               isLevel ? end : middle + width / 2, isLevel ? middle + width / 2 : end,
+                               shape.line->color, shape.opacity});
         }
     }
 
@@ -134,7 +77,7 @@ private:
 
     const Drawing& m_drawing;
     double m_scale; ///< pixels an EMU
-    Canvas m_canvas;
+    std::vector<PaintedBox> m_boxes;
 };
 
 void paintIn(std::vector<Block>& blocks, PictureStore& pictures) {

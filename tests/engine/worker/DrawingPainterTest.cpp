@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 namespace orvane::worker {
 namespace {
 
@@ -25,13 +27,13 @@ Shape shapeAt(int x, int y, int width, int height) {
     return shape;
 }
 
-/// A document with one drawing of 20 by 10 pixels, painted.
+/// A document with one drawing, painted. Units: pixels.
 struct Painted {
-    explicit Painted(std::vector<Shape> shapes, bool isPictureAtBest = true)
+    explicit Painted(std::vector<Shape> shapes, bool isPictureAtBest = true, int width = 20, int height = 10)
         : pictures(folder.path()) {
         document::Drawing drawing;
-        drawing.width = pixels(20);
-        drawing.height = pixels(10);
+        drawing.width = pixels(width);
+        drawing.height = pixels(height);
         drawing.shapes = std::move(shapes);
         drawing.isPictureAtBest = isPictureAtBest;
         document::Figure figure;
@@ -78,6 +80,36 @@ TEST(DrawingPainter, PaintsLinesAsWideAsTheyAre) {
     EXPECT_EQ(seen.at(10, 6).substr(6), "00");
     EXPECT_EQ(seen.at(1, 9), "000000FF");
     EXPECT_EQ(seen.at(2, 9).substr(6), "00");
+}
+
+TEST(DrawingPainter, LetsFaintBoxesBeSeenOverWhatTheyLieOn) {
+    std::vector<Shape> shapes;
+    for (int i = 0; i < 3; ++i) {
+        shapes.push_back(shapeAt(i, 0, 10, 10));
+        shapes.back().fill = Color{0, 0, 255};
+        shapes.back().opacity = 0.5;
+    }
+    shapes.insert(shapes.begin() + 1, shapeAt(2, 0, 2, 10));
+    shapes[1].fill = Color{255, 0, 0};
+    const pdf::Pixels seen = Painted(shapes).seen();
+    EXPECT_EQ(seen.at(0, 5), "0000FF80");
+    EXPECT_EQ(seen.at(1, 5), "0000FFC0");
+    EXPECT_EQ(seen.at(2, 5), "4000C0FF") << "two faint boxes above the red one, which hides the first";
+    EXPECT_EQ(seen.at(11, 5), "0000FF80");
+}
+
+TEST(DrawingPainter, TakesTheTimeOfWhatIsSeen) {
+    std::vector<Shape> shapes;
+    for (int i = 0; i < 3000; ++i) {
+        shapes.push_back(shapeAt(i / 10, i / 10, 1600 - i / 10, 2200 - i / 10));
+        shapes.back().fill = Color{0, 0, static_cast<std::uint8_t>(i % 256)};
+    }
+    const std::clock_t start = std::clock();
+    const pdf::Pixels seen = Painted(shapes, true, 1600, 2200).seen();
+    EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 3)
+        << "each pixel of each takes ten times that";
+    EXPECT_EQ(seen.at(0, 2000), "000009FF");
+    EXPECT_EQ(seen.at(1599, 2199), "0000B7FF");
 }
 
 TEST(DrawingPainter, LeavesDrawingsThatWordProcessorsBear) {
