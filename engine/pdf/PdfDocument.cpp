@@ -220,12 +220,17 @@ PagePictures PdfDocument::paintedPictures(int number, Diagnostics& diagnostics) 
     return PagePictures(std::move(pictures));
 }
 
-PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
-                                         Diagnostics& diagnostics) const {
+std::vector<PictureDataPtr> PdfDocument::renderRegions(int page, const std::vector<Rect>& regions, double dotsPerInch,
+                                                       PaintedText words, Diagnostics& diagnostics) const {
     const auto paint = [&](ContentRepair repair, Diagnostics& told) {
-        return paintRegion(*m_impl->document, page, region, dotsPerInch, words, repair, told);
+        return paintRegions(*m_impl->document, page, regions, dotsPerInch, words, repair, told);
     };
     return repaired(paint, diagnostics);
+}
+
+PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
+                                         Diagnostics& diagnostics) const {
+    return renderRegions(page, {region}, dotsPerInch, words, diagnostics).front();
 }
 
 PictureDataPtr PdfDocument::renderAnnotation(int page, std::size_t annotation, const Rect& region, double dotsPerInch,

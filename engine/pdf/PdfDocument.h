@@ -104,8 +104,13 @@ public:
     /// The pictures that a page and its annotations paint. Damage is told to `diagnostics`.
     PagePictures paintedPictures(int page, Diagnostics& diagnostics) const;
 
-    /// Paints part of a page (page space, points) as a PNG with a white ground. Used for drawings too rich to take
-    /// apart.
+    /// Paints parts of a page (page space, points) as PNGs with a white ground, all in one go through its content. Used
+    /// for drawings too rich to take apart. Null where nothing of the page is in a region. Errors:
+    /// Failure(InvalidRequest) when nothing of it is in any.
+    std::vector<PictureDataPtr> renderRegions(int page, const std::vector<Rect>& regions, double dotsPerInch,
+                                              PaintedText words, Diagnostics& diagnostics) const;
+
+    /// Paints one part of a page.
     PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
                                 Diagnostics& diagnostics) const;
 

@@ -6,7 +6,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <optional>
+#include <span>
+#include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -24,34 +28,100 @@ double resolutionFor(const Rect& box) {
     return pixels <= kMaxPixels ? kResolution : kResolution * std::sqrt(kMaxPixels / pixels);
 }
 
+// So many parts of a page are painted in one go through its content, which may be long: thousands of small drawings
+// between thousands of others.
+constexpr std::size_t kFewestInOneGo = 8;
+
 /// What is painted of a page.
 struct Wanted {
     Rect box;
     pdf::PaintedText words = pdf::PaintedText::Shown;
     std::optional<std::size_t> annotation; ///< the only one
+    PictureId* picture = nullptr;          ///< that is to show it
+    PictureDataPtr painted = nullptr;
 };
 
-PictureDataPtr paintWanted(const pdf::PdfDocument& document, int page, const Wanted& wanted, Diagnostics& diagnostics) {
-    const double resolution = resolutionFor(wanted.box);
-    return wanted.annotation
-               ? document.renderAnnotation(page, *wanted.annotation, wanted.box, resolution, wanted.words, diagnostics)
-               : document.renderRegion(page, wanted.box, resolution, wanted.words, diagnostics);
-}
+/// Paints what is wanted of one page.
+class PagePainter {
+public:
+    PagePainter(const pdf::PdfDocument& document, int page, Diagnostics& diagnostics)
+        : m_document(document)
+        , m_page(page)
+        , m_diagnostics(diagnostics) {}
 
-/// A part of the page as a picture; none where it cannot be painted, with a diagnostic.
-PictureId paint(const pdf::PdfDocument& document, int page, const Wanted& wanted, PictureStore& pictures,
-                Diagnostics& diagnostics) {
-    try {
-        if (const PictureDataPtr painted = paintWanted(document, page, wanted, diagnostics))
-            return pictures.add(*painted);
-    } catch (const Failure& failure) {
-        if (failure.code() == FailureCode::TargetUnwritable)
-            throw; // the disk is full, and not only for this drawing
-        diagnostics.add(DiagnosticKind::DrawingSimplified, page,
-                        fmt::format("a drawing could not be painted: {}", failure.what()), wanted.box);
+    void paint(std::vector<Wanted>& wanted) {
+        std::map<std::pair<pdf::PaintedText, double>, std::vector<Wanted*>> batches;
+        for (Wanted& one : wanted) {
+            if (one.annotation)
+                paintOne(one);
+            else
+                batches[{one.words, resolutionFor(one.box)}].push_back(&one);
+        }
+        for (auto& [look, batch] : batches)
+            paintBatch(batch);
     }
-    return {};
-}
+
+private:
+    /// Paints parts that share their resolution.
+    void paintBatch(std::span<Wanted*> batch) {
+        if (batch.size() < kFewestInOneGo) {
+            for (Wanted* one : batch)
+                paintOne(*one);
+            return;
+        }
+        Rect all;
+        std::vector<Rect> boxes;
+        for (const Wanted* one : batch) {
+            all = all.united(one->box);
+            boxes.push_back(one->box);
+        }
+        const double resolution = resolutionFor(batch.front()->box);
+        if (resolutionFor(all) < resolution) {
+            paintHalves(batch, all);
+            return;
+        }
+        attempt(all, [&] {
+            const auto painted =
+                m_document.renderRegions(m_page, boxes, resolution, batch.front()->words, m_diagnostics);
+            for (std::size_t i = 0; i < batch.size(); ++i)
+                batch[i]->painted = painted[i];
+        });
+    }
+
+    /// The box around all parts is too large to be painted at once.
+    void paintHalves(std::span<Wanted*> batch, const Rect& all) {
+        const auto at = [&](const Wanted* one) {
+            return all.width() > all.height() ? one->box.centerX() : one->box.centerY();
+        };
+        std::stable_sort(batch.begin(), batch.end(), [&](const Wanted* a, const Wanted* b) { return at(a) < at(b); });
+        paintBatch(batch.first(batch.size() / 2));
+        paintBatch(batch.subspan(batch.size() / 2));
+    }
+
+    void paintOne(Wanted& wanted) {
+        const double resolution = resolutionFor(wanted.box);
+        attempt(wanted.box, [&] {
+            wanted.painted = wanted.annotation
+                                 ? m_document.renderAnnotation(m_page, *wanted.annotation, wanted.box, resolution,
+                                                               wanted.words, m_diagnostics)
+                                 : m_document.renderRegion(m_page, wanted.box, resolution, wanted.words, m_diagnostics);
+        });
+    }
+
+    template<typename Paint>
+    void attempt(const Rect& box, const Paint& paint) {
+        try {
+            paint();
+        } catch (const Failure& failure) {
+            m_diagnostics.add(DiagnosticKind::DrawingSimplified, m_page,
+                              fmt::format("a drawing could not be painted: {}", failure.what()), box);
+        }
+    }
+
+    const pdf::PdfDocument& m_document;
+    int m_page;
+    Diagnostics& m_diagnostics;
+};
 
 } // namespace
 
@@ -70,19 +140,18 @@ void findIllustrations(const pdf::PdfDocument& document, layout::PageText& page,
 
 void paintFigures(const pdf::PdfDocument& document, layout::PageText& page, PictureStore& pictures,
                   Diagnostics& diagnostics) {
-    for (layout::Figure& figure : page.figures) {
-        if (!figure.needsPainting || figure.box.isEmpty())
-            continue;
-        const pdf::PaintedText words = figure.showsLabels ? pdf::PaintedText::Shown : pdf::PaintedText::LeftOut;
-        const PictureId painted =
-            paint(document, page.number, {figure.box, words, figure.annotation}, pictures, diagnostics);
-        if (painted.value != 0)
-            figure.picture = painted;
-    }
+    std::vector<Wanted> wanted;
+    for (layout::Figure& figure : page.figures)
+        if (figure.needsPainting && !figure.box.isEmpty())
+            wanted.push_back({figure.box, figure.showsLabels ? pdf::PaintedText::Shown : pdf::PaintedText::LeftOut,
+                              figure.annotation, &figure.picture});
     for (layout::Formula& formula : page.formulas)
         if (formula.needsPainting)
-            formula.picture =
-                paint(document, page.number, {formula.box, pdf::PaintedText::Shown, {}}, pictures, diagnostics);
+            wanted.push_back({formula.box, pdf::PaintedText::Shown, {}, &formula.picture});
+    PagePainter(document, page.number, diagnostics).paint(wanted);
+    for (const Wanted& one : wanted)
+        if (one.painted)
+            *one.picture = pictures.add(*one.painted);
 }
 
 } // namespace orvane::worker

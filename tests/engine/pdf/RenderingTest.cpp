@@ -1,0 +1,79 @@
+#include "Pixels.h"
+#include "ReadPages.h"
+
+#include "base/Failure.h"
+
+#include <ctime>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace orvane::pdf {
+namespace {
+
+using tests::PdfBuilder;
+
+/// Lines from anywhere to anywhere within a box.
+std::string linesWithin(const Rect& box, int count) {
+    std::minstd_rand random(7);
+    const auto between = [&](double from, double to) {
+        return std::to_string(from + (to - from) * static_cast<double>(random() % 10000) / 10000) + " ";
+    };
+    const auto somewhere = [&] { return between(box.left, box.right) + between(box.top, box.bottom); };
+    std::string content;
+    for (int i = 0; i < count; ++i)
+        content += somewhere() + "m " + somewhere() + "l S\n";
+    return content;
+}
+
+/// The picture of a region of the first page at 200 dots an inch.
+Pixels paint(OpenedPdf& pdf, const Rect& region) {
+    return readPng(pdf.document().renderRegion(1, region, 200, PaintedText::Shown, pdf.diagnostics())->bytes);
+}
+
+/// Whether the picture has pixels between black and white.
+bool isSmooth(const Pixels& pixels) {
+    for (std::size_t i = 0; i < pixels.rgba.size(); i += 4)
+        if (pixels.rgba[i] > 0 && pixels.rgba[i] < 255)
+            return true;
+    return false;
+}
+
+TEST(Rendering, PaintsManyRegionsInOneGo) {
+    OpenedPdf pdf(PdfBuilder().page("1 0 0 rg 50 700 60 40 re f 0 0 1 rg 320.2 90.3 60.1 70.3 re f"));
+    const std::vector<Rect> regions{{40, 40, 120, 150}, {700, 0, 800, 10}, {300, 590.3, 410.7, 760}, {600, 0, 630, 20}};
+    const auto painted = pdf.document().renderRegions(1, regions, 144, PaintedText::Shown, pdf.diagnostics());
+    ASSERT_EQ(painted.size(), regions.size());
+    EXPECT_FALSE(painted[1]) << "beyond the page";
+    for (const std::size_t i : {0, 2, 3}) {
+        ASSERT_TRUE(painted[i]);
+        const auto alone = pdf.document().renderRegion(1, regions[i], 144, PaintedText::Shown, pdf.diagnostics());
+        EXPECT_EQ(painted[i]->bytes, alone->bytes) << i;
+    }
+    EXPECT_THROW(pdf.document().renderRegions(1, {{700, 0, 800, 10}}, 144, PaintedText::Shown, pdf.diagnostics()),
+                 Failure);
+}
+
+TEST(Rendering, TakesLittleTimeForAPageThatThousandsOfLinesCross) {
+    OpenedPdf pdf(PdfBuilder().page(linesWithin({20, 20, 590, 770}, 60000)));
+    const std::clock_t start = std::clock();
+    EXPECT_EQ(paint(pdf, {0, 0, 612, 792}).at(850, 1100), "000000FF");
+    EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 4);
+    EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 1);
+}
+
+TEST(Rendering, KeepsEdgesSmoothWhereFewLinesCross) {
+    OpenedPdf pdf(PdfBuilder().page(linesWithin({20, 20, 300, 770}, 20000) + "400 100 m 500 300 l S"));
+    EXPECT_TRUE(isSmooth(paint(pdf, {390, 480, 510, 700}))) << "the lines beside it do not count";
+    EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 0);
+    paint(pdf, {0, 0, 612, 792});
+    EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 1);
+}
+
+TEST(Rendering, KeepsBroadLinesBroad) {
+    OpenedPdf pdf(PdfBuilder().page(linesWithin({20, 20, 590, 770}, 60000) + "1 0 0 RG 10 w 100 0 m 100 792 l S"));
+    EXPECT_EQ(paint(pdf, {0, 0, 612, 792}).at(static_cast<int>(96.5 * 200 / 72), 1100), "FF0000FF");
+}
+
+} // namespace
+} // namespace orvane::pdf
