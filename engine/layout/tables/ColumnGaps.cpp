@@ -261,21 +261,6 @@ void joinHeads(std::vector<ColumnGap>& gaps, const Rows& rows, const TableParame
     }
 }
 
-/// The rows that tell of columns: those with text side by side, and single texts that keep within one column of these.
-Rows tellingRows(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
-    Rows telling;
-    for (const PieceRow& row : rows)
-        if (row.pieces.size() > 1)
-            telling.push_back(&row);
-    const std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
-    for (const PieceRow& row : rows) {
-        const ColumnRange range = columnsOf(row.pieces.front(), gaps);
-        if (row.pieces.size() == 1 && range.first == range.last)
-            telling.push_back(&row);
-    }
-    return telling;
-}
-
 } // namespace
 
 void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow> rows,
@@ -284,8 +269,19 @@ void joinHeadsWithValues(std::vector<ColumnGap>& gaps, std::span<const PieceRow>
 }
 
 std::vector<ColumnGap> findColumnGaps(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
-    const Rows telling = tellingRows(rows, parameters);
+    // Rows with texts side by side tell of columns, and single texts that keep within one column of these.
+    Rows telling, single;
+    for (const PieceRow& row : rows)
+        (row.pieces.size() > 1 ? telling : single).push_back(&row);
     std::vector<ColumnGap> gaps = gapsAmong(telling, parameters);
+    std::erase_if(single, [&](const PieceRow* row) {
+        const ColumnRange range = columnsOf(row->pieces.front(), gaps);
+        return row->pieces.size() != 1 || range.first != range.last;
+    });
+    if (!single.empty()) {
+        telling.insert(telling.end(), single.begin(), single.end());
+        gaps = gapsAmong(telling, parameters);
+    }
     joinHeads(gaps, telling, parameters);
     return gaps;
 }
