@@ -52,6 +52,21 @@ void setIndents(const DraftParagraph& paragraph, const LayoutParameters& paramet
         format.indentEnd = twipsFromPoints(end - parameters.pageSetup.roomSlack);
 }
 
+/// Lets the shading of a single line go from where to where its ground did; the line stays where it stands.
+void takeShadedSpan(const DraftParagraph& paragraph, document::ParagraphProperties& format) {
+    const DraftPiece& piece = paragraph.pieces.front();
+    const std::optional<ColumnSpan>& span = piece.text.shadedSpan;
+    if (!span || paragraph.list || paragraph.pieces.size() > 1)
+        return;
+    const Line& line = piece.text.lines.front();
+    const double atLeft = span->left - piece.column.left, atRight = piece.column.right - span->right;
+    format.indentStart = twipsFromPoints(line.isRightToLeft ? atRight : atLeft);
+    format.indentEnd = twipsFromPoints(line.isRightToLeft ? atLeft : atRight);
+    if (format.alignment != Alignment::Center)
+        format.firstLine =
+            twipsFromPoints(line.isRightToLeft ? span->right - line.box.right : line.box.left - span->left);
+}
+
 /// How far from the left or right side of the page a line reaches in its direction.
 double reachOf(const Line& line) {
     return line.isRightToLeft ? -line.box.left : line.box.right;
@@ -135,6 +150,7 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
         takeListIndents(
             numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],
             first.text.lines.size(), parameters.lists.sameIndent, format);
+    takeShadedSpan(paragraph, format);
     takeBorders(paragraph, format);
     format.tabs = findTabStops(paragraph, parameters);
     return format;

@@ -8,6 +8,11 @@
 /// One page put in order: blocks in reading order within bands of columns.
 namespace orvane::layout {
 
+struct ColumnSpan {
+    double left = 0;
+    double right = 0;
+};
+
 /// Lines that form one paragraph on this page.
 struct ParagraphDraft {
     std::vector<Line> lines;
@@ -26,6 +31,7 @@ struct ParagraphDraft {
     document::Borders borders;              ///< what is drawn around it
     std::optional<Color> shading;
     std::optional<document::DropCapKind> dropCap; ///< how that of its first line stands
+    std::optional<ColumnSpan> shadedSpan;         ///< from where to where its shading goes, if not from edge to edge
 };
 
 struct PageBlock;
@@ -65,11 +71,6 @@ struct PageBlock {
     std::variant<ParagraphDraft, TableDraft, FigureDraft> value;
     int band = 0;   ///< index into PageLayout::bands
     int column = 0; ///< within the band
-};
-
-struct ColumnSpan {
-    double left = 0;
-    double right = 0;
 };
 
 /// A slice of the page from top to bottom in which the columns are the same.

@@ -20,6 +20,9 @@ constexpr EighthPoints kThickest{96};
 /// Share of a paragraph's width that its shading takes. A narrower ground is not the width of the text around it.
 constexpr double kWholeGround = 0.9;
 
+/// Points by which a ground reaches beyond text; less is the room of its lines.
+constexpr double kLeastPadding = 2;
+
 /// Share of the page's height that a frame around its text takes.
 constexpr double kFrameHeight = 0.6;
 
@@ -96,12 +99,49 @@ private:
             }
         ground.isUsed = !held.empty() && !ground.gradient &&
                         textHeight >= m_parameters.filledShare * ground.box.height() && mayFill(ground.box, held);
-        const bool isNarrow = ground.isUsed && !reachesEnd(ground.box, held);
-        for (Placed* placed : held) {
+        for (Placed* placed : held)
             placed->paragraph->shading = ground.isUsed ? std::optional(ground.color) : std::nullopt;
-            if (isNarrow)
-                narrow(*placed, ground.box);
+        if (ground.isUsed && held.size() == 1 && standsAlone(ground))
+            fitTo(ground, *held.front());
+    }
+
+    /// Whether no ground of its colour meets this one: those of paragraphs that follow each other look like one.
+    bool standsAlone(const Ground& ground) const {
+        const Rect reach = ground.box.inflated(m_parameters.overhang);
+        return std::none_of(m_layout.freeGrounds.begin(), m_layout.freeGrounds.end(), [&](const Ground& other) {
+            return &other != &ground && other.color == ground.color && other.box.intersects(reach);
+        });
+    }
+
+    /// Lets the paragraph's shading, which goes from indent to indent, reach as far as the ground does.
+    void fitTo(const Ground& ground, Placed& placed) const {
+        ParagraphDraft& paragraph = *placed.paragraph;
+        widen(paragraph.borders.top, paragraph.box.top - ground.box.top, ground.color);
+        widen(paragraph.borders.bottom, ground.box.bottom - paragraph.box.bottom, ground.color);
+        const double atLeft = placed.edges.left - ground.box.left, atRight = ground.box.right - placed.edges.right;
+        if (std::abs(atLeft) < kLeastPadding && std::abs(atRight) < kLeastPadding)
+            return;
+        const bool mayStay = keepsToStart(paragraph) || (paragraph.alignment == Alignment::Center &&
+                                                         std::abs(atLeft - atRight) < 2 * kLeastPadding);
+        if (paragraph.lines.size() == 1 && mayStay) {
+            // Not so close to its line that another font would break that.
+            placed.edges = {std::min(ground.box.left, paragraph.box.left - tolerance(placed)),
+                            std::max(ground.box.right, paragraph.box.right + tolerance(placed))};
+            paragraph.shadedSpan = placed.edges;
+            return;
         }
+        widen(paragraph.borders.left, atLeft, ground.color);
+        widen(paragraph.borders.right, atRight, ground.color);
+    }
+
+    /// A border of the ground's colour: word processors paint the shading up to it.
+    void widen(Border& border, double reach, Color color) const {
+        if (reach < kLeastPadding || reach > m_parameters.greatestSpace || isDrawn(border))
+            return;
+        border.kind = BorderKind::Single;
+        border.width = kThinnest;
+        border.color = color;
+        border.spacePoints = static_cast<int>(std::lround(reach));
     }
 
     /// Whether the ground goes, nearly, to the end of one of the paragraphs it holds.
@@ -130,17 +170,6 @@ private:
         const Placed& first = *held.front();
         const bool isSingleLine = held.size() == 1 && first.paragraph->lines.size() == 1;
         return before <= tolerance(first) && (!isSingleLine || after >= tolerance(first));
-    }
-
-    /// Lets the paragraph end with its ground, but not so close to its lines that another font would break them.
-    void narrow(Placed& placed, const Rect& ground) const {
-        const Rect& box = placed.paragraph->box;
-        double& edge = isRightToLeft(placed) ? placed.edges.left : placed.edges.right;
-        const double end = isRightToLeft(placed)
-                               ? std::max(edge, std::min(ground.left, box.left - tolerance(placed)))
-                               : std::min(edge, std::max(ground.right, box.right + tolerance(placed)));
-        placed.paragraph->indentEnd += std::abs(edge - end);
-        edge = end;
     }
 
     double tolerance(const Placed& placed) const {

@@ -13,6 +13,15 @@ constexpr double kMargin = 62;
 /// ... and its distance from that, of its font size.
 constexpr double kLinesAbove = 4;
 
+/// Whether a short rule stands right above the row, as above notes.
+bool isBelowSeparator(const RunningRow& row, const PageText& page) {
+    constexpr double kLongestSeparator = 0.5; // of the page's width
+    return std::any_of(page.rules.begin(), page.rules.end(), [&](const Rule& rule) {
+        return rule.direction == RuleDirection::Horizontal && rule.position <= row.box.top + row.fontSize / 2 &&
+               rule.position >= row.box.top - 2 * row.fontSize && rule.to - rule.from < kLongestSeparator * page.width;
+    });
+}
+
 bool hasTextAbove(const EdgeRows& edge, const PageText& page) {
     return std::any_of(page.lines.begin(), page.lines.end(),
                        [&](const Line& line) { return line.box.bottom < edge.rows.back().box.top; });
@@ -30,15 +39,17 @@ std::size_t countApart(const EdgeRows& edge, const PageText& page, const Running
     }
     // The text above may end out of reach.
     const bool isAlone = !edge.rows.empty() && edge.rows.size() <= limits.longestOnlyFoot &&
-                         endOf(edge.rows.back()) <= limits.onlyFootReach * page.height && hasTextAbove(edge, page);
+                         endOf(edge.rows.back()) <= limits.onlyFootReach * page.height && hasTextAbove(edge, page) &&
+                         !isBelowSeparator(edge.rows.back(), page);
     return isAlone ? edge.rows.size() : 0;
 }
 
-/// Whether the rows stand within the margin that word processors leave below a text, far below it.
+/// Whether the rows stand within the margin that word processors leave below a text, far below it, or so far below that
+/// it is out of reach.
 bool areInMargin(const EdgeRows& edge, std::size_t count) {
     const RunningRow& last = edge.rows[count - 1];
-    return endOf(last) <= kMargin &&
-           (count == edge.rows.size() || edge.rows[count].fromEdge - endOf(last) >= kLinesAbove * last.fontSize);
+    return count == edge.rows.size() ||
+           (endOf(last) <= kMargin && edge.rows[count].fromEdge - endOf(last) >= kLinesAbove * last.fontSize);
 }
 
 /// The size that half of the lines above the rows do not reach.

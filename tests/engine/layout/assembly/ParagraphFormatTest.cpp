@@ -42,14 +42,32 @@ TEST(ParagraphFormat, GivesThatRoomToALineThatMightHaveGoneOnButDoesNot) {
     EXPECT_EQ(formatOf(*block.paragraph(), {}, {}).indentEnd, twipsFromPoints(1 - 12));
 }
 
-TEST(ParagraphFormat, LetsTextSetAgainstTheEndReachPastTheColumnToo) {
+TEST(ParagraphFormat, LetsTextSetAgainstTheEndReachPastTheColumnOrEndBeforeIt) {
     const auto format = [](double left) {
         return formatOfLines({makeLine("twelve chars", left, 100)}, document::Alignment::End);
     };
-    const double beyond = format(495).indentEnd.value / 20.0;
-    EXPECT_NEAR(beyond, 523 - makeLine("twelve chars", 495, 100).box.right, 0.1);
-    EXPECT_LT(beyond, 0);
-    EXPECT_EQ(format(400).indentEnd, Twips(0)) << "it ends at the edge";
+    const auto roomOf = [](double left) { return 523 - makeLine("twelve chars", left, 100).box.right; };
+    EXPECT_NEAR(pointsFromTwips(format(495).indentEnd), roomOf(495), 0.1);
+    EXPECT_LT(roomOf(495), 0);
+    EXPECT_NEAR(pointsFromTwips(format(400).indentEnd), roomOf(400), 0.1) << "the section is wider than the page shows";
+    EXPECT_EQ(format(523.5 - makeLine("twelve chars", 0, 100).box.right).indentEnd, Twips(0)) << "it ends at the edge";
+}
+
+TEST(ParagraphFormat, LetsTheShadingOfALineGoAsFarAsItsGround) {
+    const auto format = [](document::Alignment alignment) {
+        ParagraphDraft paragraph = tests::makeParagraph({makeLine("a banner", 100, 100)});
+        paragraph.alignment = alignment;
+        paragraph.shadedSpan = ColumnSpan{60, 540};
+        const DraftBlock block = tests::makeBlock(std::move(paragraph));
+        return formatOf(*block.paragraph(), {}, {});
+    };
+    const document::ParagraphProperties start = format(document::Alignment::Start);
+    EXPECT_EQ(start.indentStart, Twips(20 * (60 - 72)));
+    EXPECT_EQ(start.firstLine, Twips(20 * (100 - 60))) << "the line stays where it stands";
+    EXPECT_EQ(start.indentEnd, Twips(20 * (523 - 540)));
+    const document::ParagraphProperties center = format(document::Alignment::Center);
+    EXPECT_EQ(center.indentStart, Twips(20 * (60 - 72)));
+    EXPECT_EQ(center.firstLine, Twips(0));
 }
 
 TEST(ParagraphFormat, SeesAnEndIndentOnlyWhereTextIsJustified) {

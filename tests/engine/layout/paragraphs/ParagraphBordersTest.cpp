@@ -133,7 +133,37 @@ TEST(ParagraphBorders, AGroundThatEndsBeforeTheColumnEndsTheShadingThere) {
     page = found(std::move(page));
     EXPECT_TRUE(page.freeGrounds[0].isUsed);
     EXPECT_TRUE(at(page, 0).shading);
-    EXPECT_NEAR(at(page, 0).indentEnd, 523 - 300, 0.01);
+    ASSERT_TRUE(at(page, 0).shadedSpan);
+    EXPECT_NEAR(at(page, 0).shadedSpan->right, 300, 0.01);
+}
+
+TEST(ParagraphBorders, ABannerGoesAsFarAsItsGround) {
+    const Color navy(0, 0, 0x80);
+    const auto banner = [&](std::vector<Ground> grounds) {
+        PageLayout page = pageWith({100});
+        page.freeGrounds = std::move(grounds);
+        return found(std::move(page));
+    };
+    const Ground ground{{20, 84, 560, 112}, navy, 1, false, 0, {}};
+    const PageLayout page = banner({ground});
+    ASSERT_TRUE(at(page, 0).shadedSpan);
+    EXPECT_NEAR(at(page, 0).shadedSpan->left, 20, 0.01);
+    EXPECT_NEAR(at(page, 0).shadedSpan->right, 560, 0.01);
+    EXPECT_EQ(sides(page, 0), "tb") << "shading is painted up to borders";
+    EXPECT_EQ(at(page, 0).borders.top.color, navy);
+    EXPECT_EQ(at(page, 0).borders.bottom.spacePoints, 10) << "from the letters' feet at 102";
+    EXPECT_EQ(sides(banner({ground, {{20, 112, 560, 130}, navy, 1, false, 0, {}}}), 0), "") << "one of two in a row";
+}
+
+TEST(ParagraphBorders, TheGroundOfSeveralLinesHasBordersOfItsColour) {
+    PageLayout page = pageWith({100});
+    auto& paragraph = std::get<ParagraphDraft>(page.blocks[0].value);
+    paragraph.lines.push_back(paragraph.lines.front());
+    page.freeGrounds = {{{60, 91, 530, 103}, {0, 0, 0x80}, 1, false, 0, {}}};
+    page = found(std::move(page));
+    EXPECT_FALSE(at(page, 0).shadedSpan);
+    EXPECT_EQ(sides(page, 0), "lr");
+    EXPECT_EQ(at(page, 0).borders.left.spacePoints, 12);
 }
 
 TEST(ParagraphBorders, TheGroundOfALabelIsNoShading) {
@@ -149,7 +179,7 @@ TEST(ParagraphBorders, TheGroundOfALabelIsNoShading) {
         page = found(std::move(page));
         EXPECT_FALSE(page.freeGrounds[0].isUsed) << label.why;
         EXPECT_EQ(at(page, 0).shading, std::nullopt) << label.why;
-        EXPECT_EQ(at(page, 0).indentEnd, 0) << label.why;
+        EXPECT_FALSE(at(page, 0).shadedSpan) << label.why;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "layout/running/OnlyPageEdges.h"
 
+#include "engine/layout/LineArt.h"
 #include "engine/layout/running/RunningPages.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,9 @@ namespace {
 
 using tests::linesOf;
 using tests::makeLine;
+using tests::makePage;
 using tests::pagesWith;
+using tests::ruleAt;
 
 TEST(OnlyPageEdges, LeavesWordsOfSinglePagesAlone) {
     auto pages = pagesWith(1, [](PageText& page, int) { page.lines.push_back(makeLine("one", 290, 730)); });
@@ -69,6 +72,19 @@ TEST(OnlyPageEdges, TakesTheFootOfASinglePage) {
         EXPECT_EQ(linesOf(heads[0].footer), row.isFoot ? row.text : "");
         EXPECT_FALSE(heads[0].number) << "the page itself has no number";
     }
+}
+
+TEST(OnlyPageEdges, TakesTheFootOfAPageThatIsMostlyBlankButNoNotes) {
+    const auto hasFoot = [](bool hasSeparator) {
+        std::vector<PageText> pages{makePage(1)};
+        pages[0].lines = {makeLine("a short letter", 72, 100), makeLine("of two lines", 72, 120),
+                          makeLine("a street and a town", 72, 770)};
+        if (hasSeparator)
+            pages[0].rules = {ruleAt(RuleDirection::Horizontal, 745, 72, 172)};
+        return takeRunningHeads(pages, {})[0].footer.has_value();
+    };
+    EXPECT_TRUE(hasFoot(false));
+    EXPECT_FALSE(hasFoot(true)) << "a note";
 }
 
 } // namespace
