@@ -75,7 +75,7 @@ std::string dumpCell(const CellDraft& cell) {
         } else if (const auto* table = std::get_if<TableDraft>(&block.value)) {
             nested += indented(dumpTable(*table), 4);
         } else {
-            out += " picture";
+            out += std::get<FigureDraft>(block.value).isInline ? " picture" : " floating picture";
         }
     }
     out += nameOf(alignment);

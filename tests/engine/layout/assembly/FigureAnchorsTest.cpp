@@ -147,26 +147,29 @@ TEST(FigureAnchors, KeepOnItsPageWhatFloatsAtTheEndOfIt) {
     EXPECT_EQ(placementIn(blocks, 3).y, emuFromPoints(500)) << "before the first of the next page";
 }
 
-TEST(FigureAnchors, HangABoxInACellOnTheCell) {
-    DocumentDraft draft = makeDraft(1);
-    DraftTable table;
-    table.table.columnEdges = {172, 372};
-    table.table.rowEdges = {100, 160};
-    table.table.box = {172, 100, 372, 160};
-    DraftCell& cell = table.cells.emplace_back();
-    cell.cell.box = table.table.box;
-    cell.blocks.push_back(makeBox({182, 130, 282, 145}));
-    DraftBlock& block = draft.blocks.emplace_back();
-    block.box = table.table.box;
-    block.value = std::move(table);
-    const document::Document document = tests::documentOf(draft);
-    const auto& made = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
-    const document::TableCell& written = made.rows.at(0).cells.at(0);
-    const document::Placement& placement = placementIn(written.blocks, 0);
-    EXPECT_EQ(placement.verticalAnchor, document::VerticalAnchor::Paragraph);
-    EXPECT_EQ(placement.horizontalAnchor, document::HorizontalAnchor::Column);
-    EXPECT_EQ(placement.y, emuFromPoints(30));
-    EXPECT_NEAR(points(placement.x), 10 - pointsFromTwips(written.marginLeft), 0.01);
+TEST(FigureAnchors, HangWhatFloatsInACellOnTheCell) {
+    for (const bool isBackground : {true, false}) {
+        DocumentDraft draft = makeDraft(1);
+        DraftTable table;
+        table.table.columnEdges = {172, 372};
+        table.table.rowEdges = {100, 160};
+        table.table.box = {172, 100, 372, 160};
+        DraftCell& cell = table.cells.emplace_back();
+        cell.cell.box = table.table.box;
+        cell.blocks.push_back(makeBox({182, 130, 282, 145}));
+        std::get<FigureDraft>(cell.blocks[0].value).figure.isBackground = isBackground;
+        DraftBlock& block = draft.blocks.emplace_back();
+        block.box = table.table.box;
+        block.value = std::move(table);
+        const document::Document document = tests::documentOf(draft);
+        const auto& made = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+        const document::TableCell& written = made.rows.at(0).cells.at(0);
+        const document::Placement& placement = placementIn(written.blocks, 0);
+        EXPECT_EQ(placement.verticalAnchor, document::VerticalAnchor::Paragraph);
+        EXPECT_EQ(placement.horizontalAnchor, document::HorizontalAnchor::Column);
+        EXPECT_EQ(placement.y, emuFromPoints(30));
+        EXPECT_NEAR(points(placement.x), 10 - pointsFromTwips(written.marginLeft), 0.01);
+    }
 }
 
 } // namespace

@@ -179,6 +179,20 @@ TEST(TableAssembler, SetsTextBelowABlankLineAsFarBelowTheOthersOfItsRow) {
     EXPECT_EQ(spaceBefore(13, document::CellAlignment::Center), 0) << "its alignment puts it there";
 }
 
+TEST(TableAssembler, SetsTheTextsOfARowAsFarBelowItsEdgeAsTheyAre) {
+    DocumentDraft draft = draftOfTable(Reading::FromLeft);
+    DraftTable& table = std::get<DraftTable>(draft.blocks[0].value);
+    table.table.rowEdges[2] = table.table.box.bottom = table.cells[2].cell.box.bottom = 200;
+    table.cells[2].blocks[0] = tests::makeBlock(tests::makeParagraph({tests::makeLine("both", 178, 132 + 25)}));
+    const document::Document document = tests::documentOf(draft);
+    const auto& written = std::get<document::Table>(document.sections.at(0).blocks.at(0).value);
+    const auto spaceIn = [&](std::size_t row) {
+        return std::get<document::Paragraph>(written.rows[row].cells[0].blocks.at(0).value).properties.spaceBefore;
+    };
+    EXPECT_EQ(spaceIn(0), Twips(0)) << "the margin of all cells";
+    EXPECT_NEAR(pointsFromTwips(spaceIn(1)), 25, 0.1);
+}
+
 TEST(TableAssembler, LeavesTheBordersTheirRoom) {
     DocumentDraft draft = draftOfTable(Reading::FromLeft);
     // The lines reach from 2.29 points below the rows' upper edges to 5.5 above the lower ones.
