@@ -47,10 +47,14 @@ GivenCode givenCode(const GfxFont& font, std::uint32_t code) {
     return {{text, text + length}, dx};
 }
 
-/// Signs at U+F000 + code are how Windows keeps symbol fonts; of fonts unknown by name the common bullets are worth a
-/// guess, and letters stand at their own codes.
+/// Signs at U+F000 + code are how Windows keeps symbol fonts; of fonts unknown by name the common bullets and arrows
+/// are worth a guess, and letters stand at their own codes.
 std::u32string fromPrivateDouble(std::uint8_t code) {
     switch (code) {
+    case 0x96: // of Wingdings 2
+    case 0x97:
+    case 0x98:
+        return U"\u25CF";
     case 0x9E:
     case 0x9F:
         return U"\u2022";
@@ -64,6 +68,12 @@ std::u32string fromPrivateDouble(std::uint8_t code) {
         return U"\u2022";
     case 0xD8:
         return U"\u27A2";
+    case 0xDF: // the arrows of Wingdings that word processors put for "<--", "-->", "<==", "==>" and "<=>"
+    case 0xE0:
+    case 0xE7:
+    case 0xE8:
+    case 0xF3:
+        return std::u32string(1, symbolCharacter(SymbolFont::Wingdings, code));
     case 0xFC:
         return U"\u2713";
     default:

@@ -143,6 +143,7 @@ std::string signsOf(const std::string& font, const std::string& map, const std::
 
 TEST(Unicode, OfPrivateBulletsIsABullet) {
     EXPECT_EQ(signsOf("Unknown", "<41> <F0B7> <42> <F0A7> <43> <F041> <44> <F09E> <45> <F0B0>\n"), "•▪A•°");
+    EXPECT_EQ(signsOf("Unknown", "<41> <F097> <42> <F0E0> <43> <F0DF> <44> <F0E8>\n"), "●→←➔") << "as word processors put them";
 }
 
 TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
