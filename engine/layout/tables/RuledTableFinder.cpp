@@ -4,6 +4,7 @@
 #include "layout/tables/GroundRows.h"
 #include "layout/tables/NestedGrids.h"
 #include "layout/tables/NumberColumns.h"
+#include "layout/tables/OpenFields.h"
 #include "layout/tables/OpenRows.h"
 #include "layout/tables/RowParter.h"
 #include "layout/tables/RuleLattice.h"
@@ -26,7 +27,8 @@ bool hasWords(const PageText& page, const TableGrid& grid, const TableParameters
 
 std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<BorderLine>& drawn,
                                       const TableParameters::Tables& parameters) {
-    const std::vector<BorderLine> lines = closeOpenRows(drawn, page.lines, parameters);
+    const std::vector<BorderLine> lines =
+        closeOpenFields(closeOpenRows(drawn, page.lines, parameters), page.lines, parameters);
     std::vector<TableGrid> grids;
     for (const LineGroup& group : groupCrossingLines(lines, parameters)) {
         const auto lattice = buildLattice(lines, group, parameters);
