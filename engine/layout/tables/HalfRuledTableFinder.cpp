@@ -33,12 +33,13 @@ ColumnPieces firstColumnOf(const AlignedRows& aligned) {
     return column;
 }
 
-/// Whether the first column holds numbers and a head that end at one edge: the column is wider than they are.
+/// Whether the first column holds a head in words and numbers that end at one edge: the column is wider than they are.
 bool endsWithNumbers(const ColumnPieces& column, const std::vector<Line>& lines,
                      const TableParameters::Tables& parameters) {
-    return isOfNumbers(column, lines, parameters) && column.share([&](const TextPiece* piece) {
-        return piece->box.right >= column.right - parameters.columnEdge * lines[piece->line].fontSize;
-    }) == 1;
+    return isOfNumbers(column, lines, parameters) && !isNumeric(*column.pieces.front(), lines) &&
+           column.share([&](const TextPiece* piece) {
+               return piece->box.right >= column.right - parameters.columnEdge * lines[piece->line].fontSize;
+           }) == 1;
 }
 
 /// Whether the run begins with rows that stand each in a band of its own above the first rule.
