@@ -92,8 +92,9 @@ private:
         std::size_t all = 0, there = 0;
         for (const auto& [character, count] : face.text) {
             all += count;
-            const bool isThere = std::any_of(face.sources.begin(), face.sources.end(),
-                                             [&](const auto& source) { return source.second.contains(character); });
+            const bool isThere =
+                std::any_of(face.sources.begin(), face.sources.end(),
+                            [wanted = character](const auto& source) { return source.second.contains(wanted); });
             there += isThere ? count : 0;
         }
         return all > 0 && static_cast<double>(there) >= m_parameters.leastCoverage * static_cast<double>(all);
