@@ -95,7 +95,8 @@ private:
             else if (std::abs(piece.box.left - m_plot.right) < reach)
                 right.add(piece, 1);
         }
-        return take(left, m_limits.fewestNumbers) | take(right, m_limits.fewestNumbers);
+        const bool isAtLeft = take(left, m_limits.fewestNumbers), isAtRight = take(right, m_limits.fewestNumbers);
+        return isAtLeft || isAtRight;
     }
 
     bool takeScaleBelow() {

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <ranges>
 
 namespace orvane::layout {
 namespace {
@@ -40,10 +39,10 @@ void keepClear(ColumnGutter& gutter, const Line& line, const GutterSides& sides)
 
 /// Follows the lines beyond the gutter's end as long as they belong to its columns. `gapTo` tells how far a line lies
 /// beyond that end, `take` moves the end over it.
-template<typename Lines, typename Beyond, typename GapTo, typename Take>
-void extend(Lines lines, const GutterSides& sides, const PageParameters::Regions& parameters, Beyond isBeyond,
-            GapTo gapTo, Take take) {
-    for (auto line = lines.begin(); line != lines.end(); ++line) {
+template<typename Iterator, typename Beyond, typename GapTo, typename Take>
+void extend(Iterator first, Iterator end, const GutterSides& sides, const PageParameters::Regions& parameters,
+            Beyond isBeyond, GapTo gapTo, Take take) {
+    for (auto line = first; line != end; ++line) {
         if (!isBeyond(*line))
             continue;
         const GutterSide side = sides.sideOf(*line);
@@ -52,7 +51,7 @@ void extend(Lines lines, const GutterSides& sides, const PageParameters::Regions
         const auto next = std::next(line);
         // A heading between paragraphs fills no column, what stands at it does.
         const bool isOfColumn =
-            sides.isFilledBy(*line) || (next != lines.end() && sides.sideOf(*next) == side && sides.isFilledBy(*next));
+            sides.isFilledBy(*line) || (next != end && sides.sideOf(*next) == side && sides.isFilledBy(*next));
         const double step = isOfColumn ? parameters.paragraphStep : parameters.columnStep;
         if (gapTo(*line) > step * line->fontSize)
             return;
@@ -67,14 +66,15 @@ void extendOverNeighbours(ColumnGutter& gutter, std::span<const Line> lines,
     const ColumnGutter found = gutter;
     const GutterSides sides(found, lines, parameters);
     extend(
-        lines, sides, parameters, [&](const Line& line) { return line.box.centerY() > gutter.bottom; },
+        lines.begin(), lines.end(), sides, parameters,
+        [&](const Line& line) { return line.box.centerY() > gutter.bottom; },
         [&](const Line& line) { return line.box.top - gutter.bottom; },
         [&](const Line& line) {
             gutter.bottom = std::max(gutter.bottom, line.box.bottom);
             keepClear(gutter, line, sides);
         });
     extend(
-        std::views::reverse(lines), sides, parameters,
+        lines.rbegin(), lines.rend(), sides, parameters,
         [&](const Line& line) { return line.box.centerY() < gutter.top; },
         [&](const Line& line) { return gutter.top - line.box.bottom; },
         [&](const Line& line) {
