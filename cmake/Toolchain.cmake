@@ -22,7 +22,9 @@ add_library(tavrelion_options INTERFACE)
 target_compile_options(tavrelion_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
 if(TAVRELION_SANITIZE)
-  target_compile_options(tavrelion_options INTERFACE -fsanitize=${TAVRELION_SANITIZE} -fno-omit-frame-pointer)
+  # The PDF library keeps the type information of some classes to itself, which the check "vptr" asks for.
+  target_compile_options(tavrelion_options INTERFACE -fsanitize=${TAVRELION_SANITIZE} -fno-sanitize=vptr
+    -fno-omit-frame-pointer)
   target_link_options(tavrelion_options INTERFACE -fsanitize=${TAVRELION_SANITIZE})
 endif()
 if(TAVRELION_BUILD_FUZZERS)
