@@ -80,9 +80,8 @@ void lowerCellTexts(AssembledBlock& table, const AssemblyParameters::TableCells&
             continue;
         const double least = limits.leastDrop * text->firstLine().fontSize;
         // Rows that differ a little in height are none the worse for having one margin.
-        const double ofRow = drops.at(cell.row) - margin - reachOf(cell.borders.top);
-        const double usual = ofRow >= least ? margin + reachOf(cell.borders.top) : drops.at(cell.row);
-        const double drop = first.top - cell.box.top - usual;
+        const double ofMargin = margin + reachOf(cell.borders.top), ofRow = drops.at(cell.row);
+        const double drop = first.top - cell.box.top - (ofRow - ofMargin >= least ? ofMargin : ofRow);
         if (drop >= least)
             first.paragraph()->properties.spaceBefore = twipsFromPoints(drop);
     }

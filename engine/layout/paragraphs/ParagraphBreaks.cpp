@@ -1,6 +1,5 @@
 #include "layout/paragraphs/ParagraphBreaks.h"
 
-#include "base/Utf8.h"
 #include "layout/formulas/FormulaFinder.h"
 #include "layout/paragraphs/JustifiedLines.h"
 #include "layout/paragraphs/NaturalLeading.h"
@@ -16,8 +15,8 @@ namespace {
 
 /// A letter that goes on with no sentence.
 bool startsLabel(const Line& line) {
-    const std::u32string text = utf32FromUtf8(textOf(line.words.front()));
-    return !text.empty() && isLetter(text.front()) && !isLowerCase(text.front());
+    const char32_t first = firstCharacterOf(line);
+    return isLetter(first) && !isLowerCase(first);
 }
 
 /// Walks down the lines of a column, with the paragraph that began at `m_first` growing until a line does not belong to

@@ -27,21 +27,20 @@ bool hasTextAbove(const EdgeRows& edge, const PageText& page) {
                        [&](const Line& line) { return line.box.bottom < edge.rows.back().box.top; });
 }
 
-/// The rows from the edge up to the first gap that parts them from the text; 0 where there is none.
+/// The rows from the edge up to the first gap that parts them from the text, which may end out of reach; 0 where there
+/// is none.
 std::size_t countApart(const EdgeRows& edge, const PageText& page, const RunningParameters::RunningHeads& limits) {
-    for (std::size_t i = 1; i < edge.rows.size() && i <= limits.longestOnlyFoot; ++i) {
+    for (std::size_t i = 1; i <= std::min(edge.rows.size(), limits.longestOnlyFoot); ++i) {
         const RunningRow& outer = edge.rows[i - 1];
         const double end = endOf(outer);
         if (end > limits.onlyFootReach * page.height)
             return 0;
+        if (i == edge.rows.size())
+            return hasTextAbove(edge, page) && !isBelowSeparator(outer, page) ? i : 0;
         if (edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize))
             return i;
     }
-    // The text above may end out of reach.
-    const bool isAlone = !edge.rows.empty() && edge.rows.size() <= limits.longestOnlyFoot &&
-                         endOf(edge.rows.back()) <= limits.onlyFootReach * page.height && hasTextAbove(edge, page) &&
-                         !isBelowSeparator(edge.rows.back(), page);
-    return isAlone ? edge.rows.size() : 0;
+    return 0;
 }
 
 /// Whether the rows stand within the margin that word processors leave below a text, far below it, or so far below that

@@ -1,6 +1,5 @@
 #include "layout/structure/ParagraphJoiner.h"
 
-#include "base/Utf8.h"
 #include "layout/structure/BlockExtent.h"
 #include "layout/structure/PageFloor.h"
 #include "layout/structure/ParagraphContinuation.h"
@@ -46,11 +45,6 @@ std::vector<PageEnd> findPageEnds(const DocumentDraft& draft, const DocumentCont
     return ends;
 }
 
-bool startsLowerCase(const DraftBlock& block) {
-    const std::u32string text = utf32FromUtf8(textOf(block.paragraph()->pieces.front().text.lines.front()));
-    return !text.empty() && isLowerCase(text.front());
-}
-
 /// Columns side by side hold one text where they are alike; a narrow one beside a wide one has a text of its own.
 constexpr double kLikeWidths = 0.75; // of the wider one
 
@@ -82,7 +76,7 @@ void joinParagraphs(DocumentDraft& draft, const DocumentContext& context, const 
     const auto mayGoOn = [&](const DraftBlock& before, const DraftBlock& next) {
         const std::size_t page = before.paragraph()->pieces.back().page;
         return page == next.page || ends[page] == PageEnd::Full ||
-               (ends[page] == PageEnd::Open && startsLowerCase(next));
+               (ends[page] == PageEnd::Open && isLowerCase(firstCharacterOf(next.paragraph()->firstLine())));
     };
     std::vector<DraftBlock> joined;
     std::size_t last =

@@ -49,8 +49,7 @@ bool runsOn(DraftCell& above, DraftCell& below, const ParagraphContext& context,
 }
 
 char32_t firstLetterOf(DraftCell& cell) {
-    const std::u32string word = utf32FromUtf8(textOf(firstPieceOf(cell)->text.lines.front().words.front()));
-    return word.empty() ? U'\0' : word.front();
+    return firstCharacterOf(firstPieceOf(cell)->text.lines.front());
 }
 
 /// Whether the page break lies within a text: in a narrow cell every short text looks as if more could follow.

@@ -91,6 +91,25 @@ std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const
     return lines;
 }
 
+BorderLine undrawnLine(RuleDirection direction, double position, double from, double to) {
+    BorderLine line;
+    line.direction = direction;
+    line.position = position;
+    line.from = from;
+    line.to = to;
+    return line;
+}
+
+void addLines(std::vector<BorderLine>& lines, std::vector<BorderLine> added) {
+    for (BorderLine& line : added) {
+        const auto place = std::find_if(lines.begin(), lines.end(), [&](const BorderLine& other) {
+            return other.direction == line.direction ? other.position > line.position
+                                                     : line.direction == RuleDirection::Horizontal;
+        });
+        lines.insert(place, std::move(line));
+    }
+}
+
 document::Border borderAlong(const std::vector<Rule>& rules, const std::vector<BorderLine>& lines, const CellSide& side,
                              double cover, const TableParameters::Tables& parameters) {
     // The side takes the look that covers most of it.

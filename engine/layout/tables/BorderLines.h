@@ -22,6 +22,12 @@ struct BorderLine {
 /// The lines that the page's rules make, horizontal ones first, each direction by position. Check boxes are left out.
 std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters);
 
+/// A line that nothing is drawn along; it has no rules.
+BorderLine undrawnLine(RuleDirection direction, double position, double from, double to);
+
+/// Puts lines among others that are in the order of collectBorderLines(), which they keep.
+void addLines(std::vector<BorderLine>& lines, std::vector<BorderLine> added);
+
 /// One side of a cell.
 struct CellSide {
     RuleDirection direction = RuleDirection::Horizontal;

@@ -43,7 +43,7 @@ Point middleOf(const Rect& box) {
     return {box.centerX(), box.centerY()};
 }
 
-/// Whether a line of the cell stands beside the box, most of it between its upper and lower edge.
+/// Whether a line of the cell stands beside the box, its middle between the upper and the lower edge.
 bool hasTextBeside(const CellDraft& cell, const Rect& box) {
     return std::any_of(cell.blocks.begin(), cell.blocks.end(), [&](const PageBlock& block) {
         const auto* paragraph = std::get_if<ParagraphDraft>(&block.value);
@@ -54,29 +54,30 @@ bool hasTextBeside(const CellDraft& cell, const Rect& box) {
     });
 }
 
-/// Puts a block into the cell that holds its middle, at its place from top to bottom.
-bool placeBlock(TableDraft& table, const Rect& box, PageBlock block) {
-    for (CellDraft& cell : table.cells) {
-        if (!cell.box.contains(middleOf(box)))
-            continue;
-        if (auto* figure = std::get_if<FigureDraft>(&block.value))
-            figure->isInline = !hasTextBeside(cell, box);
-        const double top = topOf(block);
-        const auto after = std::find_if(cell.blocks.begin(), cell.blocks.end(),
-                                        [&](const PageBlock& other) { return topOf(other) > top; });
-        cell.blocks.insert(after, std::move(block));
-        return true;
-    }
-    return false;
+/// The cell that holds the middle of the box; null where none does.
+CellDraft* cellAround(TableDraft& table, const Rect& box) {
+    const auto cell = std::find_if(table.cells.begin(), table.cells.end(),
+                                   [&](const CellDraft& other) { return other.box.contains(middleOf(box)); });
+    return cell == table.cells.end() ? nullptr : &*cell;
+}
+
+/// Puts the block at its place from top to bottom.
+template<typename Value>
+void addTo(CellDraft& cell, Value value) {
+    PageBlock block;
+    block.value = std::move(value);
+    const double top = topOf(block);
+    const auto after = std::find_if(cell.blocks.begin(), cell.blocks.end(),
+                                    [&](const PageBlock& other) { return topOf(other) > top; });
+    cell.blocks.insert(after, std::move(block));
 }
 
 void takeFigures(TableDraft& table, std::vector<Figure>& figures) {
     std::erase_if(figures, [&](const Figure& figure) {
-        if (figure.isBackground || !table.box.contains(middleOf(figure.box)))
-            return false;
-        PageBlock block;
-        block.value = FigureDraft{figure, true};
-        return placeBlock(table, figure.box, std::move(block));
+        CellDraft* cell = figure.isBackground ? nullptr : cellAround(table, figure.box);
+        if (cell)
+            addTo(*cell, FigureDraft{figure, !hasTextBeside(*cell, figure.box)});
+        return cell != nullptr;
     });
 }
 
@@ -141,12 +142,9 @@ TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& tex
     alignAcross(table, rooms, limits, parameters.markers);
     alignUpright(table, limits);
     takeFigures(table, page.figures);
-    for (TableDraft& inner : nested) {
-        const Rect box = inner.box;
-        PageBlock block;
-        block.value = std::move(inner);
-        placeBlock(table, box, std::move(block));
-    }
+    for (TableDraft& inner : nested)
+        if (CellDraft* cell = cellAround(table, inner.box))
+            addTo(*cell, std::move(inner));
     return table;
 }
 

@@ -2,22 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace orvane::layout {
 namespace {
 
 /// Points between the rule above a field and the next one of its length; farther apart they are of two forms.
 constexpr double kTallestRow = 100;
-
-BorderLine undrawn(RuleDirection direction, double position, double from, double to) {
-    BorderLine line;
-    line.direction = direction;
-    line.position = position;
-    line.from = from;
-    line.to = to;
-    return line;
-}
 
 class OpenFieldFinder {
 public:
@@ -37,9 +27,9 @@ public:
             const BorderLine* divider = bottom ? lastDivider(top, *bottom) : nullptr;
             if (!divider || !isClosedBefore(*divider, top) || !holdsWords(*divider, top))
                 continue;
-            added.push_back(undrawn(RuleDirection::Horizontal, divider->to, divider->position, top.to));
+            added.push_back(undrawnLine(RuleDirection::Horizontal, divider->to, divider->position, top.to));
             for (const double side : {top.from, top.to})
-                added.push_back(undrawn(RuleDirection::Vertical, side, top.position, bottom->position));
+                added.push_back(undrawnLine(RuleDirection::Vertical, side, top.position, bottom->position));
         }
         return added;
     }
@@ -113,13 +103,7 @@ private:
 
 std::vector<BorderLine> closeOpenFields(std::vector<BorderLine> lines, const std::vector<Line>& text,
                                         const TableParameters::Tables& parameters) {
-    for (BorderLine& added : OpenFieldFinder(lines, text, parameters).find()) {
-        const auto place = std::find_if(lines.begin(), lines.end(), [&](const BorderLine& line) {
-            return line.direction == added.direction ? line.position > added.position
-                                                     : added.direction == RuleDirection::Horizontal;
-        });
-        lines.insert(place, std::move(added));
-    }
+    addLines(lines, OpenFieldFinder(lines, text, parameters).find());
     return lines;
 }
 

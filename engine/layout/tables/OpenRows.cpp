@@ -128,12 +128,7 @@ private:
         const auto walls = wallsOf(dividers);
         if (!walls || !holdsWords(dividers, walls->first, walls->second))
             return std::nullopt;
-        BorderLine top;
-        top.direction = RuleDirection::Horizontal;
-        top.position = first.from;
-        top.from = walls->first;
-        top.to = walls->second;
-        return top;
+        return undrawnLine(RuleDirection::Horizontal, first.from, walls->first, walls->second);
     }
 
     const std::vector<Line>& m_text;
@@ -146,12 +141,7 @@ private:
 
 std::vector<BorderLine> closeOpenRows(std::vector<BorderLine> lines, const std::vector<Line>& text,
                                       const TableParameters::Tables& parameters) {
-    for (BorderLine& top : OpenRowFinder(lines, text, parameters).find()) {
-        const auto place = std::find_if(lines.begin(), lines.end(), [&](const BorderLine& line) {
-            return line.direction == RuleDirection::Vertical || line.position > top.position;
-        });
-        lines.insert(place, std::move(top));
-    }
+    addLines(lines, OpenRowFinder(lines, text, parameters).find());
     return lines;
 }
 

@@ -30,6 +30,11 @@ std::string textOf(const Line& line) {
     return text;
 }
 
+char32_t firstCharacterOf(const Line& line) {
+    const std::u32string text = line.words.empty() ? std::u32string() : utf32FromUtf8(textOf(line.words.front()));
+    return text.empty() ? U'\0' : text.front();
+}
+
 std::string plainWord(const Word& word) {
     const std::u32string text = utf32FromUtf8(textOf(word));
     const auto isLetter = [](char32_t c) { return u_isalpha(static_cast<UChar32>(c)); };

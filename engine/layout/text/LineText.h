@@ -13,6 +13,9 @@ std::string textOf(const Word& word);
 /// The line's words with the gaps between them: nothing, a blank, or a tabulator.
 std::string textOf(const Line& line);
 
+/// The line's first character; U+0000 without any.
+char32_t firstCharacterOf(const Line& line);
+
 /// The letters of the word in lower case, UTF-8, without what surrounds them; empty when something other than hyphens
 /// stands between letters.
 std::string plainWord(const Word& word);

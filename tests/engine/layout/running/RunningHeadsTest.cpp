@@ -1,5 +1,6 @@
 #include "layout/running/RunningHeads.h"
 
+#include "engine/layout/LineArt.h"
 #include "engine/layout/running/RunningPages.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,7 @@ using tests::linesOf;
 using tests::makeLine;
 using tests::makePage;
 using tests::pagesWith;
+using tests::ruleAt;
 
 TEST(RunningHeads, TakesRepeatedLinesOffAllPages) {
     auto pages = pagesWith(4, [](PageText& page, int) {
@@ -225,21 +227,10 @@ TEST(RunningHeads, LeavesTheHeadsOfTablesThatGoOn) {
 TEST(RunningHeads, LeavesTheSidesOfBoxesThatReachIntoTheText) {
     auto pages = pagesWith(3, [](PageText& page, int) {
         page.lines.push_back(makeLine("Annual report", 72, 40));
-        for (const double y : {55.0, 60.0}) {
-            Rule rule;
-            rule.position = y;
-            rule.from = 72;
-            rule.to = 523;
-            page.rules.push_back(rule);
-        }
-        for (const double x : {72.0, 523.0}) {
-            Rule side;
-            side.direction = RuleDirection::Vertical;
-            side.position = x;
-            side.from = 60;
-            side.to = 140;
-            page.rules.push_back(side);
-        }
+        for (const double y : {55.0, 60.0})
+            page.rules.push_back(ruleAt(RuleDirection::Horizontal, y, 72, 523));
+        for (const double x : {72.0, 523.0})
+            page.rules.push_back(ruleAt(RuleDirection::Vertical, x, 60, 140));
     });
     const auto heads = takeRunningHeads(pages, {});
     for (std::size_t i = 0; i < pages.size(); ++i) {
