@@ -69,6 +69,15 @@ Rect boxAround(Point origin, Point alongVector, Point upVector, double from, dou
     return box;
 }
 
+/// How far above the baseline the ink of a character can reach, in ems: dots of leaders and underscores leave the rest
+/// of their box empty.
+double reachAboveBaseline(const std::u32string& text, double ascent) {
+    constexpr double kDotReach = 0.2;
+    constexpr std::u32string_view kMarksOnBaseline = U".,_\u2024\u2025\u2026";
+    const bool isLow = !text.empty() && text.find_first_not_of(kMarksOnBaseline) == std::u32string::npos;
+    return isLow ? std::min(kDotReach, ascent) : ascent;
+}
+
 /// Displacement on the page without character and word spacing. Source: ISO 32000-1, 9.4.4.
 Point ownAdvance(const GfxState& state, const ShownCharacter& character, bool isVertical) {
     double spacing = state.getCharSpace();
@@ -165,16 +174,21 @@ void GlyphReader::read(const GfxState& state, const ShownCharacter& character, s
     glyph.origin = character.toPage.apply({character.x, character.y});
     const Point advance = ownAdvance(state, character, facts.isVertical);
     glyph.advance = std::hypot(advance.x, advance.y);
+    Rect inked; // what of the box can bear ink
     if (facts.isVertical) {
         const Point half{frame.along.x * frame.size / 2, frame.along.y * frame.size / 2};
-        glyph.box =
+        inked = glyph.box =
             boxAround({glyph.origin.x - half.x, glyph.origin.y - half.y}, {half.x * 2, half.y * 2}, advance, 0, 1);
     } else {
-        glyph.box = boxAround(glyph.origin, advance, frame.up, -facts.descent * frame.size, facts.ascent * frame.size);
+        const auto boxUpTo = [&](double reach) {
+            return boxAround(glyph.origin, advance, frame.up, -facts.descent * frame.size, reach * frame.size);
+        };
+        glyph.box = boxUpTo(facts.ascent);
+        inked = boxUpTo(reachAboveBaseline(glyph.unicode, facts.ascent));
     }
     if (!std::isfinite(glyph.box.left + glyph.box.right + glyph.box.top + glyph.box.bottom))
         return;
-    glyph.visibility = visibilityOf(glyph.box, clipBox(state), m_page);
+    glyph.visibility = visibilityOf(inked, clipBox(state), m_page);
     setPaint(glyph, state);
     noteSpaceWidth(glyph);
     m_page.glyphs.push_back(std::move(glyph));

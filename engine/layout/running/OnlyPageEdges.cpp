@@ -1,6 +1,7 @@
 #include "layout/running/OnlyPageEdges.h"
 
 #include "base/Utf8.h"
+#include "layout/structure/NoteMark.h"
 #include "layout/text/Characters.h"
 
 #include <algorithm>
@@ -22,6 +23,21 @@ bool isBelowSeparator(const RunningRow& row, const PageText& page) {
     });
 }
 
+/// Whether the row starts with a mark to which the text above it refers with a raised one: a note.
+bool isNote(const RunningRow& row, const PageText& page) {
+    const auto first = std::min_element(row.lines.begin(), row.lines.end(), [&](std::size_t a, std::size_t b) {
+        return page.lines[a].box.left < page.lines[b].box.left;
+    });
+    const std::string mark = bareMark(markAtStart(page.lines[*first].words.front()));
+    const auto refersToIt = [&](const Span& span) { return isRaisedMark(span) && bareMark(span.text) == mark; };
+    return !mark.empty() && std::any_of(page.lines.begin(), page.lines.end(), [&](const Line& line) {
+        return line.box.bottom < row.box.top &&
+               std::any_of(line.words.begin(), line.words.end(), [&](const Word& word) {
+                   return std::any_of(word.spans.begin(), word.spans.end(), refersToIt);
+               });
+    });
+}
+
 bool hasTextAbove(const EdgeRows& edge, const PageText& page) {
     return std::any_of(page.lines.begin(), page.lines.end(),
                        [&](const Line& line) { return line.box.bottom < edge.rows.back().box.top; });
@@ -38,7 +54,7 @@ std::size_t countApart(const EdgeRows& edge, const PageText& page, const Running
         if (i == edge.rows.size())
             return hasTextAbove(edge, page) && !isBelowSeparator(outer, page) ? i : 0;
         if (edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize))
-            return i;
+            return isBelowSeparator(outer, page) ? 0 : i;
     }
     return 0;
 }
@@ -142,7 +158,7 @@ void takeOnlyFoot(EdgeRows& edge, const PageText& page, const RunningParameters:
         !isLarge && std::any_of(first, last, [&](const RunningRow& row) { return showsNumber(row, parameters); });
     const bool isSetApart = !isLarge && areInMargin(edge, count);
     if ((!isSmall && !isNumbered && !isSetApart) ||
-        std::any_of(first, last, [&](const RunningRow& row) { return isInTable(row, page); }))
+        std::any_of(first, last, [&](const RunningRow& row) { return isInTable(row, page) || isNote(row, page); }))
         return;
     takeRows(edge, count);
     for (auto row = first; row != last; ++row)

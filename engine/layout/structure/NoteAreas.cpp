@@ -55,7 +55,7 @@ public:
     }
 
     std::optional<NoteArea> wholePage() const {
-        if (m_lines.empty() || !isRaisedMark(line(m_lines.front()).words.front().spans.front()))
+        if (m_lines.empty() || !startsRaised(line(m_lines.front())))
             return std::nullopt;
         NoteArea area;
         for (const std::size_t i : m_lines)
@@ -81,6 +81,23 @@ public:
         return isBelowTable(area) ? std::nullopt : std::optional(std::move(area));
     }
 
+    std::optional<NoteArea> belowGap() const {
+        std::size_t first = m_lines.size();
+        while (first > 1 && !standsApart(m_lines[first - 2], m_lines[first - 1]))
+            --first;
+        if (first < 2)
+            return std::nullopt;
+        NoteArea area;
+        for (std::size_t i = first - 1; i < m_lines.size(); ++i)
+            if (standsBesideLast(area, m_lines[i]) || !addLine(area, m_lines[i]))
+                return std::nullopt;
+        std::erase_if(area.starts, [&](const NoteStart& start) { return !startsRaised(line(start.line)); });
+        if (area.starts.empty() || area.starts.front().line != area.lines.front())
+            return std::nullopt;
+        startWith(area, area.lines.front(), m_page);
+        return isBelowTable(area) ? std::nullopt : std::optional(std::move(area));
+    }
+
 private:
     using LineIterator = std::vector<std::size_t>::const_iterator;
 
@@ -92,6 +109,21 @@ private:
     bool standsBesideLast(const NoteArea& area, std::size_t index) const {
         return !area.lines.empty() && standBeside(line(area.lines.back()), line(index)) &&
                !isMarkOf(line(area.lines.back()), line(index));
+    }
+
+    /// Whether a good line of space parts the line from the one above.
+    bool standsApart(std::size_t above, std::size_t index) const {
+        return line(index).box.top - line(above).box.bottom >= line(above).fontSize;
+    }
+
+    /// Whether the line starts with a raised mark, or is nothing but a small one.
+    bool startsRaised(const Line& text) const {
+        return isRaisedMark(text.words.front().spans.front()) ||
+               (isLoneMark(text) && text.fontSize <= m_limits.loneMarkSize * m_context.bodyFontSize);
+    }
+
+    static bool isLoneMark(const Line& text) {
+        return text.words.size() == 1 && isNoteMark(textOf(text.words.front()));
     }
 
     const Line& line(std::size_t index) const { return m_page.lines[index]; }
@@ -118,18 +150,46 @@ private:
                                     [&](std::size_t i) { return line(i).baseline <= y; });
     }
 
-    /// The text column in which the rule stands. The lines above it tell; where these are no columns, those below may
-    /// be, unless a line at the page's foot leads across them.
+    /// The text column in which the rule stands. The lines above it tell, with the notes that start where it does:
+    /// above those that lead across columns stands a table. Where these are no columns, all lines below may be, unless
+    /// one at the page's foot leads across them.
     Interval columnOf(const Rule& rule) const {
         const auto from = firstBelow(rule.position - m_limits.columnReach);
-        const Interval above = columnAmong(rule, from, firstBelow(rule.position));
-        return std::isfinite(above.from) || std::isfinite(above.to) ? above : columnAmong(rule, from, m_lines.end());
+        const auto below = firstBelow(rule.position);
+        std::vector<Interval> parts = extentsOf(from, below);
+        double bottom = rule.position;
+        for (auto i = below; i != m_lines.end() && line(*i).box.top - bottom <= m_limits.largestGap; ++i) {
+            bottom = line(*i).box.bottom;
+            if (startsAt(rule, line(*i)))
+                parts.push_back(extentToTab(line(*i)));
+        }
+        const Interval column = columnAmong(rule, std::move(parts));
+        return std::isfinite(column.from) || std::isfinite(column.to)
+                   ? column
+                   : columnAmong(rule, extentsOf(from, m_lines.end()));
     }
 
-    Interval columnAmong(const Rule& rule, LineIterator from, LineIterator to) const {
-        std::vector<Interval> parts;
+    bool startsAt(const Rule& rule, const Line& text) const {
+        const double indent = text.isRightToLeft ? rule.to - text.box.right : text.box.left - rule.from;
+        return std::abs(indent) <= m_limits.largestIndent;
+    }
+
+    std::vector<Interval> extentsOf(LineIterator from, LineIterator to) const {
+        std::vector<Interval> extents;
         for (auto i = from; i != to; ++i)
-            parts.push_back({line(*i).box.left, line(*i).box.right});
+            extents.push_back({line(*i).box.left, line(*i).box.right});
+        return extents;
+    }
+
+    /// What stands behind a tabulator may be the line of another column.
+    static Interval extentToTab(const Line& text) {
+        Rect box = text.words.front().box;
+        for (std::size_t i = 1; i < text.words.size() && text.words[i].gapBefore != Gap::Tab; ++i)
+            box = box.united(text.words[i].box);
+        return {box.left, box.right};
+    }
+
+    Interval columnAmong(const Rule& rule, std::vector<Interval> parts) const {
         std::sort(parts.begin(), parts.end(), [](const Interval& a, const Interval& b) { return a.from < b.from; });
         const double narrowest = m_limits.narrowestColumn * m_page.width;
         Interval column{-std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
@@ -148,8 +208,14 @@ private:
         return column;
     }
 
-    /// Whether a table ends right above the notes, which are its own then.
+    /// Whether a table ends right above the notes, which are its own then. Numbered ones at the page's foot stand where
+    /// footnotes do, whose they may be.
     bool isBelowTable(const NoteArea& area) const {
+        const bool areNumbered = std::all_of(area.starts.begin(), area.starts.end(), [](const NoteStart& start) {
+            return start.mark.find_first_not_of("0123456789") == std::string::npos;
+        });
+        if (areNumbered && line(area.lines.back()).box.bottom >= m_limits.footReach * m_page.height)
+            return false;
         const Rect& first = line(area.lines.front()).box;
         return std::any_of(m_page.rules.begin(), m_page.rules.end(), [&](const Rule& rule) {
             return rule.direction == RuleDirection::Horizontal && rule.position <= area.top + rule.width &&
@@ -161,7 +227,10 @@ private:
     bool addLine(NoteArea& area, std::size_t index) const {
         const Line& added = line(index);
         const double footSize = m_limits.footSize * m_context.bodyFontSize;
-        const bool isSmall = !area.lines.empty() && line(area.lines.front()).fontSize <= footSize;
+        const auto first = std::find_if(area.lines.begin(), area.lines.end(), [&](std::size_t i) {
+            return !isLoneMark(line(i)); // which is smaller than the text of its note
+        });
+        const bool isSmall = first != area.lines.end() && line(*first).fontSize <= footSize;
         // Text of the body's size below smaller one is no note: what is small stands below a table or a picture.
         if (added.fontSize > (isSmall ? footSize : m_limits.largestSize * m_context.bodyFontSize))
             return false;
@@ -222,6 +291,11 @@ std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext&
 std::optional<NoteArea> notesAtFoot(const PageText& page, const DocumentContext& context,
                                     const StructureParameters::Notes& parameters) {
     return AreaFinder(page, context, parameters).foot();
+}
+
+std::optional<NoteArea> notesBelowGap(const PageText& page, const DocumentContext& context,
+                                      const StructureParameters::Notes& parameters) {
+    return AreaFinder(page, context, parameters).belowGap();
 }
 
 void startWith(NoteArea& area, std::size_t line, const PageText& page) {

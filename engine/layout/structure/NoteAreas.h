@@ -19,14 +19,14 @@ struct NoteStart {
 
 /// A part of a page that may hold notes: small text in one column, from a short rule down to the column's end.
 struct NoteArea {
-    std::optional<std::size_t> rule; ///< index of the rule above it into PageText::rules
-    double left = 0;                 ///< of the rule, or of the text
-    double top = 0;                  ///< likewise
-    std::vector<std::size_t> lines;  ///< indices into PageText::lines, top to bottom
-    std::vector<NoteStart> starts;   ///< likewise; empty where the area goes on with a note of the page before
+    std::optional<std::size_t> rule;   ///< index of the rule above it into PageText::rules
+    double left = 0;                   ///< of the rule, or of the text
+    double top = 0;                    ///< likewise
+    std::vector<std::size_t> lines;    ///< indices into PageText::lines, top to bottom
+    std::vector<NoteStart> starts;     ///< likewise; empty where the area goes on with a note of the page before
     std::vector<NoteStart> wordStarts; ///< lines that start with a letter or numeral which may be a word: "a", "i"
-    bool isInColumn = false;         ///< at the foot of one of several columns
-    bool hasRows = false;            ///< lines stand side by side
+    bool isInColumn = false;           ///< at the foot of one of several columns
+    bool hasRows = false;              ///< lines stand side by side
 };
 
 /// The areas below short rules, column by column from the left, those of a column from the top.
@@ -37,6 +37,11 @@ std::vector<NoteArea> findNoteAreas(const PageText& page, const DocumentContext&
 /// without one, or where lines stand side by side. No rule parts it from the text.
 std::optional<NoteArea> notesAtFoot(const PageText& page, const DocumentContext& context,
                                     const StructureParameters::Notes& parameters);
+
+/// The text at the foot of the page below a good line of space, if it starts with a raised mark; only such marks start
+/// its notes. It may be as large as the text above.
+std::optional<NoteArea> notesBelowGap(const PageText& page, const DocumentContext& context,
+                                      const StructureParameters::Notes& parameters);
 
 /// The whole page as one area, as endnotes stand that fill pages of their own; nullopt when it does not start with a
 /// raised mark, or holds larger text.

@@ -47,6 +47,8 @@ public:
                 takeWholePage(i, isTaken);
             if (m_lastPage != i)
                 takeFoot(i, isTaken);
+            if (m_lastPage != i)
+                takeBelowGap(i, isTaken);
             removeTaken(m_pages[i], isTaken);
         }
         settleNoteKinds(m_found.notes, lastTextPage());
@@ -73,7 +75,7 @@ private:
                                             (page.lines[i].words.size() > 1 || word.spans.size() > 1);
                     if (!isInArea[i] && isRaisedMark(span) && !startsText)
                         addReference({index, span.box, span.text, false, false});
-                    else if (!isInArea[i] && isLoneMark(page.lines[i], span))
+                    else if (!isInArea[i] && isLoneMark(page.lines[i], span) && !startsNextLine(page, i))
                         addReference({index, span.box, span.text, true, false});
                 }
     }
@@ -81,6 +83,12 @@ private:
     bool isLoneMark(const Line& line, const Span& span) const {
         return line.words.size() == 1 && line.words.front().spans.size() == 1 && isNoteMark(span.text) &&
                line.fontSize <= m_limits.loneMarkSize * m_context.bodyFontSize;
+    }
+
+    /// Whether the mark stands before the line that follows it, as marks stand before their notes.
+    static bool startsNextLine(const PageText& page, std::size_t mark) {
+        return mark + 1 < page.lines.size() && isMarkOf(page.lines[mark], page.lines[mark + 1]) &&
+               page.lines[mark + 1].box.left > page.lines[mark].box.left;
     }
 
     void addReference(Reference reference) {
@@ -197,6 +205,17 @@ private:
                 matched[start.line] = reference;
             }
         takeLines(page, *area, matched, isTaken);
+    }
+
+    /// Notes as large as the text, with no rule above them: the text above them refers to each with a raised mark.
+    void takeBelowGap(std::size_t page, std::vector<bool>& isTaken) {
+        const auto area = notesBelowGap(m_pages[page], m_context, m_limits);
+        const bool areNotes =
+            area && std::all_of(area->starts.begin(), area->starts.end(), [&](const NoteStart& start) {
+                return raisedReference(start.mark, page, area->top) != nullptr;
+            });
+        if (areNotes)
+            takeLines(page, *area, matchStarts(page, *area), isTaken);
     }
 
     /// The rule is drawn like the one above the last notes, and the text below it is of their size.

@@ -27,7 +27,7 @@ struct StructureParameters {
         double smallestColumnGap = 6.0; ///< points; between columns
         double widestColumnGap = 54.0;  ///< likewise, where no line shows that it ends at a column's edge
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
-        double lowStart = 12.0; ///< points; so far below the top margin no program starts a full page
+        double lowStart = 12.0;    ///< points; so far below the top margin no program starts a full page
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
         double floatRoom =
             0.1; ///< of the text's height; with so much room above no program began a page, but its author did
@@ -96,6 +96,8 @@ struct StructureParameters {
         double footSize = 0.92;       ///< of the body text's size; notes with no rule above them are smaller
         double loneMarkSize = 0.7;    ///< likewise; a mark on a line by itself, beside a picture for instance
         double twinEnds = 1.0;        ///< points; between the ends of the rules of one table
+        double largestIndent = 24.0;  ///< points; of the text of notes whose marks start where the rule does
+        double footReach = 0.85;      ///< of the page's height; what ends below stands at the page's foot
     } notes;
 };
 

@@ -2,6 +2,8 @@
 
 #include "layout/support/Stretches.h"
 
+#include <algorithm>
+
 namespace orvane::layout {
 namespace {
 
@@ -13,6 +15,26 @@ std::vector<Stretch> linesThatFollow(const ColumnPieces& column, const TablePara
         fontSize = std::max(fontSize, piece->fontSize);
     }
     return stretchesOf(std::move(baselines), parameters.proseLeading * fontSize);
+}
+
+/// Baselines of the texts of a row, from the top down.
+std::vector<double> baselinesOf(const PieceRow& row) {
+    std::vector<double> baselines;
+    for (const TextPiece& piece : row.pieces)
+        baselines.push_back(piece.baseline);
+    std::sort(baselines.begin(), baselines.end());
+    return baselines;
+}
+
+/// How many of the numbers, in order, lie within `reach` of each other at most.
+int mostWithin(double reach, const std::vector<double>& sorted) {
+    std::ptrdiff_t most = 0;
+    for (auto low = sorted.begin(), high = low; high != sorted.end(); ++high) {
+        while (*high - *low > reach)
+            ++low;
+        most = std::max(most, high - low + 1);
+    }
+    return static_cast<int>(most);
 }
 
 } // namespace
@@ -32,6 +54,7 @@ bool areListsSideBySide(std::span<const ColumnPieces> columns, const TableParame
 
 bool areOutOfStep(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     int level = 0, all = 0;
+    std::vector<double> drops; // from the text that stands highest to those that are level at the foot of their cells
     for (const PieceRow& row : rows) {
         const auto isComparable = [&](const TextPiece& piece) {
             return std::abs(piece.fontSize - row.pieces.front().fontSize) <= parameters.sameTextSize * row.fontSize;
@@ -39,12 +62,15 @@ bool areOutOfStep(std::span<const PieceRow> rows, const TableParameters::Tables&
         if (row.pieces.size() < 2 || !std::all_of(row.pieces.begin(), row.pieces.end(), isComparable))
             continue;
         ++all;
-        const auto [high, low] =
-            std::minmax_element(row.pieces.begin(), row.pieces.end(),
-                                [](const TextPiece& a, const TextPiece& b) { return a.baseline < b.baseline; });
-        level += low->baseline - high->baseline <= parameters.levelTexts * row.fontSize;
+        const std::vector<double> baselines = baselinesOf(row);
+        if (baselines.back() - baselines.front() <= parameters.levelTexts * row.fontSize)
+            ++level;
+        else if (baselines.size() > 2 && baselines.back() - baselines[1] <= parameters.sameBaseline)
+            drops.push_back(baselines.back() - baselines.front());
     }
-    return all >= parameters.fewestRowsInStep && level <= parameters.levelShare * all;
+    std::sort(drops.begin(), drops.end());
+    return all >= parameters.fewestRowsInStep && level <= parameters.levelShare * all &&
+           level + mostWithin(parameters.sameBaseline, drops) <= parameters.droppedShare * all;
 }
 
 } // namespace orvane::layout

@@ -91,6 +91,7 @@ struct TableParameters {
         double sameTextSize = 0.1;   ///< of the row's font size; texts of other sizes need not stand level
         double levelTexts = 0.25;    ///< of the font size; baselines that differ by no more are level
         double levelShare = 1.0 / 3; ///< of the rows that stand level; with no more it is no table
+        double droppedShare = 0.75;  ///< of the rows in which one text stands as far above the others, or level
         int fewestRowsInStep = 2;    ///< with texts of one size, to tell
 
         // Forms: boxes to fill in beside their labels.

@@ -62,6 +62,15 @@ TEST(Glyphs, TellWhetherTheyCanBeSeen) {
     EXPECT_EQ(page.glyphs[4].visibility, Visibility::Invisible);
 }
 
+TEST(Glyphs, AreCutOffWhereTheClipPathShowsNoInkOfThem) {
+    // The clip path ends 3 points above the baseline.
+    OpenedPdf pdf(PdfBuilder().page("q 0 503 200 50 re W n BT /F1 10 Tf 100 500 Td (x.) Tj ET Q"));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.glyphs.size(), 2u);
+    EXPECT_EQ(page.glyphs[0].visibility, Visibility::Visible);
+    EXPECT_EQ(page.glyphs[1].visibility, Visibility::ClippedAway) << "a dot is no higher than that";
+}
+
 TEST(Glyphs, TakeTheColourTheyArePaintedIn) {
     OpenedPdf pdf(PdfBuilder().page(
         "BT 1 0 0 rg 0 0 1 RG /F1 10 Tf 100 500 Td (a) Tj 1 Tr (b) Tj 2 Tr (c) Tj 1 0 0 RG (d) Tj ET"));

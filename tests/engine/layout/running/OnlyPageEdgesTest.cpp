@@ -87,5 +87,24 @@ TEST(OnlyPageEdges, TakesTheFootOfAPageThatIsMostlyBlankButNoNotes) {
     EXPECT_FALSE(hasFoot(true)) << "a note";
 }
 
+TEST(OnlyPageEdges, LeavesNotesInTheMarginOfASinglePage) {
+    const auto hasFoot = [](bool hasSeparator, bool isReferredTo) {
+        auto pages = pagesWith(1, [&](PageText& page, int) {
+            page.lines.push_back(makeLine("1", 72, 787, {.size = 5}));
+            page.lines.push_back(makeLine("In 1.4 this was otherwise.", 80, 790, {.size = 8}));
+            if (hasSeparator)
+                page.rules = {ruleAt(RuleDirection::Horizontal, 780, 72, 172)};
+            Word& word = page.lines[0].words.back();
+            word.spans.push_back(word.spans[0]);
+            word.spans.back().text = isReferredTo ? "1" : "2";
+            word.spans.back().look.verticalPosition = document::VerticalPosition::Superscript;
+        });
+        return takeRunningHeads(pages, {})[0].footer.has_value();
+    };
+    EXPECT_TRUE(hasFoot(false, false));
+    EXPECT_FALSE(hasFoot(true, false)) << "below a short rule";
+    EXPECT_FALSE(hasFoot(false, true)) << "the text refers to it";
+}
+
 } // namespace
 } // namespace orvane::layout

@@ -137,6 +137,13 @@ TEST(NoteFinder, LeavesTheNotesOfATable) {
     }
 }
 
+TEST(NoteFinder, TakesNumberedNotesBelowATableAtTheFoot) {
+    std::vector<PageText> pages{pageWithText(1, {"Left^1"})};
+    pages[0].rules = {noteRule(600), noteRule(720)};
+    pages[0].lines.push_back(makeNotedLine("^1 A note", 72, 735, 8));
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note\n") << "the table fills the page down to its notes";
+}
+
 TEST(NoteFinder, LeavesSmallTextAboveLarger) {
     std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
     addNotes(pages[0], {"^1 What a picture shows"});
@@ -159,7 +166,10 @@ TEST(NoteFinder, LeavesTextAtTheFootThatIsNoNote) {
         std::vector<Line> foot;
     };
     const Row kRows[] = {
-        {"it is as large as the text", {makeNotedLine("^1 A note", 72, 712, 10)}},
+        {"it is as large as the text, right below it", {makeNotedLine("^1 A note", 72, 128, 10)}},
+        {"its mark is not raised, and it is as large as the text", {makeNotedLine("1 An item", 72, 712, 10)}},
+        {"not all that it says are notes",
+         {makeNotedLine("^1 A note", 72, 712, 10), makeNotedLine("^2 Another", 72, 726, 10)}},
         {"nothing refers to it", {makeNotedLine("^2 A note", 72, 712, 8)}},
         {"text follows it", {makeNotedLine("^1 A note", 72, 712, 8), makeLine("more", 72, 730)}},
         {"it stands in columns", {makeNotedLine("^1 A cell", 72, 712, 8), makeNotedLine("another cell", 300, 712, 8)}}};
@@ -168,6 +178,14 @@ TEST(NoteFinder, LeavesTextAtTheFootThatIsNoNote) {
         pages[0].lines.insert(pages[0].lines.end(), row.foot.begin(), row.foot.end());
         EXPECT_EQ(notesOf(take(pages)), "") << row.why;
     }
+}
+
+TEST(NoteFinder, KnowsNotesAsLargeAsTheTextByTheSpaceAbove) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1 and", "another^2 word"})};
+    pages[0].lines.push_back(makeNotedLine("^1 The first", 72, 712));
+    pages[0].lines.push_back(makeNotedLine("of 20 lines", 72, 726));
+    pages[0].lines.push_back(makeNotedLine("^2 The second", 72, 740));
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 The first of 20 lines\nfoot 2@1: 2 The second\n");
 }
 
 TEST(NoteFinder, KnowsAMarkThatStandsAlone) {
@@ -216,6 +234,20 @@ TEST(NoteFinder, PutsAMarkThatStandsAsALineToItsText) {
     EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 Set apart\n");
 }
 
+TEST(NoteFinder, TakesNotesAsLargeAsTheTextWhoseMarksStandApart) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"})};
+    addNotes(pages[0], {});
+    pages[0].lines.push_back(makeLine("1", 72, 709, {.size = 5}));
+    pages[0].lines.push_back(makeLine("Set apart", 90, 712, {.size = 10}));
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 Set apart\n") << "the mark does not tell the size of the note";
+}
+
+TEST(NoteFinder, TakesEndnotesWhoseMarksStandApart) {
+    std::vector<PageText> pages{pageWithText(1, {"a word^1"}), makePage(2)};
+    pages[1].lines = {makeLine("1", 72, 77, {.size = 5}), makeLine("At the end", 90, 80)};
+    EXPECT_EQ(notesOf(take(pages)), "end 1@1: 1 At the end\n") << "no mark refers to itself";
+}
+
 TEST(NoteFinder, TakesEndnotesWithoutARule) {
     std::vector<PageText> pages{pageWithText(1, {"a word^i and", "another^ii word"}), makePage(2)};
     pages[1].lines = {makeNotedLine("^i First", 72, 80), makeNotedLine("^ii Second", 72, 94)};
@@ -242,6 +274,19 @@ TEST(NoteFinder, LeavesTheOtherColumnAlone) {
     addNotes(pages[0], {"^1 A note of the left column"});
     EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note of the left column\n");
     EXPECT_EQ(pages[0].lines.size(), 76u);
+}
+
+TEST(NoteFinder, LeadsAcrossTheColumnsOfATableAbove) {
+    std::vector<PageText> pages{makePage(1)};
+    for (int i = 0; i < 8; ++i)
+        for (const double left : {72.0, 200.0, 330.0})
+            pages[0].lines.push_back(makeLine("what is in a cell", left, 590 + 14 * i));
+    pages[0].lines[0] = makeNotedLine("what is in^1", 72, 590);
+    addNotes(pages[0],
+             {"^1 A note that is as wide as all of the columns of the table that stands above it", "and ends soon"});
+    ASSERT_GT(pages[0].lines[24].box.right, 330) << "across";
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note that is as wide as all of the columns of the table that stands "
+                                    "above it and ends soon\n");
 }
 
 TEST(NoteFinder, GoesOnInTheNextColumn) {
