@@ -165,6 +165,111 @@ char32_t find(const std::array<Sign, N>& signs, std::uint8_t code) {
     return sign == signs.end() ? 0 : sign->character;
 }
 
+// What the signs of OpenSymbol that LibreOffice's formulas use look like.
+constexpr char32_t kFirstOpenSymbol = 0xE080;
+constexpr std::array<char16_t, 94> kOpenSymbol{
+    // E080
+    0x2030,
+    0x23DF,
+    0x23DE,
+    u'+',
+    u'<',
+    u'>',
+    0x2A7D,
+    0x2A7E,
+    0,
+    0x2208,
+    0x0192,
+    0x2026,
+    0x2192,
+    0x221A,
+    0x221A,
+    0x221A,
+    // E090
+    0x2016,
+    0x02C6,
+    0x02C7,
+    0x02D8,
+    0x00B4,
+    0x0060,
+    0x02DC,
+    0x00AF,
+    0x20D7,
+    0,
+    0,
+    0x20DB,
+    0,
+    0,
+    u'(',
+    u')',
+    // E0A0
+    0x2221,
+    0x2259,
+    0,
+    0,
+    0,
+    0x0237,
+    0x2032,
+    u'|',
+    u'/',
+    u'\\',
+    0x2751,
+    u'|',
+    0x0393,
+    0x0394,
+    0x0398,
+    0x039B,
+    // E0B0
+    0x039E,
+    0x03A0,
+    0x03A3,
+    0x03A5,
+    0x03A6,
+    0x03A8,
+    0x03A9,
+    0x03B1,
+    0x03B2,
+    0x03B3,
+    0x03B4,
+    0x03F5,
+    0x03B6,
+    0x03B7,
+    0x03B8,
+    0x03B9,
+    // E0C0
+    0x03BA,
+    0x03BB,
+    0x03BC,
+    0x03BD,
+    0x03BE,
+    0x03BF,
+    0x03C0,
+    0x03C1,
+    0x03C3,
+    0x03C4,
+    0x03C5,
+    0x03D5,
+    0x03C7,
+    0x03C8,
+    0x03C9,
+    0x03B5,
+    // E0D0
+    0x03D1,
+    0x03D6,
+    0,
+    0x03C2,
+    0x03C6,
+    0x2202,
+    0x0131,
+    0,
+    0,
+    0x22A4,
+    0,
+    0x2190,
+    0x2191,
+    0x2193,
+};
+
 } // namespace
 
 std::optional<SymbolFont> symbolFontOf(std::string_view name) {
@@ -195,6 +300,11 @@ std::optional<SymbolFont> symbolFontOf(std::string_view name) {
     };
     const auto entry = std::find_if(kNames.begin(), kNames.end(), [&](const Name& n) { return n.letters == letters; });
     return entry == kNames.end() ? std::nullopt : std::optional(entry->font);
+}
+
+char32_t openSymbolCharacter(char32_t code) {
+    const bool isSign = code >= kFirstOpenSymbol && code < kFirstOpenSymbol + kOpenSymbol.size();
+    return isSign ? kOpenSymbol[code - kFirstOpenSymbol] : 0;
 }
 
 char32_t symbolCharacter(SymbolFont font, std::uint8_t code) {

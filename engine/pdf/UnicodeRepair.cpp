@@ -245,10 +245,12 @@ private:
         if (given.size() == 1) {
             if (const char32_t today = characterOfAdobePrivateUse(given[0]))
                 return std::u32string(1, today);
+            const bool isOpenSymbol = m_facts.name.starts_with("OpenSymbol");
+            if (const char32_t sign = isOpenSymbol ? openSymbolCharacter(given[0]) : 0)
+                return std::u32string(1, sign);
             if (given[0] >= 0xF020 && given[0] < 0xF100) {
                 const auto low = static_cast<std::uint8_t>(given[0] & 0xFF);
-                return m_facts.name.starts_with("OpenSymbol") ? fromStandIn(low, givenCode(m_font, code).advance)
-                                                              : fromPrivateDouble(low);
+                return isOpenSymbol ? fromStandIn(low, givenCode(m_font, code).advance) : fromPrivateDouble(low);
             }
         }
         if (!hasNames)

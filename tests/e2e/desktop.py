@@ -89,7 +89,7 @@ class Desktop:
         with open(display, "w") as number:
             self._screen = subprocess.Popen(
                 ["Xvfb", "-displayfd", str(number.fileno()), "-screen", "0", "1600x1000x24", "-nolisten", "tcp"],
-                pass_fds=[number.fileno()], stderr=subprocess.DEVNULL)
+                pass_fds=[number.fileno()], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_for("a screen", lambda: display.read_text().strip())
         self.environment = {key: value for key, value in os.environ.items() if not key.startswith("QT_")}
         self.environment.update(DISPLAY=":" + display.read_text().strip(), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")

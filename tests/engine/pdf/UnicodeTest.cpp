@@ -151,6 +151,12 @@ TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
         << "of Wingdings, of ZapfDingbats, of Symbol, and as the map says";
 }
 
+TEST(Unicode, OfACodeThatIsOpenSymbolsOwnIsTheSignOfFormulas) {
+    const std::string map = "<41> <E083> <42> <E09E> <43> <E0B7> <44> <E0CE> <45> <E0DC>\n";
+    EXPECT_EQ(signsOf("OpenSymbol", map), "+(αω↑");
+    EXPECT_EQ(signsOf("AnotherFont", map).find("+("), std::string::npos);
+}
+
 TEST(Unicode, OfANarrowSignWhereOthersHavePicturesIsThatOfSymbol) {
     const std::string map = "<41> <F02A> <42> <F028> <43> <F029> <44> <F02B> <45> <F02D>\n";
     EXPECT_EQ(signsOf("OpenSymbol", map, "507"), "\u2217()+\u2212");
