@@ -143,6 +143,12 @@ void GlyphReader::noteSpaceWidth(const Glyph& glyph) {
     m_hasSpaceWidth[glyph.font] = true;
 }
 
+bool GlyphReader::goesOnFromVisible(const Glyph& glyph) const {
+    constexpr double kSameBaseline = 0.1;
+    return !m_page.glyphs.empty() && m_page.glyphs.back().visibility == Visibility::Visible &&
+           std::abs(m_page.glyphs.back().origin.y - glyph.origin.y) <= kSameBaseline;
+}
+
 void GlyphReader::read(const GfxState& state, const ShownCharacter& character, std::int32_t mark,
                        std::uint32_t paintOrder) {
     const std::shared_ptr<GfxFont>& font = state.getFont();
@@ -174,7 +180,8 @@ void GlyphReader::read(const GfxState& state, const ShownCharacter& character, s
     glyph.origin = character.toPage.apply({character.x, character.y});
     const Point advance = ownAdvance(state, character, facts.isVertical);
     glyph.advance = std::hypot(advance.x, advance.y);
-    Rect inked; // what of the box can bear ink
+    // What of the box can bear ink. The full stop of a line that shows in part belongs to it whatever shows of itself.
+    Rect inked;
     if (facts.isVertical) {
         const Point half{frame.along.x * frame.size / 2, frame.along.y * frame.size / 2};
         inked = glyph.box =
@@ -184,7 +191,7 @@ void GlyphReader::read(const GfxState& state, const ShownCharacter& character, s
             return boxAround(glyph.origin, advance, frame.up, -facts.descent * frame.size, reach * frame.size);
         };
         glyph.box = boxUpTo(facts.ascent);
-        inked = boxUpTo(reachAboveBaseline(glyph.unicode, facts.ascent));
+        inked = goesOnFromVisible(glyph) ? glyph.box : boxUpTo(reachAboveBaseline(glyph.unicode, facts.ascent));
     }
     if (!std::isfinite(glyph.box.left + glyph.box.right + glyph.box.top + glyph.box.bottom))
         return;

@@ -53,6 +53,8 @@ private:
         }
     };
     std::uint32_t fontIndex(const std::shared_ptr<GfxFont>& font, bool isSlanted);
+    /// Whether the glyph read last stands on the same baseline and shows.
+    bool goesOnFromVisible(const Glyph& glyph) const;
     void noteSpaceWidth(const Glyph& glyph);
 
     PageContent& m_page;

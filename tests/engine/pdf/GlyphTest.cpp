@@ -64,11 +64,13 @@ TEST(Glyphs, TellWhetherTheyCanBeSeen) {
 
 TEST(Glyphs, AreCutOffWhereTheClipPathShowsNoInkOfThem) {
     // The clip path ends 3 points above the baseline.
-    OpenedPdf pdf(PdfBuilder().page("q 0 503 200 50 re W n BT /F1 10 Tf 100 500 Td (x.) Tj ET Q"));
+    OpenedPdf pdf(PdfBuilder().page(
+        "q 0 503 200 50 re W n BT /F1 10 Tf 100 500 Td (.) Tj ET BT /F1 10 Tf 150 500 Td (x.) Tj ET Q"));
     const PageContent page = pdf.page();
-    ASSERT_EQ(page.glyphs.size(), 2u);
-    EXPECT_EQ(page.glyphs[0].visibility, Visibility::Visible);
-    EXPECT_EQ(page.glyphs[1].visibility, Visibility::ClippedAway) << "a dot is no higher than that";
+    ASSERT_EQ(page.glyphs.size(), 3u);
+    EXPECT_EQ(page.glyphs[0].visibility, Visibility::ClippedAway) << "a dot is no higher than that";
+    EXPECT_EQ(page.glyphs[1].visibility, Visibility::Visible);
+    EXPECT_EQ(page.glyphs[2].visibility, Visibility::Visible) << "it ends what shows in part";
 }
 
 TEST(Glyphs, TakeTheColourTheyArePaintedIn) {
@@ -113,8 +115,8 @@ TEST(Glyphs, ShareABlankNoWiderThanTheirLettersTell) {
         const int font = builder.add("<< /Type /Font /Subtype /Type1 /BaseFont /Somebody /FirstChar 32 /LastChar 122 "
                                      "/Encoding << /Type /Encoding /Differences [97 /a /b] >> /Widths [" +
                                      widths + "] >>");
-        OpenedPdf pdf(
-            builder.page(tests::PdfPage{"BT /E1 10 Tf 50 500 Td (ab) Tj ET", 612, 792, {}, {}, "/E1 " + tests::pdfRef(font)}));
+        OpenedPdf pdf(builder.page(
+            tests::PdfPage{"BT /E1 10 Tf 50 500 Td (ab) Tj ET", 612, 792, {}, {}, "/E1 " + tests::pdfRef(font)}));
         const PageContent page = pdf.page();
         EXPECT_NEAR(page.fonts.at(0).spaceWidth, row.expected, 1e-6)
             << "a typesetter's font has another sign where encodings have the blank";
