@@ -11,20 +11,30 @@ using tests::makeBlock;
 using tests::makeLine;
 using tests::makeParagraph;
 
-/// Whether text makes way for a picture that floats there beside a line of it from `left` to 523 points.
-bool isOverlaid(const Rect& picture, double left) {
+/// A picture that floats there beside a line of text that starts at `left`, after a look whether that makes way for it.
+FigureDraft floatBeside(const Rect& picture, double left, bool isForeground = false) {
     DocumentDraft draft = tests::makeDraft(1);
     draft.blocks.push_back(tests::makePictureBlock(picture));
-    std::get<FigureDraft>(draft.blocks.back().value).isInline = false;
+    auto& figure = std::get<FigureDraft>(draft.blocks.back().value);
+    figure.isInline = false;
+    figure.figure.isForeground = isForeground;
     Line line = makeLine("some words", left, 200);
     draft.blocks.push_back(makeBlock(makeParagraph({line})));
     findOverlaidFigures(draft, 0, draft.blocks.size(), {});
-    return std::get<FigureDraft>(draft.blocks.front().value).isOverlaid;
+    return std::get<FigureDraft>(draft.blocks.front().value);
 }
 
-TEST(FloatOverlays, FindFiguresThatTextStandsOn) {
-    EXPECT_TRUE(isOverlaid({100, 150, 400, 300}, 200));
-    EXPECT_FALSE(isOverlaid({100, 220, 400, 300}, 200)) << "it stands above";
+bool isOverlaid(const Rect& picture, double left) {
+    return floatBeside(picture, left).isOverlaid;
+}
+
+TEST(FloatOverlays, PutFiguresBehindTextThatStandsOnThem) {
+    const FigureDraft below = floatBeside({100, 150, 400, 300}, 200);
+    EXPECT_TRUE(below.figure.isBackground) << "text that can be seen is not hidden";
+    EXPECT_FALSE(below.isOverlaid);
+    EXPECT_FALSE(floatBeside({100, 220, 400, 300}, 200).figure.isBackground) << "the text stands above";
+    EXPECT_FALSE(floatBeside({72, 150, 480, 300}, 490).figure.isBackground) << "the text stands beside it";
+    EXPECT_TRUE(floatBeside({100, 150, 400, 300}, 200, true).isOverlaid) << "it was painted over the text";
 }
 
 TEST(FloatOverlays, FindFiguresWithoutRoomForTextBesideThem) {
