@@ -161,9 +161,13 @@ private:
     void uniteOverlapping() {
         std::stable_sort(m_drawings.begin(), m_drawings.end(),
                          [](const Figure& a, const Figure& b) { return a.box.area() > b.box.area(); });
+        // Those over the page, which come first, take in no other; there may be thousands.
+        const auto pageWide = std::count_if(m_drawings.begin(), m_drawings.end(),
+                                            [&](const Figure& drawing) { return isPageWide(drawing.box); });
         std::vector<Figure> united;
         for (Figure& drawing : m_drawings) {
-            const auto host = std::find_if(united.begin(), united.end(), [&](const Figure& other) {
+            const auto first = united.begin() + std::min<std::ptrdiff_t>(pageWide, std::ssize(united));
+            const auto host = std::find_if(first, united.end(), [&](const Figure& other) {
                 return !isPageWide(other.box) &&
                        other.box.intersected(drawing.box).area() >= m_limits.overlapShare * drawing.box.area();
             });

@@ -131,12 +131,13 @@ void takeOver(Figure& host, const Figure& other) {
 void uniteWithDrawings(std::vector<Figure>& pictures, const std::vector<Figure>& drawings, double overlapShare) {
     for (const Figure& drawing : drawings) {
         Figure united = drawing;
-        std::erase_if(pictures, [&](const Figure& other) {
-            if (!overlap(other, drawing, overlapShare))
-                return false;
-            takeOver(united, other);
-            return true;
-        });
+        if (!drawing.isBackground) // of which there may be thousands
+            std::erase_if(pictures, [&](const Figure& other) {
+                if (!overlap(other, drawing, overlapShare))
+                    return false;
+                takeOver(united, other);
+                return true;
+            });
         pictures.push_back(std::move(united));
     }
 }

@@ -39,8 +39,8 @@ public:
     std::optional<ShapedDrawing> make() {
         if (hasPicture())
             return std::nullopt;
-        for (std::size_t i = 0; i < m_page.paths.size(); ++i)
-            if (isPainted(m_page.paths[i]) && isPart(i) && !add(m_page.paths[i]))
+        for (const std::size_t i : parts())
+            if (isPainted(m_page.paths[i]) && !add(m_page.paths[i]))
                 return std::nullopt;
         if (m_drawing.shapes.empty())
             return std::nullopt;
@@ -57,10 +57,21 @@ public:
 
 private:
     /// The rules and grounds within a drawing are part of it; those over a background belong to the text there.
-    bool isPart(std::size_t path) const {
-        if (m_source.isBackground)
-            return std::find(m_source.paths.begin(), m_source.paths.end(), path) != m_source.paths.end();
-        const pdf::Path& candidate = m_page.paths[path];
+    std::vector<std::size_t> parts() const {
+        std::vector<std::size_t> parts;
+        if (m_source.isBackground) {
+            parts = m_source.paths;
+            std::sort(parts.begin(), parts.end());
+            parts.erase(std::unique(parts.begin(), parts.end()), parts.end());
+            return parts;
+        }
+        for (std::size_t i = 0; i < m_page.paths.size(); ++i)
+            if (isWithin(m_page.paths[i]))
+                parts.push_back(i);
+        return parts;
+    }
+
+    bool isWithin(const pdf::Path& candidate) const {
         const Rect seen = candidate.box.intersected(candidate.clip);
         return seen.left <= seen.right && seen.top <= seen.bottom && m_reach.contains(seen);
     }

@@ -78,6 +78,13 @@ TEST(PageOfPaths, TakesLittleTimeAsAFormOfBoxesToTick) {
     EXPECT_LT(secondsFor(page), kMostSeconds) << "4,800 boxes";
 }
 
+TEST(PageOfPaths, TakesLittleTimeAsCurvesThatEachGoOverThePage) {
+    PageContentBuilder page;
+    for (int i = 0; i < 20000; ++i)
+        page.disk({300 + (i * 37) % 100 * 0.1, 400 + (i * 53) % 100 * 0.1}, 270 + (i * 91) % 100 * 0.1);
+    EXPECT_LT(secondsFor(page), kMostSeconds);
+}
+
 TEST(PageOfPaths, TakesLittleTimeAsBoxesWithTextsAnywhere) {
     PageContentBuilder page(2000, 2000);
     std::minstd_rand random(7);
