@@ -76,12 +76,12 @@ private:
     void tieRules() {
         for (std::size_t r = 0; r < m_rules.size(); ++r) {
             const Rule& rule = m_rules[r];
-            if (rule.direction != RuleDirection::Horizontal || meetsUpright(rule))
+            if (rule.direction != RuleDirection::Horizontal)
                 continue;
             std::vector<std::size_t> above, below;
             for (const std::size_t member : m_members)
                 addToSide(rule, member, above, below);
-            if (below.empty() || (above.empty() && !isBarOver(rule, below)))
+            if (below.empty() || (above.empty() && !isBarOver(rule, below)) || meetsUpright(rule))
                 continue;
             for (const auto* side : {&above, &below})
                 for (const std::size_t member : *side)

@@ -85,6 +85,18 @@ TEST(PageOfPaths, TakesLittleTimeAsCurvesThatEachGoOverThePage) {
     EXPECT_LT(secondsFor(page), kMostSeconds);
 }
 
+TEST(PageOfPaths, TakesLittleTimeAsSmallBoxesAnywhere) {
+    PageContentBuilder page(2000, 2000);
+    std::minstd_rand random(7);
+    for (int i = 0; i < 20000; ++i) {
+        const double x = random() % 19900 / 10.0, y = random() % 19900 / 10.0;
+        page.strokedRectangle({x, y, x + 5, y + 4});
+    }
+    const std::clock_t start = std::clock();
+    read(page);
+    EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 0.75);
+}
+
 TEST(PageOfPaths, TakesLittleTimeAsBoxesWithTextsAnywhere) {
     PageContentBuilder page(2000, 2000);
     std::minstd_rand random(7);
