@@ -27,10 +27,10 @@ constexpr std::chrono::seconds kTimeBudget{30};
 
 // Rows of pixels that edges go through. A page that so many lines cross is covered several times over; the first
 // million takes a tenth of a second, one without smooth edges a quarter of that, hairlines far less.
-constexpr double kSmoothRows = 6e6; ///< edges behind them are not smooth
-constexpr double kWideRows = 16e6;  ///< thin lines behind them are hairlines
+constexpr double kSmoothRows = 5e6; ///< edges behind them are not smooth
+constexpr double kWideRows = 10e6;  ///< thin lines behind them are hairlines
 constexpr double kThinLine = 1;     ///< points
-constexpr double kRowsOfCurve = 2;  ///< a curve takes the time of so many lines along its control points
+constexpr double kRowsOfCurve = 3;  ///< a curve takes the time of so many lines along its control points
 
 /// Pixels a point for this resolution, or for what the largest picture allows.
 double scaleOf(const Rect& region, double dotsPerInch) {

@@ -26,6 +26,18 @@ std::string linesWithin(const Rect& box, int count) {
     return content;
 }
 
+/// Curves from anywhere to anywhere on the page.
+std::string curvesOnPage(int count) {
+    std::minstd_rand random(7);
+    const auto somewhere = [&] {
+        return std::to_string(20 + random() % 570) + " " + std::to_string(20 + random() % 750) + " ";
+    };
+    std::string content;
+    for (int i = 0; i < count; ++i)
+        content += somewhere() + "m " + somewhere() + somewhere() + somewhere() + "c S\n";
+    return content;
+}
+
 /// The picture of a region of the first page at 200 dots an inch.
 Pixels paint(OpenedPdf& pdf, const Rect& region) {
     return readPng(pdf.document().renderRegion(1, region, 200, PaintedText::Shown, pdf.diagnostics())->bytes);
@@ -60,6 +72,15 @@ TEST(Rendering, TakesLittleTimeForAPageThatThousandsOfLinesCross) {
     EXPECT_EQ(paint(pdf, {0, 0, 612, 792}).at(850, 1100), "000000FF");
     EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 4);
     EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 1);
+}
+
+TEST(Rendering, CountsACurveAsTheManyLinesThatItIsPaintedAs) {
+    OpenedPdf curves(PdfBuilder().page(curvesOnPage(700)));
+    paint(curves, {0, 0, 612, 792});
+    EXPECT_EQ(curves.count(DiagnosticKind::DrawingSimplified), 1);
+    OpenedPdf lines(PdfBuilder().page(linesWithin({20, 20, 590, 770}, 3 * 700)));
+    EXPECT_TRUE(isSmooth(paint(lines, {0, 0, 612, 792})));
+    EXPECT_EQ(lines.count(DiagnosticKind::DrawingSimplified), 0);
 }
 
 TEST(Rendering, KeepsEdgesSmoothWhereFewLinesCross) {
