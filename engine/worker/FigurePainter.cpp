@@ -28,9 +28,10 @@ double resolutionFor(const Rect& box) {
     return pixels <= kMaxPixels ? kResolution : kResolution * std::sqrt(kMaxPixels / pixels);
 }
 
-// So many parts of a page are painted in one go through its content, which may be long: thousands of small drawings
-// between thousands of others.
+// So many parts of a page, or parts over each other, are painted in one go through its content, which may be long:
+// thousands of small drawings between thousands of others.
 constexpr std::size_t kFewestInOneGo = 8;
+constexpr double kOverlaid = 1.5; ///< of the box around parts: their areas together, where they lie over each other
 
 /// What is painted of a page.
 struct Wanted {
@@ -64,16 +65,19 @@ public:
 private:
     /// Paints parts that share their resolution.
     void paintBatch(std::span<Wanted*> batch) {
-        if (batch.size() < kFewestInOneGo) {
-            for (Wanted* one : batch)
-                paintOne(*one);
-            return;
-        }
         Rect all;
+        double area = 0;
         std::vector<Rect> boxes;
         for (const Wanted* one : batch) {
             all = all.united(one->box);
+            area += one->box.area();
             boxes.push_back(one->box);
+        }
+        const bool lieOverEachOther = area > kOverlaid * all.area();
+        if (batch.size() < kFewestInOneGo && !lieOverEachOther) {
+            for (Wanted* one : batch)
+                paintOne(*one);
+            return;
         }
         const double resolution = resolutionFor(batch.front()->box);
         if (resolutionFor(all) < resolution) {

@@ -58,6 +58,22 @@ TEST(FigurePainter, TakesLittleTimeForManyDrawingsOnAFullPage) {
     EXPECT_EQ(page.text.figures.back().picture.value, 0u) << "beyond the page";
 }
 
+TEST(FigurePainter, TakesLittleTimeForAFewDrawingsOverEachOther) {
+    std::string content;
+    for (int i = 0; i < 6000; ++i)
+        content += std::to_string(20 + i * 37 % 560) + " " + std::to_string(20 + i * 91 % 750) + " m " +
+                   std::to_string(20 + i * 53 % 560) + " " + std::to_string(20 + i * 29 % 750) + " l S\n";
+    std::vector<layout::Figure> figures;
+    for (int i = 0; i < 7; ++i)
+        figures.push_back(drawingAt({10.0 + i, 10, 600, 780}));
+    const std::clock_t start = std::clock();
+    const PaintedPage page(tests::PdfBuilder().page(content + "1 0 0 rg 100 100 50 50 re f"), figures);
+    EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 3)
+        << "the page's content is gone through once";
+    for (std::size_t i = 0; i < figures.size(); ++i)
+        EXPECT_EQ(page.seen(i).at(300, 1850), "FF0000FF") << i;
+}
+
 TEST(FigurePainter, PaintsDrawingsOfAPosterInParts) {
     tests::PdfPage poster{"1 0 0 rg 0 0 100 100 re f 0 0 1 rg 1400 1400 100 100 re f", 1500, 1500, "", {}, {}};
     std::vector<layout::Figure> figures;
