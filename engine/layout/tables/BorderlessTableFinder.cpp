@@ -10,6 +10,7 @@
 #include "layout/tables/TableCaption.h"
 
 #include <algorithm>
+#include <span>
 
 namespace orvane::layout {
 namespace {
@@ -66,27 +67,34 @@ public:
                  const TableParameters::Tables& parameters)
         : m_rows(rows)
         , m_lines(lines)
-        , m_parameters(parameters) {}
+        , m_parameters(parameters)
+        , m_gapsAt(rows.size()) {}
 
     /// One past the last row of the region that starts at `first`, texts that may go on from it included; `first` when
     /// there is none.
     std::size_t grow(std::size_t first) {
         if (!isMulti(first))
             return first;
-        m_region = {m_rows[first]};
+        m_first = m_fullest = first;
         m_gaps.clear();
         m_leastSpace = 1e9;
         m_lastFull = m_rows[first].pieces.size();
+        m_agreeing = m_knownEnd = 0;
         std::size_t end = first;
         for (std::size_t i = first + 1; i < m_rows.size() && isNear(i) && !isTableCaption(m_rows[i], m_lines); ++i) {
             if (isMulti(i) ? !takeMulti(i) : !takeSingle(i))
                 break;
             end = i + 1;
         }
+        m_lastEnd = end;
         return m_gaps.empty() ? first : end;
     }
 
 private:
+    /// Rows in turn with the gaps of the region before, from which on these are only looked at here and there: more
+    /// than most pages have.
+    static constexpr std::size_t kSettledRows = 32;
+
     bool isMulti(std::size_t i) const { return m_rows[i].pieces.size() >= 2; }
 
     /// Whether the space above the row is no larger than between rows of one table.
@@ -108,9 +116,7 @@ private:
 
     /// Whether each of several texts stands above or below one of its own of the fullest row before, and no other.
     bool keepsColumns(const PieceRow& row) const {
-        const PieceRow& fullest =
-            *std::max_element(m_region.begin(), m_region.end(),
-                              [](const PieceRow& a, const PieceRow& b) { return a.pieces.size() < b.pieces.size(); });
+        const PieceRow& fullest = m_rows[m_fullest];
         if (row.pieces.size() < m_parameters.alignedRow || fullest.pieces.size() < m_parameters.fullRow)
             return false;
         std::size_t last = fullest.pieces.size();
@@ -127,16 +133,47 @@ private:
 
     /// A row with several pieces joins while the columns stay.
     bool takeMulti(std::size_t i) {
-        m_region.push_back(m_rows[i]);
-        std::vector<ColumnGap> gaps = findColumnGaps(m_region, m_parameters);
+        std::vector<ColumnGap> gaps = gapsWith(i);
         if (gaps.empty() ||
-            static_cast<double>(gaps.size()) < m_parameters.keptGapShare * static_cast<double>(m_gaps.size())) {
-            m_region.pop_back();
+            static_cast<double>(gaps.size()) < m_parameters.keptGapShare * static_cast<double>(m_gaps.size()))
             return false;
-        }
         m_gaps = std::move(gaps);
+        m_gapsAt[i] = m_gaps;
         m_lastFull = m_rows[i].pieces.size();
+        if (m_lastFull > m_rows[m_fullest].pieces.size())
+            m_fullest = i;
         return true;
+    }
+
+    /// The gaps of the region down to row `i`.
+    std::vector<ColumnGap> gapsWith(std::size_t i) {
+        if (i < m_knownEnd)
+            return m_gapsAt[i];
+        std::vector<ColumnGap> gaps = findGapsTo(i);
+        m_agreeing = isAsBefore(i, gaps) ? m_agreeing + 1 : 0;
+        if (m_agreeing >= kSettledRows)
+            lookAhead(i);
+        return gaps;
+    }
+
+    /// A region of many rows that was no table is grown again from the next of them. Where it has long had the gaps
+    /// that it had before, and has them again as far below, it has them between, too.
+    void lookAhead(std::size_t i) {
+        std::size_t ahead = std::min(i + m_agreeing, m_lastEnd - 1);
+        while (!isMulti(ahead))
+            --ahead;
+        if (ahead > i && isAsBefore(ahead, findGapsTo(ahead))) {
+            m_agreeing += ahead - i;
+            m_knownEnd = ahead + 1;
+        }
+    }
+
+    bool isAsBefore(std::size_t i, const std::vector<ColumnGap>& gaps) const {
+        return i < m_lastEnd && gaps == m_gapsAt[i];
+    }
+
+    std::vector<ColumnGap> findGapsTo(std::size_t i) const {
+        return findColumnGaps(std::span(m_rows).subspan(m_first, i + 1 - m_first), m_parameters);
     }
 
     /// A row with one piece joins within a column, or as a heading over several if a row of the table follows: one in
@@ -146,19 +183,22 @@ private:
         const bool isWithin = range.first == range.last;
         if ((1 - m_parameters.rowSnap) * m_rows[i].fontSize > m_rows[i - 1].fontSize)
             return false;
-        if (!isWithin && (i + 1 >= m_rows.size() || !isMulti(i + 1) || !isMulti(i - 1)))
-            return false;
-        m_region.push_back(m_rows[i]);
-        return true;
+        return isWithin || (i + 1 < m_rows.size() && isMulti(i + 1) && isMulti(i - 1));
     }
 
     const std::vector<PieceRow>& m_rows;
     const std::vector<Line>& m_lines;
     const TableParameters::Tables& m_parameters;
-    std::vector<PieceRow> m_region;
+    std::size_t m_first = 0;   ///< row of the region
+    std::size_t m_fullest = 0; ///< the first row with most pieces
     std::vector<ColumnGap> m_gaps;
     double m_leastSpace = 1e9;
     std::size_t m_lastFull = 0; ///< pieces in the last row that has several
+    // Of the regions grown before:
+    std::vector<std::vector<ColumnGap>> m_gapsAt; ///< down to each row, of the last one with it
+    std::size_t m_lastEnd = 0;                    ///< one past the last row of the last one
+    std::size_t m_agreeing = 0;                   ///< rows in turn at which the gaps were as before
+    std::size_t m_knownEnd = 0;                   ///< the gaps are as before up to this row
 };
 
 /// The first line of the head whose last line is row `first`; the rows before `used` belong to another table.

@@ -86,11 +86,11 @@ private:
 
     /// The gap behind numbers that end, or have their middle, at one place.
     std::optional<ColumnGap> gapOf(std::span<const NumberPair> pairs, NumberEdges edges) const {
-        if (edges == NumberEdges::Middles && !areCentred(pairs))
+        const bool hasNarrow = std::ranges::any_of(pairs, [](const NumberPair& pair) { return pair.isNarrow; });
+        if (!hasNarrow || (edges == NumberEdges::Middles && !areCentred(pairs)))
             return std::nullopt;
         std::set<std::size_t> rows;
         ColumnGap gap{pairs.front().left.right, pairs.front().right.left};
-        std::size_t narrow = 0;
         std::size_t thousands = 0;
         double shortest = std::numeric_limits<double>::infinity();
         double longest = 0;
@@ -100,13 +100,12 @@ private:
             rows.insert(pair.row);
             gap.left = std::max(gap.left, pair.left.right);
             gap.right = std::min(gap.right, pair.right.left);
-            narrow += pair.isNarrow;
             thousands += pair.isThousands;
         }
         // A date and its time are of one length, too.
         const bool areUneven = longest - shortest > m_parameters.unevenTexts * m_rows.front().fontSize;
         const bool showsColumns = (areUneven || areHeaded(pairs)) &&
-                                  static_cast<int>(rows.size()) > m_parameters.fewestPartedRows && narrow > 0 &&
+                                  static_cast<int>(rows.size()) > m_parameters.fewestPartedRows &&
                                   2 * thousands < pairs.size() && gap.width() > 0;
         return showsColumns && !isCrossed(gap) ? std::optional(gap) : std::nullopt;
     }

@@ -11,6 +11,7 @@ struct ColumnGap {
 
     double middle() const { return (left + right) / 2; }
     double width() const { return right - left; }
+    bool operator==(const ColumnGap&) const = default;
 };
 
 /// The gaps that part the pieces of `rows` into columns, left to right. Few rows may cross a gap: headings over several
