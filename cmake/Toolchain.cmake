@@ -25,6 +25,9 @@ if(TAVRELION_SANITIZE)
   # The PDF library keeps the type information of some classes to itself, which the check "vptr" asks for.
   target_compile_options(tavrelion_options INTERFACE -fsanitize=${TAVRELION_SANITIZE} -fno-sanitize=vptr
     -fno-omit-frame-pointer)
+  # What sanitizers put into the code keeps the compiler from seeing that a pointer is never null, a value always set.
+  target_compile_options(tavrelion_options INTERFACE
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-stringop-overflow;-Wno-maybe-uninitialized>)
   target_link_options(tavrelion_options INTERFACE -fsanitize=${TAVRELION_SANITIZE})
 endif()
 if(TAVRELION_BUILD_FUZZERS)
