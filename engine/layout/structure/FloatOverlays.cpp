@@ -15,6 +15,7 @@ struct Item {
     std::size_t page = 0;
     Rect box;
     ColumnSpan column;
+    double leastWidth = 0; ///< points; text takes what there is
 };
 
 /// A figure that text makes way for, unless it is told not to.
@@ -32,7 +33,7 @@ std::vector<Item> itemsOf(const DocumentDraft& draft, std::size_t first, std::si
             continue;
         const DraftParagraph* paragraph = block.paragraph();
         if (!paragraph) {
-            items.push_back({block.page, block.box, columnOf(block, draft)});
+            items.push_back({block.page, block.box, columnOf(block, draft), block.box.width()});
             continue;
         }
         for (const DraftPiece& piece : paragraph->pieces)
@@ -51,6 +52,13 @@ bool isLevelWith(const Rect& box, const Rect& figure, const StructureParameters:
     return height >= limits.sharedHeight * std::min(box.height(), figure.height());
 }
 
+/// What a picture needs beside a figure so high that it would be moved far down; what fills its room exactly is moved,
+/// too.
+double leastRoomFor(const Item& item, const Rect& figure) {
+    constexpr double kSlack = 2; // points
+    return item.leastWidth > 0 && figure.height() > 2 * item.box.height() ? item.leastWidth + kSlack : 0;
+}
+
 /// Whether the item would have to make way for the figure, and could not stay where it is.
 bool wouldMove(const Item& item, const Rect& figure, const StructureParameters::Floats& limits) {
     const Rect& box = item.box;
@@ -60,7 +68,7 @@ bool wouldMove(const Item& item, const Rect& figure, const StructureParameters::
         return false;
     const double room =
         box.left >= figure.centerX() ? item.column.right - figure.right : figure.left - item.column.left;
-    return room < limits.leastRoomBeside;
+    return room < std::max(limits.leastRoomBeside, leastRoomFor(item, figure));
 }
 
 } // namespace
@@ -85,7 +93,8 @@ void findOverlaidFigures(DocumentDraft& draft, std::size_t first, std::size_t la
         DraftBlock& block = draft.blocks[i];
         if (!isBesideText(block))
             continue;
-        const auto [from, to] = std::equal_range(items.begin(), items.end(), Item{block.page, {}, {}}, isOnEarlierPage);
+        const auto [from, to] =
+            std::equal_range(items.begin(), items.end(), Item{block.page, {}, {}, 0}, isOnEarlierPage);
         const std::size_t count = floats[block.page];
         auto& figure = std::get<FigureDraft>(block.value);
         figure.isOverlaid =

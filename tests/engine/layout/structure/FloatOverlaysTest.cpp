@@ -43,6 +43,21 @@ TEST(FloatOverlays, FindFiguresWithoutRoomForTextBesideThem) {
     EXPECT_TRUE(isOverlaid({110, 150, 523, 300}, 50)) << "likewise on the other side";
 }
 
+TEST(FloatOverlays, FindFiguresWithoutRoomForAPictureBesideThem) {
+    const auto overlaid = [](double right) {
+        DocumentDraft draft = tests::makeDraft(1);
+        draft.blocks.push_back(tests::makePictureBlock({72, 150, 150, 600}));
+        auto& figure = std::get<FigureDraft>(draft.blocks.back().value);
+        figure.isInline = false;
+        draft.blocks.push_back(tests::makePictureBlock({150, 150, right, 220}));
+        std::get<FigureDraft>(draft.blocks.back().value).isInline = true;
+        findOverlaidFigures(draft, 0, draft.blocks.size(), {});
+        return std::get<FigureDraft>(draft.blocks.front().value).isOverlaid;
+    };
+    EXPECT_TRUE(overlaid(523)) << "it fills what the column has beside";
+    EXPECT_FALSE(overlaid(450));
+}
+
 TEST(FloatOverlays, FindTheFiguresOfSlides) {
     const auto overlaid = [](int lines) {
         DocumentDraft draft = tests::makeDraft(1);
