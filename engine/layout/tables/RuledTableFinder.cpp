@@ -2,6 +2,7 @@
 
 #include "layout/tables/ColumnParter.h"
 #include "layout/tables/GroundRows.h"
+#include "layout/tables/GridsBeside.h"
 #include "layout/tables/NestedGrids.h"
 #include "layout/tables/NumberColumns.h"
 #include "layout/tables/OpenFields.h"
@@ -49,7 +50,7 @@ std::vector<TableGrid> findRuledGrids(const PageText& page, const std::vector<Bo
         const bool isBetter = parted.cells != found.grid.cells && isTable(page, parted, {}, parameters);
         grids.push_back(isBetter ? std::move(parted) : std::move(found.grid));
     }
-    return grids;
+    return joinBeside(std::move(grids), page.lines);
 }
 
 } // namespace orvane::layout
