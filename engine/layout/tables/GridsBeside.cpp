@@ -23,6 +23,16 @@ bool isEmpty(const Rect& space, const std::vector<TableGrid>& grids, const std::
            std::none_of(lines.begin(), lines.end(), [&](const Line& line) { return line.box.intersects(space); });
 }
 
+/// Whether nothing but a narrow space is between the two.
+bool isPartOf(const TableGrid& left, const TableGrid& right, const std::vector<TableGrid>& grids,
+              const std::vector<Line>& lines) {
+    constexpr double kWidestSpace = 0.35; // of the width of the narrower one
+    const Rect space{left.box().right, right.box().top, right.box().left, right.box().bottom};
+    return space.width() > 2 * kHair &&
+           space.width() <= kWidestSpace * std::min(left.box().width(), right.box().width()) &&
+           isEmpty(space.inflated(-kHair), grids, lines);
+}
+
 /// Adds the grid at the right, behind a column of empty cells.
 void append(TableGrid& grid, const TableGrid& right) {
     const int between = grid.columns();
@@ -52,14 +62,11 @@ std::vector<TableGrid> joinBeside(std::vector<TableGrid> grids, const std::vecto
                   [&](std::size_t a, std::size_t b) { return grids[a].box().left < grids[b].box().left; });
         TableGrid* last = nullptr;
         for (const std::size_t i : beside) {
-            TableGrid& grid = grids[i];
-            const double from = last ? last->box().right : grid.box().left;
-            const Rect space{from, grid.box().top, grid.box().left, grid.box().bottom};
-            isJoined[i] = space.width() > 2 * kHair && isEmpty(space.inflated(-kHair), grids, lines);
+            isJoined[i] = last && isPartOf(*last, grids[i], grids, lines);
             if (isJoined[i])
-                append(*last, grid);
+                append(*last, grids[i]);
             else
-                last = &grid;
+                last = &grids[i];
         }
     }
     std::size_t index = 0;

@@ -279,14 +279,16 @@ TEST(NoteFinder, LeavesTheOtherColumnAlone) {
 TEST(NoteFinder, LeadsAcrossTheColumnsOfATableAbove) {
     std::vector<PageText> pages{makePage(1)};
     for (int i = 0; i < 8; ++i)
-        for (const double left : {72.0, 200.0, 330.0})
-            pages[0].lines.push_back(makeLine("what is in a cell", left, 590 + 14 * i));
-    pages[0].lines[0] = makeNotedLine("what is in^1", 72, 590);
-    addNotes(pages[0],
-             {"^1 A note that is as wide as all of the columns of the table that stands above it", "and ends soon"});
-    ASSERT_GT(pages[0].lines[24].box.right, 330) << "across";
-    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 A note that is as wide as all of the columns of the table that stands "
-                                    "above it and ends soon\n");
+        for (const double left : {72.0, 330.0})
+            pages[0].lines.push_back(makeLine("what is in a cell of this one", left, 599 + 14 * i));
+    pages[0].lines[0] = makeNotedLine("what is in a cell of this^1", 72, 599);
+    // As large as the text, so that the rule alone tells the notes.
+    addNotes(pages[0], {});
+    const std::string note = "A note that is as wide as the columns of the table above it, of which there are two";
+    pages[0].lines.push_back(makeNotedLine("^1 " + note, 72, 712));
+    pages[0].lines.push_back(makeNotedLine("and ends soon", 72, 726));
+    ASSERT_GT(pages[0].lines[16].box.centerX(), pages[0].lines[2].box.right) << "it is not of the first column";
+    EXPECT_EQ(notesOf(take(pages)), "foot 1@1: 1 " + note + " and ends soon\n");
 }
 
 TEST(NoteFinder, GoesOnInTheNextColumn) {
