@@ -69,13 +69,18 @@ Rect boxAround(Point origin, Point alongVector, Point upVector, double from, dou
     return box;
 }
 
-/// How far above the baseline the ink of a character can reach, in ems: dots of leaders and underscores leave the rest
-/// of their box empty.
+constexpr double kDotReach = 0.2;     ///< ems above the baseline; of dots of leaders and underscores
+constexpr double kLetterReach = 0.78; ///< likewise; of letters without accents
+
+/// How far above the baseline the ink of a character can reach, in ems: the rest of its box is empty.
 double reachAboveBaseline(const std::u32string& text, double ascent) {
-    constexpr double kDotReach = 0.2;
     constexpr std::u32string_view kMarksOnBaseline = U".,_\u2024\u2025\u2026";
-    const bool isLow = !text.empty() && text.find_first_not_of(kMarksOnBaseline) == std::u32string::npos;
-    return isLow ? std::min(kDotReach, ascent) : ascent;
+    if (text.empty())
+        return ascent;
+    if (text.find_first_not_of(kMarksOnBaseline) == std::u32string::npos)
+        return std::min(kDotReach, ascent);
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](char32_t c) { return c < 0x80; });
+    return isPlain ? std::min(kLetterReach, ascent) : ascent;
 }
 
 /// Displacement on the page without character and word spacing. Source: ISO 32000-1, 9.4.4.
@@ -143,10 +148,14 @@ void GlyphReader::noteSpaceWidth(const Glyph& glyph) {
     m_hasSpaceWidth[glyph.font] = true;
 }
 
-bool GlyphReader::goesOnFromVisible(const Glyph& glyph) const {
+double GlyphReader::reachInLine(const Glyph& glyph, double ascent) const {
     constexpr double kSameBaseline = 0.1;
-    return !m_page.glyphs.empty() && m_page.glyphs.back().visibility == Visibility::Visible &&
-           std::abs(m_page.glyphs.back().origin.y - glyph.origin.y) <= kSameBaseline;
+    const bool goesOn =
+        !m_page.glyphs.empty() && std::abs(m_page.glyphs.back().origin.y - glyph.origin.y) <= kSameBaseline;
+    if (goesOn && m_page.glyphs.back().visibility == Visibility::Visible)
+        return ascent;
+    const double reach = reachAboveBaseline(glyph.unicode, ascent);
+    return goesOn && m_page.glyphs.back().visibility == Visibility::ClippedAway ? std::min(kLetterReach, reach) : reach;
 }
 
 void GlyphReader::read(const GfxState& state, const ShownCharacter& character, std::int32_t mark,
@@ -180,8 +189,7 @@ void GlyphReader::read(const GfxState& state, const ShownCharacter& character, s
     glyph.origin = character.toPage.apply({character.x, character.y});
     const Point advance = ownAdvance(state, character, facts.isVertical);
     glyph.advance = std::hypot(advance.x, advance.y);
-    // What of the box can bear ink. The full stop of a line that shows in part belongs to it whatever shows of itself.
-    Rect inked;
+    Rect inked; // what of the box can bear ink
     if (facts.isVertical) {
         const Point half{frame.along.x * frame.size / 2, frame.along.y * frame.size / 2};
         inked = glyph.box =
@@ -191,7 +199,7 @@ void GlyphReader::read(const GfxState& state, const ShownCharacter& character, s
             return boxAround(glyph.origin, advance, frame.up, -facts.descent * frame.size, reach * frame.size);
         };
         glyph.box = boxUpTo(facts.ascent);
-        inked = goesOnFromVisible(glyph) ? glyph.box : boxUpTo(reachAboveBaseline(glyph.unicode, facts.ascent));
+        inked = boxUpTo(reachInLine(glyph, facts.ascent));
     }
     if (!std::isfinite(glyph.box.left + glyph.box.right + glyph.box.top + glyph.box.bottom))
         return;

@@ -53,8 +53,9 @@ private:
         }
     };
     std::uint32_t fontIndex(const std::shared_ptr<GfxFont>& font, bool isSlanted);
-    /// Whether the glyph read last stands on the same baseline and shows.
-    bool goesOnFromVisible(const Glyph& glyph) const;
+    /// How far above the baseline the glyph counts for what a clip path cuts off, in ems: with the letters before it on
+    /// the same baseline, so that no full stop of a line that shows in part is cut off, and no accent of another shows.
+    double reachInLine(const Glyph& glyph, double ascent) const;
     void noteSpaceWidth(const Glyph& glyph);
 
     PageContent& m_page;

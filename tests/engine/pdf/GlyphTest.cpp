@@ -73,6 +73,18 @@ TEST(Glyphs, AreCutOffWhereTheClipPathShowsNoInkOfThem) {
     EXPECT_EQ(page.glyphs[2].visibility, Visibility::Visible) << "it ends what shows in part";
 }
 
+TEST(Glyphs, AreCutOffWhereOnlyTheRoomForAccentsIsLeft) {
+    // The clip path ends 8.2 points above the baseline, below the top of the letters' boxes.
+    OpenedPdf pdf(PdfBuilder().page("q 0 508.2 200 50 re W n BT /F1 10 Tf 100 500 Td (x\\326) Tj ET "
+                                    "BT /F1 10 Tf 150 500.6 Td (x) Tj ET Q"));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(page.glyphs.size(), 3u);
+    ASSERT_LT(page.glyphs[0].box.top, 792 - 508.2);
+    EXPECT_EQ(page.glyphs[0].visibility, Visibility::ClippedAway);
+    EXPECT_EQ(page.glyphs[1].visibility, Visibility::ClippedAway) << "an accent is none without its line";
+    EXPECT_EQ(page.glyphs[2].visibility, Visibility::Visible);
+}
+
 TEST(Glyphs, TakeTheColourTheyArePaintedIn) {
     OpenedPdf pdf(PdfBuilder().page(
         "BT 1 0 0 rg 0 0 1 RG /F1 10 Tf 100 500 Td (a) Tj 1 Tr (b) Tj 2 Tr (c) Tj 1 0 0 RG (d) Tj ET"));
