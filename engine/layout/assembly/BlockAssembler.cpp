@@ -1,5 +1,6 @@
 #include "layout/assembly/BlockAssembler.h"
 
+#include "layout/assembly/BesideFigures.h"
 #include "layout/assembly/DropCapAssembler.h"
 #include "layout/assembly/EmptyParagraph.h"
 #include "layout/assembly/FigureAssembler.h"
@@ -142,6 +143,7 @@ std::vector<AssembledBlock> assembleBlocks(const std::vector<DraftBlock>& drafts
     blocks.reserve(drafts.size());
     for (const DraftBlock& draft : drafts)
         blocks.push_back(assembleBlock(draft, context));
+    endBesideFigures(blocks, context);
     return blocks;
 }
 
