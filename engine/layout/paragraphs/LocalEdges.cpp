@@ -1,7 +1,11 @@
 #include "layout/paragraphs/LocalEdges.h"
 
+#include "base/Utf8.h"
+#include "layout/text/LineText.h"
+
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -41,11 +45,19 @@ bool isSpreadTo(double edge, std::span<const Line> lines, std::span<const LineMe
     return spread >= parameters.flushLines || flushLines > parameters.flushLines + 1;
 }
 
+/// What lines of programs end with: the next one begins in lower case, but is no more of a sentence.
+bool endsStatement(const Line& line) {
+    constexpr std::u32string_view kEnds = U";{}";
+    const std::u32string text = utf32FromUtf8(textOf(line.words.back()));
+    return !text.empty() && kEnds.find(text.back()) != std::u32string_view::npos;
+}
+
 /// How many lines are full, and how many go on, when measured against another edge.
 struct ProseCount {
     int pairs = 0;
     int full = 0;
     int goingOn = 0;
+    int statements = 0; ///< among those
 
     void add(const Line& line, const LineMeasure& before, const LineMeasure& next, double edge, double slack) {
         ++pairs;
@@ -54,12 +66,15 @@ struct ProseCount {
         ++full;
         // Single words below each other are as often a list.
         const bool isText = line.words.size() > 1 || before.endsInHan;
-        goingOn += isText && sentenceGoesOn(before, next) ? 1 : 0;
+        if (!isText || !sentenceGoesOn(before, next))
+            return;
+        ++goingOn;
+        statements += endsStatement(line) ? 1 : 0;
     }
-    /// Most lines are full, and the sentences of most of those go on.
+    /// Most lines are full, and the sentences of most of those go on; it is no program.
     bool isProse(const ParagraphParameters::Paragraphs& parameters) const {
         return goingOn >= parameters.flushLines && goingOn >= parameters.proseShare * full &&
-               full >= parameters.proseShare * pairs;
+               full >= parameters.proseShare * pairs && 2 * statements <= goingOn;
     }
 };
 
@@ -123,9 +138,10 @@ void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measure
         const auto block = measures.subspan(first, end - first);
         const double size = lines[first].fontSize;
         const double edge = nearestEnd(block);
-        const bool isOwnEdge = block.size() > 1 && edge > parameters.ownEdge * size &&
-                               (isSpreadTo(edge, lines.subspan(first), block, parameters.flushTolerance * size, parameters) ||
-                                isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters));
+        const bool isOwnEdge =
+            block.size() > 1 && edge > parameters.ownEdge * size &&
+            (isSpreadTo(edge, lines.subspan(first), block, parameters.flushTolerance * size, parameters) ||
+             isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters));
         if (isOwnEdge)
             setEdge(block, edge);
         first = end;

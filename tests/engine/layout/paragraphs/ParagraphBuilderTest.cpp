@@ -149,6 +149,12 @@ TEST(ParagraphBuilder, FindsTheEdgeOfTextThatEndsBeforeItsColumn) {
         {{"Miller & Sons, Wholesale Dept.", "12 Long Street, Second Floor", "Springfield"},
          {"Miller & Sons, Wholesale Dept.", "12 Long Street, Second Floor", "Springfield"},
          "lines that end near each other by chance"},
+        {{"import the.first.list;", "import the.other.list;", "import the.third.name;"},
+         {"import the.first.list;", "import the.other.list;", "import the.third.name;"},
+         "statements of a program"},
+        {{"These programs are all free;", "the terms of each are in the", "files of it that come along."},
+         {"These programs are all free; the terms of each are in the files of it that come along."},
+         "one such sign alone is no program"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(textsOf(build(row.art, 45)), row.expected) << row.why;
