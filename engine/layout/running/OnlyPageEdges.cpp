@@ -51,9 +51,11 @@ std::size_t countApart(const EdgeRows& edge, const PageText& page, const Running
         const double end = endOf(outer);
         if (end > limits.onlyFootReach * page.height)
             return 0;
-        if (i == edge.rows.size())
-            return hasTextAbove(edge, page) && !isBelowSeparator(outer, page) ? i : 0;
-        if (edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize))
+        const bool isApart =
+            i == edge.rows.size()
+                ? hasTextAbove(edge, page)
+                : edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize);
+        if (isApart)
             return isBelowSeparator(outer, page) ? 0 : i;
     }
     return 0;

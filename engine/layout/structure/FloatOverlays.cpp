@@ -97,15 +97,16 @@ void findOverlaidFigures(DocumentDraft& draft, std::size_t first, std::size_t la
             std::equal_range(items.begin(), items.end(), Item{block.page, {}, {}, 0}, isOnEarlierPage);
         const std::size_t count = floats[block.page];
         auto& figure = std::get<FigureDraft>(block.value);
-        figure.isOverlaid =
-            figure.isOverlaid || (count >= parameters.fewestOfSlide && count >= static_cast<std::size_t>(to - from)) ||
-            std::any_of(from, to, [&](const Item& item) { return wouldMove(item, block.box, parameters); });
         // Text that can be seen stands before what it stands on.
-        if (figure.isOverlaid && !figure.figure.isForeground &&
+        if (!figure.figure.isForeground &&
             std::any_of(from, to, [&](const Item& item) { return standsOn(item.box, block.box, parameters); })) {
             figure.isOverlaid = false;
             figure.figure.isBackground = true;
+            continue;
         }
+        figure.isOverlaid =
+            figure.isOverlaid || (count >= parameters.fewestOfSlide && count >= static_cast<std::size_t>(to - from)) ||
+            std::any_of(from, to, [&](const Item& item) { return wouldMove(item, block.box, parameters); });
     }
 }
 

@@ -70,36 +70,39 @@ public:
         std::size_t first = m_lines.size();
         while (first > 0 && line(m_lines[first - 1]).fontSize <= m_limits.footSize * m_context.bodyFontSize)
             --first;
-        NoteArea area;
-        for (std::size_t i = first; first > 0 && i < m_lines.size(); ++i) {
-            if (standsBesideLast(area, m_lines[i]) || !addLine(area, m_lines[i]))
-                return std::nullopt;
-        }
-        if (area.starts.empty())
-            return std::nullopt;
-        startWith(area, area.starts.front().line, m_page);
-        return isBelowTable(area) ? std::nullopt : std::optional(std::move(area));
+        const auto area = first > 0 ? areaFrom(first) : std::nullopt;
+        return area && !area->starts.empty() ? startingAt(*area, area->starts.front().line) : std::nullopt;
     }
 
     std::optional<NoteArea> belowGap() const {
         std::size_t first = m_lines.size();
-        while (first > 1 && !standsApart(m_lines[first - 2], m_lines[first - 1]))
+        while (first > 0 && (first == m_lines.size() || !standsApart(m_lines[first - 1], m_lines[first])))
             --first;
-        if (first < 2)
+        auto area = first > 0 ? areaFrom(first) : std::nullopt;
+        if (!area)
             return std::nullopt;
-        NoteArea area;
-        for (std::size_t i = first - 1; i < m_lines.size(); ++i)
-            if (standsBesideLast(area, m_lines[i]) || !addLine(area, m_lines[i]))
-                return std::nullopt;
-        std::erase_if(area.starts, [&](const NoteStart& start) { return !startsRaised(line(start.line)); });
-        if (area.starts.empty() || area.starts.front().line != area.lines.front())
-            return std::nullopt;
-        startWith(area, area.lines.front(), m_page);
-        return isBelowTable(area) ? std::nullopt : std::optional(std::move(area));
+        std::erase_if(area->starts, [&](const NoteStart& start) { return !startsRaised(line(start.line)); });
+        const bool startsWithMark = !area->starts.empty() && area->starts.front().line == area->lines.front();
+        return startsWithMark ? startingAt(*area, area->lines.front()) : std::nullopt;
     }
 
 private:
     using LineIterator = std::vector<std::size_t>::const_iterator;
+
+    /// All lines from that one of m_lines on, if they can be notes, one below the other.
+    std::optional<NoteArea> areaFrom(std::size_t first) const {
+        NoteArea area;
+        for (std::size_t i = first; i < m_lines.size(); ++i)
+            if (standsBesideLast(area, m_lines[i]) || !addLine(area, m_lines[i]))
+                return std::nullopt;
+        return area;
+    }
+
+    /// The area from that line on, unless it holds the notes of a table.
+    std::optional<NoteArea> startingAt(NoteArea area, std::size_t line) const {
+        startWith(area, line, m_page);
+        return isBelowTable(area) ? std::nullopt : std::optional(std::move(area));
+    }
 
     static bool standBeside(const Line& a, const Line& b) {
         return 2 * overlap(a.box.top, a.box.bottom, b.box.top, b.box.bottom) > std::min(a.box.height(), b.box.height());
@@ -120,10 +123,6 @@ private:
     bool startsRaised(const Line& text) const {
         return isRaisedMark(text.words.front().spans.front()) ||
                (isLoneMark(text) && text.fontSize <= m_limits.loneMarkSize * m_context.bodyFontSize);
-    }
-
-    static bool isLoneMark(const Line& text) {
-        return text.words.size() == 1 && isNoteMark(textOf(text.words.front()));
     }
 
     const Line& line(std::size_t index) const { return m_page.lines[index]; }
@@ -227,14 +226,13 @@ private:
     bool addLine(NoteArea& area, std::size_t index) const {
         const Line& added = line(index);
         const double footSize = m_limits.footSize * m_context.bodyFontSize;
-        const auto first = std::find_if(area.lines.begin(), area.lines.end(), [&](std::size_t i) {
-            return !isLoneMark(line(i)); // which is smaller than the text of its note
-        });
-        const bool isSmall = first != area.lines.end() && line(*first).fontSize <= footSize;
+        const bool isSmall = area.textSize > 0 && area.textSize <= footSize;
         // Text of the body's size below smaller one is no note: what is small stands below a table or a picture.
         if (added.fontSize > (isSmall ? footSize : m_limits.largestSize * m_context.bodyFontSize))
             return false;
         area.lines.push_back(index);
+        if (area.textSize == 0 && !isLoneMark(added)) // which is smaller than the text of its note
+            area.textSize = added.fontSize;
         if (const std::string mark = markAtStart(added.words.front()); !mark.empty())
             area.starts.push_back({index, bareMark(mark)});
         else if (const std::string word = textOf(added.words.front()); isNoteMark(word))

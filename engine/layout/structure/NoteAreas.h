@@ -27,6 +27,7 @@ struct NoteArea {
     std::vector<NoteStart> wordStarts; ///< lines that start with a letter or numeral which may be a word: "a", "i"
     bool isInColumn = false;           ///< at the foot of one of several columns
     bool hasRows = false;              ///< lines stand side by side
+    double textSize = 0;               ///< points; of the first line that was more than a mark
 };
 
 /// The areas below short rules, column by column from the left, those of a column from the top.

@@ -75,14 +75,13 @@ private:
                                             (page.lines[i].words.size() > 1 || word.spans.size() > 1);
                     if (!isInArea[i] && isRaisedMark(span) && !startsText)
                         addReference({index, span.box, span.text, false, false});
-                    else if (!isInArea[i] && isLoneMark(page.lines[i], span) && !startsNextLine(page, i))
+                    else if (!isInArea[i] && isSmallMark(page.lines[i]) && !startsNextLine(page, i))
                         addReference({index, span.box, span.text, true, false});
                 }
     }
 
-    bool isLoneMark(const Line& line, const Span& span) const {
-        return line.words.size() == 1 && line.words.front().spans.size() == 1 && isNoteMark(span.text) &&
-               line.fontSize <= m_limits.loneMarkSize * m_context.bodyFontSize;
+    bool isSmallMark(const Line& line) const {
+        return isLoneMark(line) && line.fontSize <= m_limits.loneMarkSize * m_context.bodyFontSize;
     }
 
     /// Whether the mark stands before the line that follows it, as marks stand before their notes.
@@ -134,6 +133,14 @@ private:
         return area.isInColumn && isBorrowedMark(start.mark);
     }
 
+    /// Whether the area has marks, each once, and the text above refers to all of them with raised ones.
+    bool areAllReferredTo(std::size_t page, const NoteArea& area) {
+        std::set<std::string> marks;
+        return !area.starts.empty() && std::all_of(area.starts.begin(), area.starts.end(), [&](const NoteStart& start) {
+            return raisedReference(start.mark, page, area.top) && marks.insert(start.mark).second;
+        });
+    }
+
     LineReferences matchStarts(std::size_t page, const NoteArea& area) {
         LineReferences matched;
         const auto take = [&matched](const NoteStart& start, Reference* reference) {
@@ -163,14 +170,7 @@ private:
 
     /// What stands side by side below a rule may be the names in a chart; it is notes only if every mark there is one.
     void takeTable(std::size_t page, NoteArea area, std::vector<bool>& isTaken) {
-        const auto isReferredTo = [&](const NoteStart& start) {
-            return raisedReference(start.mark, page, area.top) != nullptr;
-        };
-        std::set<std::string> marks;
-        for (const NoteStart& start : area.starts)
-            if (!isReferredTo(start) || !marks.insert(start.mark).second)
-                return;
-        if (area.starts.empty())
+        if (!areAllReferredTo(page, area))
             return;
         putMarksFirst(area, m_pages[page]);
         const LineReferences matched = matchStarts(page, area);
@@ -210,11 +210,7 @@ private:
     /// Notes as large as the text, with no rule above them: the text above them refers to each with a raised mark.
     void takeBelowGap(std::size_t page, std::vector<bool>& isTaken) {
         const auto area = notesBelowGap(m_pages[page], m_context, m_limits);
-        const bool areNotes =
-            area && std::all_of(area->starts.begin(), area->starts.end(), [&](const NoteStart& start) {
-                return raisedReference(start.mark, page, area->top) != nullptr;
-            });
-        if (areNotes)
+        if (area && areAllReferredTo(page, *area))
             takeLines(page, *area, matchStarts(page, *area), isTaken);
     }
 

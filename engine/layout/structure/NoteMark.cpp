@@ -98,4 +98,9 @@ bool isRaisedMark(const Span& span) {
     return span.look.verticalPosition == document::VerticalPosition::Superscript && isNoteMark(span.text);
 }
 
+bool isLoneMark(const Line& line) {
+    return line.words.size() == 1 && line.words.front().spans.size() == 1 &&
+           isNoteMark(line.words.front().spans.front().text);
+}
+
 } // namespace orvane::layout

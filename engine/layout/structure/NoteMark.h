@@ -28,4 +28,7 @@ std::size_t gluedMarkLength(const Word& word);
 /// True for a span that is raised and reads like a mark.
 bool isRaisedMark(const Span& span);
 
+/// True for a line that is nothing but a mark in one look.
+bool isLoneMark(const Line& line);
+
 } // namespace orvane::layout

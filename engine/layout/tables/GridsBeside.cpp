@@ -43,9 +43,7 @@ void append(TableGrid& grid, const TableGrid& right) {
         grid.cells.push_back(cell);
     }
     grid.columnEdges.insert(grid.columnEdges.end(), right.columnEdges.begin(), right.columnEdges.end());
-    std::sort(grid.cells.begin(), grid.cells.end(), [](const GridCell& a, const GridCell& b) {
-        return a.row != b.row ? a.row < b.row : a.column < b.column;
-    });
+    sortCells(grid.cells);
 }
 
 } // namespace

@@ -1,8 +1,10 @@
 #include "layout/tables/ListsSideBySide.h"
 
 #include "layout/support/Stretches.h"
+#include "layout/support/Tally.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane::layout {
 namespace {
@@ -24,17 +26,6 @@ std::vector<double> baselinesOf(const PieceRow& row) {
         baselines.push_back(piece.baseline);
     std::sort(baselines.begin(), baselines.end());
     return baselines;
-}
-
-/// How many of the numbers, in order, lie within `reach` of each other at most.
-int mostWithin(double reach, const std::vector<double>& sorted) {
-    std::ptrdiff_t most = 0;
-    for (auto low = sorted.begin(), high = low; high != sorted.end(); ++high) {
-        while (*high - *low > reach)
-            ++low;
-        most = std::max(most, high - low + 1);
-    }
-    return static_cast<int>(most);
 }
 
 } // namespace
@@ -68,9 +59,9 @@ bool areOutOfStep(std::span<const PieceRow> rows, const TableParameters::Tables&
         else if (baselines.size() > 2 && baselines.back() - baselines[1] <= parameters.sameBaseline)
             drops.push_back(baselines.back() - baselines.front());
     }
-    std::sort(drops.begin(), drops.end());
+    const auto alike = static_cast<int>(densestRange(std::move(drops), parameters.sameBaseline).count);
     return all >= parameters.fewestRowsInStep && level <= parameters.levelShare * all &&
-           level + mostWithin(parameters.sameBaseline, drops) <= parameters.droppedShare * all;
+           level + alike <= parameters.droppedShare * all;
 }
 
 } // namespace orvane::layout

@@ -1,7 +1,5 @@
 #include "layout/tables/RowParts.h"
 
-#include <algorithm>
-
 namespace orvane::layout {
 
 TableGrid partRows(const TableGrid& grid, const std::vector<std::vector<double>>& edges,
@@ -25,9 +23,7 @@ TableGrid partRows(const TableGrid& grid, const std::vector<std::vector<double>>
         if (!isParted[i])
             parted.cells.push_back({first, cell.column, end - first, cell.columnSpan});
     }
-    std::sort(parted.cells.begin(), parted.cells.end(), [](const GridCell& a, const GridCell& b) {
-        return a.row != b.row ? a.row < b.row : a.column < b.column;
-    });
+    sortCells(parted.cells);
     return parted;
 }
 

@@ -4,6 +4,12 @@
 
 namespace orvane::layout {
 
+void sortCells(std::vector<GridCell>& cells) {
+    std::sort(cells.begin(), cells.end(), [](const GridCell& a, const GridCell& b) {
+        return a.row != b.row ? a.row < b.row : a.column < b.column;
+    });
+}
+
 bool overlapsAny(const TableGrid& grid, const std::vector<TableGrid>& others) {
     return std::any_of(others.begin(), others.end(),
                        [&](const TableGrid& other) { return other.box().intersects(grid.box()); });

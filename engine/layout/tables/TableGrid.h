@@ -33,6 +33,9 @@ struct TableGrid {
     }
 };
 
+/// Puts the cells in the order of TableGrid::cells.
+void sortCells(std::vector<GridCell>& cells);
+
 /// Whether the grid lies over one of the others.
 bool overlapsAny(const TableGrid& grid, const std::vector<TableGrid>& others);
 

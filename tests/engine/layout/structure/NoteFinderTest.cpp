@@ -53,6 +53,15 @@ PageText pageWithText(int number, const std::vector<std::string>& lines) {
     return page;
 }
 
+/// Two columns of rows that read `text`, from that baseline on; the first row on the left has a mark.
+PageText pageInColumns(const std::string& text, double right, double baseline, int rows) {
+    PageText page = makePage(1);
+    for (int i = 0; i < rows; ++i)
+        for (const double left : {72.0, right})
+            page.lines.push_back(makeNotedLine(text + (page.lines.empty() ? "^1" : ""), left, baseline + 14 * i));
+    return page;
+}
+
 void addNotes(PageText& page, const std::vector<std::string>& notes) {
     page.rules.push_back(noteRule(700));
     double baseline = 700;
@@ -168,6 +177,8 @@ TEST(NoteFinder, LeavesTextAtTheFootThatIsNoNote) {
     const Row kRows[] = {
         {"it is as large as the text, right below it", {makeNotedLine("^1 A note", 72, 128, 10)}},
         {"its mark is not raised, and it is as large as the text", {makeNotedLine("1 An item", 72, 712, 10)}},
+        {"one mark stands before two of its lines",
+         {makeNotedLine("^1 A note", 72, 712, 10), makeNotedLine("^1 Another", 72, 726, 10)}},
         {"not all that it says are notes",
          {makeNotedLine("^1 A note", 72, 712, 10), makeNotedLine("^2 Another", 72, 726, 10)}},
         {"nothing refers to it", {makeNotedLine("^2 A note", 72, 712, 8)}},
@@ -277,11 +288,7 @@ TEST(NoteFinder, LeavesTheOtherColumnAlone) {
 }
 
 TEST(NoteFinder, LeadsAcrossTheColumnsOfATableAbove) {
-    std::vector<PageText> pages{makePage(1)};
-    for (int i = 0; i < 8; ++i)
-        for (const double left : {72.0, 330.0})
-            pages[0].lines.push_back(makeLine("what is in a cell of this one", left, 599 + 14 * i));
-    pages[0].lines[0] = makeNotedLine("what is in a cell of this^1", 72, 599);
+    std::vector<PageText> pages{pageInColumns("what is in a cell of this one", 330, 599, 8)};
     // As large as the text, so that the rule alone tells the notes.
     addNotes(pages[0], {});
     const std::string note = "A note that is as wide as the columns of the table above it, of which there are two";
@@ -292,11 +299,7 @@ TEST(NoteFinder, LeadsAcrossTheColumnsOfATableAbove) {
 }
 
 TEST(NoteFinder, GoesOnInTheNextColumn) {
-    std::vector<PageText> pages{makePage(1)};
-    for (int i = 0; i < 36; ++i)
-        for (const double left : {72.0, 310.0})
-            pages[0].lines.push_back(makeLine("a column that has text enough", left, 190 + 14 * i));
-    pages[0].lines[0] = makeNotedLine("a column that has text^1", 72, 190);
+    std::vector<PageText> pages{pageInColumns("a column that has text enough", 310, 190, 36)};
     addNotes(pages[0], {"^1 A long note of the left"});
     pages[0].rules.push_back(noteRule(700, 310));
     pages[0].lines.push_back(makeLine("ends in the right", 310, 712, {.size = 8}));
