@@ -46,7 +46,7 @@ public:
             return TableVerdict::Contents;
         if (isIndex())
             return TableVerdict::Index;
-        if (!m_isNamed && (isList() || isListInColumns()))
+        if (!m_isNamed && (isList() || isListInColumns() || isListOfLevels()))
             return TableVerdict::List;
         if (!m_isNamed && isKeyValues())
             return TableVerdict::KeyValues;
@@ -112,11 +112,21 @@ private:
             return false;
         return hasLabelsWithin() ||
                shareOfRows([&](const PieceRow& row) {
-                   return std::any_of(row.pieces.begin(), row.pieces.end(), [&](const TextPiece& piece) {
-                       return isBullet(textOf(
-                           pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines()));
-                   });
+                   return std::any_of(row.pieces.begin(), row.pieces.end(),
+                                      [&](const TextPiece& piece) { return isBullet(firstWordOf(piece)); });
                }) > m_parameters.labelShare;
+    }
+
+    /// Whether most rows are a label or bullet and the text of its item. Those of several levels stand in columns.
+    bool isListOfLevels() const {
+        return m_evidence == AlignedEvidence::Alignment && shareOfRows([&](const PieceRow& row) {
+                                                               return row.pieces.size() <= 2 &&
+                                                                      isItemLabel(firstWordOf(row.pieces.front()));
+                                                           }) > m_parameters.labelShare;
+    }
+
+    std::string firstWordOf(const TextPiece& piece) const {
+        return textOf(pieceOf(lines()[piece.line], piece.line, piece.firstWord, piece.firstWord + 1), lines());
     }
 
     /// Whether the columns hold an index. One head over all of them, or rules, make a table of it.
