@@ -100,6 +100,36 @@ private:
     std::map<int, Rect> m_columns;
 };
 
+/// The columns that a row of text fills; nothing when a text stands in several.
+std::optional<std::set<int>> columnsFilled(const PieceRow& row, const std::vector<ColumnGap>& gaps) {
+    std::set<int> filled;
+    for (const TextPiece& piece : row.pieces) {
+        const ColumnRange range = columnsOf(piece, gaps);
+        if (range.first != range.last)
+            return std::nullopt;
+        filled.insert(range.first);
+    }
+    return filled;
+}
+
+/// Whether all groups are labels of as many lines, with one line of text beside their first.
+bool areLabelsOfLines(std::span<const PieceRow> rows, const std::vector<RowGroup>& groups,
+                      const std::vector<ColumnGap>& gaps, const TableParameters::Tables& parameters) {
+    const auto linesOf = [](const RowGroup& group) { return group.end - group.first; };
+    const auto isLabelled = [&](const RowGroup& group) {
+        const auto first = columnsFilled(rows[group.first], gaps);
+        if (!first || first->size() <= gaps.size())
+            return false;
+        return std::all_of(rows.begin() + static_cast<std::ptrdiff_t>(group.first) + 1,
+                           rows.begin() + static_cast<std::ptrdiff_t>(group.end),
+                           [&](const PieceRow& row) { return columnsFilled(row, gaps) == std::set{0}; });
+    };
+    return static_cast<int>(groups.size()) >= parameters.fewestPartedRows && linesOf(groups.front()) > 1 &&
+           std::all_of(groups.begin(), groups.end(), [&](const RowGroup& group) {
+               return linesOf(group) == linesOf(groups.front()) && isLabelled(group);
+           });
+}
+
 } // namespace
 
 std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
@@ -114,7 +144,8 @@ std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> rows
             groups.push_back({i, i});
         groups.back().end = i + 1;
     }
-    if (!RunningRows(rows, gaps, lines, parameters).areTexts(groups))
+    if (!areLabelsOfLines(rows, groups, gaps, parameters) &&
+        !RunningRows(rows, gaps, lines, parameters).areTexts(groups))
         return std::nullopt;
     return groups;
 }

@@ -10,7 +10,7 @@
 namespace orvane::layout {
 
 /// The rows of a table whose texts run over several lines, where the space between rows is clearly larger than the one
-/// between lines; nothing where it is not, or where the lines are no running texts.
+/// between lines; nothing where it is not, or where the lines are neither running texts nor labels of several lines.
 std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> lines, const std::vector<ColumnGap>& gaps,
                                                   const std::vector<Line>& pageLines,
                                                   const TableParameters::Tables& parameters);
