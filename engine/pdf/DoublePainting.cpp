@@ -11,7 +11,7 @@ namespace {
 
 /// Offsets in em. Neighbours of the same letter are never this close: the thinnest letters are 0.2 em wide.
 constexpr double kLargestOffset = 0.06;
-constexpr double kLeastBoldOffset = 0.005;
+constexpr double kLeastSeenOffset = 0.005;
 /// How many glyphs of one code on one line are compared; bounds the work on pages of one letter.
 constexpr std::size_t kMostNeighbours = 64;
 
@@ -33,10 +33,13 @@ std::size_t dropOne(std::vector<Glyph>& glyphs, std::size_t first, std::size_t s
     const bool isUpperSeen = upper.visibility == Visibility::Visible;
     if (isLowerSeen != isUpperSeen)
         return isLowerSeen ? second : first;
-    if (lower.color != upper.color)
+    const bool areApart = offsetOf(lower, upper) > kLeastSeenOffset * lower.fontSize;
+    if (lower.color != upper.color) {
+        if (areApart && !upper.edge)
+            upper.edge = lower.color;
         return first;
-    lower.isFakeBold =
-        lower.isFakeBold || upper.isFakeBold || offsetOf(lower, upper) > kLeastBoldOffset * lower.fontSize;
+    }
+    lower.isFakeBold = lower.isFakeBold || upper.isFakeBold || areApart;
     return second;
 }
 

@@ -113,6 +113,8 @@ void setPaint(Glyph& glyph, const GfxState& state) {
     glyph.isFakeBold = mode == 2 && fill == stroke;
     const double opacity = glyph.isOutlined ? state.getStrokeOpacity() : state.getFillOpacity();
     glyph.color = onWhite(toColor(glyph.isOutlined ? stroke : fill), opacity);
+    if (mode == 2 && !glyph.isFakeBold && state.getStrokeOpacity() >= kLeastSeen)
+        glyph.edge = onWhite(toColor(stroke), state.getStrokeOpacity());
     if (mode == 3 || opacity < kLeastSeen)
         glyph.visibility = Visibility::Invisible;
 }

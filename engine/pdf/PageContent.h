@@ -66,6 +66,7 @@ struct Glyph {
     Visibility visibility = Visibility::Visible;
     std::int32_t mark = -1;        ///< index into PageContent::marks; -1 outside marked content
     std::uint32_t paintOrder = 0;
+    std::optional<Color> edge;     ///< another colour around it: of its stroke, or of itself painted below, a little aside
 };
 
 enum class PathVerb : std::uint8_t { Move, Line, Curve, Close };

@@ -107,9 +107,9 @@ void dumpMark(std::string& out, std::size_t index, const Mark& mark) {
 }
 
 bool isOfOneLook(const Glyph& a, const Glyph& b) {
-    return a.font == b.font && a.color == b.color && a.isOutlined == b.isOutlined && a.isFakeBold == b.isFakeBold &&
-           a.isUnicodeGuessed == b.isUnicodeGuessed && a.visibility == b.visibility && a.mark == b.mark &&
-           std::abs(a.fontSize - b.fontSize) < 0.01 && std::abs(a.angle - b.angle) < 0.01 &&
+    return a.font == b.font && a.color == b.color && a.edge == b.edge && a.isOutlined == b.isOutlined &&
+           a.isFakeBold == b.isFakeBold && a.isUnicodeGuessed == b.isUnicodeGuessed && a.visibility == b.visibility &&
+           a.mark == b.mark && std::abs(a.fontSize - b.fontSize) < 0.01 && std::abs(a.angle - b.angle) < 0.01 &&
            std::abs(a.horizontalScale - b.horizontalScale) < 0.001;
 }
 
@@ -141,6 +141,8 @@ void dumpGlyphs(std::string& out, const std::vector<Glyph>& glyphs) {
             out += fmt::format(" angle {:.1f}", glyph.angle);
         if (glyph.color != kBlack)
             out += fmt::format(" #{}", toHex(glyph.color));
+        if (glyph.edge)
+            out += fmt::format(" edge #{}", toHex(*glyph.edge));
         out += fmt::format("{}{}{}{}{}\n", glyph.isOutlined ? " outlined" : "", glyph.isFakeBold ? " fake-bold" : "",
                            glyph.isUnicodeGuessed ? " guessed" : "", nameOf(glyph.visibility), markOf(glyph.mark));
         first = next;

@@ -17,7 +17,7 @@ constexpr std::u32string_view kBullets = U"•◦▪■●○‣⁃∙·➢➤�
 /// Shapes and arrows, which stand before items more often than for themselves.
 constexpr std::pair<char32_t, char32_t> kSigns[] = {{U'\u2190', U'\u21FF'},
                                                     {U'\u25A0', U'\u25FF'},
-                                                    {U'\u2713', U'\u274D'},
+                                                    {U'\u2713', U'\u2767'},
                                                     {U'\u2794', U'\u27BE'},
                                                     {U'\u2B00', U'\u2BFF'}};
 constexpr std::u32string_view kDashes = U"-–—−*+o~";

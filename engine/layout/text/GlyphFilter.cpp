@@ -120,8 +120,38 @@ void mergeDuplicate(const pdf::PageContent& page, SelectedGlyph& kept, std::uint
         distance <= limits.fakeBoldDistance * size)
         kept.isBold = true;
     // What was painted last lies on top, a shadow below it.
-    if (first.color != second.color)
+    if (first.color != second.color) {
         kept.index = later;
+        kept.edge = second.edge ? second.edge : first.color;
+    }
+}
+
+bool isPale(Color color, const TextParameters::Glyphs& limits) {
+    return std::min({color.red, color.green, color.blue}) >= limits.palest;
+}
+
+/// Where the page is not white: fills of a colour, and pictures.
+CoverageGrid coverByGrounds(const pdf::PageContent& page, const TextParameters::Glyphs& limits) {
+    CoverageGrid grid = coverByPictures(page, limits);
+    for (const pdf::Path& path : page.paths) {
+        const Rect seen = path.box.intersected(path.clip);
+        if (path.fill && path.visibility == Visibility::Visible && !seen.isEmpty() && !isPale(path.fill->color, limits))
+            grid.cover(seen);
+    }
+    return grid;
+}
+
+/// Letters filled like the paper are seen by their edges: outlined ones, and such as look raised or sunk.
+void markHollow(const pdf::PageContent& page, std::vector<SelectedGlyph>& glyphs,
+                const TextParameters::Glyphs& limits) {
+    const auto mayBeHollow = [&](const SelectedGlyph& glyph) {
+        return glyph.edge && isPale(page.glyphs[glyph.index].color, limits) && !isPale(*glyph.edge, limits);
+    };
+    if (std::none_of(glyphs.begin(), glyphs.end(), mayBeHollow))
+        return;
+    const CoverageGrid grounds = coverByGrounds(page, limits);
+    for (SelectedGlyph& glyph : glyphs)
+        glyph.isHollow = mayBeHollow(glyph) && !grounds.isCovered(middleOf(page.glyphs[glyph.index]));
 }
 
 bool isWorthReading(const pdf::Glyph& glyph, const TextParameters::Glyphs& limits) {
@@ -155,8 +185,10 @@ GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& 
             continue;
         }
         duplicates.add(glyph, selection.glyphs.size());
-        selection.glyphs.push_back({i, isRecognised ? GlyphSight::Recognised : GlyphSight::Seen, glyph.isFakeBold});
+        selection.glyphs.push_back(
+            {i, isRecognised ? GlyphSight::Recognised : GlyphSight::Seen, glyph.isFakeBold, glyph.edge});
     }
+    markHollow(page, selection.glyphs, limits);
     // A stamp or a line about where the scan comes from is written on many.
     const bool isTextHidden = static_cast<double>(seen) <= limits.stampShare * static_cast<double>(recognised);
     const bool isCovered = pictures.coveredShare({0, 0, page.width, page.height}) >= limits.scannedPageShare;
@@ -179,7 +211,7 @@ GlyphSelection clippedGlyphs(const pdf::PageContent& page, const GlyphSelection&
             ofSeen.find(page, seen.glyphs, glyph) >= 0 || ofClipped.find(page, selection.glyphs, glyph) >= 0)
             continue;
         ofClipped.add(glyph, selection.glyphs.size());
-        selection.glyphs.push_back({i, GlyphSight::ClippedAway, glyph.isFakeBold});
+        selection.glyphs.push_back({i, GlyphSight::ClippedAway, glyph.isFakeBold, glyph.edge});
     }
     return selection;
 }

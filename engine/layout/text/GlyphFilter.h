@@ -5,6 +5,7 @@
 #include "pdf/PageContent.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace orvane::layout {
@@ -21,6 +22,8 @@ struct SelectedGlyph {
     std::uint32_t index = 0; ///< into pdf::PageContent::glyphs
     GlyphSight sight = GlyphSight::Seen;
     bool isBold = false; ///< made bold by painting: stroked as well as filled, or painted twice with a small offset
+    std::optional<Color> edge; ///< another colour seen around it
+    bool isHollow = false;     ///< only its edge is seen: filled like the paper it stands on
 };
 
 /// The glyphs a reader sees, each once, in paint order.

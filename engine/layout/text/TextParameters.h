@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <cstddef>
 
 namespace orvane::layout {
@@ -16,6 +17,7 @@ struct TextParameters {
             0.003; ///< of the font size; closer than this is the same place, which makes nothing bold
         double fakeBoldDistance = 0.07; ///< of the font size; an offset up to this thickens the strokes
         double coverCell = 4;           ///< points; grain at which pictures and visible text are told to cover others
+        std::uint8_t palest = 240;      ///< each part of a colour that cannot be told from paper is at least this
         double scannedPageShare = 0.8;  ///< of the page; pictures that cover as much are a scan
         double stampShare = 0.2; ///< of the recognised characters; as many may be visible on a scan, stamped on it
     } glyphs;

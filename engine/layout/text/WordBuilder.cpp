@@ -170,10 +170,18 @@ void partLabelAt(std::vector<Cluster>& clusters, std::size_t first, const TextPa
     }
 }
 
+/// A bullet of another font that text stands close behind is a word still.
+void partBulletAt(std::vector<Cluster>& clusters, std::size_t first) {
+    const bool isOther = first + 1 < clusters.size() && clusters[first].look.font != clusters[first + 1].look.font;
+    if (isOther && isListSign(clusters[first].text) && isLetter(clusters[first + 1].text.front()))
+        clusters[first + 1].gapBefore.endsWord = true;
+}
+
 /// The label may begin the stretch; a bullet is one behind the text of a neighbouring cell, too.
 void partLabels(std::vector<Cluster>& clusters, std::size_t first, std::size_t last,
                 const TextParameters::Words& limits) {
     partLabelAt(clusters, first, limits);
+    partBulletAt(clusters, first);
     for (std::size_t i = first + 1; i < last; ++i)
         if (clusters[i].gapBefore.endsWord && isListSign(clusters[i].text))
             partLabelAt(clusters, i, limits);

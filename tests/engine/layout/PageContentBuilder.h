@@ -4,6 +4,7 @@
 #include "pdf/PageContent.h"
 
 #include <cmath>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,7 @@ struct TextOptions {
     Blanks blanks = Blanks::Painted;
     Visibility visibility = Visibility::Visible;
     int mark = -1;
+    std::optional<Color> edge{};
 };
 
 /// Makes a page. Advances are those of a plain proportional face, near enough to tell narrow letters from broad ones.
@@ -183,6 +185,7 @@ private:
         glyph.color = options.color;
         glyph.visibility = options.visibility;
         glyph.mark = options.mark;
+        glyph.edge = options.edge;
         glyph.paintOrder = m_paintOrder++;
         const Matrix toPage{cosine, sine, -sine, cosine, glyph.origin.x, glyph.origin.y};
         glyph.box = toPage.applyToBox({0, -font.ascent * size, advance, font.descent * size});

@@ -34,5 +34,15 @@ TEST(DoublePainting, LeavesOneText) {
     }
 }
 
+TEST(DoublePainting, TellsTheColourAroundAText) {
+    OpenedPdf pdf(PdfBuilder().page("BT 0 g /F1 10 Tf 50 500 Td (a) Tj 1 g 0.3 0.3 Td (a) Tj "
+                                    "0 g 50 0 Td (b) Tj 1 g 0 0 Td (b) Tj ET"));
+    const PageContent page = pdf.page();
+    ASSERT_EQ(textOf(page), "ab");
+    EXPECT_EQ(page.glyphs[0].color, kWhite);
+    EXPECT_EQ(page.glyphs[0].edge, kBlack);
+    EXPECT_FALSE(page.glyphs[1].edge) << "on the same spot nothing of the lower one is seen";
+}
+
 } // namespace
 } // namespace orvane::pdf

@@ -97,6 +97,8 @@ TEST(Glyphs, TakeTheColourTheyArePaintedIn) {
     EXPECT_EQ(page.glyphs[1].color, blue);
     EXPECT_TRUE(page.glyphs[1].isOutlined);
     EXPECT_EQ(page.glyphs[2].color, red);
+    EXPECT_EQ(page.glyphs[2].edge, blue);
+    EXPECT_FALSE(page.glyphs[3].edge);
     EXPECT_FALSE(page.glyphs[2].isFakeBold) << "an outline of another colour is an ornament";
     EXPECT_TRUE(page.glyphs[3].isFakeBold) << "an outline of the same colour thickens the letters";
 }

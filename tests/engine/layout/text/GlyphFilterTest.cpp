@@ -108,6 +108,28 @@ TEST(GlyphFilter, TakesAShadowAndItsTextAsOne) {
     EXPECT_EQ(text.lines[0].words[0].spans[0].look.color, (Color{0, 0, 255})) << "the text lies on top of its shadow";
 }
 
+TEST(GlyphFilter, TakesLettersFilledLikeThePaperByTheirEdges) {
+    const Color blue{0, 0, 255};
+    const Color yellow{255, 255, 0};
+    PageContentBuilder page;
+    page.filledRectangle({60, 180, 300, 220}, blue);
+    page.text(72, 100, "outlined", 12, {.color = kWhite, .edge = blue});
+    page.text(200, 100.8, "raised", 12, {.color = kBlack});
+    page.text(200.8, 100, "raised", 12, {.color = kWhite});
+    page.text(72, 200, "white on blue", 12, {.color = kWhite, .edge = kBlack});
+    page.text(72, 300, "yellow", 12, {.color = yellow, .edge = kBlack});
+    page.text(200, 300, "nowhere", 12, {.color = kWhite, .edge = Color{250, 250, 250}});
+    const auto looks = [&](std::size_t line, std::size_t word) {
+        const Look& look = read(page).lines.at(line).words.at(word).spans.at(0).look;
+        return std::pair(look.color, look.isOutlined);
+    };
+    EXPECT_EQ(looks(0, 0), std::pair(blue, true)) << "white within its outline";
+    EXPECT_EQ(looks(0, 1), std::pair(kBlack, true)) << "white over the same text in black, a little aside";
+    EXPECT_EQ(looks(1, 0), std::pair(kWhite, false)) << "white is seen on a ground";
+    EXPECT_EQ(looks(2, 0), std::pair(yellow, false)) << "yellow is seen on white";
+    EXPECT_EQ(looks(2, 1), std::pair(kWhite, false)) << "an edge like the paper shows nothing";
+}
+
 TEST(GlyphFilter, TakesTextPaintedTwiceWithASmallOffsetAsBold) {
     PageContentBuilder page;
     page.text(72, 100, "Bold by painting", 12);

@@ -112,9 +112,8 @@ TEST(WordBuilder, PartsWordsOfTwoWeightsAtAnyGap) {
     page.text(x, 160, "likely letters", 12);
     x = page.text(72, 190, "values of y", 12);
     page.text(x + 0.4, 190, "w of formulas", 12, {.font = bold});
-    EXPECT_THAT(linesOf(page),
-                ElementsAre("your taxable income", "the blank without room ends", "unlikely letters",
-                            "values of yw of formulas"));
+    EXPECT_THAT(linesOf(page), ElementsAre("your taxable income", "the blank without room ends", "unlikely letters",
+                                           "values of yw of formulas"));
 }
 
 TEST(WordBuilder, KeepsLetterSpacedWordsWhole) {
@@ -191,6 +190,27 @@ TEST(WordBuilder, PartsALabelInAColumnFurtherRight) {
     const double end = page.text(300, 100, "\u2022", 12);
     page.text(end + 0.2 * 12, 100, "\u65E5\u672C", 12);
     EXPECT_THAT(linesOf(page), ElementsAre("\u6587\u7AE0\t\u2022 \u65E5\u672C"));
+}
+
+TEST(WordBuilder, PartsABulletOfAnotherFontFromTheTextCloseBehindIt) {
+    struct Row {
+        const char* sign;
+        bool isOtherFont;
+        const char* expected;
+        const char* why;
+    };
+    const Row rows[] = {
+        {"\u25A0", true, "\u25A0 Open", "a bullet"},
+        {"\u25A0", false, "\u25A0Open", "a sign of the text's own font"},
+        {"-", true, "-Open", "a hyphen is no bullet"},
+    };
+    for (const Row& row : rows) {
+        PageContentBuilder page;
+        const std::uint32_t signs = page.font({});
+        const double end = page.text(72, 100, row.sign, 12, {.font = row.isOtherFont ? signs : 0});
+        page.text(end, 100, "Open", 12);
+        EXPECT_THAT(linesOf(page), ElementsAre(row.expected)) << row.why;
+    }
 }
 
 TEST(WordBuilder, PartsABulletFromEastAsianTextBesideANumberInTheCellBefore) {
