@@ -18,24 +18,24 @@ void move(Groups from, Groups& to) {
     to.insert(to.end(), std::make_move_iterator(from.begin()), std::make_move_iterator(from.end()));
 }
 
-void groupItems(std::vector<DraftBlock>& blocks, const std::vector<PageLayout>& pages, TypedBlanks blanks,
-                const LayoutParameters& parameters, Groups& groups) {
-    ListGrouper grouper(pages, blanks, parameters);
+void groupItems(std::vector<DraftBlock>& blocks, TypedBlanks blanks, const LayoutParameters& parameters,
+                Groups& groups) {
+    ListGrouper grouper(blanks, parameters);
     for (DraftBlock& block : blocks) {
         DraftParagraph* paragraph = block.paragraph();
         if (paragraph && paragraph->role == ParagraphRole::Body)
             grouper.add(*paragraph);
         else if (DraftTable* table = std::get_if<DraftTable>(&block.value))
             for (DraftCell& cell : table->cells)
-                groupItems(cell.blocks, pages, blanks, parameters, groups);
+                groupItems(cell.blocks, blanks, parameters, groups);
     }
     move(grouper.takeGroups(), groups);
 }
 
 /// Headings count on their own, whatever lists stand between them.
-Groups groupHeadings(DocumentDraft& draft, TypedBlanks blanks, const LayoutParameters& parameters) {
-    ListGrouper grouper(draft.pages, blanks, parameters);
-    for (DraftBlock& block : draft.blocks) {
+Groups groupHeadings(std::vector<DraftBlock>& blocks, TypedBlanks blanks, const LayoutParameters& parameters) {
+    ListGrouper grouper(blanks, parameters);
+    for (DraftBlock& block : blocks) {
         DraftParagraph* paragraph = block.paragraph();
         if (paragraph && paragraph->role == ParagraphRole::Heading &&
             paragraph->pieces.front().text.alignment != document::Alignment::Center)
@@ -149,9 +149,9 @@ void dropDoubtful(Groups& groups, const Admits& admits) {
 void findLists(DocumentDraft& draft, const LayoutParameters& parameters) {
     const TypedBlanks blanks = typedBlanksOf(draft, parameters.lists);
     Groups lists;
-    groupItems(draft.blocks, draft.pages, blanks, parameters, lists);
+    groupItems(draft.blocks, blanks, parameters, lists);
     dropDoubtful(lists, [&](const auto& run) { return isList(run, parameters.lists); });
-    Groups headings = groupHeadings(draft, blanks, parameters);
+    Groups headings = groupHeadings(draft.blocks, blanks, parameters);
     dropDoubtful(headings, isNumberedByList);
     std::erase_if(headings, [](const ListGroup& group) { return group.items.size() < 2; });
     move(std::move(headings), lists);

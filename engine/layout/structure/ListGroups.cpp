@@ -37,7 +37,7 @@ bool ListGrouper::isAtSameEdge(const ListLabel& a, const ListLabel& b) const {
 }
 
 void ListGrouper::add(DraftParagraph& paragraph) {
-    const std::vector<ListLabel> readings = readListLabel(paragraph, m_pages, m_blanks, m_parameters);
+    const std::vector<ListLabel> readings = readListLabel(paragraph, m_blanks, m_parameters);
     for (const ListLabel& label : readings)
         if (goOn(paragraph, label))
             return;

@@ -25,10 +25,8 @@ struct ListGroup {
 /// Parts labelled paragraphs, in reading order, into groups.
 class ListGrouper {
 public:
-    /// `pages`: those of the draft that the paragraphs are of.
-    ListGrouper(const std::vector<PageLayout>& pages, TypedBlanks blanks, const LayoutParameters& parameters)
-        : m_pages(pages)
-        , m_blanks(blanks)
+    ListGrouper(TypedBlanks blanks, const LayoutParameters& parameters)
+        : m_blanks(blanks)
         , m_parameters(parameters) {}
 
     /// A paragraph of the flow.
@@ -56,7 +54,6 @@ private:
     void put(OpenGroup& open, DraftParagraph& paragraph, const ListLabel& label);
     bool isAtSameEdge(const ListLabel& a, const ListLabel& b) const;
 
-    const std::vector<PageLayout>& m_pages;
     TypedBlanks m_blanks;
     const LayoutParameters& m_parameters;
     std::vector<ListGroup> m_groups;

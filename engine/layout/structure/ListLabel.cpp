@@ -1,7 +1,6 @@
 #include "layout/structure/ListLabel.h"
 
 #include "base/Utf8.h"
-#include "layout/fonts/FontMapper.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -99,19 +98,10 @@ double startOf(const Rect& box, const Line& line, const ColumnSpan& column) {
     return line.isRightToLeft ? column.right - box.right : box.left - column.left;
 }
 
-/// Whether the line's label is set in another family than its text. Nobody changes the font to type a bullet.
-bool isOfOtherFamily(const Line& line, const std::vector<pdf::Font>& fonts) {
-    const auto familyOf = [&fonts](const Word& word) {
-        const std::uint32_t font = word.spans.front().look.font;
-        return font < fonts.size() ? fontKey(fonts[font].name) : std::string();
-    };
-    return familyOf(line.words[0]) != familyOf(line.words[1]);
-}
-
 } // namespace
 
-std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const std::vector<PageLayout>& pages,
-                                     TypedBlanks blanks, const LayoutParameters& parameters) {
+std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlanks blanks,
+                                     const LayoutParameters& parameters) {
     const DraftPiece& piece = paragraph.pieces.front();
     const Line& line = paragraph.firstLine();
     const auto marker = findListMarker(line, parameters.markers);
@@ -128,8 +118,7 @@ std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const std:
     // A single line shows no indent of the lines after it.
     label.hangs = piece.text.lines.size() > 1 && piece.text.firstLine < -parameters.lists.sameIndent;
     label.isSeparated = marker->isSeparated;
-    label.isTyped = line.words[1].isTypedBefore &&
-                    !(marker->kind == MarkerKind::Bullet && isOfOtherFamily(line, pages[piece.page].fonts));
+    label.isTyped = line.words[1].isTypedBefore;
     label.isSet = blanks == TypedBlanks::Painted && !label.isTyped;
     label.isStrong = marker->kind == MarkerKind::Bullet || marker->isSeparated || label.hangs || label.isSet;
     if (label.format == NumberFormat::Bullet)

@@ -34,8 +34,8 @@ struct ListLabel {
 
 /// The readings of a paragraph's label, the likelier first: "i)" may be a letter or a numeral. Empty when there is
 /// none.
-std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, const std::vector<PageLayout>& pages,
-                                     TypedBlanks blanks, const LayoutParameters& parameters);
+std::vector<ListLabel> readListLabel(const DraftParagraph& paragraph, TypedBlanks blanks,
+                                     const LayoutParameters& parameters);
 
 /// True when both are labels of one kind of list: bullets of one sign, or numbers written alike.
 bool isSameKind(const ListLabel& a, const ListLabel& b);

@@ -173,7 +173,11 @@ void partLabelAt(std::vector<Cluster>& clusters, std::size_t first, const TextPa
 /// A bullet of another font that text stands close behind is a word still.
 void partBulletAt(std::vector<Cluster>& clusters, std::size_t first) {
     const bool isOther = first + 1 < clusters.size() && clusters[first].look.font != clusters[first + 1].look.font;
-    if (isOther && isListSign(clusters[first].text) && isLetter(clusters[first + 1].text.front()))
+    if (!isOther || !isListSign(clusters[first].text))
+        return;
+    // East Asian letters are of another font than many signs that were typed before them.
+    const char32_t next = clusters[first + 1].text.front();
+    if (isLetter(next) && !isSetWithoutBlanks(next))
         clusters[first + 1].gapBefore.endsWord = true;
 }
 

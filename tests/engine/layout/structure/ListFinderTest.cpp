@@ -168,14 +168,10 @@ TEST(ListFinder, SetsBulletsInTheFontsOfWordProcessors) {
 }
 
 /// A file that has a blank for each one that was typed; behind the labels there is what `label` tells.
-enum class BehindLabels { Nothing, Blank, BlankOfAnotherFont };
+enum class BehindLabels { Nothing, Blank };
 
 DocumentDraft paintedListOf(const std::vector<Row>& rows, BehindLabels label) {
     DocumentDraft draft = tests::makeDraft(1);
-    draft.pages[0].fonts.resize(3);
-    draft.pages[0].fonts[0].name = "Text-Roman";
-    draft.pages[0].fonts[1].name = "Signs";
-    draft.pages[0].fonts[2].name = "Text-Bold";
     draft.blocks.push_back(tests::makeBlock(tests::makeParagraph(
         {tests::makeLine("a line with so many words that it tells how the file was made and whether it has any blanks "
                          "between them at all or leaves gaps",
@@ -189,9 +185,7 @@ DocumentDraft paintedListOf(const std::vector<Row>& rows, BehindLabels label) {
     for (DraftBlock& block : draft.blocks) {
         std::vector<Word>& words = block.paragraph()->pieces.front().text.lines.front().words;
         for (std::size_t i = 1; i < words.size(); ++i)
-            words[i].isTypedBefore = i > 1 || &block == &draft.blocks.front() || label != BehindLabels::Nothing;
-        if (&block != &draft.blocks.front())
-            words[0].spans[0].look.font = label == BehindLabels::BlankOfAnotherFont ? 1 : 2;
+            words[i].isTypedBefore = i > 1 || &block == &draft.blocks.front() || label == BehindLabels::Blank;
     }
     findLists(draft, {});
     return draft;
@@ -205,14 +199,6 @@ TEST(ListFinder, LabelsWithoutThePaintedBlankOfOtherWordsAreWrittenByLists) {
 TEST(ListFinder, LabelsWithABlankOfTheirOwnWereTyped) {
     const DocumentDraft draft = paintedListOf({{"1. one", 90}, {"2. two", 90}}, BehindLabels::Blank);
     EXPECT_EQ(placesOf(draft), "- - -") << "though they stand further in than the text";
-}
-
-TEST(ListFinder, BulletsOfAnotherFontAreWrittenByLists) {
-    const std::vector<Row> bullets{{"\u2022 one", 72}, {"\u2022 two", 72}};
-    EXPECT_EQ(placesOf(paintedListOf(bullets, BehindLabels::BlankOfAnotherFont)), "- 0.0 0.0");
-    EXPECT_EQ(placesOf(paintedListOf(bullets, BehindLabels::Blank)), "- - -") << "only the weight differs";
-    EXPECT_EQ(placesOf(paintedListOf({{"1. one", 72}, {"2. two", 72}}, BehindLabels::BlankOfAnotherFont)), "- - -")
-        << "numbers may be set off by hand";
 }
 
 TEST(ListFinder, HeadingsThatAListNumbersStayHeadings) {
