@@ -17,7 +17,7 @@ struct SymbolBullet {
 };
 
 constexpr SymbolBullet kSymbolBullets[] = {
-    {"\u2022", "Symbol", "\uF0B7"},    {"\u25CF", "Symbol", "\uF0B7"},    {"\u25AA", "Wingdings", "\uF0A7"},
+    {"\u2022", "Symbol", "\uF0B7"},    {"\u25CF", "Wingdings", "\uF06C"}, {"\u25AA", "Wingdings", "\uF0A7"},
     {"\u25A0", "Wingdings", "\uF06E"}, {"\u2713", "Wingdings", "\uF0FC"}, {"\u2714", "Wingdings", "\uF0FC"},
     {"\u27A2", "Wingdings", "\uF0D8"}, {"\u2756", "Wingdings", "\uF076"}, {"\u2794", "Wingdings", "\uF0E8"},
     {"\u25C6", "Wingdings", "\uF075"}, {"\u2751", "Wingdings", "\uF071"}, {"\u25A1", "Wingdings", "\uF0A8"},

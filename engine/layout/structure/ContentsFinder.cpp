@@ -34,10 +34,24 @@ std::optional<int> pageNumberOf(const std::string& text) {
     return isRoman(text) ? std::optional(0) : std::nullopt;
 }
 
-std::string withoutLastWord(const DraftParagraph& paragraph) {
+bool isDash(const Word& word) {
+    const std::string text = textOf(word);
+    return text == "-" || text == "\u2013" || text == "\u2014";
+}
+
+/// How many words at the end of a line are the number of a page: one, or three with a dash on both sides of it.
+std::size_t wordsOfNumber(const Line& line) {
+    const auto count = line.words.size();
+    return count > 3 && isDash(line.words[count - 1]) && isDash(line.words[count - 3]) ? 3 : 1;
+}
+
+std::string withoutLastWords(const DraftParagraph& paragraph, std::size_t count) {
     std::string text = textOf(paragraph);
-    const std::size_t blank = text.rfind(' ');
-    return blank == std::string::npos ? std::string() : text.substr(0, blank);
+    for (; count > 0 && !text.empty(); --count) {
+        const std::size_t blank = text.rfind(' ');
+        text.resize(blank == std::string::npos ? 0 : blank);
+    }
+    return text;
 }
 
 std::optional<Entry> readEntry(DraftBlock& block) {
@@ -45,13 +59,15 @@ std::optional<Entry> readEntry(DraftBlock& block) {
     if (!paragraph || paragraph->role != ParagraphRole::Body || paragraph->pieces.size() != 1)
         return std::nullopt;
     const Line& last = paragraph->lastLine();
-    if (last.angle != 0 || last.words.size() < 2 || last.words.back().gapBefore != Gap::Tab)
+    if (last.angle != 0 || last.words.size() < 2)
         return std::nullopt;
-    const auto number = pageNumberOf(textOf(last.words.back()));
-    if (!number)
+    const std::size_t count = wordsOfNumber(last);
+    const Word& first = last.words[last.words.size() - count];
+    const auto number = pageNumberOf(textOf(last.words[last.words.size() - 1 - count / 2]));
+    if (!number || first.gapBefore != Gap::Tab)
         return std::nullopt;
-    return Entry{paragraph, *number, last.words.back().leaderBefore != document::TabLeader::None,
-                 comparableWithoutNumber(withoutLastWord(*paragraph))};
+    return Entry{paragraph, *number, first.leaderBefore != document::TabLeader::None,
+                 comparableWithoutNumber(withoutLastWords(*paragraph, count))};
 }
 
 /// The texts of all paragraphs of the body, to tell what an entry may name.

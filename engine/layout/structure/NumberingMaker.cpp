@@ -59,9 +59,17 @@ std::optional<Twips> textStartOf(const std::vector<const ListItem*>& items, doub
     return 2 * static_cast<std::size_t>(alike) > items.size() ? std::optional(twipsFromPoints(*usual)) : std::nullopt;
 }
 
+bool hasSeveralLines(const ListItem* item) {
+    return item->paragraph->pieces.front().text.lines.size() > 1;
+}
+
+/// Those of several lines tell where the lines after the first begin; the others follow them.
 void setIndents(NumberingLevel& level, const std::vector<const ListItem*>& items, double tolerance) {
+    const bool isTold = std::any_of(items.begin(), items.end(), hasSeveralLines);
     std::vector<double> starts, firstLines;
     for (const ListItem* item : items) {
+        if (isTold && !hasSeveralLines(item))
+            continue;
         const ItemIndents indents = indentsOf(*item);
         starts.push_back(indents.start);
         firstLines.push_back(indents.firstLine);

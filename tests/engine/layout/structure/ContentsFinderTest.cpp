@@ -18,8 +18,9 @@ struct Row {
 
 DraftBlock rowAt(const Row& row, double baseline) {
     Line line = makeLine(row.text, row.left, baseline);
-    if (row.leader == Leader::Dots && line.words.back().gapBefore == Gap::Tab)
-        line.words.back().leaderBefore = document::TabLeader::Dots;
+    for (Word& word : line.words)
+        if (row.leader == Leader::Dots && word.gapBefore == Gap::Tab)
+            word.leaderBefore = document::TabLeader::Dots;
     return makeBlock(makeParagraph({line}));
 }
 
@@ -51,6 +52,16 @@ TEST(ContentsFinder, TellsEntriesAndTheirLevels) {
     };
     const Case cases[] = {
         {"entries with leaders", {{"Contents"}, {"Aims\t1"}, {"Means\t2", 84}, {"Ends\t5"}}, "-121"},
+        {"numbers between dashes", {{"Aims\t- 1 -"}, {"Means\t- 2 -", 84}, {"Ends\t- 5 -"}}, "121"},
+        {"numbers between dashes without leaders behind what stands elsewhere",
+         {{"1 Aims\t\u2013 1 \u2013", 72, Leader::None},
+          {"2 Means\t\u2013 2 \u2013", 72, Leader::None},
+          {"3 Ends\t\u2013 3 \u2013", 72, Leader::None},
+          {"Aims"},
+          {"Means"},
+          {"Ends"}},
+         "111---"},
+        {"words between dashes", {{"Aims\t- a -"}, {"Means\t- b -"}, {"Ends\t- c -"}}, "---"},
         {"numbers of a preface", {{"Preface\tiv"}, {"Aims\t1"}, {"Means\t2"}}, "111"},
         {"too few", {{"Aims\t1"}, {"Means\t2"}}, "--"},
         {"a price list, whose numbers are in no order", {{"Bread\t30"}, {"Milk\t12"}, {"Eggs\t25"}}, "---"},
