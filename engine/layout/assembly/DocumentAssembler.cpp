@@ -2,6 +2,7 @@
 
 #include "layout/assembly/BlankPages.h"
 #include "layout/assembly/BlockAssembler.h"
+#include "layout/assembly/BoxesApart.h"
 #include "layout/assembly/CommentAssembler.h"
 #include "layout/assembly/DocumentMetadata.h"
 #include "layout/assembly/HangulLines.h"
@@ -175,6 +176,8 @@ document::Document assembleDocument(DocumentDraft draft, const DocumentContext& 
     for (const DraftNumbering& numbering : draft.numberings)
         document.numberings.push_back(assembleNumbering(numbering, assembly));
     document.styles = makeStyles(flows.flows(), assembly);
+    for (BlockFlow& flow : flows.flows())
+        setBoxesApart(flow.blocks);
     findSpacing(flows.flows(), document.styles, assembly);
     document.sections = flows.takeSections();
     document.notes = flows.takeNotes();

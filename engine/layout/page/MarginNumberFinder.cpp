@@ -46,6 +46,7 @@ public:
         if (!step)
             return std::nullopt;
         column.step = *step;
+        column.rowsOfStep = shareOfRows(column);
         column.facing = findFacing(column);
         return column;
     }
@@ -165,16 +166,31 @@ private:
                line.baseline <= m_page.lines[numbers.back().line].baseline;
     }
 
+    /// How many of the lines that the numbers pass over have some text.
+    double shareOfRows(const NumberColumn& column) const {
+        std::vector<double> rows;
+        for (const Line& line : m_page.lines)
+            if (line.angle == 0 && standsAmong(line, column.numbers))
+                rows.push_back(line.baseline);
+        std::sort(rows.begin(), rows.end());
+        const auto isSame = [&](double a, double b) { return b - a <= m_limits.sameEdge; };
+        const auto count = std::unique(rows.begin(), rows.end(), isSame) - rows.begin();
+        const auto numbers = static_cast<double>(column.numbers.size());
+        const double between = (numbers - 1) * (column.step - 1);
+        return between > 0 ? (static_cast<double>(count) - numbers) / between : 0;
+    }
+
     /// By how much most numbers are more than the one above; nullopt where they do not count.
     std::optional<int> stepOf(const std::vector<MarginNumber>& numbers) const {
-        if (numbers.size() < m_limits.fewestOfPage)
+        if (numbers.size() < m_limits.fewestOfSteps)
             return std::nullopt;
         Tally<int> steps;
         for (std::size_t i = 1; i < numbers.size(); ++i)
             steps.add(numbers[i].value - numbers[i - 1].value);
         const int step = *steps.heaviest();
         const bool isSteady = steps.weightOf(step) >= m_limits.steadyShare * static_cast<double>(numbers.size() - 1);
-        return step > 0 && isSteady ? std::optional(step) : std::nullopt;
+        const bool areMany = step > 1 || numbers.size() >= m_limits.fewestOfPage;
+        return step > 0 && areMany && isSteady ? std::optional(step) : std::nullopt;
     }
 
     const PageText& m_page;

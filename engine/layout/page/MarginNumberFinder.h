@@ -25,7 +25,8 @@ struct NumberColumn {
     std::vector<MarginNumber> numbers;
     std::vector<MarginNumber> facing; ///< in the other margin, for the second column of the text
     int step = 1;
-    double right = 0; ///< where they end
+    double right = 0;      ///< where they end
+    double rowsOfStep = 0; ///< share of the lines between two numbers, if they count by more than one, that have text
 };
 
 /// The numbers that stand below each other in the left margin of a page beside the lines of its text and count evenly,

@@ -53,8 +53,27 @@ public:
         // No list is numbered on both sides of the page.
         const bool areOfLines = static_cast<double>(goingOn) >= limits.proseShare * static_cast<double>(numbers) ||
                                 static_cast<double>(faced) >= limits.pageShare * static_cast<double>(numbered);
-        return numbers > 0 && areOfLines &&
+        return numbers > 0 && (areOfLines || passOverLines(limits)) &&
                static_cast<double>(numbered) >= limits.pageShare * static_cast<double>(textPages);
+    }
+
+    /// Whether all count by more than one, over lines with text, and on from page to page: no list does.
+    bool passOverLines(const PageParameters::LineNumbering& limits) const {
+        std::size_t numbers = 0;
+        const NumberColumn* last = nullptr;
+        for (const auto& page : m_pages) {
+            if (!page)
+                continue;
+            const bool isMultiple = page->numbers.front().value % page->step == 0;
+            // The few of a page with many tables are not found.
+            const bool goesOn =
+                !last || (page->step == last->step && page->numbers.front().value > last->numbers.back().value);
+            if (page->step < 2 || !isMultiple || !goesOn || page->rowsOfStep < limits.rowsOfStep)
+                return false;
+            numbers += page->numbers.size();
+            last = &*page;
+        }
+        return numbers >= limits.fewestOfPage;
     }
 
     LineNumbers describe() const {

@@ -32,6 +32,7 @@ struct ParagraphDraft {
     std::optional<Color> shading;
     std::optional<document::DropCapKind> dropCap; ///< how that of its first line stands
     std::optional<ColumnSpan> shadedSpan;         ///< from where to where its shading goes, if not from edge to edge
+    bool isBoxApart = false; ///< its box is not to be drawn as one with that of the paragraph before it
 };
 
 struct PageBlock;

@@ -39,6 +39,8 @@ struct PageParameters {
         double paragraphStep = 2.5;   ///< of the font size; the same for lines that fill the column
         double paragraphIndent = 2.5; ///< of the font size; the first line of a paragraph may begin so far in
         double sliceBlank = 1.0;      ///< of the font size; where less is blank across the page, columns run on
+        double handEndedBlank =
+            0.75; ///< of a column's width; with as much blank up to the other margin nobody wraps lines there
         std::size_t minimumEdgeLines = 10; ///< with fewer lines in a column each may be as wide as it
         double edgeShare =
             0.04; ///< of a column's lines, besides the outermost, that must end near an edge for it to be one ...
@@ -90,14 +92,16 @@ struct PageParameters {
 
     /// MarginNumbers: numbers in the margin beside the lines of a draft.
     struct LineNumbering {
-        std::size_t fewestOfPage = 5; ///< numbers of a page
-        double sameBaseline = 0.3;    ///< of the font size
-        double sameEdge = 1.5;        ///< points; at which the numbers start or end
-        double leastGap = 0.5;        ///< of the font size; between number and text
-        double pageShare = 0.6;       ///< of the pages with text that must have such numbers
-        double steadyShare = 0.9;     ///< of a page's numbers that must count on from the one before
-        double proseShare = 0.25;     ///< of the lines beside them that must go on in lower case: they are no list
-        double fullWidth = 0.5;       ///< of the page's width; shorter lines do not show that they go on
+        std::size_t fewestOfPage = 5;  ///< numbers of a page ...
+        std::size_t fewestOfSteps = 3; ///< ... that count by more than one, from page to page
+        double rowsOfStep = 0.5;       ///< of the lines between two such numbers that have some text
+        double sameBaseline = 0.3;     ///< of the font size
+        double sameEdge = 1.5;         ///< points; at which the numbers start or end
+        double leastGap = 0.5;         ///< of the font size; between number and text
+        double pageShare = 0.6;        ///< of the pages with text that must have such numbers
+        double steadyShare = 0.9;      ///< of a page's numbers that must count on from the one before
+        double proseShare = 0.25;      ///< of the lines beside them that must go on in lower case: they are no list
+        double fullWidth = 0.5;        ///< of the page's width; shorter lines do not show that they go on
     } lineNumbering;
 };
 

@@ -55,6 +55,7 @@ private:
             // Where nearly all lines of the document end well before these do, they may be titles.
             if (band.columns[0].right > m_context.textArea.right + m_context.bodyFontSize)
                 band.columns[0] = evenedAtMiddle(band.columns[0], linesOf(first), m_pageWidth, m_parameters);
+            widenToOtherMargin(band.columns[0], isRightToLeft(columns));
         }
         const double blank = blankBeforeLast(band.columns);
         widenIntoGutters(band.columns);
@@ -106,6 +107,18 @@ private:
         if (area.isEmpty())
             return;
         span = {std::min(span.left, area.left), std::max(span.right, area.right)};
+    }
+
+    /// Nor at an edge that leaves about as much blank before a margin like the one at the start of the lines: lists of
+    /// short texts, each of which was ended by hand.
+    void widenToOtherMargin(ColumnSpan& span, bool isToLeft) const {
+        const double blank = m_pageWidth - span.right - span.left;
+        if ((isToLeft ? -blank : blank) < m_parameters.handEndedBlank * (span.right - span.left))
+            return;
+        if (isToLeft)
+            span.left = m_pageWidth - span.right;
+        else
+            span.right = m_pageWidth - span.left;
     }
 
     /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended

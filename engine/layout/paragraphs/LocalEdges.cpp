@@ -29,17 +29,22 @@ bool isSameBlock(std::span<const Line> lines, std::span<const LineMeasure> measu
                     : std::abs(measures[next].startGap - measures[next - 1].startGap) <= tolerance;
 }
 
-/// Several lines end at the edge exactly, their blanks spread to reach it, or (without blanks) more than chance allows.
-/// A single wide blank may as well part a name from its value.
+bool isFixedPitch(const Line& line, std::span<const pdf::Font> fonts) {
+    const std::uint32_t font = line.words.front().spans.front().look.font;
+    return font < fonts.size() && fonts[font].isFixedPitch;
+}
+
+/// Several lines end at the edge exactly, their blanks spread to reach it, or (without blanks) more than chance allows:
+/// of a typewriter's all with as many letters do. A single wide blank may as well part a name from its value.
 bool isSpreadTo(double edge, std::span<const Line> lines, std::span<const LineMeasure> block, double flush,
-                const ParagraphParameters::Paragraphs& parameters) {
+                const ParagraphContext& context, const ParagraphParameters::Paragraphs& parameters) {
     int spread = 0;
     int flushLines = 0;
     for (std::size_t i = 0; i < block.size(); ++i) {
         const LineMeasure& line = block[i];
         if (line.endGap - edge > flush)
             continue;
-        ++flushLines;
+        flushLines += isFixedPitch(lines[i], context.fonts) ? 0 : 1;
         spread += lines[i].words.size() > 2 && line.meanGap > parameters.stretchedGap * line.blank ? 1 : 0;
     }
     return spread >= parameters.flushLines || flushLines > parameters.flushLines + 1;
@@ -140,7 +145,7 @@ void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measure
         const double edge = nearestEnd(block);
         const bool isOwnEdge =
             block.size() > 1 && edge > parameters.ownEdge * size &&
-            (isSpreadTo(edge, lines.subspan(first), block, parameters.flushTolerance * size, parameters) ||
+            (isSpreadTo(edge, lines.subspan(first), block, parameters.flushTolerance * size, context, parameters) ||
              isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters));
         if (isOwnEdge)
             setEdge(block, edge);

@@ -253,6 +253,9 @@ private:
             sides.bottom = bordersAt(end - 1).bottom;
             for (std::size_t i = first; end - first > 1 && i < end; ++i)
                 m_paragraphs[i].paragraph->borders = sides;
+            const bool followsBox = first > 0 && isBetweenSides(first) && isBetweenSides(first - 1);
+            for (std::size_t i = first; followsBox && i < end; ++i)
+                m_paragraphs[i].paragraph->isBoxApart = !m_paragraphs[first - 1].paragraph->isBoxApart;
             first = end;
         }
     }
