@@ -1,6 +1,8 @@
 #include "layout/page/RegionFinder.h"
 
 #include "layout/page/ColumnEdges.h"
+#include "layout/text/Characters.h"
+#include "layout/text/LineText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -55,7 +57,7 @@ private:
             // Where nearly all lines of the document end well before these do, they may be titles.
             if (band.columns[0].right > m_context.textArea.right + m_context.bodyFontSize)
                 band.columns[0] = evenedAtMiddle(band.columns[0], linesOf(first), m_pageWidth, m_parameters);
-            widenToOtherMargin(band.columns[0], isRightToLeft(columns));
+            widenToOtherMargin(band.columns[0], linesOf(first));
         }
         const double blank = blankBeforeLast(band.columns);
         widenIntoGutters(band.columns);
@@ -111,14 +113,26 @@ private:
 
     /// Nor at an edge that leaves about as much blank before a margin like the one at the start of the lines: lists of
     /// short texts, each of which was ended by hand.
-    void widenToOtherMargin(ColumnSpan& span, bool isToLeft) const {
+    void widenToOtherMargin(ColumnSpan& span, const std::vector<Line>& lines) const {
         const double blank = m_pageWidth - span.right - span.left;
-        if ((isToLeft ? -blank : blank) < m_parameters.handEndedBlank * (span.right - span.left))
-            return;
-        if (isToLeft)
-            span.left = m_pageWidth - span.right;
-        else
+        if (blank >= m_parameters.handEndedBlank * (span.right - span.left) && !mayRunOn(lines, span))
             span.right = m_pageWidth - span.left;
+    }
+
+    /// Whether what most full lines say may go on in the next: in lower case, or in a script without capitals.
+    static bool mayRunOn(const std::vector<Line>& lines, const ColumnSpan& span) {
+        int full = 0;
+        int goingOn = 0;
+        for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+            const Line& next = lines[i + 1];
+            const double room = span.right - lines[i].box.right;
+            if (next.words.empty() || (!next.isRightToLeft && room >= next.words.front().box.width()))
+                continue;
+            const char32_t first = firstCharacterOf(next);
+            ++full;
+            goingOn += isLetter(first) && !isUpperCase(first);
+        }
+        return 2 * goingOn > full;
     }
 
     /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended

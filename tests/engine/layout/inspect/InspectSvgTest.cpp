@@ -58,7 +58,7 @@ TEST(InspectSvg, ShowsWhatFormulasSay) {
 TEST(PageLayoutDump, ShowsThePageInReadingOrder) {
     EXPECT_EQ(dumpPageLayout(layoutOf(twoParagraphs())),
               "page 4, 595 x 842\n"
-              "band 92-138: 0-155\n"
+              "band 92-138: 0-595\n"
               "  column 1\n"
               "    start 0-155 leading 10.0: \"Salt & pepper are <both> spices\"\n"
               "    start 0-80 leading 10.0: \"They go together\"\n");

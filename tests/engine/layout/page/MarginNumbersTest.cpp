@@ -70,6 +70,26 @@ TEST(MarginNumbers, MayStandBesideEverySecondLine) {
     EXPECT_EQ(numbersLeft(pages), 0u);
 }
 
+TEST(MarginNumbers, MayBeFewOfEveryFifthLine) {
+    const auto fifth = [](int first, const char* text) { return Numbered{.first = first, .step = 5, .text = text}; };
+    std::vector<PageText> pages{numberedPage(1, fifth(4, kShort)), numberedPage(2, fifth(19, kShort))};
+    const auto numbers = takeLineNumbers(pages, {});
+    ASSERT_TRUE(numbers) << "5 to 15, then 20 to 30; no text goes on";
+    EXPECT_EQ(numbers->every, 5);
+    EXPECT_EQ(numbersLeft(pages), 0u);
+
+    std::vector<PageText> again{numberedPage(1, fifth(4, kShort)), numberedPage(2, fifth(4, kShort))};
+    EXPECT_FALSE(takeLineNumbers(again, {})) << "they do not count on";
+}
+
+TEST(MarginNumbers, AreThoseOfATableWhereNoLinesLieBetween) {
+    PageText page = makePage(1);
+    for (int i = 1; i <= 12; ++i)
+        page.lines.push_back(makeLine(fmt::format("{}\t{}", 10 * i, kShort), 50, 100 + 14 * i));
+    std::vector<PageText> pages{page};
+    EXPECT_FALSE(takeLineNumbers(pages, {}));
+}
+
 TEST(MarginNumbers, MayBeginALineOfText) {
     PageText page = makePage(1);
     for (int i = 0; i < 8; ++i)

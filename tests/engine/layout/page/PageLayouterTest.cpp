@@ -115,6 +115,23 @@ TEST(PageLayouter, EndsLinesByHandInColumnsNarrowerThanTheirGutter) {
     EXPECT_EQ(addresses(std::string(4, ' ')).substr(0, 22), "Sender of Long Street ") << "lines that fill their column";
 }
 
+TEST(PageLayouter, EndsLinesByHandFarFromTheOtherMargin) {
+    const auto linesOf = [](double left, const std::vector<const char*>& texts) {
+        PageText page = makePage(1);
+        for (const char* text : texts)
+            page.lines.push_back(makeLine(text, left, 100 + 12.0 * static_cast<double>(page.lines.size())));
+        Diagnostics diagnostics;
+        return describe(layoutPage(page, {}, {}, diagnostics));
+    };
+    const std::vector<const char*> texts{"This text has a colour.", "This text is rather red.", "This text is blue."};
+    EXPECT_EQ(linesOf(72, texts), "This text has a colour./This text is rather red./This text is blue.");
+    EXPECT_EQ(linesOf(200, texts), "This text has a colour. This text is rather red. This text is blue.")
+        << "within margins as wide as this they may be full";
+    EXPECT_EQ(linesOf(72, {"This text has a colour", "that is rather red and", "goes on here."}),
+              "This text has a colour that is rather red and goes on here.")
+        << "sentences go on";
+}
+
 TEST(PageLayouter, JoinsNoColumnsWithTextFarBelow) {
     const auto endsInColumn = [](std::size_t blankLines) {
         std::vector<std::string> art{"one two three fou   Nine ten eleven t", "five six seven ei   thirteen fourtee",

@@ -99,6 +99,21 @@ TEST(ParagraphBorders, WhatABoxHoldsHasAllItsSides) {
     EXPECT_EQ(sides(page, 3), "");
 }
 
+TEST(ParagraphBorders, BoxesOneBelowTheOtherStayApart) {
+    PageLayout page = pageWith({100, 120, 200, 300, 400});
+    for (const auto& [top, bottom] : {std::pair(85, 130), std::pair(185, 210), std::pair(285, 310)}) {
+        page.freeRules.push_back(horizontal(top, 68, 527));
+        page.freeRules.push_back(horizontal(bottom, 68, 527));
+        page.freeRules.push_back(vertical(68, top, bottom));
+        page.freeRules.push_back(vertical(527, top, bottom));
+    }
+    page = found(std::move(page));
+    std::string apart;
+    for (std::size_t i = 0; i < 5; ++i)
+        apart += at(page, i).isBoxApart ? "x" : "-";
+    EXPECT_EQ(apart, "--x--") << "what one box holds stays one";
+}
+
 TEST(ParagraphBorders, ARuleBetweenColumnsBelongsToNone) {
     PageLayout page = pageWith({100});
     page.bands[0].columns = {{72, 280}, {300, 523}};

@@ -160,6 +160,18 @@ TEST(ParagraphBuilder, FindsTheEdgeOfTextThatEndsBeforeItsColumn) {
         EXPECT_EQ(textsOf(build(row.art, 45)), row.expected) << row.why;
 }
 
+TEST(ParagraphBuilder, LearnsNoEdgeFromATypewritersLinesOfOneLength) {
+    const std::vector<std::string> art{"Character code 33 is here", "Character code 34 is here",
+                                       "Character code 35 is here", "Character code 36 is here"};
+    std::vector<pdf::Font> fonts = kFonts;
+    ParagraphContext context = kContext;
+    context.fonts = fonts;
+    EXPECT_EQ(buildParagraphs(linesFromArt(art), artColumn(45), context, {}).size(), 1U)
+        << "four lines end at one edge, which letters of their own widths do not by chance";
+    fonts[0].isFixedPitch = true;
+    EXPECT_EQ(buildParagraphs(linesFromArt(art), artColumn(45), context, {}).size(), 4U);
+}
+
 TEST(ParagraphBuilder, GoesOnInAListItemUntilItsSentenceEnds) {
     const auto paragraphs = build({"\u2022 A text box ends before its", "  column does, so that items",
                                    "  look short here.", "\u2022 Another one"},

@@ -130,6 +130,18 @@ TEST(ListFinder, MeasuresTheIndentsOfALevel) {
     EXPECT_EQ(level.firstLine, twipsFromPoints(-30)) << "the label hangs out";
 }
 
+TEST(ListFinder, TakesTheIndentsOfALevelFromItemsOfSeveralLines) {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.blocks = {tests::makeBlock(tests::makeParagraph({tests::makeLine("\u2022\tone", 90, 100)})),
+                    tests::makeBlock(tests::makeParagraph({tests::makeLine("\u2022\ttwo", 90, 114)})),
+                    tests::makeBlock(tests::makeParagraph(
+                        {tests::makeLine("\u2022\tthree", 90, 128), tests::makeLine("more", 90, 142)}))};
+    findLists(draft, {});
+    ASSERT_EQ(placesOf(draft), "0.0 0.0 0.0");
+    EXPECT_EQ(levelOf(draft, 0, 0).indentStart, twipsFromPoints(90 - 72));
+    EXPECT_EQ(levelOf(draft, 0, 0).firstLine, Twips(0)) << "nothing hangs, though most items do not show it";
+}
+
 TEST(ListFinder, RepeatsTheNumbersOfTheLevelAbove) {
     const DocumentDraft draft = listsOf({{"2.\ttwo"}, {"2.1.\tin two"}, {"2.2.\tin two"}, {"3.\tthree"}});
     EXPECT_EQ(levelOf(draft, 0, 1).text, "%1.%2.");
@@ -165,6 +177,10 @@ TEST(ListFinder, SetsBulletsInTheFontsOfWordProcessors) {
     EXPECT_EQ(level.run->fontFamily, "Symbol");
     EXPECT_EQ(document::dump(tests::paragraphAt(document, 0), document),
               "p ListParagraph list=0.0 {start=43pt first=-25pt} \"one\"");
+
+    const auto large = tests::documentOf(listsOf({{"\u25CF\tone"}, {"\u25CF\ttwo"}}));
+    EXPECT_EQ(large.numberings.at(0).levels[0].text, "\uF06C") << "a large one stays large";
+    EXPECT_EQ(large.numberings[0].levels[0].run->fontFamily, "Wingdings");
 }
 
 /// A file that has a blank for each one that was typed; behind the labels there is what `label` tells.
