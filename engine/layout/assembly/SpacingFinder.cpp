@@ -25,7 +25,7 @@ using document::StyleId;
 struct BlockGap {
     AssembledBlock* upper = nullptr;
     AssembledBlock* lower = nullptr;
-    double points = 0;
+    double points = 0; ///< below 0 where lines are lower than thought
 };
 
 /// Finds the spaces that belong to the styles.
@@ -64,8 +64,9 @@ private:
             return std::nullopt;
         const auto agreeing = std::count_if(values.begin(), values.end(),
                                             [&](double value) { return std::abs(value - *usual) <= m_limits.sameGap; });
-        return static_cast<double>(agreeing) >= m_limits.usualShare * static_cast<double>(values.size()) ? usual
-                                                                                                         : std::nullopt;
+        if (static_cast<double>(agreeing) < m_limits.usualShare * static_cast<double>(values.size()))
+            return std::nullopt;
+        return std::max(0.0, *usual);
     }
 
     void setAfter(Style& style) const {
@@ -146,7 +147,7 @@ void setParagraphGap(const Paragraph* above, Paragraph& upper, Paragraph& lower,
 void setGap(const AssembledBlock* above, const BlockGap& gap, const AssemblyParameters::Spacing& limits) {
     Paragraph* upper = gap.upper->paragraph();
     Paragraph* lower = gap.lower->paragraph();
-    const Twips space = twipsFromPoints(gap.points);
+    const Twips space = twipsFromPoints(std::max(0.0, gap.points));
     if (upper && lower)
         setParagraphGap(above ? above->paragraph() : nullptr, *upper, *lower, space, twipsFromPoints(limits.sameGap));
     else if (upper)
@@ -239,7 +240,7 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
         forEachBlock(flow.blocks, flow.kind,
                      [&](AssembledBlock& block, FlowKind) { fitCellRoom(block, context.parameters.tableCells); });
         forEachPair(flow.blocks, [&gaps](AssembledBlock& upper, AssembledBlock& lower) {
-            gaps.push_back({&upper, &lower, std::max(0.0, lower.top - upper.bottom)});
+            gaps.push_back({&upper, &lower, lower.top - upper.bottom});
         });
     }
     StyleSpacing(gaps, limits).set(styles);

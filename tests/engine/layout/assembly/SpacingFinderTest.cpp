@@ -29,6 +29,14 @@ TEST(SpacingFinder, PutsTheUsualSpaceIntoTheStyle) {
         EXPECT_EQ(paragraphAt(document, i).properties, styleOf(document, "Normal").paragraph) << i;
 }
 
+TEST(SpacingFinder, FindsNoSpaceWhereBaselinesAreToldCoarsely) {
+    DocumentDraft draft = draftOfLines({{"one", 100}});
+    for (int line = 1; line < 20; ++line)
+        draft.blocks.push_back(
+            makeBlock(makeParagraph({makeLine("next", 72, 100 + kLine * line + (line % 2 == 0 ? 0 : 0.1))})));
+    EXPECT_EQ(styleOf(documentOf(draft), "Normal").paragraph.spaceAfter, Twips(0));
+}
+
 TEST(SpacingFinder, SetsAnUnusualSpaceOnTheParagraph) {
     const auto document = documentOf(
         draftOfLines({{"one", 100}, {"two", 100 + kLine}, {"three", 100 + 2 * kLine}, {"far below", 130 + 3 * kLine}}));
