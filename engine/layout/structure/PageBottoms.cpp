@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace orvane::layout {
@@ -21,6 +22,7 @@ struct MarginWindow {
     double pages = 0;
     bool isEmpty = false; ///< nothing stands on the pages
     bool isFree = false;  ///< all pages end by hand or with the document
+    bool isShown = false; ///< by notes at the foot of pages that their text does not fill, so that it is the most
     PageMaking making = PageMaking::Author;
 };
 
@@ -53,6 +55,7 @@ public:
         const double highest = highestBottom(pageHeight, lowest, SpaceAbove::Nothing);
         const bool areEndedByHand = highest >= pageHeight || isHalfEmpty(lowest, pageHeight);
         window.isFree = areEndedByHand && !goesOnOverPages();
+        window.isShown = leastRoom(lowest) >= m_limits.endRoom * window.textHeight;
         window.least = pageHeight - highest + m_limits.breakSlack;
         window.leastSpaced = pageHeight - highestBottom(pageHeight, lowest, SpaceAbove::Usual) + m_limits.breakSlack;
         return window;
@@ -65,6 +68,15 @@ private:
             if (m_fills[i].isSplit)
                 return true;
         return false;
+    }
+
+    /// The least room that a page leaves below its text, above the lowest edge or the notes that stand there.
+    double leastRoom(double lowest) const {
+        double room = std::numeric_limits<double>::infinity();
+        for (std::size_t i = m_scheme.firstPage; i <= m_scheme.lastPage; ++i)
+            if (const PageFill& fill = m_fills[i]; !fill.isEmpty)
+                room = std::min(room, fill.room > 0 ? fill.room : lowest - fill.bottom);
+        return room;
     }
 
     /// How high the lower edge may stand so that what starts the pages had no room on those before.
@@ -94,6 +106,8 @@ double roomyMargin(const MarginWindow& window, const StructureParameters::PageSe
 }
 
 double freeMargin(const MarginWindow& window, const StructureParameters::PageSetup& limits) {
+    if (window.isShown)
+        return window.most;
     const double roomy = roomyMargin(window, limits);
     const double least = std::min({window.most, window.top, limits.leastMargin});
     return roomy <= least ? least : tidyLengthWithin(least, roomy, window.top).value_or(least);
@@ -121,8 +135,12 @@ double marginWithin(const MarginWindow& window, const StructureParameters::PageS
 }
 
 bool allows(const MarginWindow& window, double margin, const StructureParameters::PageSetup& limits) {
-    if (window.isEmpty || window.isFree)
-        return window.isEmpty || margin <= roomyMargin(window, limits);
+    if (window.isEmpty)
+        return true;
+    if (window.isFree && window.isShown)
+        return std::abs(window.most - margin) <= limits.sameEdge;
+    if (window.isFree)
+        return margin <= roomyMargin(window, limits);
     return margin >= window.leastSpaced - limits.breakSlack && margin <= window.most;
 }
 

@@ -75,6 +75,11 @@ void widenByText(std::vector<PageFill>& fills, const DraftParagraph& paragraph, 
     }
 }
 
+void addNotes(PageFill& fill, const Rect& notes) {
+    fill.room = std::max(0.0, notes.top - fill.bottom);
+    fill.bottom = std::max(fill.bottom, notes.bottom);
+}
+
 /// The spacing of most lines; single lines, which show none, are taken to have it too.
 LineSpacing usualSpacing(const DocumentDraft& draft, const FontCatalog& fonts, const LayoutParameters& parameters) {
     Tally<LineSpacing> spacings;
@@ -193,7 +198,7 @@ std::vector<PageFill> measurePages(const DocumentDraft& draft, const FontCatalog
     }
     for (std::size_t i = 0; i < draft.noteAreas.size(); ++i)
         if (!draft.noteAreas[i].isEmpty() && !fills[i].isEmpty)
-            fills[i].bottom = std::max(fills[i].bottom, draft.noteAreas[i].bottom);
+            addNotes(fills[i], draft.noteAreas[i]);
     findStarts(fills, draft);
     findGaps(fills, draft, fonts);
     return fills;

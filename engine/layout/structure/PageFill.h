@@ -23,6 +23,7 @@ struct PageFill {
     double gap = 0;      ///< what mostly stands between such blocks as the page's first and the one before it
     double need = 0;     ///< of room for the first thing on the page, so much that it may start on the page before
     double startTop = 0; ///< of what the page starts with; of its highest text or table if it starts with these
+    double room = 0;     ///< between the text and the notes at the page's foot, which show its margin; 0 without notes
 };
 
 /// Measures every page of the draft.

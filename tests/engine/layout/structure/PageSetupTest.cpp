@@ -74,6 +74,22 @@ TEST(PageSetup, LeavesRoomBelowPagesThatEndByHand) {
     EXPECT_GE(setupBottom(draft, 0), 14);
 }
 
+TEST(PageSetup, PutsNotesOfAPageThatEndsByHandWhereTheyStood) {
+    DocumentDraft draft = makeDraft(1);
+    fillPage(draft, 0, 500);
+    draft.noteAreas = {{72, 720, 523, 760}};
+    sectionsOf(draft);
+    EXPECT_NEAR(setupBottom(draft, 0), 842 - 760, 0.1);
+}
+
+TEST(PageSetup, LeavesRoomBelowNotesThatTheTextReaches) {
+    DocumentDraft draft = makeDraft(1);
+    fillPage(draft, 0, 704);
+    draft.noteAreas = {{72, 720, 523, 760}};
+    sectionsOf(draft);
+    EXPECT_LE(setupBottom(draft, 0), 842 - 760 - 20) << "a line that is higher than it was would push text over";
+}
+
 TEST(PageSetup, GivesTheSectionsOfABookOneMargin) {
     DocumentDraft draft = makeDraft(6);
     std::vector<PageRunningHeads> heads(6);
