@@ -28,6 +28,11 @@ struct BlockGap {
     double points = 0; ///< below 0 where lines are lower than thought
 };
 
+/// Heights of lines are rounded, so that there seems to be a bit between them.
+Twips spaceOf(double gap, const AssemblyParameters::Spacing& limits) {
+    return twipsFromPoints(gap > limits.roundedLine ? gap : 0);
+}
+
 /// Finds the spaces that belong to the styles.
 class StyleSpacing {
 public:
@@ -66,7 +71,7 @@ private:
                                             [&](double value) { return std::abs(value - *usual) <= m_limits.sameGap; });
         if (static_cast<double>(agreeing) < m_limits.usualShare * static_cast<double>(values.size()))
             return std::nullopt;
-        return std::max(0.0, *usual);
+        return *usual;
     }
 
     void setAfter(Style& style) const {
@@ -78,7 +83,7 @@ private:
         const bool isHead = style.paragraph.outlineLevel > 0;
         const auto after = isContextual || isHead || !same ? other : same;
         style.paragraph.isContextualSpacing = isContextual;
-        style.paragraph.spaceAfter = twipsFromPoints(after.value_or(0));
+        style.paragraph.spaceAfter = spaceOf(after.value_or(0), m_limits);
     }
 
     /// Space before is what the paragraphs above do not leave anyway.
@@ -147,7 +152,7 @@ void setParagraphGap(const Paragraph* above, Paragraph& upper, Paragraph& lower,
 void setGap(const AssembledBlock* above, const BlockGap& gap, const AssemblyParameters::Spacing& limits) {
     Paragraph* upper = gap.upper->paragraph();
     Paragraph* lower = gap.lower->paragraph();
-    const Twips space = twipsFromPoints(std::max(0.0, gap.points));
+    const Twips space = spaceOf(gap.points, limits);
     if (upper && lower)
         setParagraphGap(above ? above->paragraph() : nullptr, *upper, *lower, space, twipsFromPoints(limits.sameGap));
     else if (upper)

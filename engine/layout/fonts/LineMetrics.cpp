@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace orvane::layout {
@@ -22,15 +23,31 @@ double writtenSize(const Look& look) {
     return halfPointsFromPoints(look.size).value / 2.0;
 }
 
-/// The middle one of the distances between lines, and the height in single spacing of the lines that these distances
-/// lead to.
+/// The usual distance between lines, and the height in single spacing of the lines that these distances lead to.
 struct Pitch {
     double distance = 0;
     double natural = 0;
     bool isKnown = false;
+    std::size_t count = 0; ///< of such distances
 };
 
-Pitch pitchOf(const DraftParagraph& paragraph, const FontCatalog& fonts) {
+/// The distance in the middle, and the mean of all that are the same where places are told coarsely.
+Pitch usualPitch(std::vector<std::pair<double, double>> steps, double coarsePlace) {
+    constexpr double kRounding = 1.5; // of a coarse step, that of two places taken together
+    const auto middle = steps.begin() + static_cast<std::ptrdiff_t>(steps.size() / 2);
+    std::nth_element(steps.begin(), middle, steps.end());
+    Pitch pitch{0, middle->second, false, 0};
+    const double distance = middle->first;
+    for (const auto& [step, natural] : steps)
+        if (std::abs(step - distance) <= kRounding * coarsePlace && natural == pitch.natural) {
+            pitch.distance += step;
+            ++pitch.count;
+        }
+    pitch.distance /= static_cast<double>(pitch.count);
+    return pitch;
+}
+
+Pitch pitchOf(const DraftParagraph& paragraph, const FontCatalog& fonts, double coarsePlace) {
     std::vector<std::pair<double, double>> steps; // distance, natural height
     bool isKnown = true;
     for (const DraftPiece& piece : paragraph.pieces) {
@@ -45,9 +62,9 @@ Pitch pitchOf(const DraftParagraph& paragraph, const FontCatalog& fonts) {
     }
     if (steps.empty())
         return {};
-    const auto middle = steps.begin() + static_cast<std::ptrdiff_t>(steps.size() / 2);
-    std::nth_element(steps.begin(), middle, steps.end());
-    return {middle->first, middle->second, isKnown};
+    Pitch pitch = usualPitch(std::move(steps), coarsePlace);
+    pitch.isKnown = isKnown;
+    return pitch;
 }
 
 bool hasFormula(const DraftParagraph& paragraph) {
@@ -78,14 +95,20 @@ LineSpacing exactSpacing(double height, const AssemblyParameters::Spacing& limit
     return {LineSpacingRule::Exact, 1.0, twipsFromPoints(isRound ? round : height)};
 }
 
-/// What people choose from menus and dialogs.
-double tidyMultiple(double multiple, double tolerance) {
+/// The multiple that people choose from menus and dialogs with which lines come out that far apart, give or take the
+/// tolerance in points; nullopt for none.
+std::optional<double> chosenMultiple(const Pitch& pitch, double tolerance) {
     static constexpr std::array kUsual = {1.0, 1.05, 1.08, 1.1,  1.15, 1.2, 1.25, 1.3, 1.35,
                                           1.4, 1.5,  1.6,  1.75, 1.8,  2.0, 2.25, 2.5, 3.0};
-    const auto nearest = std::min_element(kUsual.begin(), kUsual.end(), [multiple](double a, double b) {
-        return std::abs(a - multiple) < std::abs(b - multiple);
-    });
-    return std::abs(*nearest - multiple) <= tolerance ? *nearest : multiple;
+    const auto distanceTo = [&pitch](double multiple) { return std::abs(multiple * pitch.natural - pitch.distance); };
+    const auto nearest = std::min_element(kUsual.begin(), kUsual.end(),
+                                          [&](double a, double b) { return distanceTo(a) < distanceTo(b); });
+    return distanceTo(*nearest) <= tolerance ? std::optional(*nearest) : std::nullopt;
+}
+
+/// The multiple in steps that all word processors keep: they write it in 240ths, and some cut these to hundredths.
+double wholeHundredths(double multiple) {
+    return std::ceil(2.4 * std::round(100 * multiple)) / 240;
 }
 
 } // namespace
@@ -137,19 +160,23 @@ std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const 
     // It needs all of its height: an exact one would cut it, a multiple would part it from its text.
     if (isFormulaLine(paragraph.firstLine()))
         return LineSpacing{};
-    const Pitch pitch = pitchOf(paragraph, fonts);
+    const Pitch pitch = pitchOf(paragraph, fonts, parameters.spacing.coarsePlace);
     if (pitch.natural <= 0 || pitch.distance <= parameters.spacing.overlap * pitch.natural)
         return std::nullopt;
     const double multiple = pitch.distance / pitch.natural;
     const auto& limits = parameters.spacing;
     const bool isBelievable = multiple >= limits.lowestMultiple && multiple <= limits.highestMultiple;
-    const double tidy = tidyMultiple(multiple, limits.multipleTolerance);
-    const bool isOnGrid = std::abs(tidy * pitch.natural - pitch.distance) > limits.sameGrid && isEastAsian(paragraph);
+    const bool mayStandOnGrid = isEastAsian(paragraph);
+    const double coarseness = limits.roundedLine + limits.coarsePlace / static_cast<double>(pitch.count);
+    const auto chosen = chosenMultiple(pitch, mayStandOnGrid ? limits.nearGrid * pitch.natural : coarseness);
+    const bool isOnGrid =
+        mayStandOnGrid && chosen && std::abs(*chosen * pitch.natural - pitch.distance) > limits.sameGrid;
     // Another multiple than the usual ones tells that the font's lines are not as high as thought, or that the height
     // was set; one clearly below single spacing always does.
-    const bool isSet = multiple < limits.leastChosen && !isEastAsian(paragraph);
-    if (isBelievable && !isOnGrid && !isSet && (pitch.isKnown || tidy != multiple))
-        return LineSpacing{LineSpacingRule::Multiple, tidy, {}};
+    const bool isSet = multiple < limits.leastChosen && !mayStandOnGrid;
+    if (isBelievable && !isOnGrid && !isSet && (pitch.isKnown || chosen))
+        return LineSpacing{
+            LineSpacingRule::Multiple, chosen.value_or(mayStandOnGrid ? multiple : wholeHundredths(multiple)), {}};
     LineSpacing spacing = exactSpacing(pitch.distance, limits);
     if (hasFormula(paragraph))
         spacing.rule = LineSpacingRule::AtLeast; // an exact height would cut those that are higher

@@ -55,7 +55,7 @@ public:
         const double highest = highestBottom(pageHeight, lowest, SpaceAbove::Nothing);
         const bool areEndedByHand = highest >= pageHeight || isHalfEmpty(lowest, pageHeight);
         window.isFree = areEndedByHand && !goesOnOverPages();
-        window.isShown = leastRoom(lowest) >= m_limits.endRoom * window.textHeight;
+        window.isShown = leastRoom(lowest) >= 2 * m_limits.endRoom * window.textHeight;
         window.least = pageHeight - highest + m_limits.breakSlack;
         window.leastSpaced = pageHeight - highestBottom(pageHeight, lowest, SpaceAbove::Usual) + m_limits.breakSlack;
         return window;

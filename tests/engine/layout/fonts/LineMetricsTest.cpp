@@ -28,7 +28,21 @@ TEST(LineMetrics, ReadsTheMultipleThatTheAuthorChose) {
     EXPECT_DOUBLE_EQ(spacingAt(12.2).multiple, 1.0);
     EXPECT_DOUBLE_EQ(spacingAt(14.04).multiple, 1.15);
     EXPECT_DOUBLE_EQ(spacingAt(18.3).multiple, 1.5);
-    EXPECT_NEAR(spacingAt(17.3).multiple, 1.417, 0.001) << "an odd one is kept";
+    EXPECT_DOUBLE_EQ(spacingAt(17.3).multiple, 341.0 / 240)
+        << "an odd one is kept, in hundredths, rounded up to what is written";
+}
+
+TEST(LineMetrics, MeasuresThePitchOverAllLines) {
+    // Pages of many lines: 12.33 for 12.21 points would push the last of fifty down by half a line.
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.pages[0].fonts[0].name = draft.pages[0].fonts[0].family = "Carlito";
+    std::vector<Line> lines;
+    for (const double step : {0.0, 12.3, 24.7, 37.0, 49.4, 61.7}) // 12.34 points, told coarsely
+        lines.push_back(tests::makeLine("word", 72, 100 + step));
+    draft.blocks.push_back(tests::makeBlock(tests::makeParagraph(std::move(lines))));
+    const auto spacing = lineSpacingOf(*draft.blocks[0].paragraph(), FontCatalog(draft, FontParameters()), {});
+    ASSERT_TRUE(spacing);
+    EXPECT_DOUBLE_EQ(spacing->multiple, 243.0 / 240);
 }
 
 TEST(LineMetrics, SetsExactHeightsForFontsThatNothingStandsInFor) {
