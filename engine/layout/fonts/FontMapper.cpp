@@ -110,6 +110,7 @@ MappedFont fromFamily(const FontFamily& family) {
     if (family.ascent > 0) {
         font.ascent = family.ascent;
         font.descent = family.descent;
+        font.boldAscent = family.boldAscent;
         font.isLineKnown = true;
     }
     return font;
@@ -125,6 +126,7 @@ const std::unordered_map<std::string, MappedFont>& knownFonts() {
             if (alias.ascent > 0) {
                 font.ascent = alias.ascent;
                 font.descent = alias.descent;
+                font.boldAscent = 0;
             }
             known.emplace(alias.key, font);
         }

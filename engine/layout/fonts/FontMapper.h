@@ -24,6 +24,7 @@ struct MappedFont {
     /// em, by character; of a font that the document brings along, so that letters are as wide as in the PDF. Null for
     /// others.
     std::shared_ptr<const std::map<char32_t, double>> carriedAdvances{};
+    double boldAscent = 0; ///< em; of bold letters, where it differs; 0: as `ascent`
 
     bool isCarried() const { return carriedAdvances != nullptr; }
     double lineHeight() const { return ascent + descent; }

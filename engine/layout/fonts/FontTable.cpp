@@ -32,7 +32,7 @@ constexpr FontFamily kFamilies[] = {
     {"DejaVu Sans", FontClass::Sans, 0.928, 0.236},
     {"DejaVu Sans Condensed", FontClass::Sans, 0.928, 0.236},
     {"DejaVu Sans Mono", FontClass::Fixed, 0.928, 0.236},
-    {"DejaVu Serif", FontClass::Serif, 0.928, 0.236},
+    {"DejaVu Serif", FontClass::Serif, 0.928, 0.236, 0.939},
     {"DejaVu Math TeX Gyre", FontClass::Serif, 0.992, 0.208},
     {"Frank Ruehl CLM", FontClass::Serif, 0.875, 0.250},
     {"FrankRuehl", FontClass::Serif},

@@ -12,8 +12,9 @@ enum class FontClass : unsigned char { Serif, Sans, Fixed, Symbol };
 struct FontFamily {
     std::string_view name; ///< as a word processor lists it
     FontClass kind = FontClass::Sans;
-    double ascent = 0;  ///< from a line's top to its baseline in single spacing, line gap included; 0: unknown
-    double descent = 0; ///< from the baseline to the line's bottom
+    double ascent = 0;     ///< from a line's top to its baseline in single spacing, line gap included; 0: unknown
+    double descent = 0;    ///< from the baseline to the line's bottom
+    double boldAscent = 0; ///< of its bold faces, where it differs; 0: as the others
 };
 
 /// Another spelling of a family, or a family with the same metrics that stood in for it when the PDF was made.

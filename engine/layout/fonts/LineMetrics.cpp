@@ -127,7 +127,8 @@ LineExtent extentOf(const Line& line, std::size_t page, const FontCatalog& fonts
             }
             const MappedFont& font = fonts.font(page, span.look.font);
             const double size = writtenSize(span.look);
-            extent.ascent = std::max(extent.ascent, font.ascent * size);
+            const double ascent = span.look.isBold && font.boldAscent > 0 ? font.boldAscent : font.ascent;
+            extent.ascent = std::max(extent.ascent, ascent * size);
             extent.descent = std::max(extent.descent, font.descent * size);
             extent.isKnown = extent.isKnown && font.isLineKnown;
         }
@@ -167,7 +168,7 @@ std::optional<LineSpacing> lineSpacingOf(const DraftParagraph& paragraph, const 
     const auto& limits = parameters.spacing;
     const bool isBelievable = multiple >= limits.lowestMultiple && multiple <= limits.highestMultiple;
     const bool mayStandOnGrid = isEastAsian(paragraph);
-    const double coarseness = limits.roundedLine + limits.coarsePlace / static_cast<double>(pitch.count);
+    const double coarseness = limits.roundedLine + limits.coarsePlace / 2 / static_cast<double>(pitch.count);
     const auto chosen = chosenMultiple(pitch, mayStandOnGrid ? limits.nearGrid * pitch.natural : coarseness);
     const bool isOnGrid =
         mayStandOnGrid && chosen && std::abs(*chosen * pitch.natural - pitch.distance) > limits.sameGrid;

@@ -69,6 +69,17 @@ TEST(LineMetrics, CountsWithTheSizeThatIsWritten) {
     EXPECT_LT(heightAt(10.6), heightAt(11));
 }
 
+TEST(LineMetrics, KnowsTheLinesOfBoldLettersThatAreHigher) {
+    DocumentDraft draft = tests::makeDraft(1);
+    draft.pages[0].fonts[0].name = draft.pages[0].fonts[0].family = "DejaVu Serif";
+    const FontCatalog fonts(draft, FontParameters());
+    const auto ascentOf = [&](bool isBold) {
+        return extentOf(tests::makeLine("word", 72, 100, {.size = 20, .isBold = isBold}), 0, fonts).ascent;
+    };
+    EXPECT_NEAR(ascentOf(false), 20 * 0.928, 0.025);
+    EXPECT_NEAR(ascentOf(true), 20 * 0.939, 0.025);
+}
+
 TEST(LineMetrics, SetsEastAsianLinesOnTheirGrid) {
     const LineSpacing spacing = spacingAt(18.04, "Noto Sans CJK JP", "日本語の文章");
     EXPECT_EQ(spacing.rule, LineSpacingRule::Exact);
