@@ -55,6 +55,7 @@ public:
         const double highest = highestBottom(pageHeight, lowest, SpaceAbove::Nothing);
         const bool areEndedByHand = highest >= pageHeight || isHalfEmpty(lowest, pageHeight);
         window.isFree = areEndedByHand && !goesOnOverPages();
+        // Text that comes out much higher must not reach the notes, for then it goes over to a further page.
         window.isShown = leastRoom(lowest) >= 2 * m_limits.endRoom * window.textHeight;
         window.least = pageHeight - highest + m_limits.breakSlack;
         window.leastSpaced = pageHeight - highestBottom(pageHeight, lowest, SpaceAbove::Usual) + m_limits.breakSlack;
