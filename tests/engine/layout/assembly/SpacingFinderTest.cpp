@@ -37,6 +37,13 @@ TEST(SpacingFinder, FindsNoSpaceWhereBaselinesAreToldCoarsely) {
     EXPECT_EQ(styleOf(documentOf(draft), "Normal").paragraph.spaceAfter, Twips(0));
 }
 
+TEST(SpacingFinder, FindsNoSpaceWhereHeightsOfLinesAreRounded) {
+    DocumentDraft draft = draftOfLines({{"one", 100}});
+    for (int line = 1; line < 20; ++line)
+        draft.blocks.push_back(makeBlock(makeParagraph({makeLine("next", 72, 100 + (kLine + 0.05) * line)})));
+    EXPECT_EQ(styleOf(documentOf(draft), "Normal").paragraph.spaceAfter, Twips(0)) << "a page has dozens of lines";
+}
+
 TEST(SpacingFinder, SetsAnUnusualSpaceOnTheParagraph) {
     const auto document = documentOf(
         draftOfLines({{"one", 100}, {"two", 100 + kLine}, {"three", 100 + 2 * kLine}, {"far below", 130 + 3 * kLine}}));
