@@ -38,20 +38,21 @@ public:
         : m_pages(std::move(pages)) {}
 
     bool isSure(std::size_t textPages, const PageParameters::LineNumbering& limits) const {
-        std::size_t numbered = 0, faced = 0, numbers = 0, goingOn = 0;
+        std::size_t numbered = 0, faced = 0, numbers = 0, goingOn = 0, blank = 0;
         for (const auto& page : m_pages) {
             if (!page)
                 continue;
             ++numbered;
             faced += !page->facing.empty();
-            numbers +=
-                static_cast<std::size_t>(std::count_if(page->numbers.begin(), page->numbers.end(),
-                                                       [](const MarginNumber& number) { return number.hasText(); }));
-            goingOn += static_cast<std::size_t>(std::count_if(
-                page->numbers.begin(), page->numbers.end(), [](const MarginNumber& number) { return number.goesOn; }));
+            for (const MarginNumber& number : page->numbers) {
+                numbers += number.hasText();
+                blank += !number.hasText();
+                goingOn += number.goesOn;
+            }
         }
-        // No list is numbered on both sides of the page.
-        const bool areOfLines = static_cast<double>(goingOn) >= limits.proseShare * static_cast<double>(numbers) ||
+        // No list counts blank lines, though a form may. None is numbered on both sides of the page.
+        const std::size_t ofLines = goingOn + std::min(goingOn, blank);
+        const bool areOfLines = static_cast<double>(ofLines) >= limits.proseShare * static_cast<double>(numbers) ||
                                 static_cast<double>(faced) >= limits.pageShare * static_cast<double>(numbered);
         return numbers > 0 && (areOfLines || passOverLines(limits)) &&
                static_cast<double>(numbered) >= limits.pageShare * static_cast<double>(textPages);

@@ -129,6 +129,29 @@ TEST(MarginNumbers, MayStandInBothMargins) {
     EXPECT_FALSE(takeLineNumbers(others, {})) << "what stands across counts something else";
 }
 
+/// Twenty numbers, every fifth beside a line that goes on if some do; `blank` of the others beside nothing.
+PageText pageWithBlanks(int blank, bool goesOn) {
+    PageText page = makePage(1);
+    for (int i = 0; i < 20; ++i) {
+        const double y = 100 + 14 * i;
+        page.lines.push_back(makeLine(fmt::format("{}", i + 1), i < 9 ? 55 : 50, y));
+        if (i % 5 == 1)
+            page.lines.push_back(makeLine(goesOn ? kFull : kShort, 90, y));
+        else if (i % 5 != 3 || i >= 5 * blank)
+            page.lines.push_back(makeLine(kShort, 90, y));
+    }
+    return page;
+}
+
+TEST(MarginNumbers, CountBlankLinesAsNoListDoes) {
+    std::vector<PageText> pages{pageWithBlanks(3, true)};
+    EXPECT_TRUE(takeLineNumbers(pages, {}));
+    pages = {pageWithBlanks(0, true)};
+    EXPECT_FALSE(takeLineNumbers(pages, {})) << "few lines go on, and none is blank";
+    pages = {pageWithBlanks(3, false)};
+    EXPECT_FALSE(takeLineNumbers(pages, {})) << "a form has lines to fill in";
+}
+
 TEST(MarginNumbers, AreThoseOfAListWhereNoTextGoesOn) {
     std::vector<PageText> pages{numberedPage(1, {.text = kShort}), numberedPage(2, {.first = 13, .text = kShort})};
     EXPECT_FALSE(takeLineNumbers(pages, {}));
