@@ -97,6 +97,17 @@ private:
         return m_rows[i].pieces.size() > first ? &m_rows[i].pieces[first] : nullptr;
     }
 
+    /// How many lines of the value the row holds: several where the label stands beside the middle of them.
+    int valueLinesOf(std::size_t i) const {
+        const TextPiece* value = valueOf(i);
+        if (!value)
+            return 0;
+        return 1 + static_cast<int>(
+                       std::count_if(m_rows[i].pieces.begin(), m_rows[i].pieces.end(), [&](const TextPiece& piece) {
+                           return isAtLeft(piece, m_valueLeft) && piece.baseline != value->baseline;
+                       }));
+    }
+
     /// Joins the row if it is a label, a value, or both.
     bool take(std::size_t i) {
         const TextPiece* value = valueOf(i);
@@ -117,7 +128,7 @@ private:
             if (hasLabel(i) && (i == m_first || !goesOnFromLabelAbove(i)))
                 m_labelled.push_back({i, i, 0});
             m_labelled.back().end = i + 1;
-            m_labelled.back().valueLines += valueOf(i) != nullptr;
+            m_labelled.back().valueLines += valueLinesOf(i);
         }
     }
 
@@ -166,6 +177,12 @@ private:
                m_labelColumn.width() < m_valueColumn.width();
     }
 
+    /// Whether a label stands beside the middle of the lines of its value, as no line of a column of text would.
+    bool hasCentredLabel() const {
+        return std::any_of(m_labelled.begin(), m_labelled.end(),
+                           [&](const LabelledRow& row) { return hasLabel(row.first) && valueLinesOf(row.first) > 1; });
+    }
+
     /// Whether the values are a stretch of a column of text that runs on above or below, or from one label to the next.
     bool isOfColumns() const {
         const std::size_t end = m_labelled.back().end;
@@ -176,6 +193,8 @@ private:
         if ((m_first > 0 && isNear(m_first) && isOfColumn(m_rows[m_first - 1])) ||
             (end < m_rows.size() && isNear(end) && isOfColumn(m_rows[end])))
             return true;
+        if (hasCentredLabel())
+            return false;
         int begun = 0;
         int full = 0;
         for (std::size_t i = 1; i < m_labelled.size(); ++i) {
