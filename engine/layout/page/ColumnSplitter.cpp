@@ -93,6 +93,8 @@ public:
 
     /// All that stands over the page's width: columns of text, or where there are none those of text beside a table.
     PagePart splitPage(std::vector<Line> lines) const {
+        if (!m_walls.strips.empty())
+            return splitStrips(std::move(lines));
         PagePart page = split(lines);
         if (page.kind == Kind::Lines)
             if (const auto beside = findTextBesideTable(lines, m_walls.tables, m_parameters.regions))
@@ -149,6 +151,34 @@ private:
         addPart(slices, std::move(columns));
         if (!below.empty())
             addPart(slices, splitPage(std::move(below)));
+        return slices;
+    }
+
+    /// The strips as columns, with what stands above and below them.
+    PagePart splitStrips(std::vector<Line> lines) const {
+        cutAtStrips(lines, m_walls.strips);
+        PagePart columns{.kind = Kind::Columns};
+        for (const ColumnStrip& strip : m_walls.strips) {
+            const auto first = std::stable_partition(lines.begin(), lines.end(),
+                                                     [&](const Line& line) { return !strip.holds(line.box); });
+            PagePart column = split({first, lines.end()}, 1);
+            lines.erase(first, lines.end());
+            for (const Rect& table : m_walls.tables)
+                if (strip.holds(table))
+                    column.object = column.object.united(table);
+            const bool isBlank = column.kind == Kind::Lines && column.lines.empty() && column.object.isEmpty();
+            if (!isBlank)
+                addPart(columns, std::move(column));
+        }
+        const auto below = std::stable_partition(lines.begin(), lines.end(), [&](const Line& line) {
+            return line.box.centerY() < m_walls.strips.front().top;
+        });
+        PagePart slices{.kind = Kind::Slices};
+        if (below != lines.begin())
+            addPart(slices, split({lines.begin(), below}, 1));
+        addPart(slices, std::move(columns));
+        if (below != lines.end())
+            addPart(slices, split({below, lines.end()}, 1));
         return slices;
     }
 

@@ -42,12 +42,15 @@ public:
 
 private:
     void takeTables(Diagnostics& diagnostics) {
+        m_strips = findColumnStrips(m_page, m_parameters);
         for (TableDraft& table : findTables(m_page, m_context, m_parameters, diagnostics)) {
             const Rect box = table.box;
             m_walls.push_back(box);
             addObject(box, 0, std::move(table));
         }
         m_tableCount = m_walls.size();
+        if (std::any_of(m_walls.begin(), m_walls.end(), [&](const Rect& table) { return leadsOver(m_strips, table); }))
+            m_strips.clear();
     }
 
     void takePageFacts() {
@@ -124,9 +127,9 @@ private:
     }
 
     void findColumns() {
-        m_regions =
-            findRegions(std::move(m_page.lines), {m_walls, std::span(m_walls).first(m_tableCount), m_layout.width},
-                        m_context, m_parameters);
+        m_regions = findRegions(std::move(m_page.lines),
+                                {m_walls, std::span(m_walls).first(m_tableCount), m_layout.width, m_strips}, m_context,
+                                m_parameters);
         if (m_regions.bands.empty()) {
             const Rect& area = m_context.textArea;
             m_regions.bands.push_back({area.top, area.bottom, {{area.left, area.right}}, false});
@@ -247,6 +250,7 @@ private:
     std::vector<Figure> m_overlaid; ///< in front of the text
     std::vector<Rect> m_walls;      ///< tables, then figures
     std::size_t m_tableCount = 0;   ///< of the walls
+    std::vector<ColumnStrip> m_strips;
     std::vector<PageObject> m_objects;
     std::vector<PageBlock> m_objectBlocks; ///< one for each of m_objects
     PageRegions m_regions;

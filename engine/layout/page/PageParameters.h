@@ -25,6 +25,12 @@ struct PageParameters {
         double lowestBand = 24;    ///< points; beside less it may be anything
         double leastShare = 0.8;   ///< of the band's height that it reaches over
         double insideShare = 0.75; ///< of its length within the columns; one that reaches farther is drawn as it is
+        // ColumnStrips: rules that part whatever stands at their sides.
+        double pageShare = 0.5;      ///< of the page's height that it has at least
+        double touch = 1.5;          ///< points; what ends this near to it touches it
+        std::size_t fewestLines = 6; ///< of text at each side
+        double sameBaseline = 0.5;   ///< points; lines whose baselines are this near stand side by side
+        double sharedLines = 0.7;    ///< of the fewer ones that may stand beside a line of the other side
     } separators;
 
     /// ColumnGutter, RegionFinder: where columns are.

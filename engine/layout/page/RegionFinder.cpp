@@ -41,6 +41,7 @@ private:
             std::reverse(columns.begin(), columns.end());
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const std::size_t firstOfColumn = m_result.regions.size();
+            const Rect tables = columns[i].object;
             addRegions(std::move(columns[i]), static_cast<int>(i));
             const std::vector<Line> lines = linesOf(firstOfColumn);
             for (std::size_t r = firstOfColumn; r < m_result.regions.size(); ++r) {
@@ -48,9 +49,11 @@ private:
                 band.top = std::min(band.top, region.box.top);
                 band.bottom = std::max(band.bottom, region.box.bottom);
             }
-            const Rect& table = m_result.regions[firstOfColumn].box;
-            band.columns.push_back(lines.empty() ? ColumnSpan{table.left, table.right}
-                                                 : findColumnEdges(lines, m_parameters));
+            ColumnSpan span =
+                lines.empty() ? ColumnSpan{tables.left, tables.right} : findColumnEdges(lines, m_parameters);
+            if (!tables.isEmpty())
+                span = {std::min(span.left, tables.left), std::max(span.right, tables.right)};
+            band.columns.push_back(span);
         }
         if (band.columns.size() == 1) {
             widenToTextArea(band.columns[0]);

@@ -1,5 +1,6 @@
 #include "layout/tables/TableFinder.h"
 
+#include "layout/page/ColumnStrips.h"
 #include "layout/tables/BorderlessTableFinder.h"
 #include "layout/tables/CellBuilder.h"
 #include "layout/tables/FormGridFinder.h"
@@ -71,10 +72,8 @@ std::vector<TableGrid> besideTables(std::vector<TableGrid> grids, const std::vec
     return grids;
 }
 
-} // namespace
-
-std::vector<TableDraft> findTables(PageText& page, const DocumentContext& context, const LayoutParameters& parameters,
-                                   Diagnostics&) {
+std::vector<TableDraft> findTablesAmong(PageText& page, const DocumentContext& context,
+                                        const LayoutParameters& parameters) {
     const TableParameters::Tables& limits = parameters.tables;
     std::vector<TableDraft> tables;
     const auto take = [&](std::vector<TableGrid> grids, const std::vector<BorderLine>& lines, TableEdges edges) {
@@ -105,6 +104,45 @@ std::vector<TableDraft> findTables(PageText& page, const DocumentContext& contex
     const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
     take(besideTables(findGroundGrids(page, left, limits), tables), left, TableEdges::Ruled);
     take(findLabelledGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
+    return tables;
+}
+
+/// The tables of each strip by itself; none where fewer than two strips hold some.
+std::vector<TableDraft> findTablesInStrips(PageText& page, const std::vector<ColumnStrip>& strips,
+                                           const DocumentContext& context, const LayoutParameters& parameters) {
+    cutAtStrips(page.lines, strips);
+    std::vector<TableDraft> tables;
+    std::vector<Line> others = std::move(page.lines);
+    std::size_t stripsWithTables = 0;
+    for (const ColumnStrip& strip : strips) {
+        const auto first = std::stable_partition(others.begin(), others.end(),
+                                                 [&](const Line& line) { return !strip.holds(line.box); });
+        page.lines.assign(std::make_move_iterator(first), std::make_move_iterator(others.end()));
+        others.erase(first, others.end());
+        std::vector<TableDraft> found = findTablesAmong(page, context, parameters);
+        stripsWithTables += !found.empty();
+        std::move(found.begin(), found.end(), std::back_inserter(tables));
+        std::move(page.lines.begin(), page.lines.end(), std::back_inserter(others));
+    }
+    page.lines = std::move(others);
+    if (stripsWithTables < 2)
+        tables.clear();
+    return tables;
+}
+
+} // namespace
+
+std::vector<TableDraft> findTables(PageText& page, const DocumentContext& context, const LayoutParameters& parameters,
+                                   Diagnostics&) {
+    std::vector<TableDraft> tables;
+    if (const std::vector<ColumnStrip> strips = findColumnStrips(page, parameters); !strips.empty()) {
+        PageText parted = page;
+        tables = findTablesInStrips(parted, strips, context, parameters);
+        if (!tables.empty())
+            page = std::move(parted);
+    }
+    if (tables.empty())
+        tables = findTablesAmong(page, context, parameters);
     std::sort(tables.begin(), tables.end(), [](const TableDraft& a, const TableDraft& b) {
         return a.box.top != b.box.top ? a.box.top < b.box.top : a.box.left < b.box.left;
     });

@@ -87,6 +87,68 @@ TEST(PageLayouter, ReadsColumnsOneAfterTheOther) {
         EXPECT_EQ(describe(layoutArt(row.art)), row.expected) << row.why;
 }
 
+TEST(PageLayouter, PartsColumnsAtALongRuleHoweverNarrowTheGutter) {
+    PageText page = makePage(1);
+    std::string left, right;
+    for (int i = 0; i < 8; ++i) {
+        page.lines.push_back(makeLine("apples and pears and plums", 50, 100 + 12 * i));
+        page.lines.push_back(makeLine("oaks and elms and limes", 186, 105 + 12 * i));
+        left += (i == 0 ? "" : " ") + textOf(page.lines[0]);
+        right += (i == 0 ? "" : " ") + textOf(page.lines[1]);
+    }
+    page.rules.push_back(tests::ruleAt(RuleDirection::Vertical, 183, 60, 560));
+    DocumentContext context;
+    context.bodyFontSize = 10;
+    context.bodyLeading = 12;
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+    EXPECT_EQ(describe(layout), left + "|" + right);
+    EXPECT_TRUE(layout.bands.at(0).hasSeparator);
+}
+
+TEST(PageLayouter, MakesColumnsAtALongRuleAsWideAsTheirTables) {
+    PageText page = makePage(1);
+    page.lines.push_back(makeLine("fruit", 50, 80));
+    page.lines.push_back(makeLine("trees", 320, 80));
+    for (int i = 0; i < 8; ++i)
+        for (int number = 0; number < 3; ++number) {
+            const int left = 50 + 70 * number;
+            page.lines.push_back(makeLine(number == 0 ? "apples" : "12", left, 100 + 12 * i));
+            page.lines.push_back(makeLine(number == 0 ? "oaks" : "12", 270 + left, 105 + 12 * i));
+        }
+    std::stable_sort(page.lines.begin(), page.lines.end(),
+                     [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
+    page.rules.push_back(tests::ruleAt(RuleDirection::Vertical, 300, 60, 560));
+    DocumentContext context;
+    context.bodyFontSize = 10;
+    context.bodyLeading = 12;
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+    ASSERT_EQ(layout.bands.size(), 1U);
+    ASSERT_EQ(layout.bands[0].columns.size(), 2U);
+    EXPECT_GE(layout.bands[0].columns[0].right, 200);
+    EXPECT_GE(layout.bands[0].columns[1].right, 470);
+}
+
+TEST(PageLayouter, HasColumnsBehindALongRuleBesideTheOneBeforeIt) {
+    PageText page = makePage(1);
+    std::string texts[3];
+    for (int i = 0; i < 8; ++i)
+        for (int column = 0; column < 3; ++column) {
+            page.lines.push_back(
+                makeLine("apples and pears and plums", 50 + 160 * column, 100 + (column == 0 ? 15 : 12) * i));
+            texts[column] += (i == 0 ? "" : " ") + textOf(page.lines.back());
+        }
+    page.rules.push_back(tests::ruleAt(RuleDirection::Vertical, 195, 60, 560));
+    DocumentContext context;
+    context.bodyFontSize = 10;
+    context.bodyLeading = 12;
+    Diagnostics diagnostics;
+    const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+    EXPECT_EQ(layout.bands.at(0).columns.size(), 3U);
+    EXPECT_EQ(describe(layout), texts[0] + "|" + texts[1] + "|" + texts[2]);
+}
+
 TEST(PageLayouter, ReadsLabelsWithTheirValues) {
     const std::string text =
         describe(layoutArt({"Day of the offer:    Monday, 25 Sept. 2023", "End of the offer:    Tuesday, 26 Sept. 2023",
