@@ -29,9 +29,22 @@ bool isSameBlock(std::span<const Line> lines, std::span<const LineMeasure> measu
                     : std::abs(measures[next].startGap - measures[next - 1].startGap) <= tolerance;
 }
 
-bool isFixedPitch(const Line& line, std::span<const pdf::Font> fonts) {
+/// Whether the line is in letters of one width. East Asian ones are so in most fonts.
+bool isTyped(const Line& line, std::span<const pdf::Font> fonts) {
     const std::uint32_t font = line.words.front().spans.front().look.font;
-    return font < fonts.size() && fonts[font].isFixedPitch;
+    if (font >= fonts.size() || !fonts[font].isFixedPitch)
+        return false;
+    return std::none_of(line.words.begin(), line.words.end(), [](const Word& word) {
+        const std::u32string text = utf32FromUtf8(textOf(word));
+        return std::any_of(text.begin(), text.end(), isWithoutBlanks);
+    });
+}
+
+/// The share of the lines that are in letters of one width.
+double typedShare(std::span<const Line> lines, std::span<const pdf::Font> fonts) {
+    const auto typed =
+        std::count_if(lines.begin(), lines.end(), [fonts](const Line& line) { return isTyped(line, fonts); });
+    return static_cast<double>(typed) / static_cast<double>(lines.size());
 }
 
 /// Several lines end at the edge exactly, their blanks spread to reach it, or (without blanks) more than chance allows:
@@ -44,7 +57,7 @@ bool isSpreadTo(double edge, std::span<const Line> lines, std::span<const LineMe
         const LineMeasure& line = block[i];
         if (line.endGap - edge > flush)
             continue;
-        flushLines += isFixedPitch(lines[i], context.fonts) ? 0 : 1;
+        flushLines += isTyped(lines[i], context.fonts) ? 0 : 1;
         spread += lines[i].words.size() > 2 && line.meanGap > parameters.stretchedGap * line.blank ? 1 : 0;
     }
     return spread >= parameters.flushLines || flushLines > parameters.flushLines + 1;
@@ -136,6 +149,11 @@ void applyCommonEdges(std::span<const Line> lines, std::span<LineMeasure> measur
 
 void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measures, const ParagraphContext& context,
                      const ParagraphParameters::Paragraphs& parameters) {
+    // A typewriter's lines among others are a program or what one prints, which go on in lower case, too.
+    const bool isTypescript = typedShare(lines, context.fonts) > parameters.typescriptShare;
+    const auto mayBeProgram = [&](std::span<const Line> block) {
+        return !isTypescript && 2 * typedShare(block, context.fonts) > 1;
+    };
     for (std::size_t first = 0; first < lines.size();) {
         std::size_t end = first + 1;
         while (end < lines.size() && isSameBlock(lines, measures, first, end, context, parameters))
@@ -146,7 +164,8 @@ void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measure
         const bool isOwnEdge =
             block.size() > 1 && edge > parameters.ownEdge * size &&
             (isSpreadTo(edge, lines.subspan(first), block, parameters.flushTolerance * size, context, parameters) ||
-             isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters));
+             (!mayBeProgram(lines.subspan(first, end - first)) &&
+              isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters)));
         if (isOwnEdge)
             setEdge(block, edge);
         first = end;

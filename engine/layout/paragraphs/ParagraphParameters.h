@@ -42,7 +42,8 @@ struct ParagraphParameters {
             1.0; ///< of the font size; lines that all end this far before the column's edge may have their own
         double proseShare = 0.6; ///< of a block's lines that must be full, and of those whose sentence must go on, for
                                  ///< their longest to show its edge
-        double fullLine = 2.5;   ///< of the font size; a column's last line with less room behind it may run on
+        double typescriptShare = 0.9; ///< of a column's lines in letters of one width; fewer are programs within text
+        double fullLine = 2.5;        ///< of the font size; a column's last line with less room behind it may run on
 
         /// RaggedLines: text whose lines leave room that their next word would have had.
         struct Ragged {

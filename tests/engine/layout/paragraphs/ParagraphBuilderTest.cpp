@@ -160,6 +160,33 @@ TEST(ParagraphBuilder, FindsTheEdgeOfTextThatEndsBeforeItsColumn) {
         EXPECT_EQ(textsOf(build(row.art, 45)), row.expected) << row.why;
 }
 
+TEST(ParagraphBuilder, LeavesTheLinesOfAProgramAmongOtherTextApart) {
+    std::vector<pdf::Font> fonts(2, kFonts[0]);
+    fonts[1].isFixedPitch = true;
+    ParagraphContext context = kContext;
+    context.fonts = fonts;
+    const auto lines = [](const std::vector<std::string>& text, const std::vector<std::string>& typed) {
+        std::vector<std::string> art = text;
+        art.emplace_back();
+        art.insert(art.end(), typed.begin(), typed.end());
+        std::vector<Line> made = linesFromArt(art);
+        for (std::size_t i = text.size(); i < made.size(); ++i)
+            for (Word& word : made[i].words)
+                for (Span& span : word.spans)
+                    span.look.font = 1;
+        return made;
+    };
+    const std::vector<std::string> program{"sudo make all install", "sudo ldconfig and more", "cd ../udev-rules then",
+                                           "sudo sh install.sh it"};
+    const std::vector<std::string> text{"These commands make it:"};
+    EXPECT_EQ(buildParagraphs(lines(text, program), artColumn(45), context, {}).size(), 5U);
+    EXPECT_EQ(buildParagraphs(lines({}, program), artColumn(45), context, {}).size(), 1U)
+        << "where all is typed the words decide";
+    for (pdf::Font& font : fonts)
+        font.isFixedPitch = false;
+    EXPECT_EQ(buildParagraphs(lines(text, program), artColumn(45), context, {}).size(), 2U) << "as of other text";
+}
+
 TEST(ParagraphBuilder, LearnsNoEdgeFromATypewritersLinesOfOneLength) {
     const std::vector<std::string> art{"Character code 33 is here", "Character code 34 is here",
                                        "Character code 35 is here", "Character code 36 is here"};
