@@ -28,6 +28,7 @@ TEST(ListMarker, ReadsTheLabelOfALine) {
         {"\xE2\x80\xA2Text", MarkerKind::Bullet, 0, "a bullet without a gap"},
         {"\xEF\x82\xB7 Text", MarkerKind::Bullet, 0, "a bullet of a symbol font"},
         {"\uFFFD Text", MarkerKind::Bullet, 0, "a sign that nobody can name"},
+        {"\u275D Text", MarkerKind::Bullet, 0, "an ornament that sign fonts have where others have an arrow"},
         {"\u21E7 Text", MarkerKind::Bullet, 0, "an arrow that stands alone"},
         {"- Text", MarkerKind::Dash, 0, "a hyphen"},
         {"\xE2\x91\xA2Text", MarkerKind::EastAsian, 3, "a circled number"},

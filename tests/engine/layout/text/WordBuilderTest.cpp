@@ -196,19 +196,21 @@ TEST(WordBuilder, PartsABulletOfAnotherFontFromTheTextCloseBehindIt) {
     struct Row {
         const char* sign;
         bool isOtherFont;
+        const char* text;
         const char* expected;
         const char* why;
     };
     const Row rows[] = {
-        {"\u25A0", true, "\u25A0 Open", "a bullet"},
-        {"\u25A0", false, "\u25A0Open", "a sign of the text's own font"},
-        {"-", true, "-Open", "a hyphen is no bullet"},
+        {"\u25A0", true, "Open", "\u25A0 Open", "a bullet"},
+        {"\u25A0", false, "Open", "\u25A0Open", "a sign of the text's own font"},
+        {"-", true, "Open", "-Open", "a hyphen is no bullet"},
+        {"\u25A0", true, "\u65E5\u672C", "\u25A0\u65E5\u672C", "East Asian text has other fonts than most signs"},
     };
     for (const Row& row : rows) {
         PageContentBuilder page;
         const std::uint32_t signs = page.font({});
         const double end = page.text(72, 100, row.sign, 12, {.font = row.isOtherFont ? signs : 0});
-        page.text(end, 100, "Open", 12);
+        page.text(end, 100, row.text, 12);
         EXPECT_THAT(linesOf(page), ElementsAre(row.expected)) << row.why;
     }
 }
