@@ -69,9 +69,8 @@ private:
             return std::nullopt;
         const auto agreeing = std::count_if(values.begin(), values.end(),
                                             [&](double value) { return std::abs(value - *usual) <= m_limits.sameGap; });
-        if (static_cast<double>(agreeing) < m_limits.usualShare * static_cast<double>(values.size()))
-            return std::nullopt;
-        return *usual;
+        return static_cast<double>(agreeing) >= m_limits.usualShare * static_cast<double>(values.size()) ? usual
+                                                                                                         : std::nullopt;
     }
 
     void setAfter(Style& style) const {

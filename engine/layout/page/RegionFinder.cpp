@@ -114,6 +114,17 @@ private:
         span = {std::min(span.left, area.left), std::max(span.right, area.right)};
     }
 
+    /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended
+    /// by hand, and there was room up to the next column.
+    void widenIntoGutters(std::vector<ColumnSpan>& columns) const {
+        for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
+            ColumnSpan& column = columns[i];
+            const double end = columns[i + 1].left - m_parameters.wideGutter * m_context.bodyFontSize;
+            if (end - column.right > column.right - column.left)
+                column.right = end;
+        }
+    }
+
     /// Nor at an edge that leaves about as much blank before a margin like the one at the start of the lines: lists of
     /// short texts, each of which was ended by hand.
     void widenToOtherMargin(ColumnSpan& span, const std::vector<Line>& lines) const {
@@ -136,17 +147,6 @@ private:
             goingOn += isLetter(first) && !isUpperCase(first);
         }
         return 2 * goingOn > full;
-    }
-
-    /// Nobody wraps lines at the edge of a column that is narrower than what is left blank beside it: they were ended
-    /// by hand, and there was room up to the next column.
-    void widenIntoGutters(std::vector<ColumnSpan>& columns) const {
-        for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
-            ColumnSpan& column = columns[i];
-            const double end = columns[i + 1].left - m_parameters.wideGutter * m_context.bodyFontSize;
-            if (end - column.right > column.right - column.left)
-                column.right = end;
-        }
     }
 
     static double blankBeforeLast(const std::vector<ColumnSpan>& columns) {

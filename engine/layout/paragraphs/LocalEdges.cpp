@@ -31,6 +31,8 @@ bool isSameBlock(std::span<const Line> lines, std::span<const LineMeasure> measu
 
 /// Whether the line is in letters of one width. East Asian ones are so in most fonts.
 bool isTyped(const Line& line, std::span<const pdf::Font> fonts) {
+    if (line.words.empty())
+        return false;
     const std::uint32_t font = line.words.front().spans.front().look.font;
     if (font >= fonts.size() || !fonts[font].isFixedPitch)
         return false;

@@ -1,6 +1,7 @@
 #include "layout/structure/ContentsFinder.h"
 
 #include "layout/structure/DraftText.h"
+#include "layout/text/LabelText.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -34,15 +35,10 @@ std::optional<int> pageNumberOf(const std::string& text) {
     return isRoman(text) ? std::optional(0) : std::nullopt;
 }
 
-bool isDash(const Word& word) {
-    const std::string text = textOf(word);
-    return text == "-" || text == "\u2013" || text == "\u2014";
-}
-
 /// How many words at the end of a line are the number of a page: one, or three with a dash on both sides of it.
 std::size_t wordsOfNumber(const Line& line) {
     const auto count = line.words.size();
-    return count > 3 && isDash(line.words[count - 1]) && isDash(line.words[count - 3]) ? 3 : 1;
+    return count > 3 && isDash(textOf(line.words[count - 1])) && isDash(textOf(line.words[count - 3])) ? 3 : 1;
 }
 
 std::string withoutLastWords(const DraftParagraph& paragraph, std::size_t count) {

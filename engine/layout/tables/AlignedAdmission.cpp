@@ -119,10 +119,12 @@ private:
 
     /// Whether most rows are a label or bullet and the text of its item. Those of several levels stand in columns.
     bool isListOfLevels() const {
-        return m_evidence == AlignedEvidence::Alignment && shareOfRows([&](const PieceRow& row) {
-                                                               return row.pieces.size() <= 2 &&
-                                                                      isItemLabel(firstWordOf(row.pieces.front()));
-                                                           }) > m_parameters.labelShare;
+        if (m_evidence != AlignedEvidence::Alignment)
+            return false;
+        const auto isItem = [&](const PieceRow& row) {
+            return row.pieces.size() <= 2 && isItemLabel(firstWordOf(row.pieces.front()));
+        };
+        return shareOfRows(isItem) > m_parameters.labelShare;
     }
 
     std::string firstWordOf(const TextPiece& piece) const {

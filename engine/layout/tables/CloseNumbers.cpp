@@ -1,5 +1,7 @@
 #include "layout/tables/CloseNumbers.h"
 
+#include "layout/text/LabelText.h"
+
 #include <algorithm>
 #include <cctype>
 #include <limits>

@@ -2,6 +2,7 @@
 
 #include "layout/tables/CellPieces.h"
 #include "layout/tables/ColumnGaps.h"
+#include "layout/text/LabelText.h"
 
 #include <algorithm>
 #include <iterator>

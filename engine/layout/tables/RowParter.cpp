@@ -4,6 +4,7 @@
 #include "layout/tables/PairedLines.h"
 #include "layout/tables/RowGrouper.h"
 #include "layout/tables/RowParts.h"
+#include "layout/text/LabelText.h"
 
 #include <algorithm>
 #include <cmath>

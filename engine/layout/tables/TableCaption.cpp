@@ -1,5 +1,6 @@
 #include "layout/tables/TableCaption.h"
 
+#include "layout/text/LabelText.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -38,7 +39,7 @@ bool isTitled(const Line& line) {
         return true;
     const char end = textOf(line.words[1]).back();
     const std::string next = textOf(line.words[2]);
-    return end == '.' || end == ':' || next == ":" || next == "-" || next == "\u2013" || next == "\u2014";
+    return end == '.' || end == ':' || next == ":" || isDash(next);
 }
 
 } // namespace

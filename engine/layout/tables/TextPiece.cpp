@@ -3,6 +3,7 @@
 #include "base/Utf8.h"
 #include "layout/tables/FilledCells.h"
 #include "layout/text/Characters.h"
+#include "layout/text/LabelText.h"
 
 #include <algorithm>
 #include <array>
@@ -220,11 +221,6 @@ bool isBullet(std::string_view text) {
     static constexpr std::array<std::string_view, 9> kBullets{"\u2022", "\u25E6", "\u25AA", "\u25CF", "\u25CB",
                                                               "\u25A0", "\u2023", "\u00B7", "o"};
     return std::ranges::find(kBullets, text) != kBullets.end();
-}
-
-bool isDash(std::string_view text) {
-    static constexpr std::array<std::string_view, 4> kDashes{"-", "\u2013", "\u2014", "\u2212"};
-    return std::ranges::find(kDashes, text) != kDashes.end();
 }
 
 bool isCurrencySign(std::string_view text) {

@@ -79,9 +79,6 @@ bool hasRoomBehind(const TextPiece& above, const TextPiece& piece, const Rect& c
 /// marks, are none here.
 bool isBullet(std::string_view text);
 
-/// Whether the text is a dash alone, of whatever length.
-bool isDash(std::string_view text);
-
 /// Whether the text is the sign of a currency alone, which many tables set apart from its amount.
 bool isCurrencySign(std::string_view text);
 

@@ -2,6 +2,7 @@
 
 #include "layout/support/Tally.h"
 #include "layout/tables/ItemLabels.h"
+#include "layout/text/LabelText.h"
 
 #include <algorithm>
 #include <limits>

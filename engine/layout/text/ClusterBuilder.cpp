@@ -27,10 +27,10 @@ Look lookOf(const pdf::Font& font, const pdf::Glyph& glyph, const SelectedGlyph&
     look.font = glyph.font;
     look.size = roundedTo(glyph.fontSize, limits.sizeStep);
     // Hidden text has whatever colour came to hand.
-    look.color = selected.sight == GlyphSight::Recognised ? kBlack : selected.isHollow ? *selected.edge : glyph.color;
+    look.color = selected.sight == GlyphSight::Recognised ? kBlack : selected.edge.value_or(glyph.color);
     look.isBold = font.isBold || font.weight >= limits.boldWeight || selected.isBold;
     look.isItalic = font.isItalic;
-    look.isOutlined = glyph.isOutlined || selected.isHollow;
+    look.isOutlined = glyph.isOutlined || selected.edge;
     look.isInvisible = selected.sight == GlyphSight::Recognised;
     look.isClippedAway = selected.sight == GlyphSight::ClippedAway;
     look.horizontalScale = roundedTo(glyph.horizontalScale, limits.scaleStep);

@@ -141,17 +141,19 @@ CoverageGrid coverByGrounds(const pdf::PageContent& page, const TextParameters::
     return grid;
 }
 
-/// Letters filled like the paper are seen by their edges: outlined ones, and such as look raised or sunk.
-void markHollow(const pdf::PageContent& page, std::vector<SelectedGlyph>& glyphs,
-                const TextParameters::Glyphs& limits) {
-    const auto mayBeHollow = [&](const SelectedGlyph& glyph) {
-        return glyph.edge && isPale(page.glyphs[glyph.index].color, limits) && !isPale(*glyph.edge, limits);
-    };
-    if (std::none_of(glyphs.begin(), glyphs.end(), mayBeHollow))
+/// Letters filled like the paper are seen by their edges (outlined ones, and such as look raised or sunk), others by
+/// what they are filled with.
+void keepEdgesOfHollow(const pdf::PageContent& page, std::vector<SelectedGlyph>& glyphs,
+                       const TextParameters::Glyphs& limits) {
+    if (std::none_of(glyphs.begin(), glyphs.end(), [](const SelectedGlyph& glyph) { return glyph.edge.has_value(); }))
         return;
     const CoverageGrid grounds = coverByGrounds(page, limits);
-    for (SelectedGlyph& glyph : glyphs)
-        glyph.isHollow = mayBeHollow(glyph) && !grounds.isCovered(middleOf(page.glyphs[glyph.index]));
+    for (SelectedGlyph& selected : glyphs) {
+        const pdf::Glyph& glyph = page.glyphs[selected.index];
+        if (selected.edge &&
+            (!isPale(glyph.color, limits) || isPale(*selected.edge, limits) || grounds.isCovered(middleOf(glyph))))
+            selected.edge.reset();
+    }
 }
 
 bool isWorthReading(const pdf::Glyph& glyph, const TextParameters::Glyphs& limits) {
@@ -188,7 +190,7 @@ GlyphSelection filterGlyphs(const pdf::PageContent& page, const TextParameters& 
         selection.glyphs.push_back(
             {i, isRecognised ? GlyphSight::Recognised : GlyphSight::Seen, glyph.isFakeBold, glyph.edge});
     }
-    markHollow(page, selection.glyphs, limits);
+    keepEdgesOfHollow(page, selection.glyphs, limits);
     // A stamp or a line about where the scan comes from is written on many.
     const bool isTextHidden = static_cast<double>(seen) <= limits.stampShare * static_cast<double>(recognised);
     const bool isCovered = pictures.coveredShare({0, 0, page.width, page.height}) >= limits.scannedPageShare;
@@ -211,7 +213,7 @@ GlyphSelection clippedGlyphs(const pdf::PageContent& page, const GlyphSelection&
             ofSeen.find(page, seen.glyphs, glyph) >= 0 || ofClipped.find(page, selection.glyphs, glyph) >= 0)
             continue;
         ofClipped.add(glyph, selection.glyphs.size());
-        selection.glyphs.push_back({i, GlyphSight::ClippedAway, glyph.isFakeBold, glyph.edge});
+        selection.glyphs.push_back({i, GlyphSight::ClippedAway, glyph.isFakeBold});
     }
     return selection;
 }

@@ -22,8 +22,7 @@ struct SelectedGlyph {
     std::uint32_t index = 0; ///< into pdf::PageContent::glyphs
     GlyphSight sight = GlyphSight::Seen;
     bool isBold = false; ///< made bold by painting: stroked as well as filled, or painted twice with a small offset
-    std::optional<Color> edge; ///< another colour seen around it
-    bool isHollow = false;     ///< only its edge is seen: filled like the paper it stands on
+    std::optional<Color> edge{}; ///< the colour around it, if that alone is seen: it is filled like the paper
 };
 
 /// The glyphs a reader sees, each once, in paint order.

@@ -3,6 +3,7 @@
 #include "layout/text/Characters.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 namespace orvane::layout {
@@ -35,6 +36,11 @@ bool isLabelText(const std::u32string& text, std::size_t longest) {
 bool isListSign(const std::u32string& text) {
     constexpr char32_t kFirst = 0x2022; // dashes and the middle dot come before it
     return text.size() == 1 && text.front() >= kFirst && isBullet(text.front());
+}
+
+bool isDash(std::string_view text) {
+    static constexpr std::array<std::string_view, 4> kDashes{"-", "\u2013", "\u2014", "\u2212"};
+    return std::ranges::find(kDashes, text) != kDashes.end();
 }
 
 } // namespace orvane::layout

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace orvane::layout {
 
@@ -11,5 +12,8 @@ bool isLabelText(const std::u32string& text, std::size_t longest);
 
 /// A bullet that is no punctuation mark, letter or sign of arithmetic in other places.
 bool isListSign(const std::u32string& text);
+
+/// Whether the text is a dash alone, of whatever length.
+bool isDash(std::string_view text);
 
 } // namespace orvane::layout

@@ -153,9 +153,20 @@ private:
     bool m_hasBlanks = false;
 };
 
+/// A bullet of another font that text stands close behind. East Asian letters are of another font than many signs that
+/// were typed before them.
+bool isCloseBullet(const Cluster& sign, const Cluster& next) {
+    return sign.look.font != next.look.font && isListSign(sign.text) && isLetter(next.text.front()) &&
+           !isSetWithoutBlanks(next.text.front());
+}
+
 /// East Asian text stands closer to its label than its characters to those of other scripts; the label is a word still,
 /// unless it ends in a digit, which has that little gap behind it anyway.
 void partLabelAt(std::vector<Cluster>& clusters, std::size_t first, const TextParameters::Words& limits) {
+    if (first + 1 < clusters.size() && isCloseBullet(clusters[first], clusters[first + 1])) {
+        clusters[first + 1].gapBefore.endsWord = true;
+        return;
+    }
     std::u32string label;
     for (std::size_t i = first; i + 1 < clusters.size() && label.size() < limits.longestLabel; ++i) {
         label += clusters[i].text;
@@ -170,22 +181,10 @@ void partLabelAt(std::vector<Cluster>& clusters, std::size_t first, const TextPa
     }
 }
 
-/// A bullet of another font that text stands close behind is a word still.
-void partBulletAt(std::vector<Cluster>& clusters, std::size_t first) {
-    const bool isOther = first + 1 < clusters.size() && clusters[first].look.font != clusters[first + 1].look.font;
-    if (!isOther || !isListSign(clusters[first].text))
-        return;
-    // East Asian letters are of another font than many signs that were typed before them.
-    const char32_t next = clusters[first + 1].text.front();
-    if (isLetter(next) && !isSetWithoutBlanks(next))
-        clusters[first + 1].gapBefore.endsWord = true;
-}
-
 /// The label may begin the stretch; a bullet is one behind the text of a neighbouring cell, too.
 void partLabels(std::vector<Cluster>& clusters, std::size_t first, std::size_t last,
                 const TextParameters::Words& limits) {
     partLabelAt(clusters, first, limits);
-    partBulletAt(clusters, first);
     for (std::size_t i = first + 1; i < last; ++i)
         if (clusters[i].gapBefore.endsWord && isListSign(clusters[i].text))
             partLabelAt(clusters, i, limits);

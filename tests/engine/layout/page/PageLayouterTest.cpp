@@ -35,15 +35,20 @@ std::string describe(const PageLayout& layout) {
     return text;
 }
 
-PageLayout layoutArt(const std::vector<std::string>& art, std::vector<Figure> figures = {}) {
-    PageText page = makePage(1);
-    page.lines = linesFromArt(art);
-    page.figures = std::move(figures);
+/// The layout of a page of a document whose text is in ten points.
+PageLayout layoutOf(PageText page) {
     DocumentContext context;
     context.bodyFontSize = 10;
     context.bodyLeading = 12;
     Diagnostics diagnostics;
     return layoutPage(std::move(page), context, {}, diagnostics);
+}
+
+PageLayout layoutArt(const std::vector<std::string>& art, std::vector<Figure> figures = {}) {
+    PageText page = makePage(1);
+    page.lines = linesFromArt(art);
+    page.figures = std::move(figures);
+    return layoutOf(std::move(page));
 }
 
 TEST(PageLayouter, ReadsColumnsOneAfterTheOther) {
@@ -97,11 +102,7 @@ TEST(PageLayouter, PartsColumnsAtALongRuleHoweverNarrowTheGutter) {
         right += (i == 0 ? "" : " ") + textOf(page.lines[1]);
     }
     page.rules.push_back(tests::ruleAt(RuleDirection::Vertical, 183, 60, 560));
-    DocumentContext context;
-    context.bodyFontSize = 10;
-    context.bodyLeading = 12;
-    Diagnostics diagnostics;
-    const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+    const PageLayout layout = layoutOf(std::move(page));
     EXPECT_EQ(describe(layout), left + "|" + right);
     EXPECT_TRUE(layout.bands.at(0).hasSeparator);
 }
@@ -119,11 +120,7 @@ TEST(PageLayouter, MakesColumnsAtALongRuleAsWideAsTheirTables) {
     std::stable_sort(page.lines.begin(), page.lines.end(),
                      [](const Line& a, const Line& b) { return a.baseline < b.baseline; });
     page.rules.push_back(tests::ruleAt(RuleDirection::Vertical, 300, 60, 560));
-    DocumentContext context;
-    context.bodyFontSize = 10;
-    context.bodyLeading = 12;
-    Diagnostics diagnostics;
-    const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+    const PageLayout layout = layoutOf(std::move(page));
     ASSERT_EQ(layout.bands.size(), 1U);
     ASSERT_EQ(layout.bands[0].columns.size(), 2U);
     EXPECT_GE(layout.bands[0].columns[0].right, 200);
@@ -140,11 +137,7 @@ TEST(PageLayouter, HasColumnsBehindALongRuleBesideTheOneBeforeIt) {
             texts[column] += (i == 0 ? "" : " ") + textOf(page.lines.back());
         }
     page.rules.push_back(tests::ruleAt(RuleDirection::Vertical, 195, 60, 560));
-    DocumentContext context;
-    context.bodyFontSize = 10;
-    context.bodyLeading = 12;
-    Diagnostics diagnostics;
-    const PageLayout layout = layoutPage(std::move(page), context, {}, diagnostics);
+    const PageLayout layout = layoutOf(std::move(page));
     EXPECT_EQ(layout.bands.at(0).columns.size(), 3U);
     EXPECT_EQ(describe(layout), texts[0] + "|" + texts[1] + "|" + texts[2]);
 }
@@ -182,8 +175,7 @@ TEST(PageLayouter, EndsLinesByHandFarFromTheOtherMargin) {
         PageText page = makePage(1);
         for (const char* text : texts)
             page.lines.push_back(makeLine(text, left, 100 + 12.0 * static_cast<double>(page.lines.size())));
-        Diagnostics diagnostics;
-        return describe(layoutPage(page, {}, {}, diagnostics));
+        return describe(layoutOf(std::move(page)));
     };
     const std::vector<const char*> texts{"This text has a colour.", "This text is rather red.", "This text is blue."};
     EXPECT_EQ(linesOf(72, texts), "This text has a colour./This text is rather red./This text is blue.");

@@ -215,6 +215,15 @@ TEST(WordBuilder, PartsABulletOfAnotherFontFromTheTextCloseBehindIt) {
     }
 }
 
+TEST(WordBuilder, PartsABulletOfAnotherFontBehindTheTextOfTheCellBefore) {
+    PageContentBuilder page;
+    const std::uint32_t signs = page.font({});
+    const double text = page.text(72, 100, "Apples", 12);
+    const double end = page.text(text + 6, 100, "\u25A0", 12, {.font = signs});
+    page.text(end, 100, "Open", 12);
+    EXPECT_THAT(linesOf(page), ElementsAre("Apples \u25A0 Open"));
+}
+
 TEST(WordBuilder, PartsABulletFromEastAsianTextBesideANumberInTheCellBefore) {
     PageContentBuilder page;
     const double number = page.text(72, 100, "3.1.1", 12);
