@@ -18,19 +18,46 @@ void move(Groups from, Groups& to) {
     to.insert(to.end(), std::make_move_iterator(from.begin()), std::make_move_iterator(from.end()));
 }
 
-void groupItems(std::vector<DraftBlock>& blocks, TypedBlanks blanks, const LayoutParameters& parameters,
-                Groups& groups) {
-    ListGrouper grouper(blanks, parameters);
-    for (DraftBlock& block : blocks) {
-        DraftParagraph* paragraph = block.paragraph();
-        if (paragraph && paragraph->role == ParagraphRole::Body)
-            grouper.add(*paragraph);
-        else if (DraftTable* table = std::get_if<DraftTable>(&block.value))
-            for (DraftCell& cell : table->cells)
-                groupItems(cell.blocks, blanks, parameters, groups);
+/// The items of a flow of text, and those of the tables within it. Of a table each column counts on its own.
+class ItemGrouper {
+public:
+    ItemGrouper(TypedBlanks blanks, const LayoutParameters& parameters)
+        : m_blanks(blanks)
+        , m_parameters(parameters) {}
+
+    Groups group(std::vector<DraftBlock>& blocks) {
+        ListGrouper grouper(m_blanks, m_parameters);
+        addTo(grouper, blocks);
+        move(grouper.takeGroups(), m_groups);
+        return std::move(m_groups);
     }
-    move(grouper.takeGroups(), groups);
-}
+
+private:
+    void addTo(ListGrouper& grouper, std::vector<DraftBlock>& blocks) {
+        for (DraftBlock& block : blocks) {
+            DraftParagraph* paragraph = block.paragraph();
+            if (paragraph && paragraph->role == ParagraphRole::Body)
+                grouper.add(*paragraph);
+            else if (DraftTable* table = std::get_if<DraftTable>(&block.value))
+                addTable(*table);
+        }
+    }
+
+    void addTable(DraftTable& table) {
+        std::map<int, ListGrouper> columns;
+        for (DraftCell& cell : table.cells) {
+            ListGrouper& grouper = columns.try_emplace(cell.cell.column, m_blanks, m_parameters).first->second;
+            grouper.startCell();
+            addTo(grouper, cell.blocks);
+        }
+        for (auto& [column, grouper] : columns)
+            move(grouper.takeGroups(), m_groups);
+    }
+
+    TypedBlanks m_blanks;
+    const LayoutParameters& m_parameters;
+    Groups m_groups;
+};
 
 /// Headings count on their own, whatever lists stand between them.
 Groups groupHeadings(std::vector<DraftBlock>& blocks, TypedBlanks blanks, const LayoutParameters& parameters) {
@@ -148,8 +175,7 @@ void dropDoubtful(Groups& groups, const Admits& admits) {
 
 void findLists(DocumentDraft& draft, const LayoutParameters& parameters) {
     const TypedBlanks blanks = typedBlanksOf(draft, parameters.lists);
-    Groups lists;
-    groupItems(draft.blocks, blanks, parameters, lists);
+    Groups lists = ItemGrouper(blanks, parameters).group(draft.blocks);
     dropDoubtful(lists, [&](const auto& run) { return isList(run, parameters.lists); });
     Groups headings = groupHeadings(draft.blocks, blanks, parameters);
     dropDoubtful(headings, isNumberedByList);

@@ -28,6 +28,12 @@ bool isChildOf(const ListLabel& child, const ListLabel& parent) {
            child.before == parent.before;
 }
 
+/// Whether a label can only be that of an item: "1.48" below "1.47", "2" below "1" are what tables are made of.
+bool countsCells(const ListLabel& label) {
+    return label.isStrong && label.numbers.size() == 1 && !label.isBare() &&
+           label.after.find_first_of("0123456789") == std::string::npos;
+}
+
 } // namespace
 
 bool ListGrouper::isAtSameEdge(const ListLabel& a, const ListLabel& b) const {
@@ -48,9 +54,22 @@ void ListGrouper::add(DraftParagraph& paragraph) {
         start(paragraph, readings.front());
 }
 
+void ListGrouper::startCell() {
+    for (OpenGroup& open : m_open) {
+        const auto bullets = std::find_if(open.levels.begin(), open.levels.end(), [](const OpenLevel& level) {
+            return level.label.format == document::NumberFormat::Bullet;
+        });
+        open.levels.erase(bullets, open.levels.end());
+        open.isOfCellAbove = true;
+    }
+    std::erase_if(m_open, [](const OpenGroup& open) { return open.levels.empty(); });
+}
+
 bool ListGrouper::goOn(DraftParagraph& paragraph, const ListLabel& label) {
     for (std::size_t i = m_open.size(); i-- > 0;) {
         OpenGroup& open = m_open[i];
+        if (open.isOfCellAbove && !countsCells(label))
+            continue;
         for (std::size_t level = open.levels.size(); level-- > 0;) {
             const ListLabel& before = open.levels[level].label;
             if (!isSameKind(before, label) || !isAtSameEdge(before, label) || !isNext(before, label))
@@ -67,7 +86,7 @@ bool ListGrouper::goOn(DraftParagraph& paragraph, const ListLabel& label) {
 }
 
 bool ListGrouper::nest(DraftParagraph& paragraph, const ListLabel& label) {
-    if (m_open.empty())
+    if (m_open.empty() || m_open.back().isOfCellAbove)
         return false;
     OpenGroup& open = m_open.back();
     // Back out of deeper levels until the one above the label.
@@ -98,13 +117,14 @@ bool ListGrouper::nest(DraftParagraph& paragraph, const ListLabel& label) {
 void ListGrouper::start(DraftParagraph& paragraph, const ListLabel& label) {
     if (m_open.size() == kMostOpen)
         m_open.erase(m_open.begin());
-    m_open.push_back({m_groups.size(), {{label, m_runs++, false}}, {}});
+    m_open.push_back({m_groups.size(), {{label, m_runs++, false}}, {}, false});
     m_groups.emplace_back();
     put(m_open.back(), paragraph, label);
 }
 
 void ListGrouper::put(OpenGroup& open, DraftParagraph& paragraph, const ListLabel& label) {
     const std::size_t level = open.levels.size() - 1;
+    open.isOfCellAbove = false;
     if (open.kinds.size() <= level)
         open.kinds.resize(level + 1, label);
     m_groups[open.group].items.push_back(

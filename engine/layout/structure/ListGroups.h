@@ -31,8 +31,8 @@ public:
 
     /// A paragraph of the flow.
     void add(DraftParagraph& paragraph);
-    /// Nothing of what comes later goes on with what is open: the end of a cell, for instance.
-    void closeAll() { m_open.clear(); }
+    /// What comes next stands in another cell of the table's column: numbers may go on there, bullets and levels not.
+    void startCell();
 
     std::vector<ListGroup> takeGroups() { return std::move(m_groups); }
 
@@ -46,6 +46,7 @@ private:
         std::size_t group = 0;
         std::vector<OpenLevel> levels;
         std::vector<ListLabel> kinds; ///< of every level that was ever open
+        bool isOfCellAbove = false;   ///< no item of this cell has gone on with it
     };
 
     bool goOn(DraftParagraph& paragraph, const ListLabel& label);

@@ -29,14 +29,18 @@ DocumentDraft listsOf(const std::vector<Row>& rows) {
 }
 
 /// The list and level of each paragraph, "-" for none: "0.0 0.1 -".
-std::string placesOf(const DocumentDraft& draft) {
+std::string placesOf(const std::vector<DraftBlock>& blocks) {
     std::string text;
-    for (const DraftBlock& block : draft.blocks) {
+    for (const DraftBlock& block : blocks) {
         const auto& list = block.paragraph()->list;
         text += text.empty() ? "" : " ";
         text += list ? std::to_string(list->numbering) + "." + std::to_string(list->level) : "-";
     }
     return text;
+}
+
+std::string placesOf(const DocumentDraft& draft) {
+    return placesOf(draft.blocks);
 }
 
 const document::NumberingLevel& levelOf(const DocumentDraft& draft, std::size_t list, std::size_t level) {
@@ -166,6 +170,49 @@ TEST(ListFinder, FindsListsWithinCells) {
     draft.blocks.push_back(block);
     findLists(draft, {});
     EXPECT_EQ(draft.numberings.size(), 2u) << "each cell counts by itself";
+}
+
+/// One cell of two columns for each text, row by row.
+DocumentDraft listsOfCells(const std::vector<std::vector<const char*>>& cells) {
+    DocumentDraft draft = tests::makeDraft(1);
+    DraftTable table;
+    for (const std::vector<const char*>& texts : cells) {
+        const auto number = static_cast<int>(table.cells.size());
+        DraftCell& cell = table.cells.emplace_back();
+        cell.cell.row = number / 2;
+        cell.cell.column = number % 2;
+        const double left = 90 + 200 * cell.cell.column;
+        for (const char* text : texts)
+            cell.blocks.push_back(tests::makeBlock(tests::makeParagraph({tests::makeLine(text, left, 100)})));
+    }
+    draft.blocks.emplace_back().value = std::move(table);
+    findLists(draft, {});
+    return draft;
+}
+
+TEST(ListFinder, GoesOnFromCellToCellOfAColumn) {
+    const struct {
+        const char* why;
+        std::vector<std::vector<const char*>> cells;
+        const char* expected; ///< of all cells, row by row
+    } cases[] = {
+        {"questions and answers",
+         {{"1.\tWhy"}, {"yes"}, {"2.\tHow"}, {"no"}, {"3.\tWhen"}, {"no"}},
+         "0.0 - 0.0 - 0.0 -"},
+        {"not across", {{"3.\tWhy"}, {"4.\tHow"}, {"more"}, {"more"}}, "- - - -"},
+        {"a level within a cell", {{"1.\tWhy"}, {}, {"2.\tHow", "a)\tso"}, {}}, "0.0 0.0 1.0"},
+        {"bullets by cell", {{"\u2022\tone"}, {}, {"\u2022\ttwo"}, {}}, "0.0 1.0"},
+        {"numbers of rows", {{"2\tone"}, {}, {"3\ttwo"}, {}}, "- -"},
+        {"amounts", {{"1.47\tkg"}, {}, {"1.48\tkg"}, {}}, "- -"},
+        {"amounts without parts", {{"2.0\tkg"}, {}, {"3.0\tkg"}, {}}, "- -"},
+    };
+    for (const auto& [why, cells, expected] : cases) {
+        const DocumentDraft draft = listsOfCells(cells);
+        std::vector<DraftBlock> blocks;
+        for (const DraftCell& cell : std::get<DraftTable>(draft.blocks[0].value).cells)
+            blocks.insert(blocks.end(), cell.blocks.begin(), cell.blocks.end());
+        EXPECT_EQ(placesOf(blocks), expected) << why;
+    }
 }
 
 TEST(ListFinder, SetsBulletsInTheFontsOfWordProcessors) {
