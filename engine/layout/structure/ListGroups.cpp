@@ -55,14 +55,8 @@ void ListGrouper::add(DraftParagraph& paragraph) {
 }
 
 void ListGrouper::startCell() {
-    for (OpenGroup& open : m_open) {
-        const auto bullets = std::find_if(open.levels.begin(), open.levels.end(), [](const OpenLevel& level) {
-            return level.label.format == document::NumberFormat::Bullet;
-        });
-        open.levels.erase(bullets, open.levels.end());
+    for (OpenGroup& open : m_open)
         open.isOfCellAbove = true;
-    }
-    std::erase_if(m_open, [](const OpenGroup& open) { return open.levels.empty(); });
 }
 
 bool ListGrouper::goOn(DraftParagraph& paragraph, const ListLabel& label) {

@@ -1,9 +1,11 @@
 #include "layout/tables/LabelledTableFinder.h"
 
 #include "base/Utf8.h"
+#include "layout/tables/AlignedAdmission.h"
 #include "layout/tables/AlignedGrid.h"
 #include "layout/tables/ItemLabels.h"
 #include "layout/tables/RuledAdmission.h"
+#include "layout/tables/SpacedRows.h"
 
 #include <unicode/uchar.h>
 
@@ -25,6 +27,7 @@ bool isNumbering(std::string_view text) {
 struct LabelledRow {
     std::size_t first = 0; ///< rows of text [first, end)
     std::size_t end = 0;
+    int labelLines = 0;
     int valueLines = 0;
 };
 
@@ -48,13 +51,15 @@ public:
         std::size_t end = first;
         while (end < m_rows.size() && (end == first || isNear(end)) && take(end))
             ++end;
+        m_rowSpace = leastRowSpace(std::span(m_rows).subspan(first, end - first), m_parameters);
         groupByLabels(end);
         while (!m_labelled.empty() && m_labelled.back().valueLines == 0)
             m_labelled.pop_back();
         return m_labelled.empty() ? first : m_labelled.back().end;
     }
 
-    /// Whether the block is a table: values of several lines show that the labels stand in a column of their own.
+    /// Whether the block is a table: values of several lines, or labels of some, show that these stand in a column of
+    /// their own.
     bool isTable() const {
         const auto count = [&](auto&& predicate) {
             return static_cast<int>(std::count_if(m_labelled.begin(), m_labelled.end(), predicate));
@@ -62,10 +67,11 @@ public:
         const int rows = static_cast<int>(m_labelled.size());
         const int filled = count([](const LabelledRow& row) { return row.valueLines > 0; });
         const int wrapped = count([](const LabelledRow& row) { return row.valueLines > 1; });
+        const bool isWrapped = wrapped >= m_parameters.minimumRowsParted || hasWrappedLabel();
         const bool isText =
             count([&](const LabelledRow& row) { return row.valueLines > m_parameters.longestValue; }) > 0;
-        return filled >= m_parameters.fewestPartedRows && wrapped >= m_parameters.minimumRowsParted &&
-               filled >= m_parameters.labelledRowShare * rows && !isText && areLabels() && !isOfColumns();
+        return filled >= m_parameters.fewestPartedRows && isWrapped && filled >= m_parameters.labelledRowShare * rows &&
+               !isText && areLabels() && !isOfColumns();
     }
 
     AlignedRows aligned() const {
@@ -126,8 +132,9 @@ private:
     void groupByLabels(std::size_t end) {
         for (std::size_t i = m_first; i < end; ++i) {
             if (hasLabel(i) && (i == m_first || !goesOnFromLabelAbove(i)))
-                m_labelled.push_back({i, i, 0});
+                m_labelled.push_back({i, i});
             m_labelled.back().end = i + 1;
+            m_labelled.back().labelLines += hasLabel(i);
             m_labelled.back().valueLines += valueLinesOf(i);
         }
     }
@@ -148,7 +155,7 @@ private:
     }
 
     /// Whether the label of row `i` is the rest of the one above, which was too long for its column. Beside the rest of
-    /// the value it is one only if it begins in lower case.
+    /// the value it is one only if it begins in lower case, or space parts the rows.
     bool goesOnFromLabelAbove(std::size_t i) const {
         const TextPiece& piece = m_rows[i].pieces.front();
         if (!hasLabel(i - 1) || m_rows[i].baseline - m_rows[i - 1].baseline > m_parameters.wrapPitch * piece.fontSize ||
@@ -157,7 +164,8 @@ private:
         const TextPiece* value = valueOf(i);
         if (!value)
             return true;
-        return startsLowerCase(piece) && valueOf(i - 1) &&
+        const bool isSpaced = m_rowSpace && spaceAbove(m_rows, i) < *m_rowSpace;
+        return (startsLowerCase(piece) || isSpaced) && valueOf(i - 1) &&
                !hasRoomBehind(*valueOf(i - 1), *value, m_valueColumn, lines(), m_parameters);
     }
 
@@ -175,6 +183,22 @@ private:
         return words <= m_parameters.proseWords * count && items <= (1 - m_parameters.labelShare) * count &&
                m_valueLeft - m_labelLeft >= m_parameters.leastLabelRoom * fontSize &&
                m_labelColumn.width() < m_valueColumn.width();
+    }
+
+    /// Whether some label takes several lines, and nothing speaks for a listing, an index or text in columns.
+    bool hasWrappedLabel() const {
+        if (isPartedByFigure() || std::none_of(m_labelled.begin(), m_labelled.end(),
+                                               [](const LabelledRow& row) { return row.labelLines > 1; }))
+            return false;
+        const TableVerdict verdict = judgeAlignedTable(m_page, aligned(), AlignedEvidence::Alignment, m_parameters);
+        return verdict == TableVerdict::Table || verdict == TableVerdict::TooSmall;
+    }
+
+    /// Whether the text only makes room for a picture in it.
+    bool isPartedByFigure() const {
+        const Rect room{m_labelColumn.right, m_labelColumn.top, m_valueColumn.left, m_labelColumn.bottom};
+        return std::any_of(m_page.figures.begin(), m_page.figures.end(),
+                           [&](const Figure& figure) { return !figure.isBackground && figure.box.intersects(room); });
     }
 
     /// Whether a label stands beside the middle of the lines of its value, as no line of a column of text would.
@@ -227,6 +251,7 @@ private:
     Rect m_valueColumn;
     double m_labelLeft = 0;
     double m_valueLeft = 0;
+    std::optional<double> m_rowSpace; ///< at least, where space parts the rows
 };
 
 } // namespace

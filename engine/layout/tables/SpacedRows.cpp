@@ -5,13 +5,11 @@
 #include <set>
 
 namespace orvane::layout {
-namespace {
 
 double spaceAbove(std::span<const PieceRow> rows, std::size_t i) {
     return std::max(0.0, rows[i].box.top - rows[i - 1].box.bottom);
 }
 
-/// The least space that parts two rows, where spaces are of two kinds; at least two of each.
 std::optional<double> leastRowSpace(std::span<const PieceRow> rows, const TableParameters::Tables& parameters) {
     std::vector<double> spaces;
     double size = 0;
@@ -29,6 +27,8 @@ std::optional<double> leastRowSpace(std::span<const PieceRow> rows, const TableP
         return std::nullopt;
     return spaces[best];
 }
+
+namespace {
 
 /// Asks the rows between two spaces whether their texts run on from line to line.
 class RunningRows {

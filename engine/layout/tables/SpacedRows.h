@@ -9,6 +9,12 @@
 
 namespace orvane::layout {
 
+/// The space above row `i`, which is not the first; points.
+double spaceAbove(std::span<const PieceRow> rows, std::size_t i);
+
+/// The least space that parts two rows, where spaces are of two kinds, at least two of each; points.
+std::optional<double> leastRowSpace(std::span<const PieceRow> rows, const TableParameters::Tables& parameters);
+
 /// The rows of a table whose texts run over several lines, where the space between rows is clearly larger than the one
 /// between lines; nothing where it is not, or where the lines are neither running texts nor labels of several lines.
 std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> lines, const std::vector<ColumnGap>& gaps,

@@ -85,7 +85,8 @@ private:
         const Rect box = frame.boxFromPage(boxOf(rule));
         const double size = line.fontSize;
         const double rise = (line.baseline - (box.top + box.bottom) / 2) / size;
-        if (box.width() <= box.height() || rule.width > m_limits.thickest * size)
+        const double thickest = rule.kind == BorderKind::Double ? m_limits.thickestDouble : m_limits.thickest;
+        if (box.width() <= box.height() || rule.width > thickest * size)
             return;
         const Stretch stretch = stretchOver(line, box.left, box.right);
         const bool isUnderline = rise <= m_limits.underlineTop && rise >= -m_limits.underlineReach;

@@ -159,6 +159,7 @@ struct TextParameters {
         double strikeBottom = 0.15;   ///< a strike lies at least this far above the baseline
         double strikeTop = 0.45;      ///< and no farther than this
         double thickest = 0.16;       ///< width of an underline
+        double thickestDouble = 0.25; ///< width of a double one, the space between its lines included
         double thickUnderline = 0.1;  ///< width from which on it is a thick one
         double slack = 0.35;          ///< how far it may begin or end off the words, a blank for instance
         double borderReach = 1;       ///< points; a rule whose end meets a rule of the other direction is a border

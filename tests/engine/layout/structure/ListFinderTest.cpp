@@ -172,18 +172,21 @@ TEST(ListFinder, FindsListsWithinCells) {
     EXPECT_EQ(draft.numberings.size(), 2u) << "each cell counts by itself";
 }
 
-/// One cell of two columns for each text, row by row.
-DocumentDraft listsOfCells(const std::vector<std::vector<const char*>>& cells) {
+/// One cell of two columns for each list of rows, row by row; the rows begin at 90 in the first column.
+DocumentDraft listsOfCells(const std::vector<std::vector<Row>>& cells) {
     DocumentDraft draft = tests::makeDraft(1);
     DraftTable table;
-    for (const std::vector<const char*>& texts : cells) {
+    for (const std::vector<Row>& rows : cells) {
         const auto number = static_cast<int>(table.cells.size());
         DraftCell& cell = table.cells.emplace_back();
         cell.cell.row = number / 2;
         cell.cell.column = number % 2;
-        const double left = 90 + 200 * cell.cell.column;
-        for (const char* text : texts)
-            cell.blocks.push_back(tests::makeBlock(tests::makeParagraph({tests::makeLine(text, left, 100)})));
+        const double shift = 200 * cell.cell.column;
+        for (const Row& row : rows) {
+            cell.blocks.push_back(
+                tests::makeBlock(tests::makeParagraph({tests::makeLine(row.text, row.left + shift, 100)})));
+            cell.blocks.back().paragraph()->pieces.front().column = {72 + shift, 272 + shift};
+        }
     }
     draft.blocks.emplace_back().value = std::move(table);
     findLists(draft, {});
@@ -193,18 +196,19 @@ DocumentDraft listsOfCells(const std::vector<std::vector<const char*>>& cells) {
 TEST(ListFinder, GoesOnFromCellToCellOfAColumn) {
     const struct {
         const char* why;
-        std::vector<std::vector<const char*>> cells;
+        std::vector<std::vector<Row>> cells;
         const char* expected; ///< of all cells, row by row
     } cases[] = {
         {"questions and answers",
-         {{"1.\tWhy"}, {"yes"}, {"2.\tHow"}, {"no"}, {"3.\tWhen"}, {"no"}},
+         {{{"1.\tWhy"}}, {{"yes"}}, {{"2.\tHow"}}, {{"no"}}, {{"3.\tWhen"}}, {{"no"}}},
          "0.0 - 0.0 - 0.0 -"},
-        {"not across", {{"3.\tWhy"}, {"4.\tHow"}, {"more"}, {"more"}}, "- - - -"},
-        {"a level within a cell", {{"1.\tWhy"}, {}, {"2.\tHow", "a)\tso"}, {}}, "0.0 0.0 1.0"},
-        {"bullets by cell", {{"\u2022\tone"}, {}, {"\u2022\ttwo"}, {}}, "0.0 1.0"},
-        {"numbers of rows", {{"2\tone"}, {}, {"3\ttwo"}, {}}, "- -"},
-        {"amounts", {{"1.47\tkg"}, {}, {"1.48\tkg"}, {}}, "- -"},
-        {"amounts without parts", {{"2.0\tkg"}, {}, {"3.0\tkg"}, {}}, "- -"},
+        {"not across", {{{"3.\tWhy"}}, {{"4.\tHow"}}, {{"more"}}, {{"more"}}}, "- - - -"},
+        {"a level within a cell", {{{"1.\tWhy"}}, {}, {{"2.\tHow"}, {"a)\tso", 120}}, {}}, "0.0 0.0 0.1"},
+        {"no level below another cell", {{{"1.\tWhy"}}, {}, {{"a)\tso", 120}}, {}}, "0.0 1.0"},
+        {"bullets by cell", {{{"\u2022\tone"}}, {}, {{"\u2022\ttwo"}}, {}}, "0.0 1.0"},
+        {"numbers of rows", {{{"2\tone"}}, {}, {{"3\ttwo"}}, {}}, "- -"},
+        {"amounts", {{{"1.47\tkg"}}, {}, {{"1.48\tkg"}}, {}}, "- -"},
+        {"amounts without parts", {{{"2.0\tkg"}}, {}, {{"3.0\tkg"}}, {}}, "- -"},
     };
     for (const auto& [why, cells, expected] : cases) {
         const DocumentDraft draft = listsOfCells(cells);

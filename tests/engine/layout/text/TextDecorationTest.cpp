@@ -39,6 +39,17 @@ TEST(TextDecoration, TakesADoubleRuleAsADoubleUnderline) {
     EXPECT_EQ(lookOfWord(read(words.page), 1).underline, UnderlineKind::Double);
 }
 
+TEST(TextDecoration, TakesADoubleRuleThickerThanASingleUnderlineMayBe) {
+    ThreeWords words;
+    words.page.horizontalRule(words.left, words.right, 101, 0.5);
+    words.page.horizontalRule(words.left, words.right, 102.7, 0.5);
+    EXPECT_EQ(lookOfWord(read(words.page), 1).underline, UnderlineKind::Double);
+
+    ThreeWords thick;
+    thick.page.horizontalRule(thick.left, thick.right, 101.85, 2.2);
+    EXPECT_EQ(lookOfWord(read(thick.page), 1).underline, UnderlineKind::None);
+}
+
 TEST(TextDecoration, TakesARuleThroughAWordAsItsStrike) {
     ThreeWords words;
     words.page.horizontalRule(words.left, words.right, 97, 0.6);
