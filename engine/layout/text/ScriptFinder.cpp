@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
@@ -17,11 +18,19 @@ struct Host {
     double distance = 0;
 };
 
+/// Marks of trade and of notes, which no line of its own holds.
+bool isMarks(const TextStrip& strip) {
+    static constexpr std::u32string_view kMarks = U"\u00AE\u00A9\u2122\u2120*\u2217\u2020\u2021\u00A7\u00B6";
+    return std::all_of(strip.clusters.begin(), strip.clusters.end(), [](const Cluster& cluster) {
+        return kMarks.find(cluster.text.front()) != std::u32string_view::npos;
+    });
+}
+
 /// How `script` would stand at `host` by its height alone; nothing when it is no script of it.
 std::optional<VerticalPosition> positionAt(const TextStrip& script, const TextStrip& host,
                                            const TextParameters::Scripts& limits) {
     const double ratio = script.size / host.size;
-    if (ratio < limits.smallestRatio || ratio > limits.largestRatio)
+    if (ratio < (isMarks(script) ? limits.smallestMarkRatio : limits.smallestRatio) || ratio > limits.largestRatio)
         return std::nullopt;
     const double rise = (host.baseline - script.baseline) / host.size;
     if (rise >= limits.leastRise && rise <= limits.greatestRise)
@@ -62,7 +71,7 @@ std::optional<Host> findHost(const std::vector<TextStrip>& strips, std::size_t i
     std::optional<Host> best;
     if (script.isBlank() || script.inkCount > limits.longestScript)
         return best;
-    const double reach = std::max(limits.greatestRise, limits.greatestDrop) * script.size / limits.smallestRatio;
+    const double reach = std::max(limits.greatestRise, limits.greatestDrop) * script.size / limits.smallestMarkRatio;
     visitNear(strips, i, reach, limits.mostNeighbours, [&](std::size_t j) {
         const TextStrip& host = strips[j];
         const auto position = host.isBlank() ? std::nullopt : positionAt(script, host, limits);
@@ -212,7 +221,9 @@ void joinScripts(std::vector<TextStrip>& strips, const TextParameters& parameter
         TextStrip& script = strips[i];
         for (Cluster& cluster : script.clusters) {
             cluster.look.verticalPosition = host->position;
-            cluster.look.size = strips[root].clusters.front().look.size;
+            const double hostSize = strips[root].clusters.front().look.size;
+            const bool isTiny = cluster.look.size < limits.smallestRatio * hostSize;
+            cluster.look.size = isTiny ? cluster.look.size / limits.usualRatio : hostSize;
         }
         moves.push_back({i, strips[root].baseline, strips[root].size});
     }

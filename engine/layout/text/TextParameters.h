@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstdint>
 #include <cstddef>
+#include <cstdint>
 
 namespace orvane::layout {
 
@@ -121,7 +121,9 @@ struct TextParameters {
     /// ScriptFinder: superscripts, subscripts and drop caps. Shares are of the host's font size unless said otherwise.
     struct Scripts {
         double smallestRatio = 0.4; ///< font size of the script against the host's; scripts of scripts are about 0.5
+        double smallestMarkRatio = 0.27; ///< likewise, of marks of trade and of notes
         double largestRatio = 0.92;
+        double usualRatio = 0.6; ///< to which word processors shrink scripts
         double leastRise = 0.12; ///< of a superscript's baseline
         double greatestRise = 0.75;
         double leastDrop = 0.05; ///< of a subscript's baseline

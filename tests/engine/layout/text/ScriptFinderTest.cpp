@@ -30,6 +30,25 @@ TEST(ScriptFinder, KeepsScriptsInTheirWords) {
     EXPECT_EQ(line.fontSize, 10);
 }
 
+TEST(ScriptFinder, KeepsTinyMarksInTheirLine) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, "Orvane", 12);
+    x = page.text(x, 96, "\u00AE", 3.6);
+    page.text(x, 100, " reads", 12);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 1u);
+    EXPECT_EQ(textOf(text.lines[0]), "Orvane\u00AE reads");
+    const Look& look = text.lines[0].words[0].spans.at(1).look;
+    EXPECT_EQ(look.verticalPosition, VerticalPosition::Superscript);
+    EXPECT_DOUBLE_EQ(look.size, 6) << "shrunk it is as small as it was";
+
+    PageContentBuilder digit;
+    x = digit.text(72, 100, "Orvane", 12);
+    x = digit.text(x, 96, "2", 3.6);
+    digit.text(x, 100, " reads", 12);
+    EXPECT_EQ(read(digit).lines.size(), 2u) << "a number in a drawing, for instance";
+}
+
 TEST(ScriptFinder, KeepsShiftedLettersInTheirWords) {
     PageContentBuilder page;
     double x = page.text(72, 100, "See T", 10);
