@@ -1,5 +1,6 @@
 #include "layout/tables/AlignedAdmission.h"
 
+#include "layout/tables/BoldHead.h"
 #include "layout/tables/CodeListing.h"
 #include "layout/tables/ContentsEntries.h"
 #include "layout/tables/FieldTexts.h"
@@ -69,7 +70,7 @@ public:
         if (isRagged())
             return TableVerdict::Ragged;
         if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn() && !showsRows() &&
-            !holdsFields() && !m_isNamed)
+            !holdsFields() && !m_isNamed && !hasBoldHead(m_aligned.rows, m_columns.size(), lines(), m_parameters))
             return TableVerdict::TooSmall;
         return TableVerdict::Table;
     }

@@ -105,9 +105,11 @@ bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const 
             return isInTypewriter(piece, page) && hasSignsOfCode(textOf(piece, page.lines));
         });
     };
+    const auto isTyped = [&](const TextPiece* piece) { return isInTypewriter(*piece, page); };
+    const bool areBothTyped = columns.size() == 2 && columns[1].share(isTyped) > parameters.codeShare;
     return areTypedLinesCounted(page, columns, parameters) || arePrinted(page, aligned, columns, parameters) ||
            (shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
-            (columns.size() == 2 || shareOfRows(aligned, hasSigns) > parameters.codeShare));
+            (areBothTyped || shareOfRows(aligned, hasSigns) > parameters.codeShare));
 }
 
 } // namespace orvane::layout
