@@ -4,18 +4,6 @@
 #include "layout/structure/BlockExtent.h"
 
 namespace orvane::layout {
-namespace {
-
-/// What a border adds to the height of its paragraph. Units: points.
-double heightOf(const document::Border& border) {
-    if (border.kind == document::BorderKind::None)
-        return 0;
-    const int lines = border.kind == document::BorderKind::Double ? 3 : 1; // two and the gap between them
-    return border.spacePoints + lines * border.width.value / 8.0;
-}
-
-} // namespace
-
 void measureLines(AssembledBlock& block, const AssemblyContext& context) {
     const DraftParagraph* draft = block.draftParagraph();
     if (!draft)

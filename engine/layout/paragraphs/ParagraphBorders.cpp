@@ -23,6 +23,12 @@ constexpr double kWholeGround = 0.9;
 /// Points by which a ground reaches beyond text; less is the room of its lines.
 constexpr double kLeastPadding = 2;
 
+/// Points by which the edges of a ground that is painted twice may differ.
+constexpr double kSameGround = 0.5;
+
+/// Share of a ground's width that a line in the middle of it leaves free at least.
+constexpr double kRoomAround = 0.2;
+
 /// Share of the page's height that a frame around its text takes.
 constexpr double kFrameHeight = 0.6;
 
@@ -30,6 +36,7 @@ constexpr double kFrameHeight = 0.6;
 struct Placed {
     ParagraphDraft* paragraph = nullptr;
     ColumnSpan edges;
+    ColumnSpan column;
     bool isInColumns = false; ///< beside other columns
 };
 
@@ -66,9 +73,8 @@ public:
             if (!paragraph || paragraph->lines.front().angle != 0 || paragraph->lines.front().isVertical)
                 continue;
             const Band& band = layout.bands[static_cast<std::size_t>(block.band)];
-            m_paragraphs.push_back({paragraph,
-                                    edgesOf(*paragraph, band.columns[static_cast<std::size_t>(block.column)]),
-                                    band.columns.size() > 1});
+            const ColumnSpan column = band.columns[static_cast<std::size_t>(block.column)];
+            m_paragraphs.push_back({paragraph, edgesOf(*paragraph, column), column, band.columns.size() > 1});
         }
     }
 
@@ -101,16 +107,34 @@ private:
                         textHeight >= m_parameters.filledShare * ground.box.height() && mayFill(ground.box, held);
         for (Placed* placed : held)
             placed->paragraph->shading = ground.isUsed ? std::optional(ground.color) : std::nullopt;
-        if (ground.isUsed && held.size() == 1 && standsAlone(ground))
-            fitTo(ground, *held.front());
+        if (!ground.isUsed || held.size() != 1 || !standsAlone(ground))
+            return;
+        centreIn(ground, *held.front());
+        fitTo(ground, *held.front());
     }
 
-    /// Whether no ground of its colour meets this one: those of paragraphs that follow each other look like one.
+    /// Whether no ground of its colour meets this one: those of paragraphs that follow each other look like one. Some
+    /// programs paint one twice.
     bool standsAlone(const Ground& ground) const {
         const Rect reach = ground.box.inflated(m_parameters.overhang);
         return std::none_of(m_layout.freeGrounds.begin(), m_layout.freeGrounds.end(), [&](const Ground& other) {
-            return &other != &ground && other.color == ground.color && other.box.intersects(reach);
+            return other.color == ground.color && other.box.intersects(reach) &&
+                   !ground.box.inflated(kSameGround).contains(other.box);
         });
+    }
+
+    /// A single line in the middle of a ground as wide as its column is centred: alone it would not show that.
+    void centreIn(const Ground& ground, Placed& placed) const {
+        ParagraphDraft& paragraph = *placed.paragraph;
+        const double before = paragraph.box.left - ground.box.left, after = ground.box.right - paragraph.box.right;
+        const bool isWide = std::abs(ground.box.left - placed.column.left) < kLeastPadding &&
+                            std::abs(ground.box.right - placed.column.right) < kLeastPadding;
+        if (!isWide || paragraph.lines.size() > 1 || !keepsToStart(paragraph) ||
+            before + after < kRoomAround * ground.box.width() || std::abs(before - after) > kLeastPadding)
+            return;
+        paragraph.alignment = Alignment::Center;
+        paragraph.indentStart = paragraph.indentEnd = paragraph.firstLine = 0;
+        placed.edges = placed.column;
     }
 
     /// Lets the paragraph's shading, which goes from indent to indent, reach as far as the ground does.

@@ -4,6 +4,13 @@
 
 namespace orvane::layout {
 
+double heightOf(const document::Border& border) {
+    if (border.kind == document::BorderKind::None)
+        return 0;
+    const int lines = border.kind == document::BorderKind::Double ? 3 : 1; // two and the gap between them
+    return border.spacePoints + lines * border.width.value / 8.0;
+}
+
 bool isFloating(const DraftBlock& block) {
     if (const DraftParagraph* paragraph = block.paragraph())
         return paragraph->pieces.front().text.isFloating;

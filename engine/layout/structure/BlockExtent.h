@@ -16,6 +16,9 @@ struct BlockExtent {
 
 BlockExtent extentOf(const DraftBlock& block, const FontCatalog& fonts);
 
+/// What a border adds to the height of its paragraph; points.
+double heightOf(const document::Border& border);
+
 /// Pictures and lines of text that float take no room in the flow.
 bool isFloating(const DraftBlock& block);
 

@@ -69,24 +69,39 @@ void setColumn(std::vector<DraftBlock>& blocks, const ColumnSpan& column) {
             block.textColumn = column;
 }
 
-/// How near the blocks come to the page's edge; infinite without blocks in the flow.
-double distanceFromEdge(const std::vector<DraftBlock>& blocks, const FontCatalog& fonts, PageEdge side,
-                        double pageHeight) {
+/// The border of a paragraph towards the page's edge; null for other blocks.
+document::Border* outerBorder(DraftBlock& block, PageEdge side) {
+    DraftParagraph* paragraph = block.paragraph();
+    if (!paragraph)
+        return nullptr;
+    return side == PageEdge::Top ? &paragraph->pieces.front().text.borders.top
+                                 : &paragraph->pieces.back().text.borders.bottom;
+}
+
+/// How near the blocks come to the page's edge; infinite without blocks in the flow. Borders that would reach over it
+/// come nearer to their text.
+double distanceFromEdge(std::vector<DraftBlock>& blocks, const FontCatalog& fonts, PageEdge side, double pageHeight) {
     double distance = std::numeric_limits<double>::infinity();
-    for (const DraftBlock& block : blocks) {
+    for (DraftBlock& block : blocks) {
         if (isFloating(block))
             continue;
         const BlockExtent extent = extentOf(block, fonts);
-        distance = std::min(distance, side == PageEdge::Top ? extent.top : pageHeight - extent.bottom);
+        const double room = side == PageEdge::Top ? extent.top : pageHeight - extent.bottom;
+        double border = 0;
+        if (document::Border* outer = outerBorder(block, side)) {
+            const int excess = static_cast<int>(std::ceil(std::max(0.0, heightOf(*outer) - room)));
+            outer->spacePoints = std::max(0, outer->spacePoints - excess);
+            border = heightOf(*outer);
+        }
+        distance = std::min(distance, room - border);
     }
     return distance;
 }
 
 /// Sets the distance to that of the text that comes nearest to the edge.
-void setDistance(Twips& target, const DraftRunningText& text, const FontCatalog& fonts, PageEdge side,
-                 double pageHeight) {
+void setDistance(Twips& target, DraftRunningText& text, const FontCatalog& fonts, PageEdge side, double pageHeight) {
     double distance = std::numeric_limits<double>::infinity();
-    for (const auto* blocks : {&text.standard, &text.evenPages, &text.firstPage})
+    for (auto* blocks : {&text.standard, &text.evenPages, &text.firstPage})
         if (*blocks)
             distance = std::min(distance, distanceFromEdge(**blocks, fonts, side, pageHeight));
     if (std::isfinite(distance))

@@ -170,6 +170,38 @@ TEST(ParagraphBorders, ABannerGoesAsFarAsItsGround) {
     EXPECT_EQ(sides(banner({ground, {{20, 112, 560, 130}, navy, 1, false, 0, {}}}), 0), "") << "one of two in a row";
 }
 
+TEST(ParagraphBorders, AGroundThatIsPaintedTwiceIsOne) {
+    PageLayout page = pageWith({100});
+    page.freeGrounds.assign(2, Ground{{20, 84, 560, 112}, {0, 0, 0x80}, 1, false, 0, {}});
+    page = found(std::move(page));
+    ASSERT_TRUE(at(page, 0).shadedSpan);
+    EXPECT_NEAR(at(page, 0).shadedSpan->left, 20, 0.01);
+}
+
+TEST(ParagraphBorders, ALineInTheMiddleOfItsGroundIsCentred) {
+    const struct {
+        const char* why;
+        Rect ground;
+        document::Alignment expected;
+    } cases[] = {
+        {"as wide as the column", {72, 84, 523, 112}, document::Alignment::Center},
+        {"the line stands elsewhere", {72, 84, 523, 112}, document::Alignment::Start},
+        {"of another width", {90, 84, 505, 112}, document::Alignment::Start},
+    };
+    for (const auto& [why, ground, expected] : cases) {
+        PageLayout page = pageWith({100});
+        auto& paragraph = std::get<ParagraphDraft>(page.blocks[0].value);
+        const double shift = std::string_view(why).starts_with("the line") ? 20 : 0;
+        paragraph.box.left = 200 + shift;
+        paragraph.box.right = 395 + shift;
+        paragraph.indentStart = 128 + shift;
+        page.freeGrounds = {{ground, {0, 0, 0x80}, 1, false, 0, {}}};
+        page = found(std::move(page));
+        EXPECT_EQ(at(page, 0).alignment, expected) << why;
+        EXPECT_EQ(at(page, 0).indentStart, expected == document::Alignment::Center ? 0 : 128 + shift) << why;
+    }
+}
+
 TEST(ParagraphBorders, TheGroundOfSeveralLinesHasBordersOfItsColour) {
     PageLayout page = pageWith({100});
     auto& paragraph = std::get<ParagraphDraft>(page.blocks[0].value);

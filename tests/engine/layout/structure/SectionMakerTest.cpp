@@ -316,6 +316,33 @@ TEST(SectionMaker, KeepsFootersOfOddAndEvenPagesAtTheirHeights) {
     EXPECT_EQ(propertiesOf(section.header.evenPages).spaceBefore.value, 0);
 }
 
+TEST(SectionMaker, LeavesRoomForTheBordersOfHeads) {
+    struct Head {
+        document::Section setup;
+        int space = 0; ///< between the head and the ground's upper edge
+    };
+    const auto headAt = [](double baseline) {
+        DocumentDraft draft = makeDraft(3);
+        std::vector<PageRunningHeads> heads(3);
+        for (std::size_t page = 0; page < 3; ++page) {
+            fillPage(draft, page, 700);
+            heads[page].header = makeHead(static_cast<int>(page) + 1, baseline, "Title");
+            const Rect text = heads[page].header->content.lines.front().box;
+            const Rect ground{72, std::max(0.0, text.top - 6), 523, text.bottom + 1};
+            heads[page].header->content.grounds = {{ground, {0, 0, 0x80}, 1, false, 0, {}}};
+        }
+        sectionsOf(draft, heads);
+        const DraftBlock& head = draft.sections.at(0).header.standard.value().front();
+        return Head{draft.sections[0].setup, head.paragraph()->pieces.front().text.borders.top.spacePoints};
+    };
+    const Head usual = headAt(50);
+    EXPECT_EQ(usual.space, 6);
+    EXPECT_NEAR(pointsFromTwips(usual.setup.headerDistance), 50 - 9.5 - 6, 1);
+    const Head high = headAt(13);
+    EXPECT_LT(high.space, 5) << "no border reaches over the edge of the page and pushes the text down";
+    EXPECT_LT(pointsFromTwips(high.setup.headerDistance), 1);
+}
+
 TEST(SectionMaker, GivesRunningHeadsToTheSection) {
     DocumentDraft draft = makeDraft(2);
     fillPage(draft, 0);
