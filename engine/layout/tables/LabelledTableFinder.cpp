@@ -71,7 +71,7 @@ public:
         const bool isText =
             count([&](const LabelledRow& row) { return row.valueLines > m_parameters.longestValue; }) > 0;
         return filled >= m_parameters.fewestPartedRows && isWrapped && filled >= m_parameters.labelledRowShare * rows &&
-               !isText && areLabels() && !isOfColumns();
+               !isText && areLabels() && !isOfColumns() && !isPartedByFigure();
     }
 
     AlignedRows aligned() const {
@@ -185,20 +185,27 @@ private:
                m_labelColumn.width() < m_valueColumn.width();
     }
 
-    /// Whether some label takes several lines, and nothing speaks for a listing, an index or text in columns.
+    /// Whether some label takes several lines, and nothing speaks for a listing, an index or text in columns. Labels of
+    /// far more lines than their values are labels without values.
     bool hasWrappedLabel() const {
-        if (isPartedByFigure() || std::none_of(m_labelled.begin(), m_labelled.end(),
-                                               [](const LabelledRow& row) { return row.labelLines > 1; }))
+        const auto isAny = [this](auto&& predicate) {
+            return std::any_of(m_labelled.begin(), m_labelled.end(), predicate);
+        };
+        if (!isAny([](const LabelledRow& row) { return row.labelLines > 1; }) ||
+            isAny([](const LabelledRow& row) { return row.labelLines > row.valueLines + 1; }))
             return false;
         const TableVerdict verdict = judgeAlignedTable(m_page, aligned(), AlignedEvidence::Alignment, m_parameters);
         return verdict == TableVerdict::Table || verdict == TableVerdict::TooSmall;
     }
 
-    /// Whether the text only makes room for a picture in it.
+    /// Whether the text only makes room for a picture, or something filled, in it.
     bool isPartedByFigure() const {
         const Rect room{m_labelColumn.right, m_labelColumn.top, m_valueColumn.left, m_labelColumn.bottom};
         return std::any_of(m_page.figures.begin(), m_page.figures.end(),
-                           [&](const Figure& figure) { return !figure.isBackground && figure.box.intersects(room); });
+                           [&](const Figure& figure) { return !figure.isBackground && figure.box.intersects(room); }) ||
+               std::any_of(m_page.grounds.begin(), m_page.grounds.end(), [&](const Ground& ground) {
+                   return ground.box.intersects(room) && ground.box.left > room.left && ground.box.right < room.right;
+               });
     }
 
     /// Whether a label stands beside the middle of the lines of its value, as no line of a column of text would.
