@@ -71,7 +71,8 @@ public:
             if (isTaken[first])
                 continue;
             const std::vector<GroundBand> table = tableFrom(bands, first, isTaken);
-            if (table.size() >= static_cast<std::size_t>(m_parameters.fewestPartedRows) && !hasTextsBeside(table))
+            const auto fewest = static_cast<std::size_t>(m_parameters.fewestPartedRows);
+            if (table.size() + (isBetweenRules(table) ? 1 : 0) >= fewest && !hasTextsBeside(table))
                 addLines(table);
         }
         return std::move(m_lines);
@@ -92,9 +93,27 @@ private:
     }
 
     bool goesOn(const GroundBand& above, const GroundBand& below) const {
-        return haveEqualSides(above, below, m_parameters.filledSnap) &&
-               below.box.top >= above.box.bottom - m_parameters.filledSnap && !openEdges(above, below).empty() &&
-               endOfTexts(above, 1) >= below.box.top - m_parameters.filledSnap;
+        if (!haveEqualSides(above, below, m_parameters.filledSnap) ||
+            below.box.top < above.box.bottom - m_parameters.filledSnap || openEdges(above, below).empty())
+            return false;
+        const double end = endOfTexts(above, 1);
+        const double padding = end > above.box.bottom ? paddingOf(above) : 0;
+        return end + padding >= below.box.top - m_parameters.filledSnap;
+    }
+
+    /// Whether rules as wide as the bands lie above them and below, on the same page a row or two away.
+    bool isBetweenRules(const std::vector<GroundBand>& table) const {
+        const Rect& first = table.front().box;
+        const Rect& last = table.back().box;
+        const auto lies = [&](double from, double to) {
+            return std::any_of(m_drawn.begin(), m_drawn.end(), [&](const BorderLine& line) {
+                return line.direction == RuleDirection::Horizontal && line.position > from && line.position < to &&
+                       isNear(line.from, first.left, m_parameters.endSnap) &&
+                       isNear(line.to, first.right, m_parameters.endSnap);
+            });
+        };
+        return lies(first.top - 2 * first.height(), first.top + m_parameters.filledSnap) &&
+               lies(last.bottom - m_parameters.filledSnap, last.bottom + 2 * last.height());
     }
 
     /// Whether texts stand beside most bands: columns without ground belong to the table.
@@ -196,6 +215,7 @@ private:
     /// as the band itself where there are none.
     double endOfTexts(const GroundBand& band, int step) const {
         const double start = step < 0 ? band.box.top : band.box.bottom;
+        const double padding = paddingOf(band);
         constexpr double kFar = std::numeric_limits<double>::max();
         const Rect beyond = step < 0 ? Rect{band.box.left, -kFar, band.box.right, start}
                                      : Rect{band.box.left, start, band.box.right, kFar};
@@ -210,11 +230,29 @@ private:
             const bool isCut =
                 std::all_of(band.edges.begin(), band.edges.end(), [&](double x) { return isCrossedBy(*line, x); });
             const double blank = step < 0 ? end - line->box.bottom : line->box.top - end;
-            if (isCut || blank > m_parameters.groundRowBlank * line->fontSize)
+            if (isCut || blank > std::max(m_parameters.groundRowBlank * line->fontSize, padding) ||
+                isRuleBetween(band, end, step < 0 ? line->box.bottom : line->box.top))
                 break;
             end = step < 0 ? std::min(end, line->box.top) : std::max(end, line->box.bottom);
         }
         return end;
+    }
+
+    /// The space above a single line in the middle of the band, and a little more: rows beside it leave as much.
+    double paddingOf(const GroundBand& band) const {
+        constexpr double kSlack = 1.2;
+        const auto line = std::find_if(m_page.lines.begin(), m_page.lines.end(),
+                                       [&](const Line& candidate) { return isWithin(candidate, band.box); });
+        return line == m_page.lines.end() ? 0 : kSlack * (band.box.height() - line->box.height()) / 2;
+    }
+
+    /// Whether a rule as wide as the band lies between two heights.
+    bool isRuleBetween(const GroundBand& band, double a, double b) const {
+        return std::any_of(m_drawn.begin(), m_drawn.end(), [&](const BorderLine& line) {
+            return line.direction == RuleDirection::Horizontal && line.position > std::min(a, b) &&
+                   line.position < std::max(a, b) && isNear(line.from, band.box.left, m_parameters.endSnap) &&
+                   isNear(line.to, band.box.right, m_parameters.endSnap);
+        });
     }
 
     void addAcross(double y, const Rect& box) {
