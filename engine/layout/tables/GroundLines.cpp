@@ -101,19 +101,12 @@ private:
         return end + padding >= below.box.top - m_parameters.filledSnap;
     }
 
-    /// Whether rules as wide as the bands lie above them and below, on the same page a row or two away.
+    /// Whether rules as wide as the bands lie above them and below, a row or two away.
     bool isBetweenRules(const std::vector<GroundBand>& table) const {
-        const Rect& first = table.front().box;
-        const Rect& last = table.back().box;
-        const auto lies = [&](double from, double to) {
-            return std::any_of(m_drawn.begin(), m_drawn.end(), [&](const BorderLine& line) {
-                return line.direction == RuleDirection::Horizontal && line.position > from && line.position < to &&
-                       isNear(line.from, first.left, m_parameters.endSnap) &&
-                       isNear(line.to, first.right, m_parameters.endSnap);
-            });
-        };
-        return lies(first.top - 2 * first.height(), first.top + m_parameters.filledSnap) &&
-               lies(last.bottom - m_parameters.filledSnap, last.bottom + 2 * last.height());
+        const GroundBand &first = table.front(), &last = table.back();
+        const std::vector<double> rules = rulesAcross(first);
+        return isAnyBetween(rules, first.box.top - 2 * first.box.height(), first.box.top + m_parameters.filledSnap) &&
+               isAnyBetween(rules, last.box.bottom - m_parameters.filledSnap, last.box.bottom + 2 * last.box.height());
     }
 
     /// Whether texts stand beside most bands: columns without ground belong to the table.
@@ -216,6 +209,7 @@ private:
     double endOfTexts(const GroundBand& band, int step) const {
         const double start = step < 0 ? band.box.top : band.box.bottom;
         const double padding = paddingOf(band);
+        const std::vector<double> rules = rulesAcross(band);
         constexpr double kFar = std::numeric_limits<double>::max();
         const Rect beyond = step < 0 ? Rect{band.box.left, -kFar, band.box.right, start}
                                      : Rect{band.box.left, start, band.box.right, kFar};
@@ -231,7 +225,7 @@ private:
                 std::all_of(band.edges.begin(), band.edges.end(), [&](double x) { return isCrossedBy(*line, x); });
             const double blank = step < 0 ? end - line->box.bottom : line->box.top - end;
             if (isCut || blank > std::max(m_parameters.groundRowBlank * line->fontSize, padding) ||
-                isRuleBetween(band, end, step < 0 ? line->box.bottom : line->box.top))
+                isAnyBetween(rules, end, step < 0 ? line->box.bottom : line->box.top))
                 break;
             end = step < 0 ? std::min(end, line->box.top) : std::max(end, line->box.bottom);
         }
@@ -246,13 +240,19 @@ private:
         return line == m_page.lines.end() ? 0 : kSlack * (band.box.height() - line->box.height()) / 2;
     }
 
-    /// Whether a rule as wide as the band lies between two heights.
-    bool isRuleBetween(const GroundBand& band, double a, double b) const {
-        return std::any_of(m_drawn.begin(), m_drawn.end(), [&](const BorderLine& line) {
-            return line.direction == RuleDirection::Horizontal && line.position > std::min(a, b) &&
-                   line.position < std::max(a, b) && isNear(line.from, band.box.left, m_parameters.endSnap) &&
-                   isNear(line.to, band.box.right, m_parameters.endSnap);
-        });
+    /// The heights of the rules that are as wide as the band.
+    std::vector<double> rulesAcross(const GroundBand& band) const {
+        std::vector<double> heights;
+        for (const BorderLine& line : m_drawn)
+            if (line.direction == RuleDirection::Horizontal && isNear(line.from, band.box.left, m_parameters.endSnap) &&
+                isNear(line.to, band.box.right, m_parameters.endSnap))
+                heights.push_back(line.position);
+        return heights;
+    }
+
+    static bool isAnyBetween(const std::vector<double>& heights, double a, double b) {
+        return std::any_of(heights.begin(), heights.end(),
+                           [&](double y) { return y > std::min(a, b) && y < std::max(a, b); });
     }
 
     void addAcross(double y, const Rect& box) {

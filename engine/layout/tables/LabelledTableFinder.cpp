@@ -67,11 +67,11 @@ public:
         const int rows = static_cast<int>(m_labelled.size());
         const int filled = count([](const LabelledRow& row) { return row.valueLines > 0; });
         const int wrapped = count([](const LabelledRow& row) { return row.valueLines > 1; });
-        const bool isWrapped = wrapped >= m_parameters.minimumRowsParted || hasWrappedLabel();
         const bool isText =
             count([&](const LabelledRow& row) { return row.valueLines > m_parameters.longestValue; }) > 0;
-        return filled >= m_parameters.fewestPartedRows && isWrapped && filled >= m_parameters.labelledRowShare * rows &&
-               !isText && areLabels() && !isOfColumns() && !isPartedByFigure();
+        return filled >= m_parameters.fewestPartedRows && filled >= m_parameters.labelledRowShare * rows && !isText &&
+               areLabels() && !isOfColumns() && !isPartedByFigure() &&
+               (wrapped >= m_parameters.minimumRowsParted || hasWrappedLabel());
     }
 
     AlignedRows aligned() const {
