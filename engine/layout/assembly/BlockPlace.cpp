@@ -4,6 +4,7 @@
 #include "layout/structure/BlockExtent.h"
 
 namespace orvane::layout {
+
 void measureLines(AssembledBlock& block, const AssemblyContext& context) {
     const DraftParagraph* draft = block.draftParagraph();
     if (!draft)

@@ -113,8 +113,8 @@ private:
         fitTo(ground, *held.front());
     }
 
-    /// Whether no ground of its colour meets this one: those of paragraphs that follow each other look like one. Some
-    /// programs paint one twice.
+    /// Whether no ground of its colour goes on from this one: those of paragraphs that follow each other look like one.
+    /// What lies within it, the same ground painted a second time for instance, is not seen.
     bool standsAlone(const Ground& ground) const {
         const Rect reach = ground.box.inflated(m_parameters.overhang);
         return std::none_of(m_layout.freeGrounds.begin(), m_layout.freeGrounds.end(), [&](const Ground& other) {

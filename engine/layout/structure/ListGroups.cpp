@@ -111,7 +111,7 @@ bool ListGrouper::nest(DraftParagraph& paragraph, const ListLabel& label) {
 void ListGrouper::start(DraftParagraph& paragraph, const ListLabel& label) {
     if (m_open.size() == kMostOpen)
         m_open.erase(m_open.begin());
-    m_open.push_back({m_groups.size(), {{label, m_runs++, false}}, {}, false});
+    m_open.push_back({m_groups.size(), {{label, m_runs++, false}}, {}});
     m_groups.emplace_back();
     put(m_open.back(), paragraph, label);
 }

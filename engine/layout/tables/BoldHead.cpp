@@ -26,7 +26,7 @@ bool hasBoldHead(std::span<const PieceRow> rows, std::size_t columnCount, const 
     std::set<std::string> heads;
     for (const TextPiece& piece : rows.front().pieces) {
         const std::string text = textOf(piece, lines);
-        if (!isBold(piece, lines) || piece.wordCount() > kMostHeadWords || !isLetter(utf32FromUtf8(text).front()))
+        if (!isBoldPiece(piece) || piece.wordCount() > kMostHeadWords || !isLetter(utf32FromUtf8(text).front()))
             return false;
         heads.insert(text);
     }

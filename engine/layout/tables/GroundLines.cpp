@@ -101,7 +101,8 @@ private:
         return end + padding >= below.box.top - m_parameters.filledSnap;
     }
 
-    /// Whether rules as wide as the bands lie above them and below, a row or two away.
+    /// Whether rules as wide as the bands lie above them and below, a row or two away. They show a table as one more
+    /// band would.
     bool isBetweenRules(const std::vector<GroundBand>& table) const {
         const GroundBand &first = table.front(), &last = table.back();
         const std::vector<double> rules = rulesAcross(first);

@@ -27,7 +27,7 @@ bool isNumbering(std::string_view text) {
 struct LabelledRow {
     std::size_t first = 0; ///< rows of text [first, end)
     std::size_t end = 0;
-    int labelLines = 0;
+    int labelLines = 0; ///< of the label itself; its value may take more or fewer
     int valueLines = 0;
 };
 
@@ -185,8 +185,8 @@ private:
                m_labelColumn.width() < m_valueColumn.width();
     }
 
-    /// Whether some label takes several lines, and nothing speaks for a listing, an index or text in columns. Labels of
-    /// far more lines than their values are labels without values.
+    /// Whether some label takes several lines, and nothing speaks for a listing, an index or text in columns. What
+    /// takes two lines more than the value beside it is several labels, some of them without values.
     bool hasWrappedLabel() const {
         const auto isAny = [this](auto&& predicate) {
             return std::any_of(m_labelled.begin(), m_labelled.end(), predicate);

@@ -26,11 +26,12 @@ bool isMarks(const TextStrip& strip) {
     });
 }
 
-/// How `script` would stand at `host` by its height alone; nothing when it is no script of it.
-std::optional<VerticalPosition> positionAt(const TextStrip& script, const TextStrip& host,
+/// How `script` would stand at `host` by its height alone; nothing when it is no script of it, smaller than
+/// `smallestRatio` of it for instance.
+std::optional<VerticalPosition> positionAt(const TextStrip& script, const TextStrip& host, double smallestRatio,
                                            const TextParameters::Scripts& limits) {
     const double ratio = script.size / host.size;
-    if (ratio < (isMarks(script) ? limits.smallestMarkRatio : limits.smallestRatio) || ratio > limits.largestRatio)
+    if (ratio < smallestRatio || ratio > limits.largestRatio)
         return std::nullopt;
     const double rise = (host.baseline - script.baseline) / host.size;
     if (rise >= limits.leastRise && rise <= limits.greatestRise)
@@ -71,10 +72,11 @@ std::optional<Host> findHost(const std::vector<TextStrip>& strips, std::size_t i
     std::optional<Host> best;
     if (script.isBlank() || script.inkCount > limits.longestScript)
         return best;
-    const double reach = std::max(limits.greatestRise, limits.greatestDrop) * script.size / limits.smallestMarkRatio;
+    const double smallestRatio = isMarks(script) ? limits.smallestMarkRatio : limits.smallestRatio;
+    const double reach = std::max(limits.greatestRise, limits.greatestDrop) * script.size / smallestRatio;
     visitNear(strips, i, reach, limits.mostNeighbours, [&](std::size_t j) {
         const TextStrip& host = strips[j];
-        const auto position = host.isBlank() ? std::nullopt : positionAt(script, host, limits);
+        const auto position = host.isBlank() ? std::nullopt : positionAt(script, host, smallestRatio, limits);
         if (!position || !standsAt(script, host, limits))
             return;
         const double distance = std::abs(gapBetween(script, host));
@@ -219,9 +221,9 @@ void joinScripts(std::vector<TextStrip>& strips, const TextParameters& parameter
         while (hosts[root]) // ends, as every host is larger than its script
             root = hosts[root]->strip;
         TextStrip& script = strips[i];
+        const double hostSize = strips[root].clusters.front().look.size;
         for (Cluster& cluster : script.clusters) {
             cluster.look.verticalPosition = host->position;
-            const double hostSize = strips[root].clusters.front().look.size;
             const bool isTiny = cluster.look.size < limits.smallestRatio * hostSize;
             cluster.look.size = isTiny ? cluster.look.size / limits.usualRatio : hostSize;
         }

@@ -181,24 +181,24 @@ TEST(ParagraphBorders, AGroundThatIsPaintedTwiceIsOne) {
 TEST(ParagraphBorders, ALineInTheMiddleOfItsGroundIsCentred) {
     const struct {
         const char* why;
+        double left; ///< of a line of 195 points
         Rect ground;
-        document::Alignment expected;
+        bool isCentred;
     } cases[] = {
-        {"as wide as the column", {72, 84, 523, 112}, document::Alignment::Center},
-        {"the line stands elsewhere", {72, 84, 523, 112}, document::Alignment::Start},
-        {"of another width", {90, 84, 505, 112}, document::Alignment::Start},
+        {"the ground is as wide as the column", 200, {72, 84, 523, 112}, true},
+        {"the line stands elsewhere", 220, {72, 84, 523, 112}, false},
+        {"the ground is narrower", 200, {90, 84, 505, 112}, false},
     };
-    for (const auto& [why, ground, expected] : cases) {
+    for (const auto& [why, left, ground, isCentred] : cases) {
         PageLayout page = pageWith({100});
         auto& paragraph = std::get<ParagraphDraft>(page.blocks[0].value);
-        const double shift = std::string_view(why).starts_with("the line") ? 20 : 0;
-        paragraph.box.left = 200 + shift;
-        paragraph.box.right = 395 + shift;
-        paragraph.indentStart = 128 + shift;
+        paragraph.box.left = left;
+        paragraph.box.right = left + 195;
+        paragraph.indentStart = left - 72;
         page.freeGrounds = {{ground, {0, 0, 0x80}, 1, false, 0, {}}};
         page = found(std::move(page));
-        EXPECT_EQ(at(page, 0).alignment, expected) << why;
-        EXPECT_EQ(at(page, 0).indentStart, expected == document::Alignment::Center ? 0 : 128 + shift) << why;
+        EXPECT_EQ(at(page, 0).alignment, isCentred ? document::Alignment::Center : document::Alignment::Start) << why;
+        EXPECT_EQ(at(page, 0).indentStart, isCentred ? 0 : left - 72) << why;
     }
 }
 

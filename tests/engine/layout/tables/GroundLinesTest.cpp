@@ -10,7 +10,7 @@ namespace orvane::layout {
 namespace {
 
 /// Rows of two cells with much room around their texts, every other one filled: these are 54 points high, the others
-/// 44. Above the first stands the head, below the last what is no part of the table.
+/// 44. Above the first stands the head, below the last lines that are no part of the table.
 PageText stripes(int filled) {
     PageText page;
     double top = 76;
@@ -27,7 +27,8 @@ PageText stripes(int filled) {
     }
     for (const double x : {60.0, 180.0}) {
         page.lines.push_back(tests::makeLine("head", x, 72));
-        page.lines.push_back(tests::makeLine("other", x, top + 20));
+        for (int i = 0; i < 4; ++i)
+            page.lines.push_back(tests::makeLine("other", x, top + 12 + 20 * i));
     }
     return page;
 }
