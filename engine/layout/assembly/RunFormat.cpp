@@ -19,7 +19,32 @@ bool hasLetterOrDigit(std::string_view text) {
     return std::any_of(characters.begin(), characters.end(), [](char32_t c) { return isLetter(c) || isDigit(c); });
 }
 
+/// True for what the fonts that word processors set text in have beside ASCII: Latin and Greek letters, and signs of
+/// Windows Glyph List 4. Bullets and arrows are not among them: they are signs, and their size differs from font to
+/// font.
+bool isInTextFonts(char32_t c) {
+    constexpr std::u32string_view kSigns = U"\u2013\u2014\u2018\u2019\u201c\u201d\u2026\u2030\u20ac\u2122"
+                                           U"\u2202\u2206\u220f\u2211\u2212\u221a\u221e\u222b\u2248\u2260\u2264\u2265";
+    constexpr char32_t kMiddleDot = 0xB7;
+    const bool isLatin = c > 0xA0 && c <= 0xFF && c != kMiddleDot;
+    const bool isGreek = c >= 0x391 && c <= 0x3C9;
+    return isLatin || isGreek || kSigns.find(c) != std::u32string_view::npos;
+}
+
+bool isInTextFonts(std::string_view text) {
+    const std::u32string characters = utf32FromUtf8(text);
+    return std::all_of(characters.begin(), characters.end(), [](char32_t c) { return isInTextFonts(c); });
+}
+
 void setFamilies(RunProperties& run, const Span& span, const MappedFont& font, const ScriptFamilies& families) {
+    // What a font of signs shows of the text's own characters is text: word processors have another font of signs, or
+    // know its characters by other codes.
+    if (font.isSymbol && !families[ScriptClass::Simple].empty() && isInTextFonts(span.text)) {
+        run.fontFamily = families[ScriptClass::Simple];
+        run.eastAsianFontFamily = families[ScriptClass::EastAsian];
+        run.complexFontFamily = families[ScriptClass::Complex];
+        return;
+    }
     const ScriptClass kind = scriptClassOf(span.text);
     run.fontFamily = kind == ScriptClass::Simple ? font.family : families[ScriptClass::Simple];
     run.eastAsianFontFamily = kind == ScriptClass::EastAsian ? font.family : families[ScriptClass::EastAsian];

@@ -29,8 +29,10 @@ FontCatalog::FontCatalog(const DocumentDraft& draft, const FontParameters& param
             for (const Line& line : piece.text.lines)
                 for (const Word& word : line.words)
                     for (const Span& span : word.spans) {
-                        const auto kind = static_cast<std::size_t>(scriptClassOf(span.text));
-                        counts[kind][font(piece.page, span.look.font).family] += span.text.size();
+                        const MappedFont& mapped = font(piece.page, span.look.font);
+                        if (!mapped.isSymbol)
+                            counts[static_cast<std::size_t>(scriptClassOf(span.text))][mapped.family] +=
+                                span.text.size();
                     }
     });
     for (std::size_t kind = 0; kind < counts.size(); ++kind) {

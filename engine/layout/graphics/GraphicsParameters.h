@@ -25,6 +25,7 @@ struct GraphicsParameters {
         double dotLength = 1.6;          ///< of the width; shorter dashes are dots
         double doubleDistance = 3;       ///< points; between the middles of a double rule's lines
         double doubleAgainstWidth = 1.2; ///< of the width; closer lines are one broad one
+        double broadDouble = 2.5;        ///< of the width; broad lines are a double rule though farther apart
         double shortestDouble = 6;       ///< points
         std::size_t pairReach = 64;      ///< rules looked at for the second one of a pair
         double coverCell = 2;            ///< points; grain at which a white rectangle is told to lie on a ground

@@ -109,6 +109,70 @@ bool isPair(const Rule& a, const Rule& b, const GraphicsParameters::Rules& limit
            std::abs(a.from - b.from) <= limits.doubleDistance && std::abs(a.to - b.to) <= limits.doubleDistance;
 }
 
+/// Makes `rule` the double one that it draws together with `other`.
+void makeDouble(Rule& rule, const Rule& other) {
+    const double lineWidth = (rule.width + other.width) / 2;
+    rule.kind = BorderKind::Double;
+    rule.lineWidth = lineWidth;
+    rule.width = std::abs(other.position - rule.position) + lineWidth;
+    rule.position = (rule.position + other.position) / 2;
+    rule.from = std::min(rule.from, other.from);
+    rule.to = std::max(rule.to, other.to);
+}
+
+/// Whether `other` is a broad line beside `rule`, or a piece of one, too close for text between them.
+bool isBroadTwin(const Rule& rule, const Rule& other, const GraphicsParameters::Rules& limits) {
+    const double distance = std::abs(other.position - rule.position);
+    const double width = std::min(rule.width, other.width);
+    return rule.direction == other.direction && rule.kind == BorderKind::Single && isAlike(rule, other, limits) &&
+           width <= limits.thickest && distance > limits.doubleDistance && distance <= limits.broadDouble * width &&
+           other.from >= rule.from - distance && other.to <= rule.to + distance;
+}
+
+/// The pieces that draw a broad double rule together with rule `i`: before it in order, or after it, along all of its
+/// length. Empty if there are none.
+std::vector<std::size_t> broadTwins(const std::vector<Rule>& rules, std::size_t i, bool isBefore,
+                                    const GraphicsParameters::Rules& limits) {
+    const std::size_t reach = std::min(limits.pairReach, isBefore ? i : rules.size() - 1 - i);
+    std::vector<std::size_t> twins;
+    double covered = 0;
+    for (std::size_t step = 1; step <= reach; ++step) {
+        const std::size_t j = isBefore ? i - step : i + step;
+        if (!isBroadTwin(rules[i], rules[j], limits))
+            continue;
+        twins.push_back(j);
+        // Where it meets another double rule it ends before that.
+        covered += lengthOf(rules[j]) + 2 * std::abs(rules[j].position - rules[i].position);
+    }
+    if (lengthOf(rules[i]) < limits.shortestDouble || covered < lengthOf(rules[i]))
+        twins.clear();
+    return twins;
+}
+
+/// Broad double rules are drawn in pieces where others meet them: the line inside a frame ends at each rule that parts
+/// it. More than two lines side by side are stripes.
+void joinBroadPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits) {
+    std::vector<bool> isGone(rules.size(), false);
+    for (std::size_t i = 0; i < rules.size(); ++i) {
+        const std::vector<std::size_t> before = broadTwins(rules, i, true, limits);
+        const std::vector<std::size_t> after = broadTwins(rules, i, false, limits);
+        if (isGone[i] || before.empty() == after.empty())
+            continue;
+        const bool isBefore = after.empty();
+        const std::vector<std::size_t>& twins = isBefore ? before : after;
+        const auto isOfStripes = [&](std::size_t j) {
+            return isGone[j] || !broadTwins(rules, j, isBefore, limits).empty();
+        };
+        if (std::any_of(twins.begin(), twins.end(), isOfStripes))
+            continue;
+        makeDouble(rules[i], rules[twins.front()]);
+        for (const std::size_t j : twins)
+            isGone[j] = true;
+    }
+    std::size_t index = 0;
+    std::erase_if(rules, [&](const Rule&) { return isGone[index++]; });
+}
+
 /// Close pairs become one double rule in their middle.
 void joinPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits) {
     std::vector<bool> isGone(rules.size(), false);
@@ -118,13 +182,7 @@ void joinPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits
         for (std::size_t j = i + 1; j < rules.size() && j - i <= limits.pairReach; ++j) {
             if (isGone[j] || !isPair(rules[i], rules[j], limits))
                 continue;
-            Rule& rule = rules[i];
-            rule.kind = BorderKind::Double;
-            rule.lineWidth = (rule.width + rules[j].width) / 2;
-            rule.width = rules[j].position - rule.position + (rule.width + rules[j].width) / 2;
-            rule.position = (rule.position + rules[j].position) / 2;
-            rule.from = std::min(rule.from, rules[j].from);
-            rule.to = std::max(rule.to, rules[j].to);
+            makeDouble(rules[i], rules[j]);
             isGone[j] = true;
             break;
         }
@@ -141,6 +199,8 @@ void mergeRules(std::vector<Rule>& rules, const GraphicsParameters& parameters) 
     rules = joinCollinear(rules, limits);
     sortByPosition(rules);
     joinPairs(rules, limits);
+    sortByPosition(rules);
+    joinBroadPairs(rules, limits);
     sortByPosition(rules);
 }
 

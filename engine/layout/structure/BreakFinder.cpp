@@ -6,6 +6,8 @@
 #include "layout/structure/PageFloor.h"
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace orvane::layout {
 namespace {
@@ -56,24 +58,37 @@ bool isPictureBelowTable(const DraftBlock& a, const DraftBlock& b) {
     return std::holds_alternative<DraftTable>(a.value) && std::holds_alternative<FigureDraft>(b.value);
 }
 
-/// Whether all lines of the column that ends before block `next` were ended by hand: no text that flows from column to
-/// column, whatever their heights.
-bool isColumnEndedByHand(const DocumentDraft& draft, std::size_t next) {
+/// The column that ends before a block.
+struct ColumnText {
+    bool isEndedByHand = true; ///< all of its lines: no text that flows from column to column, whatever their heights
+    bool isOfOnePitch = true;  ///< its lines stand at even distances, as those of a list of words do
+};
+
+ColumnText columnBefore(const DocumentDraft& draft, std::size_t next, double pitchTolerance) {
+    ColumnText column;
     const DraftBlock& last = draft.blocks[next - 1];
+    std::vector<double> baselines;
     for (std::size_t i = next; i-- > 0;) {
         const DraftBlock& block = draft.blocks[i];
         if (block.page != last.page || block.band != last.band || block.column != last.column)
             break;
         const DraftParagraph* paragraph = block.paragraph();
-        if (paragraph && linesOf(*paragraph, paragraph->pieces.front()) == ColumnLines::Wrapped)
-            return false;
+        if (!paragraph)
+            continue;
+        const DraftPiece& piece = paragraph->pieces.front();
+        column.isEndedByHand = column.isEndedByHand && linesOf(*paragraph, piece) != ColumnLines::Wrapped;
+        for (auto line = piece.text.lines.rbegin(); line != piece.text.lines.rend(); ++line)
+            baselines.push_back(line->baseline);
     }
-    return true;
+    for (std::size_t i = 2; i < baselines.size(); ++i)
+        if (std::abs((baselines[i - 1] - baselines[i]) - (baselines[0] - baselines[1])) > pitchTolerance)
+            column.isOfOnePitch = false;
+    return column;
 }
 
 /// Whether block `next` begins a column by hand: `room` points were left below the one before, or word processors,
-/// which fill columns with text below them to one height, would begin it elsewhere. A table does not flow from column
-/// to column.
+/// which fill columns with text below them to one height, would begin it elsewhere: they even out lines that stand at
+/// different distances in ways of their own. A table does not flow from column to column.
 bool startsColumnByHand(const DocumentDraft& draft, const ColumnEnd& end, std::size_t next, double room,
                         const StructureParameters::PageSetup& limits) {
     const DraftBlock& block = draft.blocks[next];
@@ -82,8 +97,10 @@ bool startsColumnByHand(const DocumentDraft& draft, const ColumnEnd& end, std::s
         return true;
     if (!hasTextBelow(draft, end))
         return false;
-    const double even = (isColumnEndedByHand(draft, next) ? 0 : height) + limits.startRoom;
-    return std::holds_alternative<DraftTable>(block.value) || unevenness(draft, end, next) > even;
+    const ColumnText column = columnBefore(draft, next, limits.samePitch);
+    if (std::holds_alternative<DraftTable>(block.value) || (column.isEndedByHand && !column.isOfOnePitch))
+        return true;
+    return unevenness(draft, end, next) > (column.isEndedByHand ? 0 : height) + limits.startRoom;
 }
 
 } // namespace

@@ -29,6 +29,7 @@ struct StructureParameters {
         double besideShare = 0.25; ///< of a picture's height; with more in common two do not stand one below the other
         double lowStart = 12.0;    ///< points; so far below the top margin no program starts a full page
         double startRoom = 6.0;    ///< points; with so much room left on the page before, a page was started by hand
+        double samePitch = 1.0;    ///< points; distances of lines that differ by no more are even
         double floatRoom =
             0.1; ///< of the text's height; with so much room above no program began a page, but its author did
     } pageSetup;

@@ -68,6 +68,27 @@ void mergeGroup(const std::vector<Rule>& rules, std::vector<std::size_t>::iterat
     finish();
 }
 
+/// Lets lines that end before a broad double one end in its middle: where double rules meet they leave gaps, which are
+/// as broad as they are.
+void meetBroadLines(std::vector<BorderLine>& lines, const std::vector<Rule>& rules,
+                    const TableParameters::Tables& parameters) {
+    for (const BorderLine& broad : lines) {
+        const Rule& drawn = rules[broad.rules.front()];
+        if (drawn.kind != document::BorderKind::Double || drawn.width <= parameters.joinGap)
+            continue;
+        const double reach = drawn.width + parameters.joinGap;
+        for (BorderLine& line : lines) {
+            if (line.direction == broad.direction || line.position < broad.from - reach ||
+                line.position > broad.to + reach)
+                continue;
+            if (std::abs(line.from - broad.position) <= reach)
+                line.from = std::min(line.from, broad.position);
+            if (std::abs(line.to - broad.position) <= reach)
+                line.to = std::max(line.to, broad.position);
+        }
+    }
+}
+
 } // namespace
 
 std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const TableParameters::Tables& parameters) {
@@ -88,6 +109,7 @@ std::vector<BorderLine> collectBorderLines(const std::vector<Rule>& rules, const
         mergeGroup(rules, first, last, parameters, lines);
         first = last;
     }
+    meetBroadLines(lines, rules, parameters);
     return lines;
 }
 

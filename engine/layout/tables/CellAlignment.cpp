@@ -137,7 +137,7 @@ void setAlignment(ParagraphDraft& paragraph, Alignment alignment, const Rect& ce
     paragraph.indentStart = alignment == Alignment::Start ? paragraph.box.left - cell.left : 0;
 }
 
-/// From where to where the text of a cell reaches.
+/// From where to where the text of a cell reaches, with the pictures and tables above and below it.
 struct TextExtent {
     Range upright;
     double fontSize = 0; ///< 0 without text
@@ -153,11 +153,20 @@ struct Margins {
 
 TextExtent extentOf(CellDraft& cell) {
     TextExtent extent;
-    forParagraphs(cell, [&](const ParagraphDraft& paragraph) {
-        extent.upright.add(paragraph.box.top);
-        extent.upright.add(paragraph.box.bottom);
-        extent.fontSize = std::max(extent.fontSize, paragraph.lines.front().fontSize);
-    });
+    const auto add = [&](const Rect& box) {
+        extent.upright.add(box.top);
+        extent.upright.add(box.bottom);
+    };
+    for (const PageBlock& block : cell.blocks) {
+        if (const auto* paragraph = std::get_if<ParagraphDraft>(&block.value)) {
+            add(paragraph->box);
+            extent.fontSize = std::max(extent.fontSize, paragraph->lines.front().fontSize);
+        } else if (const auto* figure = std::get_if<FigureDraft>(&block.value)) {
+            add(figure->figure.box);
+        } else {
+            add(std::get<TableDraft>(block.value).box);
+        }
+    }
     return extent;
 }
 
@@ -188,8 +197,9 @@ std::optional<CellAlignment> shownUpright(const CellDraft& cell, const TextExten
     const double tolerance = parameters.uprightTolerance * text.fontSize;
     if (inRow.areEqual(tolerance) || (inRow.above > tolerance && inCell.areEqual(tolerance)))
         return CellAlignment::Center;
-    // A text at the foot of its cell has no more room below it than above.
-    const bool isAtFoot = inRow.below < inRow.above && inCell.below <= inCell.above + tolerance;
+    // A text at the foot of its cell has no more room below it than above, and little.
+    const bool isAtFoot = inRow.below < inRow.above && inCell.below <= inCell.above + tolerance &&
+                          inRow.below <= parameters.footRoom * text.fontSize;
     return isAtFoot ? CellAlignment::Bottom : CellAlignment::Top;
 }
 

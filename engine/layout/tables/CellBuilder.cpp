@@ -140,11 +140,11 @@ TableDraft buildTable(PageText& page, const TableGrid& grid, const CellText& tex
     shadeCells(table, page.grounds, limits);
     table.headerRows = countHeaderRows(table, limits);
     alignAcross(table, rooms, limits, parameters.markers);
-    alignUpright(table, limits);
     takeFigures(table, page.figures);
     for (TableDraft& inner : nested)
         if (CellDraft* cell = cellAround(table, inner.box))
             addTo(*cell, std::move(inner));
+    alignUpright(table, limits);
     return table;
 }
 

@@ -163,6 +163,7 @@ struct TableParameters {
         double edgeTolerance = 0.15; ///< of the font size; text edges that differ by less are aligned
         double centerShare = 0.15;   ///< of the room beside a text that may be more on one side than on the other
         double uprightRoom = 0.8; ///< of the font size; with less room above and below, upright alignment shows nothing
+        double footRoom = 1.2;    ///< of the font size; a text at its cell's foot has no more room below
         double uprightTolerance = 0.35; ///< of the font size; room above and below that differs by less is equal
         double baselineSnap = 0.2;      ///< of the font size; baselines in a cell this near are one line
         double signSnap = 0.6;          ///< likewise, of an arrow or a box of another font beside the text

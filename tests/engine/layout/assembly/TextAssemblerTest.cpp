@@ -147,6 +147,28 @@ TEST(TextAssembler, GivesEachScriptTheFontOfTheParagraph) {
     EXPECT_EQ(textAt(inlines, 0).properties.fontFamily, "Calibri");
 }
 
+/// The runs of three words of which the second is in a font of signs.
+std::vector<document::Inline> inlinesAroundSign(const std::string& sign) {
+    DocumentDraft draft = draftOf({makeLine("stored " + sign + " warm", 72, 100)});
+    pdf::Font signs;
+    signs.name = "OpenSymbol";
+    draft.pages[0].fonts.push_back(signs);
+    paragraphOf(draft).lines[0].words[1].spans[0].look.font =
+        static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+    return tests::inlinesOfParagraph(draft, 0);
+}
+
+TEST(TextAssembler, SetsWhatFontsOfTextHaveInTheFontOfTheText) {
+    for (const char* sign : {"\u00B0", "\u2264", "\u03B1"})
+        EXPECT_EQ(inlinesAroundSign(sign).size(), 1u) << sign;
+    for (const char* sign : {"\u2713", "\u2022", "\u2192"}) {
+        const auto inlines = inlinesAroundSign(sign);
+        ASSERT_EQ(inlines.size(), 3u) << sign;
+        EXPECT_EQ(textAt(inlines, 1).properties.fontFamily, "OpenSymbol");
+        EXPECT_FALSE(textAt(inlines, 1).properties.isEastAsian);
+    }
+}
+
 TEST(TextAssembler, TellsEastAsianTextFromLatinText) {
     const DocumentDraft draft = draftOf({makeLine("\u6771\u4EAC Tokyo", 72, 100)});
     const auto inlines = tests::inlinesOfParagraph(draft, 0);

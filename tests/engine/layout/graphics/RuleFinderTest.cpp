@@ -138,6 +138,37 @@ TEST(RuleFinder, TakesAClosePairAsADoubleRule) {
     EXPECT_EQ(rules[1].kind, BorderKind::Single);
 }
 
+TEST(RuleFinder, TakesABroadPairInPiecesAsADoubleRule) {
+    // The frame of a table whose double borders are 2.25 points broad: the inner line ends at each that parts columns.
+    PageContentBuilder page;
+    page.horizontalRule(60, 540, 36.5, 2.25);
+    page.horizontalRule(64.5, 206, 41, 2.25);
+    page.horizontalRule(208, 535.5, 41, 2.25);
+    const std::vector<Rule> rules = rulesOf(page).rules;
+    ASSERT_EQ(rules.size(), 1u);
+    EXPECT_EQ(rules[0].kind, BorderKind::Double);
+    EXPECT_NEAR(rules[0].position, 38.75, 0.01);
+    EXPECT_NEAR(rules[0].width, 6.75, 0.01);
+    EXPECT_NEAR(rules[0].lineWidth, 2.25, 0.01);
+    EXPECT_EQ(rules[0].from, 60);
+    EXPECT_EQ(rules[0].to, 540);
+}
+
+TEST(RuleFinder, LeavesBroadLinesThatAreNoPair) {
+    PageContentBuilder stripes;
+    for (const double y : {36.5, 41.0, 45.5})
+        stripes.horizontalRule(60, 540, y, 2.25);
+    PageContentBuilder half;
+    half.horizontalRule(60, 540, 36.5, 2.25);
+    half.horizontalRule(60, 300, 41, 2.25);
+    PageContentBuilder apart;
+    apart.horizontalRule(60, 540, 36.5, 2.25);
+    apart.horizontalRule(60, 540, 48.5, 2.25);
+    for (const PageContentBuilder* page : {&stripes, &half, &apart})
+        for (const Rule& rule : rulesOf(*page).rules)
+            EXPECT_EQ(rule.kind, BorderKind::Single) << rule.position;
+}
+
 TEST(RuleFinder, TakesFilledRectanglesAsGrounds) {
     PageContentBuilder page;
     page.filledRectangle({72, 100, 300, 130}, {200, 220, 240});

@@ -77,6 +77,18 @@ TEST(ColumnHeights, KeepsColumnsOfLinesEndedByHandAsTheyAre) {
     EXPECT_FALSE(text.blocks[4].startsColumn) << "text that flows may end a line later";
 }
 
+TEST(ColumnHeights, BreaksColumnsOfLinesAtUnevenDistances) {
+    // A label, its value close below it, and the next pair: no program is sure to end them where they ended.
+    const std::vector<std::vector<double>> upper{{84, 96, 132, 144}, {84, 96, 132, 144}};
+    DocumentDraft pairs = draftOfColumns(upper, {{240}, {240}});
+    sectionsOf(pairs);
+    EXPECT_TRUE(pairs.blocks[4].startsColumn);
+    DocumentDraft text = draftOfColumns(upper, {{240}, {240}});
+    text.blocks[2].paragraph()->pieces[0].text.alignment = document::Alignment::Justified;
+    sectionsOf(text);
+    EXPECT_FALSE(text.blocks[4].startsColumn) << "text that flows";
+}
+
 TEST(ColumnHeights, BreaksBeforeATableHoweverEvenTheColumnsAre) {
     DocumentDraft draft = draftOfColumns({{84, 96, 108}, {84}}, {{240}, {240}});
     draft.blocks[2].paragraph()->pieces[0].text.alignment = document::Alignment::Justified;
