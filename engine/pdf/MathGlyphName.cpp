@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstddef>
+#include <system_error>
 
 namespace orvane::pdf {
 namespace {
@@ -128,6 +131,15 @@ std::string_view withoutSize(std::string_view name) {
     return name;
 }
 
+/// The first half of TeX's font of symbols, in order; 0 for what has no character.
+constexpr std::array<char16_t, 64> kSymbols{
+    0x2212, 0x00B7, 0x00D7, 0x2217, 0x00F7, 0x22C4, 0x00B1, 0x2213, 0x2295, 0x2296, 0x2297, 0x2298, 0x2299,
+    0x25CB, 0x2218, 0x2022, 0x224D, 0x2261, 0x2286, 0x2287, 0x2264, 0x2265, 0x2AAF, 0x2AB0, 0x223C, 0x2248,
+    0x2282, 0x2283, 0x226A, 0x226B, 0x227A, 0x227B, 0x2190, 0x2192, 0x2191, 0x2193, 0x2194, 0x2197, 0x2198,
+    0x2243, 0x21D0, 0x21D2, 0x21D1, 0x21D3, 0x21D4, 0x2196, 0x2199, 0x221D, 0x2032, 0x221E, 0x2208, 0x220B,
+    0x25B3, 0x25BD, 0x0338, 0,      0x2200, 0x2203, 0x00AC, 0x2205, 0x211C, 0x2111, 0x22A4, 0x22A5,
+};
+
 /// U+F8E5 to U+F8FE in order.
 constexpr std::array<char16_t, 26> kPieces{0x203E, 0x23D0, 0x23AF, 0x00AE, 0x00A9, 0x2122, 0x239B, 0x239C, 0x239D,
                                            0x23A1, 0x23A2, 0x23A3, 0x23A7, 0x23A8, 0x23A9, 0x23AA, 0x23AE, 0x239E,
@@ -141,6 +153,20 @@ char32_t characterOfMathGlyphName(std::string_view name) {
         return named.name == name || named.name == base;
     });
     return entry == kNames.end() ? 0 : entry->character;
+}
+
+char32_t characterOfNumberedSign(std::string_view name) {
+    constexpr std::array kLettersPlaces{NamedCharacter{"eth", U'('}, NamedCharacter{"Thorn", U')'},
+                                        NamedCharacter{"thorn", U'+'}, NamedCharacter{"onequarter", U'='}};
+    for (const NamedCharacter& letter : kLettersPlaces)
+        if (letter.name == name)
+            return letter.character;
+    if (!name.starts_with('C'))
+        return 0;
+    std::size_t number = 0;
+    const auto [end, error] = std::from_chars(name.data() + 1, name.data() + name.size(), number);
+    const bool isNumber = error == std::errc() && end == name.data() + name.size();
+    return isNumber && number < kSymbols.size() ? kSymbols[number] : 0;
 }
 
 char32_t characterOfAdobePrivateUse(char32_t c) {

@@ -158,6 +158,7 @@ public:
     void findOut() {
         const bool isMapped = !isUnmapped(m_font) && !repeatsCodes();
         m_hasUsualOrder = !isMapped && isUsualOrderLikelier();
+        m_hasNumberedSigns = hasNumberedSigns();
         const bool doubtGiven =
             !isMapped || (m_font.hasToUnicodeCMap() && (saysOneThing() || (hasFewSmallLetters() && isLying())));
         for (auto& [code, meaning] : m_meanings)
@@ -224,14 +225,30 @@ private:
         return character == 0 ? std::u32string() : std::u32string(1, character);
     }
 
+    /// The name that a simple font has for a code; empty without one.
+    std::string_view glyphNameOf(std::uint32_t code) const {
+        if (m_font.isCIDFont() || m_font.getType() == fontTrueType || code >= 256)
+            return {};
+        const char* name = static_cast<Gfx8BitFont&>(m_font).getCharName(static_cast<int>(code));
+        return name ? name : std::string_view();
+    }
+
+    /// Whether the page shows nothing of the font but signs that publishers' fonts number.
+    bool hasNumberedSigns() const {
+        return m_facts.name.starts_with("Adv") &&
+               std::all_of(m_meanings.begin(), m_meanings.end(),
+                           [&](const auto& entry) { return characterOfNumberedSign(glyphNameOf(entry.first)) != 0; });
+    }
+
     /// A sign of formulas by its glyph's name. Neither the library nor many writers know such names, and hand out the
     /// letter at the code: "S" for a union.
     std::u32string namedSignOf(std::uint32_t code, const std::u32string& given) const {
-        const bool hasNames = !m_font.isCIDFont() && m_font.getType() != fontTrueType && code < 256;
-        if (!hasNames || given.size() != 1 || given[0] != code)
+        const std::string_view name = glyphNameOf(code);
+        if (m_hasNumberedSigns)
+            return std::u32string(1, characterOfNumberedSign(name));
+        if (name.empty() || given.size() != 1 || given[0] != code)
             return {};
-        const char* name = static_cast<Gfx8BitFont&>(m_font).getCharName(static_cast<int>(code));
-        const char32_t character = name ? characterOfMathGlyphName(name) : 0;
+        const char32_t character = characterOfMathGlyphName(name);
         return character == 0 ? std::u32string() : std::u32string(1, character);
     }
 
@@ -346,6 +363,7 @@ private:
     std::unordered_map<std::uint32_t, Meaning> m_meanings;
     UnicodeRepair::Knowledge m_ownKnowledge;
     bool m_hasUsualOrder = false;
+    bool m_hasNumberedSigns = false;
 };
 
 namespace {

@@ -71,6 +71,22 @@ TEST(Unicode, OfSignsOfFormulasIsThatOfTheirNamesNotTheLetterAtTheirCode) {
     EXPECT_EQ(textIn(builder, font, "(Sqa)"), "\u22C3\u221Aa");
 }
 
+TEST(Unicode, OfSignsThatPublishersNumberIsThatOfTheirNumbers) {
+    const auto textOf = [](const std::string& name, const std::string& differences) {
+        PdfBuilder builder;
+        const int map = builder.addStream("", toUnicode("<03> <0003> <F0> <00F0> <DE> <00DE>\n", 3, "<00> <FF>"));
+        const std::string font = "<< /Type /Font /Subtype /Type1 /BaseFont /" + name + " /ToUnicode " + pdfRef(map) +
+                                 " /Encoding << /Type /Encoding /Differences [" + differences +
+                                 "] >> /FirstChar 3 /LastChar 5 /Widths [781 500 500] >>";
+        return textIn(builder, font, "<F003DE>");
+    };
+    EXPECT_EQ(textOf("ABCDEF+AdvMacMthSyN", "3 /C0 222 /Thorn 240 /eth"), "(\u2212)");
+    EXPECT_EQ(textOf("ABCDEF+AdvMacMthSyN", "3 /C15 222 /Thorn 240 /eth"), "(\u2022)");
+    EXPECT_EQ(textOf("ABCDEF+AdvOT863180fb", "3 /y 222 /Thorn 240 /eth").find('('), std::string::npos)
+        << "letters of Iceland";
+    EXPECT_EQ(textOf("ABCDEF+Palatino", "3 /C0 222 /Thorn 240 /eth").find('('), std::string::npos);
+}
+
 TEST(Unicode, OfAMapThatSaysOneThingForAllIsNotBelieved) {
     PdfBuilder builder;
     const int map = builder.addStream(
@@ -143,7 +159,8 @@ std::string signsOf(const std::string& font, const std::string& map, const std::
 
 TEST(Unicode, OfPrivateBulletsIsABullet) {
     EXPECT_EQ(signsOf("Unknown", "<41> <F0B7> <42> <F0A7> <43> <F041> <44> <F09E> <45> <F0B0>\n"), "•▪A•°");
-    EXPECT_EQ(signsOf("Unknown", "<41> <F097> <42> <F0E0> <43> <F0DF> <44> <F0E8>\n"), "●→←➔") << "as word processors put them";
+    EXPECT_EQ(signsOf("Unknown", "<41> <F097> <42> <F0E0> <43> <F0DF> <44> <F0E8>\n"), "●→←➔")
+        << "as word processors put them";
 }
 
 TEST(Unicode, OfAFontThatStandsInForSignsIsTheSign) {
