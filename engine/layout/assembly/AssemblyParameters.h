@@ -45,6 +45,7 @@ struct AssemblyParameters {
 
     /// StyleMaker: what differs by less than this has the style's value.
     struct Styles {
+        double longerShare = 0.25;   ///< of the paragraphs that must have several lines for these to tell the indents
         double sameIndent = 1.0;     ///< points
         double sameMultiple = 0.016; ///< of single spacing
         double sameHeight = 0.3;     ///< points; of lines of an exact height

@@ -21,15 +21,6 @@ Twips indent(double points, double smallest) {
     return std::abs(points) < smallest ? Twips(0) : twipsFromPoints(points);
 }
 
-/// What the fullest line leaves free behind it: that is where the indent is.
-double roomBehind(const DraftPiece& piece) {
-    double room = std::numeric_limits<double>::infinity();
-    for (const Line& line : piece.text.lines)
-        room = std::min(room,
-                        line.isRightToLeft ? line.box.left - piece.column.left : piece.column.right - line.box.right);
-    return room;
-}
-
 /// Measures the indents from the section's column, whose edges the page alone did not show.
 void setIndents(const DraftParagraph& paragraph, const LayoutParameters& parameters,
                 document::ParagraphProperties& format) {
@@ -130,6 +121,14 @@ Alignment alignmentOf(const DraftParagraph& paragraph) {
 }
 
 } // namespace
+
+double roomBehind(const DraftPiece& piece) {
+    double room = std::numeric_limits<double>::infinity();
+    for (const Line& line : piece.text.lines)
+        room = std::min(room,
+                        line.isRightToLeft ? line.box.left - piece.column.left : piece.column.right - line.box.right);
+    return room;
+}
 
 document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
                                        const LayoutParameters& parameters) {

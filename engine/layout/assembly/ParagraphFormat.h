@@ -10,4 +10,7 @@ namespace orvane::layout {
 document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const std::vector<DraftNumbering>& numberings,
                                        const LayoutParameters& parameters);
 
+/// Points that the fullest line leaves free between its end and the edge of its column; less than 0 beyond the edge.
+double roomBehind(const DraftPiece& piece);
+
 } // namespace orvane::layout

@@ -1,6 +1,7 @@
 #include "layout/assembly/StyleMaker.h"
 
 #include "layout/assembly/NamedStyles.h"
+#include "layout/assembly/ParagraphFormat.h"
 #include "layout/support/Tally.h"
 #include "layout/text/LineText.h"
 
@@ -90,12 +91,15 @@ void chooseRun(StyleGroup& group) {
     group.style.run.isEastAsian = false;
 }
 
-/// The format of members of at least `lines` lines.
-std::vector<const ParagraphProperties*> formatsOf(const StyleGroup& group, std::size_t lines) {
+/// The format of members of at least `lines` lines; only of those with `alignment`, if given.
+std::vector<const ParagraphProperties*> formatsOf(const StyleGroup& group, std::size_t lines,
+                                                  std::optional<Alignment> alignment = std::nullopt) {
     std::vector<const ParagraphProperties*> formats;
-    for (const AssembledBlock* member : group.members)
-        if (lineCount(*member) >= lines)
-            formats.push_back(&member->paragraph()->properties);
+    for (const AssembledBlock* member : group.members) {
+        const ParagraphProperties& format = member->paragraph()->properties;
+        if (lineCount(*member) >= lines && (!alignment || format.alignment == *alignment))
+            formats.push_back(&format);
+    }
     return formats;
 }
 
@@ -111,10 +115,15 @@ void chooseField(StyleGroup& group, T ParagraphProperties::*field) {
 
 /// Likewise for a length, which is measured and so never quite the same.
 void chooseLength(StyleGroup& group, Twips ParagraphProperties::*field, const AssemblyParameters::Styles& limits) {
-    // Of a single line only the first edge is seen, so longer paragraphs are asked first.
-    std::vector<const ParagraphProperties*> formats = formatsOf(group, 2);
+    // The indents of paragraphs that are aligned otherwise are none of the style's.
+    const Alignment alignment = group.style.paragraph.alignment;
+    std::vector<const ParagraphProperties*> formats = formatsOf(group, 1, alignment);
     if (formats.empty())
         formats = formatsOf(group, 1);
+    // Of a single line only the first edge is seen, so longer paragraphs are asked first, unless they are few.
+    std::vector<const ParagraphProperties*> longer = formatsOf(group, 2, alignment);
+    if (static_cast<double>(longer.size()) >= limits.longerShare * static_cast<double>(formats.size()))
+        formats = std::move(longer);
     std::vector<double> lengths;
     for (const ParagraphProperties* format : formats)
         lengths.push_back(pointsFromTwips(format->*field));
@@ -203,7 +212,10 @@ void snapToStyle(AssembledBlock& block, const Style& style, const AssemblyParame
     }
     // A line that ends beyond the column's edge would break without the room that it takes there.
     const bool standsOut = format.indentEnd < Twips(0) && format.indentEnd < usual.indentEnd;
-    if (isNear(format.indentEnd, usual.indentEnd, limits.sameIndent) || (isSingleLine && !standsOut))
+    const bool isEndUnseen = isSingleLine && !standsOut && isText &&
+                             (format.alignment == Alignment::Start || format.alignment == Alignment::Justified) &&
+                             roomBehind(block.draftParagraph()->pieces.front()) >= pointsFromTwips(usual.indentEnd);
+    if (isNear(format.indentEnd, usual.indentEnd, limits.sameIndent) || isEndUnseen)
         format.indentEnd = usual.indentEnd;
 }
 

@@ -124,6 +124,49 @@ TEST(StyleMaker, LeavesALineBeyondTheEdgeItsRoom) {
     EXPECT_EQ(paragraphAt(document, 2).properties.indentEnd, Twips(0));
 }
 
+/// A justified text of two lines whose column ends long before that of the page.
+DraftBlock narrowText(double baseline) {
+    ParagraphDraft text = makeParagraph({makeLine("one two", 72, baseline), makeLine("three", 72, baseline + 12.2)});
+    text.alignment = document::Alignment::Justified;
+    return makeBlock(text);
+}
+
+TEST(StyleMaker, LeavesALineTheRoomThatTheRestDoesNotTake) {
+    DocumentDraft draft = draftOfLines({{"short", 200}, {"a line that takes all of the room in its column", 220}});
+    Line& full = draft.blocks[1].paragraph()->pieces[0].text.lines[0];
+    full.box.right = kColumn.right;
+    draft.blocks.insert(draft.blocks.begin(), narrowText(100));
+    const auto document = documentOf(draft);
+    const Twips usual = document.styles[0].paragraph.indentEnd;
+    ASSERT_GT(usual, twipsFromPoints(100));
+    EXPECT_EQ(paragraphAt(document, 1).properties.indentEnd, usual);
+    EXPECT_LE(paragraphAt(document, 2).properties.indentEnd, Twips(0)) << "it would break";
+}
+
+TEST(StyleMaker, TakesNoIndentsFromTextThatIsAlignedOtherwise) {
+    DocumentDraft draft = draftOfLines({{"North", 200}, {"South", 220}, {"East", 240}});
+    for (DraftBlock& block : draft.blocks)
+        block.paragraph()->pieces[0].text.alignment = document::Alignment::Center;
+    draft.blocks.push_back(narrowText(260));
+    const auto document = documentOf(draft);
+    ASSERT_EQ(document.styles[0].paragraph.alignment, document::Alignment::Center);
+    EXPECT_EQ(document.styles[0].paragraph.indentEnd, Twips(0));
+    EXPECT_GT(paragraphAt(document, 3).properties.indentEnd, twipsFromPoints(100));
+}
+
+TEST(StyleMaker, TakesTheIndentsOfLinesWhereLongerParagraphsAreFew) {
+    const auto usualIndent = [](std::size_t lines) {
+        DocumentDraft draft = draftOfLines({});
+        for (std::size_t i = 0; i < lines; ++i)
+            draft.blocks.push_back(makeBlock(makeParagraph({makeLine("text", 72, 100 + 20 * static_cast<double>(i))})));
+        draft.blocks.push_back(
+            makeBlock(makeParagraph({makeLine("one two", 132, 400), makeLine("three", 132, 412.2)})));
+        return pointsFromTwips(documentOf(draft).styles[0].paragraph.indentStart);
+    };
+    EXPECT_NEAR(usualIndent(2), 60, 0.01);
+    EXPECT_NEAR(usualIndent(6), 0, 0.01);
+}
+
 TEST(StyleMaker, OverlooksSmallDifferencesOfIndents) {
     DocumentDraft draft = draftOfLines({});
     for (const double left : {90.0, 90.3, 89.8, 108.0})
