@@ -169,6 +169,20 @@ TEST(TextAssembler, SetsWhatFontsOfTextHaveInTheFontOfTheText) {
     }
 }
 
+TEST(TextAssembler, TakesNoFontOfSignsForThatOfEastAsianText) {
+    DocumentDraft draft =
+        draftOf({makeLine("done \u2713 or \u2B1C not", 72, 100)}); // the square is as wide as ideographs
+    pdf::Font signs;
+    signs.name = "OpenSymbol";
+    draft.pages[0].fonts.push_back(signs);
+    for (const std::size_t word : {1u, 3u})
+        paragraphOf(draft).lines[0].words[word].spans[0].look.font =
+            static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+    const auto inlines = tests::inlinesOfParagraph(draft, 0);
+    EXPECT_FALSE(textAt(inlines, 1).properties.isEastAsian);
+    EXPECT_EQ(textAt(inlines, 1).properties.fontFamily, "OpenSymbol");
+}
+
 TEST(TextAssembler, TellsEastAsianTextFromLatinText) {
     const DocumentDraft draft = draftOf({makeLine("\u6771\u4EAC Tokyo", 72, 100)});
     const auto inlines = tests::inlinesOfParagraph(draft, 0);
