@@ -212,7 +212,8 @@ void snapToStyle(AssembledBlock& block, const Style& style, const AssemblyParame
     }
     // A line that ends beyond the column's edge would break without the room that it takes there.
     const bool standsOut = format.indentEnd < Twips(0) && format.indentEnd < usual.indentEnd;
-    const bool isEndUnseen = isSingleLine && !standsOut && isText &&
+    const bool isSetFromStart = format.alignment == Alignment::Start || format.alignment == Alignment::Justified;
+    const bool isEndUnseen = isSingleLine && isSetFromStart && !standsOut && isText &&
                              roomBehind(block.draftParagraph()->pieces.front()) >= pointsFromTwips(usual.indentEnd);
     if (isNear(format.indentEnd, usual.indentEnd, limits.sameIndent) || isEndUnseen)
         format.indentEnd = usual.indentEnd;

@@ -144,6 +144,18 @@ TEST(StyleMaker, LeavesALineTheRoomThatTheRestDoesNotTake) {
     EXPECT_EQ(paragraphAt(document, 2).properties.indentEnd, Twips(0)) << "it would break";
 }
 
+TEST(StyleMaker, KeepsTheEndsOfLinesThatAreSetToTheEnd) {
+    DocumentDraft draft = draftOfLines({{"1.00", 100}, {"2.00", 120}, {"3.00", 140}});
+    for (std::size_t i = 0; i < 3; ++i) {
+        ParagraphDraft& number = draft.blocks[i].paragraph()->pieces[0].text;
+        number.alignment = document::Alignment::End;
+        number.shadedSpan = ColumnSpan{kColumn.left, kColumn.right - (i == 2 ? 60 : 20)};
+    }
+    const auto document = documentOf(draft);
+    ASSERT_EQ(document.styles[0].paragraph.indentEnd, twipsFromPoints(20));
+    EXPECT_EQ(paragraphAt(document, 2).properties.indentEnd, twipsFromPoints(60));
+}
+
 TEST(StyleMaker, TakesNoIndentsFromTextThatIsAlignedOtherwise) {
     DocumentDraft draft = draftOfLines({{"North", 200}, {"South", 220}, {"East", 240}});
     for (DraftBlock& block : draft.blocks)
