@@ -122,13 +122,15 @@ class Desktop:
 
     def popup(self):
         """The menu or list that is open: a window that the window manager leaves alone. It takes the keys while it is up."""
-        def find():
-            for number in self.run("xdotool", "search", "--onlyvisible", "--class", "tavrelion").split():
-                facts = self.run("xwininfo", "-id", number)
-                if "Override Redirect State: yes" in facts:
-                    return Window(number, *(int(re.search(rf"{side}: (\d+)", facts)[1]) for side in ("Width", "Height")))
-            return None
-        return wait_for("a menu or a list", find)
+        return wait_for("a menu or a list", self.find_popup)
+
+    def find_popup(self):
+        """That menu or list, or None."""
+        for number in self.run("xdotool", "search", "--onlyvisible", "--class", "tavrelion").split():
+            facts = self.run("xwininfo", "-id", number)
+            if "Override Redirect State: yes" in facts:
+                return Window(number, *(int(re.search(rf"{side}: (\d+)", facts)[1]) for side in ("Width", "Height")))
+        return None
 
     def act(self, window, *command):
         """Brings the window to the front and goes on; a window that has gone is left in peace, and so are all others."""
