@@ -63,16 +63,7 @@ class DesktopTest(unittest.TestCase):
         self.desktop.type(dialog, names)
         self.desktop.keys(dialog, "Return")
         wait_for("the end of the open dialog", lambda: not self.desktop.windows(title="^Open$"))
-
-    def click_after_dialog(self, x, y, effect):
-        """Clicks on the main window behind a dialog that has gone, and again where nothing came of it: until the program
-        has taken note of the end of its dialog it lets clicks on its other windows pass."""
-        main = self.program.main()
-
-        def click():
-            self.desktop.click(main, x, y)
-            return happens(effect, CLOSING_PATIENCE)
-        wait_for(f"what a click at {x}, {y} does", click)
+        self.program.wait_idle()
 
     def choose_by_mouse(self):
         """Chooses the first file that the open dialog lists."""
@@ -84,6 +75,7 @@ class DesktopTest(unittest.TestCase):
             self.desktop.click(dialog, dialog.width - 71, dialog.height - 62)  # Open
             return happens(lambda: not self.desktop.windows(title="^Open$"), CLOSING_PATIENCE)
         wait_for("the end of the open dialog", click)
+        self.program.wait_idle()
 
     def convert(self):
         self.desktop.keys(self.program.main(), CONVERT)

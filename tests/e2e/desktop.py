@@ -10,6 +10,7 @@ import tempfile
 import time
 
 PATIENCE = 60  # seconds until something that has to happen counts as failed; the machine may be busy
+IDLE_TIME = 0.3  # seconds without work after which a program waits for its user
 CLOSING_PATIENCE = 2  # seconds that a window may take to close before a key is pressed again
 TOOLS = ("Xvfb", "openbox", "xdotool", "xprop", "xwininfo", "gm", "qpdf", "lowriter")
 TITLE = "Tavrelion-PDF to Word Converter"
@@ -122,15 +123,13 @@ class Desktop:
 
     def popup(self):
         """The menu or list that is open: a window that the window manager leaves alone. It takes the keys while it is up."""
-        return wait_for("a menu or a list", self.find_popup)
-
-    def find_popup(self):
-        """That menu or list, or None."""
-        for number in self.run("xdotool", "search", "--onlyvisible", "--class", "tavrelion").split():
-            facts = self.run("xwininfo", "-id", number)
-            if "Override Redirect State: yes" in facts:
-                return Window(number, *(int(re.search(rf"{side}: (\d+)", facts)[1]) for side in ("Width", "Height")))
-        return None
+        def find():
+            for number in self.run("xdotool", "search", "--onlyvisible", "--class", "tavrelion").split():
+                facts = self.run("xwininfo", "-id", number)
+                if "Override Redirect State: yes" in facts:
+                    return Window(number, *(int(re.search(rf"{side}: (\d+)", facts)[1]) for side in ("Width", "Height")))
+            return None
+        return wait_for("a menu or a list", find)
 
     def act(self, window, *command):
         """Brings the window to the front and goes on; a window that has gone is left in peace, and so are all others."""
@@ -231,6 +230,17 @@ class Program:
             if words[0].endswith(name.encode()) and f"HOME={self.home}".encode() in environment:
                 found.append(int(folder.name))
         return found
+
+    def wait_idle(self):
+        """
+        Waits until the program has nothing left to do but to wait for its user: neither it nor a worker of its takes
+        processor time. While it still takes note that a dialog has ended it lets keys and clicks pass.
+        """
+        def is_idle():
+            before = [processor_time(process) for process in self.processes("tavrelion") + self.workers()]
+            time.sleep(IDLE_TIME)
+            return before == [processor_time(process) for process in self.processes("tavrelion") + self.workers()]
+        wait_for("an idle program", is_idle)
 
     def workers(self):
         """The conversions that are at work for this program."""

@@ -11,8 +11,7 @@ class MainWindowTest(DesktopTest):
         main = self.program.main()
         self.desktop.click(main, main.width - 100, 163)  # Browse...
         self.choose(pdf)
-        # The tile "Convert to Word"
-        self.click_after_dialog(110, 110, lambda: any(not window.is_main for window in self.desktop.windows()))
+        self.desktop.click(main, 110, 110)  # the tile "Convert to Word"
         self.decline_opening()
         self.wait_for_document(self.document())
         self.program.main()
@@ -99,7 +98,8 @@ class MainWindowTest(DesktopTest):
         self.start()
         pdf = self.pdf()
         self.browse(pdf)
-        self.click_after_dialog(237, 110, self.desktop.find_popup)  # the arrow beside Convert to Word
+        main = self.program.main()
+        self.desktop.click(main, 237, 110)  # the arrow beside Convert to Word
         self.desktop.popup_key("r")  # Save as RTF
         self.decline_opening()
         wait_for("the document", lambda: pdf.with_suffix(".rtf").exists())
