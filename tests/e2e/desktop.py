@@ -233,13 +233,16 @@ class Program:
 
     def wait_idle(self):
         """
-        Waits until the program has nothing left to do but to wait for its user: neither it nor a worker of its takes
+        Waits until the program has nothing left to do but to wait for its user: neither it nor what it started takes
         processor time. While it still takes note that a dialog has ended it lets keys and clicks pass.
         """
+        def work():
+            return {process: processor_time(process) for process in self.processes()}
+
         def is_idle():
-            before = [processor_time(process) for process in self.processes("tavrelion") + self.workers()]
+            before = work()
             time.sleep(IDLE_TIME)
-            return before == [processor_time(process) for process in self.processes("tavrelion") + self.workers()]
+            return before and before == work()
         wait_for("an idle program", is_idle)
 
     def workers(self):

@@ -36,24 +36,24 @@ bool isInTextFonts(std::string_view text) {
     return std::all_of(characters.begin(), characters.end(), [](char32_t c) { return isInTextFonts(c); });
 }
 
+/// What a font of signs shows of the text's own characters is text: word processors have another font of signs, or know
+/// its characters by other codes.
+const std::string& familyOf(const Span& span, const MappedFont& font, const ScriptFamilies& families) {
+    const std::string& ofText = families[ScriptClass::Simple];
+    return font.isSymbol && !ofText.empty() && isInTextFonts(span.text) ? ofText : font.family;
+}
+
 void setFamilies(RunProperties& run, const Span& span, const MappedFont& font, const ScriptFamilies& families) {
-    // What a font of signs shows of the text's own characters is text: word processors have another font of signs, or
-    // know its characters by other codes.
-    if (font.isSymbol && !families[ScriptClass::Simple].empty() && isInTextFonts(span.text)) {
-        run.fontFamily = families[ScriptClass::Simple];
-        run.eastAsianFontFamily = families[ScriptClass::EastAsian];
-        run.complexFontFamily = families[ScriptClass::Complex];
-        return;
-    }
+    const std::string& family = familyOf(span, font, families);
     const ScriptClass kind = scriptClassOf(span.text);
-    run.fontFamily = kind == ScriptClass::Simple ? font.family : families[ScriptClass::Simple];
-    run.eastAsianFontFamily = kind == ScriptClass::EastAsian ? font.family : families[ScriptClass::EastAsian];
-    run.complexFontFamily = kind == ScriptClass::Complex ? font.family : families[ScriptClass::Complex];
+    run.fontFamily = kind == ScriptClass::Simple ? family : families[ScriptClass::Simple];
+    run.eastAsianFontFamily = kind == ScriptClass::EastAsian ? family : families[ScriptClass::EastAsian];
+    run.complexFontFamily = kind == ScriptClass::Complex ? family : families[ScriptClass::Complex];
     if (run.fontFamily.empty())
-        run.fontFamily = font.family;
+        run.fontFamily = family;
     // Quotes and dashes between ideographs are of their font and width.
-    run.isEastAsian = kind == ScriptClass::EastAsian ||
-                      (font.family == families[ScriptClass::EastAsian] && !hasLetterOrDigit(span.text));
+    run.isEastAsian =
+        kind == ScriptClass::EastAsian || (family == families[ScriptClass::EastAsian] && !hasLetterOrDigit(span.text));
 }
 
 } // namespace

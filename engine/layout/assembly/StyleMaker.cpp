@@ -118,8 +118,6 @@ void chooseLength(StyleGroup& group, Twips ParagraphProperties::*field, const As
     // The indents of paragraphs that are aligned otherwise are none of the style's.
     const Alignment alignment = group.style.paragraph.alignment;
     std::vector<const ParagraphProperties*> formats = formatsOf(group, 1, alignment);
-    if (formats.empty())
-        formats = formatsOf(group, 1);
     // Of a single line only the first edge is seen, so longer paragraphs are asked first, unless they are few.
     std::vector<const ParagraphProperties*> longer = formatsOf(group, 2, alignment);
     if (static_cast<double>(longer.size()) >= limits.longerShare * static_cast<double>(formats.size()))

@@ -120,6 +120,11 @@ void makeDouble(Rule& rule, const Rule& other) {
     rule.to = std::max(rule.to, other.to);
 }
 
+void eraseGone(std::vector<Rule>& rules, const std::vector<bool>& isGone) {
+    std::size_t index = 0;
+    std::erase_if(rules, [&](const Rule&) { return isGone[index++]; });
+}
+
 /// Whether `other` is a broad line beside `rule`, or a piece of one, too close for text between them.
 bool isBroadTwin(const Rule& rule, const Rule& other, const GraphicsParameters::Rules& limits) {
     const double distance = std::abs(other.position - rule.position);
@@ -154,9 +159,11 @@ std::vector<std::size_t> broadTwins(const std::vector<Rule>& rules, std::size_t 
 void joinBroadPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits) {
     std::vector<bool> isGone(rules.size(), false);
     for (std::size_t i = 0; i < rules.size(); ++i) {
+        if (isGone[i])
+            continue;
         const std::vector<std::size_t> before = broadTwins(rules, i, true, limits);
         const std::vector<std::size_t> after = broadTwins(rules, i, false, limits);
-        if (isGone[i] || before.empty() == after.empty())
+        if (before.empty() == after.empty())
             continue;
         const bool isBefore = after.empty();
         const std::vector<std::size_t>& twins = isBefore ? before : after;
@@ -169,8 +176,7 @@ void joinBroadPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& l
         for (const std::size_t j : twins)
             isGone[j] = true;
     }
-    std::size_t index = 0;
-    std::erase_if(rules, [&](const Rule&) { return isGone[index++]; });
+    eraseGone(rules, isGone);
 }
 
 /// Close pairs become one double rule in their middle.
@@ -187,8 +193,7 @@ void joinPairs(std::vector<Rule>& rules, const GraphicsParameters::Rules& limits
             break;
         }
     }
-    std::size_t index = 0;
-    std::erase_if(rules, [&](const Rule&) { return isGone[index++]; });
+    eraseGone(rules, isGone);
 }
 
 } // namespace

@@ -42,11 +42,16 @@ TEST(StyleMaker, GivesHeadingsTheirBuiltInStyles) {
     EXPECT_EQ(paragraphAt(document, 0).style, "Heading1");
 }
 
+/// A justified text of two lines, which end long before their column.
+DraftBlock justifiedText(double baseline) {
+    ParagraphDraft text = makeParagraph({makeLine("one two", 72, baseline), makeLine("three", 72, baseline + 12.2)});
+    text.alignment = document::Alignment::Justified;
+    return makeBlock(text);
+}
+
 DocumentDraft draftWithJustifiedText() {
     DocumentDraft draft = draftOfLines({{"A last line", 200}});
-    ParagraphDraft text = makeParagraph({makeLine("one two", 72, 100), makeLine("three", 72, 112.2)});
-    text.alignment = document::Alignment::Justified;
-    draft.blocks.insert(draft.blocks.begin(), makeBlock(text));
+    draft.blocks.insert(draft.blocks.begin(), justifiedText(100));
     return draft;
 }
 
@@ -124,19 +129,12 @@ TEST(StyleMaker, LeavesALineBeyondTheEdgeItsRoom) {
     EXPECT_EQ(paragraphAt(document, 2).properties.indentEnd, Twips(0));
 }
 
-/// A justified text of two lines whose column ends long before that of the page.
-DraftBlock narrowText(double baseline) {
-    ParagraphDraft text = makeParagraph({makeLine("one two", 72, baseline), makeLine("three", 72, baseline + 12.2)});
-    text.alignment = document::Alignment::Justified;
-    return makeBlock(text);
-}
-
 TEST(StyleMaker, LeavesALineTheRoomThatTheRestDoesNotTake) {
     DocumentDraft draft =
         draftOfLines({{"short", 200}, {"a line that takes nearly all of the room in its column", 220}});
     Line& full = draft.blocks[1].paragraph()->pieces[0].text.lines[0];
     full.box.right = kColumn.right - 30;
-    draft.blocks.insert(draft.blocks.begin(), narrowText(100));
+    draft.blocks.insert(draft.blocks.begin(), justifiedText(100));
     const auto document = documentOf(draft);
     const Twips usual = document.styles[0].paragraph.indentEnd;
     ASSERT_GT(usual, twipsFromPoints(100));
@@ -160,7 +158,7 @@ TEST(StyleMaker, TakesNoIndentsFromTextThatIsAlignedOtherwise) {
     DocumentDraft draft = draftOfLines({{"North", 200}, {"South", 220}, {"East", 240}});
     for (DraftBlock& block : draft.blocks)
         block.paragraph()->pieces[0].text.alignment = document::Alignment::Center;
-    draft.blocks.push_back(narrowText(260));
+    draft.blocks.push_back(justifiedText(260));
     const auto document = documentOf(draft);
     ASSERT_EQ(document.styles[0].paragraph.alignment, document::Alignment::Center);
     EXPECT_EQ(document.styles[0].paragraph.indentEnd, Twips(0));

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <initializer_list>
+
 namespace orvane::layout {
 namespace {
 
@@ -130,16 +132,21 @@ const document::Text& textAt(const std::vector<document::Inline>& inlines, std::
     return std::get<document::Text>(inlines.at(index).value);
 }
 
+/// Sets words of the first line in a font of their own.
+void setInFont(DocumentDraft& draft, const std::string& name, std::initializer_list<std::size_t> words) {
+    pdf::Font font;
+    font.name = name;
+    draft.pages[0].fonts.push_back(font);
+    for (const std::size_t word : words)
+        paragraphOf(draft).lines[0].words[word].spans[0].look.font =
+            static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+}
+
 TEST(TextAssembler, GivesEachScriptTheFontOfTheParagraph) {
     DocumentDraft draft = draftOf({makeLine("\u05D0\u05D1 , \u05D2\u05D3", 72, 100)});
-    pdf::Font hebrew;
-    hebrew.name = "David";
-    draft.pages[0].fonts.push_back(hebrew);
-    Line& line = paragraphOf(draft).lines[0];
-    for (Word& word : line.words)
+    for (Word& word : paragraphOf(draft).lines[0].words)
         word.spans[0].isRightToLeft = true;
-    for (const std::size_t word : {0u, 2u})
-        line.words[word].spans[0].look.font = static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+    setInFont(draft, "David", {0, 2});
     const auto inlines = tests::inlinesOfParagraph(draft, 0);
     ASSERT_EQ(inlines.size(), 1u) << "the comma, of another font, is no run of its own";
     EXPECT_TRUE(textAt(inlines, 0).properties.isRightToLeft);
@@ -150,11 +157,7 @@ TEST(TextAssembler, GivesEachScriptTheFontOfTheParagraph) {
 /// The runs of three words of which the second is in a font of signs.
 std::vector<document::Inline> inlinesAroundSign(const std::string& sign) {
     DocumentDraft draft = draftOf({makeLine("stored " + sign + " warm", 72, 100)});
-    pdf::Font signs;
-    signs.name = "OpenSymbol";
-    draft.pages[0].fonts.push_back(signs);
-    paragraphOf(draft).lines[0].words[1].spans[0].look.font =
-        static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+    setInFont(draft, "OpenSymbol", {1});
     return tests::inlinesOfParagraph(draft, 0);
 }
 
@@ -172,12 +175,7 @@ TEST(TextAssembler, SetsWhatFontsOfTextHaveInTheFontOfTheText) {
 TEST(TextAssembler, TakesNoFontOfSignsForThatOfEastAsianText) {
     DocumentDraft draft =
         draftOf({makeLine("done \u2713 or \u2B1C not", 72, 100)}); // the square is as wide as ideographs
-    pdf::Font signs;
-    signs.name = "OpenSymbol";
-    draft.pages[0].fonts.push_back(signs);
-    for (const std::size_t word : {1u, 3u})
-        paragraphOf(draft).lines[0].words[word].spans[0].look.font =
-            static_cast<std::uint32_t>(draft.pages[0].fonts.size() - 1);
+    setInFont(draft, "OpenSymbol", {1, 3});
     const auto inlines = tests::inlinesOfParagraph(draft, 0);
     EXPECT_FALSE(textAt(inlines, 1).properties.isEastAsian);
     EXPECT_EQ(textAt(inlines, 1).properties.fontFamily, "OpenSymbol");
