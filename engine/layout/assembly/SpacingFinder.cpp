@@ -2,6 +2,7 @@
 
 #include "layout/assembly/BlockPlace.h"
 #include "layout/assembly/CellRoom.h"
+#include "layout/assembly/ColumnFlow.h"
 #include "layout/assembly/KeepRelease.h"
 #include "layout/assembly/LineTightener.h"
 #include "layout/assembly/TableSpacers.h"
@@ -27,6 +28,31 @@ struct BlockGap {
     AssembledBlock* lower = nullptr;
     double points = 0; ///< below 0 where lines are lower than thought
 };
+
+std::vector<BlockGap> measureGaps(BlockFlow& flow) {
+    std::vector<BlockGap> gaps;
+    forEachPair(flow.blocks, [&gaps](AssembledBlock& upper, AssembledBlock& lower) {
+        gaps.push_back({&upper, &lower, lower.top - upper.bottom});
+    });
+    if (flow.kind != FlowKind::Body)
+        return gaps;
+    // What follows columns stands below the longest. Word counts the space behind each, LibreOffice that behind the
+    // last one from the end of the longest.
+    for (std::size_t i = 0; i < flow.blocks.size(); ++i) {
+        AssembledBlock& lower = flow.blocks[i];
+        const std::vector<ColumnFoot> columns = columnsAbove(flow.blocks, i);
+        if (columns.empty())
+            continue;
+        double bottom = 0;
+        for (const ColumnFoot& column : columns)
+            bottom = std::max(bottom, column.last->bottom);
+        std::erase_if(gaps, [&lower](const BlockGap& gap) { return gap.lower == &lower; });
+        for (const ColumnFoot& column : columns)
+            if (column.isEnd)
+                gaps.push_back({column.last, &lower, lower.top - bottom});
+    }
+    return gaps;
+}
 
 /// Heights of lines are rounded, so that there seems to be a bit between them.
 Twips spaceOf(double gap, const AssemblyParameters::Spacing& limits) {
@@ -180,6 +206,19 @@ void trimCells(AssembledBlock& block) {
     }
 }
 
+/// Headers and footers end with their last line.
+void trimRunningText(BlockFlow& flow) {
+    if (flow.kind != FlowKind::Header && flow.kind != FlowKind::Footer)
+        return;
+    for (auto block = flow.blocks.rbegin(); block != flow.blocks.rend(); ++block) {
+        if (hasNoPlace(*block))
+            continue;
+        if (Paragraph* last = block->paragraph())
+            last->properties.spaceAfter = Twips(0);
+        return;
+    }
+}
+
 /// Where the header of one page ends; 0 without one. Units: points, from the page's top.
 double headerEnd(const DraftSection& section, std::size_t page) {
     const DraftRunningText& header = section.header;
@@ -243,9 +282,8 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
     for (BlockFlow& flow : flows) {
         forEachBlock(flow.blocks, flow.kind,
                      [&](AssembledBlock& block, FlowKind) { fitCellRoom(block, context.parameters.tableCells); });
-        forEachPair(flow.blocks, [&gaps](AssembledBlock& upper, AssembledBlock& lower) {
-            gaps.push_back({&upper, &lower, lower.top - upper.bottom});
-        });
+        const std::vector<BlockGap> own = measureGaps(flow);
+        gaps.insert(gaps.end(), own.begin(), own.end());
     }
     StyleSpacing(gaps, limits).set(styles);
     takeStyleSpacing(flows, styles);
@@ -253,6 +291,7 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
         forEachBlock(flow.blocks, flow.kind, [](AssembledBlock& block, FlowKind) { trimCells(block); });
     setGaps(gaps, limits);
     for (BlockFlow& flow : flows) {
+        trimRunningText(flow);
         forEachBlock(flow.blocks, flow.kind,
                      [&](AssembledBlock& block, FlowKind) { lowerCellTexts(block, context.parameters.tableCells); });
         spaceTablesApart(flow.blocks, context);

@@ -74,12 +74,14 @@ bool weighGutter(ColumnGutter& gutter, std::span<const GutterPiece> pieces, doub
         !right.isWide(fontSize, parameters) || areLabels(texts) || areRowsApart(texts, parameters) ||
         areNamesInMargin(texts, left.extent, right.extent, parameters))
         return false;
-    if ((left.isFilled(parameters) && right.isFilled(parameters)) || areLists(gutter, texts, fontSize, parameters))
-        return true;
-    if (!areOutOfStep(gutter, texts, fontSize, parameters))
-        return false;
-    leaveLevelEnds(gutter, texts, parameters);
-    return true;
+    const bool areColumns =
+        (left.isFilled(parameters) && right.isFilled(parameters)) || areLists(gutter, texts, fontSize, parameters);
+    if (!areColumns) {
+        if (!areOutOfStep(gutter, texts, fontSize, parameters))
+            return false;
+        leaveLevelEnds(gutter, texts, parameters);
+    }
+    return !takeTurns(gutter, texts);
 }
 
 } // namespace

@@ -196,4 +196,13 @@ void leaveLevelEnds(ColumnGutter& gutter, const SideTexts& texts, const PagePara
     leaveLevelRowsAt(End::Top, gutter, texts.left, texts.right, parameters);
 }
 
+bool takeTurns(const ColumnGutter& gutter, const SideTexts& texts) {
+    const auto areTurns = [&](Pieces side, Pieces other) {
+        return countBeside(side, other, [&](std::size_t i) {
+                   return side[i].box.centerY() > gutter.top && side[i].box.centerY() < gutter.bottom;
+               }) == 0;
+    };
+    return areTurns(texts.left, texts.right) && areTurns(texts.right, texts.left);
+}
+
 } // namespace orvane::layout

@@ -37,4 +37,8 @@ bool areOutOfStep(const ColumnGutter& gutter, const SideTexts& texts, double fon
 /// from the texts.
 void leaveLevelEnds(ColumnGutter& gutter, const SideTexts& texts, const PageParameters::Regions& parameters);
 
+/// Texts that take turns down the page, a sender's address at the left and below it the receiver's at the right: none
+/// beside the gutter has one of the other side at its height.
+bool takeTurns(const ColumnGutter& gutter, const SideTexts& texts);
+
 } // namespace orvane::layout

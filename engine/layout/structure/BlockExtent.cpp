@@ -18,6 +18,17 @@ bool isFloating(const DraftBlock& block) {
     return figure && !figure->isInline;
 }
 
+BlockEnd endOf(const DraftBlock& block) {
+    if (const DraftParagraph* paragraph = block.paragraph()) {
+        const DraftPiece& last = paragraph->pieces.back();
+        return {last.page, last.band, last.columnIndex, last.text.lines.back().box.bottom};
+    }
+    const auto* table = std::get_if<DraftTable>(&block.value);
+    if (table && !table->furtherParts.empty())
+        return {table->furtherParts.back().page, 0, 0, table->furtherParts.back().box.bottom};
+    return {block.page, block.band, block.column, block.box.bottom};
+}
+
 BlockExtent extentOf(const DraftBlock& block, const FontCatalog& fonts) {
     if (const DraftParagraph* paragraph = block.paragraph()) {
         const std::size_t lastPage = paragraph->pieces.back().page;

@@ -14,6 +14,16 @@ struct BlockExtent {
     double firstHeight = 0;   ///< of what must find room for it to start: its first line, row or the whole picture
 };
 
+/// The place of a block's last piece.
+struct BlockEnd {
+    std::size_t page = 0; ///< index into DocumentDraft::pages
+    int band = 0;         ///< index into the page's bands
+    int column = 0;
+    double bottom = 0; ///< of its lines; page space
+};
+
+BlockEnd endOf(const DraftBlock& block);
+
 BlockExtent extentOf(const DraftBlock& block, const FontCatalog& fonts);
 
 /// What a border adds to the height of its paragraph; points.

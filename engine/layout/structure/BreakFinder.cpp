@@ -12,25 +12,6 @@
 namespace orvane::layout {
 namespace {
 
-/// Where a block ends: the place of its last piece.
-struct BlockEnd {
-    std::size_t page = 0;
-    int band = 0;
-    int column = 0;
-    double bottom = 0;
-};
-
-BlockEnd endOf(const DraftBlock& block) {
-    if (const DraftParagraph* paragraph = block.paragraph()) {
-        const DraftPiece& last = paragraph->pieces.back();
-        return {last.page, last.band, last.columnIndex, last.text.lines.back().box.bottom};
-    }
-    const auto* table = std::get_if<DraftTable>(&block.value);
-    if (table && !table->furtherParts.empty())
-        return {table->furtherParts.back().page, 0, 0, table->furtherParts.back().box.bottom};
-    return {block.page, block.band, block.column, block.box.bottom};
-}
-
 /// Two tables in a row: what parts them on a full page has no room there that word processors agree on, so the second
 /// one starts its page.
 bool areTables(const DraftBlock& a, const DraftBlock& b) {

@@ -216,6 +216,43 @@ TEST(SpacingFinder, SetsATableLowerThatStartsItsPageThere) {
         std::get<document::Paragraph>(table.rows.at(0).cells.at(0).blocks.at(0).value).properties.pageBreakBefore);
 }
 
+/// A long column, a short one that starts by hand or is flowed into, and 20 points below the long one a line over both.
+DocumentDraft draftOfColumns(bool startsByHand) {
+    DocumentDraft draft =
+        draftOfLines({{"long", 100}, {"column", 100 + kLine}, {"short", 100}, {"below both", 100 + 2 * kLine + 20}});
+    draft.blocks[2].column = 1;
+    draft.blocks[2].paragraph()->pieces[0].columnIndex = 1;
+    draft.blocks[2].startsColumn = startsByHand;
+    draft.blocks[3].band = 1;
+    draft.blocks[3].paragraph()->pieces[0].band = 1;
+    return draft;
+}
+
+TEST(SpacingFinder, CountsTheSpaceBelowColumnsFromTheLongest) {
+    const auto spaceBehind = [](const DocumentDraft& draft, std::size_t i) {
+        return pointsFromTwips(paragraphAt(documentOf(draft), i).properties.spaceAfter);
+    };
+    for (const std::size_t last : {1u, 2u})
+        EXPECT_NEAR(spaceBehind(draftOfColumns(true), last), 20, 0.1) << last;
+    EXPECT_NEAR(spaceBehind(draftOfColumns(false), 2), 20, 0.1);
+    EXPECT_EQ(spaceBehind(draftOfColumns(false), 1), 0) << "text flows from it into the next column";
+}
+
+TEST(SpacingFinder, EndsHeadersAndFootersWithTheirLastLines) {
+    DocumentDraft draft = makeDraft(1);
+    DraftSection& section = draft.sections.emplace_back();
+    section.footer.standard.emplace();
+    for (int line = 0; line < 3; ++line)
+        section.footer.standard->push_back(makeBlock(makeParagraph({makeLine("line", 72, 764 + 20.0 * line)})));
+    const auto document = documentOf(draft);
+    const auto& footer = *document.sections.at(0).footer.standard;
+    const auto spaceBehind = [&](std::size_t i) {
+        return pointsFromTwips(std::get<document::Paragraph>(footer.at(i).value).properties.spaceAfter);
+    };
+    EXPECT_NEAR(spaceBehind(1), 20 - kLine, 0.1);
+    EXPECT_EQ(spaceBehind(2), 0);
+}
+
 TEST(SpacingFinder, CountsTheSpaceAboveAPageFromAHeaderThatPushesItsTextDown) {
     DocumentDraft draft = makeDraft(2);
     DraftSection& section = draft.sections.emplace_back();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace orvane::layout {
 namespace {
 
@@ -106,6 +108,21 @@ TEST(ColumnGutter, PartsAddressesOutOfStep) {
     ASSERT_TRUE(gutter);
     EXPECT_LT(gutter->bottom, 196) << "the row with the date leads across";
     EXPECT_FALSE(areColumns(headOfInvoice(0))) << "names with their values";
+}
+
+TEST(ColumnGutter, LeavesAddressesThatTakeTurns) {
+    const auto letterhead = [](double receiver) {
+        std::vector<Line> page{lineOf({wordAt(400, 490, 40)})};
+        for (int row = 0; row < 4; ++row) {
+            page.push_back(lineOf({wordAt(50, 110, 55 + 12 * row)}));
+            page.push_back(lineOf({wordAt(350, 440, receiver + 12 * row)}));
+            page.push_back(lineOf({wordAt(50, 200, 205 + 12 * row)}));
+        }
+        std::ranges::sort(page, {}, [](const Line& line) { return line.box.top; });
+        return page;
+    };
+    EXPECT_FALSE(areColumns(letterhead(130)));
+    EXPECT_TRUE(areColumns(letterhead(62))) << "the addresses stand side by side";
 }
 
 TEST(ColumnGutter, LeavesNamesHalfWayUpTheirTexts) {
