@@ -1,6 +1,7 @@
 #include "layout/running/FirstPageEdges.h"
 
 #include "layout/running/HeadPlaces.h"
+#include "layout/running/OnlyPageEdges.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,12 +83,9 @@ bool hasTitle(const EdgeRows& edge, std::size_t count, const PageText& page, con
     return false;
 }
 
-} // namespace
-
-void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters) {
+/// Takes the foot that only pages which are full to the same height can show. True if it did.
+bool takeFootBelowFullPages(std::vector<EdgeRows>& edges, const RunningParameters::RunningHeads& parameters) {
     EdgeRows& first = edges.front();
-    if (first.taken > 0)
-        return;
     std::vector<double> texts;
     for (std::size_t i = 1; i < edges.size(); ++i)
         texts.push_back(textStart(edges[i]));
@@ -105,8 +103,31 @@ void takeFirstFoot(std::vector<EdgeRows>& edges, const RunningParameters::Runnin
             endOf(last) + parameters.ownFootGap * last.fontSize > starts.front())
             continue;
         takeRows(first, count);
-        return;
+        return true;
     }
+    return false;
+}
+
+} // namespace
+
+void takeFirstFoot(std::vector<EdgeRows>& edges, const PageText& page,
+                   const RunningParameters::RunningHeads& parameters) {
+    EdgeRows& first = edges.front();
+    if (first.taken > 0 || takeFootBelowFullPages(edges, parameters))
+        return;
+    EdgeRows alone = first;
+    takeOnlyFoot(alone, page, parameters);
+    if (alone.taken == 0 || alone.taken == alone.rows.size())
+        return;
+    const double end = endOf(alone.rows[alone.taken - 1]);
+    const RunningRow& text = alone.rows[alone.taken];
+    if (shareFrame(page, text, text))
+        return; // of a table, which goes on where its author wants it to
+    const bool isFull = text.fromEdge - end <= parameters.fullFirstPage * page.height;
+    const auto texts =
+        std::count_if(edges.begin() + 1, edges.end(), [end](const EdgeRows& other) { return textStart(other) < end; });
+    if (isFull && static_cast<double>(texts) < parameters.textShare * static_cast<double>(edges.size()))
+        first = std::move(alone);
 }
 
 void takeFirstHead(std::vector<EdgeRows>& edges, const std::vector<PageText>& pages,

@@ -5,6 +5,7 @@
 #include "layout/text/Characters.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvane::layout {
 namespace {
@@ -14,12 +15,14 @@ constexpr double kMargin = 62;
 /// ... and its distance from that, of its font size.
 constexpr double kLinesAbove = 4;
 
-/// Whether a short rule stands right above the row, as above notes.
-bool isBelowSeparator(const RunningRow& row, const PageText& page) {
+/// Whether a short rule stands right above the row, as above notes, which neither share their middle.
+bool isBelowSeparator(const RunningRow& row, const PageText& page, double sameMiddle) {
     constexpr double kLongestSeparator = 0.5; // of the page's width
     return std::any_of(page.rules.begin(), page.rules.end(), [&](const Rule& rule) {
-        return rule.direction == RuleDirection::Horizontal && rule.position <= row.box.top + row.fontSize / 2 &&
-               rule.position >= row.box.top - 2 * row.fontSize && rule.to - rule.from < kLongestSeparator * page.width;
+        const bool areCentred = std::abs((rule.from + rule.to) / 2 - row.box.centerX()) <= sameMiddle;
+        return !areCentred && rule.direction == RuleDirection::Horizontal &&
+               rule.position <= row.box.top + row.fontSize / 2 && rule.position >= row.box.top - 2 * row.fontSize &&
+               rule.to - rule.from < kLongestSeparator * page.width;
     });
 }
 
@@ -56,7 +59,7 @@ std::size_t countApart(const EdgeRows& edge, const PageText& page, const Running
                 ? hasTextAbove(edge, page)
                 : edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize);
         if (isApart)
-            return isBelowSeparator(outer, page) ? 0 : i;
+            return isBelowSeparator(outer, page, limits.sameSide) ? 0 : i;
     }
     return 0;
 }

@@ -12,9 +12,9 @@ namespace orvane::layout {
 std::optional<PageNumber> takeOnlyNumber(EdgeRows& edge, PageEdge side, const PageText& page,
                                          const RunningParameters::RunningHeads& parameters);
 
-/// Takes the rows at the foot of the only page of a document that stand apart from its text, near the edge: in smaller
-/// letters, as the bank accounts below a letter, with the number of a page, or far below it in the margin. No other
-/// page can show that they repeat. `edge` holds the rows at the foot.
+/// Takes the rows at the foot of the only page of a document, or of the first, that stand apart from its text, near the
+/// edge: in smaller letters, as the bank accounts below a letter, with the number of a page, or far below it in the
+/// margin. No other page shows that they repeat. `edge` holds the rows at the foot.
 void takeOnlyFoot(EdgeRows& edge, const PageText& page, const RunningParameters::RunningHeads& parameters);
 
 } // namespace orvane::layout

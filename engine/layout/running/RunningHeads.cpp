@@ -222,7 +222,7 @@ void takeRepeated(std::vector<EdgeRows>& tops, std::vector<EdgeRows>& bottoms,
         leaveTextPlaces(*edges, limits);
         takeOwnHeads(*edges, limits);
     }
-    takeFirstFoot(bottoms, limits);
+    takeFirstFoot(bottoms, pages.front(), limits);
     takeFirstHead(tops, pages, limits);
 }
 

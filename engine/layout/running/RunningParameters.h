@@ -36,6 +36,7 @@ struct RunningParameters {
         double onlyFootReach = 0.13;       ///< of the page's height; no row of the only page's foot begins farther in
         double onlyFootGap = 2.0;          ///< of the font size; between it and all text
         std::size_t longestOnlyFoot = 5;   ///< rows
+        double fullFirstPage = 0.12;       ///< of the page's height; blank above the foot of a first page that is full
         std::size_t longestNumberLink = 4; ///< bytes between a page's number and that of all pages: "of", "von"
         // HeadPlaces, RunningHeads
         double textShare =

@@ -74,7 +74,8 @@ private:
         RunningScheme best = extend({start, start, start, std::nullopt, false}, limit);
         const auto consider = [&](RunningScheme scheme) {
             scheme = extend(scheme, limit);
-            if (explained(scheme) > explained(best))
+            const std::size_t own = explained(scheme), sofar = explained(best);
+            if (own > sofar || (own == sofar && mistakes(scheme) < mistakes(best)))
                 best = scheme;
         };
         if (start + 1 < limit)
@@ -128,11 +129,21 @@ private:
         return scheme;
     }
 
-    /// Pages that the scheme has right; a first page of its own counts only for what it makes possible.
-    std::size_t explained(const RunningScheme& scheme) const {
+    /// Pages that the scheme has right.
+    std::size_t countRight(const RunningScheme& scheme) const {
         std::size_t count = 0;
         for (std::size_t page = scheme.firstPage; page <= scheme.lastPage; ++page)
             count += fits(scheme, page);
+        return count;
+    }
+
+    std::size_t mistakes(const RunningScheme& scheme) const {
+        return scheme.lastPage + 1 - scheme.firstPage - countRight(scheme);
+    }
+
+    /// Likewise, where a first page of its own counts only for what it makes possible.
+    std::size_t explained(const RunningScheme& scheme) const {
+        const std::size_t count = countRight(scheme);
         const std::size_t cost = (scheme.even ? 1 : 0) + (scheme.hasOwnFirstPage ? 1 : 0);
         return count > cost ? count - cost : 0;
     }

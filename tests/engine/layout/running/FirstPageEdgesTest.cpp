@@ -1,5 +1,6 @@
 #include "layout/running/FirstPageEdges.h"
 
+#include "engine/layout/LineArt.h"
 #include "engine/layout/running/RunningPages.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@ namespace {
 using tests::linesOf;
 using tests::makeLine;
 using tests::pagesWith;
+using tests::ruleAt;
 
 TEST(FirstPageEdges, TakesTheFirstPagesOwnHead) {
     auto pages = pagesWith(4, [](PageText& page, int number) {
@@ -74,6 +76,31 @@ TEST(FirstPageEdges, TakesAFootThatOnlyTheFirstPageHas) {
         });
         const auto heads = takeRunningHeads(pages, {});
         EXPECT_EQ(linesOf(heads[static_cast<std::size_t>(row.page) - 1].footer), row.footer) << row.why;
+    }
+}
+
+TEST(FirstPageEdges, TakesTheFootOfAFullFirstPageThatNoOtherPageCanShow) {
+    const struct {
+        const char* why;
+        double firstEnds;
+        bool isTable;
+        double secondEnds;
+        const char* footer;
+    } rows[] = {{"the second page is short", 740, false, 200, "a street and a town"},
+                {"the second page has its text there", 740, false, 820, ""},
+                {"a cover", 600, false, 200, ""},
+                {"a table goes on", 740, true, 200, ""}};
+    for (const auto& row : rows) {
+        auto pages = pagesWith(2, [&](PageText& page, int number) {
+            page.lines.resize(number == 1 ? 20 : 3);
+            page.lines.push_back(makeLine("so it ends", 72, number == 1 ? row.firstEnds : row.secondEnds));
+            if (number == 1)
+                page.lines.push_back(makeLine("a street and a town", 72, 800));
+            if (number == 1 && row.isTable)
+                page.rules = {ruleAt(RuleDirection::Vertical, 70, 90, 750),
+                              ruleAt(RuleDirection::Vertical, 500, 90, 750)};
+        });
+        EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].footer), row.footer) << row.why;
     }
 }
 

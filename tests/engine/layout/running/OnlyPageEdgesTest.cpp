@@ -75,16 +75,16 @@ TEST(OnlyPageEdges, TakesTheFootOfASinglePage) {
 }
 
 TEST(OnlyPageEdges, TakesTheFootOfAPageThatIsMostlyBlankButNoNotes) {
-    const auto hasFoot = [](bool hasSeparator) {
+    const auto hasFoot = [](double separatorEnd) {
         std::vector<PageText> pages{makePage(1)};
         pages[0].lines = {makeLine("a short letter", 72, 100), makeLine("of two lines", 72, 120),
                           makeLine("a street and a town", 72, 770)};
-        if (hasSeparator)
-            pages[0].rules = {ruleAt(RuleDirection::Horizontal, 745, 72, 172)};
+        pages[0].rules = {ruleAt(RuleDirection::Horizontal, 750, 72, separatorEnd)};
         return takeRunningHeads(pages, {})[0].footer.has_value();
     };
-    EXPECT_TRUE(hasFoot(false));
-    EXPECT_FALSE(hasFoot(true)) << "a note";
+    EXPECT_TRUE(hasFoot(400)) << "below a long rule";
+    EXPECT_TRUE(hasFoot(167)) << "as long as the rule above it";
+    EXPECT_FALSE(hasFoot(200)) << "a note";
 }
 
 TEST(OnlyPageEdges, LeavesNotesInTheMarginOfASinglePage) {

@@ -83,6 +83,12 @@ TEST(RunningScheme, KeepsTheHeadWhereNoSectionMayBegin) {
     EXPECT_EQ(schemesOf("aaabbb", "   ---").size(), 1u);
 }
 
+TEST(RunningScheme, RepeatsNoHeadOfTheFirstPageOnAPageWithout) {
+    const auto schemes = schemesOf("a.", " -");
+    ASSERT_EQ(schemes.size(), 1u);
+    EXPECT_TRUE(schemes[0].hasOwnFirstPage);
+}
+
 TEST(RunningScheme, PassesOverAPageWithoutHeads) {
     EXPECT_EQ(schemesOf("aa.aa").size(), 1u);
 }
