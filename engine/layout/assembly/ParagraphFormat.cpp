@@ -41,6 +41,9 @@ void setIndents(const DraftParagraph& paragraph, const LayoutParameters& paramet
         format.indentEnd = twipsFromPoints(end - *spare);
     else if ((format.alignment == Alignment::Justified || end < 0) && std::abs(end) >= least)
         format.indentEnd = twipsFromPoints(end - parameters.pageSetup.roomSlack);
+    else if (const auto& own = piece.text.ownEnd)
+        format.indentEnd =
+            indent(line.isRightToLeft ? *own - piece.column.left : piece.column.right - *own, line.fontSize);
 }
 
 /// Lets the shading of a single line go from where to where its ground did; the line stays where it stands.

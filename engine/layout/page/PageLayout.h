@@ -32,7 +32,8 @@ struct ParagraphDraft {
     std::optional<Color> shading;
     std::optional<document::DropCapKind> dropCap; ///< how that of its first line stands
     std::optional<ColumnSpan> shadedSpan;         ///< from where to where its shading goes, if not from edge to edge
-    bool isBoxApart = false; ///< its box is not to be drawn as one with that of the paragraph before it
+    std::optional<double> ownEnd; ///< x at which its ragged lines were set to end, short of the column's; page space
+    bool isBoxApart = false;      ///< its box is not to be drawn as one with that of the paragraph before it
 };
 
 struct PageBlock;

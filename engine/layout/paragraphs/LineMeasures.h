@@ -23,6 +23,8 @@ struct LineMeasure {
     double startGap = 0; ///< from the column's start edge to the text
     double endGap = 0;   ///< from the text to the column's end edge
     double endInset = 0; ///< of an edge of its own from the column's; endGap is measured from it
+    double endPlay = 0;  ///< how much farther out such an edge may lie: up to the column's, or to where a line would
+                         ///< have had room for another word
     double width = 0;
     double blank = 0;     ///< a natural blank behind its last word
     double firstUnit = 0; ///< width of its first word, up to the first place where it may be broken

@@ -113,10 +113,25 @@ double nearestEnd(std::span<const LineMeasure> lines) {
     return edge;
 }
 
-void setEdge(std::span<LineMeasure> lines, double edge) {
+/// How much farther out than the edge the lines might have been set to end: up to the column's edge, but no line that
+/// is full, measured against their own, would have had room for another word.
+double playBehind(std::span<const LineMeasure> lines, double edge, double slack) {
+    double play = edge;
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+        const double free = lines[i].endGap - edge;
+        if (wouldHaveFitted(lines[i], lines[i + 1], free, slack))
+            continue;
+        play = std::min(play, lines[i].blank + lines[i + 1].firstUnit - free);
+    }
+    return std::max(0.0, play);
+}
+
+void setEdge(std::span<LineMeasure> lines, double edge, double slack) {
+    const double play = playBehind(lines, edge, slack);
     for (LineMeasure& line : lines) {
         line.endGap -= edge;
         line.endInset += edge;
+        line.endPlay = play;
     }
 }
 
@@ -143,7 +158,7 @@ void applyCommonEdges(std::span<const Line> lines, std::span<LineMeasure> measur
             if (isSameBlock(lines, measures, i - 1, i, context, parameters) && measures[i - 1].endsCaseless)
                 count.add(lines[i - 1], measures[i - 1], measures[i], edge, parameters.fitSlack * size);
         if (count.isProse(parameters))
-            setEdge(stretch, edge);
+            setEdge(stretch, edge, parameters.fitSlack * size);
     }
 }
 
@@ -169,7 +184,7 @@ void applyLocalEdges(std::span<const Line> lines, std::span<LineMeasure> measure
              (!mayBeProgram(lines.subspan(first, end - first)) &&
               isProseTo(edge, lines.subspan(first), block, parameters.fitSlack * size, parameters)));
         if (isOwnEdge)
-            setEdge(block, edge);
+            setEdge(block, edge, parameters.fitSlack * size);
         first = end;
     }
     applyCommonEdges(lines, measures, context, parameters);

@@ -96,6 +96,16 @@ void setIndents(ParagraphDraft& paragraph, std::span<const LineMeasure> measures
         paragraph.indentEnd += std::max(0.0, first.endGap);
 }
 
+/// Ragged lines do not show to the point where they were set to end.
+std::optional<double> ownEndOf(const ParagraphDraft& paragraph, std::span<const LineMeasure> measures) {
+    const LineMeasure& first = measures[0];
+    if (paragraph.alignment != Alignment::Start || measures.size() == 1 || first.endPlay >= first.endInset)
+        return std::nullopt;
+    const Line& line = paragraph.lines.front();
+    const double beyond = first.endGap + first.endPlay / 2;
+    return line.isRightToLeft ? line.box.left - beyond : line.box.right + beyond;
+}
+
 double leadingOf(std::span<const Line> lines, const ParagraphContext& context) {
     if (lines.size() > 1)
         return (lines.back().baseline - lines.front().baseline) / static_cast<double>(lines.size() - 1);
@@ -114,6 +124,7 @@ void shapeParagraph(ParagraphDraft& paragraph, std::span<const LineMeasure> meas
         paragraph.box = paragraph.box.united(line.box);
     paragraph.alignment = findAlignment(measures, paragraph.lines, parameters);
     setIndents(paragraph, measures);
+    paragraph.ownEnd = ownEndOf(paragraph, measures);
     paragraph.leading = leadingOf(paragraph.lines, context);
     paragraph.dropCap = measures[0].dropCap;
 }

@@ -160,6 +160,20 @@ TEST(ParagraphBuilder, FindsTheEdgeOfTextThatEndsBeforeItsColumn) {
         EXPECT_EQ(textsOf(build(row.art, 45)), row.expected) << row.why;
 }
 
+TEST(ParagraphBuilder, TellsWhereRaggedLinesWereSetToEnd) {
+    const std::vector<std::string> art = {"The quick brown fox jumps over", "extraordinary things and goes",
+                                          "somewhere else."};
+    const auto endIn = [&art](int columnWidth) {
+        const auto paragraphs = build(art, columnWidth);
+        EXPECT_EQ(paragraphs.size(), 1U) << columnWidth;
+        return paragraphs[0].ownEnd;
+    };
+    const double longest = artColumn(30).right;
+    ASSERT_TRUE(endIn(45));
+    EXPECT_NEAR(*endIn(45), longest + 45 / 2.0, 0.01) << "half way to where the last line's word would have fitted";
+    EXPECT_FALSE(endIn(36)) << "no word would have fitted before the column's edge";
+}
+
 TEST(ParagraphBuilder, LeavesTheLinesOfAProgramAmongOtherTextApart) {
     std::vector<pdf::Font> fonts(2, kFonts[0]);
     fonts[1].isFixedPitch = true;
