@@ -271,6 +271,25 @@ void setPageTops(std::vector<AssembledBlock>& body, const AssemblyContext& conte
     }
 }
 
+/// What starts a column by hand stands as far below the first column's start as on its page.
+void setColumnTops(std::vector<AssembledBlock>& body, const AssemblyParameters::Spacing& limits) {
+    const AssembledBlock* first = nullptr; // of its band
+    for (AssembledBlock& block : body) {
+        if (hasNoPlace(block))
+            continue;
+        if (!first || first->draft->page != block.draft->page || first->draft->band != block.draft->band) {
+            first = &block;
+            continue;
+        }
+        Paragraph* paragraph = block.paragraph();
+        if (!block.draft->startsColumn || !paragraph)
+            continue;
+        const double offset = std::max(0.0, block.top - first->top);
+        if (std::abs(offset - pointsFromTwips(paragraph->properties.spaceBefore)) > limits.sameGap)
+            paragraph->properties.spaceBefore = twipsFromPoints(offset);
+    }
+}
+
 } // namespace
 
 void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, const AssemblyContext& context) {
@@ -298,6 +317,7 @@ void findSpacing(std::vector<BlockFlow>& flows, std::vector<Style>& styles, cons
         if (flow.kind != FlowKind::Body)
             continue;
         setPageTops(flow.blocks, context);
+        setColumnTops(flow.blocks, limits);
         releaseKeeps(flow.blocks);
     }
 }

@@ -238,6 +238,21 @@ TEST(SpacingFinder, CountsTheSpaceBelowColumnsFromTheLongest) {
     EXPECT_EQ(spaceBehind(draftOfColumns(false), 1), 0) << "text flows from it into the next column";
 }
 
+TEST(SpacingFinder, StartsColumnsAsFarBelowTheFirstAsOnThePage) {
+    const auto spaceAbove = [](double baseline, bool startsByHand) {
+        DocumentDraft draft = draftOfColumns(startsByHand);
+        draft.blocks[2] = makeBlock(makeParagraph({makeLine("short", 300, baseline)}));
+        draft.blocks[2].column = 1;
+        draft.blocks[2].paragraph()->pieces[0].columnIndex = 1;
+        draft.blocks[2].startsColumn = startsByHand;
+        return pointsFromTwips(paragraphAt(documentOf(draft), 2).properties.spaceBefore);
+    };
+    EXPECT_NEAR(spaceAbove(110, true), 10, 0.1);
+    EXPECT_EQ(spaceAbove(100, true), 0);
+    EXPECT_EQ(spaceAbove(95, true), 0) << "it cannot stand higher";
+    EXPECT_EQ(spaceAbove(110, false), 0) << "text flows into it";
+}
+
 TEST(SpacingFinder, EndsHeadersAndFootersWithTheirLastLines) {
     DocumentDraft draft = makeDraft(1);
     DraftSection& section = draft.sections.emplace_back();
