@@ -46,6 +46,24 @@ void setIndents(const DraftParagraph& paragraph, const LayoutParameters& paramet
             indent(line.isRightToLeft ? *own - piece.column.left : piece.column.right - *own, line.fontSize);
 }
 
+/// Room before a line that is set against its end or in the middle, where it is all of its paragraph, for a stand-in of
+/// its font; in the middle as much behind it.
+void setSpareBefore(const DraftParagraph& paragraph, const LayoutParameters& parameters,
+                    document::ParagraphProperties& format) {
+    const auto spare = spareOf(paragraph, parameters.lineSpares);
+    if (!spare)
+        return;
+    const ColumnSpan& column = paragraph.pieces.front().column;
+    const Line& line = paragraph.firstLine();
+    if (format.alignment == Alignment::Center) {
+        const double lacking = std::min(0.0, (column.right - column.left - line.box.width() - *spare) / 2);
+        format.indentStart = format.indentEnd = twipsFromPoints(lacking);
+        return;
+    }
+    const double before = line.isRightToLeft ? column.right - line.box.right : line.box.left - column.left;
+    format.indentStart = twipsFromPoints(std::min(0.0, before - *spare));
+}
+
 /// Lets the shading of a single line go from where to where its ground did; the line stays where it stands.
 void takeShadedSpan(const DraftParagraph& paragraph, document::ParagraphProperties& format) {
     const DraftPiece& piece = paragraph.pieces.front();
@@ -148,6 +166,8 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
         format.indentEnd = indent(roomBehind(first), parameters.spacing.smallestIndent);
     else if (format.alignment != Alignment::Center)
         setIndents(paragraph, parameters, format);
+    if (format.alignment == Alignment::End || format.alignment == Alignment::Center)
+        setSpareBefore(paragraph, parameters, format);
     if (paragraph.list)
         takeListIndents(
             numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],

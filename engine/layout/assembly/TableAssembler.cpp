@@ -68,8 +68,9 @@ void takeMargin(document::Paragraph& paragraph, Twips margin) {
     document::ParagraphProperties& format = paragraph.properties;
     if (format.alignment == document::Alignment::Center)
         return;
-    format.indentStart = std::max(Twips(0), format.indentStart - margin);
-    format.indentEnd = std::max(Twips(0), format.indentEnd - margin);
+    // One that reaches out of the cell leaves room for a stand-in of its line's font.
+    for (Twips* indent : {&format.indentStart, &format.indentEnd})
+        *indent = *indent < Twips(0) ? *indent - margin : std::max(Twips(0), *indent - margin);
     for (document::TabStop& tab : format.tabs)
         tab.position = std::max(Twips(0), tab.position - margin);
 }

@@ -93,7 +93,7 @@ public:
         writeTabs();
         writeSwitch("w:bidi", &ParagraphProperties::isRightToLeft);
         writeSpacing();
-        writeIndents();
+        writeIndents(identity.list.has_value());
         writeSwitch("w:contextualSpacing", &ParagraphProperties::isContextualSpacing);
         if (differs(&ParagraphProperties::alignment))
             m_xml.leaf("w:jc", {{"w:val", nameOf(m_value.alignment)}});
@@ -187,9 +187,11 @@ private:
         m_xml.attribute({"w:lineRule", spacing.rule == LineSpacingRule::Exact ? "exact" : "atLeast"});
     }
 
-    void writeIndents() {
+    void writeIndents(bool isListItem) {
         const XmlElement ind(m_xml, "w:ind", EmptyElement::Omit);
-        if (differs(&ParagraphProperties::indentStart))
+        // LibreOffice may take the start of another style where only the end is given, as in tables of footers.
+        const bool hasBoth = !isListItem && differs(&ParagraphProperties::indentEnd);
+        if (hasBoth || differs(&ParagraphProperties::indentStart))
             m_xml.attribute({"w:left", limited(m_value.indentStart)});
         if (differs(&ParagraphProperties::indentEnd))
             m_xml.attribute({"w:right", limited(m_value.indentEnd)});

@@ -35,6 +35,19 @@ TEST(ParagraphFormat, GivesALineOfItsOwnRoomForAStandInOfItsFont) {
     }
 }
 
+TEST(ParagraphFormat, GivesLinesThatAreNotSetFromTheStartThatRoomToo) {
+    const auto format = [](std::size_t characters, double left, document::Alignment alignment) {
+        return formatOfLines({makeLine(std::string(characters, 'x'), left, 100)}, alignment);
+    };
+    const auto atEnd = format(90, 73, document::Alignment::End);
+    EXPECT_EQ(atEnd.indentStart, twipsFromPoints(1 - 12));
+    EXPECT_EQ(atEnd.indentEnd, Twips(0));
+    EXPECT_EQ(format(80, 123, document::Alignment::End).indentStart, Twips(0)) << "there is room enough";
+    const auto centred = format(90, 72.5, document::Alignment::Center);
+    EXPECT_EQ(centred.indentStart, twipsFromPoints(0.5 - 6));
+    EXPECT_EQ(centred.indentEnd, centred.indentStart);
+}
+
 TEST(ParagraphFormat, EndsRaggedLinesWhereTheyWereSetTo) {
     const auto indentAt = [](double end, document::Alignment alignment) {
         ParagraphDraft paragraph = tests::makeParagraph({makeLine("some words", 72, 100), makeLine("more", 72, 112)});

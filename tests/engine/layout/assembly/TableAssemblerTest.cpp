@@ -132,6 +132,20 @@ TEST(TableAssembler, GivesALineOfItsOwnMoreRoomThanWrappedOnes) {
     EXPECT_LT(marginRight(false), marginRight(true)) << "a stand-in for its font must not break it";
 }
 
+TEST(TableAssembler, LetsALineThatFillsItsCellReachOutOfIt) {
+    DocumentDraft draft = draftOfTable(Reading::FromLeft);
+    DraftCell& cell = std::get<DraftTable>(draft.blocks[0].value).cells[0];
+    ParagraphDraft amount = tests::makeParagraph({tests::makeLine(std::string(20, '0'), 172, 112)});
+    amount.alignment = document::Alignment::End;
+    cell.blocks[0] = tests::makeBlock(std::move(amount));
+    cell.blocks[0].paragraph()->pieces[0].column = {172, 272};
+    const document::Document document = tests::documentOf(draft);
+    const auto& row = std::get<document::Table>(document.sections.at(0).blocks.at(0).value).rows[0];
+    EXPECT_EQ(std::get<document::Paragraph>(row.cells[0].blocks.at(0).value).properties.indentStart,
+              twipsFromPoints(-10))
+        << "a stand-in for its font must not break it";
+}
+
 TEST(TableAssembler, KeepsRowsLowerThanTheLinesOfTheirFonts) {
     const auto spacingIn = [](double height) {
         DocumentDraft draft = draftOfTable(Reading::FromLeft);

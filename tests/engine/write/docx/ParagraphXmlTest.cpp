@@ -59,6 +59,7 @@ TEST(ParagraphXml, WritesEachPropertyThatDiffers) {
              p.indentEnd = Twips(-100);
              p.firstLine = Twips(-360);
          }},
+        {"<w:ind w:left='0' w:right='100'/>", [](ParagraphProperties& p) { p.indentEnd = Twips(100); }},
         {"<w:ind w:firstLine='360'/>", [](ParagraphProperties& p) { p.firstLine = Twips(360); }},
         {"<w:pBdr><w:top w:val='double' w:sz='6' w:space='4' w:color='FF0000'/>"
          "<w:between w:val='dotted' w:sz='4' w:space='0' w:color='000000'/></w:pBdr>",
