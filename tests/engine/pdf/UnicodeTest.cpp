@@ -8,6 +8,7 @@
 #include "pdf/TextString.h"
 #include "pdf/TrueTypeFile.h"
 #include "pdf/TrueTypeGlyph.h"
+#include "pdf/UsualGlyphOrder.h"
 
 #include <gtest/gtest.h>
 
@@ -96,6 +97,15 @@ TEST(Unicode, OfAMapThatSaysOneThingForAllIsNotBelieved) {
                          " /Encoding /WinAnsiEncoding /FirstChar 65 /LastChar 69 /Widths [500 500 500 500 500] >>",
                      "(ABCDE)"),
               "ABCDE");
+}
+
+TEST(UsualGlyphOrder, LacksTheBlankThatDoesNotBreakAndTheApple) {
+    const std::pair<std::uint32_t, char32_t> known[] = {
+        {2, 0},      {3, U' '},   {36, U'A'},  {97, U'~'},  {98, U'Ä'},  {129, U'ü'}, {135, U'•'},
+        {162, U'¿'}, {171, U'…'}, {172, U'À'}, {177, U'–'}, {178, U'—'}, {179, U'“'}, {182, U'’'},
+        {188, U'€'}, {196, U'„'}, {208, U'Ô'}, {209, U'Ò'}, {238, U'×'}, {255, U'đ'}, {256, 0}};
+    for (const auto& [glyph, character] : known)
+        EXPECT_EQ(characterInUsualOrder(glyph), character) << glyph;
 }
 
 TEST(Unicode, OfGlyphNumbersFollowsTheUsualOrder) {
