@@ -46,22 +46,29 @@ void setIndents(const DraftParagraph& paragraph, const LayoutParameters& paramet
             indent(line.isRightToLeft ? *own - piece.column.left : piece.column.right - *own, line.fontSize);
 }
 
-/// Room before a line that is set against its end or in the middle, where it is all of its paragraph, for a stand-in of
-/// its font; in the middle as much behind it.
-void setSpareBefore(const DraftParagraph& paragraph, const LayoutParameters& parameters,
-                    document::ParagraphProperties& format) {
+/// The start of lines that are set against the end follows from their lengths. Running heads may be wider than the
+/// text; in a cell, or in a section wider than the page shows, lines end before the edge.
+void setIndentsAtEnd(const DraftParagraph& paragraph, const LayoutParameters& parameters,
+                     document::ParagraphProperties& format) {
+    const DraftPiece& piece = paragraph.pieces.front();
+    format.indentEnd = indent(roomBehind(piece), parameters.spacing.smallestIndent);
+    const auto spare = spareOf(paragraph, parameters.lineSpares);
+    if (!spare)
+        return;
+    const Rect& line = piece.text.lines.front().box;
+    const double before = format.isRightToLeft ? piece.column.right - line.right : line.left - piece.column.left;
+    format.indentStart = twipsFromPoints(std::min(0.0, before - *spare));
+}
+
+/// Both edges of centred lines follow from their lengths.
+void setIndentsAboutMiddle(const DraftParagraph& paragraph, const LayoutParameters& parameters,
+                           document::ParagraphProperties& format) {
     const auto spare = spareOf(paragraph, parameters.lineSpares);
     if (!spare)
         return;
     const ColumnSpan& column = paragraph.pieces.front().column;
-    const Line& line = paragraph.firstLine();
-    if (format.alignment == Alignment::Center) {
-        const double lacking = std::min(0.0, (column.right - column.left - line.box.width() - *spare) / 2);
-        format.indentStart = format.indentEnd = twipsFromPoints(lacking);
-        return;
-    }
-    const double before = line.isRightToLeft ? column.right - line.box.right : line.box.left - column.left;
-    format.indentStart = twipsFromPoints(std::min(0.0, before - *spare));
+    const double room = column.right - column.left - paragraph.firstLine().box.width();
+    format.indentStart = format.indentEnd = twipsFromPoints(std::min(0.0, (room - *spare) / 2));
 }
 
 /// Lets the shading of a single line go from where to where its ground did; the line stays where it stands.
@@ -160,14 +167,12 @@ document::ParagraphProperties formatOf(const DraftParagraph& paragraph, const st
     if (format.alignment == Alignment::Justified &&
         (isLastFullest(paragraph, parameters.spacing.smallestEndIndent) || isWordColumn(paragraph)))
         format.alignment = Alignment::Start;
-    // The edges of centred lines, and the start of those set against the end, follow from their lengths. Running heads
-    // may be wider than the text; in a cell, or in a section wider than the page shows, lines end before the edge.
     if (format.alignment == Alignment::End)
-        format.indentEnd = indent(roomBehind(first), parameters.spacing.smallestIndent);
-    else if (format.alignment != Alignment::Center)
+        setIndentsAtEnd(paragraph, parameters, format);
+    else if (format.alignment == Alignment::Center)
+        setIndentsAboutMiddle(paragraph, parameters, format);
+    else
         setIndents(paragraph, parameters, format);
-    if (format.alignment == Alignment::End || format.alignment == Alignment::Center)
-        setSpareBefore(paragraph, parameters, format);
     if (paragraph.list)
         takeListIndents(
             numberings[paragraph.list->numbering].numbering.levels[static_cast<std::size_t>(paragraph.list->level)],

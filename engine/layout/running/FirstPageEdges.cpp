@@ -120,13 +120,13 @@ void takeFirstFoot(std::vector<EdgeRows>& edges, const PageText& page,
     if (alone.taken == 0 || alone.taken == alone.rows.size())
         return;
     const double end = endOf(alone.rows[alone.taken - 1]);
-    const RunningRow& text = alone.rows[alone.taken];
-    if (shareFrame(page, text, text))
+    const RunningRow& above = alone.rows[alone.taken];
+    if (shareFrame(page, above, above))
         return; // of a table, which goes on where its author wants it to
-    const bool isFull = text.fromEdge - end <= parameters.fullFirstPage * page.height;
-    const auto texts =
+    const bool isFull = above.fromEdge - end <= parameters.fullFirstPage * page.height;
+    const auto lower =
         std::count_if(edges.begin() + 1, edges.end(), [end](const EdgeRows& other) { return textStart(other) < end; });
-    if (isFull && static_cast<double>(texts) < parameters.textShare * static_cast<double>(edges.size()))
+    if (isFull && static_cast<double>(lower) < parameters.textShare * static_cast<double>(edges.size()))
         first = std::move(alone);
 }
 

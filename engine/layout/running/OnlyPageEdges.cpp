@@ -16,10 +16,10 @@ constexpr double kMargin = 62;
 constexpr double kLinesAbove = 4;
 
 /// Whether a short rule stands right above the row, as above notes, which neither share their middle.
-bool isBelowSeparator(const RunningRow& row, const PageText& page, double sameMiddle) {
+bool isBelowSeparator(const RunningRow& row, const PageText& page, const RunningParameters::RunningHeads& limits) {
     constexpr double kLongestSeparator = 0.5; // of the page's width
     return std::any_of(page.rules.begin(), page.rules.end(), [&](const Rule& rule) {
-        const bool areCentred = std::abs((rule.from + rule.to) / 2 - row.box.centerX()) <= sameMiddle;
+        const bool areCentred = std::abs((rule.from + rule.to) / 2 - row.box.centerX()) <= limits.sameSide;
         return !areCentred && rule.direction == RuleDirection::Horizontal &&
                rule.position <= row.box.top + row.fontSize / 2 && rule.position >= row.box.top - 2 * row.fontSize &&
                rule.to - rule.from < kLongestSeparator * page.width;
@@ -59,7 +59,7 @@ std::size_t countApart(const EdgeRows& edge, const PageText& page, const Running
                 ? hasTextAbove(edge, page)
                 : edge.rows[i].fromEdge - end >= limits.onlyFootGap * std::max(outer.fontSize, edge.rows[i].fontSize);
         if (isApart)
-            return isBelowSeparator(outer, page, limits.sameSide) ? 0 : i;
+            return isBelowSeparator(outer, page, limits) ? 0 : i;
     }
     return 0;
 }

@@ -29,6 +29,7 @@ struct RunningParameters {
         std::size_t longestFirstFoot = 3; ///< rows
         int longestLetterhead = 40;       ///< rows; a letterhead in a table has more of them than heads that repeat
         double deepestFirstFoot = 120;    ///< points; the text of full pages ends no farther from the edge
+        double fullFirstPage = 0.12;      ///< of the page's height; blank above the foot of a first page that is full
         double fullPage = 2;              ///< of the font size; full pages end within this of each other
         std::ptrdiff_t fewestAlike = 2;   ///< pages that show where the text begins or ends
         std::size_t longestOnlyRow = 24;  ///< bytes of a row that says nothing but "page 1 of 1"
@@ -36,7 +37,6 @@ struct RunningParameters {
         double onlyFootReach = 0.13;       ///< of the page's height; no row of the only page's foot begins farther in
         double onlyFootGap = 2.0;          ///< of the font size; between it and all text
         std::size_t longestOnlyFoot = 5;   ///< rows
-        double fullFirstPage = 0.12;       ///< of the page's height; blank above the foot of a first page that is full
         std::size_t longestNumberLink = 4; ///< bytes between a page's number and that of all pages: "of", "von"
         // HeadPlaces, RunningHeads
         double textShare =

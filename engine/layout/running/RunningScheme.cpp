@@ -129,7 +129,6 @@ private:
         return scheme;
     }
 
-    /// Pages that the scheme has right.
     std::size_t countRight(const RunningScheme& scheme) const {
         std::size_t count = 0;
         for (std::size_t page = scheme.firstPage; page <= scheme.lastPage; ++page)
@@ -137,11 +136,13 @@ private:
         return count;
     }
 
+    /// Pages that would show another page's head.
     std::size_t mistakes(const RunningScheme& scheme) const {
         return scheme.lastPage + 1 - scheme.firstPage - countRight(scheme);
     }
 
-    /// Likewise, where a first page of its own counts only for what it makes possible.
+    /// Pages that the scheme has right, less what a first page of its own or even pages cost: these count only for what
+    /// they make possible.
     std::size_t explained(const RunningScheme& scheme) const {
         const std::size_t count = countRight(scheme);
         const std::size_t cost = (scheme.even ? 1 : 0) + (scheme.hasOwnFirstPage ? 1 : 0);

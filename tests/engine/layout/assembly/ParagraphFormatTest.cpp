@@ -49,15 +49,13 @@ TEST(ParagraphFormat, GivesLinesThatAreNotSetFromTheStartThatRoomToo) {
 }
 
 TEST(ParagraphFormat, EndsRaggedLinesWhereTheyWereSetTo) {
-    const auto indentAt = [](double end, document::Alignment alignment) {
+    const auto indentAt = [](double end) {
         ParagraphDraft paragraph = tests::makeParagraph({makeLine("some words", 72, 100), makeLine("more", 72, 112)});
-        paragraph.alignment = alignment;
         paragraph.ownEnd = end;
         return formatOf(*tests::makeBlock(std::move(paragraph)).paragraph(), {}, {}).indentEnd;
     };
-    EXPECT_EQ(indentAt(323, document::Alignment::Start), twipsFromPoints(200));
-    EXPECT_EQ(indentAt(520, document::Alignment::Start), Twips(0)) << "at the column's edge";
-    EXPECT_EQ(indentAt(323, document::Alignment::Center), Twips(0));
+    EXPECT_EQ(indentAt(323), twipsFromPoints(200));
+    EXPECT_EQ(indentAt(520), Twips(0)) << "at the column's edge";
 }
 
 TEST(ParagraphFormat, GivesThatRoomToALineThatMightHaveGoneOnButDoesNot) {

@@ -217,9 +217,9 @@ TEST(SpacingFinder, SetsATableLowerThatStartsItsPageThere) {
 }
 
 /// A long column, a short one that starts by hand or is flowed into, and 20 points below the long one a line over both.
-DocumentDraft draftOfColumns(bool startsByHand) {
-    DocumentDraft draft =
-        draftOfLines({{"long", 100}, {"column", 100 + kLine}, {"short", 100}, {"below both", 100 + 2 * kLine + 20}});
+DocumentDraft draftOfColumns(bool startsByHand, double baselineOfShort = 100) {
+    DocumentDraft draft = draftOfLines(
+        {{"long", 100}, {"column", 100 + kLine}, {"short", baselineOfShort}, {"below both", 100 + 2 * kLine + 20}});
     draft.blocks[2].column = 1;
     draft.blocks[2].paragraph()->pieces[0].columnIndex = 1;
     draft.blocks[2].startsColumn = startsByHand;
@@ -240,12 +240,8 @@ TEST(SpacingFinder, CountsTheSpaceBelowColumnsFromTheLongest) {
 
 TEST(SpacingFinder, StartsColumnsAsFarBelowTheFirstAsOnThePage) {
     const auto spaceAbove = [](double baseline, bool startsByHand) {
-        DocumentDraft draft = draftOfColumns(startsByHand);
-        draft.blocks[2] = makeBlock(makeParagraph({makeLine("short", 300, baseline)}));
-        draft.blocks[2].column = 1;
-        draft.blocks[2].paragraph()->pieces[0].columnIndex = 1;
-        draft.blocks[2].startsColumn = startsByHand;
-        return pointsFromTwips(paragraphAt(documentOf(draft), 2).properties.spaceBefore);
+        const auto document = documentOf(draftOfColumns(startsByHand, baseline));
+        return pointsFromTwips(paragraphAt(document, 2).properties.spaceBefore);
     };
     EXPECT_NEAR(spaceAbove(110, true), 10, 0.1);
     EXPECT_EQ(spaceAbove(100, true), 0);
@@ -256,16 +252,22 @@ TEST(SpacingFinder, StartsColumnsAsFarBelowTheFirstAsOnThePage) {
 TEST(SpacingFinder, EndsHeadersAndFootersWithTheirLastLines) {
     DocumentDraft draft = makeDraft(1);
     DraftSection& section = draft.sections.emplace_back();
-    section.footer.standard.emplace();
-    for (int line = 0; line < 3; ++line)
-        section.footer.standard->push_back(makeBlock(makeParagraph({makeLine("line", 72, 764 + 20.0 * line)})));
-    const auto document = documentOf(draft);
-    const auto& footer = *document.sections.at(0).footer.standard;
-    const auto spaceBehind = [&](std::size_t i) {
-        return pointsFromTwips(std::get<document::Paragraph>(footer.at(i).value).properties.spaceAfter);
+    const auto add = [](DraftRunningText& text, double baseline) {
+        text.standard.emplace();
+        for (int line = 0; line < 3; ++line)
+            text.standard->push_back(makeBlock(makeParagraph({makeLine("line", 72, baseline + 20.0 * line)})));
     };
-    EXPECT_NEAR(spaceBehind(1), 20 - kLine, 0.1);
-    EXPECT_EQ(spaceBehind(2), 0);
+    add(section.header, 46);
+    add(section.footer, 764);
+    const auto document = documentOf(draft);
+    const document::Section& written = document.sections.at(0);
+    for (const auto* text : {&written.header, &written.footer}) {
+        const auto spaceBehind = [&](std::size_t i) {
+            return pointsFromTwips(std::get<document::Paragraph>(text->standard->at(i).value).properties.spaceAfter);
+        };
+        EXPECT_NEAR(spaceBehind(1), 20 - kLine, 0.1);
+        EXPECT_EQ(spaceBehind(2), 0);
+    }
 }
 
 TEST(SpacingFinder, CountsTheSpaceAboveAPageFromAHeaderThatPushesItsTextDown) {

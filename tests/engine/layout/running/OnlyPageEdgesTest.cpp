@@ -83,7 +83,7 @@ TEST(OnlyPageEdges, TakesTheFootOfAPageThatIsMostlyBlankButNoNotes) {
         return takeRunningHeads(pages, {})[0].footer.has_value();
     };
     EXPECT_TRUE(hasFoot(400)) << "below a long rule";
-    EXPECT_TRUE(hasFoot(167)) << "as long as the rule above it";
+    EXPECT_TRUE(hasFoot(167)) << "below the middle of the rule";
     EXPECT_FALSE(hasFoot(200)) << "a note";
 }
 
