@@ -55,17 +55,17 @@ bool isCaselessLetter(char32_t character) {
     return type == U_OTHER_LETTER || type == U_MODIFIER_LETTER;
 }
 
-/// A line of strokes or dots, to write on or to part what stands above from what stands below.
+/// A line of strokes or dots, to write on or to part what stands above from what stands below. Behind one to sign on
+/// the name may stand in brackets or between slashes.
 bool isFillerLine(const Line& line) {
     constexpr std::size_t kShortest = 5;
-    std::size_t length = 0;
-    for (const Word& word : line.words)
-        for (const char32_t character : utf32FromUtf8(textOf(word))) {
-            if (std::u32string_view(U"_.…-–—=*·~").find(character) == std::u32string_view::npos)
-                return false;
-            ++length;
-        }
-    return length >= kShortest;
+    const std::u32string text = utf32FromUtf8(textOf(line));
+    const std::size_t end = text.find_first_not_of(U"_.…-–—=*·~ \t");
+    if (end == std::u32string::npos)
+        return text.size() >= kShortest;
+    const char32_t close = text[end] == U'(' ? U')' : U'/';
+    return end >= kShortest && text.starts_with(U"____") && text.size() > end + 1 &&
+           (text[end] == U'(' || text[end] == U'/') && text.back() == close;
 }
 
 /// Whether the line ends in strokes to write on.

@@ -79,7 +79,7 @@ private:
     const std::vector<Line>& lines() const { return m_page.lines; }
 
     bool isTooSmall() const {
-        const std::size_t least = m_evidence == AlignedEvidence::Rules ? 2 : 3;
+        const std::size_t least = m_aligned.areSpaced ? 1 : m_evidence == AlignedEvidence::Rules ? 2 : 3;
         return m_columns.size() < 2 || m_aligned.groups.size() < least;
     }
 

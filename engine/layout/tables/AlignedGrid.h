@@ -14,7 +14,7 @@ struct AlignedRows {
     std::vector<PieceRow> rows;
     std::vector<ColumnGap> gaps;
     std::vector<RowGroup> groups;
-    bool areSpaced = false; ///< space parts rows of several lines; see groupBySpace()
+    bool areSpaced = false; ///< space parts rows of several lines, which may be one; see groupBySpace()
 };
 
 /// Finds the columns of the rows, and cuts pieces there that run over several columns with narrow gaps (numbers, for

@@ -9,6 +9,7 @@
 #include "layout/tables/LabelledTableFinder.h"
 #include "layout/tables/RuledTableFinder.h"
 #include "layout/tables/SideTableFinder.h"
+#include "layout/tables/SignatureTableFinder.h"
 #include "layout/tables/TextColumns.h"
 
 #include <algorithm>
@@ -100,6 +101,7 @@ std::vector<TableDraft> findTablesAmong(PageText& page, const DocumentContext& c
     take(std::move(stacked), others, TableEdges::Ruled);
     take(besideTables(findSideGrids(page, parameters), tables), collectBorderLines(page.rules, limits),
          TableEdges::Ruled);
+    take(findSignatureGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     take(findBorderlessGrids(page, parameters), collectBorderLines(page.rules, limits), TableEdges::Aligned);
     const std::vector<BorderLine> left = collectBorderLines(page.rules, limits);
     take(besideTables(findGroundGrids(page, left, limits), tables), left, TableEdges::Ruled);

@@ -78,6 +78,9 @@ struct TableParameters {
         double rowSpaceJump = 0.25;   ///< of the font size; by that much the least space between rows exceeds ...
         double widestLineSpace = 0.5; ///< of the font size; ... the widest between lines, which is no larger
 
+        // Parties side by side that are to sign.
+        std::size_t leastUnderscores = 8; ///< one after the other that leave room for a signature
+
         // Cells that grounds show.
         double filledSnap = 1.5;       ///< points; edges of grounds that differ by less meet
         double groundRowBlank = 1.0;   ///< of the font size; texts of rows between grounds stand no farther apart

@@ -99,6 +99,16 @@ bool isBlankOfItem(const std::vector<Cluster>& clusters, const Run& run, const T
     return last == U'.' || last == U')';
 }
 
+/// Whether the run begins its row with no page behind it, or is of strokes that stand apart from the text before: a
+/// blank to fill in, with what it is for behind it.
+bool beginsText(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
+    const Cluster& first = clusters[run.first];
+    if (run.first == 0)
+        return !isDigit(clusters[run.last].text.front());
+    return leaderOf(first) == TabLeader::Underscore &&
+           first.start - clusters[run.first - 1].end > limits.nextColumn * first.size;
+}
+
 /// Full stops within a sentence that breaks off.
 bool isEllipsis(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
     return leaderOf(clusters[run.first]) == TabLeader::Dots && run.dots <= limits.longestEllipsis &&
@@ -116,7 +126,8 @@ void findLeaders(TextRow& row, const TextParameters& parameters) {
         const Run run = leader == TabLeader::None ? Run{i, i + 1, 0} : runAt(clusters, i, limits);
         i = run.last;
         if (run.dots < limits.fewestDots || !leadsToSomething(clusters, run, limits) ||
-            isEllipsis(clusters, run, limits) || isBlankOfItem(clusters, run, limits) ||
+            beginsText(clusters, run, limits) || isEllipsis(clusters, run, limits) ||
+            isBlankOfItem(clusters, run, limits) ||
             clusters[run.last].start - clusters[run.first].start < limits.shortest * row.fontSize)
             continue;
         std::fill(isGone.begin() + static_cast<std::ptrdiff_t>(run.first),

@@ -218,6 +218,22 @@ TEST(LineBuilder, KeepsBlanksToFillInBehindTheNumbersOfItems) {
     EXPECT_THAT(linesOf(page), ElementsAre("3.\t............. a good salary", "b)\t............. the bus", "4.\t57"));
 }
 
+TEST(LineBuilder, KeepsBlanksToFillInBeforeWhatTheyAreFor) {
+    PageContentBuilder page;
+    page.text(72, 100, "____________ (date)", 10);
+    page.text(72, 114, "................. (place)", 10);
+    page.text(72, 128, "Name:", 10);
+    page.text(150, 128, "____________ Section:", 10);
+    EXPECT_THAT(linesOf(page),
+                ElementsAre("____________ (date)", "................. (place)", "Name:\t____________ Section:"));
+}
+
+TEST(LineBuilder, LeadsFromABrokenTitleToItsPage) {
+    PageContentBuilder page;
+    page.text(72, 100, "................................. 57", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("57"));
+}
+
 TEST(LineBuilder, KeepsRowsOfContentsTogether) {
     PageContentBuilder page;
     for (int i = 0; i < 5; ++i) {
