@@ -3,6 +3,7 @@
 #include "layout/tables/CellText.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace orvane::layout {
@@ -89,24 +90,38 @@ public:
 private:
     const std::vector<GridCell>& cells() const { return m_found.grid.cells; }
 
-    /// Narrow columns of the table itself are parted by the rules of every row.
+    /// Empty columns of the table itself are parted by the rules of every row.
     bool isStrip(std::size_t index) const {
-        return m_text.wordsOfCell[index].empty() && cells()[index].columnSpan == 1 && cells()[index].rowSpan > 1 &&
-               m_found.grid.boxOf(cells()[index]).width() <= m_parameters.nestedMargin;
+        return m_text.wordsOfCell[index].empty() && cells()[index].columnSpan == 1 && cells()[index].rowSpan > 1;
+    }
+
+    double widthOf(const GridCell& cell) const { return m_found.grid.boxOf(cell).width(); }
+
+    /// Whether the strips are the margins of the grid between them: narrow, or as wide as each other and narrower than
+    /// any of its cells, all of which hold text.
+    bool areMargins(const GridCell& left, const GridCell& right, const Area& inner) const {
+        if (std::max(widthOf(left), widthOf(right)) <= m_parameters.nestedMargin)
+            return true;
+        if (std::abs(widthOf(left) - widthOf(right)) > m_parameters.startSnap)
+            return false;
+        for (std::size_t i = 0; i < cells().size(); ++i)
+            if (isWithin(cells()[i], inner) && (m_text.wordsOfCell[i].empty() || widthOf(cells()[i]) <= widthOf(left)))
+                return false;
+        return true;
     }
 
     /// The cells between the strip and the next one of the same height, if they are a grid of their own.
     std::optional<Area> areaBehind(const GridCell& strip) const {
-        std::optional<int> end;
+        std::optional<std::size_t> end;
         for (std::size_t i = 0; i < cells().size(); ++i) {
             const GridCell& other = cells()[i];
             if (other.row == strip.row && other.rowSpan == strip.rowSpan && other.column > strip.column + 1 &&
-                isStrip(i) && (!end || other.column < *end))
-                end = other.column;
+                isStrip(i) && (!end || other.column < cells()[*end].column))
+                end = i;
         }
         if (!end)
             return std::nullopt;
-        const Area area{strip.column + 1, *end, strip.row, strip.row + strip.rowSpan};
+        const Area area{strip.column + 1, cells()[*end].column, strip.row, strip.row + strip.rowSpan};
         int within = 0;
         for (const GridCell& cell : cells()) {
             if (isWithin(cell, area))
@@ -114,7 +129,7 @@ private:
             else if (!isBeside(cell, area))
                 return std::nullopt;
         }
-        return within > 1 ? std::optional(area) : std::nullopt;
+        return within > 1 && areMargins(strip, cells()[*end], area) ? std::optional(area) : std::nullopt;
     }
 
     TableGrid gridOf(const Area& area) const {

@@ -99,7 +99,10 @@ std::optional<double> baselineAround(const std::vector<TextStrip>& strips, std::
                                      const TextParameters& parameters) {
     const TextParameters::Scripts& limits = parameters.scripts;
     const TextStrip& strip = strips[i];
-    if (strip.isBlank() || strip.inkCount > limits.shiftedLetters)
+    // Dots one above the other stand for the rows of a matrix.
+    const bool areDots = std::all_of(strip.clusters.begin(), strip.clusters.end(),
+                                     [](const Cluster& cluster) { return cluster.text.front() == U'.'; });
+    if (strip.isBlank() || areDots || strip.inkCount > limits.shiftedLetters)
         return std::nullopt;
     const TextStrip *before = nullptr, *after = nullptr;
     const auto touches = [&](double gap) {
@@ -193,9 +196,13 @@ void joinShifted(std::vector<TextStrip>& strips, const TextParameters& parameter
     for (std::size_t i = 0; i < strips.size(); ++i) {
         if (!baselines[i])
             continue;
+        const double rise = (*baselines[i] - strips[i].baseline) / strips[i].size;
         strips[i].baseline = *baselines[i];
-        for (Cluster& cluster : strips[i].clusters)
+        for (Cluster& cluster : strips[i].clusters) {
             cluster.baseline = *baselines[i];
+            if (std::abs(rise) > parameters.scripts.leastScriptShift)
+                cluster.look.verticalPosition = rise > 0 ? VerticalPosition::Superscript : VerticalPosition::Subscript;
+        }
     }
 }
 

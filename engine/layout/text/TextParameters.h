@@ -142,7 +142,8 @@ struct TextParameters {
         unsigned dropCapLetters = 2;      ///< a quotation mark may stand before the letter
         double capitalHeight = 0.7;       ///< of a font's own size
         unsigned shiftedLetters = 3;      ///< that stand higher or lower within a word: the E of a logo
-        double greatestShift = 0.35;      ///< of their baseline
+        double leastScriptShift = 0.35;   ///< of their baseline, from which on it makes them scripts
+        double greatestShift = 0.5;       ///< of their baseline at all
         double shiftedGap = 0.15;         ///< between them and the letters on both sides
     } scripts;
 

@@ -59,6 +59,29 @@ TEST(ScriptFinder, KeepsShiftedLettersInTheirWords) {
     EXPECT_THAT(linesOf(page), ElementsAre("See TEX on a_name"));
 }
 
+TEST(ScriptFinder, RaisesLettersOfTheSameSize) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, "in cm", 10);
+    x = page.text(x, 96, "-1", 10);
+    page.text(x, 100, ") here", 10);
+    page.text(200, 96, "another column", 10);
+    const PageText text = read(page);
+    ASSERT_EQ(text.lines.size(), 2u);
+    const Line& line = textOf(text.lines[0]) == "in cm-1) here" ? text.lines[0] : text.lines[1];
+    EXPECT_EQ(textOf(line), "in cm-1) here");
+    ASSERT_EQ(line.words.at(1).spans.size(), 3u);
+    EXPECT_EQ(line.words[1].spans[1].look.verticalPosition, VerticalPosition::Superscript);
+    EXPECT_EQ(line.words[1].spans[2].look.verticalPosition, VerticalPosition::Baseline);
+}
+
+TEST(ScriptFinder, LeavesTheDotsOfAMatrixWhereTheyStand) {
+    PageContentBuilder page;
+    double x = page.text(72, 100, ".", 10);
+    x = page.text(x, 96, ".", 10);
+    page.text(x, 100, ".", 10);
+    EXPECT_EQ(linesOf(page).size(), 2u);
+}
+
 TEST(ScriptFinder, LeavesLettersThatStandBesideOneLineOnly) {
     PageContentBuilder page;
     const double x = page.text(72, 100, "one", 10);
