@@ -25,6 +25,7 @@ class EdgeReader {
 public:
     EdgeReader(const std::vector<PageText>& pages, PageEdge edge, const RunningParameters::RunningHeads& limits)
         : m_pages(pages)
+        , m_edge(edge)
         , m_limits(limits)
         , m_usualSize(usualFontSize(pages)) {
         for (const PageText& page : pages)
@@ -85,7 +86,7 @@ private:
             return 0;
         std::size_t taken = 0;
         for (std::size_t i = 0; i < edge.rows.size(); ++i) {
-            if (i > 0 && distance(edge.rows[i - 1], edge.rows[i]) > m_limits.chainGap)
+            if (i > 0 && distance(edge.rows[i - 1], edge.rows[i]) > m_limits.chainGap && !isOfFoot(index, i))
                 break;
             if (edge.matches[i] != RowMatch::None)
                 taken = i + 1;
@@ -95,6 +96,14 @@ private:
         while (taken > 0 && !isBelievable(index, taken))
             --taken;
         return taken;
+    }
+
+    /// Whether the row stands near enough to the lower edge, and on enough pages, for the foot to begin with it
+    /// whatever space it holds: that of a picture, say.
+    bool isOfFoot(std::size_t index, std::size_t i) const {
+        const EdgeRows& edge = m_edges[index];
+        return m_edge == PageEdge::Bottom && edge.matches[i] == RowMatch::Text &&
+               edge.rows[i].fromEdge <= m_limits.firstReach * m_pages[index].height && isSure(index, edge.rows[i]);
     }
 
     bool isBelievable(std::size_t index, std::size_t taken) const {
@@ -136,6 +145,7 @@ private:
     }
 
     const std::vector<PageText>& m_pages;
+    PageEdge m_edge;
     const RunningParameters::RunningHeads& m_limits;
     double m_usualSize;
     std::vector<EdgeRows> m_edges;

@@ -4,6 +4,7 @@
 #include "layout/tables/AlignedGrid.h"
 #include "layout/tables/RuledAdmission.h"
 #include "layout/tables/SideCells.h"
+#include "layout/tables/SpacedRows.h"
 
 #include <algorithm>
 #include <functional>
@@ -130,7 +131,9 @@ private:
             return;
         }
         const std::span<const PieceRow> rows(m_aligned.rows.data() + beside.first, beside.end - beside.first);
-        for (const RowGroup& group : groupRows(rows, m_aligned.gaps, m_page.lines, {}, RowsPart::Any, m_parameters))
+        const auto labelled = groupLabelsBySpace(rows, m_aligned.gaps, m_page.lines, m_parameters);
+        for (const RowGroup& group :
+             labelled ? *labelled : groupRows(rows, m_aligned.gaps, m_page.lines, {}, RowsPart::Any, m_parameters))
             m_aligned.groups.push_back({group.first + beside.first, group.end + beside.first});
     }
 

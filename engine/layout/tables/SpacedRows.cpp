@@ -130,7 +130,39 @@ bool areLabelsOfLines(std::span<const PieceRow> rows, const std::vector<RowGroup
            });
 }
 
+/// Rows between spaces of at least that width.
+std::vector<RowGroup> cutAtSpaces(std::span<const PieceRow> rows, double space) {
+    std::vector<RowGroup> groups;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (i == 0 || spaceAbove(rows, i) >= space)
+            groups.push_back({i, i});
+        groups.back().end = i + 1;
+    }
+    return groups;
+}
+
 } // namespace
+
+std::optional<std::vector<RowGroup>> groupLabelsBySpace(std::span<const PieceRow> rows,
+                                                        const std::vector<ColumnGap>& gaps,
+                                                        const std::vector<Line>& lines,
+                                                        const TableParameters::Tables& parameters) {
+    const std::optional<double> space = leastRowSpace(rows, parameters);
+    if (!space)
+        return std::nullopt;
+    std::vector<RowGroup> groups = cutAtSpaces(rows, *space);
+    const auto isLabelled = [&](const RowGroup& group) {
+        std::vector<std::string> labels;
+        for (std::size_t i = group.first; i < group.end; ++i)
+            for (const TextPiece& piece : rows[i].pieces)
+                if (columnsOf(piece, gaps).first == 0)
+                    labels.push_back(textOf(piece, lines));
+        const auto end =
+            std::find_if(labels.begin(), labels.end(), [](const std::string& label) { return label.ends_with(':'); });
+        return end != labels.end() && end + 1 == labels.end();
+    };
+    return std::all_of(groups.begin(), groups.end(), isLabelled) ? std::optional(std::move(groups)) : std::nullopt;
+}
 
 std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
                                                   const std::vector<Line>& lines,
@@ -138,12 +170,7 @@ std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> rows
     const std::optional<double> space = leastRowSpace(rows, parameters);
     if (!space)
         return std::nullopt;
-    std::vector<RowGroup> groups;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i == 0 || spaceAbove(rows, i) >= *space)
-            groups.push_back({i, i});
-        groups.back().end = i + 1;
-    }
+    std::vector<RowGroup> groups = cutAtSpaces(rows, *space);
     if (!areLabelsOfLines(rows, groups, gaps, parameters) &&
         !RunningRows(rows, gaps, lines, parameters).areTexts(groups))
         return std::nullopt;

@@ -15,6 +15,13 @@ double spaceAbove(std::span<const PieceRow> rows, std::size_t i);
 /// The least space that parts two rows, where spaces are of two kinds, at least two of each; points.
 std::optional<double> leastRowSpace(std::span<const PieceRow> rows, const TableParameters::Tables& parameters);
 
+/// The rows of a table whose labels end with colons and may take several lines, where the space between rows is clearly
+/// larger than the one between lines: each row has one of them. Nothing where that is not so.
+std::optional<std::vector<RowGroup>> groupLabelsBySpace(std::span<const PieceRow> rows,
+                                                        const std::vector<ColumnGap>& gaps,
+                                                        const std::vector<Line>& lines,
+                                                        const TableParameters::Tables& parameters);
+
 /// The rows of a table whose texts run over several lines, where the space between rows is clearly larger than the one
 /// between lines; nothing where it is not, or where the lines are neither running texts nor labels of several lines.
 std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> lines, const std::vector<ColumnGap>& gaps,

@@ -118,7 +118,9 @@ void DirectionCount::add(const std::vector<Cluster>& clusters) {
 
 bool isSignedNumber(std::u32string_view text) {
     constexpr std::size_t kFewestDigits = 3;
-    constexpr std::u32string_view kSigns = U"+-.\u2212", kSeparators = U".,\u00A0 ";
+    constexpr std::u32string_view kSigns = U"+-.\u2212", kSeparators = U".,\u00A0 ", kMarks = U"*\u2020\u2021";
+    while (!text.empty() && kMarks.find(text.back()) != kMarks.npos)
+        text.remove_suffix(1);
     const auto isPart = [&](char32_t c) { return isDigit(c) || kSeparators.find(c) != kSeparators.npos; };
     return !text.empty() && kSigns.find(text.front()) != kSigns.npos &&
            std::all_of(text.begin() + 1, text.end(), isPart) &&

@@ -24,8 +24,8 @@ struct DirectionCount {
     void add(const std::vector<Cluster>& clusters);
 };
 
-/// A number of three digits or more behind its sign or full stop, "-90.8", ".464": right-to-left text would turn it.
-/// Shorter ones are labels, seen from the right.
+/// A number of three digits or more behind its sign or full stop, "-90.8", ".464", ".371**" with the marks of a note:
+/// right-to-left text would turn it. Shorter ones are labels, seen from the right.
 bool isSignedNumber(std::u32string_view text);
 
 /// Brings a line from the order on the page, left to right, into logical order, so that a word processor that lays it

@@ -30,6 +30,26 @@ TEST(RunningHeads, TakesRepeatedLinesOffAllPages) {
     }
 }
 
+TEST(RunningHeads, TakesTheRowAboveThePictureInTheFoot) {
+    for (const int last : {4, 2}) {
+        auto pages = pagesWith(4, [&](PageText& page, int number) {
+            if (number <= last)
+                page.lines.push_back(makeLine("Marking", 72, 725));
+            page.lines.push_back(makeLine(fmt::format("Page {}", number), 72, 800));
+        });
+        EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].footer), last == 4 ? "Marking|Page 1" : "Page 1")
+            << "on " << last << " pages";
+    }
+}
+
+TEST(RunningHeads, LeavesWhatRepeatsFarBelowTheHead) {
+    auto pages = pagesWith(4, [](PageText& page, int) {
+        page.lines.push_back(makeLine("Annual report", 72, 30));
+        page.lines.push_back(makeLine("Marking", 72, 84));
+    });
+    EXPECT_EQ(linesOf(takeRunningHeads(pages, {})[0].header), "Annual report");
+}
+
 TEST(RunningHeads, LeavesTheOnlyTextOfThePages) {
     std::vector<PageText> pages;
     for (int number = 1; number <= 6; ++number) {

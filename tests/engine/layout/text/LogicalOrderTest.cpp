@@ -50,7 +50,7 @@ TEST(LogicalOrder, ReadsRightToLeftTextFromItsRight) {
 }
 
 TEST(LogicalOrder, LeavesSignsOfNumbersOnTheirSide) {
-    for (const char* text : {".464", "-90,8", "+1 200"}) {
+    for (const char* text : {".464", "-90,8", "+1 200", ".371**"}) {
         EXPECT_FALSE(lineOf(text).isRightToLeft) << text;
         EXPECT_EQ(textOf(lineOf(text)), text);
     }
