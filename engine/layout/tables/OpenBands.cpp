@@ -1,6 +1,7 @@
 #include "layout/tables/OpenBands.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace orvane::layout {
@@ -17,6 +18,13 @@ std::vector<TextPiece>::const_iterator firstBelow(const std::vector<TextPiece>& 
 
 bool meets(const TextPiece& piece, const RuleLevel& level) {
     return piece.box.right > level.left && piece.box.left < level.right;
+}
+
+/// Whether the text begins where one does in the row above that is not its first: a long text beside a label.
+bool goesOnBesideLabel(const TextPiece& piece, const PieceRow& above, const TableParameters::Tables& parameters) {
+    return std::any_of(above.pieces.begin() + 1, above.pieces.end(), [&](const TextPiece& other) {
+        return std::abs(other.box.left - piece.box.left) <= parameters.startSnap;
+    });
 }
 
 } // namespace
@@ -94,11 +102,15 @@ std::vector<PieceRow> rowsBelow(const RuleLevel& level, const std::vector<TextPi
     }
     std::vector<PieceRow> rows = groupIntoRows(std::move(below), parameters);
     double bottom = level.y;
+    const PieceRow* parted = nullptr;
     const auto end = std::find_if(rows.begin(), rows.end(), [&](const PieceRow& row) {
         const bool isFar = row.box.top - bottom > parameters.maximumRowSpace * row.fontSize;
-        const bool runsOn =
-            row.pieces.size() == 1 && row.box.width() > parameters.openProseShare * (level.right - level.left);
+        const bool runsOn = row.pieces.size() == 1 &&
+                            row.box.width() > parameters.openProseShare * (level.right - level.left) &&
+                            !(parted && goesOnBesideLabel(row.pieces.front(), *parted, parameters));
         bottom = row.box.bottom;
+        if (row.pieces.size() > 1)
+            parted = &row;
         return isFar || runsOn || !isBetweenEnds(row, level, parameters);
     });
     rows.erase(end, rows.end());
