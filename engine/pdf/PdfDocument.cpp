@@ -220,23 +220,25 @@ PagePictures PdfDocument::paintedPictures(int number, Diagnostics& diagnostics) 
     return PagePictures(std::move(pictures));
 }
 
-std::vector<PictureDataPtr> PdfDocument::renderRegions(int page, const std::vector<Rect>& regions, double dotsPerInch,
-                                                       PaintedText words, Diagnostics& diagnostics) const {
+std::vector<PictureDataPtr> PdfDocument::renderRegions(int page, const std::vector<Rect>& regions,
+                                                       PaintResolution resolution, PaintedText words,
+                                                       Diagnostics& diagnostics) const {
     const auto paint = [&](ContentRepair repair, Diagnostics& told) {
-        return paintRegions(*m_impl->document, page, regions, dotsPerInch, words, repair, told);
+        return paintRegions(*m_impl->document, page, regions, resolution, words, repair, told);
     };
     return repaired(paint, diagnostics);
 }
 
-PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
+PictureDataPtr PdfDocument::renderRegion(int page, const Rect& region, PaintResolution resolution, PaintedText words,
                                          Diagnostics& diagnostics) const {
-    return renderRegions(page, {region}, dotsPerInch, words, diagnostics).front();
+    return renderRegions(page, {region}, resolution, words, diagnostics).front();
 }
 
-PictureDataPtr PdfDocument::renderAnnotation(int page, std::size_t annotation, const Rect& region, double dotsPerInch,
-                                             PaintedText words, Diagnostics& diagnostics) const {
+PictureDataPtr PdfDocument::renderAnnotation(int page, std::size_t annotation, const Rect& region,
+                                             PaintResolution resolution, PaintedText words,
+                                             Diagnostics& diagnostics) const {
     const ComplaintCollector silence;
-    return paintAnnotation(*m_impl->document, page, annotation, region, dotsPerInch, words, diagnostics);
+    return paintAnnotation(*m_impl->document, page, annotation, region, resolution, words, diagnostics);
 }
 
 std::vector<Rect> PdfDocument::inkOf(int page, double side, Diagnostics& diagnostics) const {

@@ -77,6 +77,12 @@ struct PageReadOptions {
 /// Whether the words of a page are painted with it.
 enum class PaintedText : std::uint8_t { Shown, LeftOut };
 
+/// How fine parts of a page are painted, dots per inch.
+struct PaintResolution {
+    double usual = 0;
+    double ofDense = usual; ///< down to this where so many lines cross the parts that edges would not be smooth
+};
+
 /// An open PDF.
 /// Errors: opening throws Failure(SourceUnreadable | NotAPdf | UserPasswordNeeded | OwnerPasswordNeeded).
 /// Thread: one object a thread; several objects may read the same file at once.
@@ -107,16 +113,16 @@ public:
     /// Paints parts of a page (page space, points) as PNGs with a white ground, all in one go through its content. Used
     /// for drawings too rich to take apart. Null where nothing of the page is in a region. Errors:
     /// Failure(InvalidRequest) when nothing of it is in any.
-    std::vector<PictureDataPtr> renderRegions(int page, const std::vector<Rect>& regions, double dotsPerInch,
+    std::vector<PictureDataPtr> renderRegions(int page, const std::vector<Rect>& regions, PaintResolution resolution,
                                               PaintedText words, Diagnostics& diagnostics) const;
 
     /// Paints one part of a page.
-    PictureDataPtr renderRegion(int page, const Rect& region, double dotsPerInch, PaintedText words,
+    PictureDataPtr renderRegion(int page, const Rect& region, PaintResolution resolution, PaintedText words,
                                 Diagnostics& diagnostics) const;
 
     /// Paints what one annotation, by its Annotation::number, shows in a region, and nothing else: a PNG that is
     /// transparent where it paints nothing.
-    PictureDataPtr renderAnnotation(int page, std::size_t annotation, const Rect& region, double dotsPerInch,
+    PictureDataPtr renderAnnotation(int page, std::size_t annotation, const Rect& region, PaintResolution resolution,
                                     PaintedText words, Diagnostics& diagnostics) const;
 
     /// The squares of a page, `side` points wide, that are darker than its paper; of use for scans, whose ink says

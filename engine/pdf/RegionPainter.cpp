@@ -1,12 +1,14 @@
 #include "pdf/RegionPainter.h"
 
 #include "base/Failure.h"
-#include "base/PngEncoder.h"
+#include "pdf/BitmapEncoder.h"
+#include "pdf/EdgeCounter.h"
 #include "pdf/PageSpace.h"
 #include "pdf/TransparentPicture.h"
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <memory>
 
 #include <Annot.h>
@@ -25,71 +27,63 @@ constexpr double kThinnestLine =
     0.35; ///< points; screens draw no line thinner, and a picture is shown smaller than it is
 constexpr std::chrono::seconds kTimeBudget{30};
 
-// Rows of pixels that edges go through. A page that so many lines cross is covered several times over; the first
-// million takes a tenth of a second, one without smooth edges a quarter of that, hairlines far less.
-constexpr double kSmoothRows = 5e6; ///< edges behind them are not smooth
-constexpr double kWideRows = 10e6;  ///< thin lines behind them are hairlines
+// Rows of pixels that edges go through. A page that so many lines cross is covered several times over; a million takes
+// a tenth of a second, one without smooth edges a quarter of that, hairlines far less.
+constexpr double kSmoothRows = 6e6; ///< edges of more are not smooth
+constexpr double kWideRows = 10e6;  ///< thin lines of more are hairlines
 constexpr double kThinLine = 1;     ///< points
-constexpr double kRowsOfCurve = 3;  ///< a curve takes the time of so many lines along its control points
 
-/// Pixels a point for this resolution, or for what the largest picture allows.
-double scaleOf(const Rect& region, double dotsPerInch) {
+/// Plays what is to be painted on a device, as far as the slice shows it.
+using Play = std::function<void(::OutputDev&, TimeBudget&, const PageSlice&)>;
+
+/// Rows of pixels that edges in a region (page space) go through at one pixel a point.
+double edgeRowsOf(const Play& play, const Rect& region) {
+    EdgeCounter counter(region);
+    TimeBudget budget(kTimeBudget);
+    play(counter, budget, {});
+    return counter.rows();
+}
+
+/// As fine as asked for, coarser where edges would not be smooth so fine, and no finer than the largest picture allows.
+/// Pixels a point.
+double scaleOf(const Rect& region, double edgeRows, PaintResolution resolution) {
+    const double smooth = edgeRows > 0 ? kSmoothRows / edgeRows * kPointsPerInch : resolution.usual;
+    const double dotsPerInch = std::clamp(smooth, resolution.ofDense, resolution.usual);
     return std::min(dotsPerInch / kPointsPerInch, std::sqrt(kMaxPixels / region.area()));
 }
 
-/// Adds up how many rows of pixels the edges of paths go through, about.
-class EdgeCounter {
-public:
-    EdgeCounter(int width, int height)
-        : m_width(width)
-        , m_height(height) {}
-
-    double rowsOf(const GfxState& state) const {
-        double rows = 0;
-        const GfxPath& path = *state.getPath();
-        for (int i = 0; i < path.getNumSubpaths(); ++i)
-            rows += rowsOf(*path.getSubpath(i), state);
-        return rows;
-    }
-
-private:
-    double rowsOf(const GfxSubpath& part, const GfxState& state) const {
-        double rows = 0;
-        Point last = at(part, 0, state);
-        for (int i = 1; i < part.getNumPoints(); ++i) {
-            const Point next = at(part, i, state);
-            if (std::max(last.x, next.x) > 0 && std::min(last.x, next.x) < m_width)
-                rows += (part.getCurve(i) ? kRowsOfCurve : 1) * std::abs(within(next.y) - within(last.y));
-            last = next;
-        }
-        return rows;
-    }
-
-    static Point at(const GfxSubpath& part, int i, const GfxState& state) {
-        Point point;
-        state.transform(part.getX(i), part.getY(i), &point.x, &point.y);
-        return point;
-    }
-    double within(double y) const { return std::clamp(y, 0.0, m_height); }
-
-    double m_width;
-    double m_height;
+/// What of a region can be painted, and how.
+struct Painting {
+    PageSlice slice;
+    double edgeRows; ///< rows of pixels that edges go through
 };
+
+Painting paintingOf(const Play& play, const Rect& visible, PaintResolution resolution) {
+    const double edgeRows = edgeRowsOf(play, visible);
+    const double scale = scaleOf(visible, edgeRows, resolution);
+    return {sliceOf(visible, scale), edgeRows * scale};
+}
+
+/// What of a region is on the page. Errors: see paintRegions().
+Rect visibleOf(::Page* page, int number, const Rect& region, PaintResolution resolution) {
+    const Rect visible = page ? region.intersected(pageBox(*page)) : Rect{};
+    if (visible.isEmpty() || !(resolution.ofDense > 0))
+        throw Failure(FailureCode::InvalidRequest, "nothing of the page is in the region to paint", {number, 0});
+    return visible;
+}
 
 /// Paints with or without the words.
 class RegionDevice : public SplashOutputDev {
 public:
-    RegionDevice(SplashColorPtr paper, PaintedText words, const PageSlice& slice)
+    RegionDevice(SplashColorPtr paper, PaintedText words, const Painting& painting)
         : SplashOutputDev(splashModeRGB8, 1, false, paper)
         , m_words(words)
-        , m_scale(slice.scale)
-        , m_edges(slice.width, slice.height) {}
-
-    /// Whether there are so many lines that some were painted coarsely.
-    bool isCoarse() const { return m_rows > kSmoothRows; }
+        , m_scale(painting.slice.scale)
+        , m_edgeRows(painting.edgeRows) {}
 
     void startPage(int number, GfxState* state, XRef* objects) override {
         SplashOutputDev::startPage(number, state, objects);
+        setVectorAntialias(m_edgeRows <= kSmoothRows);
         getSplash()->setMinLineWidth(kThinnestLine * m_scale);
     }
 
@@ -107,8 +101,7 @@ public:
     }
 
     void stroke(GfxState* state) override {
-        count(2 * m_edges.rowsOf(*state)); // both sides of the line
-        if (m_rows <= kWideRows || state->getTransformedLineWidth() > kThinLine * m_scale) {
+        if (m_edgeRows <= kWideRows || state->getTransformedLineWidth() > kThinLine * m_scale) {
             SplashOutputDev::stroke(state);
             return;
         }
@@ -118,52 +111,17 @@ public:
         updateLineWidth(state);
         getSplash()->setMinLineWidth(kThinnestLine * m_scale);
     }
-    void fill(GfxState* state) override {
-        count(m_edges.rowsOf(*state));
-        SplashOutputDev::fill(state);
-    }
-    void eoFill(GfxState* state) override {
-        count(m_edges.rowsOf(*state));
-        SplashOutputDev::eoFill(state);
-    }
 
 private:
-    void count(double rows) {
-        m_rows += rows;
-        if (isCoarse())
-            setVectorAntialias(false);
-    }
-
     PaintedText m_words;
-    double m_scale; ///< pixels a point
-    EdgeCounter m_edges;
-    double m_rows = 0; ///< that edges went through up to now
+    double m_scale;    ///< pixels a point
+    double m_edgeRows; ///< rows of pixels that edges go through
 };
 
 /// The part of the bitmap, which shows `painted`, that `part` is.
-PictureData encode(const SplashBitmap& bitmap, const PageSlice& painted, const PageSlice& part) {
+BitmapPart partOf(const SplashBitmap& bitmap, const PageSlice& painted, const PageSlice& part) {
     const int left = std::max(0, part.x - painted.x), top = std::max(0, part.y - painted.y);
-    const int width = std::min(part.width, bitmap.getWidth() - left);
-    const int height = std::min(part.height, bitmap.getHeight() - top);
-    PngEncoder png(width, height, PngPixels::Rgb8);
-    for (int y = top; y < top + height; ++y)
-        png.writeRow(bitmap.getDataPtr() + static_cast<std::ptrdiff_t>(y) * bitmap.getRowSize() + 3 * left);
-    return png.finish();
-}
-
-/// What of a region can be painted, and how.
-struct Painting {
-    ::Page& page;
-    Rect visible;
-    PageSlice slice;
-};
-
-Painting paintingOf(::PDFDoc& document, int page, const Rect& region, double dotsPerInch) {
-    ::Page* source = document.getPage(page);
-    const Rect visible = source ? region.intersected(pageBox(*source)) : Rect{};
-    if (visible.isEmpty() || !(dotsPerInch > 0))
-        throw Failure(FailureCode::InvalidRequest, "nothing of the page is in the region to paint", {page, 0});
-    return {*source, visible, sliceOf(visible, scaleOf(visible, dotsPerInch))};
+    return {left, top, std::min(part.width, bitmap.getWidth() - left), std::min(part.height, bitmap.getHeight() - top)};
 }
 
 void tellOfTime(TimeBudget& budget, int page, const Rect& region, Diagnostics& diagnostics) {
@@ -180,49 +138,58 @@ void requireBitmap(SplashBitmap* bitmap) {
 } // namespace
 
 std::vector<PictureDataPtr> paintRegions(::PDFDoc& document, int page, const std::vector<Rect>& regions,
-                                         double dotsPerInch, PaintedText words, ContentRepair repair,
+                                         PaintResolution resolution, PaintedText words, ContentRepair repair,
                                          Diagnostics& diagnostics) {
     Rect all;
     for (const Rect& region : regions)
         all = all.united(region);
-    const Painting painting = paintingOf(document, page, all, dotsPerInch);
+    ::Page* const source = document.getPage(page);
+    const Rect visible = visibleOf(source, page, all, resolution);
+    const Play play = [&](::OutputDev& device, TimeBudget& budget, const PageSlice& slice) {
+        playPage(*source, document, device, budget, repair, slice);
+    };
+    const Painting painting = paintingOf(play, visible, resolution);
     SplashColor paper = {255, 255, 255};
-    RegionDevice device(paper, words, painting.slice);
+    RegionDevice device(paper, words, painting);
     device.startDoc(&document);
     TimeBudget budget(kTimeBudget);
-    playPage(painting.page, document, device, budget, repair, painting.slice);
-    tellOfTime(budget, page, painting.visible, diagnostics);
-    if (device.isCoarse())
+    play(device, budget, painting.slice);
+    tellOfTime(budget, page, visible, diagnostics);
+    if (painting.edgeRows > kSmoothRows)
         diagnostics.add(DiagnosticKind::DrawingSimplified, page,
-                        "a drawing has so many lines that they are painted coarsely", painting.visible);
+                        "a drawing has so many lines that they are painted coarsely", visible);
     requireBitmap(device.getBitmap());
+    const SplashBitmap& bitmap = *device.getBitmap();
     std::vector<PictureDataPtr> pictures;
     for (const Rect& region : regions) {
-        const Rect visible = region.intersected(painting.visible);
-        pictures.push_back(visible.isEmpty()
-                               ? nullptr
-                               : std::make_shared<const PictureData>(encode(*device.getBitmap(), painting.slice,
-                                                                            sliceOf(visible, painting.slice.scale))));
+        const Rect seen = region.intersected(visible);
+        const BitmapPart part = partOf(bitmap, painting.slice, sliceOf(seen, painting.slice.scale));
+        pictures.push_back(seen.isEmpty() ? nullptr : std::make_shared<const PictureData>(encodeBitmap(bitmap, part)));
     }
     return pictures;
 }
 
 PictureDataPtr paintAnnotation(::PDFDoc& document, int page, std::size_t annotation, const Rect& region,
-                               double dotsPerInch, PaintedText words, Diagnostics& diagnostics) {
-    const Painting painting = paintingOf(document, page, region, dotsPerInch);
+                               PaintResolution resolution, PaintedText words, Diagnostics& diagnostics) {
+    ::Page* const source = document.getPage(page);
+    const Rect visible = visibleOf(source, page, region, resolution);
+    const Play play = [&](::OutputDev& device, TimeBudget& budget, const PageSlice& slice) {
+        playAnnotation(*source, annotation, document, device, budget, slice);
+    };
+    const Painting painting = paintingOf(play, visible, resolution);
     TimeBudget budget(kTimeBudget);
     const auto paintOn = [&](unsigned char ground) {
         SplashColor paper = {ground, ground, ground};
-        RegionDevice device(paper, words, painting.slice);
+        RegionDevice device(paper, words, painting);
         device.startDoc(&document);
-        playAnnotation(painting.page, annotation, document, device, budget, painting.slice);
+        play(device, budget, painting.slice);
         std::unique_ptr<SplashBitmap> bitmap(device.takeBitmap());
         requireBitmap(bitmap.get());
         return bitmap;
     };
     const auto onBlack = paintOn(0);
     const auto onWhite = paintOn(255);
-    tellOfTime(budget, page, painting.visible, diagnostics);
+    tellOfTime(budget, page, visible, diagnostics);
     return std::make_shared<const PictureData>(transparentPicture(*onBlack, *onWhite));
 }
 

@@ -17,8 +17,9 @@
 namespace orvane::worker {
 namespace {
 
-// Dots per inch: sharp on paper, and a drawing as large as a page stays below a megabyte.
-constexpr double kResolution = 200;
+// Dots per inch: sharp on paper, and where thousands of lines cross.
+constexpr double kResolution = 300;
+constexpr double kDenseResolution = 100;
 
 // A drawing as large as a poster is painted coarser, so that one figure does not take hundreds of megabytes.
 constexpr double kMaxPixels = 16e6;
@@ -26,6 +27,10 @@ constexpr double kMaxPixels = 16e6;
 double resolutionFor(const Rect& box) {
     const double pixels = box.area() / (72 * 72) * kResolution * kResolution;
     return pixels <= kMaxPixels ? kResolution : kResolution * std::sqrt(kMaxPixels / pixels);
+}
+
+pdf::PaintResolution withDense(double resolution) {
+    return {resolution, std::min(resolution, kDenseResolution)};
 }
 
 // So many parts of a page, or parts over each other, are painted in one go through its content, which may be long:
@@ -86,7 +91,7 @@ private:
         }
         attempt(all, [&] {
             const auto painted =
-                m_document.renderRegions(m_page, boxes, resolution, batch.front()->words, m_diagnostics);
+                m_document.renderRegions(m_page, boxes, withDense(resolution), batch.front()->words, m_diagnostics);
             for (std::size_t i = 0; i < batch.size(); ++i)
                 batch[i]->painted = painted[i];
         });
@@ -103,7 +108,7 @@ private:
     }
 
     void paintOne(Wanted& wanted) {
-        const double resolution = resolutionFor(wanted.box);
+        const pdf::PaintResolution resolution = withDense(resolutionFor(wanted.box));
         attempt(wanted.box, [&] {
             wanted.painted = wanted.annotation
                                  ? m_document.renderAnnotation(m_page, *wanted.annotation, wanted.box, resolution,

@@ -71,8 +71,8 @@ bool weighGutter(ColumnGutter& gutter, std::span<const GutterPiece> pieces, doub
     const bool isNarrow = gutter.right - gutter.left < parameters.wideGutter * fontSize;
     const int least = isNarrow ? parameters.minimumRowsNarrow : parameters.minimumRows;
     if (gutter.rows < least || gutter.bottom <= gutter.top || !left.isWide(fontSize, parameters) ||
-        !right.isWide(fontSize, parameters) || areLabels(texts) || areRowsApart(texts, parameters) ||
-        areNamesInMargin(texts, left.extent, right.extent, parameters))
+        !right.isWide(fontSize, parameters) || areLabels(texts) || areComments(texts) ||
+        areRowsApart(texts, parameters) || areNamesInMargin(texts, left.extent, right.extent, parameters))
         return false;
     const bool areColumns =
         (left.isFilled(parameters) && right.isFilled(parameters)) || areLists(gutter, texts, fontSize, parameters);

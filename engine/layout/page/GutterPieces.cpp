@@ -10,6 +10,11 @@ bool endsWithColon(const Word& word) {
     return text.ends_with(':') || text.ends_with("\xEF\xBC\x9A"); // the full-width one
 }
 
+bool startsComment(const Word& word) {
+    const std::string& text = word.spans.front().text;
+    return text.starts_with("//") || text.starts_with("/*") || text == "#" || text == "--";
+}
+
 } // namespace
 
 std::vector<GutterPiece> cutAtGutterGaps(std::span<const Line> lines, std::span<const Rect> walls, double narrowest) {
@@ -25,7 +30,10 @@ std::vector<GutterPiece> cutAtGutterGaps(std::span<const Line> lines, std::span<
         for (const Word* word : words) {
             const bool isLedTo = word->leaderBefore != document::TabLeader::None;
             if (pieces.size() == firstOfLine || (!isLedTo && word->box.left - pieces.back().box.right >= narrowest))
-                pieces.push_back({word->box, line.baseline, line.fontSize});
+                pieces.push_back({.box = word->box,
+                                  .baseline = line.baseline,
+                                  .fontSize = line.fontSize,
+                                  .isComment = !word->spans.empty() && startsComment(*word)});
             else
                 pieces.back().box = pieces.back().box.united(word->box);
             pieces.back().isLabel = !word->spans.empty() && endsWithColon(*word);

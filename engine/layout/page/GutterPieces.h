@@ -13,7 +13,8 @@ struct GutterPiece {
     double baseline = 0;
     double fontSize = 0;
     bool isWall = false;
-    bool isLabel = false; ///< ends with a colon
+    bool isLabel = false;   ///< ends with a colon
+    bool isComment = false; ///< begins with the sign of a comment in a program
 };
 
 /// Cuts lines at gaps of at least `narrowest` points. A leader fills its gap. From top to bottom, the walls among them.

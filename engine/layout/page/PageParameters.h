@@ -106,7 +106,7 @@ struct PageParameters {
         double leastGap = 0.5;         ///< of the font size; between number and text
         double pageShare = 0.6;        ///< of the pages with text that must have such numbers
         double steadyShare = 0.9;      ///< of a page's numbers that must count on from the one before
-        double proseShare = 0.25;      ///< of the lines beside them that must go on in lower case: they are no list
+        double proseShare = 0.15;      ///< of the lines beside them that must go on in lower case: they are no list
         double fullWidth = 0.5;        ///< of the page's width; shorter lines do not show that they go on
     } lineNumbering;
 };

@@ -151,6 +151,12 @@ bool areLabels(const SideTexts& texts) {
     return 2 * countBeside(texts.left, texts.right, isLabel) > texts.left.size();
 }
 
+bool areComments(const SideTexts& texts) {
+    const auto comments =
+        std::count_if(texts.right.begin(), texts.right.end(), [](const GutterPiece& piece) { return piece.isComment; });
+    return 2 * static_cast<std::size_t>(comments) > texts.right.size();
+}
+
 bool areRowsApart(const SideTexts& texts, const PageParameters::Regions& parameters) {
     const auto areApart = [&](Pieces side) {
         for (std::size_t i = 0; i < side.size(); ++i)

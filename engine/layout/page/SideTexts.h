@@ -15,6 +15,10 @@ struct SideTexts {
 /// a colon.
 bool areLabels(const SideTexts& texts);
 
+/// Comments of a program are read with the statements beside them: most pieces of the right side begin with a sign of
+/// such.
+bool areComments(const SideTexts& texts);
+
 /// Rows that stand apart are read along: each text of the side with fewer has one beside it, and no side has two lines
 /// of one text.
 bool areRowsApart(const SideTexts& texts, const PageParameters::Regions& parameters);

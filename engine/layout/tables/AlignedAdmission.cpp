@@ -53,15 +53,13 @@ public:
             return TableVerdict::KeyValues;
         if (!holdsFields() && isProseInColumns())
             return TableVerdict::Prose;
-        if (m_evidence == AlignedEvidence::Alignment &&
-            (holdsFullLines() || runsThrough(m_page, m_aligned, m_parameters)))
+        if (!hasRules() && (holdsFullLines() || runsThrough(m_page, m_aligned, m_parameters)))
             return TableVerdict::Prose;
-        if (areListsSideBySide(m_columns, m_parameters) ||
-            (m_evidence == AlignedEvidence::Alignment && areOutOfStep(m_aligned.rows, m_parameters)))
+        if (areListsSideBySide(m_columns, m_parameters) || (!hasRules() && areOutOfStep(m_aligned.rows, m_parameters)))
             return TableVerdict::SideBySide;
         if (isCode() && !(m_isNamed && m_columns.size() > 2))
             return TableVerdict::Code;
-        if (m_evidence == AlignedEvidence::Alignment && holdsLargeBrackets())
+        if (!hasRules() && holdsLargeBrackets())
             return TableVerdict::Formula;
         if (m_crossingCount > m_parameters.crossingPieceShare * m_pieceCount)
             return TableVerdict::StraddlingWords;
@@ -69,17 +67,18 @@ public:
             return TableVerdict::Empty;
         if (isRagged())
             return TableVerdict::Ragged;
-        if (m_evidence == AlignedEvidence::Alignment && m_columns.size() == 2 && !hasStrongColumn() && !showsRows() &&
-            !holdsFields() && !m_isNamed && !hasBoldHead(m_aligned.rows, m_columns.size(), lines(), m_parameters))
+        if (!hasRules() && m_columns.size() == 2 && !hasStrongColumn() && !showsRows() && !holdsFields() &&
+            !m_isNamed && !hasBoldHead(m_aligned.rows, m_columns.size(), lines(), m_parameters))
             return TableVerdict::TooSmall;
         return TableVerdict::Table;
     }
 
 private:
     const std::vector<Line>& lines() const { return m_page.lines; }
+    bool hasRules() const { return m_evidence != AlignedEvidence::Alignment; }
 
     bool isTooSmall() const {
-        const std::size_t least = m_aligned.areSpaced ? 1 : m_evidence == AlignedEvidence::Rules ? 2 : 3;
+        const std::size_t least = m_aligned.areSpaced ? 1 : hasRules() ? 2 : 3;
         return m_columns.size() < 2 || m_aligned.groups.size() < least;
     }
 
@@ -109,7 +108,7 @@ private:
     /// Whether most rows begin some column with a bullet, or a column beside others numbers its items: a list in
     /// columns.
     bool isListInColumns() const {
-        if (m_evidence != AlignedEvidence::Alignment)
+        if (hasRules())
             return false;
         return hasLabelsWithin() ||
                shareOfRows([&](const PieceRow& row) {
@@ -120,7 +119,7 @@ private:
 
     /// Whether most rows are a label or bullet and the text of its item. Those of several levels stand in columns.
     bool isListOfLevels() const {
-        if (m_evidence != AlignedEvidence::Alignment)
+        if (hasRules())
             return false;
         const auto isItem = [&](const PieceRow& row) {
             return row.pieces.size() <= 2 && isItemLabel(firstWordOf(row.pieces.front()));
@@ -134,7 +133,7 @@ private:
 
     /// Whether the columns hold an index. One head over all of them, or rules, make a table of it.
     bool isIndex() const {
-        if (m_evidence == AlignedEvidence::Rules)
+        if (hasRules())
             return false;
         std::vector<std::string> heads;
         for (const TextPiece& piece : m_aligned.rows.front().pieces)
@@ -180,17 +179,13 @@ private:
     /// Keys that end in colons, or stand before a column of colons, equals signs or arrows; behind their values may
     /// stand a few other texts.
     bool isKeyValues() const {
-        if (m_evidence == AlignedEvidence::Rules || showsRows())
+        if (hasRules() || showsRows())
             return false;
         if (m_columns.size() >= 3 && m_columns[1].share([&](const TextPiece* piece) {
                 return isJoiningSign(textOf(*piece, lines()));
             }) > m_parameters.keyShare)
             return true;
-        const bool areOthersFew = std::all_of(m_columns.begin() + 2, m_columns.end(), [&](const ColumnPieces& column) {
-            return static_cast<double>(column.pieces.size()) <
-                   m_parameters.filledRowShare * static_cast<double>(m_columns[1].pieces.size());
-        });
-        return areOthersFew && labels().share([&](const TextPiece* piece) {
+        return areOthersFew(m_columns, m_parameters) && labels().share([&](const TextPiece* piece) {
             return textOf(*piece, lines()).ends_with(':');
         }) > m_parameters.keyShare;
     }
@@ -214,7 +209,7 @@ private:
             return isProse(column, m_parameters) &&
                    (m_columns.size() == 2 || !holdsEntries(column, lines(), m_parameters));
         });
-        if (count >= 2 || (count == 1 && m_columns.size() == 2 && m_evidence == AlignedEvidence::Alignment))
+        if (count >= 2 || (count == 1 && m_columns.size() == 2 && !hasRules()))
             return true;
         return std::all_of(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
             return column.wordsPerPiece() > m_parameters.narrowProseWords && isFull(column, m_parameters);
@@ -223,7 +218,7 @@ private:
 
     bool isCode() const {
         return areLinesCounted(m_aligned, lines(), m_parameters) ||
-               (m_evidence == AlignedEvidence::Alignment && areTyped(m_page, m_aligned, m_columns, m_parameters));
+               (m_evidence != AlignedEvidence::Rules && areTyped(m_page, m_aligned, m_columns, m_parameters));
     }
 
     /// Whether parts of brackets higher than a line stand below each other: a formula.
@@ -248,8 +243,7 @@ private:
     }
 
     bool isRagged() const {
-        const double least =
-            m_evidence == AlignedEvidence::Rules ? m_parameters.keptEdgeShareRuled : m_parameters.keptEdgeShare;
+        const double least = hasRules() ? m_parameters.keptEdgeShareRuled : m_parameters.keptEdgeShare;
         const auto ragged = std::count_if(m_columns.begin(), m_columns.end(), [&](const ColumnPieces& column) {
             return column.pieces.empty() || keptShare(column, lines(), m_parameters) < least;
         });

@@ -10,6 +10,7 @@ namespace orvane::layout {
 /// What speaks for a table beside its words' columns.
 enum class AlignedEvidence {
     Rules,     ///< rules above, below and between its rows
+    Frame,     ///< rules above and below, none between its rows
     Alignment, ///< nothing
 };
 

@@ -106,7 +106,7 @@ bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const 
         });
     };
     const auto isTyped = [&](const TextPiece* piece) { return isInTypewriter(*piece, page); };
-    const bool areBothTyped = columns.size() == 2 && columns[1].share(isTyped) > parameters.codeShare;
+    const bool areBothTyped = areOthersFew(columns, parameters) && columns[1].share(isTyped) > parameters.codeShare;
     return areTypedLinesCounted(page, columns, parameters) || arePrinted(page, aligned, columns, parameters) ||
            (shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
             (areBothTyped || shareOfRows(aligned, hasSigns) > parameters.codeShare));

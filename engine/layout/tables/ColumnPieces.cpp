@@ -40,6 +40,12 @@ double ColumnPieces::wordsPerPiece() const {
     return pieces.empty() ? 0 : words / static_cast<double>(pieces.size());
 }
 
+bool areOthersFew(std::span<const ColumnPieces> columns, const TableParameters::Tables& parameters) {
+    const double fewest = parameters.filledRowShare * static_cast<double>(columns[1].pieces.size());
+    return std::all_of(columns.begin() + 2, columns.end(),
+                       [&](const ColumnPieces& column) { return static_cast<double>(column.pieces.size()) < fewest; });
+}
+
 bool isFull(const ColumnPieces& column, const TableParameters::Tables& parameters) {
     return column.share([&](const TextPiece* piece) {
         return piece->box.width() > parameters.proseFill * (column.right - column.left);

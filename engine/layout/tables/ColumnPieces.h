@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <span>
 #include <vector>
 
 namespace orvane::layout {
@@ -29,6 +30,9 @@ struct ColumnPieces {
         return static_cast<double>(count) / static_cast<double>(pieces.size());
     }
 };
+
+/// Whether each column behind the second holds far less texts than the second does. Requires: two columns or more.
+bool areOthersFew(std::span<const ColumnPieces> columns, const TableParameters::Tables& parameters);
 
 /// Whether most of the lines are as long as the column has room for.
 bool isFull(const ColumnPieces& column, const TableParameters::Tables& parameters);

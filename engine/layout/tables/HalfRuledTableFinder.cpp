@@ -155,7 +155,8 @@ std::optional<TableGrid> gridOfRun(const PageText& page, const std::vector<Borde
         return std::nullopt;
     if (frameOf(stack, bands, run) == Frame::Headed && !isHeaded(bands, run, limits))
         return std::nullopt;
-    if (judgeAlignedTable(page, run.aligned, AlignedEvidence::Rules, limits) != TableVerdict::Table)
+    const AlignedEvidence evidence = run.end == run.first + 1 ? AlignedEvidence::Frame : AlignedEvidence::Rules;
+    if (judgeAlignedTable(page, run.aligned, evidence, limits) != TableVerdict::Table)
         return std::nullopt;
     TableGrid grid = spanHeads(gridOf(run.aligned, limits.textMargin), run.aligned, page.lines, rules, limits);
     snapToRules(grid, stack, bands, run);

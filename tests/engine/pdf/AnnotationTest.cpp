@@ -71,7 +71,7 @@ TEST(Annotations, TellWhatTheyPaintAndArePaintedAlone) {
     EXPECT_GE(content.paths[1].paintOrder, read.paintedFrom);
     EXPECT_LT(content.paths[1].paintOrder, read.paintedTo);
     const PictureDataPtr alone =
-        pdf.document().renderAnnotation(1, read.number, read.box, 72, PaintedText::Shown, pdf.diagnostics());
+        pdf.document().renderAnnotation(1, read.number, read.box, {72}, PaintedText::Shown, pdf.diagnostics());
     ASSERT_TRUE(alone);
     const Pixels pixels = readPng(alone->bytes);
     EXPECT_EQ(pixels.at(10, 10), "FF0000FF");

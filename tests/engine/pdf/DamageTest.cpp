@@ -177,7 +177,7 @@ TEST(Rendering, PaintsARegionOfThePage) {
     OpenedPdf pdf(PdfBuilder().page(page));
     // In page space the square is at 0,100 to 100,200.
     const PictureDataPtr picture =
-        pdf.document().renderRegion(1, {50, 150, 150, 250}, 144, PaintedText::Shown, pdf.diagnostics());
+        pdf.document().renderRegion(1, {50, 150, 150, 250}, {144}, PaintedText::Shown, pdf.diagnostics());
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->pixelWidth, 200);
     EXPECT_EQ(picture->pixelHeight, 200);
@@ -185,10 +185,11 @@ TEST(Rendering, PaintsARegionOfThePage) {
     EXPECT_EQ(pixels.at(20, 20), "FF0000FF");
     EXPECT_EQ(pixels.at(180, 20), "FFFFFFFF");
     EXPECT_EQ(pixels.at(20, 180), "FFFFFFFF");
-    EXPECT_THROW(pdf.document().renderRegion(1, {500, 0, 600, 10}, 72, PaintedText::Shown, pdf.diagnostics()), Failure);
-    EXPECT_THROW(pdf.document().renderRegion(7, {0, 0, 10, 10}, 72, PaintedText::Shown, pdf.diagnostics()), Failure);
+    EXPECT_THROW(pdf.document().renderRegion(1, {500, 0, 600, 10}, {72}, PaintedText::Shown, pdf.diagnostics()),
+                 Failure);
+    EXPECT_THROW(pdf.document().renderRegion(7, {0, 0, 10, 10}, {72}, PaintedText::Shown, pdf.diagnostics()), Failure);
     const PictureDataPtr huge =
-        pdf.document().renderRegion(1, {0, 0, 300, 300}, 100000, PaintedText::Shown, pdf.diagnostics());
+        pdf.document().renderRegion(1, {0, 0, 300, 300}, {100000}, PaintedText::Shown, pdf.diagnostics());
     EXPECT_LT(std::int64_t{huge->pixelWidth} * huge->pixelHeight, 70'000'000) << "the resolution gives way";
 }
 
@@ -217,8 +218,8 @@ TEST(Rendering, LeavesWordsOutWhereTheyAreSetBesides) {
                 return false;
         return true;
     };
-    EXPECT_FALSE(isRed(pdf.document().renderRegion(1, region, 72, PaintedText::Shown, pdf.diagnostics())));
-    EXPECT_TRUE(isRed(pdf.document().renderRegion(1, region, 72, PaintedText::LeftOut, pdf.diagnostics())));
+    EXPECT_FALSE(isRed(pdf.document().renderRegion(1, region, {72}, PaintedText::Shown, pdf.diagnostics())));
+    EXPECT_TRUE(isRed(pdf.document().renderRegion(1, region, {72}, PaintedText::LeftOut, pdf.diagnostics())));
 }
 
 } // namespace

@@ -5,7 +5,9 @@
 
 #include <ctime>
 #include <random>
+#include <set>
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 namespace orvane::pdf {
@@ -40,7 +42,7 @@ std::string curvesOnPage(int count) {
 
 /// The picture of a region of the first page at 200 dots an inch.
 Pixels paint(OpenedPdf& pdf, const Rect& region) {
-    return readPng(pdf.document().renderRegion(1, region, 200, PaintedText::Shown, pdf.diagnostics())->bytes);
+    return readPng(pdf.document().renderRegion(1, region, {200}, PaintedText::Shown, pdf.diagnostics())->bytes);
 }
 
 /// Whether the picture has pixels between black and white.
@@ -51,18 +53,23 @@ bool isSmooth(const Pixels& pixels) {
     return false;
 }
 
+/// Source: PNG specification, third edition, 11.2.1.
+bool hasPalette(const PictureData& png) {
+    return static_cast<int>(png.bytes[25]) == 3;
+}
+
 TEST(Rendering, PaintsManyRegionsInOneGo) {
     OpenedPdf pdf(PdfBuilder().page("1 0 0 rg 50 700 60 40 re f 0 0 1 rg 320.2 90.3 60.1 70.3 re f"));
     const std::vector<Rect> regions{{40, 40, 120, 150}, {700, 0, 800, 10}, {300, 590.3, 410.7, 760}, {600, 0, 630, 20}};
-    const auto painted = pdf.document().renderRegions(1, regions, 144, PaintedText::Shown, pdf.diagnostics());
+    const auto painted = pdf.document().renderRegions(1, regions, {144}, PaintedText::Shown, pdf.diagnostics());
     ASSERT_EQ(painted.size(), regions.size());
     EXPECT_FALSE(painted[1]) << "beyond the page";
     for (const std::size_t i : {0, 2, 3}) {
         ASSERT_TRUE(painted[i]);
-        const auto alone = pdf.document().renderRegion(1, regions[i], 144, PaintedText::Shown, pdf.diagnostics());
+        const auto alone = pdf.document().renderRegion(1, regions[i], {144}, PaintedText::Shown, pdf.diagnostics());
         EXPECT_EQ(painted[i]->bytes, alone->bytes) << i;
     }
-    EXPECT_THROW(pdf.document().renderRegions(1, {{700, 0, 800, 10}}, 144, PaintedText::Shown, pdf.diagnostics()),
+    EXPECT_THROW(pdf.document().renderRegions(1, {{700, 0, 800, 10}}, {144}, PaintedText::Shown, pdf.diagnostics()),
                  Failure);
 }
 
@@ -72,6 +79,47 @@ TEST(Rendering, TakesLittleTimeForAPageThatThousandsOfLinesCross) {
     EXPECT_EQ(paint(pdf, {0, 0, 612, 792}).at(850, 1100), "000000FF");
     EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 4);
     EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 1);
+}
+
+TEST(Rendering, PaintsWhatThousandsOfLinesCrossCoarser) {
+    for (const auto& [lines, isUsual] : {std::pair{1500, true}, std::pair{5500, false}}) {
+        OpenedPdf pdf(PdfBuilder().page(linesWithin({20, 20, 590, 770}, lines) + "1 0 0 rg 0 0 612 10 re f"));
+        const auto painted =
+            pdf.document().renderRegion(1, {0, 0, 612, 792}, {300, 200}, PaintedText::Shown, pdf.diagnostics());
+        const Pixels pixels = readPng(painted->bytes);
+        EXPECT_EQ(pixels.width, isUsual ? 2550 : 1700) << lines;
+        EXPECT_EQ(pixels.at(pixels.width / 2, pixels.height - 5), "FF0000FF");
+        EXPECT_EQ(isSmooth(pixels), isUsual);
+    }
+}
+
+TEST(Rendering, PaintsManyLinesAsFineAsTheyAreSmooth) {
+    OpenedPdf pdf(PdfBuilder().page(linesWithin({20, 20, 590, 770}, 3500)));
+    const auto painted =
+        pdf.document().renderRegion(1, {0, 0, 612, 792}, {300, 100}, PaintedText::Shown, pdf.diagnostics());
+    EXPECT_GT(painted->pixelWidth, 900);
+    EXPECT_LT(painted->pixelWidth, 2500);
+    EXPECT_TRUE(isSmooth(readPng(painted->bytes)));
+    EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 0);
+}
+
+TEST(Rendering, KeepsEveryColorWhetherAPaletteHoldsThemOrNot) {
+    for (const int count : {256, 257, 600}) {
+        std::string content;
+        for (int i = 1; i < count; ++i) // white is one
+            content += fmt::format("{} {} 0 rg {} {} 1 1 re f\n", (i % 32) / 32.0, i / 32 / 32.0, i % 32, i / 32);
+        OpenedPdf pdf(PdfBuilder().page(content));
+        const auto painted =
+            pdf.document().renderRegion(1, {0, 692, 100, 792}, {72}, PaintedText::Shown, pdf.diagnostics());
+        const Pixels pixels = readPng(painted->bytes);
+        std::set<std::string> colors;
+        for (int y = 0; y < pixels.height; ++y)
+            for (int x = 0; x < pixels.width; ++x)
+                colors.insert(pixels.at(x, y));
+        EXPECT_EQ(colors.size(), static_cast<std::size_t>(count));
+        EXPECT_EQ(pixels.at(5, 99 - 2), "281000FF");
+        EXPECT_EQ(hasPalette(*painted), count <= 256);
+    }
 }
 
 TEST(Rendering, CountsACurveAsTheManyLinesThatItIsPaintedAs) {

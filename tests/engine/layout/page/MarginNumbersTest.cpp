@@ -129,14 +129,15 @@ TEST(MarginNumbers, MayStandInBothMargins) {
     EXPECT_FALSE(takeLineNumbers(others, {})) << "what stands across counts something else";
 }
 
-/// Twenty numbers, every fifth beside a line that goes on if some do; `blank` of the others beside nothing.
-PageText pageWithBlanks(int blank, bool goesOn) {
+/// Twenty numbers, so many of them, each in a part of its own, beside a line that goes on; `blank` of the others beside
+/// nothing.
+PageText pageWithBlanks(int blank, int goingOn) {
     PageText page = makePage(1);
     for (int i = 0; i < 20; ++i) {
         const double y = 100 + 14 * i;
         page.lines.push_back(makeLine(fmt::format("{}", i + 1), i < 9 ? 55 : 50, y));
         if (i % 5 == 1)
-            page.lines.push_back(makeLine(goesOn ? kFull : kShort, 90, y));
+            page.lines.push_back(makeLine(i < 5 * goingOn ? kFull : kShort, 90, y));
         else if (i % 5 != 3 || i >= 5 * blank)
             page.lines.push_back(makeLine(kShort, 90, y));
     }
@@ -144,11 +145,13 @@ PageText pageWithBlanks(int blank, bool goesOn) {
 }
 
 TEST(MarginNumbers, CountBlankLinesAsNoListDoes) {
-    std::vector<PageText> pages{pageWithBlanks(3, true)};
+    std::vector<PageText> pages{pageWithBlanks(3, 2)};
     EXPECT_TRUE(takeLineNumbers(pages, {}));
-    pages = {pageWithBlanks(0, true)};
+    pages = {pageWithBlanks(0, 2)};
     EXPECT_FALSE(takeLineNumbers(pages, {})) << "few lines go on, and none is blank";
-    pages = {pageWithBlanks(3, false)};
+    pages = {pageWithBlanks(0, 4)};
+    EXPECT_TRUE(takeLineNumbers(pages, {})) << "no list goes on in one item of five";
+    pages = {pageWithBlanks(3, 0)};
     EXPECT_FALSE(takeLineNumbers(pages, {})) << "a form has lines to fill in";
 }
 

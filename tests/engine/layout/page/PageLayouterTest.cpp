@@ -149,6 +149,18 @@ TEST(PageLayouter, ReadsLabelsWithTheirValues) {
     EXPECT_EQ(text.find('|'), std::string::npos) << text;
 }
 
+TEST(PageLayouter, ReadsCommentsWithTheirStatements) {
+    const auto listing = [](const std::string& sign) {
+        return describe(layoutArt({"width of the box = 12 or 24    " + sign + "of the largest picture",
+                                   "height of the box = 8 or 16    " + sign + "of the smallest picture",
+                                   "between the boxes = 3 or 10    " + sign + "as the margins of the page",
+                                   "above all boxes = 4 or 12      " + sign + "as is usual in the field"}));
+    };
+    EXPECT_EQ(listing("# ").find('|'), std::string::npos) << listing("# ");
+    EXPECT_EQ(listing("//").find('|'), std::string::npos);
+    EXPECT_NE(listing("so").find('|'), std::string::npos);
+}
+
 TEST(PageLayouter, CutsLinesThatLeadAcrossAGutter) {
     PageText page = makePage(1);
     for (int i = 0; i < 8; ++i)
