@@ -1,5 +1,7 @@
 #include "layout/page/GutterPieces.h"
 
+#include "layout/text/CommentSign.h"
+
 #include <algorithm>
 
 namespace orvane::layout {
@@ -8,11 +10,6 @@ namespace {
 bool endsWithColon(const Word& word) {
     const std::string& text = word.spans.back().text;
     return text.ends_with(':') || text.ends_with("\xEF\xBC\x9A"); // the full-width one
-}
-
-bool startsComment(const Word& word) {
-    const std::string& text = word.spans.front().text;
-    return text.starts_with("//") || text.starts_with("/*") || text == "#" || text == "--";
 }
 
 } // namespace
@@ -33,7 +30,7 @@ std::vector<GutterPiece> cutAtGutterGaps(std::span<const Line> lines, std::span<
                 pieces.push_back({.box = word->box,
                                   .baseline = line.baseline,
                                   .fontSize = line.fontSize,
-                                  .isComment = !word->spans.empty() && startsComment(*word)});
+                                  .isComment = !word->spans.empty() && startsComment(word->spans.front().text)});
             else
                 pieces.back().box = pieces.back().box.united(word->box);
             pieces.back().isLabel = !word->spans.empty() && endsWithColon(*word);

@@ -1,6 +1,7 @@
 #include "layout/tables/CodeListing.h"
 
 #include "layout/tables/ItemLabels.h"
+#include "layout/text/CommentSign.h"
 #include "layout/text/LineText.h"
 
 #include <algorithm>
@@ -90,6 +91,16 @@ bool arePrinted(const PageText& page, const AlignedRows& aligned, std::span<cons
     return static_cast<double>(commas) > parameters.commaShare * static_cast<double>(texts);
 }
 
+/// Whether the typed rows begin with statements, and some column holds the comments on them.
+bool areCommented(const PageText& page, const AlignedRows& aligned, std::span<const ColumnPieces> columns,
+                  const TableParameters::Tables& parameters) {
+    const auto beginsTyped = [&](const PieceRow& row) { return isInTypewriter(row.pieces.front(), page); };
+    const auto isComment = [&](const TextPiece* piece) { return startsComment(textOf(*piece, page.lines)); };
+    return shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
+           std::any_of(columns.begin() + 1, columns.end(),
+                       [&](const ColumnPieces& column) { return column.share(isComment) > parameters.commentShare; });
+}
+
 } // namespace
 
 bool areLinesCounted(const AlignedRows& aligned, const std::vector<Line>& lines,
@@ -107,7 +118,8 @@ bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const 
     };
     const auto isTyped = [&](const TextPiece* piece) { return isInTypewriter(*piece, page); };
     const bool areBothTyped = areOthersFew(columns, parameters) && columns[1].share(isTyped) > parameters.codeShare;
-    return areTypedLinesCounted(page, columns, parameters) || arePrinted(page, aligned, columns, parameters) ||
+    return areTypedLinesCounted(page, columns, parameters) || areCommented(page, aligned, columns, parameters) ||
+           arePrinted(page, aligned, columns, parameters) ||
            (shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
             (areBothTyped || shareOfRows(aligned, hasSigns) > parameters.codeShare));
 }

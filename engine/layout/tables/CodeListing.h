@@ -14,8 +14,8 @@ bool areLinesCounted(const AlignedRows& aligned, const std::vector<Line>& lines,
                      const TableParameters::Tables& parameters);
 
 /// Whether the rows of two columns, beside which others hold little, begin in a typewriter's font, those of more hold a
-/// program's signs besides, begin with its marks or end in commas, or numbers in another font count the lines of a
-/// column in such a font.
+/// program's signs or comments besides, begin with its marks or end in commas, or numbers in another font count the
+/// lines of a column in such a font.
 bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const ColumnPieces> columns,
               const TableParameters::Tables& parameters);
 

@@ -152,6 +152,7 @@ struct TableParameters {
         double proseFullShare = 0.6;         ///< of the lines that must be full in running text
         double proseLeading = 1.8;           ///< of the font size; lines of running text stand no farther apart
         double proseWidth = 12.0;            ///< of the font size; narrower texts are no running text
+        double commentShare = 0.5;           ///< of a column's texts that begin as comments of a program do
         double codeShare = 0.7;              ///< of the rows that are set in a typewriter font: a listing
         double filledRowShare = 0.5;         ///< of the rows that must have two filled cells
         double columnEdge = 0.5;             ///< of the font size; text edges of a column that differ by less are one
