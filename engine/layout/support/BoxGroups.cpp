@@ -25,12 +25,11 @@ std::vector<std::vector<std::size_t>> BoxGroups::groups() const {
     BoxIndex index(kSlice);
     DisjointSets sets(m_boxes.size());
     for (const std::size_t i : bySize(m_boxes)) {
-        bool isWithin = false;
-        index.visit(m_boxes[i].inflated(m_gap), [&](std::size_t other) {
-            sets.unite(i, other);
-            isWithin |= m_boxes[other].contains(m_boxes[i]);
-        });
         // What comes near a box within another comes near that one, too.
+        const bool isWithin = index.anyOf(m_boxes[i].inflated(m_gap), [&](std::size_t other) {
+            sets.unite(i, other);
+            return m_boxes[other].contains(m_boxes[i]);
+        });
         if (!isWithin)
             index.add(m_boxes[i], i);
     }

@@ -31,18 +31,29 @@ public:
     /// Calls visit(name) for each box that touches `box`, once each.
     template<typename Visit>
     void visit(const Rect& box, Visit visit) const {
+        anyOf(box, [&](std::size_t name) {
+            visit(name);
+            return false;
+        });
+    }
+
+    /// Whether the predicate holds for the name of a box that touches `box`; asks for no more behind one for which it
+    /// does.
+    template<typename Predicate>
+    bool anyOf(const Rect& box, Predicate predicate) const {
         const long first = sliceOf(box.top), last = sliceOf(box.bottom);
         for (long slice = first; slice <= last; ++slice) {
             const auto found = m_slices.find(slice);
             if (found == m_slices.end())
                 continue;
             for (const auto& [other, name] : found->second)
-                if (slice == std::max(first, sliceOf(other.top)) && touches(box, other))
-                    visit(name);
+                if (slice == std::max(first, sliceOf(other.top)) && touches(box, other) && predicate(name))
+                    return true;
         }
         for (const auto& [other, name] : m_tall)
-            if (touches(box, other))
-                visit(name);
+            if (touches(box, other) && predicate(name))
+                return true;
+        return false;
     }
 
 private:
