@@ -9,9 +9,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace orvane::layout {
 namespace {
+
+/// Signs that begin what programs print and answers in a dialogue, and hardly ever two lines of one text.
+constexpr std::u32string_view kSigns = U"-\u2013\u2014#*/$%>+|@";
 
 /// A letter that goes on with no sentence.
 bool startsLabel(const Line& line) {
@@ -177,7 +181,20 @@ private:
         const LineMeasure& line = m_measures[next];
         const bool areFieldsAligned = above.field >= 0 && line.field >= 0 && above.field != line.field &&
                                       sameEdge(above.fieldStart, line.fieldStart, next);
-        return areFieldsAligned || (above.tabStart && line.tabStart && sameEdge(*above.tabStart, *line.tabStart, next));
+        return areFieldsAligned || beginWithSameSign(next) ||
+               (above.tabStart && line.tabStart && sameEdge(*above.tabStart, *line.tabStart, next));
+    }
+
+    /// Whether both lines begin with the same word, a sign and no amount: what programs print, "-rw-r--r--", or people
+    /// answer, "–".
+    bool beginWithSameSign(std::size_t next) const {
+        const Line& above = m_lines[next - 1];
+        const Line& line = m_lines[next];
+        if (line.words.size() < 2 || above.words.size() < 2 ||
+            kSigns.find(firstCharacterOf(line)) == std::u32string_view::npos)
+            return false;
+        const std::string word = textOf(line.words.front());
+        return word == textOf(above.words.front()) && word.find_first_of("0123456789") == std::string::npos;
     }
 
     bool isOtherwiseIndented(std::size_t next) const {

@@ -213,6 +213,18 @@ TEST(ParagraphBuilder, LearnsNoEdgeFromATypewritersLinesOfOneLength) {
     EXPECT_EQ(buildParagraphs(linesFromArt(art), artColumn(45), context, {}).size(), 4U);
 }
 
+TEST(ParagraphBuilder, PartsFullLinesThatBeginWithOneSign) {
+    const auto count = [](const std::string& start) {
+        return build({start + " the quick brown fox", start + " a fox that is brown", start + " and jumps so far"}, 26)
+            .size();
+    };
+    EXPECT_EQ(count("-rw-r"), 3U) << "what a program printed";
+    EXPECT_EQ(count("first"), 1U) << "the same word by chance";
+    EXPECT_EQ(count("\"first"), 1U) << "a quotation may begin anywhere";
+    EXPECT_EQ(count("$2000"), 1U) << "so may an amount";
+    EXPECT_EQ(build({"-rw-r the quick brown fox", "-rrwr a fox that is brown"}, 26).size(), 1U);
+}
+
 TEST(ParagraphBuilder, GoesOnInAListItemUntilItsSentenceEnds) {
     const auto paragraphs = build({"\u2022 A text box ends before its", "  column does, so that items",
                                    "  look short here.", "\u2022 Another one"},
