@@ -26,12 +26,14 @@ constexpr double kMaxPixels = 64e6;
 constexpr double kThinnestLine =
     0.35; ///< points; screens draw no line thinner, and a picture is shown smaller than it is
 constexpr std::chrono::seconds kTimeBudget{30};
+constexpr std::chrono::seconds kCountBudget{5};
 
 // Rows of pixels that edges go through. A page that so many lines cross is covered several times over; a million takes
 // a tenth of a second, one without smooth edges a quarter of that, hairlines far less.
-constexpr double kSmoothRows = 6e6; ///< edges of more are not smooth
-constexpr double kWideRows = 10e6;  ///< thin lines of more are hairlines
-constexpr double kThinLine = 1;     ///< points
+constexpr double kSmoothRows = 6e6;  ///< edges of more are not smooth
+constexpr double kAimedRows = 5.9e6; ///< to which the resolution is lowered
+constexpr double kWideRows = 10e6;   ///< thin lines of more are hairlines
+constexpr double kThinLine = 1;      ///< points
 
 /// Plays what is to be painted on a device, as far as the slice shows it.
 using Play = std::function<void(::OutputDev&, TimeBudget&, const PageSlice&)>;
@@ -39,7 +41,7 @@ using Play = std::function<void(::OutputDev&, TimeBudget&, const PageSlice&)>;
 /// Rows of pixels that edges in a region (page space) go through at one pixel a point.
 double edgeRowsOf(const Play& play, const Rect& region) {
     EdgeCounter counter(region);
-    TimeBudget budget(kTimeBudget);
+    TimeBudget budget(kCountBudget);
     play(counter, budget, {});
     return counter.rows();
 }
@@ -47,7 +49,7 @@ double edgeRowsOf(const Play& play, const Rect& region) {
 /// As fine as asked for, coarser where edges would not be smooth so fine, and no finer than the largest picture allows.
 /// Pixels a point.
 double scaleOf(const Rect& region, double edgeRows, PaintResolution resolution) {
-    const double smooth = edgeRows > 0 ? kSmoothRows / edgeRows * kPointsPerInch : resolution.usual;
+    const double smooth = edgeRows > 0 ? kAimedRows / edgeRows * kPointsPerInch : resolution.usual;
     const double dotsPerInch = std::clamp(smooth, resolution.ofDense, resolution.usual);
     return std::min(dotsPerInch / kPointsPerInch, std::sqrt(kMaxPixels / region.area()));
 }
