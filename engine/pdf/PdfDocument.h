@@ -80,7 +80,7 @@ enum class PaintedText : std::uint8_t { Shown, LeftOut };
 /// How fine parts of a page are painted, dots per inch.
 struct PaintResolution {
     double usual = 0;
-    double ofDense = usual; ///< down to this where so many lines cross the parts that edges would not be smooth
+    double ofDense = usual; ///< down to this where lines or areas over each other are too many for smooth edges
 };
 
 /// An open PDF.

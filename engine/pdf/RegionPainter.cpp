@@ -2,8 +2,8 @@
 
 #include "base/Failure.h"
 #include "pdf/BitmapEncoder.h"
-#include "pdf/EdgeCounter.h"
 #include "pdf/PageSpace.h"
+#include "pdf/PathMeter.h"
 #include "pdf/TransparentPicture.h"
 
 #include <algorithm>
@@ -23,6 +23,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72.0;
 constexpr double kMaxPixels = 64e6;
+constexpr double kCoarser = 0.95; ///< step by which the resolution is lowered
 constexpr double kThinnestLine =
     0.35; ///< points; screens draw no line thinner, and a picture is shown smaller than it is
 constexpr std::chrono::seconds kTimeBudget{30};
@@ -30,28 +31,38 @@ constexpr std::chrono::seconds kCountBudget{5};
 
 // Rows of pixels that edges go through. A page that so many lines cross is covered several times over; a million takes
 // a tenth of a second, one without smooth edges a quarter of that, hairlines far less.
-constexpr double kSmoothRows = 6e6;  ///< edges of more are not smooth
-constexpr double kAimedRows = 5.9e6; ///< to which the resolution is lowered
-constexpr double kWideRows = 10e6;   ///< thin lines of more are hairlines
-constexpr double kThinLine = 1;      ///< points
+constexpr double kSmoothRows = 6e6; ///< edges of more are not smooth
+constexpr double kWideRows = 10e6;  ///< thin lines of more are hairlines
+constexpr double kThinLine = 1;     ///< points
+constexpr double kPixelsOfRow = 12; ///< of a filled area, that take the time of a row
 
 /// Plays what is to be painted on a device, as far as the slice shows it.
 using Play = std::function<void(::OutputDev&, TimeBudget&, const PageSlice&)>;
 
-/// Rows of pixels that edges in a region (page space) go through at one pixel a point.
-double edgeRowsOf(const Play& play, const Rect& region) {
-    EdgeCounter counter(region);
+/// What takes time to paint.
+struct Load {
+    double rows = 0; ///< that edges go through, at one pixel a point
+    double area = 0; ///< of what is filled, square points
+
+    /// Rows whose painting takes as long, at so many pixels a point.
+    double at(double scale) const { return rows * scale + area * scale * scale / kPixelsOfRow; }
+};
+
+/// Of what is in a region, page space.
+Load loadOf(const Play& play, const Rect& region) {
+    PathMeter meter(region);
     TimeBudget budget(kCountBudget);
-    play(counter, budget, {});
-    return counter.rows();
+    play(meter, budget, {});
+    return {meter.rows(), meter.area()};
 }
 
-/// As fine as asked for, coarser where edges would not be smooth so fine, and no finer than the largest picture allows.
-/// Pixels a point.
-double scaleOf(const Rect& region, double edgeRows, PaintResolution resolution) {
-    const double smooth = edgeRows > 0 ? kAimedRows / edgeRows * kPointsPerInch : resolution.usual;
-    const double dotsPerInch = std::clamp(smooth, resolution.ofDense, resolution.usual);
-    return std::min(dotsPerInch / kPointsPerInch, std::sqrt(kMaxPixels / region.area()));
+/// As fine as asked for, coarser where that takes too long for smooth edges, and no finer than the largest picture
+/// allows. Pixels a point.
+double scaleOf(const Rect& region, const Load& load, PaintResolution resolution) {
+    double scale = resolution.usual / kPointsPerInch;
+    while (load.at(scale) > kSmoothRows && scale > resolution.ofDense / kPointsPerInch)
+        scale = std::max(kCoarser * scale, resolution.ofDense / kPointsPerInch);
+    return std::min(scale, std::sqrt(kMaxPixels / region.area()));
 }
 
 /// What of a region can be painted, and how.
@@ -61,9 +72,9 @@ struct Painting {
 };
 
 Painting paintingOf(const Play& play, const Rect& visible, PaintResolution resolution) {
-    const double edgeRows = edgeRowsOf(play, visible);
-    const double scale = scaleOf(visible, edgeRows, resolution);
-    return {sliceOf(visible, scale), edgeRows * scale};
+    const Load load = loadOf(play, visible);
+    const double scale = scaleOf(visible, load, resolution);
+    return {sliceOf(visible, scale), load.rows * scale};
 }
 
 /// What of a region is on the page. Errors: see paintRegions().

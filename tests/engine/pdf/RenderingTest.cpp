@@ -103,6 +103,19 @@ TEST(Rendering, PaintsManyLinesAsFineAsTheyAreSmooth) {
     EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), 0);
 }
 
+TEST(Rendering, PaintsAreasOverEachOtherCoarser) {
+    const auto width = [](int areas, const Rect& region) {
+        std::string content;
+        for (int i = 0; i < areas; ++i)
+            content += fmt::format("0 0 {} rg 10 10 m 500 {} l 580 780 l f\n", i / 100.0, 10 + i);
+        OpenedPdf pdf(PdfBuilder().page(content));
+        return pdf.document().renderRegion(1, region, {300, 100}, PaintedText::Shown, pdf.diagnostics())->pixelWidth;
+    };
+    EXPECT_EQ(width(5, {0, 0, 612, 792}), 2550);
+    EXPECT_LT(width(100, {0, 0, 612, 792}), 2000);
+    EXPECT_EQ(width(100, {0, 0, 306, 100}), 1275) << "beside them";
+}
+
 TEST(Rendering, KeepsEveryColorWhetherAPaletteHoldsThemOrNot) {
     for (const int count : {256, 257, 600}) {
         std::string content;

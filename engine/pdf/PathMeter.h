@@ -10,16 +10,17 @@ class GfxSubpath;
 
 namespace orvane::pdf {
 
-/// Adds up how many rows of pixels the edges of paths go through, about, and so how long they take to paint. Paints
-/// nothing, and looks into no letters, pictures, patterns or shadings. Play what is to be counted at one pixel a point;
-/// at a finer scale there are as many times more.
-class EdgeCounter : public OutputDev {
+/// Tells how much of paths there is to paint, about: how many rows of pixels their edges go through, and how many
+/// pixels they fill. Paints nothing, and looks into no letters, pictures, patterns or shadings. Play what is to be
+/// measured at one pixel a point.
+class PathMeter : public OutputDev {
 public:
-    /// Counts what of the edges is in `region`, page space.
-    explicit EdgeCounter(const Rect& region)
+    /// Measures what of the paths is in `region`, page space.
+    explicit PathMeter(const Rect& region)
         : m_region(region) {}
 
     double rows() const { return m_rows; }
+    double area() const { return m_area; }
 
     bool upsideDown() override { return true; }
     bool useDrawChar() override { return false; }
@@ -43,9 +44,11 @@ public:
 private:
     double rowsOf(const GfxState& state) const;
     double rowsOf(const GfxSubpath& part, const GfxState& state) const;
+    double areaOf(const GfxState& state) const;
 
     Rect m_region;
     double m_rows = 0;
+    double m_area = 0;
 };
 
 } // namespace orvane::pdf
