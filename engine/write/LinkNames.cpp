@@ -4,6 +4,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cstddef>
+
 namespace orvane::write {
 namespace {
 
@@ -15,8 +18,12 @@ bool isDigit(char32_t c) {
     return c >= '0' && c <= '9';
 }
 
+bool isLatinLetter(char32_t c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 bool isNameCharacter(char32_t c) {
-    return c >= 0x80 || isDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
+    return c >= 0x80 || isDigit(c) || isLatinLetter(c) || c == '_';
 }
 
 bool isHexDigit(char c) {
@@ -25,12 +32,67 @@ bool isHexDigit(char c) {
 
 bool isAddressCharacter(char c) {
     constexpr std::string_view kOthers = "-._~:/?#[]@!$&'()*+,;=%";
-    return isDigit(static_cast<unsigned char>(c)) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+    return isDigit(static_cast<unsigned char>(c)) || isLatinLetter(static_cast<unsigned char>(c)) ||
            kOthers.find(c) != std::string_view::npos;
 }
 
 bool isEscapeAt(std::string_view uri, std::size_t i) {
     return i + 2 < uri.size() && isHexDigit(uri[i + 1]) && isHexDigit(uri[i + 2]);
+}
+
+/// The text with `sign` written as %XX.
+std::string escaped(std::string_view text, char sign) {
+    std::string result;
+    for (const char c : text)
+        result += c == sign ? fmt::format("%{:02X}", static_cast<unsigned char>(c)) : std::string(1, c);
+    return result;
+}
+
+std::string withoutBrackets(std::string_view text) {
+    return escaped(escaped(text, '['), ']');
+}
+
+bool isSchemeCharacter(char c) {
+    const auto code = static_cast<unsigned char>(c);
+    return isLatinLetter(code) || isDigit(code) || c == '+' || c == '-' || c == '.';
+}
+
+/// Where the scheme and its colon end; 0 without one.
+std::size_t endOfScheme(std::string_view uri) {
+    const auto end = std::find_if_not(uri.begin(), uri.end(), isSchemeCharacter);
+    const bool isScheme = end != uri.end() && *end == ':' && isLatinLetter(static_cast<unsigned char>(uri.front()));
+    return isScheme ? static_cast<std::size_t>(end - uri.begin()) + 1 : 0;
+}
+
+/// The host with the number of its port, if it has one: no other colon may stand there, and brackets only around the
+/// numbers of a host.
+std::string hostAddress(std::string_view host) {
+    const std::size_t colon = host.find_last_of(':');
+    const std::string_view port = colon == std::string_view::npos ? std::string_view() : host.substr(colon + 1);
+    const bool hasPort = colon != std::string_view::npos && port.find_first_not_of("0123456789") == port.npos;
+    const std::string_view name = hasPort ? host.substr(0, colon) : host;
+    const bool isNumbers = name.size() > 2 && name.front() == '[' && name.back() == ']' &&
+                           name.substr(1, name.size() - 2).find_first_not_of("0123456789abcdefABCDEF:.") == name.npos;
+    return (isNumbers ? std::string(name) : withoutBrackets(escaped(name, ':'))) +
+           std::string(host.substr(name.size()));
+}
+
+/// The address with colons and brackets escaped where none may stand.
+std::string withPartsEscaped(std::string_view uri) {
+    const std::size_t scheme = endOfScheme(uri);
+    std::string address(uri.substr(0, scheme));
+    std::string_view rest = uri.substr(scheme);
+    if (rest.starts_with("//")) {
+        const std::string_view authority = rest.substr(2, rest.find_first_of("/?#", 2) - 2);
+        const std::size_t host = authority.find_last_of('@') + 1; // 0 without a user
+        address += "//" + withoutBrackets(authority.substr(0, host)) + hostAddress(authority.substr(host));
+        rest.remove_prefix(2 + authority.size());
+    } else if (scheme == 0) {
+        const std::string_view segment = rest.substr(0, rest.find_first_of("/?#"));
+        address += escaped(withoutBrackets(segment), ':');
+        rest.remove_prefix(segment.size());
+    }
+    return address + withoutBrackets(rest);
 }
 
 } // namespace
@@ -59,6 +121,7 @@ std::string linkAddress(std::string_view uri) {
         else
             address += fmt::format("%{:02X}", static_cast<unsigned char>(c));
     }
+    address = withPartsEscaped(address);
     return address.size() <= kLongestAddress ? address : std::string();
 }
 

@@ -50,6 +50,15 @@ TEST(InlineXml, EscapesWhatAnAddressMayNotHold) {
         {"https://a.example/100%", "https://a.example/100%25"},
         {"https://a.example/\"<>\\", "https://a.example/%22%3C%3E%5C"},
         {"https://a.example/?q=1&r=2", "https://a.example/?q=1&r=2"},
+        {"https://u:p@a.example:80/b:c", "https://u:p@a.example:80/b:c"},
+        {"https://a.example:/", "https://a.example:/"},
+        {"https://a:b.example/", "https://a%3Ab.example/"},
+        {"https://[::1]:80/[b]?c[]=[d]", "https://[::1]:80/%5Bb%5D?c%5B%5D=%5Bd%5D"},
+        {"https://[a:z]/", "https://%5Ba%3Az%5D/"},
+        {"mailto:a@b.example?subject=[c]:d", "mailto:a@b.example?subject=%5Bc%5D:d"},
+        {"c:report.pdf", "c:report.pdf"},
+        {"1:report.pdf", "1%3Areport.pdf"},
+        {"a b:c/d:e", "a%20b%3Ac/d:e"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(targetsOf(WrittenDocument(documentOf(paragraph({link(row.uri, "", "a")})))),
