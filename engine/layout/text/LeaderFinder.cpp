@@ -100,11 +100,15 @@ bool isBlankOfItem(const std::vector<Cluster>& clusters, const Run& run, const T
 }
 
 /// Whether the run begins its row with no page behind it, or is of strokes that stand apart from the text before: a
-/// blank to fill in, with what it is for behind it.
+/// blank to fill in, with what it is for behind it. Dots that touch a word were set with a tabulator.
 bool beginsText(const std::vector<Cluster>& clusters, const Run& run, const TextParameters::Leaders& limits) {
     const Cluster& first = clusters[run.first];
-    if (run.first == 0)
-        return !isDigit(clusters[run.last].text.front());
+    const Cluster& behind = clusters[run.last];
+    if (run.first == 0) {
+        const char32_t next = behind.text.front();
+        const bool touchesWord = isLetter(next) && !behind.gapBefore.hasBlank;
+        return !isDigit(next) && (leaderOf(first) != TabLeader::Dots || !touchesWord);
+    }
     return leaderOf(first) == TabLeader::Underscore &&
            first.start - clusters[run.first - 1].end > limits.nextColumn * first.size;
 }

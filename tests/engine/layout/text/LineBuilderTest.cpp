@@ -228,6 +228,13 @@ TEST(LineBuilder, KeepsBlanksToFillInBeforeWhatTheyAreFor) {
                 ElementsAre("____________ (date)", "................. (place)", "Name:\t____________ Section:"));
 }
 
+TEST(LineBuilder, LeadsFromAnEmptyLabelToTheHeadThatTheDotsTouch) {
+    PageContentBuilder page;
+    page.text(72, 100, ".................Actual", 10);
+    page.text(72, 114, ".................,", 10);
+    EXPECT_THAT(linesOf(page), ElementsAre("Actual", ".................,"));
+}
+
 TEST(LineBuilder, LeadsFromABrokenTitleToItsPage) {
     PageContentBuilder page;
     page.text(72, 100, "................................. 57", 10);
