@@ -39,7 +39,7 @@ class Palette {
 public:
     std::size_t indexOf(const std::uint8_t* rgb) {
         const std::uint32_t key = rgb[0] | std::uint32_t{rgb[1]} << 8 | std::uint32_t{rgb[2]} << 16;
-        if (key == m_last && !m_entries.empty())
+        if (key == m_last)
             return m_lastIndex;
         const auto [entry, isNew] = m_indices.try_emplace(key, m_entries.size());
         if (isNew)
@@ -53,7 +53,7 @@ public:
 private:
     std::unordered_map<std::uint32_t, std::size_t> m_indices; ///< by colour
     std::vector<PngPaletteEntry> m_entries;
-    std::uint32_t m_last = 0; ///< pixels of one colour come one after the other
+    std::uint32_t m_last = 0xFFFFFFFF; ///< no colour; pixels of one colour come one after the other
     std::size_t m_lastIndex = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pdf/BlindDevice.h"
 #include "pdf/OpacityChannel.h"
 #include "pdf/PagePictures.h"
 #include "pdf/PagePlayer.h"
@@ -10,7 +11,6 @@
 
 #include <GfxState.h>
 #include <Object.h>
-#include <OutputDev.h>
 
 namespace orvane::pdf {
 
@@ -36,7 +36,7 @@ struct CollectedPicture {
 };
 
 /// The output device that writes down which pictures a page paints. Text, paths and shadings are passed over.
-class PictureCollector : public ::OutputDev {
+class PictureCollector : public BlindDevice {
 public:
     PictureCollector(::PDFDoc& document, TimeBudget& budget)
         : m_document(document)
@@ -48,16 +48,7 @@ public:
     /// Inline pictures that were left out since they are beyond limits.
     int oversizedInlines() const { return m_oversizedInlines; }
 
-    bool upsideDown() override { return true; }
     bool useDrawChar() override { return true; }
-    bool interpretType3Chars() override { return false; }
-    bool useTilingPatternFill() override { return true; }
-    bool useShadedFills(int) override { return true; }
-    bool functionShadedFill(GfxState*, GfxFunctionShading*) override { return true; }
-    bool axialShadedFill(GfxState*, GfxAxialShading*, double, double) override { return true; }
-    bool radialShadedFill(GfxState*, GfxRadialShading*, double, double) override { return true; }
-    bool gouraudTriangleShadedFill(GfxState*, GfxGouraudTriangleShading*) override { return true; }
-    bool patchMeshShadedFill(GfxState*, GfxPatchMeshShading*) override { return true; }
     bool tilingPatternFill(GfxState* state, Gfx* gfx, Catalog* catalog, GfxTilingPattern* pattern, const double* matrix,
                            int x0, int y0, int x1, int y1, double xStep, double yStep) override;
 

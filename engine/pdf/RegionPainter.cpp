@@ -27,7 +27,7 @@ constexpr double kCoarser = 0.95; ///< step by which the resolution is lowered
 constexpr double kThinnestLine =
     0.35; ///< points; screens draw no line thinner, and a picture is shown smaller than it is
 constexpr std::chrono::seconds kTimeBudget{30};
-constexpr std::chrono::seconds kCountBudget{5};
+constexpr std::chrono::seconds kMeasureBudget{5};
 
 // Rows of pixels that edges go through. A page that so many lines cross is covered several times over; a million takes
 // a tenth of a second, one without smooth edges a quarter of that, hairlines far less.
@@ -51,7 +51,7 @@ struct Load {
 /// Of what is in a region, page space.
 Load loadOf(const Play& play, const Rect& region) {
     PathMeter meter(region);
-    TimeBudget budget(kCountBudget);
+    TimeBudget budget(kMeasureBudget);
     play(meter, budget, {});
     return {meter.rows(), meter.area()};
 }
@@ -137,10 +137,14 @@ BitmapPart partOf(const SplashBitmap& bitmap, const PageSlice& painted, const Pa
     return {left, top, std::min(part.width, bitmap.getWidth() - left), std::min(part.height, bitmap.getHeight() - top)};
 }
 
-void tellOfTime(TimeBudget& budget, int page, const Rect& region, Diagnostics& diagnostics) {
+void tellOfLosses(TimeBudget& budget, const Painting& painting, int page, const Rect& region,
+                  Diagnostics& diagnostics) {
     if (budget.isSpent())
         diagnostics.add(DiagnosticKind::TimeBudgetExceeded, page,
                         "a part of the page takes too long to paint; the rest of it is left out", region);
+    if (painting.edgeRows > kSmoothRows)
+        diagnostics.add(DiagnosticKind::DrawingSimplified, page,
+                        "a drawing has so many lines that they are painted coarsely", region);
 }
 
 void requireBitmap(SplashBitmap* bitmap) {
@@ -167,10 +171,7 @@ std::vector<PictureDataPtr> paintRegions(::PDFDoc& document, int page, const std
     device.startDoc(&document);
     TimeBudget budget(kTimeBudget);
     play(device, budget, painting.slice);
-    tellOfTime(budget, page, visible, diagnostics);
-    if (painting.edgeRows > kSmoothRows)
-        diagnostics.add(DiagnosticKind::DrawingSimplified, page,
-                        "a drawing has so many lines that they are painted coarsely", visible);
+    tellOfLosses(budget, painting, page, visible, diagnostics);
     requireBitmap(device.getBitmap());
     const SplashBitmap& bitmap = *device.getBitmap();
     std::vector<PictureDataPtr> pictures;
@@ -202,7 +203,7 @@ PictureDataPtr paintAnnotation(::PDFDoc& document, int page, std::size_t annotat
     };
     const auto onBlack = paintOn(0);
     const auto onWhite = paintOn(255);
-    tellOfTime(budget, page, visible, diagnostics);
+    tellOfLosses(budget, painting, page, visible, diagnostics);
     return std::make_shared<const PictureData>(transparentPicture(*onBlack, *onWhite));
 }
 

@@ -17,7 +17,7 @@
 namespace orvane::worker {
 namespace {
 
-// Dots per inch: sharp on paper, and where thousands of lines cross.
+// Dots per inch: sharp on paper, and the least for a drawing of so much that it takes long to paint.
 constexpr double kResolution = 300;
 constexpr double kDenseResolution = 100;
 

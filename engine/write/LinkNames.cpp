@@ -40,16 +40,19 @@ bool isEscapeAt(std::string_view uri, std::size_t i) {
     return i + 2 < uri.size() && isHexDigit(uri[i + 1]) && isHexDigit(uri[i + 2]);
 }
 
-/// The text with `sign` written as %XX.
-std::string escaped(std::string_view text, char sign) {
-    std::string result;
-    for (const char c : text)
-        result += c == sign ? fmt::format("%{:02X}", static_cast<unsigned char>(c)) : std::string(1, c);
-    return result;
+std::string escapeOf(char c) {
+    return fmt::format("%{:02X}", static_cast<unsigned char>(c));
 }
 
-std::string withoutBrackets(std::string_view text) {
-    return escaped(escaped(text, '['), ']');
+constexpr std::string_view kBrackets = "[]";
+constexpr std::string_view kBracketsAndColon = "[]:";
+
+/// The text with these signs written as %XX.
+std::string escaped(std::string_view text, std::string_view signs) {
+    std::string result;
+    for (const char c : text)
+        result += signs.find(c) != signs.npos ? escapeOf(c) : std::string(1, c);
+    return result;
 }
 
 bool isSchemeCharacter(char c) {
@@ -73,8 +76,7 @@ std::string hostAddress(std::string_view host) {
     const std::string_view name = hasPort ? host.substr(0, colon) : host;
     const bool isNumbers = name.size() > 2 && name.front() == '[' && name.back() == ']' &&
                            name.substr(1, name.size() - 2).find_first_not_of("0123456789abcdefABCDEF:.") == name.npos;
-    return (isNumbers ? std::string(name) : withoutBrackets(escaped(name, ':'))) +
-           std::string(host.substr(name.size()));
+    return (isNumbers ? std::string(name) : escaped(name, kBracketsAndColon)) + std::string(host.substr(name.size()));
 }
 
 /// The address with colons and brackets escaped where none may stand.
@@ -85,14 +87,14 @@ std::string withPartsEscaped(std::string_view uri) {
     if (rest.starts_with("//")) {
         const std::string_view authority = rest.substr(2, rest.find_first_of("/?#", 2) - 2);
         const std::size_t host = authority.find_last_of('@') + 1; // 0 without a user
-        address += "//" + withoutBrackets(authority.substr(0, host)) + hostAddress(authority.substr(host));
+        address += "//" + escaped(authority.substr(0, host), kBrackets) + hostAddress(authority.substr(host));
         rest.remove_prefix(2 + authority.size());
     } else if (scheme == 0) {
         const std::string_view segment = rest.substr(0, rest.find_first_of("/?#"));
-        address += escaped(withoutBrackets(segment), ':');
+        address += escaped(segment, kBracketsAndColon);
         rest.remove_prefix(segment.size());
     }
-    return address + withoutBrackets(rest);
+    return address + escaped(rest, kBrackets);
 }
 
 } // namespace
@@ -119,7 +121,7 @@ std::string linkAddress(std::string_view uri) {
         if (isAddressCharacter(c) && !isSecondFragment && !isLonePercent)
             address += c;
         else
-            address += fmt::format("%{:02X}", static_cast<unsigned char>(c));
+            address += escapeOf(c);
     }
     address = withPartsEscaped(address);
     return address.size() <= kLongestAddress ? address : std::string();

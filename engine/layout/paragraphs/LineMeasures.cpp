@@ -55,17 +55,24 @@ bool isCaselessLetter(char32_t character) {
     return type == U_OTHER_LETTER || type == U_MODIFIER_LETTER;
 }
 
-/// A line of strokes or dots, to write on or to part what stands above from what stands below. Behind one to sign on
-/// the name may stand in brackets or between slashes.
+/// Whether the text is a name in brackets or between slashes, as behind a line to sign on.
+bool isNameOfSigner(std::u32string_view text) {
+    return text.size() > 1 &&
+           ((text.front() == U'(' && text.back() == U')') || (text.front() == U'/' && text.back() == U'/'));
+}
+
+/// A line of strokes or dots, to write on or to part what stands above from what stands below. Behind strokes to sign
+/// on the name may follow.
 bool isFillerLine(const Line& line) {
-    constexpr std::size_t kShortest = 5;
+    constexpr std::ptrdiff_t kShortest = 5;
     const std::u32string text = utf32FromUtf8(textOf(line));
-    const std::size_t end = text.find_first_not_of(U"_.…-–—=*·~ \t");
-    if (end == std::u32string::npos)
-        return text.size() >= kShortest;
-    const char32_t close = text[end] == U'(' ? U')' : U'/';
-    return end >= kShortest && text.starts_with(U"____") && text.size() > end + 1 &&
-           (text[end] == U'(' || text[end] == U'/') && text.back() == close;
+    const std::u32string_view strokes = std::u32string_view(text).substr(0, text.find_first_not_of(U"_.…-–—=*·~ \t"));
+    const auto blanks =
+        std::count_if(strokes.begin(), strokes.end(), [](char32_t c) { return c == U' ' || c == U'\t'; });
+    if (std::ssize(strokes) - blanks < kShortest)
+        return false;
+    const std::u32string_view behind = std::u32string_view(text).substr(strokes.size());
+    return behind.empty() || (text.starts_with(U"____") && isNameOfSigner(behind));
 }
 
 /// Whether the line ends in strokes to write on.

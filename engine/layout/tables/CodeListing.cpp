@@ -91,13 +91,11 @@ bool arePrinted(const PageText& page, const AlignedRows& aligned, std::span<cons
     return static_cast<double>(commas) > parameters.commaShare * static_cast<double>(texts);
 }
 
-/// Whether the typed rows begin with statements, and some column holds the comments on them.
-bool areCommented(const PageText& page, const AlignedRows& aligned, std::span<const ColumnPieces> columns,
+/// Whether some column behind the first holds the comments of a program.
+bool holdComments(const PageText& page, std::span<const ColumnPieces> columns,
                   const TableParameters::Tables& parameters) {
-    const auto beginsTyped = [&](const PieceRow& row) { return isInTypewriter(row.pieces.front(), page); };
     const auto isComment = [&](const TextPiece* piece) { return startsComment(textOf(*piece, page.lines)); };
-    return shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
-           std::any_of(columns.begin() + 1, columns.end(),
+    return std::any_of(columns.begin() + 1, columns.end(),
                        [&](const ColumnPieces& column) { return column.share(isComment) > parameters.commentShare; });
 }
 
@@ -118,10 +116,10 @@ bool areTyped(const PageText& page, const AlignedRows& aligned, std::span<const 
     };
     const auto isTyped = [&](const TextPiece* piece) { return isInTypewriter(*piece, page); };
     const bool areBothTyped = areOthersFew(columns, parameters) && columns[1].share(isTyped) > parameters.codeShare;
-    return areTypedLinesCounted(page, columns, parameters) || areCommented(page, aligned, columns, parameters) ||
-           arePrinted(page, aligned, columns, parameters) ||
+    return areTypedLinesCounted(page, columns, parameters) || arePrinted(page, aligned, columns, parameters) ||
            (shareOfRows(aligned, beginsTyped) > parameters.codeShare &&
-            (areBothTyped || shareOfRows(aligned, hasSigns) > parameters.codeShare));
+            (areBothTyped || holdComments(page, columns, parameters) ||
+             shareOfRows(aligned, hasSigns) > parameters.codeShare));
 }
 
 } // namespace orvane::layout

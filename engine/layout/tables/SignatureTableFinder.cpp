@@ -86,12 +86,9 @@ private:
         aligned.gaps = m_gaps;
         aligned.rows.assign(m_rows.begin() + static_cast<std::ptrdiff_t>(first),
                             m_rows.begin() + static_cast<std::ptrdiff_t>(end));
-        for (std::size_t i = 0; i < aligned.rows.size(); ++i) {
-            const double lineSpace = m_parameters.widestLineSpace * aligned.rows[i].fontSize;
-            if (i == 0 || spaceAbove(aligned.rows, i) > lineSpace)
-                aligned.groups.push_back({i, i});
-            aligned.groups.back().end = i + 1;
-        }
+        aligned.groups = groupsFrom(aligned.rows.size(), [&](std::size_t i) {
+            return spaceAbove(aligned.rows, i) > m_parameters.widestLineSpace * aligned.rows[i].fontSize;
+        });
         return aligned;
     }
 

@@ -130,15 +130,13 @@ bool areLabelsOfLines(std::span<const PieceRow> rows, const std::vector<RowGroup
            });
 }
 
-/// Rows between spaces of at least that width.
-std::vector<RowGroup> cutAtSpaces(std::span<const PieceRow> rows, double space) {
-    std::vector<RowGroup> groups;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i == 0 || spaceAbove(rows, i) >= space)
-            groups.push_back({i, i});
-        groups.back().end = i + 1;
-    }
-    return groups;
+/// The rows between spaces of the larger kind; nothing where the spaces are of one kind.
+std::optional<std::vector<RowGroup>> cutAtSpaces(std::span<const PieceRow> rows,
+                                                 const TableParameters::Tables& parameters) {
+    const std::optional<double> space = leastRowSpace(rows, parameters);
+    if (!space)
+        return std::nullopt;
+    return groupsFrom(rows.size(), [&](std::size_t i) { return spaceAbove(rows, i) >= *space; });
 }
 
 } // namespace
@@ -147,10 +145,7 @@ std::optional<std::vector<RowGroup>> groupLabelsBySpace(std::span<const PieceRow
                                                         const std::vector<ColumnGap>& gaps,
                                                         const std::vector<Line>& lines,
                                                         const TableParameters::Tables& parameters) {
-    const std::optional<double> space = leastRowSpace(rows, parameters);
-    if (!space)
-        return std::nullopt;
-    std::vector<RowGroup> groups = cutAtSpaces(rows, *space);
+    std::optional<std::vector<RowGroup>> groups = cutAtSpaces(rows, parameters);
     const auto isLabelled = [&](const RowGroup& group) {
         std::vector<std::string> labels;
         for (std::size_t i = group.first; i < group.end; ++i)
@@ -161,18 +156,15 @@ std::optional<std::vector<RowGroup>> groupLabelsBySpace(std::span<const PieceRow
             std::find_if(labels.begin(), labels.end(), [](const std::string& label) { return label.ends_with(':'); });
         return end != labels.end() && end + 1 == labels.end();
     };
-    return std::all_of(groups.begin(), groups.end(), isLabelled) ? std::optional(std::move(groups)) : std::nullopt;
+    return groups && std::all_of(groups->begin(), groups->end(), isLabelled) ? groups : std::nullopt;
 }
 
 std::optional<std::vector<RowGroup>> groupBySpace(std::span<const PieceRow> rows, const std::vector<ColumnGap>& gaps,
                                                   const std::vector<Line>& lines,
                                                   const TableParameters::Tables& parameters) {
-    const std::optional<double> space = leastRowSpace(rows, parameters);
-    if (!space)
-        return std::nullopt;
-    std::vector<RowGroup> groups = cutAtSpaces(rows, *space);
-    if (!areLabelsOfLines(rows, groups, gaps, parameters) &&
-        !RunningRows(rows, gaps, lines, parameters).areTexts(groups))
+    std::optional<std::vector<RowGroup>> groups = cutAtSpaces(rows, parameters);
+    if (!groups || (!areLabelsOfLines(rows, *groups, gaps, parameters) &&
+                    !RunningRows(rows, gaps, lines, parameters).areTexts(*groups)))
         return std::nullopt;
     return groups;
 }

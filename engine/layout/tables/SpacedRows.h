@@ -12,6 +12,18 @@ namespace orvane::layout {
 /// The space above row `i`, which is not the first; points.
 double spaceAbove(std::span<const PieceRow> rows, std::size_t i);
 
+/// The rows of text as groups; `starts(i)` tells whether row `i` begins one, as the first does anyway.
+template<typename Starts>
+std::vector<RowGroup> groupsFrom(std::size_t rows, const Starts& starts) {
+    std::vector<RowGroup> groups;
+    for (std::size_t i = 0; i < rows; ++i) {
+        if (i == 0 || starts(i))
+            groups.push_back({i, i});
+        groups.back().end = i + 1;
+    }
+    return groups;
+}
+
 /// The least space that parts two rows, where spaces are of two kinds, at least two of each; points.
 std::optional<double> leastRowSpace(std::span<const PieceRow> rows, const TableParameters::Tables& parameters);
 

@@ -5,7 +5,8 @@
 namespace orvane::layout {
 
 /// Moves a few letters that stand higher or lower within a word, as large as those on both sides, onto the baseline of
-/// these; those far off it are superscripts or subscripts. Requires: `strips` are sorted by frame and baseline; they are no longer afterwards.
+/// these; those far off it are superscripts or subscripts. Requires: `strips` are sorted by frame and baseline; they
+/// are no longer afterwards.
 void joinShifted(std::vector<TextStrip>& strips, const TextParameters& parameters);
 
 /// Finds strips that are superscripts or subscripts of a strip beside them and moves them onto its baseline: their

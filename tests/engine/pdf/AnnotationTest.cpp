@@ -78,6 +78,21 @@ TEST(Annotations, TellWhatTheyPaintAndArePaintedAlone) {
     EXPECT_EQ(pixels.at(80, 10).substr(6), "00") << "the black of the page is not its own";
 }
 
+TEST(Annotations, TellThatTheirLinesArePaintedCoarsely) {
+    for (const auto& [count, told] : {std::pair{20, 0}, std::pair{2000, 1}}) {
+        std::string lines;
+        for (int i = 0; i < count; ++i)
+            lines += std::to_string(i % 600) + " 0 m " + std::to_string(i % 600) + " 792 l S\n";
+        PdfBuilder builder;
+        const int appearance = builder.addStream("/Type /XObject /Subtype /Form /BBox [0 0 612 792]", lines);
+        const int stamp = builder.add("<< /Type /Annot /Subtype /Stamp /Rect [0 0 612 792] /AP << /N " +
+                                      pdfRef(appearance) + " >> >>");
+        OpenedPdf pdf(builder.page(PdfPage{"", 612, 792, "/Annots [" + pdfRef(stamp) + "]", {}, {}}));
+        pdf.document().renderAnnotation(1, 0, {0, 0, 612, 792}, {200}, PaintedText::Shown, pdf.diagnostics());
+        EXPECT_EQ(pdf.count(DiagnosticKind::DrawingSimplified), told) << count;
+    }
+}
+
 /// A form of one text field, a check box and a choice.
 PdfBuilder formPdf(const std::string& textEntries) {
     PdfBuilder builder;
